@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+class Appearance;
+class Clock;
+class HostStatistics;
+class Identity;
+class PowerMode;
+class ProcessTable;
+
+/// Everything the program asks of an operating system, chosen once at start and handed down.
+struct Platform {
+    std::shared_ptr<HostStatistics> host;
+    std::shared_ptr<ProcessTable> processes;
+    std::shared_ptr<PowerMode> power;
+    std::shared_ptr<Identity> identity;
+    std::shared_ptr<Clock> clock;
+
+    /// The answers of the system this program was built for. Needs a running QCoreApplication.
+    static Platform native();
+    /// Separate, because only programs with windows ask for it.
+    static std::unique_ptr<Appearance> makeAppearance();
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <chrono>
+#include <optional>
+#include <span>
+
+/// What changes from pass to pass about one process.
+struct TaskInfo {
+    quint64 virtualBytes = 0;
+    quint64 residentBytes = 0;
+    quint64 cpuTimeNs = 0; ///< user + system, since the process started
+    int threads = 0;
+
+    bool operator==(const TaskInfo&) const = default;
+};
+
+/// What the kernel knows of a process's origin; read once in a process's life.
+struct KernelProcessInfo {
+    std::chrono::system_clock::time_point start;
+    quint32 uid = 0; ///< effective user id
+    qint32 parentPid = 0;
+};
+
+/// The system's processes. Texts are the system's raw bytes, in no particular encoding; an empty one
+/// means that it could not be read.
+class ProcessTable {
+public:
+    virtual ~ProcessTable() = default;
+
+    /// Writes process ids into `pids` and returns how many, or a value below 1 on failure. Ids beyond
+    /// the room given are left out.
+    virtual int listAllPids(std::span<qint32> pids) = 0;
+    /// Empty when the process is gone or may not be read.
+    virtual std::optional<TaskInfo> taskInfo(qint32 pid) = 0;
+    virtual QByteArray executablePath(qint32 pid) = 0;
+    virtual QByteArray shortName(qint32 pid) = 0;
+    /// The argument vector as the process sees it: strings each ended by a NUL.
+    virtual QByteArray argumentArea(qint32 pid) = 0;
+    virtual std::optional<KernelProcessInfo> kernelInfo(qint32 pid) = 0;
+};
