@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+/// The texts that figures are shown as, the same everywhere in the program.
+namespace Formatters {
+
+/// "42s", "3m", "1.5h"; half-way minutes round away from zero.
+QString duration(double seconds);
+
+/// Steps of 1,024 with at most one decimal, none when it is zero: "512 MB", "1.5 GB", "0 bytes".
+QString bytes(quint64 count);
+
+/// A share of 100 as a whole number with its sign: "42%".
+QString percent(double value);
+
+/// Text from outside made safe to show: control and formatting characters become visible pictures.
+QString visible(const QString& text);
+
+} // namespace Formatters

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Core/Models.h"
+#include "Platform/HostStatistics.h"
+
+#include <QHash>
+
+#include <chrono>
+#include <memory>
+
+class Clock;
+class ProcessTable;
+struct Platform;
+
+/// Reads the machine and every process, and keeps the previous readings that turn counters into rates.
+/// Not thread-safe: it lives on the thread of the tick.
+class Sampler {
+public:
+    explicit Sampler(const Platform& platform);
+
+    /// One reading of the whole machine. A figure that the system refuses is 0. The first reading of a
+    /// sampler has no CPU load to report.
+    SystemSample sample();
+
+    /// One record per readable process, in the system's order, all in the group `other`. Empty when the
+    /// system's listing fails.
+    QList<ProcSample> sampleProcesses();
+
+    /// How many processes the tables remember; level in the long run.
+    qsizetype rememberedProcesses() const { return prev.size(); }
+
+private:
+    struct PrevCPU {
+        quint64 totalNs = 0;
+        std::chrono::steady_clock::time_point sampledAt;
+        std::chrono::steady_clock::time_point lastNonZero;
+        quint32 pass = 0; ///< the last pass that listed the process
+    };
+    struct StaticMeta {
+        QString name;
+        QString path;
+        QString args;
+        quint32 uid = 0;
+        qint32 ppid = 0;
+        Instant startTime;
+    };
+    using Uptime = std::chrono::steady_clock::time_point;
+
+    double cpuLoad();
+    StaticMeta lookUp(qint32 pid, Instant now) const;
+    QString procName(qint32 pid, const QString& fallbackPath) const;
+    QString procArgs(qint32 pid) const;
+    void evictUnseen();
+
+    std::shared_ptr<HostStatistics> host;
+    std::shared_ptr<ProcessTable> table;
+    std::shared_ptr<Clock> clock;
+    quint64 pageSize;
+    std::optional<CpuTicks> prevHostCPU;
+    QHash<qint32, PrevCPU> prev;
+    QHash<qint32, StaticMeta> staticCache;
+};

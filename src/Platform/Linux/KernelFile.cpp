@@ -1,0 +1,34 @@
+#include "Platform/Linux/KernelFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+KernelFile::KernelFile(int directory, const char* path, int extraFlags)
+    : m_descriptor(openat(directory, path, O_RDONLY | O_CLOEXEC | extraFlags)) {}
+
+KernelFile::KernelFile(const std::string& path)
+    : KernelFile(AT_FDCWD, path.c_str()) {}
+
+KernelFile::KernelFile(KernelFile&& other) noexcept
+    : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+
+KernelFile& KernelFile::operator=(KernelFile&& other) noexcept {
+    std::swap(m_descriptor, other.m_descriptor);
+    return *this;
+}
+
+void KernelFile::close() {
+    if (isOpen())
+        ::close(std::exchange(m_descriptor, -1));
+}
+
+std::string_view KernelFile::read(std::span<char> room) const {
+    ssize_t length = 0;
+    do
+        length = pread(m_descriptor, room.data(), room.size(), 0);
+    while (length < 0 && errno == EINTR);
+    return {room.data(), length > 0 ? static_cast<size_t>(length) : 0};
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Platform/HostStatistics.h"
+#include "Platform/Linux/KernelFile.h"
+#include "Platform/Linux/ThermalZones.h"
+
+#include <QString>
+
+#include <vector>
+
+/// Whole-machine figures from procfs, sysfs and statvfs.
+class LinuxHostStatistics : public HostStatistics {
+public:
+    /// `root` is the folder that holds `proc` and `sys`. The volume is always that of "/".
+    explicit LinuxHostStatistics(const QString& root = QStringLiteral("/"));
+
+    quint64 pageSize() const override { return m_pageSize; }
+    /// First line of `/proc/stat`. irq, softirq and steal count as system, iowait as idle; guest is part
+    /// of user already.
+    std::optional<CpuTicks> cpuTicks() override;
+    /// `/proc/meminfo`. The three counts sum to MemTotal - MemAvailable.
+    std::optional<MemoryPages> memoryPages() override;
+    /// `/proc/meminfo`: SwapTotal - SwapFree.
+    std::optional<quint64> swapUsedBytes() override;
+    std::optional<VolumeBlocks> rootVolume() override;
+    int thermalLevel() override { return m_zones.level(); }
+    /// `/proc/meminfo`: MemTotal, what is left to the kernel of the memory built in. 0 when unreadable.
+    quint64 physicalMemoryBytes() override;
+
+private:
+    quint64 zramBytes() const;
+
+    quint64 m_pageSize;
+    KernelFile m_stat;
+    KernelFile m_meminfo;
+    std::vector<KernelFile> m_zram;
+    ThermalZones m_zones;
+    CpuTicks m_lastTicks;
+};

@@ -1,0 +1,14 @@
+#include "Platform/Clock.h"
+#include "Platform/Linux/LinuxHostStatistics.h"
+#include "Platform/Linux/LinuxIdentity.h"
+#include "Platform/Linux/LinuxPowerMode.h"
+#include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/Platform.h"
+
+Platform Platform::native() {
+    return {.host = std::make_shared<LinuxHostStatistics>(),
+            .processes = std::make_shared<LinuxProcessTable>(),
+            .power = std::make_shared<LinuxPowerMode>(),
+            .identity = std::make_shared<LinuxIdentity>(),
+            .clock = std::make_shared<SystemClock>()};
+}

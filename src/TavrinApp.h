@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QApplication>
+
+#include <memory>
+
+class AppDelegate;
+
+/// The application's entry: its identity, its look and its delegate.
+class TavrinApp : public QApplication {
+    Q_OBJECT
+
+public:
+    TavrinApp(int& argc, char** argv);
+    ~TavrinApp() override;
+
+    /// Runs until the user quits; returns the exit status.
+    int run();
+
+private:
+    std::unique_ptr<AppDelegate> m_appDelegate;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "UI/Kit/Theme.h"
+
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/// Drawing that several screens share.
+namespace Painting {
+
+/// A rounded rectangle with a border of one point inside its edge.
+void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill, const QColor& border);
+
+/// The ring round a control that has the keyboard.
+void drawFocusRing(QPainter& painter, const QRectF& area, double radius);
+
+/// Width of `text` when every digit takes the room of the widest, so that figures stand still when they
+/// change.
+double tabularWidth(const QFont& font, const QString& text);
+
+/// One line of text with digits of equal width, aligned left, right or centred, in the middle of `area`.
+void drawTabular(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text);
+
+/// One line of text, shortened with an ellipsis where it does not fit.
+void drawElided(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, const QString& text);
+
+/// A bar of `share` (0 to 1) of its track.
+void drawProgress(QPainter& painter, const QRectF& area, double share, const QColor& tint);
+
+} // namespace Painting

@@ -1,0 +1,45 @@
+#include "UI/Kit/SidebarDelegate.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int rowHeight = 34;
+constexpr int inset = 10;
+
+QColor rowFill(QStyle::State state) {
+    if (state & QStyle::State_Selected)
+        return Theme::color(Role::accent, 0.16);
+    return state & QStyle::State_MouseOver ? Theme::color(Role::hoverFill) : QColor(Qt::transparent);
+}
+
+} // namespace
+
+void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+    const bool selected = option.state & QStyle::State_Selected;
+    const QRectF row = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
+    Painting::drawCard(*painter, row, Theme::controlRadius, rowFill(option.state), Qt::transparent);
+    if (selected && option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange)
+        Painting::drawFocusRing(*painter, row, Theme::controlRadius);
+
+    QRectF line = row.adjusted(8, 0, -8, 0);
+    const QRectF icon(line.left(), line.top(), Theme::iconColumn, line.height());
+    const QColor tint = Theme::color(selected ? Role::accent : Role::secondaryText);
+    Symbols::draw(*painter, index.data(symbolRole).toString(), tint, icon, Theme::iconSize);
+
+    line.setLeft(icon.right() + 8);
+    painter->setFont(Theme::font(TextStyle::body, selected ? QFont::DemiBold : QFont::Normal));
+    painter->setPen(Theme::color(Role::primaryText));
+    Painting::drawElided(*painter, line, Qt::ElideRight, index.data(Qt::DisplayRole).toString());
+}
+
+QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    return {0, rowHeight};
+}

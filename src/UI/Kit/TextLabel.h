@@ -1,0 +1,20 @@
+#pragma once
+
+#include "UI/Kit/Theme.h"
+
+#include <QLabel>
+
+/// Plain text in one of the theme's styles; never interpreted as markup, control characters made visible.
+class TextLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit TextLabel(Theme::TextStyle style, std::optional<QFont::Weight> weight = std::nullopt,
+                       QWidget* parent = nullptr);
+
+    /// In the colour of secondary text.
+    TextLabel* secondary();
+    /// Breaks the text into lines where it is wider than the label.
+    TextLabel* wrapped();
+    void setPlainText(const QString& text);
+};

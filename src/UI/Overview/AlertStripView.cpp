@@ -1,0 +1,92 @@
+#include "UI/Overview/AlertStripView.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Severity.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+QHBoxLayout* cardLayout(QWidget* card) {
+    auto* row = new QHBoxLayout(card);
+    row->setContentsMargins(Theme::cardPadding, 12, Theme::cardPadding, 12);
+    row->setSpacing(10);
+    return row;
+}
+
+} // namespace
+
+AlertCard::AlertCard(QWidget* parent)
+    : QWidget(parent)
+    , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
+    , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
+    , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped()) {
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(Theme::textGap);
+    texts->addWidget(m_title);
+    texts->addWidget(m_detail);
+    auto* row = cardLayout(this);
+    row->addWidget(m_symbol, 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+}
+
+void AlertCard::set(const Alert& alert) {
+    m_severity = alert.severity;
+    m_symbol->set(severitySymbol(alert.severity), severityRole(alert.severity));
+    m_title->setPlainText(alert.title);
+    m_detail->setPlainText(alert.detail);
+    m_detail->setVisible(!alert.detail.isEmpty());
+    setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_detail->text()));
+    update();
+}
+
+void AlertCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Role role = severityRole(m_severity);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(role, 0.08), Theme::color(role, 0.35));
+}
+
+HealthyCard::HealthyCard(QWidget* parent)
+    : QWidget(parent) {
+    auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
+    symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
+    auto* text = (new TextLabel(TextStyle::body))->secondary();
+    text->setPlainText(QStringLiteral("System looks healthy."));
+    auto* row = cardLayout(this);
+    row->addWidget(symbol);
+    row->addWidget(text, 1);
+    setAccessibleName(text->text());
+}
+
+void HealthyCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
+                       Theme::color(Role::cardBorder));
+}
+
+AlertStripView::AlertStripView(QWidget* parent)
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+    , m_healthy(new HealthyCard) {
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(Theme::rowSpacing);
+    m_column->addWidget(m_healthy);
+}
+
+void AlertStripView::set(const QList<Alert>& alerts) {
+    m_healthy->setVisible(alerts.isEmpty());
+    while (m_cards.size() < alerts.size()) {
+        m_cards.append(new AlertCard);
+        m_column->addWidget(m_cards.last());
+    }
+    while (m_cards.size() > alerts.size())
+        delete m_cards.takeLast();
+    for (qsizetype i = 0; i < alerts.size(); ++i)
+        m_cards[i]->set(alerts[i]);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Core/Models.h"
+
+#include <QWidget>
+
+class QVBoxLayout;
+class SymbolView;
+class TextLabel;
+
+/// One alert on a card in its severity's colour.
+class AlertCard : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit AlertCard(QWidget* parent = nullptr);
+
+    void set(const Alert& alert);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Alert::Severity m_severity = Alert::Severity::info;
+    SymbolView* m_symbol;
+    TextLabel* m_title;
+    TextLabel* m_detail;
+};
+
+/// What is shown while nothing is wrong.
+class HealthyCard : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit HealthyCard(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// The alerts in force, one card each, or the word that there are none.
+class AlertStripView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit AlertStripView(QWidget* parent = nullptr);
+
+    void set(const QList<Alert>& alerts);
+
+private:
+    QVBoxLayout* m_column;
+    HealthyCard* m_healthy;
+    QList<AlertCard*> m_cards;
+};

@@ -1,0 +1,180 @@
+#include "UI/Overview/GroupRow.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+#include "UI/Overview/ProcessRow.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int headerHeight = 44;
+constexpr int labelWidth = 230;
+constexpr int bytesWidth = 84;
+constexpr int cpuWidth = 84;
+constexpr int chevronWidth = 16;
+constexpr int chevronSize = 12;
+constexpr int barHeight = 6;
+constexpr int columnGap = 12;
+
+} // namespace
+
+GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
+    : QAbstractButton(parent) {
+    m_rollup.group = group;
+    setFixedHeight(headerHeight);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+QSize GroupHeader::sizeHint() const { return {labelWidth + bytesWidth + cpuWidth, headerHeight}; }
+
+void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded) {
+    const double share =
+        totalRAM == 0 ? 0 : std::min(1.0, static_cast<double>(rollup.rssBytes) / static_cast<double>(totalRAM));
+    if (rollup == m_rollup && share == m_share && isExpanded == m_expanded)
+        return;
+    m_rollup = rollup;
+    m_share = share;
+    m_expanded = isExpanded;
+    setAccessibleName(QStringLiteral("%1 (%2), %3, %4 CPU")
+                          .arg(rawValue(rollup.group))
+                          .arg(rollup.count)
+                          .arg(Formatters::bytes(rollup.rssBytes), Formatters::percent(rollup.cpuPercent)));
+    setAccessibleDescription(isExpanded ? QStringLiteral("Expanded") : QStringLiteral("Collapsed"));
+    update();
+}
+
+void GroupHeader::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void GroupHeader::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void GroupHeader::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void GroupHeader::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (underMouse())
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill), Qt::transparent);
+
+    QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
+    const auto takeRight = [&line](double width) {
+        QRectF cell = line;
+        cell.setLeft(line.right() - width);
+        line.setRight(cell.left() - columnGap);
+        return cell;
+    };
+    const auto secondary = Theme::color(Role::secondaryText);
+    const auto chevron = m_expanded ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
+    Symbols::draw(painter, chevron, secondary, takeRight(chevronWidth), chevronSize);
+
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(secondary);
+    const auto cpu = QStringLiteral("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
+    Painting::drawTabular(painter, takeRight(cpuWidth), Qt::AlignRight, cpu);
+
+    painter.setFont(Theme::font(TextStyle::callout));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight, Formatters::bytes(m_rollup.rssBytes));
+
+    paintLabel(painter, QRectF(line.left(), line.top(), labelWidth, line.height()));
+    line.setLeft(line.left() + labelWidth + columnGap);
+    const QRectF bar(line.left(), qRound(line.center().y() - barHeight / 2.0), line.width(), barHeight);
+    Painting::drawProgress(painter, bar, m_share, Theme::color(Role::accent));
+
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+}
+
+void GroupHeader::paintLabel(QPainter& painter, QRectF area) {
+    const QRectF icon(area.left(), area.top(), Theme::iconColumn, area.height());
+    Symbols::draw(painter, groupSymbol(m_rollup.group), Theme::color(Role::accent), icon, Theme::iconSize);
+
+    area.setLeft(icon.right() + Theme::rowSpacing);
+    const QString label = rawValue(m_rollup.group);
+    painter.setFont(Theme::font(TextStyle::body, QFont::Medium));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawElided(painter, area, Qt::ElideRight, label);
+
+    area.setLeft(area.left() + QFontMetricsF(painter.font()).horizontalAdvance(label) + 6);
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawTabular(painter, area, Qt::AlignLeft, QStringLiteral("(%1)").arg(m_rollup.count));
+}
+
+GroupRow::GroupRow(ProcGroup group, QWidget* parent)
+    : QWidget(parent)
+    , m_header(new GroupHeader(group))
+    , m_body(new QWidget)
+    , m_overflow((new TextLabel(TextStyle::caption))->secondary()) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_header);
+    column->addWidget(m_body);
+
+    auto* body = new QVBoxLayout(m_body);
+    body->setContentsMargins(0, 0, 0, Theme::rowSpacing);
+    body->setSpacing(0);
+    m_rowsLayout = new QVBoxLayout;
+    body->addLayout(m_rowsLayout);
+    body->addWidget(m_overflow);
+    m_overflow->setContentsMargins(8, 8, 8, 8);
+    m_overflow->setIndent(Theme::cardPadding - 8);
+    m_body->hide();
+
+    connect(m_header, &GroupHeader::clicked, this, &GroupRow::toggled);
+}
+
+void GroupRow::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded,
+                   const QList<ProcSample>& members) {
+    m_header->set(rollup, totalRAM, isExpanded);
+    if (isExpanded)
+        showMembers(members);
+    m_body->setVisible(isExpanded);
+}
+
+void GroupRow::showMembers(const QList<ProcSample>& members) {
+    const qsizetype shown = std::min(members.size(), shownMembers);
+    while (m_rows.size() < shown) {
+        m_rows.append(new ProcessRow);
+        m_rowsLayout->addWidget(m_rows.last());
+    }
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        if (i < shown)
+            m_rows[i]->set(members[i]);
+        m_rows[i]->setVisible(i < shown);
+    }
+    showOverflow(members.size() - shown);
+}
+
+void GroupRow::showOverflow(qsizetype hidden) {
+    m_overflow->setPlainText(QStringLiteral("… +%1 more in Processes tab").arg(hidden));
+    m_overflow->setVisible(hidden > 0);
+}
+
+void GroupRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
+                       Theme::color(Role::cardBorder));
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Core/Models.h"
+
+#include <QAbstractButton>
+
+class GroupHeader;
+class ProcessRow;
+class QVBoxLayout;
+class TextLabel;
+
+/// One process group: a header that opens and closes it, and, when open, its largest members.
+class GroupRow : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr qsizetype shownMembers = 50;
+
+    explicit GroupRow(ProcGroup group, QWidget* parent = nullptr);
+
+    /// `totalRAM` is the machine's memory in bytes; `members` are the group's processes, in the order to
+    /// show, and are looked at only when the group is open.
+    void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded, const QList<ProcSample>& members);
+
+Q_SIGNALS:
+    void toggled();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void showMembers(const QList<ProcSample>& members);
+    void showOverflow(qsizetype hidden);
+
+    GroupHeader* m_header;
+    QVBoxLayout* m_rowsLayout;
+    QWidget* m_body;
+    QList<ProcessRow*> m_rows;
+    TextLabel* m_overflow;
+};
+
+/// The header of a group: symbol, label, count, share of memory, figures and a chevron.
+class GroupHeader : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit GroupHeader(ProcGroup group, QWidget* parent = nullptr);
+
+    void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void paintLabel(QPainter& painter, QRectF area);
+
+    GroupRollup m_rollup;
+    double m_share = 0;
+    bool m_expanded = false;
+};

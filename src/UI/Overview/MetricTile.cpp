@@ -1,0 +1,77 @@
+#include "UI/Overview/MetricTile.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Overview/Sparkline.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int minimumHeight = 130;
+
+double lineHeight(const QFont& font) { return std::ceil(QFontMetricsF(font).height()); }
+
+} // namespace
+
+MetricTile::MetricTile(QWidget* parent)
+    : QWidget(parent)
+    , m_sparkline(new Sparkline(this)) {
+    setMinimumHeight(minimumHeight);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding, Theme::cardPadding);
+    column->addStretch();
+    column->addWidget(m_sparkline);
+}
+
+void MetricTile::set(const Metric& metric) {
+    if (metric == m_metric)
+        return;
+    m_metric = metric;
+    tintSparkline();
+    setAccessibleName(QStringLiteral("%1 %2").arg(metric.title, metric.value));
+    setAccessibleDescription(metric.sub.value_or(QString()));
+    update();
+}
+
+void MetricTile::tintSparkline() { m_sparkline->set(m_metric.history, Theme::color(m_metric.accent)); }
+
+void MetricTile::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        tintSparkline();
+    QWidget::changeEvent(event);
+}
+
+void MetricTile::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Painting::drawCard(painter, rect(), Theme::tileRadius, Theme::color(Role::cardFill),
+                       Theme::color(Role::cardBorder));
+    paintFigures(painter);
+}
+
+void MetricTile::paintFigures(QPainter& painter) {
+    QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, Theme::cardPadding, -Theme::cardPadding, 0);
+    const auto next = [&](TextStyle style, QFont::Weight weight, Role role) {
+        painter.setFont(Theme::font(style, weight));
+        painter.setPen(Theme::color(role));
+        line.setHeight(lineHeight(painter.font()));
+    };
+    next(TextStyle::caption, QFont::Medium, Role::secondaryText);
+    Painting::drawElided(painter, line, Qt::ElideRight, m_metric.title);
+    line.translate(0, line.height() + Theme::textGap);
+
+    next(TextStyle::title, QFont::DemiBold, m_metric.accent);
+    Painting::drawTabular(painter, line, Qt::AlignLeft, m_metric.value);
+    line.translate(0, line.height() + Theme::textGap);
+
+    if (!m_metric.sub)
+        return;
+    next(TextStyle::caption2, QFont::Normal, Role::secondaryText);
+    Painting::drawTabular(painter, line, Qt::AlignLeft, *m_metric.sub);
+}

@@ -1,0 +1,79 @@
+#include "Core/Formatters.h"
+#include "Core/Models.h"
+#include "UI/Overview/MetricTile.h"
+
+using Theme::Role;
+
+namespace {
+
+/// Red and orange from their thresholds on, green below.
+Role level(double value, double orangeFrom, double redFrom) {
+    if (value >= redFrom)
+        return Role::red;
+    return value >= orangeFrom ? Role::orange : Role::green;
+}
+
+Role thermalRole(ThermalState state) {
+    switch (state) {
+    case ThermalState::nominal:
+        return Role::green;
+    case ThermalState::fair:
+        return Role::yellow;
+    case ThermalState::serious:
+        return Role::orange;
+    case ThermalState::critical:
+        return Role::red;
+    }
+    return Role::green;
+}
+
+template <typename Figure> QList<double> series(const QList<SystemSample>& history, Figure figure) {
+    QList<double> points;
+    points.reserve(history.size());
+    for (const SystemSample& sample : history)
+        points.append(figure(sample));
+    return points;
+}
+
+} // namespace
+
+namespace Metrics {
+
+Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
+    return {.title = QStringLiteral("CPU"),
+            .value = Formatters::percent(sample.cpuPercent),
+            .sub = std::nullopt,
+            .accent = level(sample.cpuPercent, 60, 85),
+            .history = series(history, [](const SystemSample& s) { return s.cpuPercent; })};
+}
+
+Metric memory(const SystemSample& sample, const QList<SystemSample>& history) {
+    const double used = sample.memUsedPercent();
+    return {.title = QStringLiteral("Memory"),
+            .value = Formatters::percent(used),
+            .sub = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
+                                                 Formatters::bytes(sample.memTotalBytes)),
+            .accent = level(used, 70, 88),
+            .history = series(history, [](const SystemSample& s) { return s.memUsedPercent(); })};
+}
+
+Metric disk(const SystemSample& sample) {
+    const double used = sample.diskUsedPercent();
+    return {.title = QStringLiteral("Disk"),
+            .value = Formatters::percent(used),
+            .sub = QStringLiteral("%1 free").arg(Formatters::bytes(sample.diskFreeBytes)),
+            .accent = level(used, 80, 92),
+            .history = {}};
+}
+
+Metric thermal(const SystemSample& sample) {
+    const bool swapping = sample.swapUsedBytes > 0;
+    return {.title = QStringLiteral("Thermal"),
+            .value = thermalLabel(sample.thermalState),
+            .sub = swapping ? QStringLiteral("Swap %1").arg(Formatters::bytes(sample.swapUsedBytes))
+                            : QStringLiteral("No swap"),
+            .accent = thermalRole(sample.thermalState),
+            .history = {}};
+}
+
+} // namespace Metrics

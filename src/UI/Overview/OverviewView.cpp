@@ -1,0 +1,119 @@
+#include "UI/Overview/OverviewView.h"
+
+#include "AppModel.h"
+#include "Core/Observe.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/TextLabel.h"
+#include "UI/Overview/AlertStripView.h"
+#include "UI/Overview/GroupRow.h"
+#include "UI/Overview/MetricTile.h"
+
+#include <QHBoxLayout>
+#include <QShowEvent>
+
+using Theme::TextStyle;
+
+namespace {
+
+TextLabel* heading(const QString& text) {
+    auto* label = new TextLabel(TextStyle::title3, QFont::Bold);
+    label->setPlainText(text);
+    return label;
+}
+
+} // namespace
+
+OverviewView::OverviewView(AppModel& model, QWidget* parent)
+    : QScrollArea(parent)
+    , m_model(model)
+    , m_alerts(new AlertStripView) {
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding, Theme::pagePadding);
+    column->setSpacing(Theme::pageSpacing);
+    column->addWidget(heading(QStringLiteral("Live")));
+    column->addWidget(m_alerts);
+    column->addLayout(makeTiles());
+    column->addLayout(makeGroups());
+    column->addStretch();
+
+    setWidget(page);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAccessibleName(QStringLiteral("Overview"));
+
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* OverviewView::makeTiles() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::gridSpacing);
+    for (MetricTile** tile : {&m_cpu, &m_memory, &m_disk, &m_thermal}) {
+        *tile = new MetricTile;
+        row->addWidget(*tile, 1);
+    }
+    return row;
+}
+
+QLayout* OverviewView::makeGroups() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Theme::rowSpacing);
+    column->addWidget(heading(QStringLiteral("Groups")));
+    for (const ProcGroup group : allCases<ProcGroup>()) {
+        auto* row = new GroupRow(group);
+        row->hide();
+        connect(row, &GroupRow::toggled, this, [this, group] { toggle(group); });
+        column->addWidget(row);
+        m_groupRows.append(row);
+    }
+    return column;
+}
+
+void OverviewView::showEvent(QShowEvent* event) {
+    refresh();
+    QScrollArea::showEvent(event);
+}
+
+void OverviewView::refresh() {
+    if (!isOnScreen(this))
+        return;
+    m_alerts->set(m_model.alerts());
+    refreshTiles();
+    refreshGroups();
+}
+
+void OverviewView::refreshTiles() {
+    const SystemSample& sample = m_model.systemSample();
+    const QList<SystemSample>& history = m_model.systemHistory();
+    m_cpu->set(Metrics::cpu(sample, history));
+    m_memory->set(Metrics::memory(sample, history));
+    m_disk->set(Metrics::disk(sample));
+    m_thermal->set(Metrics::thermal(sample));
+}
+
+void OverviewView::refreshGroups() {
+    const QList<GroupRollup>& groups = m_model.groups();
+    for (GroupRow* row : std::as_const(m_groupRows))
+        row->setVisible(!groups.isEmpty());
+    for (const GroupRollup& rollup : groups) {
+        const bool expanded = m_expanded == rollup.group;
+        m_groupRows[static_cast<qsizetype>(rollup.group)]->set(
+            rollup, m_model.systemSample().memTotalBytes, expanded,
+            expanded ? members(rollup.group) : QList<ProcSample>());
+    }
+}
+
+QList<ProcSample> OverviewView::members(ProcGroup group) const {
+    QList<ProcSample> result;
+    for (const ProcSample& process : m_model.processes()) {
+        if (process.group == group)
+            result.append(process);
+    }
+    return result;
+}
+
+void OverviewView::toggle(ProcGroup group) {
+    m_expanded = m_expanded == group ? std::nullopt : std::optional(group);
+    refreshGroups();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Core/Models.h"
+
+#include <QScrollArea>
+
+#include <optional>
+
+class AlertStripView;
+class AppModel;
+class GroupRow;
+class MetricTile;
+class QVBoxLayout;
+
+/// The first section of the main window: the machine's figures, alerts and process groups, live.
+class OverviewView : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit OverviewView(AppModel& model, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QLayout* makeTiles();
+    QLayout* makeGroups();
+    void refresh();
+    void refreshTiles();
+    void refreshGroups();
+    void toggle(ProcGroup group);
+    QList<ProcSample> members(ProcGroup group) const;
+
+    AppModel& m_model;
+    AlertStripView* m_alerts;
+    MetricTile* m_cpu;
+    MetricTile* m_memory;
+    MetricTile* m_disk;
+    MetricTile* m_thermal;
+    QList<GroupRow*> m_groupRows; ///< in group order
+    std::optional<ProcGroup> m_expanded;
+};

@@ -1,0 +1,63 @@
+#include "UI/Overview/ProcessRow.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int rowHeight = 26;
+constexpr int pidWidth = 60;
+constexpr int cpuWidth = 50;
+constexpr int memoryWidth = 80;
+
+} // namespace
+
+ProcessRow::ProcessRow(QWidget* parent)
+    : QWidget(parent) {
+    setFixedHeight(rowHeight);
+}
+
+void ProcessRow::set(const ProcSample& process) {
+    const QString name = Formatters::visible(process.name);
+    const QString cpu = Formatters::percent(process.cpuPercent);
+    const QString memory = Formatters::bytes(process.rssBytes);
+    if (m_pid == process.pid && m_name == name && m_cpu == cpu && m_memory == memory)
+        return;
+    m_pid = process.pid;
+    m_name = name;
+    m_cpu = cpu;
+    m_memory = memory;
+    setToolTip(process.executablePath.isEmpty()
+                   ? QString()
+                   : Formatters::visible(process.executablePath).toHtmlEscaped());
+    setAccessibleName(QStringLiteral("%1 %2, CPU %3, memory %4").arg(m_pid).arg(m_name, m_cpu, m_memory));
+    update();
+}
+
+void ProcessRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
+    const auto takeRight = [&line](double width) {
+        QRectF cell = line;
+        cell.setLeft(line.right() - width);
+        line.setRight(cell.left() - Theme::rowSpacing);
+        return cell;
+    };
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawTabular(painter, takeRight(memoryWidth), Qt::AlignRight, m_memory);
+    Painting::drawTabular(painter, takeRight(cpuWidth), Qt::AlignRight, m_cpu);
+
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_pid));
+
+    line.setLeft(line.left() + pidWidth);
+    painter.setFont(Theme::font(TextStyle::callout));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
+}

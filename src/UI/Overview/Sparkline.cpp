@@ -1,0 +1,39 @@
+#include "UI/Overview/Sparkline.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+Sparkline::Sparkline(QWidget* parent)
+    : QWidget(parent) {
+    setFixedHeight(32);
+}
+
+void Sparkline::set(const QList<double>& values, const QColor& color) {
+    m_values = values;
+    m_color = color;
+    update();
+}
+
+QPolygonF Sparkline::points(const QList<double>& values, const QSizeF& size) {
+    if (values.size() < 2)
+        return {};
+    const double top = std::max(1.0, *std::max_element(values.begin(), values.end()));
+    const double step = size.width() / static_cast<double>(values.size() - 1);
+    QPolygonF line;
+    line.reserve(values.size());
+    for (qsizetype i = 0; i < values.size(); ++i)
+        line.append({step * static_cast<double>(i), size.height() - values[i] / top * size.height()});
+    return line;
+}
+
+void Sparkline::paintEvent(QPaintEvent*) {
+    QColor ink = m_color;
+    ink.setAlphaF(0.7F);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    // A stroke is centred on its line: keep the half that would fall outside.
+    painter.translate(0, 0.75);
+    painter.drawPolyline(points(m_values, QSizeF(width(), height() - 1.5)));
+}

@@ -1,0 +1,105 @@
+#include "UI/RootView.h"
+
+#include "UI/Kit/SidebarDelegate.h"
+#include "UI/Kit/Theme.h"
+#include "UI/Overview/OverviewView.h"
+
+#include <QEvent>
+#include <QListWidget>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int sidebarMinimum = 180;
+constexpr int sidebarIdeal = 200;
+constexpr int sidebarMaximum = 220;
+constexpr int sidebarTopMargin = 12;
+
+} // namespace
+
+QString tabSymbol(RootView::Tab tab) {
+    switch (tab) {
+    case RootView::Tab::overview:
+        return QStringLiteral("gauge");
+    case RootView::Tab::optimize:
+        return QStringLiteral("wand.and.stars");
+    case RootView::Tab::processes:
+        return QStringLiteral("list.bullet.rectangle");
+    case RootView::Tab::cleanup:
+        return QStringLiteral("trash");
+    }
+    return {};
+}
+
+RootView::RootView(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_sidebar(new QListWidget)
+    , m_sections(new QStackedWidget) {
+    m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
+    m_sidebar->setFrameShape(QFrame::NoFrame);
+    m_sidebar->setMinimumWidth(sidebarMinimum);
+    m_sidebar->setMaximumWidth(sidebarMaximum);
+    m_sidebar->setMouseTracking(true);
+    m_sidebar->setAccessibleName(QStringLiteral("Sections"));
+    m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto* sidebarPane = new QWidget;
+    sidebarPane->setAutoFillBackground(true);
+    sidebarPane->setBackgroundRole(QPalette::Base);
+    auto* sidebarColumn = new QVBoxLayout(sidebarPane);
+    sidebarColumn->setContentsMargins(0, sidebarTopMargin, 0, 0);
+    sidebarColumn->addWidget(m_sidebar);
+
+    auto* split = new QSplitter;
+    split->setChildrenCollapsible(false);
+    split->setHandleWidth(1);
+    split->addWidget(sidebarPane);
+    split->addWidget(m_sections);
+    split->setStretchFactor(1, 1);
+    split->setSizes({sidebarIdeal, minimumContent.width() - sidebarIdeal});
+
+    auto* frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(split);
+
+    connect(m_sidebar, &QListWidget::currentRowChanged, m_sections, &QStackedWidget::setCurrentIndex);
+    addSection(Tab::overview, new OverviewView(model));
+    tintSidebar();
+    select(Tab::overview);
+}
+
+void RootView::addSection(Tab tab, QWidget* section) {
+    auto* row = new QListWidgetItem(rawValue(tab), m_sidebar);
+    row->setData(SidebarDelegate::symbolRole, tabSymbol(tab));
+    row->setData(SidebarDelegate::symbolRole + 1, static_cast<int>(tab));
+    m_sections->addWidget(section);
+}
+
+RootView::Tab RootView::tab() const {
+    return static_cast<Tab>(m_sidebar->currentItem()->data(SidebarDelegate::symbolRole + 1).toInt());
+}
+
+void RootView::select(Tab tab) {
+    for (int row = 0; row < m_sidebar->count(); ++row) {
+        if (m_sidebar->item(row)->data(SidebarDelegate::symbolRole + 1).toInt() == static_cast<int>(tab))
+            m_sidebar->setCurrentRow(row);
+    }
+}
+
+void RootView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
+        tintSidebar();
+    QWidget::changeEvent(event);
+}
+
+void RootView::tintSidebar() {
+    QWidget* pane = m_sidebar->parentWidget();
+    const QColor fill = Theme::color(Theme::Role::sidebarFill);
+    if (pane->palette().color(QPalette::Base) == fill)
+        return;
+    QPalette palette = pane->palette();
+    palette.setColor(QPalette::Base, fill);
+    pane->setPalette(palette);
+}

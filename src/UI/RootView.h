@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Core/RawValue.h"
+
+#include <QWidget>
+
+#include <array>
+
+class AppModel;
+class QListWidget;
+class QStackedWidget;
+
+/// The content of the main window: a sidebar of sections and, beside it, the selected one.
+class RootView : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Tab { overview, optimize, processes, cleanup };
+
+    static constexpr QSize minimumContent{1000, 680};
+
+    explicit RootView(AppModel& model, QWidget* parent = nullptr);
+
+    Tab tab() const;
+    void select(Tab tab);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void addSection(Tab tab, QWidget* section);
+    void tintSidebar();
+
+    QListWidget* m_sidebar;
+    QStackedWidget* m_sections;
+};
+
+template <>
+inline constexpr std::array rawValueTable<RootView::Tab> = {
+    RawValueRow<RootView::Tab>{RootView::Tab::overview, u"Overview"},
+    RawValueRow<RootView::Tab>{RootView::Tab::optimize, u"Optimize"},
+    RawValueRow<RootView::Tab>{RootView::Tab::processes, u"Processes"},
+    RawValueRow<RootView::Tab>{RootView::Tab::cleanup, u"Cleanup"},
+};
+
+/// Name of the section's symbol, under resources/symbols.
+QString tabSymbol(RootView::Tab tab);
