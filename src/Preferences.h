@@ -1,12 +1,13 @@
 #pragma once
 
 #include "Core/RawValue.h"
+#include "Core/SettingsFile.h"
 
 #include <QByteArray>
 #include <QObject>
-#include <QSettings>
 
 #include <array>
+#include <utility>
 
 enum class MenuBarFormat { both, cpuOnly, ramOnly, iconOnly };
 
@@ -29,3 +30,70 @@ inline constexpr std::array rawValueTable<HistoryRetention> = {
 
 /// How long a history of that retention spans, in seconds.
 int spanSeconds(HistoryRetention retention);
+
+class Preferences;
+
+/// One setting: a typed view onto one key. Reading gives the stored value, or the default while the key is
+/// absent or holds nothing readable; it never writes.
+template <typename T> class Property {
+public:
+    Property(Preferences& owner, const char16_t* key, T fallback)
+        : m_owner(owner)
+        , m_key(QString::fromUtf16(key))
+        , m_fallback(std::move(fallback)) {}
+
+    T operator()() const;
+    /// On disk when it returns; observers hear of it before the new value can be read.
+    void set(const T& value);
+
+private:
+    Preferences& m_owner;
+    QString m_key;
+    T m_fallback;
+};
+
+/// The one store of user settings.
+class Preferences : public QObject {
+    Q_OBJECT
+
+public:
+    /// The running program's own, in the user's configuration folder.
+    static Preferences& shared();
+
+    explicit Preferences(const QString& iniFile, QObject* parent = nullptr);
+
+    Property<bool> startAtLogin{*this, u"pref.startAtLogin", true};
+    Property<bool> showWidgetOnLaunch{*this, u"pref.showWidgetOnLaunch", false};
+    Property<bool> showInDock{*this, u"pref.showInDock", true};
+    Property<MenuBarFormat> menuBarFormat{*this, u"pref.menuBarFormat", MenuBarFormat::both};
+    Property<double> pollIntervalSeconds{*this, u"pref.pollIntervalSeconds", 2.0};
+    Property<HistoryRetention> historyRetention{*this, u"pref.historyRetention", HistoryRetention::twentyFive};
+    Property<bool> pauseOnLowPower{*this, u"pref.pauseOnLowPower", false};
+    Property<bool> alertRAMLowEnabled{*this, u"pref.alertRAMLow_enabled", true};
+    Property<double> alertRAMLowFreeGB{*this, u"pref.alertRAMLow_freeGB", 2.0};
+    Property<bool> alertCPUHotEnabled{*this, u"pref.alertCPUHot_enabled", true};
+    Property<double> alertCPUHotPercent{*this, u"pref.alertCPUHot_percent", 85.0};
+    Property<bool> alertThermalEnabled{*this, u"pref.alertThermal_enabled", true};
+    Property<bool> alertIdleAgentEnabled{*this, u"pref.alertIdleAgent_enabled", true};
+    Property<double> alertIdleAgentMinIdleMin{*this, u"pref.alertIdleAgent_minIdleMin", 15.0};
+    Property<double> alertIdleAgentMinRSSMB{*this, u"pref.alertIdleAgent_minRSSMB", 500.0};
+    Property<bool> alertBrowserHogEnabled{*this, u"pref.alertBrowserHog_enabled", true};
+    Property<double> alertBrowserHogPercentTotal{*this, u"pref.alertBrowserHog_percentTotal", 25.0};
+    Property<bool> alertCachesBigEnabled{*this, u"pref.alertCachesBig_enabled", true};
+    Property<double> alertCachesBigGB{*this, u"pref.alertCachesBig_gb", 5.0};
+    Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
+
+    /// How many samples the in-memory history keeps: the retention over the poll interval, at least 60.
+    int historyRetentionSamples() const;
+
+    /// The file behind the properties, for keys that are none of them.
+    SettingsFile& file() { return m_file; }
+    const SettingsFile& file() const { return m_file; }
+
+Q_SIGNALS:
+    /// Before any property changes.
+    void objectWillChange();
+
+private:
+    SettingsFile m_file;
+};

@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
+#include "Platform/Appearance.h"
 #include "UI/Kit/ThemeFollower.h"
 
 #include <QIcon>

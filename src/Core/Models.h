@@ -109,8 +109,8 @@ struct Alert {
     Severity severity = Severity::info;
     QString title;
     QString detail;
-    std::optional<qint32> actionPid;     ///< the process that the alert's action acts on
-    std::optional<QString> actionTarget; ///< the name of the thing that the alert's action acts on
+    std::optional<qint32> actionPid = std::nullopt;     ///< the process that the alert's action acts on
+    std::optional<QString> actionTarget = std::nullopt; ///< the name of the thing that the alert's action acts on
 
     bool operator==(const Alert&) const = default;
 };
@@ -137,11 +137,11 @@ struct CacheEntry {
 struct CacheTarget {
     QString name; ///< unique
     QString symbol;
-    QList<QString> paths; ///< may begin with "~"
-    std::optional<QString> pruneCommand;
+    QList<QString> paths = {}; ///< may begin with "~"
+    std::optional<QString> pruneCommand = std::nullopt;
     quint64 sizeBytes = 0;
-    QList<CacheEntry> details;
-    std::optional<Instant> lastScanned;
+    QList<CacheEntry> details = {};
+    std::optional<Instant> lastScanned = std::nullopt;
 
     bool operator==(const CacheTarget&) const = default;
 

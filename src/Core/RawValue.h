@@ -36,7 +36,8 @@ template <typename E> std::optional<E> fromRawValue(QStringView text) {
 
 template <typename E> constexpr auto allCases() {
     std::array<E, rawValueTable<E>.size()> cases{};
-    for (std::size_t i = 0; i < cases.size(); ++i)
-        cases[i] = rawValueTable<E>[i].value;
+    std::size_t count = 0;
+    for (const auto& row : rawValueTable<E>)
+        cases[count++] = row.value;
     return cases;
 }

@@ -32,7 +32,7 @@ public:
 private:
     struct PrevCPU {
         quint64 totalNs = 0;
-        std::chrono::steady_clock::time_point sampledAt;
+        std::chrono::steady_clock::time_point sampledAt; ///< the clock's epoch before the first reading
         std::chrono::steady_clock::time_point lastNonZero;
         quint32 pass = 0; ///< the last pass that listed the process
     };
@@ -47,6 +47,7 @@ private:
     using Uptime = std::chrono::steady_clock::time_point;
 
     double cpuLoad();
+    double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
     StaticMeta lookUp(qint32 pid, Instant now) const;
     QString procName(qint32 pid, const QString& fallbackPath) const;
     QString procArgs(qint32 pid) const;
@@ -59,4 +60,5 @@ private:
     std::optional<CpuTicks> prevHostCPU;
     QHash<qint32, PrevCPU> prev;
     QHash<qint32, StaticMeta> staticCache;
+    quint32 pass = 0;
 };

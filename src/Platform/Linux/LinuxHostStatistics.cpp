@@ -25,15 +25,22 @@ std::string pathIn(const QString& root, const QString& path) {
 
 /// The per-CPU idle and iowait counts behind a total may step back a little (proc(5)). To a reader of
 /// counters that wrap, such a step would look like 2^32 ticks.
-quint32 notBackwards(quint32 last, quint64 count) {
-    const auto now = static_cast<quint32>(count);
-    return static_cast<qint32>(now - last) < 0 ? last : now;
+CpuTicks notBackwards(const CpuTicks& last, const CpuTicks& now) {
+    const auto later = [](quint32 before, quint32 after) {
+        return static_cast<qint32>(after - before) < 0 ? before : after;
+    };
+    return {.user = later(last.user, now.user),
+            .system = later(last.system, now.system),
+            .idle = later(last.idle, now.idle),
+            .nice = later(last.nice, now.nice)};
 }
 
-/// Memory of the kernel's own or locked by programs: nothing of it can be paged out. The lines do not overlap.
+/// Memory of the kernel's own or locked by programs: nothing of it can be paged out. The lines do not
+/// overlap.
 quint64 unpageableKib(std::string_view meminfo) {
     quint64 sum = 0;
-    for (const auto* key : {"Unevictable:", "SUnreclaim:", "KernelStack:", "PageTables:", "SecPageTables:", "Percpu:"})
+    for (const auto* key :
+         {"Unevictable:", "SUnreclaim:", "KernelStack:", "PageTables:", "SecPageTables:", "Percpu:"})
         sum += numberOf(meminfo, key).value_or(0);
     return sum;
 }
@@ -41,14 +48,15 @@ quint64 unpageableKib(std::string_view meminfo) {
 } // namespace
 
 LinuxHostStatistics::LinuxHostStatistics(const QString& root)
-    : m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE))),
-      m_stat(pathIn(root, QStringLiteral("proc/stat"))),
-      m_meminfo(pathIn(root, QStringLiteral("proc/meminfo"))),
-      m_zones(root + QStringLiteral("/sys")) {
+    : m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE)))
+    , m_stat(pathIn(root, QStringLiteral("proc/stat")))
+    , m_meminfo(pathIn(root, QStringLiteral("proc/meminfo")))
+    , m_zones(root + QStringLiteral("/sys")) {
     const QDir block(root + QStringLiteral("/sys/block"));
     const auto devices = block.entryList({QStringLiteral("zram*")}, QDir::Dirs);
     for (const auto& device : devices)
-        if (KernelFile figures(pathIn(block.filePath(device), QStringLiteral("mm_stat"))); figures.isOpen())
+        if (KernelFile figures(pathIn(root, QStringLiteral("sys/block/%1/mm_stat").arg(device)));
+            figures.isOpen())
             m_zram.push_back(std::move(figures));
 }
 
@@ -68,10 +76,12 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
             return std::nullopt;
         ticks[column] = count.value_or(0); // kernels of old end the line earlier
     }
-    m_lastTicks = {.user = notBackwards(m_lastTicks.user, ticks[user]),
-                   .system = notBackwards(m_lastTicks.system, ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal]),
-                   .idle = notBackwards(m_lastTicks.idle, ticks[idle] + ticks[iowait]),
-                   .nice = notBackwards(m_lastTicks.nice, ticks[nice])};
+    const CpuTicks now = {
+        .user = static_cast<quint32>(ticks[user]),
+        .system = static_cast<quint32>(ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal]),
+        .idle = static_cast<quint32>(ticks[idle] + ticks[iowait]),
+        .nice = static_cast<quint32>(ticks[nice])};
+    m_lastTicks = notBackwards(m_lastTicks.value_or(now), now);
     return m_lastTicks;
 }
 
@@ -118,7 +128,8 @@ std::optional<VolumeBlocks> LinuxHostStatistics::rootVolume() {
     struct statvfs volume;
     if (statvfs("/", &volume) != 0)
         return std::nullopt;
-    return VolumeBlocks{.blockSize = volume.f_frsize, .blocks = volume.f_blocks, .blocksAvailable = volume.f_bavail};
+    return VolumeBlocks{
+        .blockSize = volume.f_frsize, .blocks = volume.f_blocks, .blocksAvailable = volume.f_bavail};
 }
 
 quint64 LinuxHostStatistics::physicalMemoryBytes() {

@@ -35,5 +35,5 @@ private:
     KernelFile m_meminfo;
     std::vector<KernelFile> m_zram;
     ThermalZones m_zones;
-    CpuTicks m_lastTicks;
+    std::optional<CpuTicks> m_lastTicks;
 };

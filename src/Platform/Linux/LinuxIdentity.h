@@ -5,6 +5,6 @@
 /// Who the kernel says we are.
 class LinuxIdentity : public Identity {
 public:
-    quint32 userId() const override;    ///< getuid(2): the real user, as signals are judged by
+    quint32 userId() const override;   ///< getuid(2): the real user, as signals are judged by
     qint32 processId() const override; ///< getpid(2)
 };

@@ -35,7 +35,9 @@ ThermalZones::ThermalZones(const QString& sysfs) {
 }
 
 ThermalZones::Zone ThermalZones::zoneIn(const QString& folder) {
-    const auto path = [&folder](const QString& name) { return QFile::encodeName(folder + u'/' + name).toStdString(); };
+    const auto path = [&folder](const QString& name) {
+        return QFile::encodeName(folder + u'/' + name).toStdString();
+    };
     Zone zone;
     zone.temperature = KernelFile(path(QStringLiteral("temp")));
     for (int trip = 0;; ++trip) {

@@ -14,7 +14,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int minimumHeight = 130;
+constexpr int tileHeight = 130;
 
 double lineHeight(const QFont& font) { return std::ceil(QFontMetricsF(font).height()); }
 
@@ -23,7 +23,7 @@ double lineHeight(const QFont& font) { return std::ceil(QFontMetricsF(font).heig
 MetricTile::MetricTile(QWidget* parent)
     : QWidget(parent)
     , m_sparkline(new Sparkline(this)) {
-    setMinimumHeight(minimumHeight);
+    setMinimumHeight(tileHeight);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding, Theme::cardPadding);
     column->addStretch();

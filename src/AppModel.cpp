@@ -1,0 +1,92 @@
+#include "AppModel.h"
+
+#include "Core/Observe.h"
+#include "Platform/PowerMode.h"
+#include "Preferences.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// Whatever is stored, the program neither spins nor overflows the timer.
+constexpr double shortestIntervalSeconds = 0.1;
+constexpr double longestIntervalSeconds = 86400;
+constexpr double intervalTolerance = 0.01;
+
+double effectiveInterval(double stored) {
+    if (!std::isfinite(stored))
+        return shortestIntervalSeconds;
+    return std::clamp(stored, shortestIntervalSeconds, longestIntervalSeconds);
+}
+
+bool hasMoreMemory(const ProcSample& one, const ProcSample& other) { return one.rssBytes > other.rssBytes; }
+
+} // namespace
+
+AppModel& AppModel::shared() {
+    static AppModel instance(Platform::native(), Preferences::shared());
+    return instance;
+}
+
+AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
+    : QObject(parent)
+    , m_platform(std::move(platform))
+    , m_preferences(preferences)
+    , m_sampler(m_platform) {
+    connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
+}
+
+void AppModel::start() {
+    bindTimer(m_preferences.pollIntervalSeconds());
+    disconnect(m_pollIntervalCancellable);
+    m_pollIntervalCancellable = observe(&m_preferences, this, [this] { followPollInterval(); });
+    tick();
+}
+
+double AppModel::timerInterval() const {
+    return m_timer.isActive() ? std::chrono::duration<double>(m_timer.intervalAsDuration()).count() : -1;
+}
+
+void AppModel::bindTimer(double intervalSeconds) {
+    m_timer.start(static_cast<int>(std::lround(effectiveInterval(intervalSeconds) * 1000)));
+}
+
+void AppModel::followPollInterval() {
+    const double interval = m_preferences.pollIntervalSeconds();
+    if (std::abs(timerInterval() - effectiveInterval(interval)) > intervalTolerance)
+        bindTimer(interval);
+}
+
+template <typename T> void AppModel::publish(T& property, T value) {
+    Q_EMIT objectWillChange();
+    property = std::move(value);
+}
+
+void AppModel::tick() {
+    const SystemSample sample = m_sampler.sample();
+    publish(m_systemSample, sample);
+    appendHistory(sample);
+    if (isPaused())
+        return;
+
+    QList<ProcSample> classified = m_grouper.classify(m_sampler.sampleProcesses());
+    const QList<GroupRollup> rollups = GroupRollup::build(classified);
+    std::stable_sort(classified.begin(), classified.end(), hasMoreMemory);
+    publish(m_processes, std::move(classified));
+    publish(m_groups, rollups);
+    publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));
+}
+
+void AppModel::appendHistory(const SystemSample& sample) {
+    Q_EMIT objectWillChange();
+    m_systemHistory.append(sample);
+    const qsizetype surplus = m_systemHistory.size() - m_preferences.historyRetentionSamples();
+    if (surplus > 0)
+        m_systemHistory.remove(0, surplus);
+}
+
+bool AppModel::isPaused() const {
+    return m_preferences.pauseOnLowPower() && m_platform.power->isLowPowerModeEnabled();
+}

@@ -1,0 +1,83 @@
+#include "Core/Formatters.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Formatters {
+namespace {
+
+constexpr double secondsPerMinute = 60;
+constexpr double secondsPerHour = 3600;
+
+/// Decimals, halves away from zero; the decimal separator is a dot in every language.
+QString fixed(double value, int decimals) {
+    const double scale = std::pow(10.0, decimals);
+    return QString::number(std::round(value * scale) / scale, 'f', decimals);
+}
+
+bool isInvisible(QChar character) {
+    switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QChar picture(QChar character) {
+    constexpr char16_t controlPictures = u'\u2400';
+    constexpr char16_t deletePicture = u'\u2421';
+    constexpr char16_t replacement = u'\ufffd';
+    if (character.unicode() < 0x20)
+        return QChar(static_cast<char16_t>(controlPictures + character.unicode()));
+    return character.unicode() == 0x7f ? QChar(deletePicture) : QChar(replacement);
+}
+
+} // namespace
+
+QString duration(double seconds) {
+    if (!std::isfinite(seconds) || seconds < 0)
+        seconds = 0;
+    if (seconds < secondsPerMinute)
+        return fixed(seconds, 0) + u's';
+    if (seconds < secondsPerHour)
+        return fixed(seconds / secondsPerMinute, 0) + u'm';
+    return fixed(seconds / secondsPerHour, 1) + u'h';
+}
+
+QString bytes(quint64 count) {
+    constexpr std::array<QStringView, 6> units = {u"KB", u"MB", u"GB", u"TB", u"PB", u"EB"};
+    constexpr double step = 1024;
+    if (count < 1024)
+        return count == 1 ? QStringLiteral("1 byte") : QStringLiteral("%1 bytes").arg(count);
+    double value = static_cast<double>(count) / step;
+    std::size_t unit = 0;
+    // What would round up to 1024 of a unit is one of the next.
+    while (unit + 1 < units.size() && std::round(value * 10) / 10 >= step) {
+        value /= step;
+        ++unit;
+    }
+    QString number = fixed(value, 1);
+    if (number.endsWith(QStringLiteral(".0")))
+        number.chop(2);
+    return QStringLiteral("%1 %2").arg(number, units[unit]);
+}
+
+QString percent(double value) { return fixed(std::isfinite(value) ? value : 0, 0) + u'%'; }
+
+QString visible(const QString& text) {
+    if (std::none_of(text.begin(), text.end(), isInvisible))
+        return text;
+    QString result = text;
+    for (QChar& character : result) {
+        if (isInvisible(character))
+            character = picture(character);
+    }
+    return result;
+}
+
+} // namespace Formatters

@@ -1,0 +1,66 @@
+#include "Core/Models.h"
+
+QString thermalLabel(ThermalState state) {
+    switch (state) {
+    case ThermalState::nominal:
+        return QStringLiteral("Cool");
+    case ThermalState::fair:
+        return QStringLiteral("Warm");
+    case ThermalState::serious:
+        return QStringLiteral("Hot");
+    case ThermalState::critical:
+        return QStringLiteral("Critical");
+    }
+    return {};
+}
+
+QString groupSymbol(ProcGroup group) {
+    switch (group) {
+    case ProcGroup::agents:
+        return QStringLiteral("sparkles");
+    case ProcGroup::ides:
+        return QStringLiteral("chevron.left.forwardslash.chevron.right");
+    case ProcGroup::terminals:
+        return QStringLiteral("terminal");
+    case ProcGroup::browsers:
+        return QStringLiteral("globe");
+    case ProcGroup::containers:
+        return QStringLiteral("shippingbox");
+    case ProcGroup::other:
+        return QStringLiteral("square.grid.2x2");
+    }
+    return {};
+}
+
+QString severitySymbol(Alert::Severity severity) {
+    switch (severity) {
+    case Alert::Severity::info:
+        return QStringLiteral("info.circle.fill");
+    case Alert::Severity::warn:
+        return QStringLiteral("exclamationmark.triangle.fill");
+    case Alert::Severity::danger:
+        return QStringLiteral("exclamationmark.octagon.fill");
+    }
+    return {};
+}
+
+const SystemSample& SystemSample::zero() {
+    static const SystemSample sample = [] {
+        SystemSample made;
+        made.id = QUuid::createUuid();
+        made.timestamp = std::chrono::system_clock::now();
+        return made;
+    }();
+    return sample;
+}
+
+double SystemSample::memUsedPercent() const {
+    return memTotalBytes == 0 ? 0 : static_cast<double>(memUsedBytes) / static_cast<double>(memTotalBytes) * 100;
+}
+
+double SystemSample::diskUsedPercent() const {
+    if (diskTotalBytes == 0)
+        return 0;
+    const double used = static_cast<double>(diskTotalBytes) - static_cast<double>(diskFreeBytes);
+    return used / static_cast<double>(diskTotalBytes) * 100;
+}

@@ -1,0 +1,177 @@
+#include "Core/RulesEngine.h"
+
+#include "Core/Formatters.h"
+#include "Preferences.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Severity = Alert::Severity;
+
+constexpr double GiB = 1073741824.0;
+constexpr double heavySwapGB = 4.0;
+constexpr qsizetype namedCaches = 3;
+
+QString oneDecimal(double value) { return QString::number(value, 'f', 1); }
+
+/// A threshold in units of `unitShift` bits as bytes; empty for one that no byte count can express, which
+/// leaves its rule out.
+std::optional<quint64> wholeUnits(double value, int unitShift) {
+    if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 64 - unitShift))
+        return std::nullopt;
+    return static_cast<quint64>(value) << unitShift;
+}
+
+std::optional<quint64> gigabytes(double value) {
+    if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 34))
+        return std::nullopt;
+    return static_cast<quint64>(value * GiB);
+}
+
+std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& prefs) {
+    const double threshold = prefs.alertRAMLowFreeGB();
+    if (!prefs.alertRAMLowEnabled() || system.memTotalBytes == 0)
+        return std::nullopt;
+    const double free =
+        (static_cast<double>(system.memTotalBytes) - static_cast<double>(system.memUsedBytes)) / GiB;
+    if (free < threshold) {
+        return Alert{
+            .id = u"ram_low"_s,
+            .severity = Severity::danger,
+            .title = u"Free RAM low"_s,
+            .detail = u"Only %1 GB free — consider quitting top hogs or cleaning caches."_s.arg(oneDecimal(free)),
+            .actionTarget = u"ram"_s};
+    }
+    if (free < 2 * threshold) {
+        return Alert{.id = u"ram_warn"_s,
+                     .severity = Severity::warn,
+                     .title = u"RAM getting tight"_s,
+                     .detail = u"%1 GB free."_s.arg(oneDecimal(free)),
+                     .actionTarget = u"ram"_s};
+    }
+    return std::nullopt;
+}
+
+std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample>& processes,
+                              const Preferences& prefs) {
+    if (!prefs.alertCPUHotEnabled() || !(system.cpuPercent > prefs.alertCPUHotPercent()))
+        return std::nullopt;
+    // The first of equals, as a stable sort would have it.
+    const auto top = std::max_element(
+        processes.begin(), processes.end(),
+        [](const ProcSample& a, const ProcSample& b) { return a.cpuPercent < b.cpuPercent; });
+    const bool any = top != processes.end();
+    return Alert{.id = u"cpu_hot"_s,
+                 .severity = Severity::warn,
+                 .title = u"CPU saturated"_s,
+                 .detail = u"%1 total — top: %2"_s.arg(Formatters::percent(system.cpuPercent),
+                                                       any ? top->name : u"—"_s),
+                 .actionPid = any ? std::optional(top->pid) : std::nullopt};
+}
+
+Alert thermalAlert(ThermalState state) {
+    return {.id = u"thermal"_s,
+            .severity = Severity::danger,
+            .title = u"Mac is running hot (%1)"_s.arg(thermalLabel(state)),
+            .detail = u"macOS is throttling — reduce parallel agentic work or quit Docker/ollama."_s};
+}
+
+std::optional<Alert> swapAlert(const SystemSample& system) {
+    const double swap = static_cast<double>(system.swapUsedBytes) / GiB;
+    if (!(swap > heavySwapGB))
+        return std::nullopt;
+    return Alert{.id = u"swap_high"_s,
+                 .severity = Severity::warn,
+                 .title = u"Heavy swap usage"_s,
+                 .detail = u"%1 GB swapped — system will feel sluggish."_s.arg(oneDecimal(swap))};
+}
+
+Alert idleAgentAlert(const ProcSample& process) {
+    return {.id = u"idle_agent_%1"_s.arg(process.pid),
+            .severity = Severity::warn,
+            .title = u"Idle agent — "_s + process.name,
+            .detail = u"Idle %1 min, %2 RAM. Quit?"_s.arg(QString::number(process.idleSeconds / 60, 'f', 0),
+                                                          Formatters::bytes(process.rssBytes)),
+            .actionPid = process.pid};
+}
+
+QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs) {
+    const auto minimum = wholeUnits(prefs.alertIdleAgentMinRSSMB(), 20);
+    if (!prefs.alertIdleAgentEnabled() || !minimum)
+        return {};
+    const double minimumIdle = prefs.alertIdleAgentMinIdleMin() * 60;
+    QList<Alert> alerts;
+    for (const ProcSample& process : processes) {
+        const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minimumIdle &&
+                               process.rssBytes > *minimum;
+        if (qualifies)
+            alerts.append(idleAgentAlert(process));
+    }
+    return alerts;
+}
+
+std::optional<Alert> browserAlert(const SystemSample& system, const QList<GroupRollup>& groups,
+                                  const Preferences& prefs) {
+    const auto browsers = std::find_if(groups.begin(), groups.end(), [](const GroupRollup& rollup) {
+        return rollup.group == ProcGroup::browsers;
+    });
+    if (!prefs.alertBrowserHogEnabled() || browsers == groups.end() || system.memTotalBytes == 0)
+        return std::nullopt;
+    const double share =
+        static_cast<double>(browsers->rssBytes) / static_cast<double>(system.memTotalBytes) * 100;
+    if (!(prefs.alertBrowserHogPercentTotal() <= share))
+        return std::nullopt;
+    return Alert{.id = u"browser_hog"_s,
+                 .severity = Severity::info,
+                 .title = u"Browsers using "_s + Formatters::bytes(browsers->rssBytes),
+                 .detail = u"That's %1 of total RAM. Closing idle tabs frees the most memory fastest."_s.arg(
+                     Formatters::percent(share)),
+                 .actionTarget = u"browsers"_s};
+}
+
+std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Preferences& prefs) {
+    const auto limit = gigabytes(prefs.alertCachesBigGB());
+    if (!prefs.alertCachesBigEnabled() || caches.isEmpty() || !limit)
+        return std::nullopt;
+    quint64 total = 0;
+    QStringList big;
+    for (const CacheTarget& target : caches) {
+        total += target.sizeBytes;
+        if (target.sizeBytes > *limit / static_cast<quint64>(caches.size()))
+            big.append(u"%1 (%2)"_s.arg(target.name, Formatters::bytes(target.sizeBytes)));
+    }
+    if (total <= *limit)
+        return std::nullopt;
+    return Alert{.id = u"caches_big"_s,
+                 .severity = Severity::info,
+                 .title = u"Caches reclaimable: "_s + Formatters::bytes(total),
+                 .detail = big.mid(0, namedCaches).join(u", "_s),
+                 .actionTarget = u"caches"_s};
+}
+
+} // namespace
+
+QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcSample>& processes,
+                                   const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
+                                   const Preferences& prefs) {
+    QList<Alert> alerts;
+    const auto add = [&alerts](const std::optional<Alert>& alert) {
+        if (alert)
+            alerts.append(*alert);
+    };
+    add(memoryAlert(system, prefs));
+    add(cpuAlert(system, processes, prefs));
+    const bool hot = system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
+    thermalHotStreak = hot ? thermalHotStreak + 1 : 0;
+    if (prefs.alertThermalEnabled() && thermalHotStreak >= thermalHotStreakThreshold)
+        add(thermalAlert(system.thermalState));
+    add(swapAlert(system));
+    alerts.append(idleAgentAlerts(processes, prefs));
+    add(browserAlert(system, groups, prefs));
+    add(cachesAlert(caches, prefs));
+    return alerts;
+}

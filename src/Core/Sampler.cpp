@@ -1,0 +1,173 @@
+#include "Core/Sampler.h"
+
+#include "Platform/Clock.h"
+#include "Platform/Platform.h"
+#include "Platform/ProcessTable.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::size_t maximumPids = 4096;
+constexpr double busyPercent = 0.5; ///< below it a process counts as idle
+
+double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
+    return std::chrono::duration<double>(to - from).count();
+}
+
+ThermalState thermalState(int level) {
+    switch (level) {
+    case 1:
+        return ThermalState::fair;
+    case 2:
+        return ThermalState::serious;
+    case 3:
+        return ThermalState::critical;
+    default:
+        return ThermalState::nominal;
+    }
+}
+
+/// The difference of two counters that wrap at 2^32.
+double delta(quint32 current, quint32 previous) { return static_cast<double>(quint32(current - previous)); }
+
+} // namespace
+
+Sampler::Sampler(const Platform& platform)
+    : host(platform.host)
+    , table(platform.processes)
+    , clock(platform.clock)
+    , pageSize(host->pageSize()) {}
+
+SystemSample Sampler::sample() {
+    SystemSample sample;
+    sample.id = QUuid::createUuid();
+    sample.timestamp = clock->now();
+    sample.cpuPercent = cpuLoad();
+    const MemoryPages memory = host->memoryPages().value_or(MemoryPages());
+    sample.memUsedBytes = (memory.active + memory.wired + memory.compressed) * pageSize;
+    sample.memWiredBytes = memory.wired * pageSize;
+    sample.memCompressedBytes = memory.compressed * pageSize;
+    sample.swapUsedBytes = host->swapUsedBytes().value_or(0);
+    const VolumeBlocks root = host->rootVolume().value_or(VolumeBlocks());
+    sample.diskFreeBytes = root.blocksAvailable * root.blockSize;
+    sample.diskTotalBytes = root.blocks * root.blockSize;
+    sample.thermalState = thermalState(host->thermalLevel());
+    sample.memTotalBytes = host->physicalMemoryBytes();
+    return sample;
+}
+
+double Sampler::cpuLoad() {
+    const auto ticks = host->cpuTicks();
+    if (!ticks)
+        return 0;
+    const auto previous = std::exchange(prevHostCPU, ticks);
+    if (!previous)
+        return 0;
+    const double busy = delta(ticks->user, previous->user) + delta(ticks->system, previous->system) +
+                        delta(ticks->nice, previous->nice);
+    const double total = busy + delta(ticks->idle, previous->idle);
+    return total > 0 ? busy / total * 100 : 0;
+}
+
+QList<ProcSample> Sampler::sampleProcesses() {
+    std::array<qint32, maximumPids> pids{};
+    const int listed = table->listAllPids(pids);
+    if (listed < 1)
+        return {};
+    const Instant now = clock->now();
+    const Uptime uptime = clock->uptime();
+    ++pass;
+
+    QList<ProcSample> result;
+    result.reserve(listed);
+    for (int i = 0; i < listed; ++i) {
+        const qint32 pid = pids[static_cast<std::size_t>(i)];
+        if (pid < 1)
+            continue;
+        const auto known = prev.find(pid);
+        if (known != prev.end())
+            known->pass = pass;
+        const auto task = table->taskInfo(pid);
+        if (!task)
+            continue;
+        PrevCPU& cpu = known != prev.end() ? *known : prev[pid];
+        const double percent = cpuPercent(cpu, task->cpuTimeNs, uptime);
+        auto meta = staticCache.constFind(pid);
+        if (meta == staticCache.constEnd())
+            meta = staticCache.insert(pid, lookUp(pid, now));
+        result.append({.pid = pid,
+                       .parentPid = meta->ppid,
+                       .uid = meta->uid,
+                       .name = meta->name,
+                       .executablePath = meta->path,
+                       .arguments = meta->args,
+                       .cpuPercent = percent,
+                       .rssBytes = task->residentBytes,
+                       .virtualBytes = task->virtualBytes,
+                       .threads = task->threads,
+                       .startTime = meta->startTime,
+                       .idleSeconds = secondsBetween(cpu.lastNonZero, uptime),
+                       .group = ProcGroup::other});
+    }
+    evictUnseen();
+    return result;
+}
+
+/// Turns the process's cumulative time into a share of a core since its last reading, and remembers it.
+double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
+    const bool firstSight = cpu.sampledAt == Uptime();
+    const double elapsed = secondsBetween(cpu.sampledAt, now);
+    double percent = 0;
+    if (!firstSight && elapsed > 0 && totalNs >= cpu.totalNs)
+        percent = static_cast<double>(totalNs - cpu.totalNs) / 1e9 / elapsed * 100;
+    if (firstSight || percent > busyPercent)
+        cpu.lastNonZero = now;
+    cpu.totalNs = totalNs;
+    cpu.sampledAt = now;
+    cpu.pass = pass;
+    return percent;
+}
+
+void Sampler::evictUnseen() {
+    for (auto entry = prev.begin(); entry != prev.end();) {
+        if (entry->pass == pass) {
+            ++entry;
+            continue;
+        }
+        staticCache.remove(entry.key());
+        entry = prev.erase(entry);
+    }
+}
+
+Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) const {
+    StaticMeta meta;
+    meta.path = QString::fromUtf8(table->executablePath(pid));
+    meta.name = procName(pid, meta.path);
+    meta.args = procArgs(pid);
+    meta.startTime = now;
+    if (const auto info = table->kernelInfo(pid)) {
+        meta.uid = info->uid;
+        meta.ppid = info->parentPid;
+        meta.startTime = info->start;
+    }
+    return meta;
+}
+
+QString Sampler::procName(qint32 pid, const QString& fallbackPath) const {
+    const QByteArray name = table->shortName(pid);
+    if (!name.isEmpty())
+        return QString::fromUtf8(name);
+    if (!fallbackPath.isEmpty())
+        return fallbackPath.section(u'/', -1);
+    return QStringLiteral("pid %1").arg(pid);
+}
+
+/// The arguments without the program's name; the name alone where there are none.
+QString Sampler::procArgs(qint32 pid) const {
+    QList<QByteArray> strings = table->argumentArea(pid).split('\0');
+    strings.removeAll(QByteArray());
+    if (strings.size() > 1)
+        strings.removeFirst();
+    return QString::fromUtf8(strings.join(' '));
+}

@@ -1,0 +1,44 @@
+#include "Platform/Linux/Desktop/LinuxDesktopApplication.h"
+
+#include "Platform/Linux/Desktop/X11Window.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+
+LinuxDesktopApplication::LinuxDesktopApplication() { qApp->installEventFilter(this); }
+
+QList<QWidget*> LinuxDesktopApplication::windows() const {
+    QList<QWidget*> result;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const bool everShown = window->testAttribute(Qt::WA_WState_Created);
+        if (everShown && window->windowType() == Qt::Window)
+            result.append(window);
+    }
+    return result;
+}
+
+void LinuxDesktopApplication::bringForward(QWidget* window) {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    X11Window::activate(window);
+}
+
+void LinuxDesktopApplication::setActivationPolicy(ActivationPolicy policy) {
+    m_policy = policy;
+    for (QWidget* window : windows())
+        X11Window::setSkipTaskbar(window, policy == ActivationPolicy::accessory);
+}
+
+/// A window manager forgets a window's state when it is unmapped, so that it is told again.
+bool LinuxDesktopApplication::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && m_policy == ActivationPolicy::accessory) {
+        auto* window = qobject_cast<QWidget*>(watched);
+        if (window && window->windowType() == Qt::Window)
+            QMetaObject::invokeMethod(
+                window, [window] { X11Window::setSkipTaskbar(window, true); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}

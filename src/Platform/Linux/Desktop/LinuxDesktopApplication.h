@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/Desktop/DesktopApplication.h"
+
+#include <QObject>
+
+/// Windows through Qt, their task bar entries through the window manager. A Wayland compositor decides for
+/// itself what comes to the front and what its task bar lists.
+class LinuxDesktopApplication : public QObject, public DesktopApplication {
+    Q_OBJECT
+
+public:
+    LinuxDesktopApplication();
+
+    QList<QWidget*> windows() const override;
+    void bringForward(QWidget* window) override;
+    ActivationPolicy activationPolicy() const override { return m_policy; }
+    void setActivationPolicy(ActivationPolicy policy) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    ActivationPolicy m_policy = ActivationPolicy::regular;
+};

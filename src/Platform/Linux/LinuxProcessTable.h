@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Platform/Linux/KernelFile.h"
+#include "Platform/Linux/ProcFolder.h"
+#include "Platform/Linux/ProcStat.h"
+#include "Platform/ProcessTable.h"
+
+#include <string>
+#include <unordered_map>
+
+/// The processes that procfs shows, kernel threads left out.
+///
+/// Made to be asked about every process every few seconds: for each it keeps two descriptors from pass to
+/// pass, and asks at most three questions a pass:
+///   - `/proc/N/statm` (pread): resident and virtual pages;
+///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
+///   - `/proc/N/task` (fstat), where the clock has moved: two links and one for each thread.
+/// Such a descriptor never speaks for another process: once its own is gone it answers ESRCH, and the id is
+/// looked up anew. Where the limit on descriptors is reached, `/proc/N/stat` answers instead, opened each
+/// time.
+class LinuxProcessTable : public ProcessTable {
+public:
+    /// `root` is where procfs is mounted. Raises the program's soft limit on descriptors to the hard one.
+    explicit LinuxProcessTable(const std::string& root = "/proc");
+
+    int listAllPids(std::span<qint32> pids) override;
+    /// Empty also for a process without address space, such as one that waits to be reaped.
+    std::optional<TaskInfo> taskInfo(qint32 pid) override;
+    /// Target of `/proc/N/exe`, also when the file has been deleted since; readable for the user's own
+    /// processes only.
+    QByteArray executablePath(qint32 pid) override;
+    /// `/proc/N/comm`. The kernel keeps 15 bytes of it: a name that long is completed from the executable
+    /// or the first argument, where that begins with it.
+    QByteArray shortName(qint32 pid) override;
+    /// `/proc/N/cmdline`
+    QByteArray argumentArea(qint32 pid) override;
+    /// `/proc/N/stat` and `/proc/N/status`
+    std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override;
+
+private:
+    struct Process {
+        KernelFile statm;
+        KernelFile task;
+        quint64 inode = 0;
+        quint32 listing = 0; ///< the last one that held the process
+        bool isKernelThread = false;
+        int threads = 0; ///< when its clock stood at cpuTimeNs; 0 before the first look
+        quint64 cpuTimeNs = 0;
+    };
+    struct Pages {
+        quint64 resident = 0;
+        quint64 virtualSize = 0;
+    };
+
+    bool isKernelThread(qint32 pid, Process& process);
+    void forgetUnlisted();
+    bool open(qint32 pid, Process& process);
+    void close(Process& process);
+    std::optional<TaskInfo> fromKept(qint32 pid, Process& process) const;
+    std::optional<TaskInfo> fromStat(qint32 pid) const;
+    std::optional<quint64> cpuTimeNs(qint32 pid) const;
+    std::optional<ProcStat> readStat(qint32 pid) const;
+    KernelFile openFile(qint32 pid, const char* name, int extraFlags = 0) const;
+
+    ProcFolder m_folder;
+    std::unordered_map<qint32, Process> m_processes;
+    quint32 m_listing = 0;
+    qsizetype m_descriptors = 0; ///< kept open in m_processes
+    qsizetype m_descriptorBudget;
+    quint64 m_pageSize;
+    quint64 m_tickNs;
+};

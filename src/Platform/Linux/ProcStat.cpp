@@ -1,0 +1,40 @@
+#include "Platform/Linux/ProcStat.h"
+
+#include "Platform/Linux/KernelText.h"
+
+#include <array>
+
+std::optional<ProcStat> ProcStat::parse(std::string_view text) {
+    // The name stands in parentheses, unescaped: it may itself hold blanks, newlines and parentheses.
+    const auto nameEnd = text.rfind(')');
+    if (nameEnd == std::string_view::npos || text.size() < nameEnd + 4)
+        return std::nullopt;
+    text.remove_prefix(nameEnd + 3); // ") S"
+
+    // Numbered as in proc(5), where the parent is the fourth.
+    enum {
+        ppid = 4,
+        flags = 9,
+        utime = 14,
+        stime = 15,
+        threads = 20,
+        starttime = 22,
+        vsize = 23,
+        rss = 24,
+        end
+    };
+    std::array<qint64, end> field{};
+    for (int number = ppid; number < end; ++number) {
+        const auto value = KernelText::takeSignedNumber(text);
+        if (!value)
+            return std::nullopt;
+        field[number] = *value;
+    }
+    return ProcStat{.parentPid = static_cast<qint32>(field[ppid]),
+                    .flags = static_cast<quint32>(field[flags]),
+                    .cpuTicks = static_cast<quint64>(field[utime] + field[stime]),
+                    .threads = static_cast<int>(field[threads]),
+                    .startTicks = static_cast<quint64>(field[starttime]),
+                    .virtualBytes = static_cast<quint64>(field[vsize]),
+                    .residentPages = static_cast<quint64>(field[rss])};
+}

@@ -1,0 +1,73 @@
+#include "Preferences.h"
+
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <type_traits>
+
+namespace {
+
+template <typename T> std::optional<T> read(const SettingsFile& file, const QString& key) {
+    if constexpr (std::is_same_v<T, bool>) {
+        return file.boolean(key);
+    } else if constexpr (std::is_same_v<T, double>) {
+        return file.number(key);
+    } else if constexpr (std::is_same_v<T, QByteArray>) {
+        return file.bytes(key);
+    } else {
+        return fromRawValue<T>(file.text(key).value_or(QString()));
+    }
+}
+
+template <typename T> QVariant storable(const T& value) {
+    if constexpr (std::is_enum_v<T>)
+        return rawValue(value);
+    else
+        return QVariant::fromValue(value);
+}
+
+} // namespace
+
+int spanSeconds(HistoryRetention retention) {
+    switch (retention) {
+    case HistoryRetention::fiveMin:
+        return 300;
+    case HistoryRetention::twentyFive:
+        return 1500;
+    case HistoryRetention::oneHour:
+        return 3600;
+    }
+    return 0;
+}
+
+template <typename T> T Property<T>::operator()() const {
+    return read<T>(m_owner.file(), m_key).value_or(m_fallback);
+}
+
+template <typename T> void Property<T>::set(const T& value) {
+    Q_EMIT m_owner.objectWillChange();
+    m_owner.file().store(m_key, storable(value));
+}
+
+template class Property<bool>;
+template class Property<double>;
+template class Property<QByteArray>;
+template class Property<MenuBarFormat>;
+template class Property<HistoryRetention>;
+
+Preferences& Preferences::shared() {
+    static Preferences instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                QStringLiteral("/Tavrin/Tavrin.ini"));
+    return instance;
+}
+
+Preferences::Preferences(const QString& iniFile, QObject* parent)
+    : QObject(parent)
+    , m_file(iniFile) {}
+
+int Preferences::historyRetentionSamples() const {
+    constexpr double shortestInterval = 0.5;
+    constexpr int fewest = 60;
+    const double interval = std::max(shortestInterval, pollIntervalSeconds());
+    return std::max(fewest, static_cast<int>(spanSeconds(historyRetention()) / interval));
+}
