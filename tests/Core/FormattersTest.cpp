@@ -1,0 +1,60 @@
+#include "Core/Formatters.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+TEST(Formatters, DurationChoosesItsBandBeforeRounding) {
+    const std::pair<double, const char*> cases[] = {
+        {0, "0s"},
+        {42, "42s"},
+        {59.6, "60s"},
+        {60, "1m"},
+        {89, "1m"},
+        {90, "2m"},
+        {150, "3m"},
+        {3599, "60m"},
+        {3600, "1.0h"},
+        {5400, "1.5h"},
+        {86400, "24.0h"},
+        {-5, "0s"},
+        {std::numeric_limits<double>::quiet_NaN(), "0s"},
+    };
+    for (const auto& [seconds, text] : cases)
+        EXPECT_EQ(Formatters::duration(seconds).toStdString(), text) << seconds;
+}
+
+TEST(Formatters, BytesStepBy1024WithAtMostOneDecimal) {
+    constexpr quint64 KiB = 1024;
+    constexpr quint64 MiB = KiB * 1024;
+    constexpr quint64 GiB = MiB * 1024;
+    const std::pair<quint64, const char*> cases[] = {
+        {0, "0 bytes"},          {1, "1 byte"},
+        {1023, "1023 bytes"},    {KiB, "1 KB"},
+        {KiB * 3 / 2, "1.5 KB"}, {MiB - 1, "1 MB"},
+        {512 * MiB, "512 MB"},   {GiB * 3 / 2, "1.5 GB"},
+        {GiB * 1024, "1 TB"},    {std::numeric_limits<quint64>::max(), "16 EB"},
+    };
+    for (const auto& [count, text] : cases)
+        EXPECT_EQ(Formatters::bytes(count).toStdString(), text) << count;
+}
+
+TEST(Formatters, PercentRoundsHalvesAwayFromZero) {
+    EXPECT_EQ(Formatters::percent(12.5), QStringLiteral("13%"));
+    EXPECT_EQ(Formatters::percent(12.49), QStringLiteral("12%"));
+    EXPECT_EQ(Formatters::percent(400), QStringLiteral("400%"));
+    EXPECT_EQ(Formatters::percent(std::numeric_limits<double>::infinity()), QStringLiteral("0%"));
+}
+
+TEST(Formatters, TextFromOutsideCannotBreakOrReverseALine) {
+    const std::pair<const char16_t*, const char16_t*> cases[] = {
+        {u"plain <b>name</b>", u"plain <b>name</b>"},
+        {u"two\nlines\ttab", u"two\u240alines\u2409tab"},
+        {u"del\x7f", u"del\u2421"},
+        {u"evil\u202Etxt", u"evil\ufffdtxt"},
+        {u"para\u2029graph", u"para\ufffdgraph"},
+        {u"שלום", u"שלום"},
+    };
+    for (const auto& [raw, shown] : cases)
+        EXPECT_EQ(Formatters::visible(QString::fromUtf16(raw)), QString::fromUtf16(shown));
+}

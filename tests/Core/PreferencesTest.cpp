@@ -1,0 +1,117 @@
+#include "Preferences.h"
+
+#include "support/TemporarySettings.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void write(const QString& path, const QByteArray& text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(text), text.size());
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST(Preferences, FreshOnesReadTheDefaultsAndWriteNothing) {
+    const TemporarySettings settings;
+    const Preferences& prefs = settings.preferences;
+    EXPECT_TRUE(prefs.startAtLogin());
+    EXPECT_FALSE(prefs.pauseOnLowPower());
+    EXPECT_EQ(prefs.menuBarFormat(), MenuBarFormat::both);
+    EXPECT_EQ(prefs.pollIntervalSeconds(), 2.0);
+    EXPECT_EQ(prefs.alertIdleAgentMinRSSMB(), 500.0);
+    EXPECT_TRUE(prefs.quickKillPresetsJSON().isEmpty());
+    EXPECT_EQ(prefs.historyRetentionSamples(), 750);
+    EXPECT_FALSE(QFile::exists(settings.path));
+}
+
+TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
+    struct Case {
+        const char* line;
+        double interval;
+        bool paused;
+        MenuBarFormat format;
+    };
+    const Case cases[] = {
+        {"pref.pollIntervalSeconds=5", 5, false, MenuBarFormat::both},
+        {"pref.pollIntervalSeconds=nan", 2, false, MenuBarFormat::both},
+        {"pref.pollIntervalSeconds=inf", 2, false, MenuBarFormat::both},
+        {"pref.pollIntervalSeconds=fast", 2, false, MenuBarFormat::both},
+        {"pref.pollIntervalSeconds=1, 2", 2, false, MenuBarFormat::both},
+        {"pref.pollIntervalSeconds=-3", -3, false, MenuBarFormat::both},
+        {"pref.pauseOnLowPower=true", 2, true, MenuBarFormat::both},
+        {"pref.pauseOnLowPower=perhaps", 2, false, MenuBarFormat::both},
+        {"pref.menuBarFormat=CPU%", 2, false, MenuBarFormat::cpuOnly},
+        {"pref.menuBarFormat=cpu%", 2, false, MenuBarFormat::both},
+        {"pref.menuBarFormat=\"Icon only\"", 2, false, MenuBarFormat::iconOnly},
+        {"\x01\xff[[[broken", 2, false, MenuBarFormat::both},
+    };
+    for (const Case& c : cases) {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("s.ini"));
+        write(path, QByteArray("[General]\n") + c.line + '\n');
+        const Preferences prefs(path);
+        EXPECT_EQ(prefs.pollIntervalSeconds(), c.interval) << c.line;
+        EXPECT_EQ(prefs.pauseOnLowPower(), c.paused) << c.line;
+        EXPECT_EQ(prefs.menuBarFormat(), c.format) << c.line;
+    }
+}
+
+TEST(Preferences, AWriteIsAnnouncedFirstAndOnDiskAtOnce) {
+    TemporarySettings settings;
+    Preferences& prefs = settings.preferences;
+    double seenWhileAnnounced = 0;
+    QObject::connect(&prefs, &Preferences::objectWillChange, &prefs,
+                     [&] { seenWhileAnnounced = prefs.pollIntervalSeconds(); });
+    prefs.pollIntervalSeconds.set(10);
+    EXPECT_EQ(seenWhileAnnounced, 2.0);
+    EXPECT_EQ(prefs.pollIntervalSeconds(), 10.0);
+    EXPECT_TRUE(read(settings.path).contains("pref.pollIntervalSeconds=10"));
+
+    prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
+    prefs.quickKillPresetsJSON.set("[{\"a\":\"\xc3\xa9, b\"}]");
+    const Preferences reread(settings.path);
+    EXPECT_EQ(reread.menuBarFormat(), MenuBarFormat::ramOnly);
+    EXPECT_EQ(reread.quickKillPresetsJSON(), QByteArray("[{\"a\":\"\xc3\xa9, b\"}]"));
+}
+
+TEST(Preferences, TwoWritersKeepEachOthersKeys) {
+    TemporarySettings settings;
+    Preferences other(settings.path);
+    settings.preferences.alertCachesBigGB.set(7);
+    other.pollIntervalSeconds.set(5);
+    settings.preferences.showInDock.set(false);
+    const Preferences reread(settings.path);
+    EXPECT_EQ(reread.alertCachesBigGB(), 7.0);
+    EXPECT_EQ(reread.pollIntervalSeconds(), 5.0);
+    EXPECT_FALSE(reread.showInDock());
+}
+
+TEST(Preferences, HistoryLengthFollowsRetentionAndIntervalWithAFloor) {
+    TemporarySettings settings;
+    Preferences& prefs = settings.preferences;
+    struct Case {
+        HistoryRetention retention;
+        double interval;
+        int samples;
+    };
+    const Case cases[] = {{HistoryRetention::fiveMin, 2, 150},
+                          {HistoryRetention::fiveMin, 10, 60},
+                          {HistoryRetention::oneHour, 0.25, 7200},
+                          {HistoryRetention::oneHour, -1, 7200},
+                          {HistoryRetention::twentyFive, 7, 214}};
+    for (const Case& c : cases) {
+        prefs.historyRetention.set(c.retention);
+        prefs.pollIntervalSeconds.set(c.interval);
+        EXPECT_EQ(prefs.historyRetentionSamples(), c.samples);
+    }
+}

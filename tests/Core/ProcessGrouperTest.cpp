@@ -1,0 +1,89 @@
+#include "Core/ProcessGrouper.h"
+#include "Core/PatternMatcher.h"
+
+#include <gtest/gtest.h>
+
+using enum ProcGroup;
+
+TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
+    struct Case {
+        const char* name;
+        const char* path;
+        const char* arguments;
+        ProcGroup group;
+    };
+    const Case cases[] = {
+        {"node", "", "@modelcontextprotocol/server-filesystem", agents},
+        {"node", "", "server.js", other},
+        {"python3", "", "-m foo-mcp", agents},
+        {"bash", "", "run mcp-server", terminals}, // no script runtime
+        {"foo", "/home/u/.claude/local/foo", "", agents},
+        {"Claude", "", "", agents},
+        {"ollama", "", "", agents},
+        {"Cursor", "", "", ides},
+        {"cursor-agent", "", "", agents},
+        {"Xcode", "", "", ides},
+        {"nvim", "", "", ides},
+        {"helper", "/opt/idea-2024/bin/helper", "", ides}, // a folder that begins with the pattern
+        {"helper", "/opt/myidea/bin/helper", "", other},   // one that only contains it
+        {"unicode-input", "", "", ides},                   // contains "code"
+        {"sh", "", "", terminals},
+        {"ZSH", "", "", terminals},
+        {"ssh", "", "", other},
+        {"hyperkit", "", "", terminals},
+        {"gnome-terminal-server", "", "", terminals},
+        {"Google Chrome Helper (Renderer)", "", "", browsers},
+        {"mediaanalysisd", "", "", browsers}, // contains "dia"
+        {"foo", "/usr/lib/firefox/foo", "", browsers},
+        {"dockerd", "", "", containers},
+        {"foo", "", "--root /var/lib/containerd", containers},
+        {"node", "", "docker-proxy.js", containers},
+        {"\u212Aitty", "", "", terminals}, // the Kelvin sign is an upper-case k
+        {"", "", "", other},
+    };
+    QList<ProcSample> processes;
+    for (const Case& c : cases) {
+        ProcSample process;
+        process.name = QString::fromUtf8(c.name);
+        process.executablePath = QString::fromUtf8(c.path);
+        process.arguments = QString::fromUtf8(c.arguments);
+        processes.append(process);
+    }
+    const auto classified = ProcessGrouper().classify(processes);
+    ASSERT_EQ(classified.size(), processes.size());
+    for (qsizetype i = 0; i < classified.size(); ++i) {
+        EXPECT_EQ(rawValue(classified[i].group), rawValue(cases[i].group)) << cases[i].name << cases[i].path;
+        EXPECT_EQ(classified[i].name, processes[i].name);
+    }
+}
+
+TEST(GroupRollup, TotalsEveryGroupInOrder) {
+    const auto empty = GroupRollup::build({});
+    ASSERT_EQ(empty.size(), 6);
+    for (qsizetype i = 0; i < 6; ++i)
+        EXPECT_EQ(empty[i], (GroupRollup{.group = allCases<ProcGroup>()[static_cast<std::size_t>(i)]}));
+
+    QList<ProcSample> processes(3);
+    processes[0] = {.cpuPercent = 10, .rssBytes = 100, .group = browsers};
+    processes[1] = {.cpuPercent = 5, .rssBytes = 7, .group = other};
+    processes[2] = {.cpuPercent = 2.5, .rssBytes = 50, .group = browsers};
+    const auto rollups = GroupRollup::build(processes);
+    EXPECT_EQ(rollups[3], (GroupRollup{.group = browsers, .rssBytes = 150, .cpuPercent = 12.5, .count = 2}));
+    EXPECT_EQ(rollups[5], (GroupRollup{.group = other, .rssBytes = 7, .cpuPercent = 5, .count = 1}));
+}
+
+TEST(PatternMatcher, AgreesWithPlainSearchesOnOverlappingPatterns) {
+    const QList<PatternMatcher::Pattern> patterns{{"he", 1},  {"she", 2},  {"hers", 4},
+                                                  {"his", 8}, {"e h", 16}, {"s", 32}};
+    const PatternMatcher matcher(patterns);
+    for (const char* text :
+         {"", "ushers", "SHE HERS", "hishe", "xhxexrxs", "hhhe he", "hist\xc3\xb6ry", "e\xc5\xa1h"}) {
+        const QString string = QString::fromUtf8(text);
+        PatternMatcher::Facts expected = 0;
+        for (const auto& [pattern, facts] : patterns) {
+            if (string.toLower().contains(QString::fromLatin1(pattern)))
+                expected |= facts;
+        }
+        EXPECT_EQ(matcher.search(string), expected) << text;
+    }
+}

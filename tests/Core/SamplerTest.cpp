@@ -1,0 +1,178 @@
+#include "Core/Sampler.h"
+
+#include "support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct SamplerTest : testing::Test {
+    FakePlatform fakes;
+    Sampler sampler{fakes.platform()};
+
+    ProcSample only() {
+        const auto processes = sampler.sampleProcesses();
+        EXPECT_EQ(processes.size(), 1);
+        return processes.value(0);
+    }
+    void burn(qint32 pid, double cpuSeconds) {
+        fakes.processes->processes[pid].task->cpuTimeNs += static_cast<quint64>(cpuSeconds * 1e9);
+    }
+};
+
+} // namespace
+
+TEST_F(SamplerTest, FirstSampleHasFiguresButNoLoad) {
+    fakes.host->ticks = CpuTicks{.user = 500, .system = 1, .idle = 1, .nice = 0};
+    fakes.host->swap = 7;
+    const SystemSample sample = sampler.sample();
+    EXPECT_EQ(sample.cpuPercent, 0);
+    EXPECT_TRUE(sample.cpuPerCore.isEmpty());
+    EXPECT_EQ(sample.memUsedBytes, 250U * 4096);
+    EXPECT_EQ(sample.memWiredBytes, 30U * 4096);
+    EXPECT_EQ(sample.memCompressedBytes, 20U * 4096);
+    EXPECT_EQ(sample.swapUsedBytes, 7U);
+    EXPECT_EQ(sample.diskFreeBytes, 400U * 4096);
+    EXPECT_EQ(sample.diskTotalBytes, 1000U * 4096);
+    EXPECT_NE(sample.id, sampler.sample().id);
+}
+
+TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
+    constexpr quint32 nearWrap = 0xFFFFFFFAU;
+    struct Step {
+        std::optional<CpuTicks> ticks;
+        double load;
+    };
+    const Step steps[] = {
+        {CpuTicks{.user = nearWrap, .system = 0, .idle = 100, .nice = 0}, 0},
+        {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 62.5}, // 12 + 6 + 12 of 48, over the wrap
+        {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 0},    // nothing moved
+        {std::nullopt, 0},
+        {CpuTicks{.user = 16, .system = 6, .idle = 128, .nice = 12}, 50}, // since the last good reading
+    };
+    for (const Step& step : steps) {
+        fakes.host->ticks = step.ticks;
+        EXPECT_DOUBLE_EQ(sampler.sample().cpuPercent, step.load);
+    }
+}
+
+TEST_F(SamplerTest, RefusedFiguresAreZeroAndLeaveTheOthersAlone) {
+    fakes.host->root.reset();
+    fakes.host->memory.reset();
+    fakes.host->swap.reset();
+    fakes.host->thermal = 7;
+    const SystemSample sample = sampler.sample();
+    EXPECT_EQ(sample.diskFreeBytes + sample.diskTotalBytes + sample.memUsedBytes + sample.swapUsedBytes, 0U);
+    EXPECT_EQ(sample.thermalState, ThermalState::nominal);
+    EXPECT_GT(sample.memTotalBytes, 0U);
+    fakes.host->thermal = 2;
+    EXPECT_EQ(sampler.sample().thermalState, ThermalState::serious);
+}
+
+TEST_F(SamplerTest, CpuShareIsTimeUsedOverTimePassed) {
+    fakes.processes->add(10);
+    burn(10, 100);
+    EXPECT_EQ(only().cpuPercent, 0);
+    fakes.clock->advance(2);
+    burn(10, 1.5);
+    EXPECT_DOUBLE_EQ(only().cpuPercent, 75);
+    fakes.clock->advance(2);
+    burn(10, 8);
+    EXPECT_DOUBLE_EQ(only().cpuPercent, 400);
+    burn(10, 1); // no time has passed
+    EXPECT_EQ(only().cpuPercent, 0);
+}
+
+TEST_F(SamplerTest, IdleTimeGrowsBelowHalfAPercentAndSurvivesAWallClockJump) {
+    fakes.processes->add(10);
+    EXPECT_EQ(only().idleSeconds, 0);
+    for (int hour = 0; hour < 2; ++hour) {
+        fakes.clock->advance(3600);
+        burn(10, 3600 * 0.004);
+        EXPECT_DOUBLE_EQ(only().idleSeconds, 3600.0 * (hour + 1));
+    }
+    fakes.clock->wall += std::chrono::hours(24);
+    fakes.clock->advance(2);
+    EXPECT_DOUBLE_EQ(only().idleSeconds, 7202);
+    fakes.clock->advance(2);
+    burn(10, 0.02);
+    EXPECT_EQ(only().idleSeconds, 0);
+}
+
+TEST_F(SamplerTest, ReusedIdKeepsTheOldNameUntilItLeavesTheListing) {
+    fakes.processes->add(10, {.name = "old"});
+    burn(10, 5);
+    only();
+    fakes.clock->advance(2);
+    fakes.processes->processes[10] = {.name = "new"};
+    const ProcSample reused = only();
+    EXPECT_EQ(reused.cpuPercent, 0);
+    EXPECT_EQ(reused.name, QStringLiteral("old"));
+
+    fakes.processes->listing.clear();
+    fakes.processes->listing.append(0); // the kernel's own id: listed, never shown
+    EXPECT_TRUE(sampler.sampleProcesses().isEmpty());
+    EXPECT_EQ(sampler.rememberedProcesses(), 0);
+    fakes.processes->listing = {10};
+    EXPECT_EQ(only().name, QStringLiteral("new"));
+}
+
+TEST_F(SamplerTest, UnreadableProcessIsLeftOutButNotForgotten) {
+    fakes.processes->add(10);
+    fakes.processes->add(11);
+    sampler.sampleProcesses();
+    fakes.processes->processes[10].task.reset();
+    fakes.clock->advance(2);
+    EXPECT_EQ(only().pid, 11);
+    fakes.processes->processes[10].task = TaskInfo{.cpuTimeNs = 2'000'000'000};
+    fakes.clock->advance(2);
+    EXPECT_DOUBLE_EQ(sampler.sampleProcesses().value(0).cpuPercent, 50); // over both intervals
+    EXPECT_EQ(fakes.processes->metadataLookUps, 2);
+}
+
+TEST_F(SamplerTest, FailedListingLeavesTheTablesAsTheyAre) {
+    fakes.processes->add(10);
+    only();
+    fakes.processes->fails = true;
+    EXPECT_TRUE(sampler.sampleProcesses().isEmpty());
+    EXPECT_EQ(sampler.rememberedProcesses(), 1);
+}
+
+TEST_F(SamplerTest, MetadataDegradesFieldByField) {
+    using namespace std::string_literals;
+    struct Case {
+        FakeProcess process;
+        const char* name;
+        const char* arguments;
+    };
+    const auto area = [](const std::string& text) { return QByteArray::fromStdString(text); };
+    const Case cases[] = {
+        {{.path = "/usr/bin/foo", .name = "foo", .arguments = area("/usr/bin/foo\0"s)},
+         "foo",
+         "/usr/bin/foo"},
+        {{.name = "node", .arguments = area("node\0server.js\0--port=3000\0"s)},
+         "node",
+         "server.js --port=3000"},
+        {{.name = "gaps", .arguments = area("a\0\0\0b\0"s)}, "gaps", "b"},
+        {{.path = "/opt/x/bar"}, "bar", ""},
+        {{.path = ""}, "pid 7", ""},
+        {{.name = "odd (name)\n<b>", .arguments = area("a\0b c"s)}, "odd (name)\n<b>", "b c"},
+        {{.name = "\xff\xfe"}, "\xef\xbf\xbd\xef\xbf\xbd", ""},
+    };
+    for (const Case& c : cases) {
+        FakePlatform own;
+        own.processes->add(7, c.process).info.reset();
+        const ProcSample sample = Sampler(own.platform()).sampleProcesses().value(0);
+        EXPECT_EQ(sample.name.toStdString(), c.name);
+        EXPECT_EQ(sample.arguments.toStdString(), c.arguments);
+        EXPECT_EQ(sample.uid, 0U);
+        EXPECT_EQ(sample.parentPid, 0);
+        EXPECT_EQ(sample.startTime, own.clock->wall);
+    }
+}
+
+TEST_F(SamplerTest, AtMost4096ProcessesAPass) {
+    for (qint32 pid = 1; pid <= 5000; ++pid)
+        fakes.processes->add(pid);
+    EXPECT_EQ(sampler.sampleProcesses().size(), 4096);
+}

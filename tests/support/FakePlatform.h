@@ -1,0 +1,123 @@
+#pragma once
+
+#include "Core/Models.h"
+#include "Platform/Clock.h"
+#include "Platform/HostStatistics.h"
+#include "Platform/Identity.h"
+#include "Platform/Platform.h"
+#include "Platform/PowerMode.h"
+#include "Platform/ProcessTable.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+// Scripted answers in the place of an operating system: tests set the fields and read what was asked.
+
+class FakeClock : public Clock {
+public:
+    Instant wall = Instant(std::chrono::seconds(1'700'000'000));
+    std::chrono::steady_clock::time_point steady{std::chrono::hours(1)};
+
+    Instant now() override { return wall; }
+    std::chrono::steady_clock::time_point uptime() override { return steady; }
+    void advance(double seconds) {
+        const auto step =
+            std::chrono::round<std::chrono::nanoseconds>(std::chrono::duration<double>(seconds));
+        wall += std::chrono::duration_cast<Instant::duration>(step);
+        steady += step;
+    }
+};
+
+class FakeHostStatistics : public HostStatistics {
+public:
+    std::optional<CpuTicks> ticks = CpuTicks{};
+    std::optional<MemoryPages> memory = MemoryPages{.active = 200, .wired = 30, .compressed = 20};
+    std::optional<quint64> swap = 0;
+    std::optional<VolumeBlocks> root =
+        VolumeBlocks{.blockSize = 4096, .blocks = 1000, .blocksAvailable = 400};
+    int thermal = 0;
+    quint64 physical = quint64(16) << 30;
+
+    quint64 pageSize() const override { return 4096; }
+    std::optional<CpuTicks> cpuTicks() override { return ticks; }
+    std::optional<MemoryPages> memoryPages() override { return memory; }
+    std::optional<quint64> swapUsedBytes() override { return swap; }
+    std::optional<VolumeBlocks> rootVolume() override { return root; }
+    int thermalLevel() override { return thermal; }
+    quint64 physicalMemoryBytes() override { return physical; }
+};
+
+struct FakeProcess {
+    std::optional<TaskInfo> task =
+        TaskInfo{.virtualBytes = 2, .residentBytes = 1, .cpuTimeNs = 0, .threads = 1};
+    QByteArray path = {};
+    QByteArray name = {};
+    QByteArray arguments = {};
+    std::optional<KernelProcessInfo> info = KernelProcessInfo{};
+};
+
+class FakeProcessTable : public ProcessTable {
+public:
+    QList<qint32> listing; ///< what the system lists, in order
+    QHash<qint32, FakeProcess> processes;
+    bool fails = false;
+    int metadataLookUps = 0;
+
+    FakeProcess& add(qint32 pid, FakeProcess process = {}) {
+        listing.append(pid);
+        return processes[pid] = std::move(process);
+    }
+    void remove(qint32 pid) {
+        listing.removeAll(pid);
+        processes.remove(pid);
+    }
+
+    int listAllPids(std::span<qint32> pids) override {
+        if (fails)
+            return -1;
+        const auto count = std::min<std::size_t>(pids.size(), static_cast<std::size_t>(listing.size()));
+        std::copy_n(listing.begin(), count, pids.begin());
+        return static_cast<int>(count);
+    }
+    std::optional<TaskInfo> taskInfo(qint32 pid) override {
+        const auto found = processes.constFind(pid);
+        return found == processes.constEnd() ? std::nullopt : found->task;
+    }
+    QByteArray executablePath(qint32 pid) override {
+        ++metadataLookUps;
+        return processes.value(pid).path;
+    }
+    QByteArray shortName(qint32 pid) override { return processes.value(pid).name; }
+    QByteArray argumentArea(qint32 pid) override { return processes.value(pid).arguments; }
+    std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return processes.value(pid).info; }
+};
+
+class FakePowerMode : public PowerMode {
+public:
+    bool lowPower = false;
+
+    bool isLowPowerModeEnabled() const override { return lowPower; }
+};
+
+class FakeIdentity : public Identity {
+public:
+    quint32 uid = 1000;
+    qint32 pid = 4242;
+
+    quint32 userId() const override { return uid; }
+    qint32 processId() const override { return pid; }
+};
+
+/// All of them together, each still in reach of the test.
+struct FakePlatform {
+    std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
+    std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();
+    std::shared_ptr<FakePowerMode> power = std::make_shared<FakePowerMode>();
+    std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
+
+    Platform platform() const {
+        return {.host = host, .processes = processes, .power = power, .identity = identity, .clock = clock};
+    }
+};

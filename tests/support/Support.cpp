@@ -1,0 +1,3 @@
+// Compiles the support headers by themselves.
+#include "support/FakePlatform.h"
+#include "support/TemporarySettings.h"
