@@ -1,15 +1,34 @@
 #include "AppDelegate.h"
 
 #include "AppModel.h"
+#include "Core/Observe.h"
+#include "Platform/Desktop/DesktopApplication.h"
+#include "Preferences.h"
 #include "UI/MainWindow.h"
+#include "UI/MainWindowFinder.h"
+#include "UI/MenuBar.h"
 
-AppDelegate::AppDelegate(AppModel& model)
-    : m_model(model) {}
+AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, Desktop desktop)
+    : m_model(model), m_preferences(preferences), m_desktop(std::move(desktop)), m_widget(m_desktop) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_model.start();
+    menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
+    applyActivationPolicy();
     m_mainWindow = std::make_unique<MainWindow>(m_model);
     m_mainWindow->show();
+    if (m_preferences.showWidgetOnLaunch())
+        m_widget.show(m_model);
+    observe(&m_preferences, m_mainWindow.get(), [this] { applyActivationPolicy(); });
+}
+
+void AppDelegate::bringForward() {
+    MainWindowFinder::open(*m_desktop.application, MainWindowFinder::Fallback::anyWindow);
+}
+
+void AppDelegate::applyActivationPolicy() {
+    m_desktop.application->setActivationPolicy(m_preferences.showInDock() ? ActivationPolicy::regular
+                                                                          : ActivationPolicy::accessory);
 }

@@ -21,7 +21,9 @@ double effectiveInterval(double stored) {
     return std::clamp(stored, shortestIntervalSeconds, longestIntervalSeconds);
 }
 
-bool hasMoreMemory(const ProcSample& one, const ProcSample& other) { return one.rssBytes > other.rssBytes; }
+bool hasMoreMemory(const ProcSample& one, const ProcSample& other) {
+    return one.rssBytes > other.rssBytes;
+}
 
 } // namespace
 
@@ -31,10 +33,7 @@ AppModel& AppModel::shared() {
 }
 
 AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
-    : QObject(parent)
-    , m_platform(std::move(platform))
-    , m_preferences(preferences)
-    , m_sampler(m_platform) {
+    : QObject(parent), m_platform(std::move(platform)), m_preferences(preferences), m_sampler(m_platform) {
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
 }
 

@@ -38,9 +38,7 @@ class Preferences;
 template <typename T> class Property {
 public:
     Property(Preferences& owner, const char16_t* key, T fallback)
-        : m_owner(owner)
-        , m_key(QString::fromUtf16(key))
-        , m_fallback(std::move(fallback)) {}
+        : m_owner(owner), m_key(QString::fromUtf16(key)), m_fallback(std::move(fallback)) {}
 
     T operator()() const;
     /// On disk when it returns; observers hear of it before the new value can be read.
@@ -67,7 +65,8 @@ public:
     Property<bool> showInDock{*this, u"pref.showInDock", true};
     Property<MenuBarFormat> menuBarFormat{*this, u"pref.menuBarFormat", MenuBarFormat::both};
     Property<double> pollIntervalSeconds{*this, u"pref.pollIntervalSeconds", 2.0};
-    Property<HistoryRetention> historyRetention{*this, u"pref.historyRetention", HistoryRetention::twentyFive};
+    Property<HistoryRetention> historyRetention{*this, u"pref.historyRetention",
+                                                HistoryRetention::twentyFive};
     Property<bool> pauseOnLowPower{*this, u"pref.pauseOnLowPower", false};
     Property<bool> alertRAMLowEnabled{*this, u"pref.alertRAMLow_enabled", true};
     Property<double> alertRAMLowFreeGB{*this, u"pref.alertRAMLow_freeGB", 2.0};

@@ -1,3 +1,5 @@
 #include "TavrinApp.h"
 
-int main(int argc, char* argv[]) { return TavrinApp(argc, argv).run(); }
+int main(int argc, char* argv[]) {
+    return TavrinApp(argc, argv).run();
+}

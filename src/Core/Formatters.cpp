@@ -67,7 +67,9 @@ QString bytes(quint64 count) {
     return QStringLiteral("%1 %2").arg(number, units[unit]);
 }
 
-QString percent(double value) { return fixed(std::isfinite(value) ? value : 0, 0) + u'%'; }
+QString percent(double value) {
+    return fixed(std::isfinite(value) ? value : 0, 0) + u'%';
+}
 
 QString visible(const QString& text) {
     if (std::none_of(text.begin(), text.end(), isInvisible))

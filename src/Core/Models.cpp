@@ -55,7 +55,8 @@ const SystemSample& SystemSample::zero() {
 }
 
 double SystemSample::memUsedPercent() const {
-    return memTotalBytes == 0 ? 0 : static_cast<double>(memUsedBytes) / static_cast<double>(memTotalBytes) * 100;
+    return memTotalBytes == 0 ? 0
+                              : static_cast<double>(memUsedBytes) / static_cast<double>(memTotalBytes) * 100;
 }
 
 double SystemSample::diskUsedPercent() const {

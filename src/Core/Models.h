@@ -109,8 +109,9 @@ struct Alert {
     Severity severity = Severity::info;
     QString title;
     QString detail;
-    std::optional<qint32> actionPid = std::nullopt;     ///< the process that the alert's action acts on
-    std::optional<QString> actionTarget = std::nullopt; ///< the name of the thing that the alert's action acts on
+    std::optional<qint32> actionPid = std::nullopt; ///< the process that the alert's action acts on
+    std::optional<QString> actionTarget =
+        std::nullopt; ///< the name of the thing that the alert's action acts on
 
     bool operator==(const Alert&) const = default;
 };

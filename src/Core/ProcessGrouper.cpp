@@ -10,29 +10,45 @@ namespace {
 
 using Patterns = std::initializer_list<const char*>;
 
-constexpr Patterns agentPatterns = {
-    "claude",      "claude-code",    "claude.app", "codex",      "aider",                "openhands",
-    "continue",    "ollama",         "lm studio",  "lmstudio",   "llama.cpp",            "vllm",
-    "cursor-agent", "github copilot", "mcp-server", "mcp_server", "modelcontextprotocol", "@modelcontextprotocol"};
+constexpr Patterns agentPatterns = {"claude",
+                                    "claude-code",
+                                    "claude.app",
+                                    "codex",
+                                    "aider",
+                                    "openhands",
+                                    "continue",
+                                    "ollama",
+                                    "lm studio",
+                                    "lmstudio",
+                                    "llama.cpp",
+                                    "vllm",
+                                    "cursor-agent",
+                                    "github copilot",
+                                    "mcp-server",
+                                    "mcp_server",
+                                    "modelcontextprotocol",
+                                    "@modelcontextprotocol"};
 
 /// Runtimes that may host an MCP server, and what tells one in their arguments.
 constexpr Patterns scriptRuntimes = {"node", "npx", "uvx", "uv", "python"};
 constexpr Patterns mcpMarkers = {"modelcontextprotocol", "mcp-server", "mcp_server", "-mcp"};
 
 constexpr Patterns idePatterns = {
-    "code",     "code helper",    "cursor",   "cursor helper", "xcode",  "xcodebuild",
-    "sourcekit", "swift-frontend", "idea",     "intellij",      "pycharm", "webstorm",
-    "rubymine", "goland",         "phpstorm", "rustrover",     "datagrip", "fleet",
-    "zed",      "sublime text",   "sublime_text", "atom",      "nova",   "vim",
-    "neovim",   "nvim",           "emacs",    "android studio", "windsurf", "trae"};
+    "code",      "code helper",    "cursor",       "cursor helper",  "xcode",    "xcodebuild",
+    "sourcekit", "swift-frontend", "idea",         "intellij",       "pycharm",  "webstorm",
+    "rubymine",  "goland",         "phpstorm",     "rustrover",      "datagrip", "fleet",
+    "zed",       "sublime text",   "sublime_text", "atom",           "nova",     "vim",
+    "neovim",    "nvim",           "emacs",        "android studio", "windsurf", "trae"};
 
-constexpr Patterns terminalPatterns = {"iterm", "iterm2", "terminal", "warp",  "ghostty", "alacritty",
-                                       "kitty", "hyper",  "tabby",    "wezterm", "tmux",  "screen"};
+constexpr Patterns terminalPatterns = {"iterm", "iterm2", "terminal", "warp",    "ghostty", "alacritty",
+                                       "kitty", "hyper",  "tabby",    "wezterm", "tmux",    "screen"};
 constexpr std::array<QStringView, 5> shellNames = {u"bash", u"zsh", u"fish", u"sh", u"dash"};
 
 constexpr Patterns browserPatterns = {
-    "chrome", "google chrome", "chromium",      "safari", "safari technology preview", "firefox", "nightly", "arc",
-    "brave",  "brave browser", "edge",          "microsoft edge", "opera",             "vivaldi", "orion",   "dia"};
+    "chrome",  "google chrome",  "chromium", "safari",  "safari technology preview",
+    "firefox", "nightly",        "arc",      "brave",   "brave browser",
+    "edge",    "microsoft edge", "opera",    "vivaldi", "orion",
+    "dia"};
 
 constexpr Patterns containerPatterns = {"docker", "com.docker", "orbstack", "colima",     "podman",
                                         "qemu",   "lima",       "rancher",  "containerd", "runc"};
@@ -70,9 +86,8 @@ const PatternMatcher& matcher() {
 }
 
 bool isShell(const QString& name) {
-    return std::any_of(shellNames.begin(), shellNames.end(), [&name](QStringView shell) {
-        return name.compare(shell, Qt::CaseInsensitive) == 0;
-    });
+    return std::any_of(shellNames.begin(), shellNames.end(),
+                       [&name](QStringView shell) { return name.compare(shell, Qt::CaseInsensitive) == 0; });
 }
 
 } // namespace

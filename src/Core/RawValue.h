@@ -23,7 +23,9 @@ template <typename E> constexpr QStringView rawValueView(E value) {
     return {};
 }
 
-template <typename E> QString rawValue(E value) { return rawValueView(value).toString(); }
+template <typename E> QString rawValue(E value) {
+    return rawValueView(value).toString();
+}
 
 /// Empty for a text that is no case's raw value; the comparison is exact.
 template <typename E> std::optional<E> fromRawValue(QStringView text) {

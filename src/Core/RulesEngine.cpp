@@ -16,7 +16,9 @@ constexpr double GiB = 1073741824.0;
 constexpr double heavySwapGB = 4.0;
 constexpr qsizetype namedCaches = 3;
 
-QString oneDecimal(double value) { return QString::number(value, 'f', 1); }
+QString oneDecimal(double value) {
+    return QString::number(value, 'f', 1);
+}
 
 /// A threshold in units of `unitShift` bits as bytes; empty for one that no byte count can express, which
 /// leaves its rule out.
@@ -39,12 +41,12 @@ std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& 
     const double free =
         (static_cast<double>(system.memTotalBytes) - static_cast<double>(system.memUsedBytes)) / GiB;
     if (free < threshold) {
-        return Alert{
-            .id = u"ram_low"_s,
-            .severity = Severity::danger,
-            .title = u"Free RAM low"_s,
-            .detail = u"Only %1 GB free — consider quitting top hogs or cleaning caches."_s.arg(oneDecimal(free)),
-            .actionTarget = u"ram"_s};
+        return Alert{.id = u"ram_low"_s,
+                     .severity = Severity::danger,
+                     .title = u"Free RAM low"_s,
+                     .detail = u"Only %1 GB free — consider quitting top hogs or cleaning caches."_s.arg(
+                         oneDecimal(free)),
+                     .actionTarget = u"ram"_s};
     }
     if (free < 2 * threshold) {
         return Alert{.id = u"ram_warn"_s,
@@ -61,9 +63,10 @@ std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample
     if (!prefs.alertCPUHotEnabled() || !(system.cpuPercent > prefs.alertCPUHotPercent()))
         return std::nullopt;
     // The first of equals, as a stable sort would have it.
-    const auto top = std::max_element(
-        processes.begin(), processes.end(),
-        [](const ProcSample& a, const ProcSample& b) { return a.cpuPercent < b.cpuPercent; });
+    const auto top =
+        std::max_element(processes.begin(), processes.end(), [](const ProcSample& a, const ProcSample& b) {
+            return a.cpuPercent < b.cpuPercent;
+        });
     const bool any = top != processes.end();
     return Alert{.id = u"cpu_hot"_s,
                  .severity = Severity::warn,
@@ -165,7 +168,8 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     };
     add(memoryAlert(system, prefs));
     add(cpuAlert(system, processes, prefs));
-    const bool hot = system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
+    const bool hot =
+        system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
     thermalHotStreak = hot ? thermalHotStreak + 1 : 0;
     if (prefs.alertThermalEnabled() && thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));

@@ -29,15 +29,14 @@ ThermalState thermalState(int level) {
 }
 
 /// The difference of two counters that wrap at 2^32.
-double delta(quint32 current, quint32 previous) { return static_cast<double>(quint32(current - previous)); }
+double delta(quint32 current, quint32 previous) {
+    return static_cast<double>(quint32(current - previous));
+}
 
 } // namespace
 
 Sampler::Sampler(const Platform& platform)
-    : host(platform.host)
-    , table(platform.processes)
-    , clock(platform.clock)
-    , pageSize(host->pageSize()) {}
+    : host(platform.host), table(platform.processes), clock(platform.clock), pageSize(host->pageSize()) {}
 
 SystemSample Sampler::sample() {
     SystemSample sample;

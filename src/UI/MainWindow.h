@@ -3,11 +3,21 @@
 #include <QMainWindow>
 
 class AppModel;
+class RootView;
 
-/// The window around RootView.
+/// The window around RootView. Closing it only orders it out: the program goes on in the status area, and
+/// the window comes back on its first section.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit MainWindow(AppModel& model, QWidget* parent = nullptr);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void addMenuActions();
+
+    RootView* m_root;
 };

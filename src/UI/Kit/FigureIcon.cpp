@@ -43,7 +43,8 @@ QPixmap draw(const QStringList& figures, int size) {
 
     if (figures.isEmpty()) {
         const int inner = qRound(size * 0.8);
-        Symbols::draw(painter, QStringLiteral("waveform.path.ecg"), QColor(inks[0]), QRectF(0, 0, size, size), inner);
+        Symbols::draw(painter, QStringLiteral("waveform.path.ecg"), QColor(inks[0]), QRectF(0, 0, size, size),
+                      inner);
         return pixmap;
     }
     const double inset = size * 0.06;

@@ -9,7 +9,9 @@
 namespace Painting {
 namespace {
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
+bool isDigit(QChar character) {
+    return character >= u'0' && character <= u'9';
+}
 
 double digitWidth(const QFontMetricsF& metrics) {
     double widest = 0;
@@ -39,7 +41,8 @@ double baseline(const QFontMetricsF& metrics, const QRectF& area) {
 
 } // namespace
 
-void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill, const QColor& border) {
+void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill,
+              const QColor& border) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(border, 1));

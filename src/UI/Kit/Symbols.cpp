@@ -9,7 +9,9 @@
 namespace Symbols {
 namespace {
 
-QString file(const QString& name) { return QStringLiteral(":/symbols/%1.svg").arg(name); }
+QString file(const QString& name) {
+    return QStringLiteral(":/symbols/%1.svg").arg(name);
+}
 
 QString fileOrFallback(const QString& name) {
     const QString wanted = file(name);
@@ -31,7 +33,8 @@ QPixmap render(const QString& name, const QColor& tint, int pixels) {
 } // namespace
 
 QStringList names() {
-    QStringList result = QDir(QStringLiteral(":/symbols")).entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
+    QStringList result =
+        QDir(QStringLiteral(":/symbols")).entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
     for (QString& name : result)
         name.chop(4);
     return result;
@@ -57,9 +60,7 @@ void draw(QPainter& painter, const QString& name, const QColor& tint, const QRec
 
 } // namespace Symbols
 
-SymbolView::SymbolView(int size, int width, QWidget* parent)
-    : QWidget(parent)
-    , m_size(size) {
+SymbolView::SymbolView(int size, int width, QWidget* parent) : QWidget(parent), m_size(size) {
     setFixedSize(width, size);
 }
 

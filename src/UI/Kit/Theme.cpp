@@ -16,15 +16,15 @@ struct Shades {
 
 // In the order of Role. The light tints are dark enough to be read as text on a card.
 constexpr std::array shades = {
-    Shades{Role::accent, 0xff2b67d9, 0xff5b9bff},       Shades{Role::green, 0xff1e8a4a, 0xff3fcf7f},
-    Shades{Role::yellow, 0xffa37400, 0xfff2c744},       Shades{Role::orange, 0xffc65a0a, 0xffffa24a},
-    Shades{Role::red, 0xffcb2431, 0xffff6961},          Shades{Role::blue, 0xff1f6fc9, 0xff5aa9f7},
-    Shades{Role::purple, 0xff8348b5, 0xffbd8cf0},       Shades{Role::indigo, 0xff4f4cc4, 0xff8d8bff},
-    Shades{Role::gray, 0xff82828a, 0xff8f8f98},         Shades{Role::primaryText, 0xff1b1c1f, 0xfff1f1f4},
+    Shades{Role::accent, 0xff2b67d9, 0xff5b9bff},        Shades{Role::green, 0xff1e8a4a, 0xff3fcf7f},
+    Shades{Role::yellow, 0xffa37400, 0xfff2c744},        Shades{Role::orange, 0xffc65a0a, 0xffffa24a},
+    Shades{Role::red, 0xffcb2431, 0xffff6961},           Shades{Role::blue, 0xff1f6fc9, 0xff5aa9f7},
+    Shades{Role::purple, 0xff8348b5, 0xffbd8cf0},        Shades{Role::indigo, 0xff4f4cc4, 0xff8d8bff},
+    Shades{Role::gray, 0xff82828a, 0xff8f8f98},          Shades{Role::primaryText, 0xff1b1c1f, 0xfff1f1f4},
     Shades{Role::secondaryText, 0xff62636b, 0xffa3a4ad}, Shades{Role::windowFill, 0xfff5f5f7, 0xff1c1d20},
-    Shades{Role::sidebarFill, 0xffeaebef, 0xff232529},  Shades{Role::cardFill, 0xffffffff, 0xff26282c},
-    Shades{Role::cardBorder, 0x4d82828a, 0x4d8f8f98},   Shades{Role::separator, 0x3382828a, 0x338f8f98},
-    Shades{Role::hoverFill, 0x1482828a, 0x1e8f8f98},    Shades{Role::trackFill, 0x2882828a, 0x3a8f8f98},
+    Shades{Role::sidebarFill, 0xffeaebef, 0xff232529},   Shades{Role::cardFill, 0xffffffff, 0xff26282c},
+    Shades{Role::cardBorder, 0x4d82828a, 0x4d8f8f98},    Shades{Role::separator, 0x3382828a, 0x338f8f98},
+    Shades{Role::hoverFill, 0x1482828a, 0x1e8f8f98},     Shades{Role::trackFill, 0x2882828a, 0x3a8f8f98},
 };
 
 struct Style {
@@ -48,7 +48,8 @@ QPalette palette() {
     QPalette result;
     const QColor text = color(Role::primaryText);
     const QColor secondary = color(Role::secondaryText);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         result.setColor(role, text);
     result.setColor(QPalette::PlaceholderText, secondary);
     result.setColor(QPalette::Window, color(Role::windowFill));
@@ -58,6 +59,7 @@ QPalette palette() {
     result.setColor(QPalette::ToolTipBase, color(Role::cardFill));
     result.setColor(QPalette::Highlight, color(Role::accent));
     result.setColor(QPalette::HighlightedText, dark ? QColor(Qt::black) : QColor(Qt::white));
+    result.setColor(QPalette::Mid, color(Role::separator));
     result.setColor(QPalette::Link, color(Role::accent));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         result.setColor(QPalette::Disabled, role, color(Role::secondaryText, 0.6));
@@ -73,6 +75,12 @@ QColor color(Role role, double opacity) {
     return result;
 }
 
+QColor tileColor(Role role, double opacity) {
+    QColor result = QColor::fromRgba(shades[static_cast<std::size_t>(role)].light);
+    result.setAlphaF(static_cast<float>(opacity));
+    return result;
+}
+
 QFont font(TextStyle style, std::optional<QFont::Weight> weight) {
     const Style& row = styles[static_cast<std::size_t>(style)];
     QFont result = QApplication::font();
@@ -85,7 +93,9 @@ QFont font(TextStyle style, std::optional<QFont::Weight> weight) {
     return result;
 }
 
-bool isDark() { return dark; }
+bool isDark() {
+    return dark;
+}
 
 void apply(bool useDark) {
     dark = useDark;

@@ -48,6 +48,9 @@ inline constexpr int iconSize = 18;
 /// The role's colour in the light or dark scheme that is on, at `opacity` from 0 to 1.
 QColor color(Role role, double opacity = 1);
 
+/// The role's colour as the ground of white text; the same in both schemes.
+QColor tileColor(Role role, double opacity = 1);
+
 /// The style scaled from the desktop's own font. `weight` replaces the style's own.
 QFont font(TextStyle style, std::optional<QFont::Weight> weight = std::nullopt);
 

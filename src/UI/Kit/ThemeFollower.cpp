@@ -15,13 +15,13 @@ bool isDark(const QPalette& palette) {
 } // namespace
 
 ThemeFollower::ThemeFollower(std::unique_ptr<Appearance> appearance, QObject* parent)
-    : QObject(parent)
-    , m_appearance(std::move(appearance))
-    , m_paletteIsDark(isDark(QApplication::palette())) {
+    : QObject(parent), m_appearance(std::move(appearance)), m_paletteIsDark(isDark(QApplication::palette())) {
     connect(m_appearance.get(), &Appearance::changed, this, &ThemeFollower::follow);
     follow();
 }
 
 ThemeFollower::~ThemeFollower() = default;
 
-void ThemeFollower::follow() { Theme::apply(m_appearance->prefersDark().value_or(m_paletteIsDark)); }
+void ThemeFollower::follow() {
+    Theme::apply(m_appearance->prefersDark().value_or(m_paletteIsDark));
+}

@@ -49,11 +49,11 @@ void AlertCard::set(const Alert& alert) {
 void AlertCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Role role = severityRole(m_severity);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(role, 0.08), Theme::color(role, 0.35));
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(role, 0.08),
+                       Theme::color(role, 0.35));
 }
 
-HealthyCard::HealthyCard(QWidget* parent)
-    : QWidget(parent) {
+HealthyCard::HealthyCard(QWidget* parent) : QWidget(parent) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
     auto* text = (new TextLabel(TextStyle::body))->secondary();
@@ -71,9 +71,7 @@ void HealthyCard::paintEvent(QPaintEvent*) {
 }
 
 AlertStripView::AlertStripView(QWidget* parent)
-    : QWidget(parent)
-    , m_column(new QVBoxLayout(this))
-    , m_healthy(new HealthyCard) {
+    : QWidget(parent), m_column(new QVBoxLayout(this)), m_healthy(new HealthyCard) {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(m_healthy);

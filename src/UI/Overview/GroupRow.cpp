@@ -28,8 +28,7 @@ constexpr int columnGap = 12;
 
 } // namespace
 
-GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
-    : QAbstractButton(parent) {
+GroupHeader::GroupHeader(ProcGroup group, QWidget* parent) : QAbstractButton(parent) {
     m_rollup.group = group;
     setFixedHeight(headerHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -37,11 +36,14 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     setCursor(Qt::PointingHandCursor);
 }
 
-QSize GroupHeader::sizeHint() const { return {labelWidth + bytesWidth + cpuWidth, headerHeight}; }
+QSize GroupHeader::sizeHint() const {
+    return {labelWidth + bytesWidth + cpuWidth, headerHeight};
+}
 
 void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded) {
     const double share =
-        totalRAM == 0 ? 0 : std::min(1.0, static_cast<double>(rollup.rssBytes) / static_cast<double>(totalRAM));
+        totalRAM == 0 ? 0
+                      : std::min(1.0, static_cast<double>(rollup.rssBytes) / static_cast<double>(totalRAM));
     if (rollup == m_rollup && share == m_share && isExpanded == m_expanded)
         return;
     m_rollup = rollup;
@@ -75,7 +77,8 @@ void GroupHeader::leaveEvent(QEvent* event) {
 void GroupHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (underMouse())
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill), Qt::transparent);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill),
+                           Qt::transparent);
 
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     const auto takeRight = [&line](double width) {
@@ -95,7 +98,8 @@ void GroupHeader::paintEvent(QPaintEvent*) {
 
     painter.setFont(Theme::font(TextStyle::callout));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight, Formatters::bytes(m_rollup.rssBytes));
+    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+                          Formatters::bytes(m_rollup.rssBytes));
 
     paintLabel(painter, QRectF(line.left(), line.top(), labelWidth, line.height()));
     line.setLeft(line.left() + labelWidth + columnGap);

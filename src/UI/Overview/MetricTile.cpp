@@ -16,16 +16,17 @@ namespace {
 
 constexpr int tileHeight = 130;
 
-double lineHeight(const QFont& font) { return std::ceil(QFontMetricsF(font).height()); }
+double lineHeight(const QFont& font) {
+    return std::ceil(QFontMetricsF(font).height());
+}
 
 } // namespace
 
-MetricTile::MetricTile(QWidget* parent)
-    : QWidget(parent)
-    , m_sparkline(new Sparkline(this)) {
+MetricTile::MetricTile(QWidget* parent) : QWidget(parent), m_sparkline(new Sparkline(this)) {
     setMinimumHeight(tileHeight);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding, Theme::cardPadding);
+    column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding,
+                               Theme::cardPadding);
     column->addStretch();
     column->addWidget(m_sparkline);
 }
@@ -40,7 +41,9 @@ void MetricTile::set(const Metric& metric) {
     update();
 }
 
-void MetricTile::tintSparkline() { m_sparkline->set(m_metric.history, Theme::color(m_metric.accent)); }
+void MetricTile::tintSparkline() {
+    m_sparkline->set(m_metric.history, Theme::color(m_metric.accent));
+}
 
 void MetricTile::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange)

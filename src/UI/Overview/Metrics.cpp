@@ -1,31 +1,9 @@
 #include "Core/Formatters.h"
 #include "Core/Models.h"
+#include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
 
-using Theme::Role;
-
 namespace {
-
-/// Red and orange from their thresholds on, green below.
-Role level(double value, double orangeFrom, double redFrom) {
-    if (value >= redFrom)
-        return Role::red;
-    return value >= orangeFrom ? Role::orange : Role::green;
-}
-
-Role thermalRole(ThermalState state) {
-    switch (state) {
-    case ThermalState::nominal:
-        return Role::green;
-    case ThermalState::fair:
-        return Role::yellow;
-    case ThermalState::serious:
-        return Role::orange;
-    case ThermalState::critical:
-        return Role::red;
-    }
-    return Role::green;
-}
 
 template <typename Figure> QList<double> series(const QList<SystemSample>& history, Figure figure) {
     QList<double> points;
@@ -43,7 +21,7 @@ Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
     return {.title = QStringLiteral("CPU"),
             .value = Formatters::percent(sample.cpuPercent),
             .sub = std::nullopt,
-            .accent = level(sample.cpuPercent, 60, 85),
+            .accent = Levels::cpu(sample.cpuPercent),
             .history = series(history, [](const SystemSample& s) { return s.cpuPercent; })};
 }
 
@@ -53,7 +31,7 @@ Metric memory(const SystemSample& sample, const QList<SystemSample>& history) {
             .value = Formatters::percent(used),
             .sub = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
                                                  Formatters::bytes(sample.memTotalBytes)),
-            .accent = level(used, 70, 88),
+            .accent = Levels::memory(used),
             .history = series(history, [](const SystemSample& s) { return s.memUsedPercent(); })};
 }
 
@@ -62,7 +40,7 @@ Metric disk(const SystemSample& sample) {
     return {.title = QStringLiteral("Disk"),
             .value = Formatters::percent(used),
             .sub = QStringLiteral("%1 free").arg(Formatters::bytes(sample.diskFreeBytes)),
-            .accent = level(used, 80, 92),
+            .accent = Levels::disk(used),
             .history = {}};
 }
 
@@ -72,7 +50,7 @@ Metric thermal(const SystemSample& sample) {
             .value = thermalLabel(sample.thermalState),
             .sub = swapping ? QStringLiteral("Swap %1").arg(Formatters::bytes(sample.swapUsedBytes))
                             : QStringLiteral("No swap"),
-            .accent = thermalRole(sample.thermalState),
+            .accent = Levels::thermal(sample.thermalState),
             .history = {}};
 }
 

@@ -24,12 +24,11 @@ TextLabel* heading(const QString& text) {
 } // namespace
 
 OverviewView::OverviewView(AppModel& model, QWidget* parent)
-    : QScrollArea(parent)
-    , m_model(model)
-    , m_alerts(new AlertStripView) {
+    : QScrollArea(parent), m_model(model), m_alerts(new AlertStripView) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding, Theme::pagePadding);
+    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
+                               Theme::pagePadding);
     column->setSpacing(Theme::pageSpacing);
     column->addWidget(heading(QStringLiteral("Live")));
     column->addWidget(m_alerts);

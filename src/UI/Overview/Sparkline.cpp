@@ -4,8 +4,7 @@
 
 #include <algorithm>
 
-Sparkline::Sparkline(QWidget* parent)
-    : QWidget(parent) {
+Sparkline::Sparkline(QWidget* parent) : QWidget(parent) {
     setFixedHeight(32);
 }
 

@@ -6,7 +6,9 @@
 #include <QEvent>
 #include <QWidget>
 
-LinuxDesktopApplication::LinuxDesktopApplication() { qApp->installEventFilter(this); }
+LinuxDesktopApplication::LinuxDesktopApplication() {
+    qApp->installEventFilter(this);
+}
 
 QList<QWidget*> LinuxDesktopApplication::windows() const {
     QList<QWidget*> result;

@@ -7,8 +7,8 @@
 #include <QWindow>
 
 LinuxFloatingPanel::LinuxFloatingPanel()
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                           Qt::WindowDoesNotAcceptFocus) {
+    : QWidget(nullptr,
+              Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_TranslucentBackground, X11Window::isComposited());
@@ -17,7 +17,9 @@ LinuxFloatingPanel::LinuxFloatingPanel()
     frame->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void LinuxFloatingPanel::setContent(QWidget* content) { layout()->addWidget(content); }
+void LinuxFloatingPanel::setContent(QWidget* content) {
+    layout()->addWidget(content);
+}
 
 void LinuxFloatingPanel::placeBottomLeft(QPoint corner) {
     layout()->activate();
@@ -35,7 +37,9 @@ void LinuxFloatingPanel::orderFront() {
     raise();
 }
 
-void LinuxFloatingPanel::orderOut() { hide(); }
+void LinuxFloatingPanel::orderOut() {
+    hide();
+}
 
 void LinuxFloatingPanel::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)

@@ -15,7 +15,9 @@ constexpr int sameClickMs = 250;
 
 } // namespace
 
-LinuxPopover::~LinuxPopover() { delete m_window; }
+LinuxPopover::~LinuxPopover() {
+    delete m_window;
+}
 
 void LinuxPopover::setContent(QWidget* content, QSize size) {
     delete m_window;
@@ -36,7 +38,9 @@ void LinuxPopover::show(QRect anchor) {
     m_window->activateWindow();
 }
 
-void LinuxPopover::close() { m_window->hide(); }
+void LinuxPopover::close() {
+    m_window->hide();
+}
 
 bool LinuxPopover::isShown() const {
     return m_window->isVisible() || (m_sinceClosed.isValid() && m_sinceClosed.elapsed() < sameClickMs);

@@ -4,8 +4,7 @@
 
 using namespace std::chrono_literals;
 
-LinuxStatusItem::LinuxStatusItem(QObject* parent)
-    : StatusItem(parent) {
+LinuxStatusItem::LinuxStatusItem(QObject* parent) : StatusItem(parent) {
     connect(&m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)
             Q_EMIT clicked();
@@ -29,7 +28,9 @@ void LinuxStatusItem::setMenu(QMenu* menu) {
     m_pill.setMenu(menu);
 }
 
-QRect LinuxStatusItem::geometry() const { return m_pill.isVisible() ? m_pill.geometry() : m_tray.geometry(); }
+QRect LinuxStatusItem::geometry() const {
+    return m_pill.isVisible() ? m_pill.geometry() : m_tray.geometry();
+}
 
 void LinuxStatusItem::followTray() {
     const bool hasTray = QSystemTrayIcon::isSystemTrayAvailable();

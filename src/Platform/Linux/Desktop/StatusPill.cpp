@@ -18,8 +18,8 @@ constexpr int screenMargin = 8;
 } // namespace
 
 StatusPill::StatusPill()
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                           Qt::WindowDoesNotAcceptFocus) {
+    : QWidget(nullptr,
+              Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_TranslucentBackground, X11Window::isComposited());
@@ -34,7 +34,9 @@ void StatusPill::setContent(const StatusContent& content) {
     update();
 }
 
-void StatusPill::setMenu(QMenu* menu) { m_menu = menu; }
+void StatusPill::setMenu(QMenu* menu) {
+    m_menu = menu;
+}
 
 void StatusPill::showEvent(QShowEvent* event) {
     X11Window::setOnAllDesktops(this);
@@ -44,10 +46,12 @@ void StatusPill::showEvent(QShowEvent* event) {
 
 /// Keeps the right edge where it is: wider figures grow to the left.
 void StatusPill::fit() {
-    const int content = m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
+    const int content =
+        m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
     const QSize wanted(content + 2 * padding, pillHeight);
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    setGeometry(QRect(QPoint(room.right() + 1 - screenMargin - wanted.width(), room.top() + screenMargin), wanted));
+    setGeometry(
+        QRect(QPoint(room.right() + 1 - screenMargin - wanted.width(), room.top() + screenMargin), wanted));
 }
 
 void StatusPill::paintEvent(QPaintEvent*) {
@@ -57,7 +61,8 @@ void StatusPill::paintEvent(QPaintEvent*) {
     edge.setAlphaF(0.2F);
     painter.setPen(edge);
     painter.setBrush(palette().color(QPalette::Window));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), pillHeight / 2.0, pillHeight / 2.0);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), pillHeight / 2.0,
+                            pillHeight / 2.0);
     painter.setPen(palette().color(QPalette::WindowText));
     if (m_content.title.isEmpty())
         m_content.symbol.paint(&painter, rect().adjusted(padding, 0, -padding, 0));

@@ -19,11 +19,14 @@ xcb_connection_t* connection() {
     return x11 ? x11->connection() : nullptr;
 }
 
-xcb_window_t root() { return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root; }
+xcb_window_t root() {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
 
 xcb_atom_t atom(const QByteArray& name) {
     const auto cookie = xcb_intern_atom(connection(), 0, static_cast<quint16>(name.size()), name.constData());
-    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection(), cookie, nullptr), &std::free);
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection(), cookie, nullptr),
+                                               &std::free);
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
@@ -42,7 +45,9 @@ void sendToRoot(QWidget* window, const QByteArray& message, std::initializer_lis
 
 } // namespace
 
-bool isX11() { return connection() != nullptr; }
+bool isX11() {
+    return connection() != nullptr;
+}
 
 void setOnAllDesktops(QWidget* window) {
     if (!isX11())

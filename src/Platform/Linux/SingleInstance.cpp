@@ -1,0 +1,51 @@
+#include "Platform/SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int answerMs = 1000;
+
+/// Displays may hold slashes; a digest is a file name of fixed length, which socket paths need.
+QString socketPath(const QString& display) {
+    const QByteArray digest = QCryptographicHash::hash(display.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return QStringLiteral("%1/tavrin-%2-%3.socket")
+        .arg(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
+        .arg(getuid())
+        .arg(QString::fromLatin1(digest.left(16)));
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& display, QObject* parent)
+    : QObject(parent), m_socket(socketPath(display)), m_server(new QLocalServer(this)) {
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(m_server, &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket* caller = m_server->nextPendingConnection()) {
+            connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+            Q_EMIT startedAgain();
+        }
+    });
+}
+
+bool SingleInstance::claim() {
+    if (m_server->listen(m_socket))
+        return true;
+    if (askRunningOne())
+        return false;
+    // Left behind by a program that was killed.
+    QLocalServer::removeServer(m_socket);
+    m_server->listen(m_socket);
+    return true;
+}
+
+bool SingleInstance::askRunningOne() const {
+    QLocalSocket socket;
+    socket.connectToServer(m_socket);
+    return socket.waitForConnected(answerMs);
+}

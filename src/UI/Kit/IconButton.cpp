@@ -1,0 +1,77 @@
+#include "UI/Kit/IconButton.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+using Theme::Role;
+
+namespace {
+
+constexpr int side = 26;
+constexpr int symbolSize = 18;
+constexpr int textPadding = 8;
+
+void drawBackground(QPainter& painter, const QAbstractButton& button) {
+    if (button.isDown() || button.underMouse())
+        Painting::drawCard(painter, button.rect(), Theme::controlRadius, Theme::color(Role::hoverFill),
+                           Qt::transparent);
+    if (button.hasFocus())
+        Painting::drawFocusRing(painter, button.rect(), Theme::controlRadius);
+}
+
+} // namespace
+
+IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* parent)
+    : QAbstractButton(parent), m_symbol(std::move(symbol)), m_tint(tint) {
+    setToolTip(help);
+    setAccessibleName(help);
+    setFixedSize(side, side);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+QSize IconButton::sizeHint() const {
+    return {side, side};
+}
+
+void IconButton::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void IconButton::leaveEvent(QEvent*) {
+    update();
+}
+
+void IconButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawBackground(painter, *this);
+    const QColor tint = Theme::color(m_tint, isEnabled() ? 1 : 0.4);
+    Symbols::draw(painter, m_symbol, tint, rect(), symbolSize);
+}
+
+TextButton::TextButton(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+    setText(text);
+    setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize TextButton::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()) + 2 * textPadding, side};
+}
+
+void TextButton::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void TextButton::leaveEvent(QEvent*) {
+    update();
+}
+
+void TextButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawBackground(painter, *this);
+    painter.setPen(Theme::color(Role::accent));
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}

@@ -1,0 +1,54 @@
+#include "UI/Kit/PanelRow.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int gap = 8;
+constexpr int verticalPadding = 3;
+
+} // namespace
+
+PanelRow::PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent)
+    : QWidget(parent), m_style(style), m_symbolWidth(symbolWidth) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void PanelRow::set(const Content& content) {
+    if (content == m_content)
+        return;
+    m_content = content;
+    m_content.text = Formatters::visible(content.text);
+    setAccessibleName(QStringLiteral("%1 %2").arg(m_content.text, m_content.figure).trimmed());
+    update();
+}
+
+QSize PanelRow::sizeHint() const {
+    const double line = std::ceil(QFontMetricsF(Theme::font(m_style)).height());
+    return {120, std::max(m_symbolWidth, static_cast<int>(line)) + 2 * verticalPadding};
+}
+
+void PanelRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRectF line(rect());
+    const QRectF symbol(line.left(), line.top(), m_symbolWidth, line.height());
+    Symbols::draw(painter, m_content.symbol, Theme::color(m_content.tint), symbol, m_symbolWidth);
+    line.setLeft(symbol.right() + gap);
+
+    painter.setFont(Theme::font(Theme::TextStyle::caption));
+    painter.setPen(Theme::color(Theme::Role::secondaryText));
+    Painting::drawTabular(painter, line, Qt::AlignRight, m_content.figure);
+    if (!m_content.figure.isEmpty())
+        line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_content.figure) - gap);
+
+    painter.setFont(Theme::font(m_style));
+    painter.setPen(Theme::color(m_content.textRole));
+    Painting::drawElided(painter, line, Qt::ElideMiddle, m_content.text);
+}

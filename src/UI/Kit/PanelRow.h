@@ -1,0 +1,36 @@
+#pragma once
+
+#include "UI/Kit/Theme.h"
+
+#include <QWidget>
+
+/// One line of a small panel: a symbol, a text, and a figure at the trailing end.
+class PanelRow : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Content {
+        QString symbol;
+        Theme::Role tint = Theme::Role::secondaryText;
+        QString text;
+        Theme::Role textRole = Theme::Role::primaryText;
+        QString figure;
+
+        bool operator==(const Content&) const = default;
+    };
+
+    /// `symbolWidth` is the column that the symbol is centred in.
+    PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent = nullptr);
+
+    void set(const Content& content);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Theme::TextStyle m_style;
+    int m_symbolWidth;
+    Content m_content;
+};

@@ -1,0 +1,107 @@
+#include "UI/MenuBar.h"
+
+#include "AppModel.h"
+#include "Core/Observe.h"
+#include "Platform/Desktop/Popover.h"
+#include "Platform/Desktop/StatusItem.h"
+#include "UI/Kit/FigureIcon.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/MainWindowFinder.h"
+#include "UI/MenuBarPanel.h"
+
+#include <QApplication>
+
+#include <cmath>
+
+namespace {
+
+constexpr QSize panelSize(320, 360);
+constexpr int symbolSize = 16;
+
+int rounded(double percent) {
+    return static_cast<int>(std::lround(percent));
+}
+
+QStringList figures(MenuBarFormat format, const SystemSample& sample) {
+    const QString cpu = QString::number(rounded(sample.cpuPercent));
+    const QString ram = QString::number(rounded(sample.memUsedPercent()));
+    switch (format) {
+    case MenuBarFormat::both:
+        return {cpu, ram};
+    case MenuBarFormat::cpuOnly:
+        return {cpu};
+    case MenuBarFormat::ramOnly:
+        return {ram};
+    case MenuBarFormat::iconOnly:
+        return {};
+    }
+    return {};
+}
+
+} // namespace
+
+MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, Desktop desktop,
+                                     WidgetWindow& widget, QObject* parent)
+    : QObject(parent), m_model(model), m_preferences(preferences), m_desktop(std::move(desktop)) {
+    buildMenu();
+    m_desktop.statusItem->show({.title = QStringLiteral("•••"),
+                                .symbol = {},
+                                .compact = FigureIcon::make({}),
+                                .toolTip = QStringLiteral("Tavrin")});
+    connect(m_desktop.statusItem.get(), &StatusItem::clicked, this, &MenuBarController::togglePopover);
+
+    auto* panel = new MenuBarPanel(m_model, widget);
+    connect(panel, &MenuBarPanel::openMainWindow, this, &MenuBarController::openMainWindow);
+    m_desktop.popover->setContent(panel, panelSize);
+
+    const auto redraw = [this] { update(m_model.systemSample()); };
+    observe(&m_model, this, redraw);
+    observe(&m_preferences, this, redraw);
+}
+
+void MenuBarController::buildMenu() {
+    m_menu.addAction(QStringLiteral("Open"), this, &MenuBarController::openMainWindow);
+    m_menu.addSeparator();
+    m_menu.addAction(QStringLiteral("Quit"), Qt::CTRL | Qt::Key_Q, qApp, &QCoreApplication::quit);
+    m_desktop.statusItem->setMenu(&m_menu);
+}
+
+QString MenuBarController::title(MenuBarFormat format, const SystemSample& sample) {
+    const int cpu = rounded(sample.cpuPercent);
+    const int ram = rounded(sample.memUsedPercent());
+    switch (format) {
+    case MenuBarFormat::both:
+        return QStringLiteral("CPU %1% • RAM %2%").arg(cpu).arg(ram);
+    case MenuBarFormat::cpuOnly:
+        return QStringLiteral("CPU %1%").arg(cpu);
+    case MenuBarFormat::ramOnly:
+        return QStringLiteral("RAM %1%").arg(ram);
+    case MenuBarFormat::iconOnly:
+        return {};
+    }
+    return {};
+}
+
+void MenuBarController::update(const SystemSample& sample) {
+    const MenuBarFormat format = m_preferences.menuBarFormat();
+    const QPixmap symbol =
+        Symbols::pixmap(QStringLiteral("waveform.path.ecg"), Theme::color(Theme::Role::primaryText),
+                        symbolSize, qApp->devicePixelRatio());
+    const bool iconOnly = format == MenuBarFormat::iconOnly;
+    m_desktop.statusItem->show({.title = title(format, sample),
+                                .symbol = iconOnly ? QIcon(symbol) : QIcon(),
+                                .compact = FigureIcon::make(figures(format, sample)),
+                                .toolTip = iconOnly ? QStringLiteral("Tavrin") : title(format, sample)});
+}
+
+void MenuBarController::togglePopover() {
+    if (m_desktop.popover->isShown())
+        m_desktop.popover->close();
+    else
+        m_desktop.popover->show(m_desktop.statusItem->geometry());
+}
+
+void MenuBarController::openMainWindow() {
+    m_desktop.popover->close();
+    MainWindowFinder::open(*m_desktop.application, MainWindowFinder::Fallback::anyWindow);
+}

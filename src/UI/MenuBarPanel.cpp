@@ -1,0 +1,169 @@
+#include "UI/MenuBarPanel.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+#include "Core/Observe.h"
+#include "UI/Kit/Divider.h"
+#include "UI/Kit/FigureColumn.h"
+#include "UI/Kit/IconButton.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/PanelRow.h"
+#include "UI/Kit/TextLabel.h"
+#include "UI/Widget.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int symbolWidth = 16;
+constexpr int padding = 14;
+constexpr int spacing = 8;
+
+TextLabel* caption(const QString& text) {
+    auto* label = (new TextLabel(TextStyle::caption))->secondary();
+    label->setPlainText(text);
+    return label;
+}
+
+/// One row a record, made on first need and hidden beyond the records there are.
+template <typename MakeContent>
+void showRows(QList<PanelRow*>& rows, qsizetype count, MakeContent makeContent) {
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        if (i < count)
+            rows[i]->set(makeContent(i));
+        rows[i]->setVisible(i < count);
+    }
+}
+
+PanelRow::Content contentOf(const ProcSample& process) {
+    return {.symbol = groupSymbol(process.group),
+            .tint = Role::accent,
+            .text = process.name,
+            .textRole = Role::primaryText,
+            .figure = Formatters::bytes(process.rssBytes)};
+}
+
+PanelRow::Content contentOf(const Alert& alert) {
+    const bool danger = alert.severity == Alert::Severity::danger;
+    const Role role = danger ? Role::red : Role::orange;
+    return {.symbol = danger ? QStringLiteral("exclamationmark.octagon")
+                             : QStringLiteral("exclamationmark.triangle"),
+            .tint = role,
+            .text = alert.title,
+            .textRole = role,
+            .figure = {}};
+}
+
+} // namespace
+
+MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* parent)
+    : QWidget(parent), m_model(model), m_widget(widget), m_alertSection(new QWidget) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, 10, padding, padding);
+    column->setSpacing(spacing);
+    column->addLayout(makeHeader());
+    column->addWidget(new Divider);
+    column->addLayout(makeStatistics());
+    column->addWidget(new Divider);
+    column->addWidget(caption(QStringLiteral("Top 5 by RAM")));
+    auto* processes = new QVBoxLayout;
+    processes->setSpacing(0);
+    for (qsizetype i = 0; i < shownProcesses; ++i) {
+        m_processRows.append(new PanelRow(TextStyle::callout, symbolWidth));
+        processes->addWidget(m_processRows.last());
+    }
+    column->addLayout(processes);
+
+    auto* alerts = new QVBoxLayout(m_alertSection);
+    alerts->setContentsMargins(0, 0, 0, 0);
+    alerts->setSpacing(spacing);
+    alerts->addWidget(new Divider);
+    alerts->addWidget(caption(QStringLiteral("Alerts")));
+    auto* alertRows = new QVBoxLayout;
+    alertRows->setSpacing(0);
+    for (qsizetype i = 0; i < shownAlerts; ++i) {
+        m_alertRows.append(new PanelRow(TextStyle::caption, symbolWidth));
+        alertRows->addWidget(m_alertRows.last());
+    }
+    alerts->addLayout(alertRows);
+    column->addWidget(m_alertSection);
+    column->addStretch();
+
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* MenuBarPanel::makeHeader() {
+    auto* title = new TextLabel(TextStyle::headline);
+    title->setPlainText(QStringLiteral("Tavrin"));
+    auto* widgetButton =
+        new IconButton(QStringLiteral("rectangle.on.rectangle"), QStringLiteral("Toggle floating widget"));
+    connect(widgetButton, &IconButton::clicked, this, [this] { m_widget.toggle(m_model); });
+    auto* open = new TextButton(QStringLiteral("Open"));
+    connect(open, &TextButton::clicked, this, &MenuBarPanel::openMainWindow);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    row->addWidget(title);
+    row->addStretch();
+    row->addWidget(widgetButton);
+    row->addWidget(open);
+    return row;
+}
+
+QLayout* MenuBarPanel::makeStatistics() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    const QStringList labels{QStringLiteral("CPU"), QStringLiteral("RAM"), QStringLiteral("Disk"),
+                             QStringLiteral("Therm")};
+    for (std::size_t i = 0; i < m_statistics.size(); ++i) {
+        m_statistics[i] = new FigureColumn(labels[static_cast<qsizetype>(i)]);
+        row->addWidget(m_statistics[i], 1);
+    }
+    return row;
+}
+
+void MenuBarPanel::showEvent(QShowEvent* event) {
+    refresh();
+    QWidget::showEvent(event);
+}
+
+void MenuBarPanel::refresh() {
+    if (!isOnScreen(this))
+        return;
+    refreshStatistics();
+    refreshProcesses();
+    refreshAlerts();
+}
+
+void MenuBarPanel::refreshStatistics() {
+    const SystemSample& sample = m_model.systemSample();
+    m_statistics[0]->setFigure(Formatters::percent(sample.cpuPercent));
+    m_statistics[1]->setFigure(Formatters::percent(sample.memUsedPercent()));
+    m_statistics[2]->setFigure(Formatters::percent(sample.diskUsedPercent()));
+    m_statistics[3]->setFigure(thermalLabel(sample.thermalState));
+}
+
+void MenuBarPanel::refreshProcesses() {
+    const QList<ProcSample>& processes = m_model.processes();
+    showRows(m_processRows, processes.size(), [&](qsizetype i) { return contentOf(processes[i]); });
+}
+
+void MenuBarPanel::refreshAlerts() {
+    const QList<Alert>& alerts = m_model.alerts();
+    m_alertSection->setVisible(!alerts.isEmpty());
+    showRows(m_alertRows, alerts.size(), [&](qsizetype i) { return contentOf(alerts[i]); });
+}
+
+void MenuBarPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::color(Role::windowFill));
+    painter.setPen(Theme::color(Role::cardBorder));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class AppModel;
+class FigureColumn;
+class PanelRow;
+class WidgetWindow;
+
+/// The content of the status item's popover: the machine at a glance, the five largest processes, up to
+/// three alerts, and the ways to the floating widget and the main window.
+class MenuBarPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr qsizetype shownProcesses = 5;
+    static constexpr qsizetype shownAlerts = 3;
+
+    MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    void openMainWindow();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLayout* makeHeader();
+    QLayout* makeStatistics();
+    void refresh();
+    void refreshStatistics();
+    void refreshProcesses();
+    void refreshAlerts();
+
+    AppModel& m_model;
+    WidgetWindow& m_widget;
+    std::array<FigureColumn*, 4> m_statistics{};
+    QList<PanelRow*> m_processRows;
+    QWidget* m_alertSection;
+    QList<PanelRow*> m_alertRows;
+};

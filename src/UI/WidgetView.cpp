@@ -1,0 +1,239 @@
+#include "UI/WidgetView.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+#include "Core/Observe.h"
+#include "UI/Kit/Divider.h"
+#include "UI/Kit/IconButton.h"
+#include "UI/Kit/Levels.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/PanelRow.h"
+#include "UI/Kit/Severity.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QGridLayout>
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int padding = 12;
+constexpr int spacing = 10;
+constexpr int tileSpacing = 8;
+constexpr double cornerRadius = 14;
+constexpr int groupSymbolWidth = 14;
+
+} // namespace
+
+WidgetView::WidgetView(AppModel& model, QWidget* parent)
+    : QWidget(parent), m_model(model), m_alertSection(makeAlert()) {
+    setFixedWidth(cardWidth);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(spacing);
+    column->addLayout(makeHeader());
+    column->addLayout(makeGrid());
+    column->addWidget(new Divider);
+    column->addLayout(makeGroups());
+    column->addWidget(m_alertSection);
+    column->addStretch();
+    setHover(false);
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* WidgetView::makeHeader() {
+    auto* symbol = new SymbolView(16, 16);
+    symbol->set(QStringLiteral("waveform.path.ecg"), Role::accent);
+    auto* name = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();
+    name->setPlainText(QStringLiteral("Tavrin"));
+    m_open = new IconButton(QStringLiteral("arrow.up.left.and.arrow.down.right"),
+                            QStringLiteral("Open dashboard"));
+    m_hide = new IconButton(QStringLiteral("xmark.circle.fill"), QStringLiteral("Hide widget"));
+    connect(m_open, &IconButton::clicked, this, &WidgetView::openMain);
+    connect(m_hide, &IconButton::clicked, this, &WidgetView::close);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    row->addWidget(symbol);
+    row->addWidget(name);
+    row->addStretch();
+    for (IconButton* button : {m_open, m_hide}) {
+        // Keeps its room while hidden, so that the card does not change under the pointer.
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+        row->addWidget(button);
+    }
+    return row;
+}
+
+QLayout* WidgetView::makeGrid() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(tileSpacing);
+    const QStringList titles{QStringLiteral("CPU"), QStringLiteral("RAM"), QStringLiteral("Disk free"),
+                             QStringLiteral("Therm")};
+    for (int i = 0; i < 4; ++i) {
+        auto* tile = new MiniTile(titles[i]);
+        m_tiles[static_cast<std::size_t>(i)] = tile;
+        grid->addWidget(tile, i / 2, i % 2);
+        grid->setColumnStretch(i % 2, 1);
+    }
+    return grid;
+}
+
+QLayout* WidgetView::makeGroups() {
+    auto* heading = (new TextLabel(TextStyle::caption2))->secondary();
+    heading->setPlainText(QStringLiteral("Groups (RAM)"));
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(heading);
+    for (qsizetype i = 0; i < shownGroups; ++i) {
+        m_groupRows.append(new PanelRow(TextStyle::caption, groupSymbolWidth));
+        column->addWidget(m_groupRows.last());
+    }
+    return column;
+}
+
+QWidget* WidgetView::makeAlert() {
+    m_alert = new PanelRow(TextStyle::caption, groupSymbolWidth);
+    m_more = (new TextLabel(TextStyle::caption2))->secondary();
+    auto* section = new QWidget;
+    auto* column = new QVBoxLayout(section);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(new Divider);
+    column->addWidget(m_alert);
+    column->addWidget(m_more);
+    return section;
+}
+
+void WidgetView::showEvent(QShowEvent* event) {
+    refresh();
+    QWidget::showEvent(event);
+}
+
+void WidgetView::enterEvent(QEnterEvent*) {
+    setHover(true);
+}
+
+void WidgetView::leaveEvent(QEvent*) {
+    setHover(false);
+}
+
+void WidgetView::setHover(bool hover) {
+    m_open->setVisible(hover);
+    m_hide->setVisible(hover);
+}
+
+void WidgetView::refresh() {
+    if (!isOnScreen(this))
+        return;
+    refreshGrid();
+    refreshGroups();
+    refreshAlert();
+}
+
+void WidgetView::refreshGrid() {
+    const SystemSample& sample = m_model.systemSample();
+    const double used = sample.memUsedPercent();
+    m_tiles[0]->set(Formatters::percent(sample.cpuPercent), Levels::cpu(sample.cpuPercent));
+    m_tiles[1]->set(Formatters::percent(used), Levels::memory(used));
+    m_tiles[2]->set(shortBytes(sample.diskFreeBytes), Role::blue);
+    m_tiles[3]->set(thermalLabel(sample.thermalState), Levels::thermal(sample.thermalState));
+}
+
+void WidgetView::refreshGroups() {
+    QList<GroupRollup> groups = m_model.groups();
+    std::stable_sort(groups.begin(), groups.end(),
+                     [](const GroupRollup& a, const GroupRollup& b) { return a.rssBytes > b.rssBytes; });
+    for (qsizetype i = 0; i < m_groupRows.size(); ++i) {
+        const bool shown = i < groups.size();
+        if (shown) {
+            m_groupRows[i]->set({.symbol = groupSymbol(groups[i].group),
+                                 .tint = Role::secondaryText,
+                                 .text = rawValue(groups[i].group),
+                                 .textRole = Role::primaryText,
+                                 .figure = Formatters::bytes(groups[i].rssBytes)});
+        }
+        m_groupRows[i]->setVisible(shown);
+    }
+}
+
+void WidgetView::refreshAlert() {
+    const QList<Alert>& alerts = m_model.alerts();
+    m_alertSection->setVisible(!alerts.isEmpty());
+    if (alerts.isEmpty())
+        return;
+    m_alert->set({.symbol = severitySymbol(alerts.first().severity),
+                  .tint = severityRole(alerts.first().severity),
+                  .text = alerts.first().title,
+                  .textRole = Role::primaryText,
+                  .figure = {}});
+    const qsizetype more = alerts.size() - 1;
+    m_more->setPlainText(QStringLiteral("+ %1 more alert%2").arg(more).arg(more == 1 ? u"" : u"s"));
+    m_more->setVisible(more > 0);
+}
+
+QString WidgetView::shortBytes(quint64 bytes) {
+    constexpr double MiB = 1048576;
+    constexpr double GiB = 1073741824;
+    const auto count = static_cast<double>(bytes);
+    if (count / GiB >= 1)
+        return QStringLiteral("%1G").arg(count / GiB, 0, 'f', 0);
+    return QStringLiteral("%1M").arg(count / MiB, 0, 'f', 0);
+}
+
+void WidgetView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool translucent = window()->testAttribute(Qt::WA_TranslucentBackground);
+    if (!translucent)
+        painter.fillRect(rect(), Theme::color(Role::windowFill));
+    Painting::drawCard(painter, rect(), cornerRadius, Theme::color(Role::windowFill, translucent ? 0.92 : 1),
+                       Theme::color(Role::cardBorder));
+}
+
+MiniTile::MiniTile(QString title, QWidget* parent) : QWidget(parent), m_title(std::move(title)) {
+    setFixedHeight(58);
+}
+
+void MiniTile::set(const QString& value, Role role) {
+    if (value == m_value && role == m_role)
+        return;
+    m_value = value;
+    m_role = role;
+    setAccessibleName(QStringLiteral("%1 %2").arg(m_title, m_value));
+    update();
+}
+
+void MiniTile::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient gradient(rect().topLeft(), rect().bottomRight());
+    gradient.setColorAt(0, Theme::tileColor(m_role));
+    gradient.setColorAt(1, Theme::tileColor(m_role, 0.78));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gradient);
+    painter.drawRoundedRect(rect(), Theme::cardRadius, Theme::cardRadius);
+
+    QRectF line = QRectF(rect()).adjusted(12, 9, -12, 0);
+    painter.setFont(Theme::font(TextStyle::caption2, QFont::Bold));
+    painter.setPen(QColor(255, 255, 255, 217));
+    line.setHeight(QFontMetricsF(painter.font()).height());
+    Painting::drawElided(painter, line, Qt::ElideRight, m_title);
+
+    line.translate(0, line.height() + 2);
+    QFont font = Theme::font(TextStyle::title, QFont::Black);
+    const double natural = Painting::tabularWidth(font, m_value);
+    if (natural > line.width())
+        font.setPointSizeF(font.pointSizeF() * std::max(0.5, line.width() / natural));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    line.setBottom(rect().bottom() - 6);
+    Painting::drawTabular(painter, line, Qt::AlignLeft, m_value);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "UI/Kit/Theme.h"
+
+#include <QWidget>
+
+#include <array>
+
+class AppModel;
+class IconButton;
+class MiniTile;
+class PanelRow;
+class TextLabel;
+class QVBoxLayout;
+
+/// The card of the floating widget.
+class WidgetView : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int cardWidth = 240;
+    static constexpr qsizetype shownGroups = 3;
+
+    explicit WidgetView(AppModel& model, QWidget* parent = nullptr);
+
+    /// Whole gigabytes from one on, else whole megabytes: "12G", "512M".
+    static QString shortBytes(quint64 bytes);
+
+Q_SIGNALS:
+    void close();
+    void openMain();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    QLayout* makeHeader();
+    QLayout* makeGrid();
+    QLayout* makeGroups();
+    QWidget* makeAlert();
+    void refresh();
+    void refreshGrid();
+    void refreshGroups();
+    void refreshAlert();
+    void setHover(bool hover);
+
+    AppModel& m_model;
+    IconButton* m_open;
+    IconButton* m_hide;
+    std::array<MiniTile*, 4> m_tiles{};
+    QList<PanelRow*> m_groupRows;
+    QWidget* m_alertSection;
+    PanelRow* m_alert;
+    TextLabel* m_more;
+};
+
+/// A figure on a coloured gradient.
+class MiniTile : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MiniTile(QString title, QWidget* parent = nullptr);
+
+    void set(const QString& value, Theme::Role role);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_title;
+    QString m_value;
+    Theme::Role m_role = Theme::Role::green;
+};
