@@ -1,6 +1,7 @@
 #include "UI/RootView.h"
 
 #include "UI/Kit/SidebarDelegate.h"
+#include "UI/Kit/TextLabel.h"
 #include "UI/Kit/Theme.h"
 #include "UI/Overview/OverviewView.h"
 
@@ -16,6 +17,7 @@ constexpr int sidebarMinimum = 180;
 constexpr int sidebarIdeal = 200;
 constexpr int sidebarMaximum = 220;
 constexpr int sidebarTopMargin = 12;
+constexpr int titleTopMargin = 16;
 
 } // namespace
 
@@ -54,7 +56,7 @@ RootView::RootView(AppModel& model, QWidget* parent)
     split->setChildrenCollapsible(false);
     split->setHandleWidth(1);
     split->addWidget(sidebarPane);
-    split->addWidget(m_sections);
+    split->addWidget(makeDetail());
     split->setStretchFactor(1, 1);
     split->setSizes({sidebarIdeal, minimumContent.width() - sidebarIdeal});
 
@@ -62,10 +64,27 @@ RootView::RootView(AppModel& model, QWidget* parent)
     frame->setContentsMargins(0, 0, 0, 0);
     frame->addWidget(split);
 
-    connect(m_sidebar, &QListWidget::currentRowChanged, m_sections, &QStackedWidget::setCurrentIndex);
+    connect(m_sidebar, &QListWidget::currentRowChanged, this, &RootView::showSection);
     addSection(Tab::overview, new OverviewView(model));
     tintSidebar();
     select(Tab::overview);
+}
+
+/// The selected section under its title.
+QWidget* RootView::makeDetail() {
+    auto* detail = new QWidget;
+    auto* column = new QVBoxLayout(detail);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    m_title->setContentsMargins(Theme::pagePadding, titleTopMargin, Theme::pagePadding, 0);
+    column->addWidget(m_title);
+    column->addWidget(m_sections, 1);
+    return detail;
+}
+
+void RootView::showSection(int row) {
+    m_sections->setCurrentIndex(row);
+    m_title->setPlainText(rawValue(tab()));
 }
 
 void RootView::addSection(Tab tab, QWidget* section) {

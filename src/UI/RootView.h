@@ -9,6 +9,7 @@
 class AppModel;
 class QListWidget;
 class QStackedWidget;
+class TextLabel;
 
 /// The content of the main window: a sidebar of sections and, beside it, the selected one.
 class RootView : public QWidget {
@@ -28,10 +29,13 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QWidget* makeDetail();
+    void showSection(int row);
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();
 
     QListWidget* m_sidebar;
+    TextLabel* m_title;
     QStackedWidget* m_sections;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QMargins>
 
 #include <optional>
 
@@ -34,6 +35,9 @@ enum class TextStyle { largeTitle, title, title2, title3, headline, body, callou
 
 // Points at 1x, which are device-independent pixels here.
 inline constexpr int pagePadding = 20;
+inline constexpr int scrollBarRoom = 12;
+/// Of a scrolling page: its scroll bar stands in the right padding.
+inline constexpr QMargins pageMargins(pagePadding, pagePadding, pagePadding - scrollBarRoom, pagePadding);
 inline constexpr int pageSpacing = 20;
 inline constexpr int gridSpacing = 16;
 inline constexpr int cardPadding = 14;

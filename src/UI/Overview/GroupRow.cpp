@@ -32,7 +32,7 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent) : QAbstractButton(par
     m_rollup.group = group;
     setFixedHeight(headerHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
 }
 

@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "Core/Observe.h"
 #include "UI/Kit/OnScreen.h"
+#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/GroupRow.h"
@@ -27,8 +28,7 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     : QScrollArea(parent), m_model(model), m_alerts(new AlertStripView) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
+    column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(Theme::pageSpacing);
     column->addWidget(heading(QStringLiteral("Live")));
     column->addWidget(m_alerts);
@@ -39,7 +39,7 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     setWidget(page);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    SlimScrollBar::install(this);
     setAccessibleName(QStringLiteral("Overview"));
 
     observe(&m_model, this, [this] { refresh(); });

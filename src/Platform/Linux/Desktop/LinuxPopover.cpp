@@ -36,6 +36,7 @@ void LinuxPopover::show(QRect anchor) {
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
+    m_window->setFocus(); // no control of the content looks chosen before Tab picks one
 }
 
 void LinuxPopover::close() {

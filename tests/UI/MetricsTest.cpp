@@ -1,0 +1,88 @@
+#include "Core/Models.h"
+#include "UI/Overview/MetricTile.h"
+#include "UI/Overview/Sparkline.h"
+
+#include <gtest/gtest.h>
+
+using Theme::Role;
+
+namespace {
+
+constexpr quint64 GiB = quint64(1) << 30;
+
+SystemSample withCpu(double percent) {
+    SystemSample sample;
+    sample.cpuPercent = percent;
+    return sample;
+}
+
+SystemSample withMemory(double percent) {
+    SystemSample sample;
+    sample.memTotalBytes = 100000;
+    sample.memUsedBytes = static_cast<quint64>(percent * 1000);
+    return sample;
+}
+
+SystemSample withDisk(double usedPercent) {
+    SystemSample sample;
+    sample.diskTotalBytes = 100000;
+    sample.diskFreeBytes = static_cast<quint64>((100 - usedPercent) * 1000);
+    return sample;
+}
+
+} // namespace
+
+TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
+    struct Case {
+        Metric metric;
+        const char16_t* value;
+        Role accent;
+    };
+    const Case cases[] = {
+        {Metrics::cpu(withCpu(59.9), {}), u"60%", Role::green},
+        {Metrics::cpu(withCpu(60), {}), u"60%", Role::orange},
+        {Metrics::cpu(withCpu(84.9), {}), u"85%", Role::orange},
+        {Metrics::cpu(withCpu(85), {}), u"85%", Role::red},
+        {Metrics::memory(withMemory(69.9), {}), u"70%", Role::green},
+        {Metrics::memory(withMemory(70), {}), u"70%", Role::orange},
+        {Metrics::memory(withMemory(88), {}), u"88%", Role::red},
+        {Metrics::memory(SystemSample(), {}), u"0%", Role::green},
+        {Metrics::disk(withDisk(79.9)), u"80%", Role::green},
+        {Metrics::disk(withDisk(80)), u"80%", Role::orange},
+        {Metrics::disk(withDisk(92)), u"92%", Role::red},
+        {Metrics::disk(SystemSample()), u"0%", Role::green},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(c.metric.value, QString::fromUtf16(c.value)) << qPrintable(c.metric.title);
+        EXPECT_EQ(c.metric.accent, c.accent) << qPrintable(c.metric.title) << qPrintable(c.metric.value);
+    }
+}
+
+TEST(Metrics, SecondLinesTellSizesAndSwap) {
+    SystemSample sample;
+    sample.memUsedBytes = GiB * 3 / 2;
+    sample.memTotalBytes = 8 * GiB;
+    sample.diskFreeBytes = 512 * GiB / 1024;
+    EXPECT_EQ(Metrics::memory(sample, {}).sub, QStringLiteral("1.5 GB / 8 GB"));
+    EXPECT_EQ(Metrics::disk(sample).sub, QStringLiteral("512 MB free"));
+    EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("No swap"));
+    sample.swapUsedBytes = 2 * GiB;
+    sample.thermalState = ThermalState::serious;
+    EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("Swap 2 GB"));
+    EXPECT_EQ(Metrics::thermal(sample).value, QStringLiteral("Hot"));
+    EXPECT_EQ(Metrics::thermal(sample).accent, Role::orange);
+}
+
+TEST(Metrics, HistoryGivesOnePointASampleAndZeroWithoutATotal) {
+    const QList<SystemSample> history{withMemory(25), SystemSample(), withMemory(50)};
+    EXPECT_EQ(Metrics::memory(withMemory(50), history).history, (QList<double>{25, 0, 50}));
+    EXPECT_EQ(Metrics::cpu(withCpu(5), {withCpu(1), withCpu(2)}).history, (QList<double>{1, 2}));
+}
+
+TEST(Sparkline, ScalesToItsLargestValueButAtLeastOne) {
+    const QSizeF size(90, 30);
+    EXPECT_TRUE(Sparkline::points({}, size).isEmpty());
+    EXPECT_TRUE(Sparkline::points({5}, size).isEmpty());
+    EXPECT_EQ(Sparkline::points({0, 50}, size), (QPolygonF{{0, 30}, {90, 0}}));
+    EXPECT_EQ(Sparkline::points({0, 0.5, 0, 0.5}, size), (QPolygonF{{0, 30}, {30, 15}, {60, 30}, {90, 15}}));
+}

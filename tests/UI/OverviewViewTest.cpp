@@ -1,0 +1,113 @@
+#include "UI/Overview/OverviewView.h"
+
+#include "UI/Kit/TextLabel.h"
+#include "UI/ModelFixture.h"
+#include "UI/Overview/AlertStripView.h"
+#include "UI/Overview/GroupRow.h"
+#include "UI/Overview/MetricTile.h"
+#include "UI/Overview/ProcessRow.h"
+
+#include <QTest>
+
+namespace {
+
+struct OverviewViewTest : ModelFixture {
+    OverviewView view{model};
+
+    void show() {
+        view.resize(800, 700);
+        view.show();
+        tick();
+    }
+    GroupHeader* header(ProcGroup group) {
+        return view.findChildren<GroupHeader*>().at(static_cast<qsizetype>(group));
+    }
+    void click(ProcGroup group) { QTest::mouseClick(header(group), Qt::LeftButton); }
+    QStringList rows() { return shownNames<ProcessRow>(view); }
+    bool shows(const QString& text) {
+        for (const auto* label : view.findChildren<TextLabel*>()) {
+            if (label->isVisibleTo(&view) && label->text() == text)
+                return true;
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(OverviewViewTest, FiguresCanBeReadByAccessibleName) {
+    fakes.host->physical = 1000 * 4096;
+    addProcesses(2, "chrome", quint64(512) << 20);
+    show();
+    EXPECT_EQ(shownNames<MetricTile>(view),
+              (QStringList{QStringLiteral("CPU 0%"), QStringLiteral("Memory 25%"), QStringLiteral("Disk 60%"),
+                           QStringLiteral("Thermal Cool")}));
+    EXPECT_EQ(header(ProcGroup::browsers)->accessibleName(), QStringLiteral("Browsers (2), 1 GB, 0% CPU"));
+}
+
+TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {
+    addProcesses(3, "chrome", 10);
+    addProcesses(1, "bash", 20);
+    show();
+    EXPECT_TRUE(rows().isEmpty());
+    click(ProcGroup::browsers);
+    EXPECT_EQ(rows().size(), 3);
+    tick();
+    EXPECT_EQ(rows().size(), 3);
+    click(ProcGroup::terminals);
+    EXPECT_EQ(rows(), QStringList{QStringLiteral("103 bash, CPU 0%, memory 20 bytes")});
+    QTest::keyClick(header(ProcGroup::terminals), Qt::Key_Return);
+    EXPECT_TRUE(rows().isEmpty());
+    QTest::keyClick(header(ProcGroup::terminals), Qt::Key_Space);
+    EXPECT_EQ(rows().size(), 1);
+}
+
+TEST_F(OverviewViewTest, FiftyMembersAreShownAndTheRestCounted) {
+    addProcesses(51, "chrome", 10);
+    show();
+    click(ProcGroup::browsers);
+    EXPECT_EQ(rows().size(), 50);
+    EXPECT_TRUE(shows(QStringLiteral("… +1 more in Processes tab")));
+    fakes.processes->remove(100);
+    tick();
+    EXPECT_EQ(rows().size(), 50);
+    EXPECT_FALSE(shows(QStringLiteral("… +1 more in Processes tab")));
+    EXPECT_FALSE(shows(QStringLiteral("… +0 more in Processes tab")));
+}
+
+TEST_F(OverviewViewTest, NamesFromOutsideArePlainText) {
+    addProcesses(1, "<b>bold</b>\nnew\xe2\x80\xae", 10);
+    show();
+    click(ProcGroup::other);
+    EXPECT_EQ(rows().value(0), QStringLiteral("100 <b>bold</b>\u240anew\ufffd, CPU 0%, memory 10 bytes"));
+}
+
+TEST_F(OverviewViewTest, AlertsReplaceTheHealthyCardAndBack) {
+    show();
+    EXPECT_TRUE(shows(QStringLiteral("System looks healthy.")));
+    fakes.host->physical = quint64(1) << 30;
+    fakes.host->swap = quint64(5) << 30;
+    tick();
+    EXPECT_FALSE(shows(QStringLiteral("System looks healthy.")));
+    EXPECT_EQ(shownNames<AlertCard>(view).size(), 2);
+    EXPECT_TRUE(shows(QStringLiteral("Free RAM low")));
+    fakes.host->physical = quint64(16) << 30;
+    tick();
+    EXPECT_EQ(shownNames<AlertCard>(view),
+              QStringList{QStringLiteral("Heavy swap usage. 5.0 GB swapped — system will feel sluggish.")});
+}
+
+TEST_F(OverviewViewTest, HiddenItDoesNoWorkAndShownItCatchesUp) {
+    show();
+    view.hide();
+    fakes.host->thermal = 3;
+    tick();
+    EXPECT_EQ(shownNames<MetricTile>(view).last(), QStringLiteral("Thermal Cool"));
+    view.show();
+    EXPECT_EQ(shownNames<MetricTile>(view).last(), QStringLiteral("Thermal Critical"));
+}
+
+TEST_F(OverviewViewTest, NothingIsShownOfGroupsBeforeTheFirstTick) {
+    view.show();
+    EXPECT_TRUE(shownNames<GroupRow>(view).isEmpty());
+}

@@ -1,0 +1,236 @@
+// Renders every screen in both schemes as OUTDIR/NAME-light.png and OUTDIR/NAME-dark.png, on the figures of
+// a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
+
+#include "AppModel.h"
+#include "UI/Kit/FigureIcon.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Theme.h"
+#include "UI/MainWindow.h"
+#include "UI/MenuBarPanel.h"
+#include "UI/Overview/GroupRow.h"
+#include "UI/Widget.h"
+#include "UI/WidgetView.h"
+#include "support/FakePlatform.h"
+#include "support/TemporarySettings.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEnterEvent>
+#include <QFontDatabase>
+#include <QPainter>
+
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr quint64 MiB = quint64(1) << 20;
+constexpr quint64 GiB = quint64(1) << 30;
+
+struct Actor {
+    const char* name;
+    const char* path;
+    quint64 memory;
+    double cores; ///< share of a core it keeps busy
+    int count;
+};
+
+constexpr Actor cast[] = {
+    {"claude", "/usr/local/bin/claude", 640 * MiB, 0.22, 3},
+    {"ollama", "/usr/local/bin/ollama", 2200 * MiB, 0.01, 1},
+    {"code", "/usr/share/code/code", 310 * MiB, 0.09, 11},
+    {"clangd", "/usr/bin/clangd", 1400 * MiB, 0.35, 1},
+    {"gnome-terminal-server", "/usr/libexec/gnome-terminal-server", 88 * MiB, 0.01, 1},
+    {"zsh", "/usr/bin/zsh", 9 * MiB, 0, 6},
+    {"chrome", "/opt/google/chrome/chrome", 240 * MiB, 0.04, 24},
+    {"firefox-esr", "/usr/lib/firefox-esr/firefox-esr", 820 * MiB, 0.06, 1},
+    {"dockerd", "/usr/bin/dockerd", 120 * MiB, 0.02, 1},
+    {"containerd-shim-runc-v2", "/usr/bin/containerd-shim-runc-v2", 18 * MiB, 0, 4},
+    {"gnome-shell", "/usr/bin/gnome-shell", 410 * MiB, 0.05, 1},
+    {"a-very-long-process-name-that-does-not-fit-any-column-of-a-row", "/opt/x", 75 * MiB, 0, 1},
+    {"systemd", "/usr/lib/systemd/systemd", 14 * MiB, 0, 38},
+};
+
+/// A machine that has been busy for a while.
+struct Stage {
+    FakePlatform fakes;
+    TemporarySettings settings;
+    AppModel model{fakes.platform(), settings.preferences};
+
+    Stage() {
+        qint32 pid = 812;
+        for (const Actor& actor : cast) {
+            for (int i = 0; i < actor.count; ++i, pid += 37) {
+                fakes.processes->add(pid,
+                                     {.task = TaskInfo{.residentBytes = actor.memory - i * actor.memory / 40},
+                                      .path = actor.path,
+                                      .name = actor.name});
+            }
+        }
+        fakes.host->physical = 16 * GiB;
+        fakes.host->root = VolumeBlocks{.blockSize = 4096, .blocks = 122 * MiB, .blocksAvailable = 21 * MiB};
+    }
+
+    /// `usedGB` at the end of a stretch of `ticks`, in which the load swings about `load` percent.
+    void play(int ticks, double load, double usedGB) {
+        for (int i = 0; i < ticks; ++i) {
+            const double wave = load + 14 * std::sin(i / 7.0) + 6 * std::sin(i / 2.3);
+            CpuTicks& counters = *fakes.host->ticks;
+            counters.user += static_cast<quint32>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
+            counters.idle += static_cast<quint32>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
+            const double used = usedGB - 1.5 * (ticks - i) / ticks + 0.15 * std::sin(i / 11.0);
+            fakes.host->memory = MemoryPages{
+                .active = static_cast<quint64>(used * double(GiB) / 4096), .wired = 0, .compressed = 0};
+            fakes.clock->advance(2);
+            burn();
+            QMetaObject::invokeMethod(&model, "tick");
+        }
+        QCoreApplication::processEvents();
+    }
+
+private:
+    void burn() {
+        for (const Actor& actor : cast) {
+            for (FakeProcess& process : fakes.processes->processes) {
+                if (process.name == actor.name)
+                    process.task->cpuTimeNs += static_cast<quint64>(actor.cores * 2e9);
+            }
+        }
+    }
+};
+
+class Camera {
+public:
+    explicit Camera(QString folder) : m_folder(std::move(folder)) {}
+
+    void take(QWidget& widget, const QString& name) {
+        widget.show();
+        for (const bool dark : {false, true}) {
+            Theme::apply(dark);
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+            save(widget.grab(), name, dark);
+        }
+    }
+
+    void save(const QPixmap& picture, const QString& name, bool dark) {
+        const QString file = QStringLiteral("%1/%2-%3.png").arg(m_folder, name, dark ? u"dark" : u"light");
+        if (!picture.save(file))
+            m_failed = true;
+    }
+
+    bool failed() const { return m_failed; }
+
+private:
+    QString m_folder;
+    bool m_failed = false;
+};
+
+void shootOverview(Camera& camera) {
+    Stage calm;
+    calm.play(150, 24, 8.1);
+    MainWindow window(calm.model);
+    camera.take(window, QStringLiteral("overview"));
+    window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
+    camera.take(window, QStringLiteral("overview-open-group"));
+
+    Stage pressed;
+    pressed.fakes.host->swap = 5 * GiB;
+    pressed.fakes.host->thermal = 2;
+    pressed.play(150, 92, 14.6);
+    MainWindow busy(pressed.model);
+    camera.take(busy, QStringLiteral("overview-alerts"));
+    busy.resize(1600, 1000);
+    camera.take(busy, QStringLiteral("overview-alerts-large"));
+}
+
+void shootPanels(Camera& camera) {
+    Stage stage;
+    stage.fakes.host->swap = 5 * GiB;
+    stage.play(150, 63, 13.1);
+    WidgetWindow unused{Desktop()};
+    MenuBarPanel panel(stage.model, unused);
+    panel.setFixedSize(320, 360);
+    camera.take(panel, QStringLiteral("panel"));
+
+    WidgetView widget(stage.model);
+    camera.take(widget, QStringLiteral("widget"));
+    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
+    QCoreApplication::sendEvent(&widget, &enter);
+    camera.take(widget, QStringLiteral("widget-hover"));
+}
+
+/// Every symbol at 16, 24 and 48 points with its name.
+QPixmap contactSheet(double ratio) {
+    constexpr int columns = 5;
+    constexpr QSize cell(250, 92);
+    const QStringList names = Symbols::names();
+    const int rows = (static_cast<int>(names.size()) + columns - 1) / columns;
+    QPixmap sheet(QSize(columns * cell.width(), rows * cell.height()) * ratio);
+    sheet.setDevicePixelRatio(ratio);
+    sheet.fill(Theme::color(Theme::Role::windowFill));
+    QPainter painter(&sheet);
+    painter.setFont(Theme::font(Theme::TextStyle::caption));
+    painter.setPen(Theme::color(Theme::Role::secondaryText));
+    const QColor ink = Theme::color(Theme::Role::primaryText);
+    for (int i = 0; i < names.size(); ++i) {
+        const QPoint corner(i % columns * cell.width() + 12, i / columns * cell.height() + 8);
+        int x = corner.x();
+        for (const int size : {16, 24, 48}) {
+            Symbols::draw(painter, names[i], ink, QRectF(x, corner.y(), size, 48), size);
+            x += size + 16;
+        }
+        painter.drawText(QPoint(corner.x(), corner.y() + 70), names[i]);
+    }
+    return sheet;
+}
+
+/// The tray icon on a light and on a dark tray, at its real sizes and enlarged.
+QPixmap traySheet(double ratio) {
+    const QList<QStringList> contents{{},
+                                      {QStringLiteral("7")},
+                                      {QStringLiteral("100")},
+                                      {QStringLiteral("23"), QStringLiteral("61")},
+                                      {QStringLiteral("100"), QStringLiteral("99")}};
+    QPixmap sheet(QSize(760, 300) * ratio);
+    sheet.setDevicePixelRatio(ratio);
+    sheet.fill(Theme::color(Theme::Role::windowFill));
+    QPainter painter(&sheet);
+    int x = 16;
+    for (const QStringList& figures : contents) {
+        const QIcon icon = FigureIcon::make(figures);
+        painter.drawPixmap(x, 16, icon.pixmap(22));
+        painter.drawPixmap(x + 30, 16, icon.pixmap(44));
+        painter.drawPixmap(x, 80, icon.pixmap(22).scaled(132, 132));
+        x += 148;
+    }
+    return sheet;
+}
+
+void shootSheets(Camera& camera) {
+    for (const bool dark : {false, true}) {
+        Theme::apply(dark);
+        camera.save(contactSheet(qApp->devicePixelRatio()), QStringLiteral("symbols"), dark);
+        camera.save(traySheet(qApp->devicePixelRatio()), QStringLiteral("tray"), dark);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fprintf(stderr, "usage: tavrin_screenshots OUTDIR\n");
+        return 2;
+    }
+    // The off-screen platform has no desktop font of its own.
+    if (QFontDatabase::families().contains(QStringLiteral("Inter")))
+        QApplication::setFont(QFont(QStringLiteral("Inter"), 10));
+    Camera camera(QString::fromLocal8Bit(argv[1]));
+    shootOverview(camera);
+    shootPanels(camera);
+    shootSheets(camera);
+    return camera.failed() ? 1 : 0;
+}
