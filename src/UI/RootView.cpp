@@ -36,7 +36,10 @@ QString tabSymbol(RootView::Tab tab) {
 }
 
 RootView::RootView(AppModel& model, QWidget* parent)
-    : QWidget(parent), m_sidebar(new QListWidget), m_sections(new QStackedWidget) {
+    : QWidget(parent)
+    , m_sidebar(new QListWidget)
+    , m_title(new TextLabel(Theme::TextStyle::title2, QFont::Bold))
+    , m_sections(new QStackedWidget) {
     m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
     m_sidebar->setFrameShape(QFrame::NoFrame);
     m_sidebar->setMinimumWidth(sidebarMinimum);
