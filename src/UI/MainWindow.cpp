@@ -25,7 +25,6 @@ void MainWindow::addMenuActions() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    hide();
     m_root->select(RootView::Tab::overview);
+    QMainWindow::closeEvent(event);
 }

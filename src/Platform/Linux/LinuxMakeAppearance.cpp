@@ -1,4 +1,6 @@
 #include "Platform/Linux/LinuxAppearance.h"
 #include "Platform/Platform.h"
 
-std::unique_ptr<Appearance> Platform::makeAppearance() { return std::make_unique<LinuxAppearance>(); }
+std::unique_ptr<Appearance> Platform::makeAppearance() {
+    return std::make_unique<LinuxAppearance>();
+}

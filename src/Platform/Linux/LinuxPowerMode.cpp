@@ -88,5 +88,6 @@ void LinuxPowerMode::askNext(int name) {
 
 void LinuxPowerMode::readFirmware() {
     std::array<char, 64> room;
-    m_firmwareSaves = m_platformProfile.read(room).starts_with("low-power");
+    const auto profile = m_platformProfile.read(room);
+    m_firmwareSaves = profile == "low-power\n" || profile == "low-power";
 }

@@ -34,11 +34,9 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
 }
 
 bool SingleInstance::claim() {
-    if (m_server->listen(m_socket))
-        return true;
+    // Asked first, because listening would take the socket over from the program that has it.
     if (askRunningOne())
         return false;
-    // Left behind by a program that was killed.
     QLocalServer::removeServer(m_socket);
     m_server->listen(m_socket);
     return true;
