@@ -13,7 +13,7 @@ LinuxDesktopApplication::LinuxDesktopApplication() {
 QList<QWidget*> LinuxDesktopApplication::windows() const {
     QList<QWidget*> result;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        const bool everShown = window->testAttribute(Qt::WA_WState_Created);
+        const bool everShown = window->testAttribute(Qt::WA_WState_ExplicitShowHide);
         if (everShown && window->windowType() == Qt::Window)
             result.append(window);
     }
