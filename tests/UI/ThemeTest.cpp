@@ -20,7 +20,7 @@ double luminance(const QColor& color) {
 
 /// The contrast ratio of the web accessibility guidelines, 1 to 21.
 double contrast(const QColor& one, const QColor& other) {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

@@ -1,0 +1,213 @@
+#include "Platform/Linux/LinuxHostStatistics.h"
+
+#include "Platform/Child.h"
+#include "Platform/RecordedTree.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+quint64 sum(const MemoryPages& pages) {
+    return pages.active + pages.wired + pages.compressed;
+}
+
+TEST(HostStatistics, AgreesWithTheSystemsOwnTools) {
+    LinuxHostStatistics host;
+    const auto memory = host.memoryPages();
+    ASSERT_TRUE(memory);
+    const auto row = outputOf("LC_ALL=C free -b").split('\n').at(1).simplified().split(' ');
+    const double total = row.at(1).toDouble();
+    EXPECT_EQ(static_cast<double>(host.physicalMemoryBytes()), total);
+    EXPECT_NEAR(static_cast<double>(sum(*memory) * host.pageSize()), row.at(2).toDouble(), total * 0.02);
+
+    const auto volume = host.rootVolume();
+    ASSERT_TRUE(volume);
+    const auto sizes = outputOf("df -B1 --output=size,avail /").split('\n').at(1).simplified().split(' ');
+    EXPECT_EQ(volume->blockSize * volume->blocks, sizes.at(0).toULongLong());
+    EXPECT_NEAR(static_cast<double>(volume->blockSize * volume->blocksAvailable), sizes.at(1).toDouble(),
+                sizes.at(0).toDouble() * 0.01);
+
+    double swapped = 0;
+    for (const auto& area : outputOf("tail -n +2 /proc/swaps").split('\n'))
+        if (const auto fields = area.simplified().split(' '); fields.size() > 3)
+            swapped += fields.at(3).toDouble() * 1024;
+    ASSERT_TRUE(host.swapUsedBytes());
+    EXPECT_NEAR(static_cast<double>(*host.swapUsedBytes()), swapped, total * 0.01);
+
+    const auto ticks = host.cpuTicks();
+    ASSERT_TRUE(ticks);
+    EXPECT_GT(ticks->user, 0u);
+    EXPECT_GT(ticks->idle, 0u);
+}
+
+TEST(HostStatistics, CountsCpuTicksByKind) {
+    struct Case {
+        const char* line;
+        std::optional<CpuTicks> expected;
+    };
+    // user nice system idle iowait irq softirq steal guest guest_nice
+    const std::vector<Case> cases = {
+        {"cpu  100 20 30 400 50 6 7 8 90 9\ncpu0 1 1 1 1 1 1 1 1 1 1\n", CpuTicks{100, 51, 450, 20}},
+        {"cpu  4294967297 0 0 4294967296 5 0 0 0 0 0\n", CpuTicks{1, 0, 5, 0}},
+        {"cpu  3000000000 0 0 3000000000 0 0 0 0 0 0\n", CpuTicks{3000000000, 0, 3000000000, 0}},
+        {"cpu  1 2 3 4\n", CpuTicks{1, 3, 4, 2}},
+        {"cpu  1 2 3\ncpu0 1 2 3\n", std::nullopt},
+        {"", std::nullopt},
+        {"intr 5\n", std::nullopt},
+    };
+    for (const auto& [line, expected] : cases) {
+        RecordedTree tree;
+        tree.with(u"proc/stat"_s, line);
+        EXPECT_EQ(LinuxHostStatistics(tree.path()).cpuTicks(), expected) << line;
+    }
+}
+
+TEST(HostStatistics, DoesNotFollowACounterThatStepsBack) {
+    RecordedTree tree;
+    tree.with(u"proc/stat"_s, "cpu  4294967290 0 30 400 50 0 0 0 0 0\n");
+    LinuxHostStatistics host(tree.path());
+    EXPECT_EQ(host.cpuTicks(), (CpuTicks{4294967290, 30, 450, 0}));
+    tree.with(u"proc/stat"_s, "cpu  4294967302 0 31 400 48 0 0 0 0 0\n");
+    EXPECT_EQ(host.cpuTicks(), (CpuTicks{6, 31, 450, 0}));
+}
+
+/// Figures in KiB, as meminfo has them.
+struct Memory {
+    const char* name;
+    QByteArray meminfo;
+    std::vector<QByteArray> zram;
+    std::optional<quint64> used;
+    quint64 wired = 0;
+    quint64 compressed = 0;
+};
+
+const QByteArray typical = "MemTotal:  1000000 kB\nMemFree:  100000 kB\nMemAvailable:  400000 kB\n"
+                           "Unevictable: 40000 kB\nZswap: 0 kB\nZswapped: 99999 kB\nSUnreclaim: 8000 kB\n"
+                           "KernelStack: 4000 kB\nPageTables: 4000 kB\n";
+
+class HostMemory : public testing::TestWithParam<Memory> {};
+
+TEST_P(HostMemory, SplitsWhatIsUsed) {
+    const auto& given = GetParam();
+    RecordedTree tree;
+    tree.with(u"proc/meminfo"_s, given.meminfo);
+    for (size_t device = 0; device < given.zram.size(); ++device)
+        tree.with(u"sys/block/zram%1/mm_stat"_s.arg(device), given.zram[device]);
+    tree.makeFolder(u"sys/block/sda"_s);
+    LinuxHostStatistics host(tree.path());
+    const auto pages = host.memoryPages();
+    ASSERT_EQ(pages.has_value(), given.used.has_value());
+    if (!pages)
+        return;
+    const auto inPages = [&host](quint64 kib) { return kib * 1024 / host.pageSize(); };
+    EXPECT_EQ(pages->wired, inPages(given.wired));
+    EXPECT_EQ(pages->compressed, inPages(given.compressed));
+    EXPECT_EQ(sum(*pages), inPages(*given.used));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Recorded, HostMemory,
+    testing::Values(
+        Memory{"typical", typical, {}, 600000, 56000, 0},
+        Memory{"newer_lines", typical + "SecPageTables: 4000 kB\nPercpu: 8000 kB\n", {}, 600000, 68000, 0},
+        Memory{"zram",
+               typical,
+               {"9000000 3000000 4096000 0 8192000 5 0 0 0\n", "  8192 74 2048000 0 12288 0 0 0 0\n"},
+               600000,
+               56000,
+               6000},
+        Memory{"zswap", QByteArray(typical).replace("Zswap: 0", "Zswap: 20000"), {}, 600000, 56000, 20000},
+        Memory{"zram_without_figures", typical, {"", "1 2\n"}, 600000, 56000, 0},
+        Memory{"wired_above_used",
+               QByteArray(typical).replace("Unevictable: 40000", "Unevictable: 4000000"),
+               {"1 1 4096000\n"},
+               600000,
+               600000,
+               0},
+        Memory{"compressed_above_rest", typical, {"1 1 99999999999\n"}, 600000, 56000, 544000},
+        Memory{"available_above_total", QByteArray(typical).replace("e:  400000", "e: 1400000"), {}, 0, 0, 0},
+        Memory{"no_available", QByteArray(typical).replace("MemAvailable:", "Elsewhere:"), {}, std::nullopt},
+        Memory{"empty", "", {}, std::nullopt}),
+    [](const auto& given) { return std::string(given.param.name); });
+
+TEST(HostStatistics, CountsSwapInUse) {
+    const std::vector<std::pair<const char*, std::optional<quint64>>> cases = {
+        {"MemTotal: 9 kB\nSwapCached: 7 kB\nSwapTotal: 2000 kB\nSwapFree: 500 kB\n", 1500 * 1024},
+        {"SwapTotal: 0 kB\nSwapFree: 0 kB\n", 0},
+        {"SwapTotal: 1 kB\nSwapFree: 2 kB\n", 0},
+        {"SwapTotal: 2000 kB\n", std::nullopt},
+    };
+    for (const auto& [meminfo, expected] : cases) {
+        RecordedTree tree;
+        tree.with(u"proc/meminfo"_s, meminfo);
+        EXPECT_EQ(LinuxHostStatistics(tree.path()).swapUsedBytes(), expected) << meminfo;
+    }
+}
+
+TEST(HostStatistics, RefusesWhatItCannotRead) {
+    const RecordedTree tree;
+    LinuxHostStatistics host(tree.path());
+    EXPECT_FALSE(host.cpuTicks());
+    EXPECT_FALSE(host.memoryPages());
+    EXPECT_FALSE(host.swapUsedBytes());
+    EXPECT_EQ(host.physicalMemoryBytes(), 0u);
+    EXPECT_EQ(host.thermalLevel(), 0);
+}
+
+struct Zone {
+    QByteArray temperature;
+    std::vector<std::pair<QByteArray, QByteArray>> trips; // type, temperature
+};
+struct Thermal {
+    const char* name;
+    std::vector<Zone> zones;
+    int level;
+};
+
+class ThermalLevel : public testing::TestWithParam<Thermal> {};
+
+TEST_P(ThermalLevel, IsThatOfTheWorstZone) {
+    RecordedTree tree;
+    tree.makeFolder(u"sys/class/thermal/cooling_device0"_s);
+    int number = 0;
+    for (const auto& zone : GetParam().zones) {
+        const auto folder = u"sys/class/thermal/thermal_zone%1/"_s.arg(number++);
+        tree.with(folder + u"temp"_s, zone.temperature);
+        int trip = 0;
+        for (const auto& [type, temperature] : zone.trips) {
+            const auto stem = folder + u"trip_point_%1_"_s.arg(trip++);
+            tree.with(stem + u"type"_s, type + "\n").with(stem + u"temp"_s, temperature + "\n");
+        }
+    }
+    EXPECT_EQ(LinuxHostStatistics(tree.path()).thermalLevel(), GetParam().level);
+}
+
+const auto laptop = [](const char* temperature) {
+    return Zone{temperature,
+                {{"active", "50000"}, {"passive", "90000"}, {"hot", "100000"}, {"critical", "105000"}}};
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Recorded, ThermalLevel,
+    testing::Values(
+        Thermal{"cool", {laptop("79999\n")}, 0}, Thermal{"near_passive", {laptop("80000\n")}, 1},
+        Thermal{"below_passive", {laptop("89999\n")}, 1}, Thermal{"passive", {laptop("90000\n")}, 2},
+        Thermal{"hot", {laptop("100000\n")}, 3},
+        Thermal{"critical_only", {{"95000\n", {{"critical", "95000"}}}}, 3},
+        Thermal{"near_critical", {{"85000\n", {{"critical", "95000"}}}}, 1},
+        Thermal{"cool_without_passive", {{"84999\n", {{"critical", "95000"}}}}, 0},
+        Thermal{"lowest_of_several", {{"70000\n", {{"passive", "90000"}, {"passive", "70000"}}}}, 2},
+        Thermal{
+            "trips_out_of_use", {{"40000\n", {{"passive", "0"}, {"critical", "-273200"}, {"hot", "x"}}}}, 0},
+        Thermal{"worst_of_zones", {laptop("40000\n"), laptop("91000\n"), laptop("85000\n")}, 2},
+        Thermal{"unreadable_zone", {laptop(""), laptop("82000\n")}, 1},
+        Thermal{"below_zero", {laptop("-5000\n")}, 0}, Thermal{"no_trips", {{"120000\n", {}}}, 0},
+        Thermal{"no_zones", {}, 0}),
+    [](const auto& given) { return std::string(given.param.name); });
+
+} // namespace

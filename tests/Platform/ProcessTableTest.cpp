@@ -1,0 +1,360 @@
+#include "Platform/Linux/LinuxProcessTable.h"
+
+#include "Platform/Child.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <linux/sched.h>
+#include <signal.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+std::vector<qint32> listed(LinuxProcessTable& table) {
+    std::vector<qint32> pids(4096);
+    pids.resize(static_cast<size_t>(std::max(0, table.listAllPids(pids))));
+    return pids;
+}
+
+bool isListed(LinuxProcessTable& table, qint32 pid) {
+    return std::ranges::count(listed(table), pid) == 1;
+}
+
+QByteArray ps(qint32 pid, const std::string& column) {
+    return outputOf("LC_ALL=C ps -p " + std::to_string(pid) + " -o " + column + "=").trimmed();
+}
+
+void waitForCommands(int socket) {
+    for (char command; read(socket, &command, 1) == 1;) {
+    }
+}
+
+/// A program of its own, with arguments, that waits until it is ended.
+Child waitingProgram() {
+    return Child("/bin/sleep", {"sleep", "1000"});
+}
+
+TEST(ProcessTable, AgreesWithPs) {
+    LinuxProcessTable table;
+    const auto child = waitingProgram();
+    const auto pid = child.pid();
+    ASSERT_TRUE(isListed(table, pid));
+    std::this_thread::sleep_for(100ms); // to have done with its start
+
+    const auto task = table.taskInfo(pid);
+    ASSERT_TRUE(task);
+    EXPECT_NEAR(static_cast<double>(task->residentBytes / 1024), ps(pid, "rss").toDouble(), 128);
+    EXPECT_EQ(task->virtualBytes / 1024, ps(pid, "vsz").toULongLong());
+    EXPECT_EQ(task->threads, 1);
+
+    const auto kernel = table.kernelInfo(pid);
+    ASSERT_TRUE(kernel);
+    EXPECT_EQ(kernel->parentPid, getpid());
+    EXPECT_EQ(kernel->uid, ps(pid, "euid").toUInt());
+    const auto started = QLocale::c().toDateTime(QString::fromLatin1(ps(pid, "lstart").simplified()),
+                                                 QStringLiteral("ddd MMM d hh:mm:ss yyyy"));
+    ASSERT_TRUE(started.isValid());
+    EXPECT_NEAR(static_cast<double>(std::chrono::system_clock::to_time_t(kernel->start)),
+                static_cast<double>(started.toSecsSinceEpoch()), 2);
+
+    EXPECT_EQ(table.shortName(pid), "sleep");
+    EXPECT_EQ(table.argumentArea(pid), QByteArray("sleep\0001000\0", 11));
+    EXPECT_EQ(table.executablePath(pid),
+              QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(pid)).toUtf8());
+}
+
+TEST(ProcessTable, FollowsThreadsThatComeAndGo) {
+    LinuxProcessTable table;
+    const Child child([](int socket) {
+        std::vector<std::jthread> threads;
+        for (char command; read(socket, &command, 1) == 1;) {
+            if (command == '+')
+                for (int more = 0; more < 3; ++more)
+                    threads.emplace_back([](std::stop_token stop) {
+                        while (!stop.stop_requested())
+                            std::this_thread::sleep_for(1ms);
+                    });
+            else
+                threads.clear();
+            static_cast<void>(!write(socket, &command, 1));
+        }
+    });
+    const auto threads = [&] {
+        const auto task = table.taskInfo(child.pid());
+        return task ? task->threads : -1;
+    };
+    EXPECT_EQ(threads(), 1);
+    EXPECT_EQ(threads(), 1);
+    child.tell('+');
+    ASSERT_EQ(child.heard(), '+');
+    EXPECT_EQ(threads(), 4);
+    EXPECT_EQ(static_cast<int>(ps(child.pid(), "nlwp").toInt()), 4);
+    child.tell('-');
+    ASSERT_EQ(child.heard(), '-');
+    // A joined thread may be on its way out for a moment more.
+    for (int look = 0; look < 100 && threads() != 1; ++look)
+        std::this_thread::sleep_for(5ms);
+    EXPECT_EQ(threads(), 1);
+}
+
+/// What the whole process has used by its own account, ended by a wait.
+void burn(int socket, int threadCount) {
+    setpriority(PRIO_PROCESS, 0, -20); // where allowed, so that other work on the machine matters less
+    std::vector<std::jthread> threads;
+    std::atomic<bool> enough = false;
+    for (int thread = 0; thread < threadCount; ++thread)
+        threads.emplace_back([&enough] {
+            while (!enough) {
+            }
+        });
+    char command = 0;
+    static_cast<void>(!read(socket, &command, 1));
+    enough = true;
+    threads.clear();
+    timespec used{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    static_cast<void>(!write(socket, &used, sizeof used));
+    waitForCommands(socket);
+}
+
+/// In percent of one core, over one window.
+double share(LinuxProcessTable& table, qint32 pid, std::chrono::milliseconds window) {
+    const auto before = table.taskInfo(pid);
+    const auto start = std::chrono::steady_clock::now();
+    std::this_thread::sleep_for(window);
+    const auto after = table.taskInfo(pid);
+    const std::chrono::duration<double, std::nano> passed = std::chrono::steady_clock::now() - start;
+    if (!before || !after)
+        return -1;
+    return static_cast<double>(after->cpuTimeNs - before->cpuTimeNs) / passed.count() * 100;
+}
+
+class BusyChild : public testing::TestWithParam<int> {};
+
+TEST_P(BusyChild, ReadsTheCoresItTakes) {
+    LinuxProcessTable table;
+    const int threads = GetParam();
+    const Child child([threads](int socket) { burn(socket, threads); });
+    const double expected = 100.0 * std::min<int>(threads, static_cast<int>(sysconf(_SC_NPROCESSORS_ONLN)));
+    // The machine may have other work: one window that it leaves to the child will do.
+    std::vector<double> seen;
+    do
+        seen.push_back(share(table, child.pid(), 500ms));
+    while (std::abs(seen.back() - expected) > expected * 0.1 && seen.size() < 20);
+    EXPECT_NEAR(seen.back(), expected, expected * 0.1) << testing::PrintToString(seen);
+
+    // The sum is right whatever else the machine does.
+    child.tell('.');
+    QByteArray answer;
+    while (answer.size() < static_cast<qsizetype>(sizeof(timespec)))
+        answer.append(child.heard());
+    timespec own{};
+    memcpy(&own, answer.constData(), sizeof own);
+    const auto task = table.taskInfo(child.pid());
+    ASSERT_TRUE(task);
+    EXPECT_NEAR(static_cast<double>(task->cpuTimeNs),
+                static_cast<double>(own.tv_sec) * 1e9 + static_cast<double>(own.tv_nsec), 2e7);
+}
+
+INSTANTIATE_TEST_SUITE_P(Threads, BusyChild, testing::Values(1, 4));
+
+TEST(ProcessTable, ASleepingChildUsesNothing) {
+    LinuxProcessTable table;
+    const auto child = waitingProgram();
+    std::this_thread::sleep_for(100ms);
+    EXPECT_EQ(share(table, child.pid(), 200ms), 0);
+}
+
+TEST(ProcessTable, AnswersNothingOfAProcessThatIsGone) {
+    LinuxProcessTable table;
+    auto known = waitingProgram();
+    auto unknown = waitingProgram();
+    const std::vector<qint32> pids = {known.pid(), unknown.pid()};
+    listed(table);
+    ASSERT_TRUE(table.taskInfo(known.pid()));
+    known.end();
+    unknown.end();
+    for (const auto pid : pids) {
+        EXPECT_FALSE(table.taskInfo(pid));
+        EXPECT_FALSE(table.kernelInfo(pid));
+        EXPECT_EQ(table.executablePath(pid), "");
+        EXPECT_EQ(table.shortName(pid), "");
+        EXPECT_EQ(table.argumentArea(pid), "");
+        EXPECT_FALSE(isListed(table, pid));
+    }
+}
+
+TEST(ProcessTable, LeavesOutTheFiguresOfAZombie) {
+    LinuxProcessTable table;
+    const auto child = waitingProgram();
+    ASSERT_TRUE(isListed(table, child.pid()));
+    ASSERT_TRUE(table.taskInfo(child.pid()));
+    child.kill();
+    siginfo_t ended;
+    waitid(P_PID, static_cast<id_t>(child.pid()), &ended, WEXITED | WNOWAIT);
+    for (int pass = 0; pass < 2; ++pass) {
+        EXPECT_TRUE(isListed(table, child.pid()));
+        EXPECT_FALSE(table.taskInfo(child.pid()));
+    }
+    LinuxProcessTable fresh;
+    EXPECT_TRUE(isListed(fresh, child.pid()));
+    EXPECT_FALSE(fresh.taskInfo(child.pid()));
+}
+
+/// A sleeping process under exactly this id, or a failure for want of the right to choose one.
+pid_t cloneAs(pid_t pid) {
+    clone_args arguments{};
+    arguments.exit_signal = SIGCHLD;
+    arguments.set_tid = reinterpret_cast<quint64>(&pid);
+    arguments.set_tid_size = 1;
+    const auto clone = static_cast<pid_t>(syscall(SYS_clone3, &arguments, sizeof arguments));
+    if (clone == 0) {
+        alarm(60);
+        for (;;)
+            pause();
+    }
+    return clone;
+}
+
+TEST(ProcessTable, TakesAReusedIdForAnotherProcess) {
+    LinuxProcessTable table;
+    Child first([](int socket) { burn(socket, 1); });
+    const auto pid = first.pid();
+    listed(table);
+    while (table.taskInfo(pid).value().cpuTimeNs < 50'000'000)
+        std::this_thread::sleep_for(5ms);
+    ASSERT_EQ(table.taskInfo(pid)->threads, 2);
+    first.end();
+    const auto second = cloneAs(pid);
+    if (second < 0)
+        GTEST_SKIP() << "may not choose a process id";
+    const auto task = table.taskInfo(pid);
+    ::kill(second, SIGKILL);
+    waitpid(second, nullptr, 0);
+    ASSERT_TRUE(task);
+    EXPECT_LT(task->cpuTimeNs, 50'000'000u);
+    EXPECT_EQ(task->threads, 1);
+    EXPECT_FALSE(table.taskInfo(pid));
+}
+
+TEST(ProcessTable, LeavesOutKernelThreads) {
+    LinuxProcessTable table;
+    const auto pids = listed(table);
+    EXPECT_EQ(std::ranges::count(pids, getpid()), 1);
+    EXPECT_EQ(pids, listed(table));
+    int kernelThreads = 0;
+    for (const auto& row : outputOf("ps -e -o pid=,flags=,vsz=").split('\n')) {
+        // ps shows only some of the flags; a kernel thread is a child of 2, or 2 itself.
+        const auto fields = row.simplified().split(' ');
+        if (fields.size() < 3 || ps(fields.at(0).toInt(), "ppid") != "2")
+            continue;
+        ++kernelThreads;
+        EXPECT_EQ(std::ranges::count(pids, fields.at(0).toInt()), 0) << row.constData();
+    }
+    if (kernelThreads == 0)
+        GTEST_SKIP() << "no kernel thread can be seen from here";
+}
+
+TEST(ProcessTable, KeepsNoDescriptorsOfProcessesThatWent) {
+    LinuxProcessTable table;
+    listed(table);
+    const auto before = openDescriptors();
+    {
+        std::vector<std::unique_ptr<Child>> children;
+        for (int child = 0; child < 200; ++child)
+            children.push_back(std::make_unique<Child>(waitForCommands));
+        const auto sockets = static_cast<int>(children.size());
+        listed(table);
+        for (const auto& child : children)
+            ASSERT_TRUE(table.taskInfo(child->pid()));
+        EXPECT_GE(openDescriptors(), before + sockets + 2 * 200);
+    }
+    listed(table);
+    EXPECT_NEAR(openDescriptors(), before, 20); // other programs may have come meanwhile
+}
+
+TEST(ProcessTable, FillsNoMoreThanTheRoomGiven) {
+    LinuxProcessTable table;
+    const auto all = listed(table);
+    std::vector<qint32> few(3, -7);
+    ASSERT_EQ(table.listAllPids(std::span(few).first(2)), 2);
+    EXPECT_EQ(few, (std::vector<qint32>{all.at(0), all.at(1), -7}));
+}
+
+/// Ends the calling process with 0 when the table answers for `pid` under the limit, else with the number
+/// of the check that failed.
+void checkUnderLimit(rlim_t limit, qint32 pid) {
+    const rlimit both{limit, limit};
+    if (setrlimit(RLIMIT_NOFILE, &both) != 0)
+        _exit(1);
+    LinuxProcessTable table;
+    for (int pass = 0; pass < 3; ++pass) {
+        if (!isListed(table, pid))
+            _exit(2);
+        for (const auto each : listed(table))
+            table.taskInfo(each);
+        const auto task = table.taskInfo(pid);
+        if (!task || task->threads != 1 || task->residentBytes == 0 || task->cpuTimeNs == 0 ||
+            task->cpuTimeNs > 10'000'000'000)
+            _exit(3);
+        if (task->virtualBytes / 1024 != ps(pid, "vsz").toULongLong())
+            _exit(4);
+        if (table.shortName(pid) != "sleep")
+            _exit(5);
+    }
+    _exit(0);
+}
+
+TEST(ProcessTable, DoesWithFewDescriptors) {
+    const auto subject = waitingProgram();
+    for (const rlim_t limit : {64, 70, 80}) {
+        Child child([&](int) { checkUnderLimit(limit, subject.pid()); });
+        EXPECT_EQ(child.exitStatus(), 0) << "limit " << limit;
+    }
+}
+
+/// Looks at a process of another user.
+void checkForeign(qint32 pid) {
+    LinuxProcessTable table;
+    const auto task = table.taskInfo(pid);
+    const auto kernel = table.kernelInfo(pid);
+    if (!isListed(table, pid) || !task || task->residentBytes == 0)
+        _exit(1);
+    if (!kernel || kernel->uid == geteuid())
+        _exit(2);
+    if (!table.executablePath(pid).isEmpty())
+        _exit(3);
+    if (table.shortName(pid) != "sleep" || !table.argumentArea(pid).startsWith("sleep"))
+        _exit(4);
+    _exit(0);
+}
+
+TEST(ProcessTable, SeesWhatIsPublicOfAnotherUsersProcess) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "needs a second user";
+    const auto subject = waitingProgram();
+    Child child([&](int) {
+        if (setresuid(65534, 65534, 65534) != 0)
+            _exit(9);
+        checkForeign(subject.pid());
+    });
+    EXPECT_EQ(child.exitStatus(), 0);
+}
+
+} // namespace

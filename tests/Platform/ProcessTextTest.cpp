@@ -1,0 +1,162 @@
+#include "Platform/Child.h"
+#include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/RecordedTree.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray argumentsOf(const std::vector<std::string>& arguments) {
+    QByteArray area;
+    for (const auto& argument : arguments)
+        area.append(argument.c_str(), static_cast<qsizetype>(argument.size()) + 1);
+    return area;
+}
+
+TEST(ProcessText, NamesOfEveryKindAreReadAsTheyStand) {
+    LinuxProcessTable table;
+    for (const char* name :
+         {"plain", "two words", ") R 1 (", "a\nb) S 7 7", "\xff\xfe\x80", "<b>&amp;", "fifteen-letters"}) {
+        const Child child([name](int socket) {
+            prctl(PR_SET_NAME, name);
+            char word = '!';
+            static_cast<void>(!write(socket, &word, 1));
+            static_cast<void>(!read(socket, &word, 1));
+        });
+        ASSERT_EQ(child.heard(), '!');
+        EXPECT_EQ(table.shortName(child.pid()), name);
+        const auto kernel = table.kernelInfo(child.pid());
+        ASSERT_TRUE(kernel) << name;
+        EXPECT_EQ(kernel->parentPid, getpid()) << name;
+    }
+}
+
+TEST(ProcessText, ArgumentsOfEveryKindAreReadWhole) {
+    LinuxProcessTable table;
+    const std::vector<std::vector<std::string>> tails = {
+        {"plain"},
+        {"two words", "(paren)", "new\nline", "", "<b>bold</b>", "\xff\xfe\x80"},
+        std::vector<std::string>(10, std::string(100'000, 'x')),
+    };
+    for (const auto& tail : tails) {
+        std::vector<std::string> arguments = {"sh", "-c", "read line"};
+        arguments.insert(arguments.end(), tail.begin(), tail.end());
+        const Child child("/bin/sh", arguments);
+        EXPECT_TRUE(table.argumentArea(child.pid()) == argumentsOf(arguments)) << tail.front().substr(0, 20);
+    }
+}
+
+TEST(ProcessText, AProgramWithoutArgumentsHasNone) {
+    LinuxProcessTable table;
+    const Child child("/bin/cat", {});
+    const auto area = table.argumentArea(child.pid());
+    EXPECT_TRUE(area.isEmpty() || area == argumentsOf({""})); // newer kernels put an empty one in
+    EXPECT_EQ(table.shortName(child.pid()), "cat");
+}
+
+TEST(ProcessText, LongNamesAreCompleted) {
+    LinuxProcessTable table;
+    const QTemporaryDir folder;
+    const auto program = folder.filePath(u"a-program-with-a-long-name (v2)"_s);
+    ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, program));
+    const Child byExecutable(program.toStdString(), {"other", "1000"});
+    EXPECT_EQ(table.shortName(byExecutable.pid()), "a-program-with-a-long-name (v2)");
+
+    ASSERT_TRUE(QFile::remove(program));
+    EXPECT_EQ(table.executablePath(byExecutable.pid()), QFile::encodeName(program));
+    EXPECT_EQ(table.shortName(byExecutable.pid()), "a-program-with-a-long-name (v2)");
+
+    // The shell names itself so, and says when it has.
+    const std::string rename = "printf %s a-worker-in-its > /proc/$$/comm; printf ! >&0; read line";
+    for (const auto& [first, expected] : std::vector<std::pair<std::string, QByteArray>>{
+             {"/opt/bin/a-worker-in-its-pool", "a-worker-in-its-pool"},
+             {"/opt/bin/worker", "a-worker-in-its"}}) {
+        const Child byArgument("/bin/sh", {first, "-c", rename});
+        ASSERT_EQ(byArgument.heard(), '!');
+        EXPECT_EQ(table.shortName(byArgument.pid()), expected);
+    }
+}
+
+TEST(ProcessText, StatLinesAreParsedFromTheLastParenthesis) {
+    const std::string figures =
+        " S 41 2 3 4 5 4194304 7 8 9 10 1100 22 13 14 15 16 17 18 1900 20480 21 22 23\n";
+    for (const char* name : {"sh", "a b", "x) R 1 1 (y", ")))", "", "line\nfeed"}) {
+        const auto stat = ProcStat::parse("7 (" + std::string(name) + ")" + figures);
+        ASSERT_TRUE(stat) << name;
+        EXPECT_EQ(stat->parentPid, 41);
+        EXPECT_EQ(stat->flags, 4194304u);
+        EXPECT_EQ(stat->cpuTicks, 1122u);
+        EXPECT_EQ(stat->threads, 17);
+        EXPECT_EQ(stat->startTicks, 1900u);
+        EXPECT_EQ(stat->virtualBytes, 20480u);
+        EXPECT_EQ(stat->residentPages, 21u);
+    }
+    for (const char* broken :
+         {"", "7", "7 (sh", "7 (sh)", "7 (sh) S", "7 (sh) S 1 2 3", "7 (sh) S a b c d e f g"})
+        EXPECT_FALSE(ProcStat::parse(broken)) << broken;
+}
+
+// Ids beyond the kernel's greatest, so that no CPU clock answers for them.
+const QByteArray statLine =
+    "(recorded) S 41 2 3 4 5 %FLAGS 7 8 9 10 300 200 13 14 15 16 3 18 1900 %SIZE 21 22 23\n";
+
+QByteArray stat(const char* flags, const char* size) {
+    return "5000000 " + QByteArray(statLine).replace("%FLAGS", flags).replace("%SIZE", size);
+}
+
+TEST(ProcessText, OddFoldersAreLookedAtWithCare) {
+    RecordedTree proc;
+    proc.with(u"5000001/stat"_s, stat("0", "8192")).with(u"5000001/statm"_s, "2 1 0 0 0 0 0\n");
+    proc.makeFolder(u"5000001/task/5000001"_s).makeFolder(u"5000001/task/5000009"_s);
+    proc.with(u"5000002/stat"_s, stat("2129984", "0")).with(u"5000002/statm"_s, "0 0 0 0 0 0 0\n");
+    proc.makeFolder(u"5000002/task/5000002"_s);
+    proc.with(u"5000003/stat"_s, stat("0", "8192"));
+    proc.makeFolder(u"5000004"_s);
+    proc.with(u"5000005/statm"_s, "garbage\n").makeFolder(u"5000005/task"_s);
+    for (const auto& other : {u"self"_s, u"12a"_s, u"99999999999"_s, u"0"_s, u"sys"_s})
+        proc.makeFolder(other);
+
+    LinuxProcessTable table(proc.path().toStdString());
+    for (int pass = 0; pass < 2; ++pass) {
+        std::vector<qint32> pids(16);
+        pids.resize(static_cast<size_t>(table.listAllPids(pids)));
+        std::ranges::sort(pids);
+        EXPECT_EQ(pids, (std::vector<qint32>{5000001, 5000003, 5000004, 5000005}));
+        const quint64 page = static_cast<quint64>(sysconf(_SC_PAGESIZE));
+        const auto fiveSeconds = 500'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK));
+        EXPECT_EQ(table.taskInfo(5000001), (TaskInfo{2 * page, page, fiveSeconds, 2}));
+        EXPECT_EQ(table.taskInfo(5000003), (TaskInfo{8192, 21 * page, fiveSeconds, 3}));
+        EXPECT_FALSE(table.taskInfo(5000004));
+        EXPECT_FALSE(table.taskInfo(5000005));
+        EXPECT_FALSE(table.kernelInfo(5000001)); // it has no owner
+    }
+}
+
+TEST(ProcessText, AKernelThreadsIdMayComeBackAsAProcess) {
+    RecordedTree proc;
+    proc.with(u"5000001/stat"_s, stat("2097152", "0"));
+    LinuxProcessTable table(proc.path().toStdString());
+    std::vector<qint32> pids(16);
+    EXPECT_EQ(table.listAllPids(pids), 0);
+    // The old folder stays, elsewhere, so that its inode cannot be the new one's.
+    ASSERT_TRUE(QDir(proc.path()).rename(u"5000001"_s, u"gone"_s));
+    proc.with(u"5000001/stat"_s, stat("0", "8192"));
+    EXPECT_EQ(table.listAllPids(pids), 1);
+    EXPECT_TRUE(table.taskInfo(5000001));
+}
+
+TEST(ProcessText, AFolderThatCannotBeListedIsAFailure) {
+    std::vector<qint32> pids(16);
+    EXPECT_LT(LinuxProcessTable("/nonexistent").listAllPids(pids), 1);
+}
+
+} // namespace
