@@ -1,6 +1,7 @@
 # A private X display with a window manager, a tray and a session bus. Sourced, never run.
 #
 #   start_display           sets DISPLAY, XAUTHORITY and XDG_RUNTIME_DIR; ends with the shell
+#   start_tray              the tray again, after the program named by `tray_program` was ended
 #   start_bus               sets DBUS_SESSION_BUS_ADDRESS where there is none; ends with the shell
 #   spawn PROGRAM ARG...    starts a program in the background that ends with the shell; sets `spawned`
 #   main_window PID         waits for the program's window and prints its id
@@ -84,11 +85,17 @@ start_display() {
     export DISPLAY=:$number
     xauth -q add "$DISPLAY" . "$(xauth -q list | awk 'NR == 1 { print $3 }')"
     spawn openbox --sm-disable >/dev/null 2>&1
-    spawn tint2 >/dev/null 2>&1
+    start_tray
     if ! within_ten_seconds has_window_manager || ! within_ten_seconds has_panel; then
         echo "The window manager or the panel did not start on the private display." >&2
         return 1
     fi
+}
+
+# The desktop's panel, which holds the tray; sets `tray_program`.
+start_tray() {
+    spawn tint2 >/dev/null 2>&1
+    tray_program=$spawned
 }
 
 # A session bus where the shell has none.

@@ -18,6 +18,7 @@ check() {
     echo "ok: $what"
 }
 not() { ! "$@"; }
+alive() { kill -0 "$1" 2>/dev/null; }
 
 # Prints the id of the program's visible window whose "WIDTHxHEIGHT" matches the pattern.
 window_of_size() {
@@ -46,6 +47,7 @@ stands_above() {
 
 panel=320x360
 card='240x*'
+pill='*x26'
 
 start_display
 start_bus
@@ -99,13 +101,24 @@ xdotool windowactivate --sync "$main"
 xdotool windowraise "$main"
 check "it still stands above the raised main window" stands_above "$widget" "$main"
 
+kill "$tray_program"
+check "without a tray the pill shows the figures" shown "$pill"
+eval "$(xdotool getwindowgeometry --shell "$(window_of_size "$pill")")"
+[ $((X + WIDTH)) -gt 1200 ] && [ "$Y" -lt 60 ] || fail "the pill stands at the top right: $X $Y"
+click $((X + WIDTH / 2)) $((Y + HEIGHT / 2))
+check "a click on the pill opens the panel" shown "$panel"
+xdotool key Escape
+check "Escape closes it there too" not shown "$panel"
+start_tray
+check "a tray that appears takes the pill's place" not shown "$pill"
+
 xdotool windowactivate --sync "$main" key alt+F4
 check "closing the main window orders it out" not main_window_shown
-kill -0 "$pid" || fail "the program goes on without its main window"
+alive "$pid" || fail "the program goes on without its main window"
 "$program" || fail "a second start ends well"
 check "a second start brings the main window forward" main_window_shown
 [ "$(xdotool search --class tavrin 2>/dev/null | wc -l)" -gt 0 ] || fail "windows carry the program's class"
 
 xdotool windowactivate --sync "$(main_window "$pid")" key ctrl+q
-check "Ctrl+Q ends the program" not kill -0 "$pid"
+check "Ctrl+Q ends the program" not alive "$pid"
 echo "1 passed, 0 failed"
