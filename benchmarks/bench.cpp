@@ -1,200 +1,177 @@
-// What a pass over the process table and a whole tick cost, next to the least that the kernel asks for the
-// same figures and to the naive way. Prints one "NAME VALUE" a line: microseconds per process as medians of
-// repeated rounds, then ratios.
+// What one look at every process costs, beside what the kernel alone takes for it. Standard output holds
+// one "NAME VALUE" a line; times are medians in microseconds for one process.
 
 #include "AppModel.h"
+#include "Children.h"
 #include "Core/Sampler.h"
+#include "KernelFloor.h"
+#include "Platform/ProcessTable.h"
 #include "Preferences.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
-#include <fcntl.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <time.h>
-#include <unistd.h>
-
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
 
-constexpr int rounds = 31;
+constexpr std::array sizes = {200, 1000, 4000};
+constexpr int repetitions = 31;
 
-/// Sleeping children, ended and reaped with the object and with this program.
-class Sleepers {
+volatile std::sig_atomic_t interrupted = 0;
+
+/// Takes the place in the CPU's caches that other programs take in the two seconds between two ticks.
+class CacheEviction {
 public:
-    explicit Sleepers(int count) {
-        for (int i = 0; i < count; ++i)
-            start();
-    }
-    ~Sleepers() {
-        for (const pid_t pid : m_pids)
-            kill(pid, SIGKILL);
-        for (const pid_t pid : m_pids)
-            waitpid(pid, nullptr, 0);
-    }
-    Sleepers(const Sleepers&) = delete;
-    Sleepers& operator=(const Sleepers&) = delete;
+    CacheEviction()
+        : m_bytes(2 * std::max<size_t>(lastLevelCache(), 16 << 20)) {}
 
-    const std::vector<pid_t>& pids() const { return m_pids; }
-
-private:
-    void start() {
-        const pid_t parent = getpid();
-        const pid_t pid = fork();
-        if (pid == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);
-            if (getppid() != parent)
-                _exit(0);
-            for (;;)
-                pause();
-        }
-        if (pid < 0) {
-            std::perror("fork");
-            std::exit(1);
-        }
-        m_pids.push_back(pid);
-    }
-
-    std::vector<pid_t> m_pids;
-};
-
-/// The three questions whose answers a pass needs, on descriptors that are open already, and nothing else.
-class Floor {
-public:
-    explicit Floor(const std::vector<pid_t>& pids) {
-        for (const pid_t pid : pids) {
-            const std::string folder = "/proc/" + std::to_string(pid);
-            Handles handles{};
-            handles.statm = open((folder + "/statm").c_str(), O_RDONLY | O_CLOEXEC);
-            handles.task = open((folder + "/task").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-            if (handles.statm < 0 || handles.task < 0 || clock_getcpuclockid(pid, &handles.clock) != 0) {
-                std::perror("floor");
-                std::exit(1);
-            }
-            m_handles.push_back(handles);
-        }
-    }
-    ~Floor() {
-        for (const Handles& handles : m_handles) {
-            close(handles.statm);
-            close(handles.task);
-        }
-    }
-    Floor(const Floor&) = delete;
-    Floor& operator=(const Floor&) = delete;
-
-    void run() const {
-        char text[128];
-        struct stat status {};
-        timespec time{};
-        for (const Handles& handles : m_handles) {
-            if (pread(handles.statm, text, sizeof text, 0) <= 0 || fstat(handles.task, &status) != 0 ||
-                clock_gettime(handles.clock, &time) != 0)
-                std::abort();
-        }
+    void run() {
+        for (size_t at = 0; at < m_bytes.size(); at += 64)
+            ++m_bytes[at];
     }
 
 private:
-    struct Handles {
-        int statm;
-        int task;
-        clockid_t clock;
-    };
-    std::vector<Handles> m_handles;
+    static size_t lastLevelCache() {
+        return static_cast<size_t>(std::max(0L, sysconf(_SC_LEVEL3_CACHE_SIZE)));
+    }
+
+    std::vector<char> m_bytes;
 };
 
-void readNaively(const std::vector<pid_t>& pids) {
-    char text[1024];
-    for (const pid_t pid : pids) {
-        const int file = open(("/proc/" + std::to_string(pid) + "/stat").c_str(), O_RDONLY | O_CLOEXEC);
-        if (file < 0 || read(file, text, sizeof text) <= 0)
-            std::abort();
-        close(file);
-    }
-}
-
-double microseconds(const std::function<void()>& work) {
-    const auto begin = std::chrono::steady_clock::now();
+double microsecondsFor(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
     work();
-    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - begin).count();
+    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
 }
 
 double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
 }
 
-using Results = std::map<std::string, double>;
+/// Per process, in microseconds.
+struct Costs {
+    double floor = 0;
+    double naive = 0;
+    double pass = 0;
+    double tick = 0;
+};
 
-/// The four kinds of work take turns, so that whatever else the machine does hits them alike.
-void measure(int count, Results& results) {
-    const Sleepers sleepers(count);
-    const Floor floor(sleepers.pids());
-    const Platform platform = Platform::native();
-    Sampler sampler(platform);
-    const QTemporaryDir folder;
-    Preferences preferences(folder.filePath(QStringLiteral("settings.ini")));
-    AppModel model(platform, preferences);
-    qsizetype listed = 0;
+/// One piece of work, how many processes it covers, and where its cost goes.
+struct Piece {
+    std::function<void()> work;
+    qsizetype processes;
+    double Costs::*cost;
+};
 
-    struct Work {
-        const char* name;
-        std::function<void()> run;
-        std::function<qsizetype()> processes;
-        std::vector<double> times;
-    };
-    const auto own = [&] { return static_cast<qsizetype>(sleepers.pids().size()); };
-    const auto all = [&] { return listed; };
-    std::vector<Work> works = {
-        {"floor", [&] { floor.run(); }, own, {}},
-        {"naive", [&] { readNaively(sleepers.pids()); }, own, {}},
-        {"pass", [&] { listed = sampler.sampleProcesses().size(); }, all, {}},
-        {"tick", [&] { QMetaObject::invokeMethod(&model, "tick"); }, all, {}},
-    };
-    for (Work& work : works)
-        work.run();
-    for (int round = 0; round < rounds; ++round) {
-        for (Work& work : works) {
-            const double time = microseconds(work.run);
-            work.times.push_back(time / static_cast<double>(work.processes()));
+/// The pieces take turns, so that other work on the machine hits all of them alike. Empty when interrupted.
+std::optional<Costs> measure(const std::vector<Piece>& pieces, const std::function<void()>& beforeEach) {
+    std::vector<std::vector<double>> seen(pieces.size());
+    for (int repetition = 0; repetition < repetitions; ++repetition) {
+        for (size_t piece = 0; piece < pieces.size(); ++piece) {
+            if (interrupted)
+                return std::nullopt;
+            beforeEach();
+            seen[piece].push_back(microsecondsFor(pieces[piece].work) /
+                                  static_cast<double>(pieces[piece].processes));
         }
     }
-    for (const Work& work : works)
-        results[std::string(work.name) + "_us_" + std::to_string(count)] = median(work.times);
-    std::fprintf(stderr, "%d sleeping processes, %lld in the table\n", count, static_cast<long long>(listed));
+    Costs costs;
+    for (size_t piece = 0; piece < pieces.size(); ++piece)
+        costs.*pieces[piece].cost = median(seen[piece]);
+    return costs;
+}
+
+void print(const Costs& costs, const std::string& prefix, int size) {
+    for (const auto& [name, value] : {std::pair("floor", costs.floor), std::pair("naive", costs.naive),
+                                      std::pair("pass", costs.pass), std::pair("tick", costs.tick)})
+        std::printf("%s%s_us_%d %.3f\n", prefix.c_str(), name, size, value);
+    std::fflush(stdout);
+}
+
+struct Measured {
+    Costs cold; ///< with the CPU's caches full of other things, as a tick finds them
+    Costs warm; ///< one run straight after the other
+};
+
+/// Empty when interrupted or when the system gives no room for so many processes.
+std::optional<Measured> measureAt(int size) {
+    const Children children(size);
+    if (children.count() < size) {
+        std::fprintf(stderr, "only %d of %d processes could be started\n", children.count(), size);
+        return std::nullopt;
+    }
+    const auto platform = Platform::native();
+    const QTemporaryDir folder;
+    Preferences preferences(folder.filePath(QStringLiteral("bench.ini")));
+    AppModel model(platform, preferences);
+    Sampler sampler(platform);
+    const auto tick = [&model] { QMetaObject::invokeMethod(&model, "tick", Qt::DirectConnection); };
+    const auto known = sampler.sampleProcesses(); // looks up what is looked up once in a process's life
+    tick();
+
+    std::vector<int> pids;
+    for (const auto& process : known)
+        pids.push_back(process.pid);
+    const KernelFloor floor(pids);
+    std::fprintf(stderr, "%d children: %lld processes in a pass, %d in the floor\n", size,
+                 static_cast<long long>(known.size()), floor.count());
+    const std::vector<Piece> pieces = {
+        {[&] { floor.askAll(); }, floor.count(), &Costs::floor},
+        {[&] { floor.openReadCloseAll(); }, floor.count(), &Costs::naive},
+        {[&] { sampler.sampleProcesses(); }, known.size(), &Costs::pass},
+        {tick, known.size(), &Costs::tick},
+    };
+    CacheEviction eviction;
+    const auto cold = measure(pieces, [&] { eviction.run(); });
+    const auto warm = measure(pieces, [] {});
+    if (!cold || !warm)
+        return std::nullopt;
+    return Measured{.cold = *cold, .warm = *warm};
+}
+
+void printRatios(const std::map<int, Costs>& at, const std::string& prefix) {
+    const auto line = [&prefix](const char* name, double ratio) {
+        std::printf("%s%s %.3f\n", prefix.c_str(), name, ratio);
+    };
+    const auto& middle = at.at(1000);
+    line("pass_over_floor_1000", middle.pass / middle.floor);
+    line("pass_over_naive_1000", middle.pass / middle.naive);
+    line("growth_4000_over_200", at.at(4000).pass / at.at(200).pass);
+    line("floor_growth_4000_over_200", at.at(4000).floor / at.at(200).floor);
+    line("tick_over_pass_1000", middle.tick / middle.pass);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication app(argc, argv);
-    rlimit descriptors{};
-    getrlimit(RLIMIT_NOFILE, &descriptors);
-    descriptors.rlim_cur = descriptors.rlim_max;
-    setrlimit(RLIMIT_NOFILE, &descriptors);
-
-    Results results;
-    for (const int count : {200, 1000, 4000}) {
-        measure(count, results);
-        for (const char* name : {"floor_us_", "naive_us_", "pass_us_", "tick_us_"}) {
-            const std::string key = name + std::to_string(count);
-            std::printf("%s %.3f\n", key.c_str(), results[key]);
-        }
+    const QCoreApplication application(argc, argv);
+    std::signal(SIGINT, [](int) { interrupted = 1; });
+    std::signal(SIGTERM, [](int) { interrupted = 1; });
+    std::map<int, Costs> cold;
+    std::map<int, Costs> warm;
+    for (const int size : sizes) {
+        const auto measured = measureAt(size);
+        if (!measured)
+            return 1;
+        cold[size] = measured->cold;
+        warm[size] = measured->warm;
+        print(measured->cold, "", size);
+        print(measured->warm, "warm_", size);
     }
-    std::printf("pass_over_floor_1000 %.3f\n", results["pass_us_1000"] / results["floor_us_1000"]);
-    std::printf("pass_over_naive_1000 %.3f\n", results["pass_us_1000"] / results["naive_us_1000"]);
-    std::printf("growth_4000_over_200 %.3f\n", results["pass_us_4000"] / results["pass_us_200"]);
-    std::printf("tick_over_pass_1000 %.3f\n", results["tick_us_1000"] / results["pass_us_1000"]);
+    printRatios(cold, "");
+    printRatios(warm, "warm_");
     return 0;
 }

@@ -9,7 +9,10 @@
 #include "UI/MenuBar.h"
 
 AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, Desktop desktop)
-    : m_model(model), m_preferences(preferences), m_desktop(std::move(desktop)), m_widget(m_desktop) {}
+    : m_model(model)
+    , m_preferences(preferences)
+    , m_desktop(std::move(desktop))
+    , m_widget(m_desktop) {}
 
 AppDelegate::~AppDelegate() = default;
 

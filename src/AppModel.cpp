@@ -33,7 +33,10 @@ AppModel& AppModel::shared() {
 }
 
 AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
-    : QObject(parent), m_platform(std::move(platform)), m_preferences(preferences), m_sampler(m_platform) {
+    : QObject(parent)
+    , m_platform(std::move(platform))
+    , m_preferences(preferences)
+    , m_sampler(m_platform) {
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
 }
 

@@ -61,7 +61,9 @@ Preferences& Preferences::shared() {
     return instance;
 }
 
-Preferences::Preferences(const QString& iniFile, QObject* parent) : QObject(parent), m_file(iniFile) {}
+Preferences::Preferences(const QString& iniFile, QObject* parent)
+    : QObject(parent)
+    , m_file(iniFile) {}
 
 int Preferences::historyRetentionSamples() const {
     constexpr double shortestInterval = 0.5;

@@ -38,7 +38,9 @@ class Preferences;
 template <typename T> class Property {
 public:
     Property(Preferences& owner, const char16_t* key, T fallback)
-        : m_owner(owner), m_key(QString::fromUtf16(key)), m_fallback(std::move(fallback)) {}
+        : m_owner(owner)
+        , m_key(QString::fromUtf16(key))
+        , m_fallback(std::move(fallback)) {}
 
     T operator()() const;
     /// On disk when it returns; observers hear of it before the new value can be read.

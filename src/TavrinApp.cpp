@@ -19,7 +19,8 @@ QString displayName() {
 
 } // namespace
 
-TavrinApp::TavrinApp(int& argc, char** argv) : QApplication(argc, argv) {
+TavrinApp::TavrinApp(int& argc, char** argv)
+    : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Tavrin"));
     setApplicationDisplayName(QStringLiteral("Tavrin"));
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));

@@ -36,7 +36,10 @@ double delta(quint32 current, quint32 previous) {
 } // namespace
 
 Sampler::Sampler(const Platform& platform)
-    : host(platform.host), table(platform.processes), clock(platform.clock), pageSize(host->pageSize()) {}
+    : host(platform.host)
+    , table(platform.processes)
+    , clock(platform.clock)
+    , pageSize(host->pageSize()) {}
 
 SystemSample Sampler::sample() {
     SystemSample sample;

@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-SettingsFile::SettingsFile(const QString& path) : m_settings(path, QSettings::IniFormat) {}
+SettingsFile::SettingsFile(const QString& path)
+    : m_settings(path, QSettings::IniFormat) {}
 
 std::optional<QString> SettingsFile::text(const QString& key) const {
     const QVariant value = m_settings.value(key);

@@ -1,12 +1,15 @@
 #include "UI/MainWindow.h"
 
+#include "UI/AppMenu.h"
 #include "UI/RootView.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QMenu>
 
-MainWindow::MainWindow(AppModel& model, QWidget* parent) : QMainWindow(parent), m_root(new RootView(model)) {
+MainWindow::MainWindow(AppModel& model, QWidget* parent)
+    : QMainWindow(parent)
+    , m_root(new RootView(model)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);
@@ -18,10 +21,16 @@ void MainWindow::addMenuActions() {
     auto* close = new QAction(QStringLiteral("Close Window"), this);
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(close, &QAction::triggered, this, &QWidget::close);
-    auto* quit = new QAction(QStringLiteral("Quit"), this);
-    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-    connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit);
-    addActions({close, quit});
+    addAction(close);
+
+    auto* menu = new QMenu(this);
+    AppMenu::fill(*menu, [this] {
+        raise();
+        activateWindow();
+    });
+    // The menu's shortcuts hold in the whole window, also while the menu is closed.
+    addActions(menu->actions());
+    m_root->setMenu(menu);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -4,6 +4,7 @@
 #include "Core/Observe.h"
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
+#include "UI/AppMenu.h"
 #include "UI/Kit/FigureIcon.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/MainWindowFinder.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -42,7 +44,10 @@ QStringList figures(MenuBarFormat format, const SystemSample& sample) {
 
 MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, Desktop desktop,
                                      WidgetWindow& widget, QObject* parent)
-    : QObject(parent), m_model(model), m_preferences(preferences), m_desktop(std::move(desktop)) {
+    : QObject(parent)
+    , m_model(model)
+    , m_preferences(preferences)
+    , m_desktop(std::move(desktop)) {
     buildMenu();
     m_desktop.statusItem->show({.title = QStringLiteral("•••"),
                                 .symbol = {},
@@ -60,9 +65,7 @@ MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, 
 }
 
 void MenuBarController::buildMenu() {
-    m_menu.addAction(QStringLiteral("Open"), this, &MenuBarController::openMainWindow);
-    m_menu.addSeparator();
-    m_menu.addAction(QStringLiteral("Quit"), Qt::CTRL | Qt::Key_Q, qApp, &QCoreApplication::quit);
+    AppMenu::fill(m_menu, [this] { openMainWindow(); });
     m_desktop.statusItem->setMenu(&m_menu);
 }
 
@@ -84,14 +87,18 @@ QString MenuBarController::title(MenuBarFormat format, const SystemSample& sampl
 
 void MenuBarController::update(const SystemSample& sample) {
     const MenuBarFormat format = m_preferences.menuBarFormat();
+    const QString text = title(format, sample);
+    const Shown shown{.format = format, .title = text, .dark = Theme::isDark()};
+    if (std::exchange(m_shown, shown) == shown)
+        return;
+    const bool iconOnly = format == MenuBarFormat::iconOnly;
     const QPixmap symbol =
         Symbols::pixmap(QStringLiteral("waveform.path.ecg"), Theme::color(Theme::Role::primaryText),
                         symbolSize, qApp->devicePixelRatio());
-    const bool iconOnly = format == MenuBarFormat::iconOnly;
-    m_desktop.statusItem->show({.title = title(format, sample),
+    m_desktop.statusItem->show({.title = text,
                                 .symbol = iconOnly ? QIcon(symbol) : QIcon(),
                                 .compact = FigureIcon::make(figures(format, sample)),
-                                .toolTip = iconOnly ? QStringLiteral("Tavrin") : title(format, sample)});
+                                .toolTip = iconOnly ? QStringLiteral("Tavrin") : text});
 }
 
 void MenuBarController::togglePopover() {

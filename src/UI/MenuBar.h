@@ -6,6 +6,8 @@
 #include <QMenu>
 #include <QObject>
 
+#include <optional>
+
 class AppModel;
 class WidgetWindow;
 struct SystemSample;
@@ -23,6 +25,15 @@ public:
     static QString title(MenuBarFormat format, const SystemSample& sample);
 
 private:
+    /// What the item was last drawn from; it is drawn again only when that changes.
+    struct Shown {
+        MenuBarFormat format;
+        QString title;
+        bool dark;
+
+        bool operator==(const Shown&) const = default;
+    };
+
     void buildMenu();
     void update(const SystemSample& sample);
     void togglePopover();
@@ -32,4 +43,5 @@ private:
     Preferences& m_preferences;
     Desktop m_desktop;
     QMenu m_menu;
+    std::optional<Shown> m_shown;
 };

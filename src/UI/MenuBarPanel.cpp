@@ -64,7 +64,10 @@ PanelRow::Content contentOf(const Alert& alert) {
 } // namespace
 
 MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* parent)
-    : QWidget(parent), m_model(model), m_widget(widget), m_alertSection(new QWidget) {
+    : QWidget(parent)
+    , m_model(model)
+    , m_widget(widget)
+    , m_alertSection(new QWidget) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, 10, padding, padding);
     column->setSpacing(spacing);

@@ -1,5 +1,6 @@
 #include "UI/RootView.h"
 
+#include "UI/Kit/IconButton.h"
 #include "UI/Kit/SidebarDelegate.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Kit/Theme.h"
@@ -7,6 +8,7 @@
 
 #include <QEvent>
 #include <QListWidget>
+#include <QMenu>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -38,6 +40,7 @@ QString tabSymbol(RootView::Tab tab) {
 RootView::RootView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_sidebar(new QListWidget)
+    , m_menuButton(new IconButton(QStringLiteral("gear"), QStringLiteral("Menu")))
     , m_title(new TextLabel(Theme::TextStyle::title2, QFont::Bold))
     , m_sections(new QStackedWidget) {
     m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
@@ -54,6 +57,11 @@ RootView::RootView(AppModel& model, QWidget* parent)
     auto* sidebarColumn = new QVBoxLayout(sidebarPane);
     sidebarColumn->setContentsMargins(0, sidebarTopMargin, 0, 0);
     sidebarColumn->addWidget(m_sidebar);
+    auto* foot = new QHBoxLayout;
+    foot->setContentsMargins(sidebarTopMargin, 0, sidebarTopMargin, sidebarTopMargin);
+    foot->addWidget(m_menuButton);
+    foot->addStretch();
+    sidebarColumn->addLayout(foot);
 
     auto* split = new QSplitter;
     split->setChildrenCollapsible(false);
@@ -95,6 +103,13 @@ void RootView::addSection(Tab tab, QWidget* section) {
     row->setData(SidebarDelegate::symbolRole, tabSymbol(tab));
     row->setData(SidebarDelegate::symbolRole + 1, static_cast<int>(tab));
     m_sections->addWidget(section);
+}
+
+void RootView::setMenu(QMenu* menu) {
+    connect(m_menuButton, &IconButton::clicked, menu, [this, menu] {
+        const QPoint above = m_menuButton->mapToGlobal(QPoint(0, -menu->sizeHint().height()));
+        menu->popup(above);
+    });
 }
 
 RootView::Tab RootView::tab() const {

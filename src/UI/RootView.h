@@ -7,7 +7,9 @@
 #include <array>
 
 class AppModel;
+class IconButton;
 class QListWidget;
+class QMenu;
 class QStackedWidget;
 class TextLabel;
 
@@ -24,6 +26,8 @@ public:
 
     Tab tab() const;
     void select(Tab tab);
+    /// Opened by the button at the foot of the sidebar; not owned.
+    void setMenu(QMenu* menu);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -35,6 +39,7 @@ private:
     void tintSidebar();
 
     QListWidget* m_sidebar;
+    IconButton* m_menuButton;
     TextLabel* m_title;
     QStackedWidget* m_sections;
 };

@@ -13,7 +13,8 @@ constexpr QPoint fromRightAndBottom(260, 40);
 
 } // namespace
 
-WidgetWindow::WidgetWindow(Desktop desktop) : m_desktop(std::move(desktop)) {}
+WidgetWindow::WidgetWindow(Desktop desktop)
+    : m_desktop(std::move(desktop)) {}
 
 WidgetWindow::~WidgetWindow() = default;
 

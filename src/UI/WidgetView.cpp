@@ -13,6 +13,7 @@
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 
+#include <QGraphicsDropShadowEffect>
 #include <QGridLayout>
 #include <QPainter>
 
@@ -28,11 +29,15 @@ constexpr int spacing = 10;
 constexpr int tileSpacing = 8;
 constexpr double cornerRadius = 14;
 constexpr int groupSymbolWidth = 14;
+constexpr double shadowOpacity = 0.35;
+constexpr double shadowBlur = 8; // Qt's blur reaches half as far as it says
 
 } // namespace
 
 WidgetView::WidgetView(AppModel& model, QWidget* parent)
-    : QWidget(parent), m_model(model), m_alertSection(makeAlert()) {
+    : QWidget(parent)
+    , m_model(model)
+    , m_alertSection(makeAlert()) {
     setFixedWidth(cardWidth);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, padding, padding, padding);
@@ -195,11 +200,17 @@ void WidgetView::paintEvent(QPaintEvent*) {
     if (!translucent)
         painter.fillRect(rect(), Theme::color(Role::windowFill));
     Painting::drawCard(painter, rect(), cornerRadius, Theme::color(Role::windowFill, translucent ? 0.92 : 1),
-                       Theme::color(Role::cardBorder));
+                       Theme::isDark() ? QColor(255, 255, 255, 20) : Theme::color(Role::cardBorder));
 }
 
-MiniTile::MiniTile(QString title, QWidget* parent) : QWidget(parent), m_title(std::move(title)) {
+MiniTile::MiniTile(QString title, QWidget* parent)
+    : QWidget(parent)
+    , m_title(std::move(title))
+    , m_shadow(new QGraphicsDropShadowEffect(this)) {
     setFixedHeight(58);
+    m_shadow->setBlurRadius(shadowBlur);
+    m_shadow->setOffset(0, 2);
+    setGraphicsEffect(m_shadow);
 }
 
 void MiniTile::set(const QString& value, Role role) {
@@ -207,6 +218,7 @@ void MiniTile::set(const QString& value, Role role) {
         return;
     m_value = value;
     m_role = role;
+    m_shadow->setColor(Theme::tileColor(role, shadowOpacity));
     setAccessibleName(QStringLiteral("%1 %2").arg(m_title, m_value));
     update();
 }

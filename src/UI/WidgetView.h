@@ -11,7 +11,7 @@ class IconButton;
 class MiniTile;
 class PanelRow;
 class TextLabel;
-class QVBoxLayout;
+class QGraphicsDropShadowEffect;
 
 /// The card of the floating widget.
 class WidgetView : public QWidget {
@@ -73,4 +73,5 @@ private:
     QString m_title;
     QString m_value;
     Theme::Role m_role = Theme::Role::green;
+    QGraphicsDropShadowEffect* m_shadow;
 };

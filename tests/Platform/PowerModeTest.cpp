@@ -26,7 +26,9 @@ template <typename Condition> bool eventually(Condition condition) {
 /// Answers as the power-profiles daemon does, under one of its names.
 class Daemon : public QDBusVirtualObject {
 public:
-    Daemon(const QDBusConnection& bus, const QString& service) : m_bus(bus), m_service(service) {
+    Daemon(const QDBusConnection& bus, const QString& service)
+        : m_bus(bus)
+        , m_service(service) {
         m_bus.registerVirtualObject(path(), this);
         m_bus.registerService(m_service);
     }

@@ -101,7 +101,8 @@ private:
 
 class Camera {
 public:
-    explicit Camera(QString folder) : m_folder(std::move(folder)) {}
+    explicit Camera(QString folder)
+        : m_folder(std::move(folder)) {}
 
     void take(QWidget& widget, const QString& name) {
         widget.show();

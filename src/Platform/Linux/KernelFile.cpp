@@ -9,9 +9,11 @@
 KernelFile::KernelFile(int directory, const char* path, int extraFlags)
     : m_descriptor(openat(directory, path, O_RDONLY | O_CLOEXEC | extraFlags)) {}
 
-KernelFile::KernelFile(const std::string& path) : KernelFile(AT_FDCWD, path.c_str()) {}
+KernelFile::KernelFile(const std::string& path)
+    : KernelFile(AT_FDCWD, path.c_str()) {}
 
-KernelFile::KernelFile(KernelFile&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+KernelFile::KernelFile(KernelFile&& other) noexcept
+    : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
 
 KernelFile& KernelFile::operator=(KernelFile&& other) noexcept {
     std::swap(m_descriptor, other.m_descriptor);

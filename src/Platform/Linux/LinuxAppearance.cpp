@@ -25,7 +25,8 @@ QVariant unwrapped(QVariant value) {
 
 } // namespace
 
-LinuxAppearance::LinuxAppearance(QObject* parent) : Appearance(parent) {
+LinuxAppearance::LinuxAppearance(QObject* parent)
+    : Appearance(parent) {
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;

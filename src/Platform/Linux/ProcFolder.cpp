@@ -37,7 +37,8 @@ qint32 pidNamed(const char* name) {
 } // namespace
 
 ProcFolder::ProcFolder(const std::string& path)
-    : m_folder(AT_FDCWD, path.c_str(), O_DIRECTORY), m_room(std::make_unique<char[]>(roomSize)) {}
+    : m_folder(AT_FDCWD, path.c_str(), O_DIRECTORY)
+    , m_room(std::make_unique<char[]>(roomSize)) {}
 
 std::span<const ProcFolder::Row> ProcFolder::rows() {
     m_rows.clear();

@@ -23,7 +23,9 @@ QString socketPath(const QString& display) {
 } // namespace
 
 SingleInstance::SingleInstance(const QString& display, QObject* parent)
-    : QObject(parent), m_socket(socketPath(display)), m_server(new QLocalServer(this)) {
+    : QObject(parent)
+    , m_socket(socketPath(display))
+    , m_server(new QLocalServer(this)) {
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server->nextPendingConnection()) {

@@ -7,7 +7,8 @@ class Divider : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Divider(QWidget* parent = nullptr) : QWidget(parent) {
+    explicit Divider(QWidget* parent = nullptr)
+        : QWidget(parent) {
         setFixedHeight(1);
         setAutoFillBackground(true);
         setBackgroundRole(QPalette::Mid);

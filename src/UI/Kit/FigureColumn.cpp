@@ -23,7 +23,9 @@ double height(const QFont& font) {
 
 } // namespace
 
-FigureColumn::FigureColumn(QString label, QWidget* parent) : QWidget(parent), m_label(std::move(label)) {
+FigureColumn::FigureColumn(QString label, QWidget* parent)
+    : QWidget(parent)
+    , m_label(std::move(label)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

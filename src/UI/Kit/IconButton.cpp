@@ -24,7 +24,9 @@ void drawBackground(QPainter& painter, const QAbstractButton& button) {
 } // namespace
 
 IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* parent)
-    : QAbstractButton(parent), m_symbol(std::move(symbol)), m_tint(tint) {
+    : QAbstractButton(parent)
+    , m_symbol(std::move(symbol))
+    , m_tint(tint) {
     setToolTip(help);
     setAccessibleName(help);
     setFixedSize(side, side);
@@ -50,7 +52,8 @@ void IconButton::paintEvent(QPaintEvent*) {
     Symbols::draw(painter, m_symbol, tint, rect(), symbolSize);
 }
 
-TextButton::TextButton(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+TextButton::TextButton(const QString& text, QWidget* parent)
+    : QAbstractButton(parent) {
     setText(text);
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
     setFocusPolicy(Qt::TabFocus);

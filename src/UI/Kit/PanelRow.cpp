@@ -17,7 +17,9 @@ constexpr int verticalPadding = 3;
 } // namespace
 
 PanelRow::PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent)
-    : QWidget(parent), m_style(style), m_symbolWidth(symbolWidth) {
+    : QWidget(parent)
+    , m_style(style)
+    , m_symbolWidth(symbolWidth) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -50,7 +50,8 @@ public:
 
 } // namespace
 
-SlimScrollBar::SlimScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+SlimScrollBar::SlimScrollBar(QWidget* parent)
+    : QScrollBar(Qt::Vertical, parent) {
     auto* style = new NoArrowsStyle;
     style->setParent(this);
     setStyle(style);

@@ -60,7 +60,9 @@ void draw(QPainter& painter, const QString& name, const QColor& tint, const QRec
 
 } // namespace Symbols
 
-SymbolView::SymbolView(int size, int width, QWidget* parent) : QWidget(parent), m_size(size) {
+SymbolView::SymbolView(int size, int width, QWidget* parent)
+    : QWidget(parent)
+    , m_size(size) {
     setFixedSize(width, size);
 }
 

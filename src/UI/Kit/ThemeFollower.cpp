@@ -15,7 +15,9 @@ bool isDark(const QPalette& palette) {
 } // namespace
 
 ThemeFollower::ThemeFollower(std::unique_ptr<Appearance> appearance, QObject* parent)
-    : QObject(parent), m_appearance(std::move(appearance)), m_paletteIsDark(isDark(QApplication::palette())) {
+    : QObject(parent)
+    , m_appearance(std::move(appearance))
+    , m_paletteIsDark(isDark(QApplication::palette())) {
     connect(m_appearance.get(), &Appearance::changed, this, &ThemeFollower::follow);
     follow();
 }

@@ -53,7 +53,8 @@ void AlertCard::paintEvent(QPaintEvent*) {
                        Theme::color(role, 0.35));
 }
 
-HealthyCard::HealthyCard(QWidget* parent) : QWidget(parent) {
+HealthyCard::HealthyCard(QWidget* parent)
+    : QWidget(parent) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
     auto* text = (new TextLabel(TextStyle::body))->secondary();
@@ -71,7 +72,9 @@ void HealthyCard::paintEvent(QPaintEvent*) {
 }
 
 AlertStripView::AlertStripView(QWidget* parent)
-    : QWidget(parent), m_column(new QVBoxLayout(this)), m_healthy(new HealthyCard) {
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+    , m_healthy(new HealthyCard) {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(m_healthy);

@@ -28,7 +28,8 @@ constexpr int columnGap = 12;
 
 } // namespace
 
-GroupHeader::GroupHeader(ProcGroup group, QWidget* parent) : QAbstractButton(parent) {
+GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
+    : QAbstractButton(parent) {
     m_rollup.group = group;
     setFixedHeight(headerHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -22,7 +22,9 @@ double lineHeight(const QFont& font) {
 
 } // namespace
 
-MetricTile::MetricTile(QWidget* parent) : QWidget(parent), m_sparkline(new Sparkline(this)) {
+MetricTile::MetricTile(QWidget* parent)
+    : QWidget(parent)
+    , m_sparkline(new Sparkline(this)) {
     setMinimumHeight(tileHeight);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding,

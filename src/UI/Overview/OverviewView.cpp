@@ -25,7 +25,9 @@ TextLabel* heading(const QString& text) {
 } // namespace
 
 OverviewView::OverviewView(AppModel& model, QWidget* parent)
-    : QScrollArea(parent), m_model(model), m_alerts(new AlertStripView) {
+    : QScrollArea(parent)
+    , m_model(model)
+    , m_alerts(new AlertStripView) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(Theme::pageMargins);

@@ -17,7 +17,8 @@ constexpr int memoryWidth = 80;
 
 } // namespace
 
-ProcessRow::ProcessRow(QWidget* parent) : QWidget(parent) {
+ProcessRow::ProcessRow(QWidget* parent)
+    : QWidget(parent) {
     setFixedHeight(rowHeight);
 }
 

@@ -4,7 +4,8 @@
 
 #include <algorithm>
 
-Sparkline::Sparkline(QWidget* parent) : QWidget(parent) {
+Sparkline::Sparkline(QWidget* parent)
+    : QWidget(parent) {
     setFixedHeight(32);
 }
 

@@ -4,7 +4,8 @@
 
 using namespace std::chrono_literals;
 
-LinuxStatusItem::LinuxStatusItem(QObject* parent) : StatusItem(parent) {
+LinuxStatusItem::LinuxStatusItem(QObject* parent)
+    : StatusItem(parent) {
     connect(&m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)
             Q_EMIT clicked();

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <vector>
+
+/// Processes that sleep until this object ends and reaps them; they end too when this program is killed.
+class Children {
+public:
+    /// Starts `count` of them; fewer where the system refuses more.
+    explicit Children(int count);
+    ~Children();
+    Children(const Children&) = delete;
+    Children& operator=(const Children&) = delete;
+
+    int count() const { return static_cast<int>(m_pids.size()); }
+
+private:
+    std::vector<pid_t> m_pids;
+};
