@@ -87,29 +87,28 @@ QList<ProcSample> Sampler::sampleProcesses() {
         const qint32 pid = pids[static_cast<std::size_t>(i)];
         if (pid < 1)
             continue;
-        const auto known = prev.find(pid);
-        if (known != prev.end())
-            known->pass = pass;
+        auto entry = known.find(pid);
+        if (entry != known.end())
+            entry->prev.pass = pass;
         const auto task = table->taskInfo(pid);
         if (!task)
             continue;
-        PrevCPU& cpu = known != prev.end() ? *known : prev[pid];
-        const double percent = cpuPercent(cpu, task->cpuTimeNs, uptime);
-        auto meta = staticCache.constFind(pid);
-        if (meta == staticCache.constEnd())
-            meta = staticCache.insert(pid, lookUp(pid, now));
+        if (entry == known.end())
+            entry = known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now)});
+        const double percent = cpuPercent(entry->prev, task->cpuTimeNs, uptime);
+        const StaticMeta& meta = entry->staticCache;
         result.append({.pid = pid,
-                       .parentPid = meta->ppid,
-                       .uid = meta->uid,
-                       .name = meta->name,
-                       .executablePath = meta->path,
-                       .arguments = meta->args,
+                       .parentPid = meta.ppid,
+                       .uid = meta.uid,
+                       .name = meta.name,
+                       .executablePath = meta.path,
+                       .arguments = meta.args,
                        .cpuPercent = percent,
                        .rssBytes = task->residentBytes,
                        .virtualBytes = task->virtualBytes,
                        .threads = task->threads,
-                       .startTime = meta->startTime,
-                       .idleSeconds = secondsBetween(cpu.lastNonZero, uptime),
+                       .startTime = meta.startTime,
+                       .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
                        .group = ProcGroup::other});
     }
     evictUnseen();
@@ -132,14 +131,7 @@ double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
 }
 
 void Sampler::evictUnseen() {
-    for (auto entry = prev.begin(); entry != prev.end();) {
-        if (entry->pass == pass) {
-            ++entry;
-            continue;
-        }
-        staticCache.remove(entry.key());
-        entry = prev.erase(entry);
-    }
+    known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
 }
 
 Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) const {

@@ -27,7 +27,7 @@ public:
     QList<ProcSample> sampleProcesses();
 
     /// How many processes the tables remember; level in the long run.
-    qsizetype rememberedProcesses() const { return prev.size(); }
+    qsizetype rememberedProcesses() const { return known.size(); }
 
 private:
     struct PrevCPU {
@@ -44,6 +44,11 @@ private:
         qint32 ppid = 0;
         Instant startTime;
     };
+    /// One entry, so that a pass looks a process up once.
+    struct Known {
+        PrevCPU prev;
+        StaticMeta staticCache;
+    };
     using Uptime = std::chrono::steady_clock::time_point;
 
     double cpuLoad();
@@ -58,7 +63,6 @@ private:
     std::shared_ptr<Clock> clock;
     quint64 pageSize;
     std::optional<CpuTicks> prevHostCPU;
-    QHash<qint32, PrevCPU> prev;
-    QHash<qint32, StaticMeta> staticCache;
+    QHash<qint32, Known> known; ///< by process id
     quint32 pass = 0;
 };

@@ -18,6 +18,8 @@ namespace {
 
 constexpr qsizetype descriptorsForTheRest = 64;
 constexpr qsizetype commLength = 15;
+// Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
+constexpr int mostRepeats = 15;
 constexpr qsizetype mostArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
 
 /// As clock_getcpuclockid(3) makes it, without its call to ask whether the process exists.
@@ -55,58 +57,95 @@ QByteArray lastComponent(const QByteArray& path) {
 
 LinuxProcessTable::LinuxProcessTable(const std::string& root)
     : m_folder(root)
+    , m_loadAverage(root + "/loadavg")
     , m_descriptorBudget(raisedDescriptorLimit() - descriptorsForTheRest)
     , m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE)))
     , m_tickNs(1'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK))) {}
 
 int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
-    ++m_listing;
-    size_t count = 0;
-    for (const auto& [pid, inode] : m_folder.rows()) {
-        if (count == pids.size())
-            break;
-        auto& process = m_processes[pid];
-        const bool isNew = process.listing == 0;
-        process.listing = m_listing;
-        if (isNew || (process.isKernelThread && process.inode != inode)) {
-            process.inode = inode;
-            process.isKernelThread = isKernelThread(pid, process);
-        }
-        if (!process.isKernelThread)
-            pids[count++] = pid;
+    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < mostRepeats;
+    m_repeats = unchanged ? m_repeats + 1 : 0;
+    if (!unchanged) {
+        listAnew();
+        m_someoneLeft = false;
     }
-    forgetUnlisted();
+    const size_t count = std::min(pids.size(), m_listed.size());
+    std::copy_n(m_listed.begin(), count, pids.begin());
     return static_cast<int>(count);
 }
 
-bool LinuxProcessTable::isKernelThread(qint32 pid, Process& process) {
-    if (open(pid, process) && fromKept(pid, process))
+/// Whether an id has been given out since the last call: the last field of `/proc/loadavg` is the one given
+/// out last. True as well when that cannot be read.
+bool LinuxProcessTable::hasNewPids() {
+    std::array<char, 128> room;
+    const auto text = m_loadAverage.read(room);
+    const auto newest = text.substr(std::min(text.rfind(' '), text.size()));
+    if (!newest.empty() && newest == m_newestPid)
+        return false;
+    m_newestPid = newest;
+    return true;
+}
+
+/// Goes through the new rows and the kept processes side by side, both by rising id.
+void LinuxProcessTable::listAnew() {
+    const auto rows = m_folder.rows();
+    std::vector<Process> processes;
+    processes.reserve(rows.size());
+    m_listed.clear();
+    auto kept = m_processes.begin();
+    for (const auto& row : rows) {
+        processes.push_back(keptOrNew(row, kept));
+        if (!processes.back().isKernelThread)
+            m_listed.push_back(row.pid);
+    }
+    for (Process& process : m_processes)
+        close(process); // what has not been moved from is not listed any more
+    m_processes = std::move(processes);
+    m_expected = 0;
+}
+
+LinuxProcessTable::Process LinuxProcessTable::keptOrNew(const ProcFolder::Row& row,
+                                                        std::vector<Process>::iterator& kept) {
+    while (kept != m_processes.end() && kept->pid < row.pid)
+        ++kept;
+    const bool isKept = kept != m_processes.end() && kept->pid == row.pid;
+    Process process = isKept ? std::move(*kept) : Process{.pid = row.pid};
+    if (!isKept || (process.isKernelThread && process.inode != row.inode)) {
+        process.inode = row.inode;
+        process.isKernelThread = isKernelThread(process);
+    }
+    return process;
+}
+
+LinuxProcessTable::Process& LinuxProcessTable::processOf(qint32 pid) {
+    if (m_expected >= m_processes.size() || m_processes[m_expected].pid != pid) {
+        const auto place =
+            std::lower_bound(m_processes.begin(), m_processes.end(), pid,
+                             [](const Process& process, qint32 id) { return process.pid < id; });
+        m_expected = static_cast<size_t>(place - m_processes.begin());
+        if (place == m_processes.end() || place->pid != pid)
+            m_processes.insert(place, Process{.pid = pid});
+    }
+    return m_processes[m_expected++];
+}
+
+bool LinuxProcessTable::isKernelThread(Process& process) {
+    if (open(process) && fromKept(process))
         return false; // it has memory
-    const auto stat = readStat(pid);
+    const auto stat = readStat(process.pid);
     const bool kernels = stat && stat->isKernelThread();
     if (kernels)
         close(process);
     return kernels;
 }
 
-void LinuxProcessTable::forgetUnlisted() {
-    for (auto entry = m_processes.begin(); entry != m_processes.end();) {
-        if (entry->second.listing == m_listing) {
-            ++entry;
-        } else {
-            close(entry->second);
-            entry = m_processes.erase(entry);
-        }
-    }
-}
-
-bool LinuxProcessTable::open(qint32 pid, Process& process) {
+bool LinuxProcessTable::open(Process& process) {
     if (process.statm.isOpen())
         return true;
     if (m_descriptors + 2 > m_descriptorBudget)
         return false;
-    process.statm = openFile(pid, "statm");
-    process.task = openFile(pid, "task", O_DIRECTORY);
+    process.statm = openFile(process.pid, "statm");
+    process.task = openFile(process.pid, "task", O_DIRECTORY);
     if (!process.statm.isOpen() || !process.task.isOpen()) {
         process.statm.close();
         process.task.close();
@@ -126,21 +165,22 @@ void LinuxProcessTable::close(Process& process) {
 }
 
 std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
-    auto& process = m_processes[pid];
+    auto& process = processOf(pid);
     for (int look = 0; look < 2; ++look) {
-        if (!open(pid, process))
+        if (!open(process))
             return fromStat(pid);
-        if (const auto info = fromKept(pid, process))
+        if (const auto info = fromKept(process))
             return info;
         if (errno != ESRCH)
             return std::nullopt;
         close(process); // the process is gone, but another may have its id
+        m_someoneLeft = true;
     }
     return std::nullopt;
 }
 
 /// With errno ESRCH when the process that the descriptors belong to is gone.
-std::optional<TaskInfo> LinuxProcessTable::fromKept(qint32 pid, Process& process) const {
+std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) const {
     errno = 0;
     std::array<char, 128> room;
     auto statm = process.statm.read(room);
@@ -148,7 +188,7 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(qint32 pid, Process& process
     const auto residentPages = KernelText::takeNumber(statm);
     if (!residentPages || *virtualPages == 0)
         return std::nullopt;
-    const auto cpu = cpuTimeNs(pid);
+    const auto cpu = cpuTimeNs(process.pid);
     if (!cpu)
         return std::nullopt;
     // No thread has begun or ended in a process that has not run for a nanosecond.

@@ -6,7 +6,7 @@
 #include "Platform/ProcessTable.h"
 
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 /// The processes that procfs shows, kernel threads left out.
 ///
@@ -15,6 +15,7 @@
 ///   - `/proc/N/statm` (pread): resident and virtual pages;
 ///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
 ///   - `/proc/N/task` (fstat), where the clock has moved: two links and one for each thread.
+/// The listing itself is repeated from memory while no id has been given out and no listed process has gone.
 /// Such a descriptor never speaks for another process: once its own is gone it answers ESRCH, and the id is
 /// looked up anew. Where the limit on descriptors is reached, `/proc/N/stat` answers instead, opened each
 /// time.
@@ -23,6 +24,7 @@ public:
     /// `root` is where procfs is mounted. Raises the program's soft limit on descriptors to the hard one.
     explicit LinuxProcessTable(const std::string& root = "/proc");
 
+    /// A process that has gone may be listed once more, until a question about it finds out.
     int listAllPids(std::span<qint32> pids) override;
     /// Empty also for a process without address space, such as one that waits to be reaped.
     std::optional<TaskInfo> taskInfo(qint32 pid) override;
@@ -39,10 +41,10 @@ public:
 
 private:
     struct Process {
+        qint32 pid = 0;
         KernelFile statm;
         KernelFile task;
         quint64 inode = 0;
-        quint32 listing = 0; ///< the last one that held the process
         bool isKernelThread = false;
         int threads = 0; ///< when its clock stood at cpuTimeNs; 0 before the first look
         quint64 cpuTimeNs = 0;
@@ -52,20 +54,28 @@ private:
         quint64 virtualSize = 0;
     };
 
-    bool isKernelThread(qint32 pid, Process& process);
-    void forgetUnlisted();
-    bool open(qint32 pid, Process& process);
+    bool hasNewPids();
+    void listAnew();
+    Process keptOrNew(const ProcFolder::Row& row, std::vector<Process>::iterator& kept);
+    Process& processOf(qint32 pid);
+    bool isKernelThread(Process& process);
+    bool open(Process& process);
     void close(Process& process);
-    std::optional<TaskInfo> fromKept(qint32 pid, Process& process) const;
+    std::optional<TaskInfo> fromKept(Process& process) const;
     std::optional<TaskInfo> fromStat(qint32 pid) const;
     std::optional<quint64> cpuTimeNs(qint32 pid) const;
     std::optional<ProcStat> readStat(qint32 pid) const;
     KernelFile openFile(qint32 pid, const char* name, int extraFlags = 0) const;
 
     ProcFolder m_folder;
-    std::unordered_map<qint32, Process> m_processes;
-    quint32 m_listing = 0;
-    qsizetype m_descriptors = 0; ///< kept open in m_processes
+    KernelFile m_loadAverage;
+    std::string m_newestPid;          ///< as m_loadAverage had it at the last call
+    std::vector<qint32> m_listed;     ///< by the last listing, kernel threads left out
+    bool m_someoneLeft = false;       ///< since then
+    int m_repeats = 0;                ///< how often m_listed has been given again
+    std::vector<Process> m_processes; ///< by rising id, as procfs lists them
+    size_t m_expected = 0;            ///< where the next question will look, if asked in that order
+    qsizetype m_descriptors = 0;      ///< kept open in m_processes
     qsizetype m_descriptorBudget;
     quint64 m_pageSize;
     quint64 m_tickNs;

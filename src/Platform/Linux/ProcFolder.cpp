@@ -4,6 +4,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <limits>
@@ -47,9 +48,17 @@ std::span<const ProcFolder::Row> ProcFolder::rows() {
     for (;;) {
         const auto length = syscall(SYS_getdents64, m_folder.descriptor(), m_room.get(), roomSize);
         if (length <= 0)
-            return length == 0 ? std::span<const Row>(m_rows) : std::span<const Row>();
+            return length == 0 ? sorted() : std::span<const Row>();
         takeRows({m_room.get(), static_cast<size_t>(length)});
     }
+}
+
+/// The kernel lists by rising id; a copy of procfs on a disk need not.
+std::span<const ProcFolder::Row> ProcFolder::sorted() {
+    const auto byPid = [](const Row& a, const Row& b) { return a.pid < b.pid; };
+    if (!std::is_sorted(m_rows.begin(), m_rows.end(), byPid))
+        std::sort(m_rows.begin(), m_rows.end(), byPid);
+    return m_rows;
 }
 
 void ProcFolder::takeRows(std::span<const char> records) {

@@ -21,10 +21,11 @@ public:
     explicit ProcFolder(const std::string& path);
 
     int descriptor() const { return m_folder.descriptor(); }
-    /// Every process, in the kernel's order. Empty on failure. Valid until the next call.
+    /// Every process, by rising id. Empty on failure. Valid until the next call.
     std::span<const Row> rows();
 
 private:
+    std::span<const Row> sorted();
     void takeRows(std::span<const char> records);
 
     KernelFile m_folder;
