@@ -9,6 +9,7 @@
 namespace {
 
 constexpr std::size_t maximumPids = 4096;
+constexpr qsizetype mostTextsPerProcess = 6;
 constexpr double busyPercent = 0.5; ///< below it a process counts as idle
 
 double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
@@ -130,15 +131,25 @@ double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
     return percent;
 }
 
-void Sampler::evictUnseen() {
-    known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
+/// Many processes of a machine are copies of each other: the same text then costs memory, and a pass a
+/// trip to it, once.
+QString Sampler::interned(const QString& text) {
+    return *texts.insert(text);
 }
 
-Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) const {
+void Sampler::evictUnseen() {
+    known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
+    // The texts of the processes that went are dropped now and then, with the rest, which lives on in
+    // `known`.
+    if (texts.size() > mostTextsPerProcess * known.size() + mostTextsPerProcess)
+        texts.clear();
+}
+
+Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
     StaticMeta meta;
-    meta.path = QString::fromUtf8(table->executablePath(pid));
-    meta.name = procName(pid, meta.path);
-    meta.args = procArgs(pid);
+    meta.path = interned(QString::fromUtf8(table->executablePath(pid)));
+    meta.name = interned(procName(pid, meta.path));
+    meta.args = interned(procArgs(pid));
     meta.startTime = now;
     if (const auto info = table->kernelInfo(pid)) {
         meta.uid = info->uid;

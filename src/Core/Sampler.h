@@ -4,6 +4,7 @@
 #include "Platform/HostStatistics.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <chrono>
 #include <memory>
@@ -53,9 +54,10 @@ private:
 
     double cpuLoad();
     double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
-    StaticMeta lookUp(qint32 pid, Instant now) const;
+    StaticMeta lookUp(qint32 pid, Instant now);
     QString procName(qint32 pid, const QString& fallbackPath) const;
     QString procArgs(qint32 pid) const;
+    QString interned(const QString& text);
     void evictUnseen();
 
     std::shared_ptr<HostStatistics> host;
@@ -63,6 +65,7 @@ private:
     std::shared_ptr<Clock> clock;
     quint64 pageSize;
     std::optional<CpuTicks> prevHostCPU;
-    QHash<qint32, Known> known; ///< by process id
+    QHash<qint32, Known> known;  ///< by process id
+    QSet<QString> texts; ///< names, paths and arguments, each stored once for all that have it
     quint32 pass = 0;
 };
