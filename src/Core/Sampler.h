@@ -65,7 +65,7 @@ private:
     std::shared_ptr<Clock> clock;
     quint64 pageSize;
     std::optional<CpuTicks> prevHostCPU;
-    QHash<qint32, Known> known;  ///< by process id
-    QSet<QString> texts; ///< names, paths and arguments, each stored once for all that have it
+    QHash<qint32, Known> known; ///< by process id
+    QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it
     quint32 pass = 0;
 };

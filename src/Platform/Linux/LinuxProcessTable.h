@@ -49,10 +49,6 @@ private:
         int threads = 0; ///< when its clock stood at cpuTimeNs; 0 before the first look
         quint64 cpuTimeNs = 0;
     };
-    struct Pages {
-        quint64 resident = 0;
-        quint64 virtualSize = 0;
-    };
 
     bool hasNewPids();
     void listAnew();
