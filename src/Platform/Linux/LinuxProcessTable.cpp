@@ -1,9 +1,9 @@
 #include "Platform/Linux/LinuxProcessTable.h"
 
+#include "Platform/Linux/DescriptorLimit.h"
 #include "Platform/Linux/KernelText.h"
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <time.h>
 #include <unistd.h>
@@ -12,7 +12,6 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <limits>
 
 namespace {
 
@@ -26,17 +25,6 @@ constexpr qsizetype mostArguments = 6 * 1024 * 1024; // exec(2) lets no process 
 clockid_t cpuClockOf(qint32 pid) {
     constexpr clockid_t processWideScheduled = 2;
     return static_cast<clockid_t>(~static_cast<quint32>(pid) << 3) | processWideScheduled;
-}
-
-qsizetype raisedDescriptorLimit() {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
-        return 0;
-    const auto soft = limit.rlim_cur;
-    limit.rlim_cur = limit.rlim_max;
-    if (setrlimit(RLIMIT_NOFILE, &limit) != 0)
-        limit.rlim_cur = soft;
-    return static_cast<qsizetype>(std::min<rlim_t>(limit.rlim_cur, std::numeric_limits<int>::max()));
 }
 
 std::chrono::nanoseconds read(clockid_t clock) {
@@ -58,7 +46,7 @@ QByteArray lastComponent(const QByteArray& path) {
 LinuxProcessTable::LinuxProcessTable(const std::string& root)
     : m_folder(root)
     , m_loadAverage(root + "/loadavg")
-    , m_descriptorBudget(raisedDescriptorLimit() - descriptorsForTheRest)
+    , m_descriptorBudget(DescriptorLimit::raised() - descriptorsForTheRest)
     , m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE)))
     , m_tickNs(1'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK))) {}
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <sys/resource.h>
+
+/// How many descriptors this program may have open (getrlimit(2), RLIMIT_NOFILE).
+namespace DescriptorLimit {
+
+/// Raises the soft limit to the hard one; the limit now in force.
+qsizetype raised();
+
+/// The limits this program was started with. Programs that we start get these back: a soft limit above 1,024
+/// breaks those that use select(2), and slows those that close every possible descriptor.
+const rlimit& atStart();
+
+} // namespace DescriptorLimit
