@@ -61,11 +61,6 @@ void AppModel::followPollInterval() {
         bindTimer(interval);
 }
 
-template <typename T> void AppModel::publish(T& property, T value) {
-    Q_EMIT objectWillChange();
-    property = std::move(value);
-}
-
 void AppModel::tick() {
     const SystemSample sample = m_sampler.sample();
     publish(m_systemSample, sample);

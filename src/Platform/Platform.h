@@ -6,8 +6,10 @@ class Appearance;
 class Clock;
 class HostStatistics;
 class Identity;
+class Places;
 class PowerMode;
 class ProcessTable;
+class ToolRunner;
 
 /// Everything the program asks of an operating system, chosen once at start and handed down.
 struct Platform {
@@ -16,6 +18,8 @@ struct Platform {
     std::shared_ptr<PowerMode> power;
     std::shared_ptr<Identity> identity;
     std::shared_ptr<Clock> clock;
+    std::shared_ptr<ToolRunner> tools;
+    std::shared_ptr<Places> places;
 
     /// The answers of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();

@@ -1,8 +1,10 @@
 #include "Platform/Clock.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxIdentity.h"
+#include "Platform/Linux/LinuxPlaces.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/Linux/LinuxToolRunner.h"
 #include "Platform/Platform.h"
 
 Platform Platform::native() {
@@ -10,5 +12,7 @@ Platform Platform::native() {
             .processes = std::make_shared<LinuxProcessTable>(),
             .power = std::make_shared<LinuxPowerMode>(),
             .identity = std::make_shared<LinuxIdentity>(),
-            .clock = std::make_shared<SystemClock>()};
+            .clock = std::make_shared<SystemClock>(),
+            .tools = std::make_shared<LinuxToolRunner>(),
+            .places = std::make_shared<LinuxPlaces>()};
 }

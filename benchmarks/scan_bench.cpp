@@ -1,0 +1,159 @@
+// A full scan of the cleanup catalogue against the same du and find commands started in parallel by a shell
+// script: what the scanner itself costs. Prints NAME VALUE lines. The home folder it scans is made in the
+// working folder and goes again at the end.
+
+#include "Core/CacheScanner.h"
+#include "Platform/Clock.h"
+#include "Platform/Linux/LinuxPlaces.h"
+#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Platform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 7;
+constexpr int filesPerFolder = 250;
+
+struct Part {
+    const char* folder;
+    int files;
+    bool old = false;
+};
+
+// 300,000 files over the places of all targets.
+constexpr Part parts[] = {
+    {".npm/_cacache", 60000},
+    {".npm/_npx", 20000},
+    {".pnpm-store", 20000},
+    {".yarn/cache", 5000},
+    {".cache/yarn", 10000},
+    {".cache/uv", 40000},
+    {".cache/pip", 10000},
+    {".cache/Homebrew", 1000},
+    {".cache/ms-playwright", 10000},
+    {".cache/org.swift.swiftpm", 5000},
+    {".cache/other", 40000},
+    {".cargo/registry/cache", 5000},
+    {"go/pkg/mod/cache", 30000},
+    {"Library/Developer/Xcode/DerivedData", 2000},
+    {"Library/Logs", 1000},
+    {".claude/plugins/cache", 2000},
+    {".local/share/Trash/files", 4000},
+    {"tmp", 20000, true},
+    {"tmp/new", 5000},
+    {"Downloads", 5000, true},
+    {"Downloads/new", 4000},
+    {"Desktop", 1000, true},
+};
+
+/// The machine's own /tmp is not what is measured.
+class BenchPlaces : public LinuxPlaces {
+public:
+    QStringList locate(const QString& path) const override {
+        return LinuxPlaces::locate(path == u"/tmp" ? u"~/tmp"_s : path);
+    }
+};
+
+void makeHome(const std::string& home) {
+    for (const Part& part : parts) {
+        for (int i = 0; i < part.files; ++i) {
+            const std::string folder =
+                home + '/' + part.folder + "/folder " + std::to_string(i / filesPerFolder);
+            if (i % filesPerFolder == 0)
+                std::filesystem::create_directories(folder);
+            const std::string path = folder + "/Screen file " + std::to_string(i);
+            const int file = open(path.c_str(), O_CREAT | O_WRONLY, 0600);
+            const timespec longAgo[] = {{1000000000, 0}, {1000000000, 0}};
+            if (part.old)
+                futimens(file, longAgo);
+            close(file);
+        }
+    }
+}
+
+/// One background job a target, its own commands one after another.
+QString script(const QList<CacheTarget>& measured, const QString& home) {
+    const auto quoted = [](const QString& path) { return u"'"_s + path + u"'"_s; };
+    QString text;
+    for (const CacheTarget& target : measured) {
+        QStringList commands;
+        if (const auto old = CleanupPlan::oldFiles(target.name)) {
+            const QString root = old->root == u"/tmp" ? u"/tmp"_s : old->root.mid(1);
+            QStringList arguments = old->findArguments(quoted(home + root));
+            if (!old->namePattern.isEmpty())
+                arguments.last() = quoted(arguments.last());
+            commands.append(u"/usr/bin/find "_s + arguments.join(u' ') + u" -print0"_s);
+        } else if (target.name == u"Docker") {
+            commands.append(u"/bin/sh -lc 'command -v docker >/dev/null 2>&1 && docker system df || true'"_s);
+        } else {
+            for (const CacheEntry& entry : target.details)
+                commands.append(u"/usr/bin/du -sk -x "_s + quoted(entry.path));
+        }
+        if (!commands.isEmpty())
+            text += u"("_s + commands.join(u"; "_s) + u") >/dev/null &\n"_s;
+    }
+    return text + u"wait\n"_s;
+}
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir home(QDir::currentPath() + u"/scan_bench-XXXXXX"_s);
+    qputenv("HOME", QFile::encodeName(home.path()));
+    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        qunsetenv(variable);
+    makeHome(home.path().toStdString());
+
+    Platform platform;
+    platform.tools = std::make_shared<LinuxToolRunner>();
+    platform.places = std::make_shared<BenchPlaces>();
+    platform.clock = std::make_shared<SystemClock>();
+
+    QList<CacheTarget> measured;
+    QString commands;
+    std::vector<double> scans, scripts;
+    for (int round = 0; round <= rounds; ++round) { // the first only fills the page cache
+        QElapsedTimer timer;
+        timer.start();
+        CacheScanner scanner(platform);
+        measured = QCoro::waitFor(scanner.scan(CacheTarget::defaults()));
+        const double scanned = static_cast<double>(timer.restart()) / 1000;
+        if (round == 0)
+            commands = script(measured, home.path());
+        timer.restart();
+        QProcess::execute(u"/bin/sh"_s, {u"-c"_s, commands});
+        const double ran = static_cast<double>(timer.elapsed()) / 1000;
+        if (round > 0) {
+            scans.push_back(scanned);
+            scripts.push_back(ran);
+        }
+    }
+    std::printf("scan_seconds %.3f\n", median(scans));
+    std::printf("scan_script_seconds %.3f\n", median(scripts));
+    std::printf("scan_to_script_ratio %.3f\n", median(scans) / median(scripts));
+}

@@ -1,0 +1,133 @@
+#include "AppModel.h"
+#include "support/FakePlaces.h"
+#include "support/FakePlatform.h"
+#include "support/ScriptedTools.h"
+#include "support/TemporaryHome.h"
+#include "support/TemporarySettings.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A model whose tools are scripted: `du` finds 2 MiB in the npm folder and 1 MiB in the logs.
+class AppModelCleanupTest : public testing::Test {
+protected:
+    AppModelCleanupTest() {
+        Platform platform = fakes.platform();
+        platform.tools = tools;
+        platform.places = places;
+        places->elsewhere[u"/tmp"_s] = {home.path(u"no such folder"_s)};
+        for (const CacheTarget& target : CacheTarget::defaults()) {
+            for (const QString& path : target.paths) {
+                if (path.startsWith(u'~'))
+                    places->elsewhere[path] = {home.path(path.mid(2))};
+            }
+        }
+        tools->answer = [npm = npm, logs = logs, this](const ToolRequest& request) {
+            if (request.launchPath == u"/usr/bin/du") {
+                const QString path = request.arguments.last();
+                return ScriptedTools::exited(0, path == npm ? "2048 x" : path == logs ? "1024 x" : "0 x");
+            }
+            return ScriptedTools::exited(request.arguments.last().contains(failing) ? 1 : 0);
+        };
+        model = std::make_unique<AppModel>(platform, settings.preferences);
+    }
+
+    QStringList logged() const {
+        QStringList lines;
+        for (const ActionLogEntry& entry : model->actionLog())
+            lines.append(entry.detail + (entry.success ? u" ok"_s : u" fail"_s));
+        return lines;
+    }
+
+    CacheTarget target(const QString& name) const {
+        for (const CacheTarget& one : model->cacheTargets()) {
+            if (one.name == name)
+                return one;
+        }
+        return {};
+    }
+
+    TemporaryHome home;
+    QString npm = home.makeFolder(u".npm"_s);
+    QString logs = home.makeFolder(u"Library/Logs"_s);
+    QString failing = u"nothing"_s;
+    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
+    std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
+    FakePlatform fakes;
+    TemporarySettings settings;
+    std::unique_ptr<AppModel> model;
+};
+
+TEST_F(AppModelCleanupTest, CleansOnlyWhatWasMeasuredAndLogsEachTarget) {
+    const auto nothing = QCoro::waitFor(model->cleanAll());
+    EXPECT_EQ(nothing, std::pair(0, quint64(0)));
+    EXPECT_TRUE(logged().isEmpty());
+    EXPECT_EQ(target(u"User logs"_s).sizeBytes, 1024U * 1024) << "it has measured all the same";
+    EXPECT_EQ(model->cacheTargets().first().name, u"npm / pnpm / yarn"_s);
+
+    failing = u"'"_s + logs;
+    const auto cleaned = QCoro::waitFor(model->cleanAll());
+    EXPECT_EQ(cleaned, std::pair(1, quint64(0)));
+    EXPECT_EQ(logged(), QStringList({u"[batch] User logs fail"_s, u"[batch] npm / pnpm / yarn ok"_s}));
+    EXPECT_FALSE(model->isCleaning());
+    EXPECT_FALSE(model->isScanning());
+}
+
+TEST_F(AppModelCleanupTest, CleansOneTargetAndMeasuresAgain) {
+    QCoro::waitFor(model->clean(target(u"npx cache"_s)));
+    EXPECT_EQ(logged(), QStringList(u"npx cache ok"_s));
+    EXPECT_EQ(model->actionLog().first().kind, ActionLogEntry::Kind::clean);
+    EXPECT_EQ(target(u"npx cache"_s).lastScanned, fakes.clock->wall);
+}
+
+TEST_F(AppModelCleanupTest, PublishesWhatIsBeingWorkedOn) {
+    QCoro::waitFor(model->rescanCaches());
+    tools->held = true;
+    auto scan = model->rescanCaches();
+    ASSERT_TRUE(model->isScanning());
+    EXPECT_EQ(model->scanProgress()->total, 15);
+    EXPECT_EQ(model->scanProgress()->done, 12) << "three wait for a tool";
+    EXPECT_EQ(model->scanProgress()->target, u"npm / pnpm / yarn"_s);
+    const auto before = model->cacheTargets();
+    EXPECT_TRUE(tools->release(logs));
+    EXPECT_EQ(model->cacheTargets(), before) << "results land only together";
+
+    auto cleaning = model->cleanAll();
+    auto other = model->clean(target(u"Docker"_s));
+    EXPECT_EQ(*model->cleanProgress(), (CleanupProgress{u"Docker"_s, 0, 3}));
+    tools->held = false;
+    while (tools->release(npm))
+        ;
+    EXPECT_EQ(model->cleanProgress()->done, 2);
+    EXPECT_TRUE(tools->release(u"docker system prune -af --volumes"_s));
+    EXPECT_FALSE(model->isCleaning());
+    EXPECT_TRUE(other.isReady() && cleaning.isReady());
+}
+
+TEST_F(AppModelCleanupTest, AnOlderScanNeverReplacesANewerOne) {
+    tools->held = true;
+    auto older = model->rescanCaches();
+    tools->held = false;
+    QCoro::waitFor(model->rescanCaches());
+    const auto newest = model->cacheTargets();
+    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "99999 x"); };
+    for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
+        tools->release(request.arguments.last());
+    EXPECT_TRUE(older.isReady());
+    EXPECT_EQ(model->cacheTargets(), newest);
+}
+
+TEST_F(AppModelCleanupTest, MayEndWhileToolsRun) {
+    tools->held = true;
+    auto scan = model->rescanCaches();
+    auto cleaning = model->clean(target(u"Docker"_s));
+    model.reset();
+    for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
+        tools->release(request.arguments.last());
+    EXPECT_TRUE(scan.isReady() && cleaning.isReady());
+}
+
+} // namespace
