@@ -1,7 +1,6 @@
 // What one look at every process costs, beside what the kernel alone takes for it. Standard output holds
-// one "NAME VALUE" a line; times are medians in microseconds for one process. Plain names are of runs
-// straight one after the other; those with "cold_" before them are of runs that find the CPU's caches full of
-// other things, as a tick does.
+// one "NAME VALUE" a line; times are medians in microseconds for one process. Plain names are of runs that
+// find the CPU's caches full of other things, as a tick does; "warm_" is one run straight after another.
 
 #include "AppModel.h"
 #include "Children.h"
@@ -104,8 +103,8 @@ void print(const Costs& costs, const std::string& prefix, int size) {
 }
 
 struct Measured {
-    Costs warm; ///< one run straight after the other
     Costs cold; ///< with the CPU's caches full of other things, as a tick finds them
+    Costs warm; ///< one run straight after the other
 };
 
 /// Empty when interrupted or when the system gives no room for so many processes.
@@ -136,12 +135,12 @@ std::optional<Measured> measureAt(int size) {
         {[&] { sampler.sampleProcesses(); }, known.size(), &Costs::pass},
         {tick, known.size(), &Costs::tick},
     };
-    const auto warm = measure(pieces, [] {});
     CacheEviction eviction;
     const auto cold = measure(pieces, [&] { eviction.run(); });
-    if (!warm || !cold)
+    const auto warm = measure(pieces, [] {});
+    if (!cold || !warm)
         return std::nullopt;
-    return Measured{.warm = *warm, .cold = *cold};
+    return Measured{.cold = *cold, .warm = *warm};
 }
 
 void printRatios(const std::map<int, Costs>& at, const std::string& prefix) {
@@ -162,18 +161,18 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     std::signal(SIGINT, [](int) { interrupted = 1; });
     std::signal(SIGTERM, [](int) { interrupted = 1; });
-    std::map<int, Costs> warm;
     std::map<int, Costs> cold;
+    std::map<int, Costs> warm;
     for (const int size : sizes) {
         const auto measured = measureAt(size);
         if (!measured)
             return 1;
-        warm[size] = measured->warm;
         cold[size] = measured->cold;
-        print(measured->warm, "", size);
-        print(measured->cold, "cold_", size);
+        warm[size] = measured->warm;
+        print(measured->cold, "", size);
+        print(measured->warm, "warm_", size);
     }
-    printRatios(warm, "");
-    printRatios(cold, "cold_");
+    printRatios(cold, "");
+    printRatios(warm, "warm_");
     return 0;
 }

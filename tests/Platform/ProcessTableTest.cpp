@@ -134,15 +134,31 @@ void burn(int socket, int threadCount) {
 }
 
 /// In percent of one core, over one window.
-double share(LinuxProcessTable& table, qint32 pid, std::chrono::milliseconds window) {
+struct Share {
+    double read = 0;    ///< by the table
+    double granted = 0; ///< by the kernel's other account, user and system time of `/proc/N/stat`
+};
+
+double grantedNs(qint32 pid) {
+    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const auto stat = ProcStat::parse(file.readAll().toStdString());
+    return stat ? static_cast<double>(stat->cpuTicks) * 1e9 / static_cast<double>(sysconf(_SC_CLK_TCK)) : 0;
+}
+
+Share share(LinuxProcessTable& table, qint32 pid, std::chrono::milliseconds window) {
     const auto before = table.taskInfo(pid);
+    const auto grantedBefore = grantedNs(pid);
     const auto start = std::chrono::steady_clock::now();
     std::this_thread::sleep_for(window);
     const auto after = table.taskInfo(pid);
+    const auto granted = grantedNs(pid) - grantedBefore;
     const std::chrono::duration<double, std::nano> passed = std::chrono::steady_clock::now() - start;
     if (!before || !after)
-        return -1;
-    return static_cast<double>(after->cpuTimeNs - before->cpuTimeNs) / passed.count() * 100;
+        return {.read = -1, .granted = 0};
+    return {.read = static_cast<double>(after->cpuTimeNs - before->cpuTimeNs) / passed.count() * 100,
+            .granted = granted / passed.count() * 100};
 }
 
 class BusyChild : public testing::TestWithParam<int> {};
@@ -152,12 +168,12 @@ TEST_P(BusyChild, ReadsTheCoresItTakes) {
     const int threads = GetParam();
     const Child child([threads](int socket) { burn(socket, threads); });
     const double expected = 100.0 * std::min<int>(threads, static_cast<int>(sysconf(_SC_NPROCESSORS_ONLN)));
-    // The machine may have other work: one window that it leaves to the child will do.
-    std::vector<double> seen;
-    do
-        seen.push_back(share(table, child.pid(), 500ms));
-    while (std::abs(seen.back() - expected) > expected * 0.1 && seen.size() < 20);
-    EXPECT_NEAR(seen.back(), expected, expected * 0.1) << testing::PrintToString(seen);
+    // Other work, such as a second copy of this test, may leave the child less than it asks for: so the
+    // figure is held against what it was granted, which on an idle machine is all of it.
+    const auto seen = share(table, child.pid(), 500ms);
+    EXPECT_GT(seen.granted, 0);
+    EXPECT_NEAR(seen.read, seen.granted, expected * 0.1);
+    EXPECT_LT(seen.read, expected * 1.1);
 
     // The sum is right whatever else the machine does.
     child.tell('.');
@@ -178,7 +194,7 @@ TEST(ProcessTable, ASleepingChildUsesNothing) {
     LinuxProcessTable table;
     const auto child = waitingProgram();
     std::this_thread::sleep_for(100ms);
-    EXPECT_EQ(share(table, child.pid(), 200ms), 0);
+    EXPECT_EQ(share(table, child.pid(), 200ms).read, 0);
 }
 
 TEST(ProcessTable, AnswersNothingOfAProcessThatIsGone) {
