@@ -1,0 +1,81 @@
+#include "Platform/Linux/LinuxSignals.h"
+
+#include <cerrno>
+#include <csignal>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+SignalResult resultOf(long status, int error) {
+    if (status == 0)
+        return SignalResult::delivered;
+    if (error == EPERM)
+        return SignalResult::notPermitted;
+    return error == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
+}
+
+class PidfdHandle : public ProcessHandle {
+public:
+    explicit PidfdHandle(int descriptor) : m_descriptor(descriptor) {}
+    ~PidfdHandle() override { close(m_descriptor); }
+    PidfdHandle(const PidfdHandle&) = delete;
+    PidfdHandle& operator=(const PidfdHandle&) = delete;
+
+    SignalResult send(Signal signal) override {
+        const long status =
+            syscall(SYS_pidfd_send_signal, m_descriptor, static_cast<int>(signal), nullptr, 0);
+        return resultOf(status, errno);
+    }
+
+private:
+    int m_descriptor;
+};
+
+/// For a system without pidfd: only as safe as the id is lasting.
+class PidHandle : public ProcessHandle {
+public:
+    explicit PidHandle(qint32 pid) : m_pid(pid) {}
+
+    SignalResult send(Signal signal) override {
+        return resultOf(::kill(m_pid, static_cast<int>(signal)), errno);
+    }
+
+private:
+    qint32 m_pid;
+};
+
+class NoProcess : public ProcessHandle {
+public:
+    explicit NoProcess(SignalResult result) : m_result(result) {}
+
+    SignalResult send(Signal) override { return m_result; }
+
+private:
+    SignalResult m_result;
+};
+
+/// The kernel itself never refuses pidfd_open for lack of permission; a sandbox that does not know the call
+/// may.
+bool meansUnsupported(int error) {
+    return error == ENOSYS || error == EPERM;
+}
+
+} // namespace
+
+std::shared_ptr<ProcessHandle> LinuxSignals::hold(qint32 pid) {
+    if (pid < 1)
+        return std::make_shared<NoProcess>(SignalResult::noSuchProcess);
+    const long descriptor = syscall(SYS_pidfd_open, pid, 0);
+    if (descriptor >= 0)
+        return std::make_shared<PidfdHandle>(static_cast<int>(descriptor));
+    if (meansUnsupported(errno))
+        return std::make_shared<PidHandle>(pid);
+    return std::make_shared<NoProcess>(resultOf(descriptor, errno));
+}
+
+SignalResult LinuxSignals::send(qint32 pid, Signal signal) {
+    if (pid < 1)
+        return SignalResult::noSuchProcess;
+    return resultOf(::kill(pid, static_cast<int>(signal)), errno);
+}
