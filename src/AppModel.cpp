@@ -74,6 +74,8 @@ void AppModel::tick() {
     publish(m_processes, std::move(classified));
     publish(m_groups, rollups);
     publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));
+    publish(m_mcpReport, {.configured = m_mcpConfiguration.readConfigured(),
+                          .live = MCPInspector::detectLive(m_processes)});
 }
 
 void AppModel::appendHistory(const SystemSample& sample) {

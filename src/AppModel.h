@@ -1,8 +1,12 @@
 #pragma once
 
+#include "Core/AutoOptimizer.h"
 #include "Core/Cleaner.h"
 #include "Core/CleanupProgress.h"
+#include "Core/FreeRAM.h"
+#include "Core/MCPConfiguration.h"
 #include "Core/Models.h"
+#include "Core/NukePreview.h"
 #include "Core/ProcessGrouper.h"
 #include "Core/RulesEngine.h"
 #include "Core/Sampler.h"
@@ -12,6 +16,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -19,7 +24,7 @@ class Preferences;
 
 /// The one observable model: it samples the machine once per poll interval and publishes the figures that
 /// every view shows. `objectWillChange` is emitted before each change lands; views use `observe`.
-class AppModel : public QObject {
+class AppModel : public QObject, public OptimizedModel {
     Q_OBJECT
 
 public:
@@ -40,14 +45,62 @@ public:
     const QList<GroupRollup>& groups() const { return m_groups; }
     const QList<Alert>& alerts() const { return m_alerts; }
     const QList<CacheTarget>& cacheTargets() const { return m_cacheTargets; }
-    const QList<ActionLogEntry>& actionLog() const { return m_actionLog; }
-    void log(const ActionLogEntry& entry);
     /// Empty while no scan runs.
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
     /// Empty while nothing is being cleaned; cleans that run at the same time are counted together.
     const std::optional<CleanupProgress>& cleanProgress() const { return m_cleanProgress; }
     bool isScanning() const { return m_scanProgress.has_value(); }
     bool isCleaning() const { return m_cleanProgress.has_value(); }
+
+    /// Newest first, at most 200.
+    const QList<ActionLogEntry>& actionLog() const { return m_actionLog; }
+    /// As of the last full tick.
+    const MCPInspector::Report& mcpReport() const { return m_mcpReport; }
+    /// Off at every start of the program.
+    bool autoOptimizeEnabled() const { return m_autoOptimizeEnabled; }
+    /// Switching on runs a pass at once, also when it is on already.
+    void setAutoOptimizeEnabled(bool enabled);
+
+    /// Puts an action on record, here and in the log file.
+    void log(const ActionLogEntry& entry);
+    /// The same, made now.
+    void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) override;
+
+    /// Idle processes worth ending: at most 15, largest first. Idle time in minutes, size in MiB.
+    QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;
+    /// Asks each process to end, kills those that stay, asks the kernel to reclaim, and measures. Takes
+    /// about 4 seconds; one entry in the log.
+    QCoro::Task<FreeRAMResult> freeRAM(QList<qint32> pids);
+
+    struct FreeRAMWaits {
+        std::chrono::milliseconds beforeSecondPass{2000};
+        std::chrono::milliseconds beforeMeasuring{1500};
+    };
+    /// For tests, which do not wait.
+    void setFreeRAMWaits(FreeRAMWaits waits) { m_freeRAMWaits = waits; }
+
+    struct QuickKillResult {
+        int matched = 0;
+        int killed = 0;
+
+        bool operator==(const QuickKillResult&) const = default;
+    };
+    /// Signals every process of the user's that holds `pattern` in its name, path or arguments, in any case,
+    /// and reaches both thresholds (minutes, MiB). One entry in the log.
+    QuickKillResult quickKill(const QString& pattern, const QString& label, double minIdleMin,
+                              double minRSSMB, bool force);
+    /// How many processes `quickKill` would signal now.
+    int previewMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
+
+    /// Signals the user's orphan servers of the last report; how many signals were delivered.
+    int killOrphanMCPs(bool force) override;
+
+    /// All processes of exactly that name, this program left out.
+    NukePreview previewForName(const QString& name) const;
+    /// Asks every process of the preview to end; the outcome in words.
+    QString nuke(const NukePreview& preview);
+    /// Asks the application itself to quit, which closes its helpers; the outcome in words.
+    QCoro::Task<QString> nukeGracefulApp(NukePreview preview, QString appName, bool force);
 
     /// The period of the sampling timer in seconds, -1 while there is none.
     double timerInterval() const;
@@ -78,6 +131,11 @@ private:
     bool isPaused() const;
     void expectCleans(int count);
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
+    AutoOptimizer& autoOptimizer();
+    const ProcSample* processWithId(qint32 pid) const;
+    QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
+    /// How many of the signals were delivered.
+    int signalAll(const QList<qint32>& pids, bool force);
 
     SystemSample m_systemSample = SystemSample::zero();
     QList<SystemSample> m_systemHistory;
@@ -89,12 +147,17 @@ private:
     std::optional<CleanupProgress> m_cleanProgress;
     int m_scansBegun = 0;
     QList<ActionLogEntry> m_actionLog;
+    MCPInspector::Report m_mcpReport;
+    bool m_autoOptimizeEnabled = false;
 
     Platform m_platform;
     Preferences& m_preferences;
     Sampler m_sampler;
     ProcessGrouper m_grouper;
     RulesEngine m_rules;
+    MCPConfiguration m_mcpConfiguration;
+    std::unique_ptr<AutoOptimizer> m_autoOptimizer;
+    FreeRAMWaits m_freeRAMWaits;
     QTimer m_timer;
     QMetaObject::Connection m_pollIntervalCancellable;
 };

@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/ActionLogFile.h"
+#include "Platform/Clock.h"
 
 namespace {
 
@@ -15,4 +16,13 @@ void AppModel::log(const ActionLogEntry& entry) {
         entries.resize(newestKept);
     publish(m_actionLog, std::move(entries));
     Cleaner::appendActionLog(entry);
+}
+
+void AppModel::record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) {
+    log({.id = QUuid::createUuid(),
+         .timestamp = m_platform.clock->now(),
+         .kind = kind,
+         .detail = detail,
+         .freedBytes = freedBytes,
+         .success = success});
 }

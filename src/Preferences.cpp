@@ -71,3 +71,11 @@ int Preferences::historyRetentionSamples() const {
     const double interval = std::max(shortestInterval, pollIntervalSeconds());
     return std::max(fewest, static_cast<int>(spanSeconds(historyRetention()) / interval));
 }
+
+QList<QuickKillPreset> Preferences::quickKillPresets() const {
+    return QuickKillPreset::decode(quickKillPresetsJSON()).value_or(QuickKillPreset::defaults());
+}
+
+void Preferences::storeQuickKillPresets(const QList<QuickKillPreset>& presets) {
+    quickKillPresetsJSON.set(QuickKillPreset::encode(presets));
+}

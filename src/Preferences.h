@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/QuickKillPreset.h"
 #include "Core/RawValue.h"
 #include "Core/SettingsFile.h"
 
@@ -86,6 +87,10 @@ public:
 
     /// How many samples the in-memory history keeps: the retention over the poll interval, at least 60.
     int historyRetentionSamples() const;
+
+    /// The presets in force: the stored ones, or the built-in ones while nothing readable is stored.
+    QList<QuickKillPreset> quickKillPresets() const;
+    void storeQuickKillPresets(const QList<QuickKillPreset>& presets);
 
     /// The file behind the properties, for keys that are none of them.
     SettingsFile& file() { return m_file; }

@@ -9,6 +9,7 @@ class Identity;
 class Places;
 class PowerMode;
 class ProcessTable;
+class Signals;
 class ToolRunner;
 
 /// Everything the program asks of an operating system, chosen once at start and handed down.
@@ -20,6 +21,7 @@ struct Platform {
     std::shared_ptr<Clock> clock;
     std::shared_ptr<ToolRunner> tools;
     std::shared_ptr<Places> places;
+    std::shared_ptr<Signals> signalSender;
 
     /// The answers of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();

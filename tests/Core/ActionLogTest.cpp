@@ -1,121 +1,168 @@
-#include "AppModel.h"
 #include "Core/ActionLogFile.h"
 #include "Core/ActionLogReader.h"
-#include "support/FakePlatform.h"
+#include "Core/Iso8601.h"
 #include "support/TemporaryHome.h"
-#include "support/TemporarySettings.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-const Instant someTime = Instant(std::chrono::seconds(1'794'839'023)); // 2026-11-16T14:23:43Z
+namespace {
 
 struct ActionLogTest : testing::Test {
     TemporaryHome home;
+    QString file = home.path(u"Library/Logs/Tavrin/actions.log"_s);
 
-    static void write(const QByteArray& text) {
-        QDir().mkpath(QFileInfo(ActionLogReader::path()).path());
-        QFile file(ActionLogReader::path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+    QByteArray written() const {
+        QFile log(file);
+        return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray("missing");
     }
-    static QByteArray file() {
-        QFile log(ActionLogReader::path());
-        return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray();
+    QStringList details(const QByteArray& content) const {
+        home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, content);
+        QStringList result;
+        for (const LoggedAction& action : ActionLogReader::read())
+            result.append(action.detail);
+        return result;
+    }
+    static ActionLogEntry entry(const QString& detail, qint64 seconds = 1'794'839'023) {
+        return {.id = QUuid::createUuid(),
+                .timestamp = Instant(std::chrono::seconds(seconds)) + std::chrono::milliseconds(999),
+                .kind = ActionLogEntry::Kind::clean,
+                .detail = detail,
+                .freedBytes = 1048576,
+                .success = true};
     }
 };
 
-ActionLogEntry entry(const QString& detail, bool success = true) {
-    return {.id = QUuid::createUuid(),
-            .timestamp = someTime,
-            .kind = ActionLogEntry::Kind::clean,
-            .detail = detail,
-            .freedBytes = 1048576,
-            .success = success};
-}
-
 } // namespace
 
-TEST_F(ActionLogTest, OneLineAnActionByteForByte) {
-    Cleaner::appendActionLog(entry(QStringLiteral("Xcode DerivedData")));
-    Cleaner::appendActionLog(entry(QStringLiteral("tab\there é"), false));
-    EXPECT_EQ(file(), QByteArray("2026-11-16T14:23:43Z\tclean\tok\t1048576\tXcode DerivedData\n"
-                                 "2026-11-16T14:23:43Z\tclean\tfail\t1048576\ttab\there é\n"));
-    const auto read = ActionLogReader::read();
-    ASSERT_EQ(read.size(), 2);
-    EXPECT_EQ(read[0].detail, QStringLiteral("Xcode DerivedData"));
-    EXPECT_EQ(read[1].detail, QStringLiteral("tab\there é"));
-    EXPECT_FALSE(read[1].success);
-    EXPECT_EQ(read[0].timestamp, someTime);
-    EXPECT_EQ(read[0].id(), QStringLiteral("1794839023.0-Xcode DerivedData"));
+TEST(Iso8601Test, AcceptsOnlyWholeSecondsInStrictForm) {
+    const Instant expected(std::chrono::seconds(1'794'839'023));
+    EXPECT_EQ(Iso8601::format(expected), "2026-11-16T14:23:43Z");
+    EXPECT_EQ(Iso8601::format(Instant(std::chrono::milliseconds(-1))), "1969-12-31T23:59:59Z");
+    for (const char* text :
+         {"2026-11-16T14:23:43Z", "2026-11-16T15:23:43+01:00", "2026-11-16T12:53:43-01:30"})
+        EXPECT_EQ(Iso8601::parse(text), expected) << text;
+    EXPECT_TRUE(Iso8601::parse("2024-02-29T00:00:00Z"));
+    for (const char* text : {"",
+                             "2026-11-16",
+                             "2026-11-16T14:23:43",
+                             "2026-11-16T14:23:43.5Z",
+                             "2026-11-16T14:23:43z",
+                             "2026-11-16 14:23:43Z",
+                             "2026-11-16t14:23:43Z",
+                             "2026-13-16T14:23:43Z",
+                             "2026-00-16T14:23:43Z",
+                             "2025-02-29T00:00:00Z",
+                             "2026-11-16T24:00:00Z",
+                             "2026-11-16T14:60:43Z",
+                             "2026-11-16T14:23:60Z",
+                             "2026-11-16T14:23:43+0100",
+                             "2026-11-16T14:23:43+24:00",
+                             "26-11-16T14:23:43Z",
+                             "2026-11-16T14:23:4xZ",
+                             "-026-11-16T14:23:43Z",
+                             "2026-11-16T14:23:43ZZ",
+                             " 2026-11-16T14:23:43Z"})
+        EXPECT_FALSE(Iso8601::parse(text)) << text;
 }
 
-TEST_F(ActionLogTest, DamagedLinesAreSkippedOneByOne) {
-    const char* good = "2026-11-16T14:23:43Z\tquit\tok\t7\tdetail";
-    const std::pair<const char*, int> cases[] = {
-        {"", 0},
-        {"\n\n\n", 0},
-        {"2026-11-16T14:23:43.5Z\tquit\tok\t7\tfraction", 0},
-        {"2026-11-16 14:23:43Z\tquit\tok\t7\tblank", 0},
-        {"2026-02-30T14:23:43Z\tquit\tok\t7\tno such day", 0},
-        {"2026-11-16T14:23:43Z\tquit\tok\t7\t", 0},
-        {"2026-11-16T14:23:43Z\tquit\tok\t-1\td", 0},
-        {"2026-11-16T14:23:43Z\tquit\tok\t4.5\td", 0},
-        {"2026-11-16T14:23:43Z\tquit\tok\t18446744073709551616\td", 0},
-        {"2026-11-16T14:23:43Z\tquit\tok\t18446744073709551615\td", 1},
-        {"2026-11-16T14:23:43Z\tquit\tok\t+42\td", 1},
-        {"2026-11-16T14:23:43Z\t\t\tquit\tOK\t42\td", 1},
-        {"2026-11-16T14:23:43Z\tunheard of\tok\t42\td", 1},
-        {"\xff\xfe\t\xff", 0},
+TEST_F(ActionLogTest, EachActionIsOneLineAndReadsBack) {
+    Cleaner::appendActionLog(entry(u"Xcode DerivedData"_s));
+    ActionLogEntry failed = entry(u"two\ttabs “quoted”"_s, 1'794'839'024);
+    failed.kind = ActionLogEntry::Kind::forceKill;
+    failed.success = false;
+    failed.freedBytes = 18446744073709551615ULL;
+    Cleaner::appendActionLog(failed);
+    EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\t1048576\tXcode DerivedData\n"
+                         "2026-11-16T14:23:44Z\tforceKill\tfail\t18446744073709551615\ttwo\ttabs “quoted”\n");
+    const QList<LoggedAction> read = ActionLogReader::read();
+    ASSERT_EQ(read.size(), 2);
+    EXPECT_EQ(read[0], (LoggedAction{.timestamp = Instant(std::chrono::seconds(1'794'839'024)),
+                                     .kind = u"forceKill"_s,
+                                     .success = false,
+                                     .freedBytes = 18446744073709551615ULL,
+                                     .detail = u"two\ttabs “quoted”"_s}));
+    EXPECT_EQ(read[1].id(), u"1794839023.0-Xcode DerivedData"_s);
+}
+
+TEST_F(ActionLogTest, DamagedLinesHideNoOther) {
+    const QByteArray good = "2026-11-16T14:23:43Z\tquit\tok\t1\tgood\n";
+    const QList<QByteArray> damaged = {
+        "",
+        "not a record",
+        "\xff\xfe",
+        "2026-11-16T14:23:43Z\tquit\tok\t1\tbad \xc3\x28 byte",
+        "2026-11-16T14:23:43Z\tqu\xe9it\tok\t1\tdetail",
+        "2026-11-16T14:23:43Z\tquit\tok\t1\t",
+        "2026-11-16T14:23:43Z\tquit\tok\t1",
+        "2026-11-16T14:23:43Z\tquit\tok\t-1\tdetail",
+        "2026-11-16T14:23:43Z\tquit\tok\t4.5\tdetail",
+        "2026-11-16T14:23:43Z\tquit\tok\t+\tdetail",
+        "2026-11-16T14:23:43Z\tquit\tok\t 1\tdetail",
+        "2026-11-16T14:23:43Z\tquit\tok\t18446744073709551616\tdetail",
+        "2026-11-16T14:23:43.0Z\tquit\tok\t1\tdetail",
+        QByteArray(1 << 20, 'x'),
+        QByteArray(1 << 16, '\t'),
+        QByteArray(8, '\0'),
     };
-    for (const auto& [line, kept] : cases) {
-        write(QByteArray(good) + '\n' + line + '\n' + good);
-        EXPECT_EQ(ActionLogReader::read().size(), 2 + kept) << line;
-    }
+    for (const QByteArray& line : damaged)
+        EXPECT_EQ(details(good + line + '\n' + good), (QStringList{u"good"_s, u"good"_s}))
+            << line.left(80).data();
+    EXPECT_EQ(details(good + "2026-11-16T14:23:43Z\tquit\tok\t1\tcut"), (QStringList{u"good"_s, u"cut"_s}));
+}
+
+TEST_F(ActionLogTest, UnusualLinesAreKept) {
+    const QByteArray stamp = "2026-11-16T14:23:43Z";
+    EXPECT_EQ(details("\t" + stamp + "\t\tquit\tok\t\t1\trun of tabs\n"), QStringList(u"run of tabs"_s));
+    EXPECT_EQ(details(stamp + "\tquit\tok\t1\t\tdetail\t"), QStringList(u"\tdetail\t"_s));
+    EXPECT_EQ(details(stamp + "\tquit\tok\t+42\t" + QByteArray("a\0b", 3)), QStringList(QString(u"a\0b", 3)));
+    home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, stamp + "\tunheard\tOK\t+42\td\n");
+    const LoggedAction action = ActionLogReader::read().value(0);
+    EXPECT_EQ(action.kind, u"unheard"_s);
+    EXPECT_FALSE(action.success);
+    EXPECT_EQ(action.freedBytes, 42U);
 }
 
 TEST_F(ActionLogTest, NewestFirstAndEqualSecondsInFileOrder) {
-    write("2026-01-01T00:00:00Z\tquit\tok\t1\ta\n2026-01-02T00:00:00Z\tquit\tok\t1\tb\n"
-          "2026-01-01T00:00:00Z\tquit\tno\t1\tc, \"d\"\n");
+    EXPECT_EQ(details("2026-11-16T14:23:43Z\tquit\tok\t1\ta\n"
+                      "2026-11-16T14:23:45Z\tquit\tok\t1\tb\n"
+                      "2026-11-16T14:23:43Z\tquit\tok\t1\tc\n"
+                      "2026-11-16T14:23:44Z\tquit\tok\t1\td\n"),
+              (QStringList{u"b"_s, u"d"_s, u"a"_s, u"c"_s}));
+}
+
+TEST_F(ActionLogTest, ExportQuotesTheDetailAlone) {
+    EXPECT_EQ(ActionLogReader::exportCSV(), u"timestamp,kind,success,freed_bytes,detail\n"_s);
+    Cleaner::appendActionLog(entry(u"say \"hi\", then go"_s));
     EXPECT_EQ(ActionLogReader::exportCSV(),
-              QStringLiteral("timestamp,kind,success,freed_bytes,detail\n"
-                             "2026-01-02T00:00:00Z,quit,true,1,\"b\"\n"
-                             "2026-01-01T00:00:00Z,quit,true,1,\"a\"\n"
-                             "2026-01-01T00:00:00Z,quit,false,1,\"c, \"\"d\"\"\"\n"));
+              u"timestamp,kind,success,freed_bytes,detail\n"
+              "2026-11-16T14:23:43Z,clean,true,1048576,\"say \"\"hi\"\", then go\"\n"_s);
 }
 
-TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatGrowsAgain) {
-    Cleaner::appendActionLog(entry(QStringLiteral("a")));
+TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatAppendsGoOn) {
+    Cleaner::appendActionLog(entry(u"one"_s));
+    QFile other(file);
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly | QIODevice::Append));
     ActionLogReader::clear();
-    EXPECT_TRUE(QFile::exists(ActionLogReader::path()));
+    EXPECT_EQ(written(), "");
     EXPECT_TRUE(ActionLogReader::read().isEmpty());
-    Cleaner::appendActionLog(entry(QStringLiteral("b")));
-    EXPECT_EQ(ActionLogReader::read().size(), 1);
+    Cleaner::appendActionLog(entry(u"two"_s));
+    other.write("from another writer\n");
+    other.close();
+    EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\nfrom another writer\n");
 }
 
-TEST_F(ActionLogTest, APipeInItsPlaceStallsNobody) {
-    QDir().mkpath(QFileInfo(ActionLogReader::path()).path());
-    ASSERT_EQ(mkfifo(qPrintable(ActionLogReader::path()), 0600), 0);
-    Cleaner::appendActionLog(entry(QStringLiteral("a")));
-    EXPECT_TRUE(ActionLogReader::read().isEmpty());
+TEST_F(ActionLogTest, APipeOrFolderInItsPlaceNeitherStallsNorCrashes) {
+    home.makeFolder(u"Library/Logs/Tavrin"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    Cleaner::appendActionLog(entry(u"lost"_s));
     ActionLogReader::clear();
-}
-
-TEST_F(ActionLogTest, TheModelKeepsTheNewest200AndTheFileAll) {
-    const FakePlatform fakes;
-    TemporarySettings settings;
-    AppModel model(fakes.platform(), settings.preferences);
-    for (int i = 0; i < 201; ++i)
-        model.log(entry(QString::number(i)));
-    ASSERT_EQ(model.actionLog().size(), 200);
-    EXPECT_EQ(model.actionLog().first().detail, QStringLiteral("200"));
-    EXPECT_EQ(model.actionLog().last().detail, QStringLiteral("1"));
-    EXPECT_EQ(file().count('\n'), 201);
+    EXPECT_TRUE(ActionLogReader::read().isEmpty());
+    ASSERT_TRUE(QFile::remove(file));
+    home.makeFolder(u"Library/Logs/Tavrin/actions.log"_s);
+    Cleaner::appendActionLog(entry(u"lost"_s));
+    EXPECT_TRUE(ActionLogReader::read().isEmpty());
 }

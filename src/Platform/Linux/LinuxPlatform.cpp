@@ -4,6 +4,7 @@
 #include "Platform/Linux/LinuxPlaces.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/Linux/LinuxSignals.h"
 #include "Platform/Linux/LinuxToolRunner.h"
 #include "Platform/Platform.h"
 
@@ -14,5 +15,6 @@ Platform Platform::native() {
             .identity = std::make_shared<LinuxIdentity>(),
             .clock = std::make_shared<SystemClock>(),
             .tools = std::make_shared<LinuxToolRunner>(),
-            .places = std::make_shared<LinuxPlaces>()};
+            .places = std::make_shared<LinuxPlaces>(),
+            .signalSender = std::make_shared<LinuxSignals>()};
 }

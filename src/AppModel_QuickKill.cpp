@@ -1,0 +1,56 @@
+#include "AppModel.h"
+
+#include "Core/ProcessFilter.h"
+#include "Platform/Identity.h"
+#include "Platform/Signals.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool holds(const ProcSample& process, const QString& pattern) {
+    return process.name.contains(pattern, Qt::CaseInsensitive) ||
+           process.executablePath.contains(pattern, Qt::CaseInsensitive) ||
+           process.arguments.contains(pattern, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+QList<ProcSample> AppModel::quickKillMatches(const QString& pattern, double minIdleMin,
+                                             double minRSSMB) const {
+    QList<ProcSample> matches;
+    if (pattern.isEmpty())
+        return matches;
+    const ProcessFilter filter(*m_platform.identity, minIdleMin, minRSSMB);
+    for (const ProcSample& process : m_processes) {
+        if (filter.accepts(process) && holds(process, pattern))
+            matches.append(process);
+    }
+    return matches;
+}
+
+int AppModel::previewMatches(const QString& pattern, double minIdleMin, double minRSSMB) const {
+    return static_cast<int>(quickKillMatches(pattern, minIdleMin, minRSSMB).size());
+}
+
+AppModel::QuickKillResult AppModel::quickKill(const QString& pattern, const QString& label, double minIdleMin,
+                                              double minRSSMB, bool force) {
+    QList<qint32> pids;
+    for (const ProcSample& process : quickKillMatches(pattern, minIdleMin, minRSSMB))
+        pids.append(process.pid);
+    const int matched = static_cast<int>(pids.size());
+    const int killed = signalAll(pids, force);
+    record(force ? ActionLogEntry::Kind::forceKill : ActionLogEntry::Kind::quit,
+           u"[quickKill] "_s + label + u" — matched=%1 killed=%2"_s.arg(matched).arg(killed), 0,
+           killed > 0 || matched == 0);
+    return {.matched = matched, .killed = killed};
+}
+
+int AppModel::signalAll(const QList<qint32>& pids, bool force) {
+    const Signal signal = force ? Signal::kill : Signal::terminate;
+    return static_cast<int>(std::count_if(pids.begin(), pids.end(), [this, signal](qint32 pid) {
+        return m_platform.signalSender->send(pid, signal) == SignalResult::delivered;
+    }));
+}

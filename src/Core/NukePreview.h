@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Core/Models.h"
+
+/// What one sweep over all processes of a name would touch, and the words it is asked and reported in.
+struct NukePreview {
+    QUuid id;
+    QString name;
+    QList<qint32> pids; ///< in the order of the process list
+    quint64 totalRSS = 0;
+    std::optional<QString> parentAppName; ///< the application that owns all of them, when there is just one
+
+    static NukePreview make(const QString& name, const QList<ProcSample>& processes);
+
+    QString dialogTitle() const;
+    QString dialogMessage() const;
+    /// Buttons of the dialog; the first two only with an owning application, the third only without.
+    QString quitButton() const;
+    QString forceQuitButton() const;
+    QString killButton() const;
+
+    /// The line of the script language that asks `appName` to quit.
+    static QString quitScript(const QString& appName, bool force);
+    /// Outcome lines.
+    QString quitOutcome(const QString& appName, bool succeeded) const;
+    QString killOutcome(int killed) const;
+};

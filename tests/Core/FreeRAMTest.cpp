@@ -1,0 +1,149 @@
+#include "Core/ReliefFixture.h"
+
+#include "Core/ActionLogReader.h"
+#include "Core/ProcessFilter.h"
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using FreeRAMTest = ReliefTest;
+using Result = SignalResult;
+
+constexpr quint64 MiB = 1 << 20;
+
+QList<qint32> pidsOf(const QList<FreeRamPreview>& candidates) {
+    QList<qint32> pids;
+    for (const FreeRamPreview& candidate : candidates)
+        pids.append(candidate.pid);
+    return pids;
+}
+
+QStringList outcomesOf(const FreeRAMResult& result) {
+    QStringList outcomes;
+    for (const FreeRAMResult::Record& record : result.perPid)
+        outcomes.append(rawValue(record.outcome));
+    return outcomes;
+}
+
+} // namespace
+
+TEST_F(FreeRAMTest, CandidatesAreTheUsersIdleKnownOrHugeProcesses) {
+    add(1, "claude", 600 * MiB);
+    add(2, "claude", 500 * MiB);
+    add(3, "claude", 500 * MiB - 1);
+    add(4, "claude", 900 * MiB, {.uid = 0});
+    add(fakes.identity->pid, "claude", 900 * MiB);
+    add(5, "unknown", 999'999'999);
+    add(6, "unknown", 1'000'000'000);
+    tick();
+    fakes.clock->advance(900);
+    tick();
+    EXPECT_EQ(pidsOf(model->freeRamCandidates(15, 500)), (QList<qint32>{6, 1, 2}));
+    EXPECT_EQ(pidsOf(model->freeRamCandidates(15.01, 500)), QList<qint32>());
+    const FreeRamPreview last = model->freeRamCandidates(0, 500).last();
+    EXPECT_EQ(last, (FreeRamPreview{2, u"claude"_s, 500 * MiB, 900, ProcGroup::agents}));
+}
+
+TEST_F(FreeRAMTest, FifteenLargestCandidates) {
+    for (qint32 pid = 1; pid <= 20; ++pid)
+        add(pid, "claude", static_cast<quint64>(pid) * MiB);
+    tick();
+    const QList<qint32> pids = pidsOf(model->freeRamCandidates(0, 0));
+    ASSERT_EQ(pids.size(), 15);
+    EXPECT_EQ(pids.first(), 20);
+    EXPECT_EQ(pids.last(), 6);
+}
+
+TEST_F(FreeRAMTest, NoThresholdIsTooWild) {
+    add(1, "claude", std::numeric_limits<quint64>::max());
+    tick();
+    const double nan = std::nan("");
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double size : {nan, infinity, -infinity, -1.0, -1e300, std::ldexp(1.0, 44), 1e300})
+        EXPECT_TRUE(model->freeRamCandidates(0, size).isEmpty()) << size;
+    EXPECT_TRUE(model->freeRamCandidates(nan, 0).isEmpty());
+    EXPECT_EQ(model->freeRamCandidates(0, std::ldexp(1.0, 44) - 1).size(), 1);
+    EXPECT_EQ(ProcessFilter::bytesFromMiB(1.9), MiB);
+    EXPECT_EQ(ProcessFilter::bytesFromMiB(-0.5), 0U);
+}
+
+TEST_F(FreeRAMTest, EveryOutcome) {
+    struct Row {
+        FakeSignals::Script script;
+        const char* outcome;
+    };
+    const QList<Row> rows = {
+        {{.endsOnTerminate = true}, "quit"},
+        {{}, "forced"},
+        {{.terminate = Result::notPermitted}, "denied"},
+        {{.terminate = Result::other}, "forced"},
+        {{.terminate = Result::other, .kill = Result::other}, "ignored"},
+        {{.kill = Result::notPermitted}, "denied"},
+        {{.kill = Result::noSuchProcess}, "quit"},
+        {{.kill = Result::other, .probe = Result::other}, "ignored"},
+    };
+    QList<qint32> pids;
+    QStringList expected;
+    for (const Row& row : rows) {
+        pids.append(static_cast<qint32>(100 + pids.size()));
+        signalSender->start(pids.last(), row.script);
+        expected.append(QString::fromLatin1(row.outcome));
+    }
+    EXPECT_EQ(outcomesOf(QCoro::waitFor(model->freeRAM(pids))), expected);
+}
+
+TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
+    add(41, "claude", 7 * MiB);
+    tick();
+    fakes.host->memory = MemoryPages{.active = 150, .wired = 30, .compressed = 20}; // 50 pages less
+    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({41, 57}));
+    EXPECT_EQ(result.perPid, (QList<FreeRAMResult::Record>{{41, u"claude"_s, 7 * MiB, KillOutcome::forced},
+                                                           {57, u"pid 57"_s, 0, KillOutcome::quit}}));
+    EXPECT_TRUE(result.memoryPressureSignaled);
+    EXPECT_EQ(result.freedBytes, 50U * 4096);
+    EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:forced,57:quit freed=204800 ok"_s));
+    EXPECT_EQ(tools->commandLines(), QStringList(u"/usr/bin/memory_pressure -l warn"_s));
+    EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 204800U);
+}
+
+TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
+    tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    tick();
+    fakes.host->memory = MemoryPages{.active = 900, .wired = 30, .compressed = 20};
+    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({}));
+    EXPECT_FALSE(result.memoryPressureSignaled);
+    EXPECT_EQ(result.freedBytes, 0U);
+    EXPECT_EQ(logged(), QStringList(u"quit [free RAM]  freed=0 ok"_s));
+}
+
+TEST_F(FreeRAMTest, AnIdTakenByAnotherProcessMeanwhileIsLeftAlone) {
+    signalSender->start(41);
+    auto run = model->freeRAM({41, 42});
+    signalSender->end(41);
+    signalSender->start(41); // during the wait: another process with that id
+    signalSender->start(42); // nobody had this one when the run began
+    const FreeRAMResult result = QCoro::waitFor(run);
+    EXPECT_EQ(outcomesOf(result), (QStringList{u"quit"_s, u"quit"_s}));
+    EXPECT_EQ(signalSender->sent(), (QList<FakeSignals::Sent>{{41, Signal::terminate, 1}}));
+}
+
+TEST_F(FreeRAMTest, AModelThatIsGoneEndsTheRun) {
+    signalSender->start(41);
+    auto run = model->freeRAM({41});
+    model.reset();
+    EXPECT_EQ(outcomesOf(QCoro::waitFor(run)), QStringList(u"quit"_s));
+    EXPECT_TRUE(tools->requests.isEmpty());
+}
+
+TEST_F(FreeRAMTest, TheModelKeepsTheNewest200AndTheFileAll) {
+    for (int i = 0; i < 203; ++i)
+        model->record(ActionLogEntry::Kind::clean, QString::number(i), 0, true);
+    ASSERT_EQ(model->actionLog().size(), 200);
+    EXPECT_EQ(model->actionLog().first().detail, u"202"_s);
+    EXPECT_EQ(model->actionLog().last().detail, u"3"_s);
+    EXPECT_EQ(ActionLogReader::read().size(), 203);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "AppModel.h"
+#include "support/FakePlatform.h"
+#include "support/FakeSignals.h"
+#include "support/ScriptedTools.h"
+#include "support/TemporaryHome.h"
+#include "support/TemporarySettings.h"
+
+#include <QCoroTask>
+
+#include <gtest/gtest.h>
+
+/// A model over scripted processes, signals and tools, which never waits.
+struct ReliefTest : testing::Test {
+    TemporaryHome home;
+    TemporarySettings settings;
+    FakePlatform fakes;
+    std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
+    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
+    std::unique_ptr<AppModel> model;
+
+    ReliefTest() {
+        Platform platform = fakes.platform();
+        platform.signalSender = signalSender;
+        platform.tools = tools;
+        model = std::make_unique<AppModel>(platform, settings.preferences);
+        model->setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+    }
+
+    /// A process of the user's, unless it says otherwise, that the system lists and signals reach.
+    void add(qint32 pid, const QByteArray& name, quint64 rssBytes, KernelProcessInfo info = {.uid = 1000},
+             const QByteArray& path = {}, const QByteArray& arguments = {}) {
+        fakes.processes->add(pid, {.task = TaskInfo{.residentBytes = rssBytes},
+                                   .path = path,
+                                   .name = name,
+                                   .arguments = arguments,
+                                   .info = info});
+        signalSender->start(pid);
+    }
+    void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
+    /// "KIND DETAIL ok", newest first.
+    QStringList logged() const {
+        QStringList lines;
+        for (const ActionLogEntry& entry : model->actionLog()) {
+            lines.append(rawValue(entry.kind) + u' ' + entry.detail +
+                         (entry.success ? QStringLiteral(" ok") : QStringLiteral(" fail")));
+        }
+        return lines;
+    }
+    QList<qint32> signalled() const {
+        QList<qint32> pids;
+        for (const FakeSignals::Sent& sent : signalSender->sent())
+            pids.append(sent.pid);
+        return pids;
+    }
+};
