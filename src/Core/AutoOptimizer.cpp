@@ -9,7 +9,9 @@
 using namespace Qt::StringLiterals;
 
 AutoOptimizer::AutoOptimizer(OptimizedModel& model, std::shared_ptr<ToolRunner> tools, QObject* parent)
-    : QObject(parent), m_model(model), m_tools(std::move(tools)) {
+    : QObject(parent)
+    , m_model(model)
+    , m_tools(std::move(tools)) {
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
 }
 

@@ -41,5 +41,5 @@ private:
 
     OptimizedModel& m_model;
     std::shared_ptr<ToolRunner> m_tools;
-    QTimer m_timer;
+    QTimer m_timer{this};
 };

@@ -118,7 +118,8 @@ TEST_F(ActionLogTest, UnusualLinesAreKept) {
     const QByteArray stamp = "2026-11-16T14:23:43Z";
     EXPECT_EQ(details("\t" + stamp + "\t\tquit\tok\t\t1\trun of tabs\n"), QStringList(u"run of tabs"_s));
     EXPECT_EQ(details(stamp + "\tquit\tok\t1\t\tdetail\t"), QStringList(u"\tdetail\t"_s));
-    EXPECT_EQ(details(stamp + "\tquit\tok\t+42\t" + QByteArray("a\0b", 3)), QStringList(QString(u"a\0b", 3)));
+    EXPECT_EQ(details(stamp + "\tquit\tok\t+42\t" + QByteArray("a\0b", 3)),
+              QStringList(QString::fromLatin1("a\0b", 3)));
     home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, stamp + "\tunheard\tOK\t+42\td\n");
     const LoggedAction action = ActionLogReader::read().value(0);
     EXPECT_EQ(action.kind, u"unheard"_s);

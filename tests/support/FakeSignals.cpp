@@ -5,7 +5,9 @@
 class FakeSignals::Handle : public ProcessHandle {
 public:
     Handle(std::shared_ptr<FakeSignals> owner, qint32 pid, int life)
-        : m_owner(std::move(owner)), m_pid(pid), m_life(life) {}
+        : m_owner(std::move(owner))
+        , m_pid(pid)
+        , m_life(life) {}
 
     SignalResult send(Signal signal) override { return m_owner->sendTo(m_pid, m_life, signal); }
 
@@ -15,7 +17,7 @@ private:
     int m_life;
 };
 
-void FakeSignals::start(qint32 pid, Script script) {
+void FakeSignals::start(qint32 pid, const Script& script) {
     Process& process = m_processes[pid];
     process.script = script;
     process.running = true;

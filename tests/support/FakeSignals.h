@@ -23,7 +23,8 @@ public:
         bool operator==(const Sent&) const = default;
     };
 
-    void start(qint32 pid, Script script = {});
+    void start(qint32 pid, const Script& script);
+    void start(qint32 pid) { start(pid, Script()); }
     void end(qint32 pid);
     /// Every signal that reached a process, or was refused by one, probes left out.
     const QList<Sent>& sent() const { return m_sent; }

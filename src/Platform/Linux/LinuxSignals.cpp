@@ -17,7 +17,8 @@ SignalResult resultOf(long status, int error) {
 
 class PidfdHandle : public ProcessHandle {
 public:
-    explicit PidfdHandle(int descriptor) : m_descriptor(descriptor) {}
+    explicit PidfdHandle(int descriptor)
+        : m_descriptor(descriptor) {}
     ~PidfdHandle() override { close(m_descriptor); }
     PidfdHandle(const PidfdHandle&) = delete;
     PidfdHandle& operator=(const PidfdHandle&) = delete;
@@ -35,7 +36,8 @@ private:
 /// For a system without pidfd: only as safe as the id is lasting.
 class PidHandle : public ProcessHandle {
 public:
-    explicit PidHandle(qint32 pid) : m_pid(pid) {}
+    explicit PidHandle(qint32 pid)
+        : m_pid(pid) {}
 
     SignalResult send(Signal signal) override {
         return resultOf(::kill(m_pid, static_cast<int>(signal)), errno);
@@ -47,7 +49,8 @@ private:
 
 class NoProcess : public ProcessHandle {
 public:
-    explicit NoProcess(SignalResult result) : m_result(result) {}
+    explicit NoProcess(SignalResult result)
+        : m_result(result) {}
 
     SignalResult send(Signal) override { return m_result; }
 

@@ -1,0 +1,97 @@
+#include "Core/ReliefFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using SweepTest = ReliefTest;
+
+NukePreview previewOf(const QStringList& paths, quint64 rssBytes = 0) {
+    QList<ProcSample> processes;
+    for (const QString& path : paths) {
+        const auto pid = static_cast<qint32>(processes.size() + 1);
+        processes.append({.pid = pid, .executablePath = path, .rssBytes = rssBytes});
+    }
+    return NukePreview::make(u"Helper"_s, processes);
+}
+
+} // namespace
+
+TEST(NukePreviewTest, TheApplicationIsTheOutermostBundleOfAll) {
+    const QString nested =
+        u"/Applications/Google Chrome.app/Contents/Frameworks/Google Chrome Helper.app/x"_s;
+    struct Row {
+        QStringList paths;
+        std::optional<QString> application;
+    };
+    const QList<Row> rows = {
+        {{nested, nested, u"/Applications/Google Chrome.app/y"_s}, u"Google Chrome"_s},
+        {{nested, u"/usr/bin/helper"_s}, std::nullopt},
+        {{u"/usr/bin/helper"_s, nested}, std::nullopt},
+        {{nested, u"/Applications/Other.app/x"_s}, std::nullopt},
+        {{u"/Applications/Upper.APP/x"_s}, std::nullopt},
+        {{u"/Applications/Not.app"_s}, std::nullopt},
+        {{u"My.app.app/x"_s}, u"My.app"_s},
+        {{}, std::nullopt},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(previewOf(row.paths).parentAppName, row.application) << qPrintable(row.paths.join(u'|'));
+}
+
+TEST(NukePreviewTest, TextsForAnApplication) {
+    const NukePreview preview = previewOf({u"/A/Note.app/a"_s, u"/A/Note.app/b"_s}, 1 << 29);
+    EXPECT_EQ(preview.dialogTitle(), u"Quit “Note” and all 2 helpers?"_s);
+    EXPECT_EQ(preview.dialogMessage(),
+              u"Tells Note to quit cleanly — closes all 2 child processes in one sweep, "
+              "no per-tab pop-ups. Frees ≈1 GB."_s);
+    EXPECT_EQ(preview.quitButton(), u"Quit Note (≈1 GB)"_s);
+    EXPECT_EQ(preview.forceQuitButton(), u"Force-quit Note (no save prompt)"_s);
+    EXPECT_EQ(preview.quitOutcome(u"Note"_s, true), u"Note quit cleanly — 2 helpers closed (≈1 GB freed)"_s);
+    EXPECT_EQ(preview.quitOutcome(u"Note"_s, false),
+              u"Couldn't tell Note to quit (it may not be scriptable). Try the force variant."_s);
+    EXPECT_EQ(NukePreview::quitScript(u"The \"Best\" %1"_s, false),
+              u"tell application \"The \\\"Best\\\" %1\" to quit"_s);
+    EXPECT_EQ(NukePreview::quitScript(u"Note"_s, true), u"tell application \"Note\" to quit saving no"_s);
+}
+
+TEST(NukePreviewTest, TextsForAnyOtherProcessesListTwentyIds) {
+    const NukePreview twenty = previewOf(QStringList(20, u"/bin/x"_s), 1 << 20);
+    EXPECT_EQ(twenty.dialogTitle(), u"Kill all 20 “Helper” processes?"_s);
+    EXPECT_EQ(
+        twenty.dialogMessage(),
+        u"Sends SIGTERM to all 20 PIDs. Use sparingly — unsaved work in those processes may be lost.\n\n"
+        "PIDs: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20"_s);
+    EXPECT_EQ(twenty.killButton(), u"Kill 20 (≈20 MB)"_s);
+    EXPECT_EQ(twenty.killOutcome(7), u"Killed 7/20 “Helper” processes (≈20 MB targeted)"_s);
+    EXPECT_TRUE(previewOf(QStringList(25, u"/bin/x"_s)).dialogMessage().endsWith(u"19, 20…"_s));
+}
+
+TEST_F(SweepTest, SignalsEveryProcessOfTheNameButNeverTavrin) {
+    add(1, "bash", 30);
+    add(2, "bash", 20, {.uid = 0});
+    add(3, "bash", 10);
+    add(4, "Bash", 10);
+    add(fakes.identity->pid, "bash", 5);
+    signalSender->start(2, {.terminate = SignalResult::notPermitted});
+    tick();
+    const NukePreview preview = model->previewForName(u"bash"_s);
+    EXPECT_EQ(preview.pids, (QList<qint32>{1, 2, 3}));
+    EXPECT_EQ(preview.totalRSS, 60U);
+    EXPECT_EQ(model->nuke(preview), u"Killed 2/3 “bash” processes (≈60 bytes targeted)"_s);
+    EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] bash — 2/3 PIDs ok"_s));
+}
+
+TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
+    const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
+    EXPECT_EQ(QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, false)),
+              u"Note quit cleanly — 1 helpers closed (≈1 KB freed)"_s);
+    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    EXPECT_TRUE(
+        QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, true)).startsWith(u"Couldn't tell Note"_s));
+    EXPECT_EQ(tools->commandLines(),
+              (QStringList{u"/usr/bin/osascript -e tell application \"Note\" to quit"_s,
+                           u"/usr/bin/osascript -e tell application \"Note\" to quit saving no"_s}));
+    EXPECT_EQ(logged(), (QStringList{u"forceKill [graceful quit] Note (1 child PIDs targeted) — force fail"_s,
+                                     u"quit [graceful quit] Note (1 child PIDs targeted) ok"_s}));
+    EXPECT_TRUE(signalled().isEmpty());
+}
