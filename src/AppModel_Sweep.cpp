@@ -17,7 +17,14 @@ NukePreview AppModel::previewForName(const QString& name) const {
 }
 
 QString AppModel::nuke(const NukePreview& preview) {
-    const int killed = signalAll(preview.pids, false);
+    // The preview may have been on show for long: an id that meanwhile names something else is left alone.
+    QList<qint32> stillNamed;
+    for (const qint32 pid : preview.pids) {
+        const ProcSample* process = processWithId(pid);
+        if (process && process->name == preview.name)
+            stillNamed.append(pid);
+    }
+    const int killed = signalAll(stillNamed, false);
     record(ActionLogEntry::Kind::quit,
            u"[nuke duplicates] "_s + preview.name + u" — %1/%2 PIDs"_s.arg(killed).arg(preview.pids.size()),
            0, true);

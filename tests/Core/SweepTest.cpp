@@ -81,6 +81,19 @@ TEST_F(SweepTest, SignalsEveryProcessOfTheNameButNeverTavrin) {
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] bash — 2/3 PIDs ok"_s));
 }
 
+TEST_F(SweepTest, AnIdThatWentToAnotherProgramMeanwhileIsLeftAlone) {
+    add(1, "bash", 30);
+    add(2, "bash", 20);
+    tick();
+    const NukePreview preview = model->previewForName(u"bash"_s);
+    fakes.processes->remove(1);
+    tick();
+    add(1, "editor", 30);
+    tick();
+    EXPECT_EQ(model->nuke(preview), u"Killed 1/2 “bash” processes (≈50 bytes targeted)"_s);
+    EXPECT_EQ(signalled(), QList<qint32>{2});
+}
+
 TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
     EXPECT_EQ(QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, false)),

@@ -2,17 +2,19 @@
 
 #include <cerrno>
 #include <csignal>
+#include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
 
-SignalResult resultOf(long status, int error) {
+/// Of the system call that was just made.
+SignalResult resultOf(long status) {
     if (status == 0)
         return SignalResult::delivered;
-    if (error == EPERM)
+    if (errno == EPERM)
         return SignalResult::notPermitted;
-    return error == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
+    return errno == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
 }
 
 class PidfdHandle : public ProcessHandle {
@@ -24,12 +26,20 @@ public:
     PidfdHandle& operator=(const PidfdHandle&) = delete;
 
     SignalResult send(Signal signal) override {
+        if (hasEnded())
+            return SignalResult::noSuchProcess;
         const long status =
             syscall(SYS_pidfd_send_signal, m_descriptor, static_cast<int>(signal), nullptr, 0);
-        return resultOf(status, errno);
+        return resultOf(status);
     }
 
 private:
+    /// The kernel still delivers signals to a process that ended but was not asked about by its parent.
+    bool hasEnded() const {
+        pollfd ended{.fd = m_descriptor, .events = POLLIN, .revents = 0};
+        return poll(&ended, 1, 0) > 0;
+    }
+
     int m_descriptor;
 };
 
@@ -39,9 +49,7 @@ public:
     explicit PidHandle(qint32 pid)
         : m_pid(pid) {}
 
-    SignalResult send(Signal signal) override {
-        return resultOf(::kill(m_pid, static_cast<int>(signal)), errno);
-    }
+    SignalResult send(Signal signal) override { return resultOf(::kill(m_pid, static_cast<int>(signal))); }
 
 private:
     qint32 m_pid;
@@ -74,11 +82,11 @@ std::shared_ptr<ProcessHandle> LinuxSignals::hold(qint32 pid) {
         return std::make_shared<PidfdHandle>(static_cast<int>(descriptor));
     if (meansUnsupported(errno))
         return std::make_shared<PidHandle>(pid);
-    return std::make_shared<NoProcess>(resultOf(descriptor, errno));
+    return std::make_shared<NoProcess>(resultOf(descriptor));
 }
 
 SignalResult LinuxSignals::send(qint32 pid, Signal signal) {
     if (pid < 1)
         return SignalResult::noSuchProcess;
-    return resultOf(::kill(pid, static_cast<int>(signal)), errno);
+    return resultOf(::kill(pid, static_cast<int>(signal)));
 }

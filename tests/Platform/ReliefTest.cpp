@@ -1,0 +1,211 @@
+#include "AppModel.h"
+#include "Platform/Child.h"
+#include "Platform/Identity.h"
+#include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/Linux/LinuxSignals.h"
+#include "support/ScriptedTools.h"
+#include "support/TemporaryHome.h"
+#include "support/TemporarySettings.h"
+
+#include <QCoroTask>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr uid_t nobody = 65534;
+
+/// The machine's processes, of which only those that the test started can be seen and so be chosen.
+class OwnProcesses : public ProcessTable {
+public:
+    QList<qint32> pids;
+
+    int listAllPids(std::span<qint32> room) override {
+        m_table.listAllPids(m_everything);
+        std::copy(pids.begin(), pids.end(), room.begin());
+        return static_cast<int>(pids.size());
+    }
+    std::optional<TaskInfo> taskInfo(qint32 pid) override { return m_table.taskInfo(pid); }
+    QByteArray executablePath(qint32 pid) override { return m_table.executablePath(pid); }
+    QByteArray shortName(qint32 pid) override { return m_table.shortName(pid); }
+    QByteArray argumentArea(qint32 pid) override { return m_table.argumentArea(pid); }
+    std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return m_table.kernelInfo(pid); }
+
+    /// A child of `parent`, waited for.
+    qint32 childOf(qint32 parent) {
+        for (int attempt = 0; attempt < 400; ++attempt, std::this_thread::sleep_for(5ms)) {
+            const int count = m_table.listAllPids(m_everything);
+            for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
+                const auto info = m_table.kernelInfo(pid);
+                if (info && info->parentPid == parent && m_table.argumentArea(pid).contains("mcp-server"))
+                    return pid;
+            }
+        }
+        return 0;
+    }
+    bool ends(qint32 pid) {
+        for (int attempt = 0; attempt < 400; ++attempt, std::this_thread::sleep_for(5ms)) {
+            if (!m_table.taskInfo(pid))
+                return true;
+        }
+        return false;
+    }
+
+private:
+    LinuxProcessTable m_table;
+    std::array<qint32, 4096> m_everything{};
+};
+
+/// The whole program as another user, who may not signal root's processes.
+struct AsNobody {
+    AsNobody() { isSwitched = setresuid(nobody, nobody, 0) == 0; }
+    ~AsNobody() {
+        if (isSwitched && setresuid(0, 0, 0) != 0)
+            abort();
+    }
+    bool isSwitched = false;
+};
+
+struct ReliefOnProcessesTest : testing::Test {
+    TemporaryHome home;
+    TemporarySettings settings;
+    std::shared_ptr<OwnProcesses> processes = std::make_shared<OwnProcesses>();
+    std::unique_ptr<AppModel> model;
+
+    ReliefOnProcessesTest() {
+        QFile::setPermissions(home.path(), QFile::Permissions(0x7777));
+        Platform platform = Platform::native();
+        platform.processes = processes;
+        platform.tools = std::make_shared<ScriptedTools>();
+        model = std::make_unique<AppModel>(platform, settings.preferences);
+        model->setFreeRAMWaits({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
+    }
+    void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
+};
+
+void sleepUntilKilled(int socket) {
+    static_cast<void>(!write(socket, "r", 1));
+    for (;;)
+        pause();
+}
+
+void ignoreTerminate(int socket) {
+    signal(SIGTERM, SIG_IGN);
+    sleepUntilKilled(socket);
+}
+
+int endedBy(pid_t pid) {
+    siginfo_t ended{};
+    waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOWAIT);
+    return ended.si_status;
+}
+
+} // namespace
+
+TEST_F(ReliefOnProcessesTest, OneEndsWhenAskedOneIsKilledOneIsGone) {
+    const Child polite(sleepUntilKilled);
+    const Child stubborn(ignoreTerminate);
+    Child gone([](int) {});
+    const qint32 gonePid = gone.pid();
+    gone.exitStatus();
+    ASSERT_EQ(polite.heard(), 'r');
+    ASSERT_EQ(stubborn.heard(), 'r');
+    processes->pids = {polite.pid(), stubborn.pid()};
+    tick();
+    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({polite.pid(), stubborn.pid(), gonePid}));
+    ASSERT_EQ(result.perPid.size(), 3);
+    EXPECT_EQ(endedBy(polite.pid()), SIGTERM);
+    EXPECT_EQ(result.perPid[0].outcome, KillOutcome::quit); // although nobody has reaped it yet
+    EXPECT_EQ(endedBy(stubborn.pid()), SIGKILL);
+    EXPECT_EQ(result.perPid[1].outcome, KillOutcome::forced);
+    EXPECT_GT(result.perPid[1].before, 0U);
+    EXPECT_EQ(result.perPid[2].outcome, KillOutcome::quit);
+    EXPECT_EQ(result.perPid[2].name, u"pid %1"_s.arg(gonePid));
+}
+
+TEST_F(ReliefOnProcessesTest, AnotherUsersProcessIsDeniedAndNeverChosenByRule) {
+    if (getuid() != 0)
+        GTEST_SKIP() << "may not become another user";
+    const Child child(sleepUntilKilled);
+    ASSERT_EQ(child.heard(), 'r');
+    processes->pids = {child.pid()};
+    tick();
+    ASSERT_EQ(model->processes().size(), 1);
+    const QString name = model->processes().first().name;
+    EXPECT_EQ(model->previewMatches(name, 0, 0), 1);
+    {
+        const AsNobody switched;
+        ASSERT_TRUE(switched.isSwitched);
+        const FreeRAMResult result = QCoro::waitFor(model->freeRAM({child.pid()}));
+        EXPECT_EQ(result.perPid[0].outcome, KillOutcome::denied);
+        EXPECT_EQ(model->previewMatches(name, 0, 0), 0);
+        EXPECT_EQ(model->quickKill(name, u"all"_s, 0, 0, true), (AppModel::QuickKillResult{0, 0}));
+        EXPECT_EQ(LinuxSignals().send(child.pid(), Signal::terminate), SignalResult::notPermitted);
+    }
+    EXPECT_EQ(LinuxSignals().send(child.pid(), Signal::probe), SignalResult::delivered);
+}
+
+TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKilled) {
+    const QString claude = home.path(u"claude"_s);
+    ASSERT_TRUE(QFile::copy(u"/bin/sh"_s, claude));
+    // The servers wait for the test's end of the socket.
+    const auto script =
+        home.makeFile(u"host"_s, "exec 3<&0\nsh -c 'read x' /opt/bin/mcp-server-demo <&3 &\nwait\n")
+            .toStdString();
+    Child host(claude.toStdString(), {"claude", script});
+    Child shell("/bin/sh", {"sh", script});
+    const qint32 hosted = processes->childOf(host.pid());
+    const qint32 orphan = processes->childOf(shell.pid());
+    ASSERT_GT(hosted, 0);
+    ASSERT_GT(orphan, 0);
+    processes->pids = {host.pid(), shell.pid(), hosted, orphan};
+    tick();
+    const auto& live = model->mcpReport().live;
+    ASSERT_EQ(live.size(), 2);
+    EXPECT_EQ(live.first().pid, orphan);
+    EXPECT_TRUE(live.first().isOrphan);
+    EXPECT_EQ(live.first().parentName, u"sh"_s);
+    EXPECT_EQ(live.last().pid, hosted);
+    EXPECT_FALSE(live.last().isOrphan);
+    EXPECT_EQ(live.last().displayLabel, u"/opt/bin/mcp-server-demo"_s);
+    EXPECT_EQ(live.last().parentName, u"claude"_s);
+
+    host.end();
+    processes->pids = {hosted};
+    tick();
+    ASSERT_EQ(live.size(), 1);
+    EXPECT_TRUE(live.first().isOrphan);
+    EXPECT_EQ(live.first().parentName, u"(launchd or gone)"_s);
+    EXPECT_EQ(model->mcpReport().orphanBytes(), model->processes().first().rssBytes);
+    EXPECT_EQ(model->killOrphanMCPs(false), 1);
+    EXPECT_TRUE(processes->ends(hosted));
+    EXPECT_TRUE(processes->taskInfo(orphan)); // not on the list, and so left alone
+}
+
+TEST(LinuxSignals, AHandleOutlivesItsProcess) {
+    LinuxSignals signalSender;
+    Child child(sleepUntilKilled);
+    ASSERT_EQ(child.heard(), 'r');
+    const auto handle = signalSender.hold(child.pid());
+    EXPECT_EQ(handle->send(Signal::probe), SignalResult::delivered);
+    EXPECT_EQ(handle->send(Signal::kill), SignalResult::delivered);
+    EXPECT_EQ(endedBy(child.pid()), SIGKILL);
+    const qint32 pid = child.pid();
+    child.end();
+    EXPECT_EQ(handle->send(Signal::probe), SignalResult::noSuchProcess);
+    EXPECT_EQ(signalSender.send(pid, Signal::kill), SignalResult::noSuchProcess);
+    EXPECT_EQ(signalSender.hold(pid)->send(Signal::kill), SignalResult::noSuchProcess);
+    for (const qint32 group : {0, -1, -pid}) {
+        EXPECT_EQ(signalSender.send(group, Signal::probe), SignalResult::noSuchProcess) << group;
+        EXPECT_EQ(signalSender.hold(group)->send(Signal::probe), SignalResult::noSuchProcess) << group;
+    }
+}
