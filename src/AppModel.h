@@ -66,6 +66,20 @@ public:
     /// The same, made now.
     void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) override;
 
+    /// As of the last tick; null when the system listed no such process.
+    const ProcSample* process(qint32 pid) const;
+    /// Signals the very process that the user pointed at, not another that has its id by now, and puts that
+    /// on record.
+    void quitProcess(const ProcSample& chosen);
+    void forceKillProcess(const ProcSample& chosen);
+    /// Asks a server of the report to end. Leaves no line in the log.
+    void quitServer(const MCPInspector::LiveServer& server);
+
+    /// Asks the kernel to reclaim memory; on record. Whether the request could be made.
+    QCoro::Task<bool> nudgeMemory();
+    /// Drops clean caches after the administrator's prompt; on record. False when that was not done.
+    QCoro::Task<bool> purgeMemory();
+
     /// Idle processes worth ending: at most 15, largest first. Idle time in minutes, size in MiB.
     QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;
     /// Asks each process to end, kills those that stay, asks the kernel to reclaim, and measures. Takes
@@ -132,7 +146,7 @@ private:
     void expectCleans(int count);
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
     AutoOptimizer& autoOptimizer();
-    const ProcSample* processWithId(qint32 pid) const;
+    void signalChosen(const ProcSample& chosen, bool force);
     QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     /// How many of the signals were delivered.
     int signalAll(const QList<qint32>& pids, bool force);

@@ -93,7 +93,7 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
     for (const qint32 pid : pids)
         handles.append(m_platform.signalSender->hold(pid));
     for (qsizetype i = 0; i < pids.size(); ++i) {
-        const ProcSample* known = processWithId(pids[i]);
+        const ProcSample* known = process(pids[i]);
         result.perPid.append({.pid = pids[i],
                               .name = known ? known->name : u"pid %1"_s.arg(pids[i]),
                               .before = known ? known->rssBytes : 0,
@@ -119,10 +119,4 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
     const QString detail = logDetail(result);
     record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
     co_return result;
-}
-
-const ProcSample* AppModel::processWithId(qint32 pid) const {
-    const auto found = std::find_if(m_processes.begin(), m_processes.end(),
-                                    [pid](const ProcSample& process) { return process.pid == pid; });
-    return found == m_processes.end() ? nullptr : &*found;
 }

@@ -9,8 +9,8 @@ int AppModel::killOrphanMCPs(bool force) {
     const ProcessFilter filter(*m_platform.identity);
     QList<qint32> orphans;
     for (const MCPInspector::LiveServer& server : m_mcpReport.live) {
-        const ProcSample* process = processWithId(server.pid);
-        if (server.isOrphan && process && filter.accepts(*process))
+        const ProcSample* running = process(server.pid);
+        if (server.isOrphan && running && filter.accepts(*running))
             orphans.append(server.pid);
     }
     const int killed = signalAll(orphans, force);

@@ -2,9 +2,6 @@
 
 #include "Core/ProcessFilter.h"
 #include "Platform/Identity.h"
-#include "Platform/Signals.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,11 +43,4 @@ AppModel::QuickKillResult AppModel::quickKill(const QString& pattern, const QStr
            u"[quickKill] "_s + label + u" — matched=%1 killed=%2"_s.arg(matched).arg(killed), 0,
            killed > 0 || matched == 0);
     return {.matched = matched, .killed = killed};
-}
-
-int AppModel::signalAll(const QList<qint32>& pids, bool force) {
-    const Signal signal = force ? Signal::kill : Signal::terminate;
-    return static_cast<int>(std::count_if(pids.begin(), pids.end(), [this, signal](qint32 pid) {
-        return m_platform.signalSender->send(pid, signal) == SignalResult::delivered;
-    }));
 }

@@ -20,8 +20,8 @@ QString AppModel::nuke(const NukePreview& preview) {
     // The preview may have been on show for long: an id that meanwhile names something else is left alone.
     QList<qint32> stillNamed;
     for (const qint32 pid : preview.pids) {
-        const ProcSample* process = processWithId(pid);
-        if (process && process->name == preview.name)
+        const ProcSample* running = process(pid);
+        if (running && running->name == preview.name)
             stillNamed.append(pid);
     }
     const int killed = signalAll(stillNamed, false);

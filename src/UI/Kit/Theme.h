@@ -46,6 +46,8 @@ inline constexpr int textGap = 2;
 inline constexpr double tileRadius = 12;
 inline constexpr double cardRadius = 10;
 inline constexpr double controlRadius = 7;
+inline constexpr int controlHeight = 28;
+inline constexpr int smallControlHeight = 24;
 inline constexpr int iconColumn = 24;
 inline constexpr int iconSize = 18;
 

@@ -1,0 +1,43 @@
+#include "AppModel.h"
+
+#include "Platform/Signals.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+const ProcSample* AppModel::process(qint32 pid) const {
+    const auto found = std::find_if(m_processes.begin(), m_processes.end(),
+                                    [pid](const ProcSample& each) { return each.pid == pid; });
+    return found == m_processes.end() ? nullptr : &*found;
+}
+
+void AppModel::quitProcess(const ProcSample& chosen) {
+    signalChosen(chosen, false);
+}
+
+void AppModel::forceKillProcess(const ProcSample& chosen) {
+    signalChosen(chosen, true);
+}
+
+void AppModel::signalChosen(const ProcSample& chosen, bool force) {
+    const ProcSample* current = process(chosen.pid);
+    const bool isStillThere = current && current->startTime == chosen.startTime;
+    const qint32 pid = chosen.pid; // `chosen` may be an element of the list that observers replace
+    const bool delivered = isStillThere && signalAll({pid}, force) == 1;
+    record(force ? ActionLogEntry::Kind::forceKill : ActionLogEntry::Kind::quit,
+           u"pid="_s + QString::number(pid), 0, delivered);
+}
+
+void AppModel::quitServer(const MCPInspector::LiveServer& server) {
+    const ProcSample* current = process(server.pid);
+    if (current && current->name == server.name)
+        signalAll({server.pid}, false);
+}
+
+int AppModel::signalAll(const QList<qint32>& pids, bool force) {
+    const Signal signal = force ? Signal::kill : Signal::terminate;
+    return static_cast<int>(std::count_if(pids.begin(), pids.end(), [this, signal](qint32 pid) {
+        return m_platform.signalSender->send(pid, signal) == SignalResult::delivered;
+    }));
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "UI/Kit/Painting.h"
+
+#include <QPainter>
+#include <QWidget>
+
+#include <optional>
+
+/// The ground that things stand on: the theme's card, or one in the light of a tint.
+class Card : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Card(QWidget* parent = nullptr, std::optional<Theme::Role> tint = std::nullopt)
+        : QWidget(parent)
+        , m_tint(tint) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        if (m_tint)
+            Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(*m_tint, 0.08),
+                               Theme::color(*m_tint, 0.35));
+        else
+            Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Theme::Role::cardFill),
+                               Theme::color(Theme::Role::cardBorder));
+    }
+
+private:
+    std::optional<Theme::Role> m_tint;
+};

@@ -1,0 +1,55 @@
+#include "UI/Kit/ConfirmDialog.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QHBoxLayout>
+
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int textWidth = 420;
+
+} // namespace
+
+ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QString& text)
+    : QDialog(parent)
+    , m_buttons(new QHBoxLayout) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(Formatters::visible(title));
+    setAccessibleDescription(Formatters::visible(text));
+
+    auto* heading = (new TextLabel(TextStyle::title3, QFont::Bold))->wrapped();
+    heading->setPlainText(title);
+    heading->setFixedWidth(textWidth);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
+                               Theme::pagePadding);
+    column->setSpacing(Theme::rowSpacing);
+    column->addWidget(heading);
+    for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
+        auto* label = (new TextLabel(TextStyle::body))->secondary()->wrapped();
+        label->setPlainText(paragraph);
+        label->setFixedWidth(textWidth);
+        column->addWidget(label);
+    }
+    column->addSpacing(Theme::rowSpacing);
+    column->addLayout(m_buttons);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+
+    auto* cancel = new PushButton(QStringLiteral("Cancel"));
+    cancel->setDefault(true);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_buttons->addStretch();
+    m_buttons->addWidget(cancel);
+    cancel->setFocus();
+}
+
+PushButton* ConfirmDialog::addAction(const QString& text, PushButton::Look look) {
+    auto* button = new PushButton(Formatters::visible(text).replace(u'&', QStringLiteral("&&")), look);
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    m_buttons->insertWidget(m_buttons->count() - 1, button);
+    return button;
+}

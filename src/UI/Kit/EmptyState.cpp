@@ -1,0 +1,32 @@
+#include "UI/Kit/EmptyState.h"
+
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int leastHeight = 120;
+constexpr int symbolSize = 30;
+
+} // namespace
+
+EmptyState::EmptyState(const QString& symbol, const QString& headline, const QString& text, QWidget* parent)
+    : QWidget(parent) {
+    setMinimumHeight(leastHeight);
+    auto* icon = new SymbolView(symbolSize, symbolSize);
+    icon->set(symbol, Theme::Role::secondaryText);
+    auto* title = new TextLabel(Theme::TextStyle::headline);
+    title->setPlainText(headline);
+    auto* detail = (new TextLabel(Theme::TextStyle::callout))->secondary()->wrapped();
+    detail->setPlainText(text);
+    detail->setAlignment(Qt::AlignCenter);
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(Theme::rowSpacing);
+    column->addStretch();
+    column->addWidget(icon, 0, Qt::AlignCenter);
+    column->addWidget(title, 0, Qt::AlignCenter);
+    column->addWidget(detail);
+    column->addStretch();
+}

@@ -1,0 +1,45 @@
+#include "UI/Kit/Notice.h"
+
+#include "UI/Kit/Card.h"
+#include "UI/Kit/PushButton.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QHBoxLayout>
+
+using Theme::Role;
+
+Notice::Notice(QString symbol, std::chrono::milliseconds lifetime, QWidget* parent)
+    : QWidget(parent)
+    , m_symbol(std::move(symbol))
+    , m_text(new TextLabel(Theme::TextStyle::callout)) {
+    auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
+    icon->set(m_symbol, Role::green);
+    auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);
+    connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
+    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    auto* card = new Card(this, Role::green);
+    auto* row = new QHBoxLayout(card);
+    row->setContentsMargins(Theme::cardPadding, 4, 4, 4);
+    row->setSpacing(Theme::rowSpacing);
+    row->addWidget(icon);
+    row->addWidget(m_text, 1);
+    row->addWidget(dismiss);
+    auto* frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(card);
+
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(lifetime);
+    connect(&m_timer, &QTimer::timeout, this, &QWidget::hide);
+    hide();
+}
+
+void Notice::show(const QString& text) {
+    m_text->setPlainText(text);
+    setAccessibleName(m_text->text());
+    setVisible(true);
+    if (m_timer.interval() > 0)
+        m_timer.start();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include <chrono>
+
+class TextLabel;
+
+/// One line that tells the outcome of an action, with a button to dismiss it. Hidden until it has a text.
+class Notice : public QWidget {
+    Q_OBJECT
+
+public:
+    /// It goes by itself after `lifetime`, counted anew for each text; 0 keeps it until it is dismissed.
+    Notice(QString symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
+
+    void show(const QString& text);
+
+private:
+    QString m_symbol;
+    TextLabel* m_text;
+    QTimer m_timer;
+};

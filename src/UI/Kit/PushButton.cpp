@@ -1,0 +1,132 @@
+#include "UI/Kit/PushButton.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Spinner.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QEvent>
+#include <QPainter>
+
+using Theme::Role;
+
+namespace {
+
+constexpr int symbolSize = 15;
+constexpr int symbolGap = 6;
+constexpr int padding = 12;
+constexpr int smallPadding = 10;
+constexpr double disabledOpacity = 0.45;
+
+} // namespace
+
+PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* parent)
+    : QPushButton(text, parent)
+    , m_look(look)
+    , m_symbol(std::move(symbol))
+    , m_spinner(new Spinner(this)) {
+    setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
+    setFixedHeight(Theme::controlHeight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+    setAutoDefault(false);
+    m_spinner->hide();
+}
+
+void PushButton::setLook(Look look) {
+    m_look = look;
+    update();
+}
+
+void PushButton::setSymbol(const QString& symbol) {
+    m_symbol = symbol;
+    updateGeometry();
+    update();
+}
+
+void PushButton::setTint(Role tint) {
+    m_tint = tint;
+    update();
+}
+
+void PushButton::setSmall() {
+    m_isSmall = true;
+    setFont(Theme::font(Theme::TextStyle::callout, QFont::Medium));
+    setFixedHeight(Theme::smallControlHeight);
+}
+
+void PushButton::setBusy(bool busy) {
+    m_isBusy = busy;
+    m_spinner->setVisible(busy);
+    placeSpinner();
+    updateGeometry();
+    update();
+}
+
+int PushButton::contentWidth() const {
+    const int lead = hasLead() ? symbolSize + symbolGap : 0;
+    return lead + fontMetrics().horizontalAdvance(text());
+}
+
+QSize PushButton::sizeHint() const {
+    return {contentWidth() + 2 * (m_isSmall ? smallPadding : padding), height()};
+}
+
+void PushButton::resizeEvent(QResizeEvent* event) {
+    QPushButton::resizeEvent(event);
+    placeSpinner();
+}
+
+void PushButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange)
+        update();
+    QPushButton::changeEvent(event);
+}
+
+void PushButton::placeSpinner() {
+    m_spinner->move((width() - contentWidth()) / 2, (height() - m_spinner->height()) / 2);
+}
+
+QColor PushButton::textColor() const {
+    const double opacity = isEnabled() ? 1 : disabledOpacity;
+    if (m_look == Look::prominent && isEnabled())
+        return Qt::white;
+    if (m_look == Look::destructive)
+        return Theme::color(Role::red, opacity);
+    if (m_look == Look::borderless)
+        return Theme::color(m_tint, opacity);
+    return Theme::color(Role::primaryText, opacity);
+}
+
+void PushButton::drawGround(QPainter& painter) const {
+    const bool isLit = isEnabled() && (underMouse() || isDown());
+    if (m_look == Look::prominent && isEnabled()) {
+        const QColor fill = Theme::tileColor(m_tint);
+        Painting::drawCard(painter, rect(), Theme::controlRadius,
+                           isDown() ? fill.darker(125) : (isLit ? fill.darker(110) : fill), Qt::transparent);
+        return;
+    }
+    if (m_look != Look::borderless)
+        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::cardFill),
+                           Theme::color(Role::cardBorder));
+    if (isLit)
+        Painting::drawCard(painter, rect(), Theme::controlRadius,
+                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.7), Qt::transparent);
+}
+
+void PushButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawGround(painter);
+    QRectF area = rect();
+    area.setLeft((width() - contentWidth()) / 2);
+    painter.setFont(font());
+    painter.setPen(textColor());
+    if (hasLead()) {
+        const QRectF lead(area.left(), 0, symbolSize, height());
+        if (!m_isBusy)
+            Symbols::draw(painter, m_symbol, textColor(), lead, symbolSize);
+        area.setLeft(lead.right() + symbolGap);
+    }
+    Painting::drawTabular(painter, area, Qt::AlignLeft, text());
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
+}

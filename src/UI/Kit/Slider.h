@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QSlider>
+
+class TextLabel;
+
+/// A horizontal slider in the theme's colours; a press on its track takes the knob there.
+class Slider : public QSlider {
+    Q_OBJECT
+
+public:
+    explicit Slider(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    double knobCentre() const;
+    void takeTo(double x);
+};
+
+/// A slider over steps, under a line that says its value: "Min idle: 10 min".
+class LabeledSlider : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Range {
+        int from;
+        int to;
+        int step;
+    };
+
+    /// The line is `before`, the value and `after`.
+    LabeledSlider(QString before, QString after, Range range, double value, int width,
+                  QWidget* parent = nullptr);
+
+    double value() const;
+
+Q_SIGNALS:
+    void valueChanged(double value);
+
+private:
+    void showValue();
+
+    QString m_before;
+    QString m_after;
+    int m_step;
+    TextLabel* m_label;
+    Slider* m_slider;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QWidget>
+
+/// Shows that something is being done; turns only while it can be seen.
+class Spinner : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int side = 15;
+
+    explicit Spinner(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    QBasicTimer m_timer;
+    int m_degrees = 0;
+};
