@@ -21,6 +21,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
     applyActivationPolicy();
     m_mainWindow = std::make_unique<MainWindow>(m_model);
+    QObject::connect(m_mainWindow.get(), &MainWindow::widgetToggled, m_mainWindow.get(),
+                     [this] { m_widget.toggle(m_model); });
     m_mainWindow->show();
     if (m_preferences.showWidgetOnLaunch())
         m_widget.show(m_model);

@@ -14,6 +14,7 @@ MainWindow::MainWindow(AppModel& model, QWidget* parent)
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);
     resize(RootView::minimumContent);
+    connect(m_root, &RootView::widgetToggled, this, &MainWindow::widgetToggled);
     addMenuActions();
 }
 

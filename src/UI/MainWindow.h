@@ -13,6 +13,9 @@ class MainWindow : public QMainWindow {
 public:
     explicit MainWindow(AppModel& model, QWidget* parent = nullptr);
 
+Q_SIGNALS:
+    void widgetToggled();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 

@@ -76,7 +76,9 @@ RootView::RootView(AppModel& model, QWidget* parent)
     frame->addWidget(split);
 
     connect(m_sidebar, &QListWidget::currentRowChanged, this, &RootView::showSection);
-    addSection(Tab::overview, new OverviewView(model));
+    auto* overview = new OverviewView(model);
+    connect(overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
+    addSection(Tab::overview, overview);
     tintSidebar();
     select(Tab::overview);
 }

@@ -29,6 +29,10 @@ public:
     /// Opened by the button at the foot of the sidebar; not owned.
     void setMenu(QMenu* menu);
 
+Q_SIGNALS:
+    /// The button that shows and hides the floating widget.
+    void widgetToggled();
+
 protected:
     void changeEvent(QEvent* event) override;
 

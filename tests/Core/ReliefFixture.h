@@ -2,8 +2,6 @@
 
 #include "AppModel.h"
 #include "support/FakePlatform.h"
-#include "support/FakeSignals.h"
-#include "support/ScriptedTools.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -16,15 +14,12 @@ struct ReliefTest : testing::Test {
     TemporaryHome home;
     TemporarySettings settings;
     FakePlatform fakes;
-    std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
-    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
+    std::shared_ptr<FakeSignals> signalSender = fakes.signalSender;
+    std::shared_ptr<ScriptedTools> tools = fakes.tools;
     std::unique_ptr<AppModel> model;
 
     ReliefTest() {
-        Platform platform = fakes.platform();
-        platform.signalSender = signalSender;
-        platform.tools = tools;
-        model = std::make_unique<AppModel>(platform, settings.preferences);
+        model = std::make_unique<AppModel>(fakes.platform(), settings.preferences);
         model->setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     }
 

@@ -1,6 +1,6 @@
 #include "UI/Overview/OverviewView.h"
 
-#include "UI/Kit/TextLabel.h"
+#include "UI/Kit/IconButton.h"
 #include "UI/ModelFixture.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/GroupRow.h"
@@ -24,13 +24,7 @@ struct OverviewViewTest : ModelFixture {
     }
     void click(ProcGroup group) { QTest::mouseClick(header(group), Qt::LeftButton); }
     QStringList rows() { return shownNames<ProcessRow>(view); }
-    bool shows(const QString& text) {
-        for (const auto* label : view.findChildren<TextLabel*>()) {
-            if (label->isVisibleTo(&view) && label->text() == text)
-                return true;
-        }
-        return false;
-    }
+    bool shows(const QString& text) { return showsText(view, text); }
 };
 
 } // namespace
@@ -110,4 +104,43 @@ TEST_F(OverviewViewTest, HiddenItDoesNoWorkAndShownItCatchesUp) {
 TEST_F(OverviewViewTest, NothingIsShownOfGroupsBeforeTheFirstTick) {
     view.show();
     EXPECT_TRUE(shownNames<GroupRow>(view).isEmpty());
+}
+
+TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
+    addProcesses(1, "chrome", 20);
+    addProcesses(1, "chromium", 10);
+    show();
+    click(ProcGroup::browsers);
+    const auto buttons = view.findChildren<ProcessRow*>().at(0)->findChildren<IconButton*>();
+    QTest::mouseClick(buttons[0], Qt::LeftButton);
+    EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
+    EXPECT_EQ(buttons[1]->toolTip(), QStringLiteral("Force kill (SIGKILL)"));
+
+    QTest::mousePress(buttons[1], Qt::LeftButton);
+    fakes.processes->processes[101].task->residentBytes = 30; // takes the first row's place
+    tick();
+    QTest::mouseRelease(buttons[1], Qt::LeftButton);
+    EXPECT_EQ(fakes.signalSender->sent().last(), (FakeSignals::Sent{100, Signal::kill, 1}));
+
+    fakes.signalSender->end(101);
+    QTest::mouseClick(buttons[1], Qt::LeftButton);
+    EXPECT_EQ(logged(),
+              (QStringList{QStringLiteral("forceKill pid=101 fail"), QStringLiteral("forceKill pid=100 ok"),
+                           QStringLiteral("quit pid=100 ok")}));
+}
+
+TEST_F(OverviewViewTest, AnAlertsQuitEndsTheProcessItNames) {
+    addProcesses(1, "claude", quint64(900) << 20);
+    show();
+    EXPECT_EQ(buttonNamed(view, QStringLiteral("Quit")), nullptr);
+    fakes.clock->advance(1000);
+    tick();
+    QTest::mouseClick(buttonNamed(view, QStringLiteral("Quit")), Qt::LeftButton);
+    EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
+    fakes.processes->remove(100);
+    QMetaObject::invokeMethod(&model, "tick"); // gone, but not yet off the screen
+    QTest::mouseClick(buttonNamed(view, QStringLiteral("Quit")), Qt::LeftButton);
+    EXPECT_EQ(fakes.signalSender->sent().size(), 1);
+    EXPECT_EQ(logged(),
+              (QStringList{QStringLiteral("quit pid=100 fail"), QStringLiteral("quit pid=100 ok")}));
 }

@@ -7,6 +7,7 @@
 #include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
+#include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
@@ -18,6 +19,7 @@
 #include <QEnterEvent>
 #include <QFontDatabase>
 #include <QPainter>
+#include <QTest>
 
 #include <cmath>
 #include <cstdio>
@@ -64,7 +66,8 @@ struct Stage {
                 fakes.processes->add(pid,
                                      {.task = TaskInfo{.residentBytes = actor.memory - i * actor.memory / 40},
                                       .path = actor.path,
-                                      .name = actor.name});
+                                      .name = actor.name,
+                                      .info = KernelProcessInfo{.uid = fakes.identity->uid}});
             }
         }
         fakes.host->physical = 16 * GiB;
@@ -143,6 +146,24 @@ void shootOverview(Camera& camera) {
     camera.take(busy, QStringLiteral("overview-alerts"));
     busy.resize(1600, 1000);
     camera.take(busy, QStringLiteral("overview-alerts-large"));
+}
+
+void shootFreeRAM(Camera& camera) {
+    Stage stage;
+    stage.play(150, 24, 13.1);
+    stage.fakes.clock->advance(1500);
+    stage.play(1, 24, 13.1);
+    stage.model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+    auto* sheet = new FreeRAMSheet(stage.model, nullptr);
+    camera.take(*sheet, QStringLiteral("free-ram"));
+    stage.fakes.host->memory->active -= 900 * MiB / 4096;
+    QTest::keyClick(sheet, Qt::Key_Return);
+    QTest::qWait(50);
+    camera.take(*sheet, QStringLiteral("free-ram-result"));
+    stage.fakes.processes->listing.clear();
+    stage.play(1, 24, 13.1);
+    camera.take(*sheet, QStringLiteral("free-ram-empty"));
+    delete sheet;
 }
 
 void shootPanels(Camera& camera) {
@@ -231,6 +252,7 @@ int main(int argc, char** argv) {
         QApplication::setFont(QFont(QStringLiteral("Inter"), 10));
     Camera camera(QString::fromLocal8Bit(argv[1]));
     shootOverview(camera);
+    shootFreeRAM(camera);
     shootPanels(camera);
     shootSheets(camera);
     return camera.failed() ? 1 : 0;

@@ -7,6 +7,8 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
+#include "support/FakeSignals.h"
+#include "support/ScriptedTools.h"
 
 #include <QHash>
 
@@ -116,8 +118,16 @@ struct FakePlatform {
     std::shared_ptr<FakePowerMode> power = std::make_shared<FakePowerMode>();
     std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
+    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
+    std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
 
     Platform platform() const {
-        return {.host = host, .processes = processes, .power = power, .identity = identity, .clock = clock};
+        return {.host = host,
+                .processes = processes,
+                .power = power,
+                .identity = identity,
+                .clock = clock,
+                .tools = tools,
+                .signalSender = signalSender};
     }
 };

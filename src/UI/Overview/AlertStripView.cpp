@@ -1,6 +1,7 @@
 #include "UI/Overview/AlertStripView.h"
 
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/Severity.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
@@ -26,7 +27,11 @@ AlertCard::AlertCard(QWidget* parent)
     : QWidget(parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
     , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
-    , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped()) {
+    , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
+    , m_quit(new PushButton(QStringLiteral("Quit"), PushButton::Look::prominent)) {
+    m_quit->setSmall();
+    connect(m_quit, &QPushButton::pressed, this, [this] { m_pressedPid = m_actionPid; });
+    connect(m_quit, &QPushButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressedPid); });
     auto* texts = new QVBoxLayout;
     texts->setSpacing(Theme::textGap);
     texts->addWidget(m_title);
@@ -34,6 +39,7 @@ AlertCard::AlertCard(QWidget* parent)
     auto* row = cardLayout(this);
     row->addWidget(m_symbol, 0, Qt::AlignTop);
     row->addLayout(texts, 1);
+    row->addWidget(m_quit, 0, Qt::AlignVCenter);
 }
 
 void AlertCard::set(const Alert& alert) {
@@ -42,6 +48,8 @@ void AlertCard::set(const Alert& alert) {
     m_title->setPlainText(alert.title);
     m_detail->setPlainText(alert.detail);
     m_detail->setVisible(!alert.detail.isEmpty());
+    m_actionPid = alert.actionPid.value_or(0);
+    m_quit->setVisible(alert.actionPid.has_value());
     setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_detail->text()));
     update();
 }
@@ -85,6 +93,7 @@ void AlertStripView::set(const QList<Alert>& alerts) {
     while (m_cards.size() < alerts.size()) {
         m_cards.append(new AlertCard);
         m_column->addWidget(m_cards.last());
+        connect(m_cards.last(), &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
     }
     while (m_cards.size() > alerts.size())
         delete m_cards.takeLast();

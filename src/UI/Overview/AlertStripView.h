@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class PushButton;
 class QVBoxLayout;
 class SymbolView;
 class TextLabel;
@@ -17,6 +18,10 @@ public:
 
     void set(const Alert& alert);
 
+Q_SIGNALS:
+    /// For the process that the alert named when the button was pressed.
+    void quitRequested(qint32 pid);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -25,6 +30,9 @@ private:
     SymbolView* m_symbol;
     TextLabel* m_title;
     TextLabel* m_detail;
+    PushButton* m_quit;
+    qint32 m_actionPid = 0;
+    qint32 m_pressedPid = 0;
 };
 
 /// What is shown while nothing is wrong.
@@ -46,6 +54,9 @@ public:
     explicit AlertStripView(QWidget* parent = nullptr);
 
     void set(const QList<Alert>& alerts);
+
+Q_SIGNALS:
+    void quitRequested(qint32 pid);
 
 private:
     QVBoxLayout* m_column;

@@ -164,6 +164,8 @@ void GroupRow::showMembers(const QList<ProcSample>& members) {
     while (m_rows.size() < shown) {
         m_rows.append(new ProcessRow);
         m_rowsLayout->addWidget(m_rows.last());
+        connect(m_rows.last(), &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
+        connect(m_rows.last(), &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
     }
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
         if (i < shown)

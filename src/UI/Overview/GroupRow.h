@@ -24,6 +24,8 @@ public:
 
 Q_SIGNALS:
     void toggled();
+    void quitRequested(const ProcSample& process);
+    void forceKillRequested(const ProcSample& process);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -3,9 +3,11 @@
 #include "AppModel.h"
 #include "Core/Observe.h"
 #include "UI/Kit/OnScreen.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/AlertStripView.h"
+#include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
 #include "UI/Overview/MetricTile.h"
 
@@ -32,7 +34,7 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(Theme::pageSpacing);
-    column->addWidget(heading(QStringLiteral("Live")));
+    column->addLayout(makeHeader());
     column->addWidget(m_alerts);
     column->addLayout(makeTiles());
     column->addLayout(makeGroups());
@@ -44,7 +46,23 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     SlimScrollBar::install(this);
     setAccessibleName(QStringLiteral("Overview"));
 
+    connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);
     observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* OverviewView::makeHeader() {
+    auto* freeRAM =
+        new PushButton(QStringLiteral("Free RAM"), PushButton::Look::normal, QStringLiteral("memorychip"));
+    auto* widget = new PushButton(QStringLiteral("Floating Widget"), PushButton::Look::normal,
+                                  QStringLiteral("rectangle.on.rectangle"));
+    connect(freeRAM, &QPushButton::clicked, this, [this] { (new FreeRAMSheet(m_model, window()))->open(); });
+    connect(widget, &QPushButton::clicked, this, &OverviewView::widgetToggled);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    row->addWidget(heading(QStringLiteral("Live")), 1);
+    row->addWidget(freeRAM);
+    row->addWidget(widget);
+    return row;
 }
 
 QLayout* OverviewView::makeTiles() {
@@ -65,6 +83,8 @@ QLayout* OverviewView::makeGroups() {
         auto* row = new GroupRow(group);
         row->hide();
         connect(row, &GroupRow::toggled, this, [this, group] { toggle(group); });
+        connect(row, &GroupRow::quitRequested, &m_model, &AppModel::quitProcess);
+        connect(row, &GroupRow::forceKillRequested, &m_model, &AppModel::forceKillProcess);
         column->addWidget(row);
         m_groupRows.append(row);
     }
@@ -112,6 +132,13 @@ QList<ProcSample> OverviewView::members(ProcGroup group) const {
             result.append(process);
     }
     return result;
+}
+
+void OverviewView::quitAlerted(qint32 pid) {
+    ProcSample named;
+    named.pid = pid;
+    const ProcSample* process = m_model.process(pid);
+    m_model.quitProcess(process ? *process : named);
 }
 
 void OverviewView::toggle(ProcGroup group) {

@@ -19,16 +19,21 @@ class OverviewView : public QScrollArea {
 public:
     explicit OverviewView(AppModel& model, QWidget* parent = nullptr);
 
+Q_SIGNALS:
+    void widgetToggled();
+
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QLayout* makeHeader();
     QLayout* makeTiles();
     QLayout* makeGroups();
     void refresh();
     void refreshTiles();
     void refreshGroups();
     void toggle(ProcGroup group);
+    void quitAlerted(qint32 pid);
     QList<ProcSample> members(ProcGroup group) const;
 
     AppModel& m_model;

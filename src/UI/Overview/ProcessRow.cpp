@@ -1,8 +1,10 @@
 #include "UI/Overview/ProcessRow.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
 
+#include <QHBoxLayout>
 #include <QPainter>
 
 using Theme::Role;
@@ -20,22 +22,43 @@ constexpr int memoryWidth = 80;
 ProcessRow::ProcessRow(QWidget* parent)
     : QWidget(parent) {
     setFixedHeight(rowHeight);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, Theme::cardPadding, 0);
+    row->setSpacing(Theme::textGap);
+    row->addStretch();
+    auto* quit = addButton(QStringLiteral("stop.circle"), QStringLiteral("Quit (SIGTERM)"),
+                           Role::secondaryText, &ProcessRow::quitRequested);
+    auto* kill = addButton(QStringLiteral("xmark.octagon"), QStringLiteral("Force kill (SIGKILL)"), Role::red,
+                           &ProcessRow::forceKillRequested);
+    row->addWidget(quit);
+    row->addWidget(kill);
+    m_buttonsWidth = quit->width() + kill->width() + row->spacing();
+}
+
+IconButton* ProcessRow::addButton(const QString& symbol, const QString& help, Role tint,
+                                  void (ProcessRow::*request)(const ProcSample&)) {
+    auto* button = new IconButton(symbol, help, tint);
+    connect(button, &IconButton::pressed, this, [this] { m_pressed = m_process; });
+    connect(button, &IconButton::clicked, this, [this, request] { Q_EMIT(this->*request)(m_pressed); });
+    return button;
 }
 
 void ProcessRow::set(const ProcSample& process) {
     const QString name = Formatters::visible(process.name);
     const QString cpu = Formatters::percent(process.cpuPercent);
     const QString memory = Formatters::bytes(process.rssBytes);
-    if (m_pid == process.pid && m_name == name && m_cpu == cpu && m_memory == memory)
+    const bool isSame = m_process.pid == process.pid;
+    m_process = process;
+    if (isSame && m_name == name && m_cpu == cpu && m_memory == memory)
         return;
-    m_pid = process.pid;
     m_name = name;
     m_cpu = cpu;
     m_memory = memory;
     setToolTip(process.executablePath.isEmpty()
                    ? QString()
                    : Formatters::visible(process.executablePath).toHtmlEscaped());
-    setAccessibleName(QStringLiteral("%1 %2, CPU %3, memory %4").arg(m_pid).arg(m_name, m_cpu, m_memory));
+    setAccessibleName(
+        QStringLiteral("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
     update();
 }
 
@@ -48,13 +71,14 @@ void ProcessRow::paintEvent(QPaintEvent*) {
         line.setRight(cell.left() - Theme::rowSpacing);
         return cell;
     };
+    takeRight(m_buttonsWidth);
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(Theme::color(Role::primaryText));
     Painting::drawTabular(painter, takeRight(memoryWidth), Qt::AlignRight, m_memory);
     Painting::drawTabular(painter, takeRight(cpuWidth), Qt::AlignRight, m_cpu);
 
     painter.setPen(Theme::color(Role::secondaryText));
-    Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_pid));
+    Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_process.pid));
 
     line.setLeft(line.left() + pidWidth);
     painter.setFont(Theme::font(TextStyle::callout));

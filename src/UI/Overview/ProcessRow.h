@@ -1,10 +1,14 @@
 #pragma once
 
 #include "Core/Models.h"
+#include "UI/Kit/Theme.h"
 
 #include <QWidget>
 
-/// One member of an open group: id, name, CPU share and memory.
+class IconButton;
+
+/// One member of an open group: id, name, CPU share and memory, and the buttons that end it. They mean the
+/// process that was shown when they were pressed.
 class ProcessRow : public QWidget {
     Q_OBJECT
 
@@ -13,12 +17,21 @@ public:
 
     void set(const ProcSample& process);
 
+Q_SIGNALS:
+    void quitRequested(const ProcSample& process);
+    void forceKillRequested(const ProcSample& process);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    qint32 m_pid = 0;
+    IconButton* addButton(const QString& symbol, const QString& help, Theme::Role tint,
+                          void (ProcessRow::*request)(const ProcSample&));
+
+    ProcSample m_process;
+    ProcSample m_pressed;
     QString m_name;
     QString m_cpu;
     QString m_memory;
+    int m_buttonsWidth = 0;
 };

@@ -1,0 +1,104 @@
+#include "UI/Overview/CandidateRow.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int rowHeight = 42;
+constexpr int boxSide = 16;
+constexpr int bytesWidth = 72;
+constexpr int idleWidth = 52;
+constexpr double tickedOpacity = 0.12;
+
+QString details(const FreeRamPreview& candidate) {
+    return QStringLiteral("PID %1 • %2").arg(candidate.pid).arg(rawValue(candidate.group));
+}
+
+} // namespace
+
+CandidateRow::CandidateRow(QWidget* parent)
+    : QAbstractButton(parent) {
+    setCheckable(true);
+    setFixedHeight(rowHeight);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &CandidateRow::pressed, this, [this] { m_pressedPid = m_candidate.pid; });
+    connect(this, &CandidateRow::clicked, this, [this] { Q_EMIT ticked(m_pressedPid); });
+}
+
+QSize CandidateRow::sizeHint() const {
+    return {400, rowHeight};
+}
+
+void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
+    setChecked(isTicked);
+    if (candidate == m_candidate)
+        return;
+    m_candidate = candidate;
+    setAccessibleName(QStringLiteral("%1, %2, %3, idle %4")
+                          .arg(Formatters::visible(candidate.name), details(candidate),
+                               Formatters::bytes(candidate.rssBytes),
+                               Formatters::duration(candidate.idleSeconds)));
+    update();
+}
+
+void CandidateRow::drawTick(QPainter& painter, const QRectF& area) const {
+    if (!isChecked()) {
+        Painting::drawCard(painter, area, 4, Theme::color(Role::cardFill), Theme::color(Role::gray));
+        return;
+    }
+    Painting::drawCard(painter, area, 4, Theme::tileColor(Role::accent), Qt::transparent);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF corner = area.topLeft();
+    const QPointF mark[] = {corner + QPointF(4, 8.5), corner + QPointF(7, 11.5), corner + QPointF(12, 5)};
+    painter.drawPolyline(mark, 3);
+    painter.restore();
+}
+
+void CandidateRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRectF ground = QRectF(rect()).adjusted(0, 1, 0, -1);
+    if (isChecked())
+        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::accent, tickedOpacity),
+                           Qt::transparent);
+    if (underMouse())
+        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::hoverFill),
+                           Qt::transparent);
+    if (hasFocus())
+        Painting::drawFocusRing(painter, ground, Theme::controlRadius);
+
+    QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
+    drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
+    line.setLeft(line.left() + boxSide + 10);
+    const auto takeRight = [&line](double width) {
+        QRectF cell = line;
+        cell.setLeft(line.right() - width);
+        line.setRight(cell.left() - Theme::rowSpacing);
+        return cell;
+    };
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawTabular(painter, takeRight(idleWidth), Qt::AlignRight,
+                          Formatters::duration(m_candidate.idleSeconds));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+                          Formatters::bytes(m_candidate.rssBytes));
+
+    QRectF upper = line.adjusted(0, 4, 0, -line.height() / 2 + 1);
+    painter.setFont(Theme::font(TextStyle::body));
+    Painting::drawElided(painter, upper, Qt::ElideMiddle, Formatters::visible(m_candidate.name));
+    painter.setFont(Theme::font(TextStyle::caption2));
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawElided(painter, line.adjusted(0, line.height() / 2, 0, -5), Qt::ElideRight,
+                         details(m_candidate));
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Core/FreeRAM.h"
+
+#include <QAbstractButton>
+
+/// One process that could be ended, with a tick. A press anywhere on it ticks the process that was shown
+/// when it was pressed.
+class CandidateRow : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit CandidateRow(QWidget* parent = nullptr);
+
+    void set(const FreeRamPreview& candidate, bool isTicked);
+    const FreeRamPreview& candidate() const { return m_candidate; }
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void ticked(qint32 pid);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawTick(QPainter& painter, const QRectF& area) const;
+
+    FreeRamPreview m_candidate;
+    qint32 m_pressedPid = 0;
+};

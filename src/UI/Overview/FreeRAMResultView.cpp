@@ -1,0 +1,133 @@
+#include "UI/Overview/FreeRAMResultView.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int rowHeight = 22;
+constexpr int mostRowsShown = 5;
+
+struct Look {
+    QString symbol;
+    Role role;
+    QString text;
+};
+
+Look lookOf(KillOutcome outcome) {
+    switch (outcome) {
+    case KillOutcome::quit:
+        return {QStringLiteral("checkmark.circle.fill"), Role::green, QStringLiteral("Quit")};
+    case KillOutcome::forced:
+        return {QStringLiteral("bolt.fill"), Role::orange, QStringLiteral("Force-killed")};
+    case KillOutcome::ignored:
+        return {QStringLiteral("questionmark.circle.fill"), Role::yellow,
+                QStringLiteral("Ignored SIGTERM/KILL")};
+    case KillOutcome::denied:
+        return {QStringLiteral("lock.fill"), Role::red, QStringLiteral("Permission denied")};
+    }
+    return {};
+}
+
+/// One process: symbol, name, id and outcome.
+class OutcomeRow : public QWidget {
+public:
+    explicit OutcomeRow(const FreeRAMResult::Record& record)
+        : m_look(lookOf(record.outcome))
+        , m_name(Formatters::visible(record.name))
+        , m_id(QStringLiteral("(%1)").arg(record.pid)) {
+        setFixedHeight(rowHeight);
+        setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_id, m_look.text));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QRectF line = rect();
+        Symbols::draw(painter, m_look.symbol, Theme::color(m_look.role),
+                      QRectF(0, 0, Theme::iconColumn, height()), 14);
+        line.setLeft(Theme::iconColumn + 4);
+        painter.setFont(Theme::font(TextStyle::caption, QFont::Medium));
+        painter.setPen(Theme::color(m_look.role));
+        const double outcomeWidth = QFontMetricsF(painter.font()).horizontalAdvance(m_look.text);
+        Painting::drawElided(painter, QRectF(line.right() - outcomeWidth - 1, 0, outcomeWidth + 1, height()),
+                             Qt::ElideRight, m_look.text);
+        painter.setFont(Theme::font(TextStyle::caption));
+        painter.setPen(Theme::color(Role::primaryText));
+        const QFontMetricsF metrics(painter.font());
+        const double idWidth = metrics.horizontalAdvance(m_id) + Theme::rowSpacing;
+        line.setRight(line.right() - outcomeWidth - Theme::rowSpacing - idWidth);
+        const QString name = metrics.elidedText(m_name, Qt::ElideMiddle, line.width());
+        Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
+        painter.setFont(Theme::font(TextStyle::caption2));
+        painter.setPen(Theme::color(Role::secondaryText));
+        line.setLeft(line.left() + metrics.horizontalAdvance(name) + 6);
+        line.setRight(line.left() + idWidth);
+        Painting::drawTabular(painter, line, Qt::AlignLeft, m_id);
+    }
+
+private:
+    Look m_look;
+    QString m_name;
+    QString m_id;
+};
+
+} // namespace
+
+FreeRAMResultView::FreeRAMResultView(QWidget* parent)
+    : Card(parent, Role::green)
+    , m_freed(new TextLabel(TextStyle::body, QFont::DemiBold))
+    , m_nudged((new TextLabel(TextStyle::caption))->secondary())
+    , m_area(new QScrollArea) {
+    auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
+    symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
+    m_nudged->setPlainText(QStringLiteral("• memory_pressure nudged"));
+    auto* head = new QHBoxLayout;
+    head->setSpacing(6);
+    head->addWidget(symbol);
+    head->addWidget(m_freed);
+    head->addWidget(m_nudged);
+    head->addStretch();
+
+    auto* rows = new QWidget;
+    m_rowsLayout = new QVBoxLayout(rows);
+    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
+    m_rowsLayout->setSpacing(0);
+    m_area->setWidget(rows);
+    m_area->setWidgetResizable(true);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->viewport()->setAutoFillBackground(false);
+    rows->setAutoFillBackground(false);
+    SlimScrollBar::install(m_area);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::cardPadding, 10, Theme::cardPadding, 10);
+    column->setSpacing(4);
+    column->addLayout(head);
+    column->addWidget(m_area);
+}
+
+void FreeRAMResultView::set(const FreeRAMResult& result) {
+    m_freed->setPlainText(QStringLiteral("Freed ~%1").arg(Formatters::bytes(result.freedBytes)));
+    m_nudged->setVisible(result.memoryPressureSignaled);
+    qDeleteAll(m_rows);
+    m_rows.clear();
+    for (const FreeRAMResult::Record& record : result.perPid) {
+        m_rows.append(new OutcomeRow(record));
+        m_rowsLayout->addWidget(m_rows.last());
+    }
+    const auto shown = std::min<qsizetype>(m_rows.size(), mostRowsShown);
+    m_area->setFixedHeight(static_cast<int>(shown) * rowHeight);
+    m_area->setVisible(!m_rows.isEmpty());
+}

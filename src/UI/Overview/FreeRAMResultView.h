@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Core/FreeRAM.h"
+#include "UI/Kit/Card.h"
+
+class PanelRow;
+class QScrollArea;
+class QVBoxLayout;
+class TextLabel;
+
+/// What a run freed, and what became of each process.
+class FreeRAMResultView : public Card {
+    Q_OBJECT
+
+public:
+    explicit FreeRAMResultView(QWidget* parent = nullptr);
+
+    void set(const FreeRAMResult& result);
+
+private:
+    TextLabel* m_freed;
+    TextLabel* m_nudged;
+    QScrollArea* m_area;
+    QVBoxLayout* m_rowsLayout;
+    QList<QWidget*> m_rows;
+};

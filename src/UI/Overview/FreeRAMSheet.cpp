@@ -1,0 +1,230 @@
+#include "UI/Overview/FreeRAMSheet.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+#include "Core/Observe.h"
+#include "UI/Kit/Divider.h"
+#include "UI/Kit/EmptyState.h"
+#include "UI/Kit/PushButton.h"
+#include "UI/Kit/Slider.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/TextLabel.h"
+#include "UI/Overview/CandidateRow.h"
+#include "UI/Overview/FreeRAMResultView.h"
+
+#include <QCoroTask>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QScrollArea>
+#include <QStackedWidget>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr QSize sheetSize(560, 660);
+constexpr double initialMinIdle = 10; // minutes
+constexpr double initialMinRSS = 300; // MiB
+constexpr int sliderWidth = 200;
+constexpr qsizetype preselected = 5;
+
+} // namespace
+
+FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
+    : QDialog(parent)
+    , m_model(model)
+    , m_minIdle(new LabeledSlider(QStringLiteral("Min idle: "), QStringLiteral(" min"), {0, 60, 1},
+                                  initialMinIdle, sliderWidth))
+    , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM: "), QStringLiteral(" MB"), {50, 2000, 50},
+                                 initialMinRSS, sliderWidth))
+    , m_stack(new QStackedWidget)
+    , m_selectAll(new PushButton(QStringLiteral("Select all")))
+    , m_clear(new PushButton(QStringLiteral("Clear")))
+    , m_count(new TextLabel(TextStyle::callout))
+    , m_result(new FreeRAMResultView)
+    , m_action(new PushButton(QString(), PushButton::Look::prominent)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(QStringLiteral("Free RAM"));
+    resize(sheetSize);
+
+    auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
+    title->setPlainText(windowTitle());
+    auto* close = new PushButton(QStringLiteral("Close"));
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    auto* header = new QHBoxLayout;
+    header->addWidget(title, 1);
+    header->addWidget(close);
+
+    auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
+    explanation->setPlainText(QStringLiteral(
+        "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 s "
+        "gets SIGKILL. macOS is then nudged with a memory-pressure hint to compress inactive pages."));
+
+    auto* thresholds = new QHBoxLayout;
+    thresholds->setSpacing(Theme::pageSpacing);
+    for (LabeledSlider* slider : {m_minIdle, m_minRSS}) {
+        thresholds->addWidget(slider);
+        connect(slider, &LabeledSlider::valueChanged, this, &FreeRAMSheet::refresh);
+    }
+    thresholds->addStretch();
+
+    auto* foot = new QHBoxLayout;
+    foot->addStretch();
+    foot->addWidget(m_action);
+    connect(m_action, &QPushButton::clicked, this, &FreeRAMSheet::start);
+    m_action->setDefault(true);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
+                               Theme::pagePadding);
+    column->setSpacing(12);
+    column->addLayout(header);
+    column->addWidget(explanation);
+    column->addLayout(thresholds);
+    column->addWidget(new Divider);
+    column->addWidget(makeList(), 1);
+    column->addWidget(new Divider);
+    column->addLayout(makeSelectionBar());
+    column->addWidget(m_result);
+    column->addLayout(foot);
+    m_result->hide();
+
+    preselect();
+    refresh();
+    m_action->setFocus();
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+QWidget* FreeRAMSheet::makeList() {
+    auto* rows = new QWidget;
+    m_rowsLayout = new QVBoxLayout(rows);
+    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
+    m_rowsLayout->setSpacing(0);
+    m_rowsLayout->addStretch();
+    auto* area = new QScrollArea;
+    area->setWidget(rows);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setAccessibleName(QStringLiteral("Processes"));
+    SlimScrollBar::install(area);
+    m_stack->addWidget(area);
+    m_stack->addWidget(new EmptyState(
+        QStringLiteral("checkmark.circle"), QStringLiteral("No idle hogs above your thresholds"),
+        QStringLiteral("Lower the Min idle slider to see lightly-used processes.")));
+    return m_stack;
+}
+
+QLayout* FreeRAMSheet::makeSelectionBar() {
+    auto* bar = new QHBoxLayout;
+    bar->setSpacing(Theme::rowSpacing);
+    bar->addWidget(m_selectAll);
+    bar->addWidget(m_clear);
+    bar->addStretch();
+    bar->addWidget(m_count);
+    connect(m_selectAll, &QPushButton::clicked, this, &FreeRAMSheet::tickAll);
+    connect(m_clear, &QPushButton::clicked, this, &FreeRAMSheet::clear);
+    return bar;
+}
+
+void FreeRAMSheet::preselect() {
+    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    for (const FreeRamPreview& candidate : m_candidates.mid(0, preselected))
+        m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
+}
+
+void FreeRAMSheet::refresh() {
+    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    forgetEnded();
+    refreshRows();
+    refreshButtons();
+}
+
+/// A tick is for one process; it must not pass on to another that gets its id.
+void FreeRAMSheet::forgetEnded() {
+    m_selected.removeIf([this](const auto& ticked) {
+        const ProcSample* process = m_model.process(ticked.key());
+        return !process || process->startTime != ticked.value();
+    });
+}
+
+void FreeRAMSheet::refreshRows() {
+    while (m_rows.size() < m_candidates.size()) {
+        m_rows.append(new CandidateRow);
+        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, m_rows.last());
+        connect(m_rows.last(), &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
+    }
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        const bool isUsed = i < m_candidates.size();
+        if (isUsed)
+            m_rows[i]->set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
+        m_rows[i]->setVisible(isUsed);
+    }
+    m_stack->setCurrentIndex(m_candidates.isEmpty() ? 1 : 0);
+}
+
+void FreeRAMSheet::refreshButtons() {
+    const qsizetype count = m_selected.size();
+    m_selectAll->setEnabled(!m_candidates.isEmpty());
+    m_clear->setEnabled(count > 0);
+    m_count->setPlainText(
+        QStringLiteral("%1 selected • %2 targeted").arg(count).arg(Formatters::bytes(selectedRAM())));
+
+    m_action->setBusy(m_running);
+    m_action->setEnabled(!m_running);
+    m_action->setTint(count > 0 ? Role::red : Role::blue);
+    m_action->setSymbol(count > 0 ? QStringLiteral("memorychip") : QStringLiteral("wind"));
+    if (m_running)
+        m_action->setText(QStringLiteral("Killing…"));
+    else if (count > 0)
+        m_action->setText(QStringLiteral("Kill %1 and free RAM").arg(count));
+    else
+        m_action->setText(QStringLiteral("Send memory pressure only"));
+}
+
+quint64 FreeRAMSheet::selectedRAM() const {
+    quint64 total = 0;
+    for (const FreeRamPreview& candidate : m_candidates)
+        total += m_selected.contains(candidate.pid) ? candidate.rssBytes : 0;
+    return total;
+}
+
+void FreeRAMSheet::toggle(qint32 pid) {
+    const ProcSample* process = m_model.process(pid);
+    if (!m_selected.remove(pid) && process)
+        m_selected.insert(pid, process->startTime);
+    refresh();
+}
+
+void FreeRAMSheet::tickAll() {
+    for (const FreeRamPreview& candidate : std::as_const(m_candidates))
+        m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
+    refresh();
+}
+
+void FreeRAMSheet::clear() {
+    m_selected.clear();
+    refresh();
+}
+
+void FreeRAMSheet::start() {
+    if (m_running)
+        return;
+    m_running = true;
+    m_result->hide();
+    refresh();
+    m_model.freeRAM(m_selected.keys())
+        .then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
+            if (self)
+                self->finish(result);
+        });
+}
+
+void FreeRAMSheet::finish(const FreeRAMResult& result) {
+    m_running = false;
+    m_result->set(result);
+    m_result->show();
+    refresh();
+}

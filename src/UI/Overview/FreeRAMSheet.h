@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Core/FreeRAM.h"
+#include "Platform/Clock.h"
+
+#include <QDialog>
+#include <QHash>
+
+#include <optional>
+
+class AppModel;
+class CandidateRow;
+class EmptyState;
+class FreeRAMResultView;
+class LabeledSlider;
+class PushButton;
+class QLabel;
+class QStackedWidget;
+class QVBoxLayout;
+class TextLabel;
+
+/// Lets the user tick idle processes that hold much memory, ends the ticked ones and shows what became of
+/// each. Modal over its window; gone once it is closed.
+class FreeRAMSheet : public QDialog {
+    Q_OBJECT
+
+public:
+    FreeRAMSheet(AppModel& model, QWidget* parent);
+
+private:
+    QWidget* makeList();
+    QLayout* makeSelectionBar();
+    void preselect();
+    void refresh();
+    void refreshRows();
+    void refreshButtons();
+    void forgetEnded();
+    void toggle(qint32 pid);
+    void tickAll();
+    void clear();
+    void start();
+    void finish(const FreeRAMResult& result);
+    quint64 selectedRAM() const;
+
+    AppModel& m_model;
+    QList<FreeRamPreview> m_candidates;
+    /// Ticked processes by id, each with its start, which tells it from a later one with the same id.
+    QHash<qint32, Instant> m_selected;
+    bool m_running = false;
+
+    LabeledSlider* m_minIdle;
+    LabeledSlider* m_minRSS;
+    QStackedWidget* m_stack;
+    QVBoxLayout* m_rowsLayout = nullptr;
+    QList<CandidateRow*> m_rows;
+    PushButton* m_selectAll;
+    PushButton* m_clear;
+    TextLabel* m_count;
+    FreeRAMResultView* m_result;
+    PushButton* m_action;
+};

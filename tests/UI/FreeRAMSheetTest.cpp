@@ -1,0 +1,143 @@
+#include "UI/Overview/FreeRAMSheet.h"
+
+#include "UI/Kit/Slider.h"
+#include "UI/ModelFixture.h"
+#include "UI/Overview/CandidateRow.h"
+
+#include <QPointer>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint64 MiB = 1 << 20;
+
+struct FreeRAMSheetTest : ModelFixture {
+    QWidget window;
+    QPointer<FreeRAMSheet> sheet;
+
+    FreeRAMSheetTest() { model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
+    ~FreeRAMSheetTest() override { delete sheet; }
+
+    /// Agents of 400, 401, ... MiB, idle for 20 minutes.
+    void addIdle(int count) {
+        for (int i = 0; i < count; ++i)
+            addProcesses(1, "claude", static_cast<quint64>(400 + i) * MiB);
+        tick();
+        fakes.clock->advance(1200);
+        tick();
+    }
+    void open() {
+        sheet = new FreeRAMSheet(model, &window);
+        sheet->open();
+    }
+    QList<qint32> rows(bool tickedOnly) {
+        QList<qint32> pids;
+        for (const auto* row : sheet->findChildren<CandidateRow*>()) {
+            if (row->isVisibleTo(sheet) && (row->isChecked() || !tickedOnly))
+                pids.append(row->candidate().pid);
+        }
+        return pids;
+    }
+    void press(const QString& button) { QTest::mouseClick(buttonNamed(*sheet, button), Qt::LeftButton); }
+    CandidateRow* row(int index) { return sheet->findChildren<CandidateRow*>().at(index); }
+};
+
+} // namespace
+
+TEST_F(FreeRAMSheetTest, TicksTheFiveLargestOnce) {
+    addIdle(7);
+    open();
+    EXPECT_EQ(rows(false), (QList<qint32>{106, 105, 104, 103, 102, 101, 100}));
+    EXPECT_EQ(rows(true), (QList<qint32>{106, 105, 104, 103, 102}));
+    EXPECT_TRUE(showsText(*sheet, u"5 selected • 2 GB targeted"_s));
+    press(u"Clear"_s);
+    tick();
+    EXPECT_EQ(rows(true), QList<qint32>());
+    EXPECT_FALSE(buttonNamed(*sheet, u"Clear"_s)->isEnabled());
+    EXPECT_TRUE(buttonNamed(*sheet, u"Send memory pressure only"_s));
+    press(u"Select all"_s);
+    EXPECT_EQ(rows(true).size(), 7);
+    EXPECT_TRUE(buttonNamed(*sheet, u"Kill 7 and free RAM"_s));
+}
+
+TEST_F(FreeRAMSheetTest, ATickIsForTheProcessThatWasPressed) {
+    addIdle(2);
+    open();
+    press(u"Clear"_s);
+    QTest::mousePress(row(0), Qt::LeftButton);
+    fakes.processes->processes[100].task->residentBytes = 900 * MiB; // takes the first row
+    tick();
+    QTest::mouseRelease(row(0), Qt::LeftButton);
+    EXPECT_EQ(rows(false), (QList<qint32>{100, 101}));
+    EXPECT_EQ(rows(true), QList<qint32>{101});
+    QTest::keyClick(row(1), Qt::Key_Space);
+    EXPECT_EQ(rows(true), QList<qint32>());
+}
+
+TEST_F(FreeRAMSheetTest, FollowsTheModelAndTheSliders) {
+    addIdle(3);
+    open();
+    fakes.processes->processes[102].task->cpuTimeNs += 1'000'000'000;
+    fakes.clock->advance(1);
+    tick();
+    EXPECT_EQ(rows(false), (QList<qint32>{101, 100})); // 102 became busy
+    EXPECT_TRUE(showsText(*sheet, u"3 selected • 801 MB targeted"_s));
+    const auto sliders = sheet->findChildren<Slider*>();
+    QTest::keyClick(sliders[0], Qt::Key_Home);
+    EXPECT_TRUE(showsText(*sheet, u"Min idle: 0 min"_s));
+    EXPECT_EQ(rows(false), (QList<qint32>{102, 101, 100}));
+    QTest::keyClick(sliders[1], Qt::Key_End);
+    EXPECT_TRUE(showsText(*sheet, u"Min RAM: 2000 MB"_s));
+    EXPECT_TRUE(showsText(*sheet, u"No idle hogs above your thresholds"_s));
+    EXPECT_FALSE(buttonNamed(*sheet, u"Select all"_s)->isEnabled());
+    fakes.processes->remove(101);
+    tick();
+    EXPECT_TRUE(buttonNamed(*sheet, u"Kill 2 and free RAM"_s)); // no tick for one that has ended
+}
+
+TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
+    addIdle(4);
+    fakes.signalSender->start(100, {.endsOnTerminate = true});
+    fakes.signalSender->start(101, {.terminate = SignalResult::notPermitted});
+    fakes.signalSender->start(102, {.terminate = SignalResult::other, .kill = SignalResult::other});
+    open();
+    fakes.tools->held = true;
+    fakes.host->memory = MemoryPages{.active = 100, .wired = 30, .compressed = 20};
+    QTest::keyClick(sheet, Qt::Key_Return);
+    EXPECT_FALSE(buttonNamed(*sheet, u"Killing…"_s)->isEnabled());
+    QTest::keyClick(sheet, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.tools->release(u"warn"_s); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return showsText(*sheet, u"Freed ~400 KB"_s); }, 1000));
+    EXPECT_TRUE(showsText(*sheet, u"• memory_pressure nudged"_s));
+    QStringList outcomes = shownNames<QWidget>(*sheet).filter(u"claude ("_s);
+    outcomes.sort();
+    EXPECT_EQ(outcomes,
+              (QStringList{u"claude (100) Quit"_s, u"claude (101) Permission denied"_s,
+                           u"claude (102) Ignored SIGTERM/KILL"_s, u"claude (103) Force-killed"_s}));
+    EXPECT_EQ(logged().size(), 1);
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(sheet.isNull());
+}
+
+TEST_F(FreeRAMSheetTest, ClosedDuringARunItLeavesTheRunToFinish) {
+    addIdle(1);
+    open();
+    fakes.tools->held = true;
+    QTest::keyClick(sheet, Qt::Key_Return);
+    delete sheet;
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.tools->release(u"warn"_s); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return logged().size() == 1; }, 1000));
+}
+
+TEST_F(FreeRAMSheetTest, HostileNamesStayPlain) {
+    addProcesses(1, "<b>claude</b>\n", 500 * MiB);
+    tick();
+    fakes.clock->advance(1200);
+    tick();
+    open();
+    EXPECT_EQ(row(0)->accessibleName(),
+              u"<b>claude</b>\u240a, PID 100 • Claude Code & Agents, 500 MB, idle 20m"_s);
+}
