@@ -20,7 +20,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     m_model.start();
     menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
     applyActivationPolicy();
-    m_mainWindow = std::make_unique<MainWindow>(m_model);
+    m_mainWindow = std::make_unique<MainWindow>(m_model, m_preferences);
     QObject::connect(m_mainWindow.get(), &MainWindow::widgetToggled, m_mainWindow.get(),
                      [this] { m_widget.toggle(m_model); });
     m_mainWindow->show();

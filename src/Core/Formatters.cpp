@@ -67,6 +67,28 @@ QString bytes(quint64 count) {
     return QStringLiteral("%1 %2").arg(number, units[unit]);
 }
 
+QString ago(double seconds) {
+    struct Unit {
+        double seconds;
+        QStringView name;
+    };
+    constexpr std::array units = {Unit{365.0 * 86400, u"year"},
+                                  Unit{30.0 * 86400, u"month"},
+                                  Unit{7.0 * 86400, u"week"},
+                                  Unit{86400, u"day"},
+                                  Unit{3600, u"hour"},
+                                  Unit{60, u"minute"},
+                                  Unit{1, u"second"}};
+    for (const Unit& unit : units) {
+        if (!(seconds >= unit.seconds))
+            continue;
+        const auto count = static_cast<qint64>(seconds / unit.seconds);
+        const QString text = QStringLiteral("%1 %2").arg(count).arg(unit.name);
+        return (count == 1 ? text : text + u's') + QStringLiteral(" ago");
+    }
+    return QStringLiteral("just now");
+}
+
 QString percent(double value) {
     return fixed(std::isfinite(value) ? value : 0, 0) + u'%';
 }

@@ -11,6 +11,10 @@ QString duration(double seconds);
 /// Steps of 1,024 with at most one decimal, none when it is zero: "512 MB", "1.5 GB", "0 bytes".
 QString bytes(quint64 count);
 
+/// How long ago, in whole units: "5 minutes ago", "1 day ago"; "just now" below a second and for a time that
+/// is yet to come.
+QString ago(double seconds);
+
 /// A share of 100 as a whole number with its sign: "42%".
 QString percent(double value);
 

@@ -7,9 +7,9 @@
 #include <QCloseEvent>
 #include <QMenu>
 
-MainWindow::MainWindow(AppModel& model, QWidget* parent)
+MainWindow::MainWindow(AppModel& model, Preferences& preferences, QWidget* parent)
     : QMainWindow(parent)
-    , m_root(new RootView(model)) {
+    , m_root(new RootView(model, preferences)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class AppModel;
+class Preferences;
 class RootView;
 
 /// The window around RootView. Closing it only orders it out: the program goes on in the status area, and
@@ -11,7 +12,7 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit MainWindow(AppModel& model, QWidget* parent = nullptr);
+    MainWindow(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void widgetToggled();

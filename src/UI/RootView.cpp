@@ -1,9 +1,11 @@
 #include "UI/RootView.h"
 
+#include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/SidebarDelegate.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Kit/Theme.h"
+#include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
 
 #include <QEvent>
@@ -37,7 +39,7 @@ QString tabSymbol(RootView::Tab tab) {
     return {};
 }
 
-RootView::RootView(AppModel& model, QWidget* parent)
+RootView::RootView(AppModel& model, Preferences& preferences, QWidget* parent)
     : QWidget(parent)
     , m_sidebar(new QListWidget)
     , m_menuButton(new IconButton(QStringLiteral("gear"), QStringLiteral("Menu")))
@@ -79,6 +81,8 @@ RootView::RootView(AppModel& model, QWidget* parent)
     auto* overview = new OverviewView(model);
     connect(overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
     addSection(Tab::overview, overview);
+    addSection(Tab::optimize, new OptimizeView(model, preferences));
+    addSection(Tab::cleanup, new CleanupView(model));
     tintSidebar();
     select(Tab::overview);
 }

@@ -8,6 +8,7 @@
 
 class AppModel;
 class IconButton;
+class Preferences;
 class QListWidget;
 class QMenu;
 class QStackedWidget;
@@ -22,7 +23,7 @@ public:
 
     static constexpr QSize minimumContent{1000, 680};
 
-    explicit RootView(AppModel& model, QWidget* parent = nullptr);
+    RootView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
 
     Tab tab() const;
     void select(Tab tab);

@@ -24,6 +24,23 @@ TEST(Formatters, DurationChoosesItsBandBeforeRounding) {
         EXPECT_EQ(Formatters::duration(seconds).toStdString(), text) << seconds;
 }
 
+TEST(Formatters, AgoCountsWholeUnits) {
+    const std::pair<double, const char*> cases[] = {
+        {-10, "just now"},
+        {0.9, "just now"},
+        {1, "1 second ago"},
+        {59.9, "59 seconds ago"},
+        {60, "1 minute ago"},
+        {7199, "1 hour ago"},
+        {86400 * 6.9, "6 days ago"},
+        {86400 * 14, "2 weeks ago"},
+        {86400.0 * 800, "2 years ago"},
+        {std::numeric_limits<double>::quiet_NaN(), "just now"},
+    };
+    for (const auto& [seconds, text] : cases)
+        EXPECT_EQ(Formatters::ago(seconds).toStdString(), text) << seconds;
+}
+
 TEST(Formatters, BytesStepBy1024WithAtMostOneDecimal) {
     constexpr quint64 KiB = 1024;
     constexpr quint64 MiB = KiB * 1024;

@@ -12,7 +12,7 @@ using MainWindowTest = ModelFixture;
 } // namespace
 
 TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
-    MainWindow window(model);
+    MainWindow window(model, prefs);
     window.show();
     window.close();
     EXPECT_FALSE(window.isVisible());
@@ -24,7 +24,7 @@ TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
 }
 
 TEST_F(MainWindowTest, SidebarKeepsItsWidth) {
-    MainWindow window(model);
+    MainWindow window(model, prefs);
     window.resize(1600, 1000);
     window.show();
     const auto* sidebar = window.findChild<QListWidget*>();

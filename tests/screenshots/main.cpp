@@ -2,17 +2,26 @@
 // a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
 
 #include "AppModel.h"
+#include "UI/Cleanup/CacheCard.h"
+#include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/FigureIcon.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
+#include "UI/Optimize/OptimizeView.h"
+#include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/RootView.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakePlatform.h"
+#include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
+
+#include <QCoroTask>
 
 #include <QApplication>
 #include <QDir>
@@ -130,19 +139,86 @@ private:
     bool m_failed = false;
 };
 
+/// Du finds something in most caches; the deeper the catalogue, the less.
+void scriptCaches(Stage& stage) {
+    stage.fakes.tools->answer = [](const ToolRequest& request) {
+        if (request.launchPath != u"/usr/bin/du")
+            return ScriptedTools::exited(0);
+        const auto kib =
+            (qHash(request.arguments.last(), 7) % 9000) * (qHash(request.arguments.last(), 3) % 400);
+        return ScriptedTools::exited(0, QByteArray::number(static_cast<qulonglong>(kib)) + " x");
+    };
+}
+
+void addServers(Stage& stage) {
+    struct Server {
+        const char* package;
+        int megabytes;
+        qint32 parent;
+    };
+    qint32 pid = 40100;
+    for (const Server& server :
+         {Server{"@modelcontextprotocol/server-filesystem", 88, 812},
+          Server{"/home/ana/.local/share/uv/tools/mcp-server-git/bin/mcp-server-git", 142, 1},
+          Server{"@upstash/context7-mcp", 96, 1}}) {
+        stage.fakes.processes->add(
+            pid++, {.task = TaskInfo{.residentBytes = static_cast<quint64>(server.megabytes) * MiB},
+                    .name = "node",
+                    .arguments = QByteArray("node") + '\0' + server.package + '\0',
+                    .info = KernelProcessInfo{.uid = stage.fakes.identity->uid, .parentPid = server.parent}});
+    }
+}
+
+void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
+    auto* root = window.findChild<RootView*>();
+    root->select(RootView::Tab::optimize);
+    camera.take(window, QStringLiteral("optimize-quiet"));
+    root->select(RootView::Tab::cleanup);
+    camera.take(window, QStringLiteral("cleanup-unscanned"));
+
+    const TemporaryHome home;
+    for (const CacheTarget& target : CacheTarget::defaults()) {
+        for (const QString& path : target.paths)
+            stage.fakes.places->elsewhere[path] = {
+                home.makeFolder(QString(path)
+                                    .remove(QStringLiteral("~/"))
+                                    .replace(QStringLiteral("/tmp"), QStringLiteral("tmp")))};
+    }
+    scriptCaches(stage);
+    addServers(stage);
+    QCoro::waitFor(stage.model.rescanCaches());
+    stage.play(90, 24, 8.1);
+    camera.take(window, QStringLiteral("cleanup"));
+    window.findChildren<CacheCard*>().first()->click();
+    camera.take(*window.findChild<CacheDetailDrawer*>(), QStringLiteral("cleanup-drawer"));
+    window.findChild<CacheDetailDrawer*>()->findChildren<PushButton*>().last()->click();
+    camera.take(*window.findChild<ConfirmDialog*>(), QStringLiteral("cleanup-confirm"));
+    delete window.findChild<CacheDetailDrawer*>();
+    root->select(RootView::Tab::optimize);
+    stage.play(1, 24, 8.1);
+    camera.take(window, QStringLiteral("optimize"));
+    window.resize(1600, 1000);
+    window.findChild<OptimizeView*>()->findChildren<PresetTile*>().at(3)->click();
+    camera.take(window, QStringLiteral("optimize-large"));
+    root->select(RootView::Tab::cleanup);
+    camera.take(window, QStringLiteral("cleanup-large"));
+}
+
 void shootOverview(Camera& camera) {
     Stage calm;
     calm.play(150, 24, 8.1);
-    MainWindow window(calm.model);
+    MainWindow window(calm.model, calm.settings.preferences);
     camera.take(window, QStringLiteral("overview"));
     window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
     camera.take(window, QStringLiteral("overview-open-group"));
+
+    shootSections(camera, window, calm);
 
     Stage pressed;
     pressed.fakes.host->swap = 5 * GiB;
     pressed.fakes.host->thermal = 2;
     pressed.play(150, 92, 14.6);
-    MainWindow busy(pressed.model);
+    MainWindow busy(pressed.model, pressed.settings.preferences);
     camera.take(busy, QStringLiteral("overview-alerts"));
     busy.resize(1600, 1000);
     camera.take(busy, QStringLiteral("overview-alerts-large"));

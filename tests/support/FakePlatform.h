@@ -7,6 +7,7 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
+#include "support/FakePlaces.h"
 #include "support/FakeSignals.h"
 #include "support/ScriptedTools.h"
 
@@ -119,6 +120,7 @@ struct FakePlatform {
     std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
+    std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
 
     Platform platform() const {
@@ -128,6 +130,7 @@ struct FakePlatform {
                 .identity = identity,
                 .clock = clock,
                 .tools = tools,
+                .places = places,
                 .signalSender = signalSender};
     }
 };

@@ -127,6 +127,11 @@ void PushButton::paintEvent(QPaintEvent*) {
         area.setLeft(lead.right() + symbolGap);
     }
     Painting::drawTabular(painter, area, Qt::AlignLeft, text());
-    if (hasFocus())
+    if (!hasFocus())
+        return;
+    if (m_look == Look::prominent && isEnabled()) // the ring's own colour would drown in the fill
+        Painting::drawCard(painter, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
+                           Qt::transparent, QColor(255, 255, 255, 190));
+    else
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
 }

@@ -227,4 +227,5 @@ void FreeRAMSheet::finish(const FreeRAMResult& result) {
     m_result->set(result);
     m_result->show();
     refresh();
+    m_action->setFocus(); // lost while the button was disabled
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Core/Models.h"
+
+#include <QDialog>
+
+/// What one cleanup target consists of, and the button that cleans it after asking. It shows the target as
+/// it was when opened; gone once it is closed.
+class CacheDetailDrawer : public QDialog {
+    Q_OBJECT
+
+public:
+    CacheDetailDrawer(CacheTarget target, QWidget* parent);
+
+Q_SIGNALS:
+    void cleanRequested(const CacheTarget& target);
+
+private:
+    QLayout* makeHeader();
+    QWidget* makeBreakdown() const;
+    void confirm();
+
+    CacheTarget m_target;
+};

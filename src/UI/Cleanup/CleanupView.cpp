@@ -1,0 +1,202 @@
+#include "UI/Cleanup/CleanupView.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+#include "Core/Observe.h"
+#include "UI/Cleanup/CacheCard.h"
+#include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/FlowGrid.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/Spinner.h"
+#include "UI/Kit/TextLabel.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QScrollArea>
+
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int leastCardWidth = 220;
+constexpr int cardGap = 12;
+
+QString progressText(const QString& doing, const CleanupProgress& progress) {
+    return QStringLiteral("%1 %2 (%3 of %4)")
+        .arg(doing, progress.target)
+        .arg(progress.done)
+        .arg(progress.total);
+}
+
+} // namespace
+
+CleanupView::CleanupView(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_total((new TextLabel(TextStyle::callout))->secondary())
+    , m_result(new TextLabel(TextStyle::callout))
+    , m_rescan(new PushButton(QStringLiteral("Rescan"), PushButton::Look::normal,
+                              QStringLiteral("arrow.clockwise")))
+    , m_cleanAll(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
+                                QStringLiteral("trash.fill")))
+    , m_spinner(new Spinner)
+    , m_progress((new TextLabel(TextStyle::caption))->secondary()) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, Theme::pagePadding, 0, 0);
+    column->setSpacing(Theme::rowSpacing);
+    column->addLayout(makeHeader());
+    column->addLayout(makeProgress());
+    column->addWidget(makeGrid(), 1);
+    setAccessibleName(QStringLiteral("Cleanup"));
+    connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.rescanCaches(); });
+    connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* CleanupView::makeHeader() {
+    auto* title = new TextLabel(TextStyle::title3, QFont::Bold);
+    title->setPlainText(QStringLiteral("Cleanup targets"));
+    m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    line->addWidget(m_total);
+    line->addWidget(m_result, 1);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(Theme::textGap);
+    texts->addWidget(title);
+    texts->addLayout(line);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
+    row->setSpacing(Theme::rowSpacing);
+    row->addLayout(texts, 1);
+    row->addWidget(m_rescan);
+    row->addWidget(m_cleanAll);
+    m_cleanAll->setTint(Theme::Role::red);
+    return row;
+}
+
+/// Keeps its room while nothing is done, so that the cards do not jump.
+QLayout* CleanupView::makeProgress() {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
+    row->setSpacing(6);
+    for (QWidget* part : {static_cast<QWidget*>(m_spinner), static_cast<QWidget*>(m_progress)}) {
+        QSizePolicy policy = part->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        part->setSizePolicy(policy);
+        part->hide();
+    }
+    row->addWidget(m_spinner);
+    row->addWidget(m_progress, 1);
+    return row;
+}
+
+QWidget* CleanupView::makeGrid() {
+    auto* page = new QWidget;
+    auto* frame = new QVBoxLayout(page);
+    frame->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding - Theme::scrollBarRoom,
+                              Theme::pagePadding);
+    m_grid = new FlowGrid(leastCardWidth, cardGap);
+    frame->addLayout(m_grid);
+    frame->addStretch();
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    SlimScrollBar::install(area);
+    return area;
+}
+
+void CleanupView::showEvent(QShowEvent* event) {
+    refresh();
+    QWidget::showEvent(event);
+}
+
+void CleanupView::refresh() {
+    if (!isOnScreen(this))
+        return;
+    refreshCards();
+    refreshProgress();
+    const quint64 total = totalBytes();
+    m_total->setPlainText(QStringLiteral("Reclaimable: ") + Formatters::bytes(total));
+    m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
+                                                       : QStringLiteral("• ") + m_lastCleanResult);
+    QPalette green = palette();
+    green.setColor(QPalette::WindowText, Theme::color(Theme::Role::green));
+    m_result->setPalette(green);
+    m_rescan->setEnabled(!m_model.isScanning());
+    m_cleanAll->setBusy(m_cleaningAll);
+    m_cleanAll->setEnabled(!m_cleaningAll && total > 0);
+}
+
+void CleanupView::refreshCards() {
+    const QList<CacheTarget>& targets = m_model.cacheTargets();
+    while (m_cards.size() < targets.size()) {
+        auto* card = new CacheCard;
+        m_grid->addWidget(card);
+        connect(card, &CacheCard::opened, this, &CleanupView::open);
+        m_cards.append(card);
+    }
+    for (qsizetype i = 0; i < targets.size(); ++i)
+        m_cards[i]->set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
+}
+
+void CleanupView::refreshProgress() {
+    const bool isBusy = m_model.isCleaning() || m_model.isScanning();
+    m_spinner->setVisible(isBusy);
+    m_progress->setVisible(isBusy);
+    if (m_model.isCleaning())
+        m_progress->setPlainText(progressText(QStringLiteral("Cleaning"), *m_model.cleanProgress()));
+    else if (m_model.isScanning())
+        m_progress->setPlainText(progressText(QStringLiteral("Measuring"), *m_model.scanProgress()));
+}
+
+quint64 CleanupView::totalBytes() const {
+    quint64 total = 0;
+    for (const CacheTarget& target : m_model.cacheTargets())
+        total += target.sizeBytes;
+    return total;
+}
+
+void CleanupView::open(const CacheTarget& target) {
+    m_selected = target.name;
+    auto* drawer = new CacheDetailDrawer(target, window());
+    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model,
+            [this](const CacheTarget& chosen) { m_model.clean(chosen); });
+    connect(drawer, &QDialog::finished, this, [this] {
+        m_selected.clear();
+        refresh();
+    });
+    drawer->open();
+    refresh();
+}
+
+void CleanupView::confirmCleanAll() {
+    auto* dialog = new ConfirmDialog(
+        window(), QStringLiteral("Clean all reclaimable caches?"),
+        QStringLiteral(
+            "Runs every cleanup with a size estimate above 0. Apps will rebuild caches as needed."));
+    auto* clean = dialog->addAction(QStringLiteral("Clean %1").arg(Formatters::bytes(totalBytes())),
+                                    PushButton::Look::destructive);
+    connect(clean, &QPushButton::clicked, this, &CleanupView::cleanAll);
+    dialog->open();
+}
+
+void CleanupView::cleanAll() {
+    if (m_cleaningAll)
+        return;
+    m_cleaningAll = true;
+    refresh();
+    m_model.cleanAll().then([self = QPointer<CleanupView>(this)](std::pair<int, quint64> cleaned) {
+        if (!self)
+            return;
+        self->m_cleaningAll = false;
+        self->m_lastCleanResult = QStringLiteral("Cleaned %1 targets, freed ~%2")
+                                      .arg(cleaned.first)
+                                      .arg(Formatters::bytes(cleaned.second));
+        self->refresh();
+    });
+}

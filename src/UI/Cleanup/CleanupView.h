@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Core/Models.h"
+
+#include <QWidget>
+
+class AppModel;
+class CacheCard;
+class FlowGrid;
+class PushButton;
+class Spinner;
+class TextLabel;
+
+/// The fourth section of the main window: every cleanup target with its size, and the buttons that measure
+/// and clean them.
+class CleanupView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CleanupView(AppModel& model, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QLayout* makeHeader();
+    QLayout* makeProgress();
+    QWidget* makeGrid();
+    void refresh();
+    void refreshCards();
+    void refreshProgress();
+    void open(const CacheTarget& target);
+    void confirmCleanAll();
+    void cleanAll();
+    quint64 totalBytes() const;
+
+    AppModel& m_model;
+    QString m_selected; ///< the target whose drawer is open
+    bool m_cleaningAll = false;
+    QString m_lastCleanResult;
+
+    TextLabel* m_total;
+    TextLabel* m_result;
+    PushButton* m_rescan;
+    PushButton* m_cleanAll;
+    Spinner* m_spinner;
+    TextLabel* m_progress;
+    FlowGrid* m_grid = nullptr;
+    QList<CacheCard*> m_cards;
+};

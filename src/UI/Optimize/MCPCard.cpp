@@ -1,0 +1,76 @@
+#include "UI/Optimize/MCPCard.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Divider.h"
+#include "UI/Kit/PushButton.h"
+#include "UI/Kit/TextLabel.h"
+#include "UI/Optimize/ServerRow.h"
+#include "UI/Optimize/StatBox.h"
+
+#include <QHBoxLayout>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+MCPCard::MCPCard(QWidget* parent)
+    : OptimizeCard(QStringLiteral("Claude Code & MCP"), QStringLiteral("Loaded servers + orphan detection"),
+                   QStringLiteral("sparkles"), Role::purple, parent)
+    , m_configured(new StatBox(QStringLiteral("Configured")))
+    , m_running(new StatBox(QStringLiteral("Running")))
+    , m_orphans(new StatBox(QStringLiteral("Orphans")))
+    , m_orphanRAM(new StatBox(QStringLiteral("Orphan RAM")))
+    , m_kill(new PushButton(QStringLiteral("Kill orphans"), PushButton::Look::prominent,
+                            QStringLiteral("scissors")))
+    , m_servers(new QWidget) {
+    content()->addLayout(makeFigures());
+
+    auto* heading = (new TextLabel(TextStyle::caption))->secondary();
+    heading->setPlainText(QStringLiteral("Running servers"));
+    auto* servers = new QVBoxLayout(m_servers);
+    servers->setContentsMargins(0, 0, 0, 0);
+    servers->setSpacing(Theme::rowSpacing);
+    servers->addWidget(new Divider);
+    servers->addWidget(heading);
+    m_rowsLayout = new QVBoxLayout;
+    m_rowsLayout->setSpacing(0);
+    servers->addLayout(m_rowsLayout);
+    content()->addWidget(m_servers);
+    m_nothing = addLine(QStringLiteral("No ~/.claude/mcp.json found — nothing configured globally."));
+}
+
+QLayout* MCPCard::makeFigures() {
+    m_kill->setTint(Role::red);
+    connect(m_kill, &QPushButton::clicked, this, &MCPCard::killOrphansRequested);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    for (StatBox* box : {m_configured, m_running, m_orphans, m_orphanRAM})
+        row->addWidget(box);
+    row->addStretch(1);
+    row->addWidget(m_kill, 0, Qt::AlignVCenter);
+    return row;
+}
+
+void MCPCard::refresh(const MCPInspector::Report& report) {
+    const int orphans = report.orphanCount();
+    m_configured->set(QString::number(report.configured.size()), Role::purple);
+    m_running->set(QString::number(report.live.size()), Role::blue);
+    m_orphans->set(QString::number(orphans), orphans > 0 ? Role::red : Role::secondaryText);
+    m_orphanRAM->set(Formatters::bytes(report.orphanBytes()), Role::red);
+    m_kill->setEnabled(orphans > 0);
+    showServers(report.live);
+    m_nothing->setVisible(report.configured.isEmpty());
+}
+
+void MCPCard::showServers(const QList<MCPInspector::LiveServer>& live) {
+    while (m_rows.size() < live.size()) {
+        m_rows.append(new ServerRow);
+        m_rowsLayout->addWidget(m_rows.last());
+        connect(m_rows.last(), &ServerRow::quitRequested, this, &MCPCard::quitRequested);
+    }
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        if (i < live.size())
+            m_rows[i]->set(live[i]);
+        m_rows[i]->setVisible(i < live.size());
+    }
+    m_servers->setVisible(!live.isEmpty());
+}

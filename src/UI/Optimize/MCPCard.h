@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Core/MCPInspector.h"
+#include "UI/Optimize/OptimizeCard.h"
+
+class PushButton;
+class ServerRow;
+class StatBox;
+
+/// Which MCP servers are configured, running and orphaned.
+class MCPCard : public OptimizeCard {
+    Q_OBJECT
+
+public:
+    explicit MCPCard(QWidget* parent = nullptr);
+
+    void refresh(const MCPInspector::Report& report);
+
+Q_SIGNALS:
+    void killOrphansRequested();
+    void quitRequested(const MCPInspector::LiveServer& server);
+
+private:
+    QLayout* makeFigures();
+    void showServers(const QList<MCPInspector::LiveServer>& live);
+
+    StatBox* m_configured;
+    StatBox* m_running;
+    StatBox* m_orphans;
+    StatBox* m_orphanRAM;
+    PushButton* m_kill;
+    QWidget* m_servers;
+    QVBoxLayout* m_rowsLayout;
+    QList<ServerRow*> m_rows;
+    TextLabel* m_nothing;
+};

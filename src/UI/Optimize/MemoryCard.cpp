@@ -1,0 +1,44 @@
+#include "UI/Optimize/MemoryCard.h"
+
+#include "UI/Kit/PushButton.h"
+
+#include <QHBoxLayout>
+
+using Theme::Role;
+
+namespace {
+
+PushButton* actionButton(const QString& title, const QString& symbol, Role tint) {
+    auto* button = new PushButton(title, PushButton::Look::prominent, symbol);
+    button->setTint(tint);
+    return button;
+}
+
+} // namespace
+
+MemoryCard::MemoryCard(QWidget* parent)
+    : OptimizeCard(QStringLiteral("Memory"), QStringLiteral("Free RAM without quitting your work"),
+                   QStringLiteral("memorychip"), Role::green, parent)
+    , m_purge(actionButton(QString(), QStringLiteral("bolt.heart"), Role::orange)) {
+    auto* freeRAM = actionButton(QStringLiteral("Free RAM"), QStringLiteral("memorychip"), Role::green);
+    auto* nudge = actionButton(QStringLiteral("Pressure nudge"), QStringLiteral("wind"), Role::blue);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    for (PushButton* button : {freeRAM, nudge, m_purge})
+        row->addWidget(button);
+    row->addStretch();
+    content()->addLayout(row);
+    addLine(
+        QStringLiteral("Pressure: free + compress. Deep purge prompts admin and flushes the unified buffer "
+                       "cache (heavier)."));
+    setPurging(false);
+    connect(freeRAM, &QPushButton::clicked, this, &MemoryCard::freeRAMRequested);
+    connect(nudge, &QPushButton::clicked, this, &MemoryCard::nudgeRequested);
+    connect(m_purge, &QPushButton::clicked, this, &MemoryCard::purgeRequested);
+}
+
+void MemoryCard::setPurging(bool purging) {
+    m_purge->setText(purging ? QStringLiteral("Purging…") : QStringLiteral("Deep purge (admin)"));
+    m_purge->setBusy(purging);
+    m_purge->setEnabled(!purging);
+}

@@ -1,0 +1,131 @@
+#include "UI/Optimize/OptimizeView.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+#include "Core/Observe.h"
+#include "Preferences.h"
+#include "UI/Kit/Notice.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/Theme.h"
+#include "UI/Optimize/AutoOptimizeCard.h"
+#include "UI/Optimize/CachesCard.h"
+#include "UI/Optimize/MCPCard.h"
+#include "UI/Optimize/MemoryCard.h"
+#include "UI/Optimize/QuickKillsCard.h"
+#include "UI/Overview/FreeRAMSheet.h"
+
+#include <QPointer>
+#include <QVBoxLayout>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int cardGap = 18;
+constexpr auto noticeLifetime = 6s;
+
+} // namespace
+
+OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* parent)
+    : QScrollArea(parent)
+    , m_model(model)
+    , m_preferences(preferences)
+    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime))
+    , m_memory(new MemoryCard)
+    , m_quickKills(new QuickKillsCard)
+    , m_mcp(new MCPCard)
+    , m_caches(new CachesCard)
+    , m_auto(new AutoOptimizeCard) {
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(Theme::pageMargins);
+    column->setSpacing(cardGap);
+    const QList<QWidget*> parts = {m_notice, m_memory, m_quickKills, m_mcp, m_caches, m_auto};
+    for (QWidget* part : parts)
+        column->addWidget(part);
+    column->addStretch();
+    setWidget(page);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    SlimScrollBar::install(this);
+    setAccessibleName(QStringLiteral("Optimize"));
+    connectCards();
+    observe(&m_model, this, [this] { refresh(); });
+    observe(&m_preferences, this, [this] { refresh(); });
+}
+
+void OptimizeView::connectCards() {
+    connect(m_memory, &MemoryCard::freeRAMRequested, this,
+            [this] { (new FreeRAMSheet(m_model, window()))->open(); });
+    connect(m_memory, &MemoryCard::nudgeRequested, this, &OptimizeView::nudge);
+    connect(m_memory, &MemoryCard::purgeRequested, this, &OptimizeView::purge);
+    connect(m_quickKills, &QuickKillsCard::killRequested, this, &OptimizeView::killPreset);
+    connect(m_mcp, &MCPCard::killOrphansRequested, this, &OptimizeView::killOrphans);
+    connect(m_mcp, &MCPCard::quitRequested, &m_model, &AppModel::quitServer);
+    connect(m_caches, &CachesCard::cleanAllRequested, this, &OptimizeView::cleanAll);
+    connect(m_auto, &AutoOptimizeCard::switched, &m_model, &AppModel::setAutoOptimizeEnabled);
+}
+
+void OptimizeView::showEvent(QShowEvent* event) {
+    refresh();
+    QScrollArea::showEvent(event);
+}
+
+void OptimizeView::refresh() {
+    if (!isOnScreen(this))
+        return;
+    m_quickKills->refresh(m_model, m_preferences.quickKillPresets());
+    m_mcp->refresh(m_model.mcpReport());
+    m_caches->refresh(m_model.cacheTargets());
+    m_auto->refresh(m_model.autoOptimizeEnabled());
+}
+
+void OptimizeView::toast(const QString& message) {
+    m_notice->show(message);
+    ensureVisible(0, 0);
+}
+
+void OptimizeView::nudge() {
+    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](bool nudged) {
+        if (self)
+            self->toast(nudged ? QStringLiteral("Sent memory_pressure -l warn")
+                               : QStringLiteral("memory_pressure failed"));
+    });
+}
+
+void OptimizeView::purge() {
+    m_memory->setPurging(true);
+    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](bool purged) {
+        if (!self)
+            return;
+        self->m_memory->setPurging(false);
+        self->toast(purged ? QStringLiteral("Inactive memory purged")
+                           : QStringLiteral("Purge cancelled or failed"));
+    });
+}
+
+void OptimizeView::killPreset(const QuickKillPreset& preset) {
+    const auto result =
+        m_model.quickKill(preset.pattern, preset.name, preset.minIdleMinutes, preset.minRSSMB, preset.force);
+    toast(preset.outcomeMessage(result.matched, result.killed));
+}
+
+void OptimizeView::killOrphans() {
+    const int killed = m_model.killOrphanMCPs(false);
+    toast(killed > 0 ? QStringLiteral("Killed %1 orphan MCP server(s)").arg(killed)
+                     : QStringLiteral("No orphan MCPs to kill"));
+}
+
+void OptimizeView::cleanAll() {
+    m_caches->setCleaning(true);
+    m_model.cleanAll().then([self = QPointer<OptimizeView>(this)](std::pair<int, quint64> cleaned) {
+        if (!self)
+            return;
+        self->m_caches->setCleaning(false);
+        self->refresh();
+        self->toast(QStringLiteral("Cleaned %1 targets, freed ~%2")
+                        .arg(cleaned.first)
+                        .arg(Formatters::bytes(cleaned.second)));
+    });
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Core/QuickKillPreset.h"
+
+#include <QScrollArea>
+
+class AppModel;
+class AutoOptimizeCard;
+class CachesCard;
+class MCPCard;
+class MemoryCard;
+class Notice;
+class Preferences;
+class QuickKillsCard;
+
+/// The second section of the main window: everything that gives memory and disk back, card by card.
+class OptimizeView : public QScrollArea {
+    Q_OBJECT
+
+public:
+    OptimizeView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void connectCards();
+    void refresh();
+    void toast(const QString& message);
+    void nudge();
+    void purge();
+    void killPreset(const QuickKillPreset& preset);
+    void killOrphans();
+    void cleanAll();
+
+    AppModel& m_model;
+    Preferences& m_preferences;
+    Notice* m_notice;
+    MemoryCard* m_memory;
+    QuickKillsCard* m_quickKills;
+    MCPCard* m_mcp;
+    CachesCard* m_caches;
+    AutoOptimizeCard* m_auto;
+};

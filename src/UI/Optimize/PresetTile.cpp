@@ -1,0 +1,84 @@
+#include "UI/Optimize/PresetTile.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int tileHeight = 52;
+constexpr int padding = 10;
+constexpr int symbolWidth = 18;
+constexpr int badgeHeight = 18;
+constexpr int badgePadding = 6;
+
+} // namespace
+
+PresetTile::PresetTile(QWidget* parent)
+    : QAbstractButton(parent) {
+    setFixedHeight(tileHeight);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &PresetTile::pressed, this, [this] { m_pressed = m_preset; });
+    connect(this, &PresetTile::clicked, this, [this] { Q_EMIT killRequested(m_pressed); });
+}
+
+QSize PresetTile::sizeHint() const {
+    return {240, tileHeight};
+}
+
+void PresetTile::set(const QuickKillPreset& preset, int matches) {
+    if (preset == m_preset && matches == m_matches)
+        return;
+    m_preset = preset;
+    m_matches = matches;
+    const QString name = Formatters::visible(preset.name);
+    const QString summary = Formatters::visible(preset.summaryLine());
+    setAccessibleName(QStringLiteral("%1, %2, %3 matching").arg(name, summary).arg(matches));
+    setToolTip(
+        QStringLiteral("%1\n%2").arg(name, summary).toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    update();
+}
+
+void PresetTile::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool hits = m_matches > 0;
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::gray, 0.06),
+                       hits ? Theme::color(Role::red, 0.4) : Theme::color(Role::gray, 0.25));
+    if (underMouse() || isDown())
+        Painting::drawCard(painter, rect(), Theme::cardRadius,
+                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.6), Qt::transparent);
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+
+    QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
+    Symbols::draw(painter, m_preset.symbol, Theme::color(hits ? Role::red : Role::secondaryText),
+                  QRectF(line.left(), 0, symbolWidth, height()), symbolWidth);
+    line.setLeft(line.left() + symbolWidth + padding);
+    if (hits) {
+        painter.setFont(Theme::font(TextStyle::caption, QFont::Bold));
+        const QString count = QString::number(m_matches);
+        const double width =
+            std::max<double>(badgeHeight, Painting::tabularWidth(painter.font(), count) + 2 * badgePadding);
+        const QRectF badge(line.right() - width, (height() - badgeHeight) / 2.0, width, badgeHeight);
+        Painting::drawCard(painter, badge, badgeHeight / 2.0, Theme::tileColor(Role::red, 0.85),
+                           Qt::transparent);
+        painter.setPen(Qt::white);
+        Painting::drawTabular(painter, badge, Qt::AlignHCenter, count);
+        line.setRight(badge.left() - Theme::rowSpacing);
+    }
+    painter.setFont(Theme::font(TextStyle::callout, QFont::Medium));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawElided(painter, line.adjusted(0, 7, 0, -line.height() / 2), Qt::ElideRight,
+                         Formatters::visible(m_preset.name));
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawElided(painter, line.adjusted(0, line.height() / 2, 0, -8), Qt::ElideRight,
+                         Formatters::visible(m_preset.summaryLine()));
+}

@@ -1,0 +1,86 @@
+#include "UI/Optimize/ServerRow.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/IconButton.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QPainter>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int rowHeight = 28;
+constexpr int bytesWidth = 80;
+constexpr int pidWidth = 86;
+constexpr int parentWidth = 170;
+
+QFont monospaced() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(Theme::font(TextStyle::caption).pointSizeF());
+    return font;
+}
+
+} // namespace
+
+ServerRow::ServerRow(QWidget* parent)
+    : QWidget(parent) {
+    setFixedHeight(rowHeight);
+    auto* quit = new IconButton(QStringLiteral("stop.circle"), QStringLiteral("Quit"));
+    m_buttonWidth = quit->width();
+    connect(quit, &IconButton::pressed, this, [this] { m_pressed = m_server; });
+    connect(quit, &IconButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressed); });
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    row->addWidget(quit);
+}
+
+void ServerRow::set(const MCPInspector::LiveServer& server) {
+    if (server == m_server)
+        return;
+    m_server = server;
+    const QString label = Formatters::visible(server.displayLabel);
+    setToolTip(label.toHtmlEscaped());
+    setAccessibleName(QStringLiteral("%1 %2, PID %3, parent: %4, %5")
+                          .arg(server.isOrphan ? QStringLiteral("Orphan") : QStringLiteral("Running"), label)
+                          .arg(server.pid)
+                          .arg(Formatters::visible(server.parentName), Formatters::bytes(server.rssBytes)));
+    update();
+}
+
+void ServerRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRectF line = rect();
+    const auto takeRight = [&line](double width) {
+        QRectF cell = line;
+        cell.setLeft(line.right() - width);
+        line.setRight(cell.left() - Theme::rowSpacing);
+        return cell;
+    };
+    takeRight(m_buttonWidth);
+    painter.setFont(Theme::font(TextStyle::caption));
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+                          Formatters::bytes(m_server.rssBytes));
+    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::drawElided(painter, takeRight(parentWidth), Qt::ElideRight,
+                         QStringLiteral("parent: ") + Formatters::visible(m_server.parentName));
+    Painting::drawTabular(painter, takeRight(pidWidth), Qt::AlignLeft,
+                          QStringLiteral("PID %1").arg(m_server.pid));
+
+    constexpr int symbolSize = 12;
+    const QRectF icon(line.left(), 0, symbolSize + 2, height());
+    const bool isOrphan = m_server.isOrphan;
+    Symbols::draw(
+        painter, isOrphan ? QStringLiteral("exclamationmark.triangle.fill") : QStringLiteral("circle.fill"),
+        Theme::color(isOrphan ? Role::red : Role::green), icon, isOrphan ? symbolSize + 2 : symbolSize);
+    line.setLeft(icon.right() + Theme::rowSpacing);
+    painter.setFont(monospaced());
+    painter.setPen(Theme::color(Role::primaryText));
+    Painting::drawElided(painter, line, Qt::ElideMiddle, Formatters::visible(m_server.displayLabel));
+}

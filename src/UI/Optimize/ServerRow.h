@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Core/MCPInspector.h"
+
+#include <QWidget>
+
+/// One running server, and the button that asks it to end.
+class ServerRow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ServerRow(QWidget* parent = nullptr);
+
+    void set(const MCPInspector::LiveServer& server);
+
+Q_SIGNALS:
+    /// For the server that was shown when the button was pressed.
+    void quitRequested(const MCPInspector::LiveServer& server);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    MCPInspector::LiveServer m_server;
+    MCPInspector::LiveServer m_pressed;
+    int m_buttonWidth;
+};

@@ -1,0 +1,151 @@
+#include "UI/Optimize/OptimizeView.h"
+
+#include "UI/Kit/Notice.h"
+#include "UI/Kit/Switch.h"
+#include "UI/ModelFixture.h"
+#include "UI/Optimize/PresetTile.h"
+#include "UI/Optimize/ServerRow.h"
+#include "UI/Optimize/StatBox.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct OptimizeViewTest : ModelFixture {
+    OptimizeView view{model, prefs};
+
+    void show() {
+        view.resize(800, 900);
+        view.show();
+        tick();
+    }
+    void press(const QString& button) { QTest::mouseClick(buttonNamed(view, button), Qt::LeftButton); }
+    QString notice() {
+        const auto* shown = view.findChild<Notice*>();
+        return shown->isVisibleTo(&view) ? shown->accessibleName() : QString();
+    }
+    QList<PresetTile*> tiles() { return view.findChildren<PresetTile*>(); }
+    void usePreset(const QString& name, const QString& pattern) {
+        QuickKillPreset preset = QuickKillPreset::blank();
+        preset.name = name;
+        preset.pattern = pattern;
+        prefs.storeQuickKillPresets({preset});
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    void addServer(qint32 parent) {
+        fakes.signalSender->start(nextPid);
+        fakes.processes->add(nextPid++,
+                             {.task = TaskInfo{.residentBytes = 5 << 20},
+                              .name = "node",
+                              .arguments = QByteArray("node\0/opt/mcp-server-git\0", 24),
+                              .info = KernelProcessInfo{.uid = fakes.identity->uid, .parentPid = parent}});
+    }
+};
+
+} // namespace
+
+TEST_F(OptimizeViewTest, TilesCountWhatAPressWouldSignal) {
+    addProcesses(2, "worker <b>", 1);
+    show();
+    EXPECT_EQ(tiles().size(), 6);
+    usePreset(u"Work"_s, u"WORKER"_s);
+    ASSERT_EQ(tiles().size(), 1);
+    EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 2 matching"_s);
+    addProcesses(1, "worker", 1);
+    tick();
+    EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 3 matching"_s);
+    fakes.signalSender->end(100);
+    QTest::mouseClick(tiles()[0], Qt::LeftButton);
+    EXPECT_EQ(notice(), u"Work: killed 2/3"_s);
+    usePreset(u"None"_s, u"nobody"_s);
+    QTest::keyClick(tiles()[0], Qt::Key_Space);
+    EXPECT_EQ(notice(), u"None: nothing matched"_s);
+    prefs.storeQuickKillPresets({});
+    tick();
+    EXPECT_TRUE(tiles().isEmpty());
+}
+
+TEST_F(OptimizeViewTest, ServersAndTheirOrphans) {
+    show();
+    EXPECT_TRUE(showsText(view, u"No ~/.claude/mcp.json found — nothing configured globally."_s));
+    EXPECT_FALSE(buttonNamed(view, u"Kill orphans"_s)->isEnabled());
+    EXPECT_FALSE(showsText(view, u"Running servers"_s));
+    addProcesses(1, "claude", 1);
+    addServer(100);
+    addServer(7);
+    home.makeFile(u".claude.json"_s, R"({"mcpServers": {"git": {}}})");
+    tick();
+    EXPECT_EQ(shownNames<StatBox>(view),
+              (QStringList{u"Configured 1"_s, u"Running 2"_s, u"Orphans 1"_s, u"Orphan RAM 5 MB"_s}));
+    EXPECT_EQ(shownNames<ServerRow>(view),
+              (QStringList{u"Orphan /opt/mcp-server-git, PID 102, parent: (launchd or gone), 5 MB"_s,
+                           u"Running /opt/mcp-server-git, PID 101, parent: claude, 5 MB"_s}));
+    QTest::mouseClick(view.findChildren<ServerRow*>()[1]->findChild<QAbstractButton*>(), Qt::LeftButton);
+    EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{101, Signal::terminate, 1}}));
+    EXPECT_TRUE(logged().isEmpty());
+    press(u"Kill orphans"_s);
+    EXPECT_EQ(notice(), u"Killed 1 orphan MCP server(s)"_s);
+    fakes.signalSender->end(102);
+    press(u"Kill orphans"_s);
+    EXPECT_EQ(notice(), u"No orphan MCPs to kill"_s);
+}
+
+TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
+    show();
+    press(u"Pressure nudge"_s);
+    EXPECT_EQ(notice(), u"Sent memory_pressure -l warn"_s);
+    fakes.tools->held = true;
+    press(u"Deep purge (admin)"_s);
+    EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
+    fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    EXPECT_TRUE(fakes.tools->release(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s));
+    EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
+    EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
+    fakes.tools->held = false;
+    fakes.tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    press(u"Pressure nudge"_s);
+    EXPECT_EQ(notice(), u"memory_pressure failed"_s);
+    EXPECT_EQ(logged(),
+              (QStringList{u"clean memory_pressure -l warn fail"_s, u"clean sudo purge (admin) fail"_s,
+                           u"clean memory_pressure -l warn ok"_s}));
+    press(u"Dismiss"_s);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(OptimizeViewTest, TheSwitchRunsTheOptimizer) {
+    show();
+    auto* toggle = view.findChild<Switch*>();
+    EXPECT_TRUE(showsText(view, u"Off"_s));
+    QTest::mouseClick(toggle, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(model.autoOptimizeEnabled());
+    EXPECT_TRUE(showsText(view, u"Running in background"_s));
+    EXPECT_EQ(logged().size(), 3);
+    QTest::keyClick(toggle, Qt::Key_Space);
+    EXPECT_FALSE(model.autoOptimizeEnabled());
+}
+
+TEST_F(OptimizeViewTest, CachesAreCleanedAtOnce) {
+    home.makeFile(u".npm/x"_s);
+    for (const CacheTarget& target : CacheTarget::defaults()) {
+        for (const QString& path : target.paths)
+            fakes.places->elsewhere[path] = {home.path(path == u"~/.npm" ? u".npm"_s : u"none"_s)};
+    }
+    bool isCleaned = false;
+    fakes.tools->answer = [&isCleaned](const ToolRequest& request) {
+        if (request.launchPath == u"/usr/bin/du")
+            return ScriptedTools::exited(0, isCleaned ? "0 x" : "2048 x");
+        isCleaned |= request.arguments.last().contains(u"rm -rf");
+        return ScriptedTools::exited(0);
+    };
+    show();
+    EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
+    QCoro::waitFor(model.rescanCaches());
+    tick();
+    EXPECT_TRUE(showsText(view, u"2 MB reclaimable across %1 targets"_s.arg(CacheTarget::defaults().size())));
+    press(u"Clean All"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return notice() == u"Cleaned 1 targets, freed ~2 MB"_s; }, 2000));
+}
