@@ -7,6 +7,7 @@
 #include "UI/Kit/Theme.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
+#include "UI/Processes/ProcessesView.h"
 
 #include <QEvent>
 #include <QListWidget>
@@ -82,6 +83,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, QWidget* parent)
     connect(overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
     addSection(Tab::overview, overview);
     addSection(Tab::optimize, new OptimizeView(model, preferences));
+    addSection(Tab::processes, new ProcessesView(model, preferences));
     addSection(Tab::cleanup, new CleanupView(model));
     tintSidebar();
     select(Tab::overview);

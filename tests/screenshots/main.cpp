@@ -6,6 +6,7 @@
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/FigureIcon.h"
+#include "UI/Kit/Switch.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
@@ -14,6 +15,7 @@
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
@@ -29,6 +31,7 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QTest>
+#include <QTreeView>
 
 #include <cmath>
 #include <cstdio>
@@ -194,6 +197,14 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     window.findChild<CacheDetailDrawer*>()->findChildren<PushButton*>().last()->click();
     camera.take(*window.findChild<ConfirmDialog*>(), QStringLiteral("cleanup-confirm"));
     delete window.findChild<CacheDetailDrawer*>();
+    root->select(RootView::Tab::processes);
+    camera.take(window, QStringLiteral("processes"));
+    auto* processes = window.findChild<ProcessesView*>();
+    auto* table = processes->findChild<QTreeView*>();
+    table->setCurrentIndex(table->model()->index(3, 0));
+    processes->findChild<Switch*>()->click();
+    camera.take(window, QStringLiteral("processes-grouped"));
+    processes->findChild<Switch*>()->click();
     root->select(RootView::Tab::optimize);
     stage.play(1, 24, 8.1);
     camera.take(window, QStringLiteral("optimize"));
@@ -202,6 +213,9 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     camera.take(window, QStringLiteral("optimize-large"));
     root->select(RootView::Tab::cleanup);
     camera.take(window, QStringLiteral("cleanup-large"));
+    root->select(RootView::Tab::processes);
+    table->setCurrentIndex(table->model()->index(3, 0));
+    camera.take(window, QStringLiteral("processes-large"));
 }
 
 void shootOverview(Camera& camera) {

@@ -24,7 +24,7 @@ Switch::Switch(const QString& text, QWidget* parent)
 }
 
 QSize Switch::sizeHint() const {
-    const int label = text().isEmpty() ? 0 : textGap + fontMetrics().horizontalAdvance(text());
+    const int label = text().isEmpty() ? 0 : textGap + fontMetrics().horizontalAdvance(text()) + 2;
     return {track.width() + label, Theme::smallControlHeight};
 }
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QComboBox>
+
+/// A choice of one among a few, in the theme's looks. What it shows begins with a label of its own when one
+/// is given: "Sort: RAM".
+class PopUpButton : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit PopUpButton(const QString& label, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    QString m_label;
+};

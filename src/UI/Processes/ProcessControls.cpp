@@ -1,0 +1,89 @@
+#include "UI/Processes/ProcessControls.h"
+
+#include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/SearchField.h"
+#include "UI/Kit/Slider.h"
+#include "UI/Kit/Switch.h"
+#include "UI/Kit/Theme.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+constexpr int sliderWidth = 140;
+
+QString labelOf(SortBy sort) {
+    switch (sort) {
+    case SortBy::ram:
+        return QStringLiteral("RAM");
+    case SortBy::cpu:
+        return QStringLiteral("CPU");
+    case SortBy::name:
+        return QStringLiteral("Name");
+    case SortBy::idle:
+        return QStringLiteral("Idle");
+    }
+    return {};
+}
+
+} // namespace
+
+ProcessControls::ProcessControls(QWidget* parent)
+    : QWidget(parent)
+    , m_search(new SearchField(QStringLiteral("Search name or path")))
+    , m_group(new PopUpButton(QStringLiteral("Group")))
+    , m_sort(new PopUpButton(QStringLiteral("Sort")))
+    , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM "), QStringLiteral(" MB"), {0, 500, 10},
+                                 ProcessQuery().minRSSMB, sliderWidth))
+    , m_fold(new Switch(QStringLiteral("Group duplicates"))) {
+    m_group->addItem(QStringLiteral("All"));
+    for (const ProcGroup group : allCases<ProcGroup>())
+        m_group->addItem(rawValue(group));
+    for (const SortBy sort : allCases<SortBy>())
+        m_sort->addItem(labelOf(sort));
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    row->addWidget(m_search, 1);
+    row->addWidget(m_group);
+    row->addWidget(m_sort);
+    auto* second = new QHBoxLayout;
+    second->setSpacing(Theme::pageSpacing);
+    second->addWidget(m_minRSS);
+    second->addWidget(m_fold, 0, Qt::AlignBottom);
+    second->addStretch();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::rowSpacing);
+    column->addLayout(row);
+    column->addLayout(second);
+
+    connect(m_search, &QLineEdit::textChanged, this, &ProcessControls::changed);
+    connect(m_group, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
+    connect(m_sort, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
+    connect(m_minRSS, &LabeledSlider::valueChanged, this, &ProcessControls::changed);
+    connect(m_fold, &Switch::toggled, this, &ProcessControls::changed);
+}
+
+ProcessQuery ProcessControls::query() const {
+    ProcessQuery query;
+    query.search = m_search->text();
+    if (m_group->currentIndex() > 0)
+        query.groupFilter = static_cast<ProcGroup>(m_group->currentIndex() - 1);
+    query.sortBy = static_cast<SortBy>(m_sort->currentIndex());
+    query.minRSSMB = m_minRSS->value();
+    return query;
+}
+
+bool ProcessControls::groupsDuplicates() const {
+    return m_fold->isChecked();
+}
+
+void ProcessControls::setSort(SortBy sort) {
+    m_sort->setCurrentIndex(static_cast<int>(sort));
+}
+
+void ProcessControls::focusSearch() {
+    m_search->setFocus();
+    m_search->selectAll();
+}

@@ -1,0 +1,192 @@
+#include "UI/Processes/ProcessTableView.h"
+
+#include "Preferences.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/TableHeader.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+using Column = ProcessTableModel::Column;
+
+int usualWidth(Column column) {
+    switch (column) {
+    case Column::group:
+        return 156;
+    case Column::actions:
+        return ProcessRowDelegate::actionsWidth();
+    case Column::ram:
+        return 84;
+    default:
+        return 62;
+    }
+}
+
+std::optional<SortBy> sortOf(Column column) {
+    switch (column) {
+    case Column::name:
+        return SortBy::name;
+    case Column::cpu:
+        return SortBy::cpu;
+    case Column::ram:
+        return SortBy::ram;
+    case Column::idle:
+        return SortBy::idle;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
+    : QTreeView(parent)
+    , m_preferences(preferences)
+    , m_rows(new ProcessTableModel(this))
+    , m_delegate(new ProcessRowDelegate(this)) {
+    auto* head = new TableHeader(this);
+    setHeader(head);
+    setModel(m_rows);
+    setItemDelegate(m_delegate);
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setFrameShape(NoFrame);
+    setMouseTracking(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setAccessibleName(QStringLiteral("Processes"));
+    SlimScrollBar::install(this);
+    head->setSortIndicatorShown(true);
+    head->setSectionsClickable(true); // which being put up as a header took back
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(0, QHeaderView::Stretch); // the name has what the others leave
+    QPalette clear = palette();                          // the delegate draws the ground of selected rows
+    clear.setColor(QPalette::Highlight, Qt::transparent);
+    setPalette(clear);
+    restoreWidths();
+    connect(m_delegate, &ProcessRowDelegate::triggered, this, &ProcessTableView::triggered);
+    connect(head, &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
+    connect(head, &QHeaderView::sectionResized, this, &ProcessTableView::storeWidths);
+}
+
+void ProcessTableView::show(QList<ProcessTableRow> rows, bool isGrouped) {
+    if (isGrouped != m_rows->isGrouped()) {
+        m_rows->setGrouped(isGrouped);
+        header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        restoreWidths();
+    }
+    m_rows->replace(std::move(rows));
+    scrollToTop();
+}
+
+void ProcessTableView::update(QList<ProcessTableRow> rows) {
+    const int scrolled = verticalScrollBar()->value();
+    m_rows->update(std::move(rows));
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void ProcessTableView::markSort(SortBy sort) {
+    m_sort = sort;
+    int marked = -1;
+    for (int i = 0; i < m_rows->columnCount() && !m_rows->isGrouped(); ++i) {
+        if (sortOf(m_rows->column(i)) == sort)
+            marked = i;
+    }
+    if (m_rows->isGrouped())
+        marked = m_rows->indexOf(Column::ram);
+    header()->setSortIndicator(marked, Qt::DescendingOrder);
+}
+
+void ProcessTableView::requestSort(int section) {
+    const auto sort = sortOf(m_rows->column(section));
+    if (sort && !m_rows->isGrouped())
+        Q_EMIT sortRequested(*sort);
+    else
+        markSort(m_sort); // the click moved the mark
+}
+
+QString ProcessTableView::widthsKey() const {
+    return m_rows->isGrouped() ? QStringLiteral("ui.processes.groupedWidths")
+                               : QStringLiteral("ui.processes.widths");
+}
+
+void ProcessTableView::restoreWidths() {
+    m_isRestoring = true;
+    const QStringList stored =
+        m_preferences.file().text(widthsKey()).value_or(QString()).split(u' ', Qt::SkipEmptyParts);
+    for (int i = 0; i < m_rows->columnCount(); ++i) {
+        const int width = stored.value(i).toInt();
+        constexpr int least = 40;
+        constexpr int most = 2000;
+        if (i > 0)
+            header()->resizeSection(i,
+                                    width >= least && width <= most ? width : usualWidth(m_rows->column(i)));
+    }
+    m_isRestoring = false;
+}
+
+void ProcessTableView::storeWidths() {
+    if (m_isRestoring)
+        return;
+    QStringList widths;
+    for (int i = 0; i < m_rows->columnCount(); ++i)
+        widths.append(QString::number(header()->sectionSize(i)));
+    m_preferences.file().store(widthsKey(), widths.join(u' '));
+}
+
+void ProcessTableView::copySelection() const {
+    QModelIndexList selected = selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end());
+    QStringList lines;
+    for (const QModelIndex& index : selected) {
+        QStringList cells;
+        for (int column = 0; column < m_rows->columnCount() - 1; ++column)
+            cells.append(index.siblingAtColumn(column).data().toString());
+        lines.append(cells.join(u'\t'));
+    }
+    if (!lines.isEmpty())
+        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+}
+
+void ProcessTableView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copySelection();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void ProcessTableView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        m_delegate->release(event->pos());
+}
+
+void ProcessTableView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
+    if (!index.isValid())
+        return;
+    const ProcessTableRow row = m_rows->row(index.row()); // the menu is about this row, wherever it goes
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const RowAction action : ProcessRowDelegate::actionsOf(row, m_rows->isGrouped())) {
+        QString text = ProcessRowDelegate::helpOf(action, row, m_rows->isGrouped());
+        menu->addAction(text.replace(u'&', QStringLiteral("&&")), this,
+                        [this, action, row] { Q_EMIT triggered(action, row); });
+    }
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Copy"), this, &ProcessTableView::copySelection);
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}

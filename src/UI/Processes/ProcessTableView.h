@@ -1,0 +1,45 @@
+#pragma once
+
+#include "UI/Processes/ProcessRowDelegate.h"
+#include "UI/Processes/ProcessTableModel.h"
+
+#include <QTreeView>
+
+class Preferences;
+
+/// The table itself: columns whose widths are remembered, rows with buttons and a menu.
+class ProcessTableView : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit ProcessTableView(Preferences& preferences, QWidget* parent = nullptr);
+
+    /// Puts up rows for another question than before, from the top.
+    void show(QList<ProcessTableRow> rows, bool isGrouped);
+    /// The same question asked again: rows move, and what is selected or under the pointer stays so.
+    void update(QList<ProcessTableRow> rows);
+    /// The head of that column is marked; nothing is sorted here.
+    void markSort(SortBy sort);
+
+Q_SIGNALS:
+    void triggered(RowAction action, const ProcessTableRow& row);
+    void sortRequested(SortBy sort);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    QString widthsKey() const;
+    void restoreWidths();
+    void storeWidths();
+    void copySelection() const;
+    void requestSort(int section);
+
+    Preferences& m_preferences;
+    ProcessTableModel* m_rows;
+    ProcessRowDelegate* m_delegate;
+    SortBy m_sort = SortBy::ram;
+    bool m_isRestoring = false;
+};

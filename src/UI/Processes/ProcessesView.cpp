@@ -1,0 +1,144 @@
+#include "UI/Processes/ProcessesView.h"
+
+#include "AppModel.h"
+#include "Core/Observe.h"
+#include "UI/Kit/Card.h"
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/EmptyState.h"
+#include "UI/Kit/Notice.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Processes/ProcessControls.h"
+#include "UI/Processes/ProcessTableView.h"
+
+#include <QPointer>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QHash<QString, int> duplicateCount(const QList<ProcSample>& processes) {
+    QHash<QString, int> counts;
+    for (const ProcSample& process : processes)
+        ++counts[process.name];
+    return counts;
+}
+
+} // namespace
+
+ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_controls(new ProcessControls)
+    , m_notice(new Notice(QStringLiteral("bolt.fill"), 0ms))
+    , m_stack(new QStackedWidget)
+    , m_table(new ProcessTableView(preferences)) {
+    auto* card = new Card;
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(1, 4, 1, 4);
+    inside->addWidget(m_stack);
+    m_stack->addWidget(m_table);
+    m_stack->addWidget(
+        new EmptyState(QStringLiteral("list.bullet.rectangle"), QStringLiteral("No processes match"),
+                       QStringLiteral("Change the search, the group or Min RAM to see more.")));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
+                               Theme::pagePadding);
+    column->setSpacing(12);
+    column->addWidget(m_controls);
+    column->addWidget(m_notice);
+    column->addWidget(card, 1);
+
+    auto* search = new QShortcut(QKeySequence::Find, this);
+    connect(search, &QShortcut::activated, m_controls, &ProcessControls::focusSearch);
+    connect(m_controls, &ProcessControls::changed, this, &ProcessesView::ask);
+    connect(m_table, &ProcessTableView::sortRequested, m_controls, &ProcessControls::setSort);
+    connect(m_table, &ProcessTableView::triggered, this, &ProcessesView::act);
+    observe(&m_model, this, [this] { refresh(); });
+}
+
+void ProcessesView::showEvent(QShowEvent* event) {
+    refresh();
+    m_table->markSort(m_controls->query().sortBy);
+    QWidget::showEvent(event);
+}
+
+QList<ProcessTableRow> ProcessesView::rows() const {
+    const QHash<QString, int> counts = duplicateCount(m_model.processes());
+    const ProcessQuery query = m_controls->query();
+    QList<ProcessTableRow> result;
+    if (m_controls->groupsDuplicates()) {
+        for (const GroupedRow& row : query.groupedRows(m_model.processes())) {
+            result.append({.first = row.processes.first(),
+                           .processes = row.processes,
+                           .rssBytes = row.totalRSS,
+                           .cpuPercent = row.totalCPU,
+                           .sameName = static_cast<int>(row.processes.size())});
+        }
+        return result;
+    }
+    const QList<ProcSample> processes = query.filteredAndSorted(m_model.processes());
+    result.reserve(processes.size());
+    for (const ProcSample& process : processes) {
+        result.append({.first = process,
+                       .processes = {},
+                       .rssBytes = process.rssBytes,
+                       .cpuPercent = process.cpuPercent,
+                       .sameName = counts.value(process.name)});
+    }
+    return result;
+}
+
+/// The user wants to see something else.
+void ProcessesView::ask() {
+    const QList<ProcessTableRow> shown = rows();
+    m_stack->setCurrentIndex(shown.isEmpty() ? 1 : 0);
+    m_table->show(shown, m_controls->groupsDuplicates());
+    m_table->markSort(m_controls->query().sortBy);
+}
+
+void ProcessesView::refresh() {
+    if (!isOnScreen(this))
+        return;
+    const QList<ProcessTableRow> shown = rows();
+    m_stack->setCurrentIndex(shown.isEmpty() ? 1 : 0);
+    m_table->update(shown);
+}
+
+void ProcessesView::act(RowAction action, const ProcessTableRow& row) {
+    if (action == RowAction::sweep)
+        confirmSweep(m_model.previewForName(row.first.name));
+    else if (action == RowAction::forceKill)
+        m_model.forceKillProcess(row.first);
+    else if (row.processes.isEmpty())
+        m_model.quitProcess(row.first);
+    for (const ProcSample& process : row.processes) {
+        if (action == RowAction::quit)
+            m_model.quitProcess(process);
+    }
+}
+
+void ProcessesView::confirmSweep(const NukePreview& preview) {
+    auto* dialog = new ConfirmDialog(window(), preview.dialogTitle(), preview.dialogMessage());
+    const auto add = [this, dialog, preview](const QString& text, auto sweep) {
+        auto* button = dialog->addAction(text, PushButton::Look::destructive);
+        connect(button, &QPushButton::clicked, this, sweep);
+    };
+    if (preview.parentAppName) {
+        add(preview.quitButton(), [this, preview] { quitApplication(preview, false); });
+        add(preview.forceQuitButton(), [this, preview] { quitApplication(preview, true); });
+    } else {
+        add(preview.killButton(), [this, preview] { m_notice->show(m_model.nuke(preview)); });
+    }
+    dialog->open();
+}
+
+void ProcessesView::quitApplication(const NukePreview& preview, bool force) {
+    m_model.nukeGracefulApp(preview, *preview.parentAppName, force)
+        .then([self = QPointer<ProcessesView>(this)](const QString& outcome) {
+            if (self)
+                self->m_notice->show(outcome);
+        });
+}

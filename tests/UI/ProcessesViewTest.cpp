@@ -1,0 +1,226 @@
+#include "UI/Processes/ProcessesView.h"
+
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/Notice.h"
+#include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/SearchField.h"
+#include "UI/Kit/Slider.h"
+#include "UI/Kit/Switch.h"
+#include "UI/ModelFixture.h"
+#include "UI/Processes/ProcessTableView.h"
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint64 MiB = 1 << 20;
+
+struct ProcessesViewTest : ModelFixture {
+    ProcessesView view{model, prefs};
+    ProcessTableView* table = view.findChild<ProcessTableView*>();
+    QAbstractItemModelTester tester{table->model()};
+
+    void show() {
+        view.resize(800, 600);
+        view.show();
+        tick();
+    }
+    QStringList column(const QString& title) const {
+        const QAbstractItemModel* rows = table->model();
+        QStringList texts;
+        for (int section = 0; section < rows->columnCount(); ++section) {
+            if (rows->headerData(section, Qt::Horizontal).toString() != title)
+                continue;
+            for (int row = 0; row < rows->rowCount(); ++row)
+                texts.append(rows->index(row, section).data().toString());
+        }
+        return texts;
+    }
+    QPoint button(int row, int position) const {
+        const QModelIndex cell = table->model()->index(row, table->model()->columnCount() - 1);
+        return table->visualRect(cell).topLeft() + QPoint(17 + 26 * position, 15);
+    }
+    void press(int row, int position) {
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, button(row, position));
+    }
+    FakeProcess& process(qint32 pid) { return fakes.processes->processes[pid]; }
+    QPointer<ConfirmDialog> dialog() { return view.findChild<ConfirmDialog*>(); }
+    QString notice() {
+        const auto* shown = view.findChild<Notice*>();
+        return shown->isVisibleTo(&view) ? shown->accessibleName() : QString();
+    }
+    void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+    void type(const QString& text) {
+        auto* field = view.findChild<SearchField*>();
+        field->clear();
+        QTest::keyClicks(field, text);
+    }
+};
+
+} // namespace
+
+TEST_F(ProcessesViewTest, FiltersBySizeTextAndGroup) {
+    addProcesses(1, "Google Chrome Helper", 200 * MiB);
+    addProcesses(1, "zsh", 100 * MiB);
+    addProcesses(1, "tiny", 50 * MiB - 1);
+    process(101).path = "/opt/CHROME/bin/zsh";
+    show();
+    EXPECT_EQ(column(u"Name"_s), (QStringList{u"Google Chrome Helper"_s, u"zsh"_s}));
+    type(u"chrome"_s);
+    EXPECT_EQ(column(u"Name"_s), (QStringList{u"Google Chrome Helper"_s, u"zsh"_s}));
+    type(u"helper"_s);
+    EXPECT_EQ(column(u"Name"_s), QStringList{u"Google Chrome Helper"_s});
+    QTest::keyClick(view.findChild<SearchField*>(), Qt::Key_Escape);
+    EXPECT_EQ(column(u"Name"_s).size(), 2);
+    QTest::keyClick(view.findChildren<PopUpButton*>()[0], Qt::Key_End);
+    EXPECT_TRUE(showsText(view, u"No processes match"_s)); // none in the last group
+    QTest::keyClick(view.findChildren<PopUpButton*>()[0], Qt::Key_Home);
+    QTest::keyClick(view.findChild<Slider*>(), Qt::Key_Home);
+    EXPECT_EQ(column(u"Name"_s).size(), 3);
+    EXPECT_EQ(column(u"RAM"_s), (QStringList{u"200 MB"_s, u"100 MB"_s, u"50 MB"_s}));
+}
+
+TEST_F(ProcessesViewTest, PickerAndHeadsSortInStep) {
+    addProcesses(1, "beta", 100 * MiB);
+    addProcesses(1, "Alpha", 300 * MiB);
+    addProcesses(1, "alpha", 300 * MiB);
+    addProcesses(1, "Gamma", 200 * MiB);
+    show();
+    EXPECT_EQ(column(u"PID"_s), (QStringList{u"101"_s, u"102"_s, u"103"_s, u"100"_s}));
+    const auto clickHead = [this](int section) {
+        const QHeaderView* head = table->header();
+        QTest::mouseClick(head->viewport(), Qt::LeftButton, {},
+                          QPoint(head->sectionViewportPosition(section) + 20, 10));
+    };
+    auto* picker = view.findChildren<PopUpButton*>()[1];
+    clickHead(0);
+    EXPECT_EQ(picker->currentText(), u"Name"_s);
+    EXPECT_EQ(column(u"PID"_s), (QStringList{u"101"_s, u"102"_s, u"100"_s, u"103"_s}));
+    clickHead(2); // ids are no way to sort
+    EXPECT_EQ(table->header()->sortIndicatorSection(), 0);
+    process(103).task->cpuTimeNs += 900'000'000;
+    fakes.clock->advance(2);
+    tick();
+    picker->setCurrentText(u"CPU"_s);
+    EXPECT_EQ(table->header()->sortIndicatorSection(), 3);
+    EXPECT_EQ(column(u"CPU%"_s), (QStringList{u"45%"_s, u"0%"_s, u"0%"_s, u"0%"_s}));
+    picker->setCurrentText(u"Idle"_s);
+    EXPECT_EQ(column(u"PID"_s).last(), u"103"_s);
+}
+
+TEST_F(ProcessesViewTest, SelectionAndPlaceSurviveTicksThatChangeEverything) {
+    for (int i = 0; i < 400; ++i)
+        addProcesses(1, "worker", static_cast<quint64>(1000 - i) * MiB);
+    show();
+    table->verticalScrollBar()->setValue(3000);
+    table->setCurrentIndex(table->model()->index(110, 0));
+    const QPersistentModelIndex kept = table->currentIndex();
+    const int scrolled = table->verticalScrollBar()->value();
+    const auto pidOf = [this](const QModelIndex& index) {
+        return index.siblingAtColumn(2).data().toString();
+    };
+    const QString pid = pidOf(kept);
+    process(499).task->residentBytes = 5000 * MiB; // from the end to the top
+    for (int i = 0; i < 40; ++i)
+        fakes.processes->remove(100 + i * 2);
+    addProcesses(30, "late", 900 * MiB);
+    tick();
+    EXPECT_EQ(column(u"PID"_s).first(), u"499"_s);
+    EXPECT_EQ(column(u"PID"_s).size(), 390);
+    EXPECT_EQ(pidOf(table->currentIndex()), pid);
+    EXPECT_EQ(table->selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(pidOf(table->selectionModel()->selectedRows()[0]), pid);
+    EXPECT_EQ(table->verticalScrollBar()->value(), scrolled);
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"worker\tOther\t"_s + pid));
+}
+
+TEST_F(ProcessesViewTest, AClickMeansTheRowThatWasPressed) {
+    addProcesses(1, "one", 300 * MiB);
+    addProcesses(1, "two", 200 * MiB);
+    show();
+    press(0, 0);
+    press(1, 1);
+    EXPECT_EQ(fakes.signalSender->sent(),
+              (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}, {101, Signal::kill, 1}}));
+    QTest::mousePress(table->viewport(), Qt::LeftButton, {}, button(0, 1));
+    process(101).task->residentBytes = 900 * MiB;
+    fakes.processes->remove(100);
+    tick(); // 101 is where 100 was
+    QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, button(0, 1));
+    EXPECT_EQ(fakes.signalSender->sent().size(), 2);
+    EXPECT_EQ(logged(),
+              (QStringList{u"forceKill pid=100 fail"_s, u"forceKill pid=101 ok"_s, u"quit pid=100 ok"_s}));
+    QTest::mousePress(table->viewport(), Qt::LeftButton, {}, button(0, 0));
+    QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, button(0, 1)); // thought better of it
+    EXPECT_EQ(logged().size(), 3);
+}
+
+TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
+    addProcesses(12, "helper", 60 * MiB);
+    addProcesses(1, "single", 700 * MiB);
+    show();
+    QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+    EXPECT_EQ(column(u"Name"_s), (QStringList{u"helper"_s, u"single"_s}));
+    EXPECT_EQ(column(u"Procs"_s), (QStringList{u"12"_s, u"1"_s}));
+    EXPECT_EQ(column(u"RAM"_s), (QStringList{u"720 MB"_s, u"700 MB"_s}));
+    press(0, 0);
+    EXPECT_EQ(fakes.signalSender->sent().size(), 12);
+    EXPECT_EQ(logged().size(), 12);
+    EXPECT_FALSE(dialog());
+    press(0, 1);
+    EXPECT_EQ(dialog()->windowTitle(), u"Kill all 12 “helper” processes?"_s);
+}
+
+TEST_F(ProcessesViewTest, ASweepAsksFirst) {
+    addProcesses(3, "<b>node</b>", 60 * MiB);
+    addProcesses(1, "single", 100 * MiB);
+    show();
+    press(0, 2); // a name of its own has no sweep
+    EXPECT_FALSE(dialog());
+    press(1, 2);
+    ASSERT_TRUE(dialog());
+    QTest::keyClick(dialog(), Qt::Key_Return);
+    letGo();
+    EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
+    press(1, 2);
+    EXPECT_TRUE(showsText(*dialog(), u"Kill all 3 “<b>node</b>” processes?"_s));
+    QTest::mouseClick(buttonNamed(*dialog(), u"Kill 3 (≈180 MB)"_s), Qt::LeftButton);
+    EXPECT_EQ(notice(), u"Killed 3/3 “<b>node</b>” processes (≈180 MB targeted)"_s);
+    QTest::mouseClick(buttonNamed(view, u"Dismiss"_s), Qt::LeftButton);
+    EXPECT_EQ(notice(), QString());
+    EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] <b>node</b> — 3/3 PIDs ok"_s));
+}
+
+TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
+    addProcesses(2, "Note Helper", 60 * MiB);
+    for (const qint32 pid : {100, 101})
+        process(pid).path = "/Applications/Note.app/Contents/Helper";
+    show();
+    press(0, 2);
+    QTest::mouseClick(buttonNamed(*dialog(), u"Quit Note (≈120 MB)"_s), Qt::LeftButton);
+    EXPECT_EQ(notice(), u"Note quit cleanly — 2 helpers closed (≈120 MB freed)"_s);
+    letGo();
+    press(0, 2);
+    fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    QTest::mouseClick(buttonNamed(*dialog(), u"Force-quit Note (no save prompt)"_s), Qt::LeftButton);
+    EXPECT_TRUE(notice().startsWith(u"Couldn't tell Note to quit"_s));
+    EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
+}
+
+TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {
+    show();
+    table->header()->resizeSection(1, 99);
+    EXPECT_EQ(ProcessesView(model, prefs).findChild<ProcessTableView*>()->header()->sectionSize(1), 99);
+    prefs.file().store(u"ui.processes.widths"_s, u"-5 99999999 x"_s);
+    const ProcessesView again(model, prefs);
+    EXPECT_EQ(again.findChild<ProcessTableView*>()->header()->sectionSize(1), 156);
+}
