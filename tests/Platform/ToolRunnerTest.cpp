@@ -1,83 +1,158 @@
 #include "Platform/Linux/LinuxToolRunner.h"
 
-#include <QCoroTask>
+#include "Platform/Child.h"
+#include "Platform/RecordedTree.h"
+
+#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QFileInfo>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
-ToolResult shell(const char* script, bool capture = true,
-                 std::optional<std::chrono::milliseconds> limit = {}) {
+ToolResult run(const QString& launchPath, const QStringList& arguments,
+               std::optional<std::chrono::milliseconds> terminateAfter = {}, bool captureOutput = true) {
     LinuxToolRunner runner;
-    return QCoro::waitFor(runner.run({.launchPath = QStringLiteral("/bin/sh"),
-                                      .arguments = {QStringLiteral("-c"), QString::fromUtf8(script)},
-                                      .captureOutput = capture,
-                                      .terminateAfter = limit}));
+    return QCoro::waitFor(runner.run({.launchPath = launchPath,
+                                      .arguments = arguments,
+                                      .captureOutput = captureOutput,
+                                      .terminateAfter = terminateAfter}));
+}
+
+ToolResult runShell(const QString& command, std::optional<std::chrono::milliseconds> terminateAfter = {},
+                    bool captureOutput = true) {
+    return run(u"/bin/sh"_s, {u"-c"_s, command}, terminateAfter, captureOutput);
+}
+
+std::string hostCommand(const QString& verb, const QString& command) {
+    const QString host = QCoreApplication::applicationDirPath() + u"/tool_host"_s;
+    return u"'%1' %2 '%3'"_s.arg(host, verb, command).toStdString();
+}
+
+/// Whether the process is there and no mere remains.
+bool isRunning(const QByteArray& pid) {
+    const QByteArray state = outputOf("ps -o stat= -p " + pid.toStdString());
+    return !state.isEmpty() && !state.startsWith('Z');
 }
 
 } // namespace
 
-TEST(ToolRunner, ReportsStatusAndOutput) {
-    struct Case {
-        const char* script;
-        int status;
-        QByteArray output;
-    };
-    const Case cases[] = {
-        {"echo hello; exit 3", 3, "hello\n"},
-        {"printf 'a\\0\\377b'", 0, QByteArray("a\0\377b", 4)},
-        {"kill -KILL $$", -1, ""},
-        {"cat", 0, ""}, // nothing on standard input
-        {"head -c 1000000 /dev/zero >&2; echo quiet", 0, "quiet\n"},
-    };
-    for (const Case& c : cases) {
-        const ToolResult result = shell(c.script);
-        EXPECT_TRUE(result.launched) << c.script;
-        EXPECT_EQ(result.exitStatus, c.status) << c.script;
-        EXPECT_EQ(result.output, c.output) << c.script;
-        EXPECT_EQ(result.succeeded(), c.status == 0) << c.script;
-    }
+TEST(ToolRunner, TellsHowAProgramEnded) {
+    EXPECT_EQ(runShell(u"exit 0"_s).exitStatus, 0);
+    EXPECT_TRUE(runShell(u"exit 0"_s).succeeded());
+    EXPECT_EQ(runShell(u"exit 3"_s).exitStatus, 3);
+    EXPECT_FALSE(runShell(u"exit 3"_s).succeeded());
+    const ToolResult crashed = runShell(u"kill -KILL $$"_s);
+    EXPECT_TRUE(crashed.launched);
+    EXPECT_EQ(crashed.exitStatus, -1);
 }
 
-TEST(ToolRunner, MuchOutputBlocksNobody) {
-    EXPECT_EQ(shell("head -c 3000000 /dev/zero").output.size(), 3000000);
-    const ToolResult dropped = shell("head -c 3000000 /dev/zero", false);
-    EXPECT_TRUE(dropped.succeeded());
-    EXPECT_TRUE(dropped.output.isEmpty());
-}
-
-TEST(ToolRunner, AProgramThatCannotBeLaunchedAnswersAtOnce) {
-    const QTemporaryDir folder;
-    const QString notExecutable = folder.filePath(QStringLiteral("plain"));
-    QFile file(notExecutable);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    for (const QString& path : {folder.filePath(QStringLiteral("missing")), notExecutable, folder.path()}) {
-        QElapsedTimer time;
-        time.start();
-        LinuxToolRunner runner;
-        const ToolResult result = QCoro::waitFor(runner.run({.launchPath = path, .arguments = {}}));
+TEST(ToolRunner, AnswersAtOnceForWhatCannotBeLaunched) {
+    RecordedTree tree;
+    tree.with(u"plain"_s, "not a program");
+    QElapsedTimer time;
+    time.start();
+    for (const QString& path :
+         {u"/nowhere/tool"_s, tree.path() + u"/plain"_s, tree.path(), u"/dev/null"_s, QString()}) {
+        const ToolResult result = run(path, {});
         EXPECT_FALSE(result.launched) << qPrintable(path);
-        EXPECT_EQ(result.exitStatus, -1);
-        EXPECT_LT(time.elapsed(), 2000);
+        EXPECT_EQ(result.exitStatus, -1) << qPrintable(path);
     }
+    EXPECT_LT(time.elapsed(), 2000);
 }
 
-TEST(ToolRunner, ALateToolIsTerminatedAndAStubbornOneKilled) {
-    for (const char* script : {"exec sleep 60", "trap '' TERM; sleep 60 & wait; sleep 60"}) {
+TEST(ToolRunner, KeepsOutputByteForByteAndDropsTheRest) {
+    const ToolResult large = run(u"/usr/bin/head"_s, {u"-c"_s, u"1048576"_s, u"/dev/zero"_s});
+    EXPECT_EQ(large.output, QByteArray(1048576, '\0'));
+    EXPECT_EQ(runShell(u"printf '\\377\\376\\303'"_s).output, "\377\376\303");
+    EXPECT_EQ(runShell(u"echo no >&2; echo yes"_s).output, "yes\n");
+
+    const auto chatty = u"head -c 4194304 /dev/zero >&2; head -c 4194304 /dev/zero; exit 7"_s;
+    const ToolResult unasked = runShell(chatty, {}, false);
+    EXPECT_EQ(unasked.exitStatus, 7);
+    EXPECT_TRUE(unasked.output.isEmpty());
+}
+
+TEST(ToolRunner, GivesNothingToRead) {
+    const ToolResult reader = run(u"/bin/cat"_s, {});
+    EXPECT_TRUE(reader.succeeded());
+    EXPECT_TRUE(reader.output.isEmpty());
+}
+
+TEST(ToolRunner, TerminatesWhatTakesTooLong) {
+    struct Case {
+        QString command;
+        int status;
+        qint64 leastMs;
+        qint64 mostMs;
+    };
+    for (const auto& [command, status, leastMs, mostMs] : {
+             Case{u"exec sleep 60"_s, -1, 200, 1100},
+             Case{u"trap 'exit 5' TERM; while :; do sleep 0.05; done"_s, 5, 200, 1100},
+             Case{u"trap '' TERM; exec sleep 60"_s, -1, 1200, 4000},
+             Case{u"exit 4"_s, 4, 0, 200},
+         }) {
         QElapsedTimer time;
         time.start();
-        const ToolResult result = shell(script, false, 200ms);
-        EXPECT_TRUE(result.launched);
-        EXPECT_FALSE(result.succeeded());
-        EXPECT_LT(time.elapsed(), 10000) << script;
+        const ToolResult result = runShell(command, 200ms);
+        EXPECT_TRUE(result.launched) << qPrintable(command);
+        EXPECT_EQ(result.exitStatus, status) << qPrintable(command);
+        EXPECT_GE(time.elapsed(), leastMs) << qPrintable(command);
+        EXPECT_LT(time.elapsed(), mostMs) << qPrintable(command);
     }
 }
 
-TEST(ToolRunner, ChildrenAreNiceToTheRestOfTheMachine) {
-    EXPECT_GE(shell("cut -d' ' -f19 /proc/$$/stat").output.trimmed().toInt(), 10);
+TEST(ToolRunner, RunsItsChildrenBehindEverythingElse) {
+    const int expected = std::min(19, getpriority(PRIO_PROCESS, 0) + 10);
+    EXPECT_EQ(runShell(u"nice"_s).output.trimmed().toInt(), expected);
+    EXPECT_EQ(runShell(u"ionice -p $$"_s).output, "best-effort: prio 7\n");
+}
+
+TEST(ToolRunner, GivesChildrenTheDescriptorLimitWeWereStartedWith) {
+    const QByteArray limits =
+        outputOf("ulimit -Sn 300; " + hostCommand(u"wait"_s, u"ulimit -Sn; ulimit -Hn"_s));
+    EXPECT_EQ(limits, "300\n" + outputOf("ulimit -Hn"));
+}
+
+TEST(ToolRunner, LeavesNoChildBehindAndIsNotHeldUpByOne) {
+    for (const auto& command : {u"echo $$ >%1; exec sleep 60"_s, u"sleep 60 & echo $! >%1; wait"_s,
+                                u"trap : TERM; echo $$ >%1; while :; do sleep 1; done"_s}) {
+        const RecordedTree tree;
+        const QString note = tree.path() + u"/pid"_s;
+        QElapsedTimer time;
+        time.start();
+        outputOf(hostCommand(u"leave"_s, command.arg(note)));
+        EXPECT_LT(time.elapsed(), 5000) << qPrintable(command);
+        QFile file(note);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(command);
+        const QByteArray pid = file.readAll().trimmed();
+        ASSERT_GT(pid.toInt(), 1) << qPrintable(command);
+        for (time.start(); isRunning(pid) && time.elapsed() < 5000;)
+            QThread::msleep(20);
+        EXPECT_FALSE(isRunning(pid)) << qPrintable(command);
+    }
+}
+
+TEST(ToolRunner, AnswersForToolsThatLinuxLacks) {
+    const LinuxToolRunner runner(u"/own"_s);
+    for (const auto& [path, program] : {
+             std::pair(u"/usr/bin/memory_pressure"_s, u"/own/memory_pressure"_s),
+             std::pair(u"/usr/bin/osascript"_s, u"/own/osascript"_s),
+             std::pair(u"/usr/sbin/purge"_s, u"/own/purge"_s),
+             std::pair(u"/usr/bin/du"_s, u"/usr/bin/du"_s),
+             std::pair(u"/bin/sh"_s, u"/bin/sh"_s),
+             std::pair(u"/opt/bin/osascript"_s, u"/opt/bin/osascript"_s),
+         })
+        EXPECT_EQ(runner.programFor(path), program);
+    const ToolResult refused = run(u"/usr/bin/osascript"_s, {u"-e"_s, u"beep"_s});
+    EXPECT_EQ(refused.exitStatus, 2);
 }

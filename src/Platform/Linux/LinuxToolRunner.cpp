@@ -2,9 +2,13 @@
 
 #include "Platform/Linux/DescriptorLimit.h"
 
+#include <QCoreApplication>
 #include <QCoroFuture>
+#include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QPromise>
+#include <QSet>
 #include <QTimer>
 
 #include <signal.h>
@@ -13,7 +17,29 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+/// The process groups of the tools that run. A tool's own children are in its group, and none is to be left
+/// behind when this program ends: a shell that is told to end does not tell its children.
+class ToolGroups {
+public:
+    ~ToolGroups() {
+        for (const pid_t group : m_groups)
+            ::kill(-group, SIGKILL);
+    }
+    void add(pid_t group) { m_groups.insert(group); }
+    void remove(pid_t group) { m_groups.remove(group); }
+
+private:
+    QSet<pid_t> m_groups;
+};
+
+ToolGroups& toolGroups() {
+    static ToolGroups groups;
+    return groups;
+}
 
 constexpr std::chrono::seconds graceAfterTerminate{1};
 
@@ -24,6 +50,7 @@ void prepareChild(pid_t parent, const rlimit& descriptors) {
     constexpr int thisProcess = 1;
     constexpr int bestEffort = 2;
     constexpr int lowestLevel = 7;
+    setpgid(0, 0);
     setpriority(PRIO_PROCESS, 0, niceness);
     syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestLevel);
     setrlimit(RLIMIT_NOFILE, &descriptors);
@@ -53,22 +80,53 @@ QFuture<void> endOf(const QProcess& process) {
 }
 
 void terminateLater(QProcess* process, std::chrono::milliseconds time) {
-    QTimer::singleShot(time, process, [process] {
-        process->terminate();
-        QTimer::singleShot(graceAfterTerminate, process, &QProcess::kill);
+    const auto signalGroup = [process](int signal) {
+        if (process->processId() > 0)
+            ::kill(-static_cast<pid_t>(process->processId()), signal);
+    };
+    QTimer::singleShot(time, process, [process, signalGroup] {
+        signalGroup(SIGTERM);
+        QTimer::singleShot(graceAfterTerminate, process, [signalGroup] { signalGroup(SIGKILL); });
     });
 }
 
 } // namespace
 
+LinuxToolRunner::LinuxToolRunner(QString toolsFolder)
+    : m_toolsFolder(std::move(toolsFolder)) {}
+
+QString LinuxToolRunner::ownToolsFolder() {
+    const QDir own(QCoreApplication::applicationDirPath());
+    for (const char* folder : {TAVRIN_TOOLS_FOLDERS}) {
+        const QString path = QDir::cleanPath(own.filePath(QString::fromUtf8(folder)));
+        if (QFileInfo(path).isDir())
+            return path;
+    }
+    return own.path();
+}
+
+QString LinuxToolRunner::programFor(const QString& launchPath) const {
+    for (const auto& lacking :
+         {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s}) {
+        if (launchPath == lacking)
+            return QDir(m_toolsFolder).filePath(QFileInfo(lacking).fileName());
+    }
+    return launchPath;
+}
+
 QCoro::Task<ToolResult> LinuxToolRunner::run(ToolRequest request) {
     QProcess process;
     configure(process, request.captureOutput);
     QFuture<void> ended = endOf(process);
-    process.start(request.launchPath, request.arguments);
+    process.start(programFor(request.launchPath), request.arguments);
+    const auto group = static_cast<pid_t>(process.processId());
+    if (group > 0)
+        toolGroups().add(group);
     if (request.terminateAfter)
         terminateLater(&process, *request.terminateAfter);
-    co_await ended;
+    if (process.state() != QProcess::NotRunning) // a program without a name changes no state
+        co_await ended;
+    toolGroups().remove(group);
 
     ToolResult result;
     result.launched = process.error() != QProcess::FailedToStart;

@@ -2,12 +2,26 @@
 
 #include "Platform/ToolRunner.h"
 
-/// Runs programs as children of low CPU and I/O priority that end with this program, with nothing on their
-/// standard input. Output that nobody asked for, and all of standard error, is dropped. A child that outlives
-/// `terminateAfter`, counted from its launch, gets SIGTERM and, a second later, SIGKILL. Needs a running
-/// event loop.
+/// Runs programs as children of low CPU and I/O priority, with nothing on their standard input. Output that
+/// nobody asked for, and all of standard error, is dropped. A child that outlives `terminateAfter`, counted
+/// from its launch, gets SIGTERM and, a second later, SIGKILL. When this program ends, its children end with
+/// it, and so do theirs. Needs a running event loop.
 class LinuxToolRunner : public ToolRunner {
 public:
+    /// `toolsFolder` holds our own programs; tests name another one.
+    explicit LinuxToolRunner(QString toolsFolder = ownToolsFolder());
+
     /// A program that cannot be launched answers at once.
     QCoro::Task<ToolResult> run(ToolRequest request) override;
+
+    /// The file that answers for a launch path: one of our own for the tools that Linux lacks, otherwise the
+    /// path as it stands.
+    QString programFor(const QString& launchPath) const;
+
+    /// Where our own programs are, found from the folder of the running program: as installed, or in the
+    /// build tree. Not the environment, which others could set.
+    static QString ownToolsFolder();
+
+private:
+    QString m_toolsFolder;
 };

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct xcb_connection_t;
+
+namespace Tools {
+
+/// A window that a person sees as one.
+struct DesktopWindow {
+    std::uint32_t id = 0;
+    std::string instance;  ///< WM_CLASS, first part
+    std::string className; ///< WM_CLASS, second part
+    std::optional<pid_t>
+        pid; ///< _NET_WM_PID: what the client says of itself; only of clients on this machine
+};
+
+/// The windows on the X display that DISPLAY names, asked to close the way a window manager asks. Without a
+/// display there are none.
+class DesktopWindows {
+public:
+    DesktopWindows();
+    ~DesktopWindows();
+    DesktopWindows(const DesktopWindows&) = delete;
+    DesktopWindows& operator=(const DesktopWindows&) = delete;
+
+    /// Those the window manager lists, or all that are shown where there is no window manager.
+    std::vector<DesktopWindow> list();
+    /// Asks the window's program to close it; it may ask back, or refuse.
+    void close(std::uint32_t window);
+    /// Cuts the program that shows the window off from the display, which ends most programs.
+    void cutOff(std::uint32_t window);
+
+private:
+    std::uint32_t atom(const std::string& name);
+    std::string property(std::uint32_t window, const std::string& name);
+    std::vector<std::uint32_t> words(std::uint32_t window, const std::string& name);
+    std::vector<std::uint32_t> shownChildren();
+    DesktopWindow describe(std::uint32_t id);
+    void send(std::uint32_t target, std::uint32_t mask, std::uint32_t window, const std::string& type,
+              std::uint32_t first, std::uint32_t second);
+
+    xcb_connection_t* m_connection;
+    std::uint32_t m_root = 0;
+    std::map<std::string, std::uint32_t> m_atoms;
+};
+
+} // namespace Tools

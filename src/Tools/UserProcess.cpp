@@ -1,0 +1,140 @@
+#include "Tools/UserProcess.h"
+
+#include <poll.h>
+#include <strings.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <climits>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view bundleEnding = ".app/";
+
+std::string linkTarget(const std::string& link) {
+    char room[PATH_MAX];
+    const auto length = readlink(link.c_str(), room, sizeof room);
+    std::string target(room, length > 0 ? static_cast<size_t>(length) : 0);
+    // The kernel's mark of a program that was replaced on disk, as an update does.
+    constexpr std::string_view replaced = " (deleted)";
+    if (target.ends_with(replaced))
+        target.resize(target.size() - replaced.size());
+    return target;
+}
+
+std::string firstLine(const std::string& file) {
+    std::string line;
+    std::getline(std::ifstream(file), line);
+    return line;
+}
+
+/// The real user id (proc(5), status). The owner of the folder would not do: it is root for a program that
+/// keeps its memory from being read.
+bool isOwn(const std::string& folder) {
+    std::ifstream status(folder + "status");
+    for (std::string line; std::getline(status, line);) {
+        if (!line.starts_with("Uid:"))
+            continue;
+        uid_t user = 0;
+        std::istringstream(line.substr(4)) >> user;
+        return user == getuid();
+    }
+    return false;
+}
+
+std::string_view lastComponent(std::string_view path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
+std::string_view outermostBundle(std::string_view path) {
+    const auto end = path.find(bundleEnding);
+    return end == std::string_view::npos ? std::string_view() : lastComponent(path.substr(0, end));
+}
+
+} // namespace
+
+namespace Tools {
+
+UserProcess::UserProcess(pid_t pid, int descriptor)
+    : m_pid(pid)
+    , m_descriptor(descriptor) {}
+
+UserProcess::UserProcess(UserProcess&& other) noexcept
+    : m_pid(other.m_pid)
+    , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_executable(std::move(other.m_executable))
+    , m_command(std::move(other.m_command)) {}
+
+UserProcess& UserProcess::operator=(UserProcess&& other) noexcept {
+    std::swap(m_pid, other.m_pid);
+    std::swap(m_descriptor, other.m_descriptor);
+    std::swap(m_executable, other.m_executable);
+    std::swap(m_command, other.m_command);
+    return *this;
+}
+
+UserProcess::~UserProcess() {
+    if (m_descriptor >= 0)
+        close(m_descriptor);
+}
+
+std::optional<UserProcess> UserProcess::open(pid_t pid) {
+    const int descriptor = pid > 1 ? static_cast<int>(syscall(SYS_pidfd_open, pid, 0)) : -1;
+    if (descriptor < 0)
+        return std::nullopt;
+    UserProcess process(pid, descriptor);
+    const std::string folder = "/proc/" + std::to_string(pid) + '/';
+    if (!isOwn(folder))
+        return std::nullopt;
+    process.m_executable = linkTarget(folder + "exe");
+    process.m_command = firstLine(folder + "comm");
+    // Alive after the reading, so that what was read is of the process that the descriptor holds.
+    if (process.m_executable.empty() || process.hasEnded())
+        return std::nullopt;
+    return process;
+}
+
+bool UserProcess::belongsTo(std::string_view application) const {
+    const std::string bundle = '/' + std::string(application) + std::string(bundleEnding);
+    return m_executable.find(bundle) != std::string::npos || lastComponent(m_executable) == application;
+}
+
+bool UserProcess::isCalled(std::string_view name) const {
+    return equalNames(m_command, name) || equalNames(lastComponent(m_executable), name) ||
+           equalNames(outermostBundle(m_executable), name);
+}
+
+bool UserProcess::hasEnded() const {
+    pollfd ended{m_descriptor, POLLIN, 0};
+    return poll(&ended, 1, 0) != 0;
+}
+
+void UserProcess::signal(int number) const {
+    syscall(SYS_pidfd_send_signal, m_descriptor, number, nullptr, 0);
+}
+
+std::vector<UserProcess> userProcesses(const std::function<bool(const UserProcess&)>& isWanted) {
+    std::vector<UserProcess> processes;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename();
+        pid_t pid = 0;
+        if (std::from_chars(name.data(), name.data() + name.size(), pid).ptr != name.data() + name.size())
+            continue;
+        auto process = UserProcess::open(pid);
+        if (process && isWanted(*process))
+            processes.push_back(std::move(*process));
+    }
+    return processes;
+}
+
+bool equalNames(std::string_view left, std::string_view right) {
+    return !left.empty() && left.size() == right.size() &&
+           strncasecmp(left.data(), right.data(), left.size()) == 0;
+}
+
+} // namespace Tools

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Tools {
+
+/// A process of this user, held by a descriptor (pidfd) so that its id can never come to mean another one.
+class UserProcess {
+public:
+    /// Nothing for a process that is gone, is another user's or does not show its executable.
+    static std::optional<UserProcess> open(pid_t pid);
+    UserProcess(UserProcess&& other) noexcept;
+    UserProcess& operator=(UserProcess&& other) noexcept;
+    ~UserProcess();
+
+    pid_t pid() const { return m_pid; }
+    /// The path of the program it runs.
+    const std::string& executable() const { return m_executable; }
+
+    /// Whether it runs from a bundle NAME.app or runs a program called so.
+    bool belongsTo(std::string_view application) const;
+    /// Whether its own name, its program's or its outermost bundle's is `name`, letter case aside.
+    bool isCalled(std::string_view name) const;
+
+    bool hasEnded() const;
+    void signal(int number) const;
+
+private:
+    UserProcess(pid_t pid, int descriptor);
+
+    pid_t m_pid;
+    int m_descriptor;
+    std::string m_executable;
+    std::string m_command; ///< proc(5), comm: 15 bytes at most
+};
+
+/// The processes of this user that `isWanted`.
+std::vector<UserProcess> userProcesses(const std::function<bool(const UserProcess&)>& isWanted);
+
+/// ASCII letters compare without case.
+bool equalNames(std::string_view left, std::string_view right);
+
+} // namespace Tools

@@ -1,0 +1,57 @@
+#include "Tools/AppleScript.h"
+#include "Tools/Purge.h"
+#include "Tools/QuitApplication.h"
+
+#include <filesystem>
+#include <iostream>
+#include <string_view>
+#include <system_error>
+
+namespace {
+
+using Tools::AppleScript;
+using Tools::QuitOutcome;
+
+/// Our own `purge`, installed beside this program.
+std::string purgeTool() {
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).replace_filename("purge");
+}
+
+const char* complaint(QuitOutcome outcome) {
+    switch (outcome) {
+    case QuitOutcome::NotFound:
+        return "application not found";
+    case QuitOutcome::HasNoWindow:
+        return "application has no window that could be closed";
+    case QuitOutcome::StillRunning:
+        return "application did not quit";
+    case QuitOutcome::Quit:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// Tells applications to quit: `osascript -e SCRIPT`, for the scripts in Tools/AppleScript.h and no others.
+/// Status 0 when it was done, 1 when it could not be, 2 for a script or arguments that are not understood.
+int main(int argc, char** argv) {
+    if (argc != 3 || std::string_view(argv[1]) != "-e") {
+        std::cerr << "usage: osascript -e SCRIPT\n";
+        return 2;
+    }
+    const auto script = Tools::parseAppleScript(argv[2]);
+    if (!script) {
+        std::cerr << "osascript: this script is not understood\n";
+        return 2;
+    }
+    if (script->verb == AppleScript::Verb::Purge)
+        return Tools::runAsAdministrator(purgeTool(), "/usr/bin/pkexec");
+    const bool forced = script->verb == AppleScript::Verb::QuitWithoutSaving;
+    if (const char* text = complaint(Tools::quitApplication(script->application, forced))) {
+        std::cerr << "osascript: " << text << '\n';
+        return 1;
+    }
+    return 0;
+}

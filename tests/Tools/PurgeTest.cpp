@@ -1,0 +1,62 @@
+#include "Tools/Purge.h"
+
+#include "Platform/RecordedTree.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+namespace {
+
+/// Writes an executable script and returns its path.
+std::string script(RecordedTree& tree, const QString& name, const QByteArray& text) {
+    tree.with(name, "#!/bin/sh\n" + text);
+    QFile file(tree.path() + u'/' + name);
+    file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeUser);
+    return file.fileName().toStdString();
+}
+
+[[noreturn]] void dropAsAnotherUser(const std::string& dropFile) {
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0 && setuid(nobody) != 0)
+        _exit(99);
+    _exit(Tools::dropCleanCaches(dropFile));
+}
+
+} // namespace
+
+TEST(PurgeDeathTest, IsRefusedToAnotherUser) {
+    EXPECT_EXIT(dropAsAnotherUser("/dev/null"), testing::ExitedWithCode(1), "only the administrator");
+}
+
+TEST(Purge, AsksForCleanCachesAlone) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root gets as far as the file";
+    RecordedTree tree;
+    tree.with(QStringLiteral("drop_caches"), {});
+    EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/drop_caches"), 0);
+    QFile written(tree.path() + QStringLiteral("/drop_caches"));
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(written.readAll(), "1");
+    EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/missing"), 1);
+    EXPECT_EQ(Tools::dropCleanCaches("/dev/full"), 1);
+}
+
+TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
+    RecordedTree tree;
+    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
+    const std::string prompt =
+        script(tree, QStringLiteral("pkexec"), "[ $# = 1 ] && echo \"asked for $1\" >&2; exit 126\n");
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, prompt)), testing::ExitedWithCode(126),
+                "asked for " + program);
+}
+
+TEST(PurgeDeathTest, AMissingPartIsAMessageAndAFailure) {
+    RecordedTree tree;
+    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
+    const std::string missing = tree.path().toStdString() + "/missing";
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, missing)), testing::ExitedWithCode(1),
+                "missing: No such file");
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator(missing, "/bin/true")), testing::ExitedWithCode(1),
+                "missing: No such file");
+}

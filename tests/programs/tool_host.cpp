@@ -1,0 +1,40 @@
+#include "Platform/Linux/DescriptorLimit.h"
+#include "Platform/Linux/LinuxToolRunner.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+QCoro::Task<ToolResult> runShell(QString command) {
+    ToolRequest request;
+    request.launchPath = QStringLiteral("/bin/sh");
+    request.arguments = QStringList({QStringLiteral("-c"), command});
+    request.captureOutput = true;
+    LinuxToolRunner runner;
+    const ToolResult result = co_await runner.run(request);
+    co_return result;
+}
+
+} // namespace
+
+/// A program like ours that runs a shell command as its tool:
+///   tool_host wait COMMAND    prints what the command printed
+///   tool_host leave COMMAND   ends while the command runs
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    if (argc != 3)
+        return 2;
+    DescriptorLimit::raised();
+    auto task = runShell(QString::fromLocal8Bit(argv[2]));
+    if (std::string_view(argv[1]) == "leave") {
+        QTimer::singleShot(500, &application, &QCoreApplication::quit);
+        return QCoreApplication::exec();
+    }
+    const ToolResult result = QCoro::waitFor(task);
+    std::fwrite(result.output.data(), 1, static_cast<size_t>(result.output.size()), stdout);
+    return result.exitStatus;
+}
