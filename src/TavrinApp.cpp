@@ -4,6 +4,7 @@
 #include "AppModel.h"
 #include "Platform/Appearance.h"
 #include "Platform/SingleInstance.h"
+#include "Platform/TerminationRequest.h"
 #include "Preferences.h"
 #include "UI/Kit/ThemeFollower.h"
 
@@ -41,6 +42,8 @@ int TavrinApp::run() {
         std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(), Desktop::native());
     connect(&instance, &SingleInstance::startedAgain, this, [this] { m_appDelegate->bringForward(); });
     m_appDelegate->applicationDidFinishLaunching();
+    const TerminationRequest termination;
+    connect(&termination, &TerminationRequest::received, this, &QCoreApplication::quit);
     const int status = exec();
     m_appDelegate.reset();
     return status;

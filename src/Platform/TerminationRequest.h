@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QObject>
+
+/// The system, or whoever started the program, asks it to end: the session closes, a terminal's interrupt
+/// key was pressed. One per program.
+class TerminationRequest : public QObject {
+    Q_OBJECT
+
+public:
+    explicit TerminationRequest(QObject* parent = nullptr);
+
+Q_SIGNALS:
+    /// On the main loop. A second request before the first was obeyed ends the program the hard way.
+    void received();
+};
