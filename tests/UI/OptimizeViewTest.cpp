@@ -58,8 +58,11 @@ TEST_F(OptimizeViewTest, TilesCountWhatAPressWouldSignal) {
     tick();
     EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 3 matching"_s);
     fakes.signalSender->end(100);
+    const QPoint place = tiles()[0]->mapTo(&view, QPoint());
     QTest::mouseClick(tiles()[0], Qt::LeftButton);
     EXPECT_EQ(notice(), u"Work: killed 2/3"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tiles()[0]->mapTo(&view, QPoint()), place) << "a second click must not meet another button";
     usePreset(u"None"_s, u"nobody"_s);
     QTest::keyClick(tiles()[0], Qt::Key_Space);
     EXPECT_EQ(notice(), u"None: nothing matched"_s);

@@ -1,11 +1,13 @@
 #include "UI/Kit/Notice.h"
 
 #include "UI/Kit/Card.h"
+#include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 
 using Theme::Role;
 
@@ -34,6 +36,12 @@ Notice::Notice(QString symbol, std::chrono::milliseconds lifetime, QWidget* pare
     m_timer.setInterval(lifetime);
     connect(&m_timer, &QTimer::timeout, this, &QWidget::hide);
     hide();
+}
+
+/// The card's ground is translucent, and a notice may lie over other things.
+void Notice::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill), Qt::transparent);
 }
 
 void Notice::show(const QString& text) {

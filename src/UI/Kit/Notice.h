@@ -17,6 +17,9 @@ public:
 
     void show(const QString& text);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     QString m_symbol;
     TextLabel* m_text;

@@ -23,6 +23,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int cardGap = 18;
+constexpr int noticeTop = 8;
 constexpr auto noticeLifetime = 6s;
 
 } // namespace
@@ -31,7 +32,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     : QScrollArea(parent)
     , m_model(model)
     , m_preferences(preferences)
-    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime))
+    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime, this))
     , m_memory(new MemoryCard)
     , m_quickKills(new QuickKillsCard)
     , m_mcp(new MCPCard)
@@ -41,7 +42,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(cardGap);
-    const QList<QWidget*> parts = {m_notice, m_memory, m_quickKills, m_mcp, m_caches, m_auto};
+    const QList<QWidget*> parts = {m_memory, m_quickKills, m_mcp, m_caches, m_auto};
     for (QWidget* part : parts)
         column->addWidget(part);
     column->addStretch();
@@ -49,6 +50,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     SlimScrollBar::install(this);
+    m_notice->raise();
     setAccessibleName(QStringLiteral("Optimize"));
     connectCards();
     observe(&m_model, this, [this] { refresh(); });
@@ -72,6 +74,11 @@ void OptimizeView::showEvent(QShowEvent* event) {
     QScrollArea::showEvent(event);
 }
 
+void OptimizeView::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    placeNotice();
+}
+
 void OptimizeView::refresh() {
     if (!isOnScreen(this))
         return;
@@ -83,7 +90,14 @@ void OptimizeView::refresh() {
 
 void OptimizeView::toast(const QString& message) {
     m_notice->show(message);
-    ensureVisible(0, 0);
+    placeNotice();
+}
+
+/// It lies over the page: if the cards made room for it, the second press of a double click would meet
+/// another button than the first.
+void OptimizeView::placeNotice() {
+    const int width = viewport()->width() - Theme::pageMargins.left() - Theme::pageMargins.right();
+    m_notice->setGeometry(Theme::pageMargins.left(), noticeTop, width, m_notice->sizeHint().height());
 }
 
 void OptimizeView::nudge() {

@@ -22,11 +22,13 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void connectCards();
     void refresh();
     void toast(const QString& message);
+    void placeNotice();
     void nudge();
     void purge();
     void killPreset(const QuickKillPreset& preset);

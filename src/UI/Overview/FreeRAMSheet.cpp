@@ -209,17 +209,30 @@ void FreeRAMSheet::clear() {
     refresh();
 }
 
+/// In the order of the list; those that are no candidates any more at the end.
+QList<qint32> FreeRAMSheet::tickedPids() const {
+    QList<qint32> pids;
+    for (const FreeRamPreview& candidate : m_candidates) {
+        if (m_selected.contains(candidate.pid))
+            pids.append(candidate.pid);
+    }
+    for (auto ticked = m_selected.keyBegin(); ticked != m_selected.keyEnd(); ++ticked) {
+        if (!pids.contains(*ticked))
+            pids.append(*ticked);
+    }
+    return pids;
+}
+
 void FreeRAMSheet::start() {
     if (m_running)
         return;
     m_running = true;
     m_result->hide();
     refresh();
-    m_model.freeRAM(m_selected.keys())
-        .then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
-            if (self)
-                self->finish(result);
-        });
+    m_model.freeRAM(tickedPids()).then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
+        if (self)
+            self->finish(result);
+    });
 }
 
 void FreeRAMSheet::finish(const FreeRAMResult& result) {

@@ -41,6 +41,7 @@ private:
     void start();
     void finish(const FreeRAMResult& result);
     quint64 selectedRAM() const;
+    QList<qint32> tickedPids() const;
 
     AppModel& m_model;
     QList<FreeRamPreview> m_candidates;
