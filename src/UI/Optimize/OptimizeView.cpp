@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int cardGap = 18;
-constexpr int noticeTop = 8;
+constexpr int noticeHeight = 48; // as the head of the card behind it
 constexpr auto noticeLifetime = 6s;
 
 } // namespace
@@ -97,7 +97,7 @@ void OptimizeView::toast(const QString& message) {
 /// another button than the first.
 void OptimizeView::placeNotice() {
     const int width = viewport()->width() - Theme::pageMargins.left() - Theme::pageMargins.right();
-    m_notice->setGeometry(Theme::pageMargins.left(), noticeTop, width, m_notice->sizeHint().height());
+    m_notice->setGeometry(Theme::pageMargins.left(), Theme::pageMargins.top(), width, noticeHeight);
 }
 
 void OptimizeView::nudge() {
