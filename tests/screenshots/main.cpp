@@ -17,6 +17,7 @@
 #include "UI/Overview/GroupRow.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
+#include "UI/Settings/HistoryTab.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakePlatform.h"
@@ -28,6 +29,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEnterEvent>
+#include <QFileDialog>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QTest>
@@ -272,6 +274,49 @@ void shootPanels(Camera& camera) {
     camera.take(widget, QStringLiteral("widget-hover"));
 }
 
+QAbstractButton* buttonOf(const QWidget& parent, const QString& text) {
+    for (auto* button : parent.findChildren<QAbstractButton*>()) {
+        if (button->text() == text)
+            return button;
+    }
+    qFatal("no button %s", qPrintable(text));
+}
+
+void shootHistory(Camera& camera) {
+    const TemporaryHome home;
+    const QString log = QStringLiteral("Library/Logs/Tavrin/actions.log");
+    QByteArray lines;
+    constexpr const char* actions[] = {"clean\tok\t2148532224\tXcode DerivedData",
+                                       "quit\tok\t0\tfirefox-esr (graceful)",
+                                       "forceKill\tok\t612368384\tchrome ×24",
+                                       "clean\tfail\t0\tDocker: the daemon does not answer",
+                                       "quit\tok\t1395864371\t[free RAM] 5 processes, the largest of them "
+                                       "containerd-shim-runc-v2 with 412 MB",
+                                       "forceKill\tfail\t0\tzsh \x1b[31m<b>not bold</b>",
+                                       "clean\tok\t734003200\tnpm"};
+    for (int i = 0; i < 40; ++i)
+        lines += "2026-11-" + QByteArray::number(10 + i / 4) + 'T' + QByteArray::number(10 + i % 4 * 3) +
+                 ":24:0" + QByteArray::number(i % 10) + "Z\t" + actions[i % 7] + '\n';
+    home.makeFile(log, lines);
+    HistoryTab tab;
+    tab.resize(640, 398);
+    tab.show();
+    auto* table = tab.findChild<QTreeView*>();
+    table->setCurrentIndex(table->model()->index(2, 0));
+    camera.take(tab, QStringLiteral("history"));
+    buttonOf(tab, QStringLiteral("Clear log"))->click();
+    camera.take(*tab.findChild<ConfirmDialog*>(), QStringLiteral("history-clear"));
+    delete tab.findChild<ConfirmDialog*>();
+    buttonOf(tab, QStringLiteral("Export CSV…"))->click();
+    camera.take(*tab.findChild<QFileDialog*>(), QStringLiteral("history-export"));
+    delete tab.findChild<QFileDialog*>();
+    table->sortByColumn(4, Qt::AscendingOrder);
+    camera.take(tab, QStringLiteral("history-sorted"));
+    tab.hide();
+    home.makeFile(log, {});
+    camera.take(tab, QStringLiteral("history-empty"));
+}
+
 /// Every symbol at 16, 24 and 48 points with its name.
 QPixmap contactSheet(double ratio) {
     constexpr int columns = 5;
@@ -344,6 +389,7 @@ int main(int argc, char** argv) {
     shootOverview(camera);
     shootFreeRAM(camera);
     shootPanels(camera);
+    shootHistory(camera);
     shootSheets(camera);
     return camera.failed() ? 1 : 0;
 }

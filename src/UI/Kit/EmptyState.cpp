@@ -19,6 +19,8 @@ EmptyState::EmptyState(const QString& symbol, const QString& headline, const QSt
     icon->set(symbol, Theme::Role::secondaryText);
     auto* title = new TextLabel(Theme::TextStyle::headline);
     title->setPlainText(headline);
+    if (headline.isEmpty())
+        title->hide();
     auto* detail = (new TextLabel(Theme::TextStyle::callout))->secondary()->wrapped();
     detail->setPlainText(text);
     detail->setAlignment(Qt::AlignCenter);

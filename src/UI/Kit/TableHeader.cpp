@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 using Theme::Role;
 
 namespace {
@@ -43,15 +45,30 @@ void TableHeader::paintSection(QPainter* painter, const QRect& area, int section
     painter->fillRect(area.left(), area.bottom(), area.width(), 1, Theme::color(Role::separator));
     painter->setFont(Theme::font(Theme::TextStyle::caption, isSorted ? QFont::DemiBold : QFont::Medium));
     painter->setPen(Theme::color(isSorted ? Role::primaryText : Role::secondaryText));
-    QRectF line = QRectF(area).adjusted(padding, 0, -padding, 0);
     const double width = QFontMetricsF(painter->font()).horizontalAdvance(text);
     const double room = isSorted ? chevronSize + 2 : 0;
+    // In a narrow column the padding gives way to the text.
+    const double inset = std::clamp((area.width() - width - room) / 2, 2.0, double(padding));
+    QRectF line = QRectF(area).adjusted(inset, 0, -inset, 0);
     if (alignment & Qt::AlignRight)
         line.setLeft(std::max(line.left(), line.right() - width - room - 1));
-    Painting::drawElided(*painter, line.adjusted(0, 0, -room, 0), Qt::ElideRight, text);
+    else if (alignment & Qt::AlignHCenter)
+        line.setLeft(std::max(line.left(), line.center().x() - (width + room) / 2));
+    Painting::drawElided(*painter, line.adjusted(0, 0, 1 - room, 0), Qt::ElideRight, text);
     if (isSorted)
-        Symbols::draw(*painter, QStringLiteral("chevron.down"), Theme::color(Role::primaryText),
-                      QRectF(std::min(line.left() + width + 2, line.right() - chevronSize), area.top(),
-                             chevronSize, area.height()),
-                      chevronSize);
+        drawChevron(*painter, QRectF(std::min(line.left() + width + 2, line.right() - chevronSize),
+                                     area.top(), chevronSize, area.height()));
+}
+
+/// Down for the largest first, up for the smallest.
+void TableHeader::drawChevron(QPainter& painter, const QRectF& area) const {
+    painter.save();
+    if (sortIndicatorOrder() == Qt::AscendingOrder) {
+        painter.translate(area.center());
+        painter.rotate(180);
+        painter.translate(-area.center());
+    }
+    Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::primaryText), area,
+                  chevronSize);
+    painter.restore();
 }

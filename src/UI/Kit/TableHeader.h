@@ -14,4 +14,7 @@ public:
 protected:
     void paintSection(QPainter* painter, const QRect& area, int section) const override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawChevron(QPainter& painter, const QRectF& area) const;
 };

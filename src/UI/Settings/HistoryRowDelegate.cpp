@@ -1,0 +1,120 @@
+#include "UI/Settings/HistoryRowDelegate.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QAbstractItemView>
+#include <QFontDatabase>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+using Column = HistoryTableModel::Column;
+
+constexpr int padding = 8;
+constexpr int rowHeight = 26;
+constexpr int okWidth = 40;
+constexpr int symbolSize = 14;
+/// Of a detail, which may be a megabyte long: more than any window is wide.
+constexpr qsizetype mostPainted = 2000;
+constexpr qsizetype mostInToolTip = 4000;
+
+Column columnOf(const QModelIndex& index) {
+    return static_cast<Column>(index.column());
+}
+
+QFont fontOf(Column column) {
+    const QFont caption = Theme::font(TextStyle::caption);
+    if (column != Column::kind)
+        return caption;
+    QFont monospaced = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    monospaced.setPointSizeF(caption.pointSizeF());
+    return monospaced;
+}
+
+/// The widest date and time of a year.
+double widestTime() {
+    using namespace std::chrono;
+    const LocalTimeText texts;
+    double widest = 0;
+    for (unsigned each = 1; each <= 12; ++each) {
+        const sys_days date = year(2028) / month(each) / day(28);
+        widest = std::max(
+            widest, Painting::tabularWidth(fontOf(Column::time), texts.of(date + hours(22) + minutes(58))));
+    }
+    return widest;
+}
+
+void paintOutcome(QPainter& painter, const QRectF& area, bool success) {
+    Symbols::draw(painter,
+                  success ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("xmark.octagon.fill"),
+                  Theme::color(success ? Role::green : Role::red), area, symbolSize);
+}
+
+} // namespace
+
+int HistoryRowDelegate::widthOf(Column column) {
+    switch (column) {
+    case Column::time:
+        return qRound(widestTime()) + 1 + 2 * padding;
+    case Column::kind:
+        return qRound(QFontMetricsF(fontOf(column)).horizontalAdvance(QStringLiteral("forceKill"))) + 1 +
+               2 * padding;
+    case Column::freed:
+        return qRound(Painting::tabularWidth(fontOf(column), QStringLiteral("1023.9 MB"))) + 1 + 2 * padding;
+    case Column::ok:
+        return okWidth;
+    case Column::detail:
+        break;
+    }
+    return 0;
+}
+
+void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+    if (option.state & QStyle::State_Selected)
+        painter->fillRect(option.rect, Theme::color(Role::accent, 0.16));
+    else if (option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus))
+        painter->fillRect(option.rect, Theme::color(Role::hoverFill));
+    const Column column = columnOf(index);
+    const auto& model = *static_cast<const HistoryTableModel*>(index.model());
+    if (column == Column::ok) {
+        paintOutcome(*painter, option.rect, model.filtered(index.row()).success);
+        return;
+    }
+    const QString text = index.data(Qt::DisplayRole).toString();
+    const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
+    painter->setFont(fontOf(column));
+    painter->setPen(Theme::color(column == Column::time || column == Column::kind ? Role::secondaryText
+                                                                                  : Role::primaryText));
+    if (column == Column::freed)
+        Painting::drawTabular(*painter, area, Qt::AlignRight, text);
+    else
+        Painting::drawElided(*painter, area, Qt::ElideRight, text.left(mostPainted));
+}
+
+QSize HistoryRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    return {okWidth, rowHeight};
+}
+
+bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (!index.isValid() || event->type() != QEvent::ToolTip)
+        return false;
+    const QString text = index.data(Qt::DisplayRole).toString();
+    const QFontMetricsF metrics(fontOf(columnOf(index)));
+    const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(mostPainted)) <=
+                                                              option.rect.width() - 2 * padding;
+    const QString shown = text.size() > mostInToolTip ? text.left(mostInToolTip) + u'…' : text;
+    // As markup that holds nothing but the text: that is how a tool tip wraps, and it guesses nothing.
+    QToolTip::showText(event->globalPos(),
+                       isWhole ? QString() : QStringLiteral("<p>%1</p>").arg(shown.toHtmlEscaped()), view);
+    return true;
+}

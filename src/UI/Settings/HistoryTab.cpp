@@ -1,0 +1,145 @@
+#include "UI/Settings/HistoryTab.h"
+
+#include "Core/ActionLogReader.h"
+#include "Core/Models.h"
+#include "UI/Kit/Card.h"
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/EmptyState.h"
+#include "UI/Kit/PopUpButton.h"
+#include "UI/Settings/HistoryTableModel.h"
+#include "UI/Settings/HistoryTableView.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QSaveFile>
+#include <QShortcut>
+#include <QShowEvent>
+#include <QStackedWidget>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pickerWidth = 220;
+
+/// All or nothing, so that an export that fails leaves an older file as it was. The log itself is no place
+/// for its export.
+void writeCSV(const QString& path) {
+    if (QFileInfo(path) == QFileInfo(ActionLogReader::path()))
+        return;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(ActionLogReader::exportCSV().toUtf8());
+    file.commit();
+}
+
+QString exportFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+} // namespace
+
+HistoryTab::HistoryTab(QWidget* parent)
+    : QWidget(parent)
+    , m_rows(new HistoryTableModel(this))
+    , m_table(new HistoryTableView(m_rows))
+    , m_stack(new QStackedWidget) {
+    auto* card = new Card;
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(1, 4, 1, 4);
+    inside->addWidget(m_stack);
+    m_stack->addWidget(m_table);
+    m_stack->addWidget(new EmptyState(u"clock.arrow.circlepath"_s, {}, u"No actions logged yet."_s));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Theme::pagePadding, Theme::gridSpacing, Theme::pagePadding,
+                               Theme::pagePadding);
+    column->setSpacing(Theme::rowSpacing + Theme::textGap);
+    column->addWidget(makeToolbar());
+    column->addWidget(card, 1);
+    setAccessibleName(u"History"_s);
+    auto* refreshKey = new QShortcut(QKeySequence::Refresh, this);
+    connect(refreshKey, &QShortcut::activated, this, &HistoryTab::refresh);
+    showRows();
+}
+
+QWidget* HistoryTab::makeToolbar() {
+    auto* kinds = new PopUpButton(u"Kind"_s);
+    kinds->addItem(u"All"_s, HistoryTableModel::allKinds());
+    for (const auto& [text, kind] : {std::pair(u"Quit"_s, ActionLogEntry::Kind::quit),
+                                     std::pair(u"Force kill"_s, ActionLogEntry::Kind::forceKill),
+                                     std::pair(u"Clean"_s, ActionLogEntry::Kind::clean)})
+        kinds->addItem(text, rawValue(kind));
+    kinds->setFixedWidth(pickerWidth);
+    connect(kinds, &PopUpButton::currentIndexChanged, this,
+            [this, kinds] { setFilterKind(kinds->currentData().toString()); });
+
+    auto* bar = new QWidget;
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::rowSpacing);
+    row->addWidget(kinds);
+    row->addStretch();
+    const auto add = [this, row](PushButton* button, void (HistoryTab::*act)()) {
+        connect(button, &QPushButton::clicked, this, act);
+        row->addWidget(button);
+    };
+    using Look = PushButton::Look;
+    add(new PushButton(u"Refresh"_s, Look::normal, u"arrow.clockwise"_s), &HistoryTab::refresh);
+    add(new PushButton(u"Export CSV…"_s, Look::normal, u"arrow.down.circle"_s), &HistoryTab::exportCSV);
+    add(new PushButton(u"Clear log"_s, Look::destructive, u"trash"_s), &HistoryTab::confirmClear);
+    return bar;
+}
+
+void HistoryTab::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) // a window that is no longer minimized has been there all along
+        refresh();
+    QWidget::showEvent(event);
+}
+
+void HistoryTab::refresh() {
+    QList<LoggedAction> entries = ActionLogReader::read();
+    if (entries != m_rows->entries()) // what has not changed keeps its selection and place
+        m_rows->setEntries(std::move(entries));
+    showRows();
+}
+
+void HistoryTab::setFilterKind(const QString& kind) {
+    m_rows->setFilterKind(kind);
+    m_table->scrollToTop();
+    showRows();
+}
+
+void HistoryTab::showRows() {
+    m_stack->setCurrentIndex(m_rows->rowCount() == 0 ? 1 : 0);
+}
+
+void HistoryTab::exportCSV() {
+    auto* panel = new QFileDialog(window(), u"Export CSV"_s, exportFolder());
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    // A desktop's own panel may ask whether to replace a file before the suffix is added to its name.
+    panel->setOption(QFileDialog::DontUseNativeDialog);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setNameFilter(u"Comma-separated text (*.csv)"_s);
+    panel->setDefaultSuffix(u"csv"_s);
+    panel->selectFile(u"tavrin-actions.csv"_s);
+    connect(panel, &QFileDialog::fileSelected, this, &writeCSV);
+    panel->open();
+}
+
+void HistoryTab::confirmClear() {
+    auto* dialog = new ConfirmDialog(window(), u"Clear action history?"_s,
+                                     u"This deletes ~/Library/Logs/Tavrin/actions.log."_s);
+    auto* clearAll = dialog->addAction(u"Clear all"_s, PushButton::Look::destructive);
+    connect(clearAll, &QPushButton::clicked, this, &HistoryTab::clear);
+    dialog->open();
+}
+
+void HistoryTab::clear() {
+    ActionLogReader::clear();
+    m_rows->setEntries({});
+    showRows();
+}
