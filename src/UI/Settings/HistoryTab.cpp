@@ -24,16 +24,18 @@ namespace {
 
 constexpr int pickerWidth = 220;
 
-/// All or nothing, so that an export that fails leaves an older file as it was. The log itself is no place
-/// for its export.
+/// All or nothing, so that an export that fails leaves an older file as it was. The file on a disk that gets
+/// full can be cut short without an error, so its size decides. The log itself is no place for its export.
 void writeCSV(const QString& path) {
     if (QFileInfo(path) == QFileInfo(ActionLogReader::path()))
         return;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return;
-    file.write(ActionLogReader::exportCSV().toUtf8());
-    file.commit();
+    const QByteArray text = ActionLogReader::exportCSV().toUtf8();
+    file.write(text);
+    if (file.flush() && file.size() == text.size())
+        file.commit();
 }
 
 QString exportFolder() {
