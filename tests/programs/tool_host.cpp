@@ -24,10 +24,15 @@ QCoro::Task<ToolResult> runShell(QString command) {
 /// A program like ours that runs a shell command as its tool:
 ///   tool_host wait COMMAND    prints what the command printed
 ///   tool_host leave COMMAND   ends while the command runs
+///   tool_host where PATH      prints which file answers for a launch path
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     if (argc != 3)
         return 2;
+    if (std::string_view(argv[1]) == "where") {
+        std::puts(qPrintable(LinuxToolRunner().programFor(QString::fromLocal8Bit(argv[2]))));
+        return 0;
+    }
     DescriptorLimit::raised();
     auto task = runShell(QString::fromLocal8Bit(argv[2]));
     if (std::string_view(argv[1]) == "leave") {

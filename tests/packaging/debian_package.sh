@@ -1,0 +1,106 @@
+#!/usr/bin/env bash
+# Makes the Debian package from a build tree, judges it, and starts what it holds:
+#   debian_package.sh BUILD_FOLDER
+set -euo pipefail
+build=$(realpath "$1")
+cd "$(dirname "$0")/../.."
+. scripts/lib/display.sh
+
+fail() {
+    echo "FAILED: $1" >&2
+    exit 1
+}
+check() {
+    local what=$1
+    shift
+    "$@" || fail "$what"
+    echo "ok: $what"
+}
+same() { diff <(echo "$1") <(echo "$2") >&2; }
+none() { [ -z "$1" ] || { echo "$1" >&2 && return 1; }; }
+field() { dpkg-deb -f "$package" "$1"; }
+
+start_display
+start_bus
+work=$private_files/package
+root=$work/unpacked
+mkdir "$work"
+
+cpack --config "$build/CPackConfig.cmake" -B "$work" >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2 && fail "cpack makes the package"; }
+package=$(echo "$work"/*.deb)
+version=$(sed -n 's/^project(tavrin VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+check "it is named after its version" same "$(basename "$package")" "tavrin_${version}_$(dpkg --print-architecture).deb"
+
+# What is in it.
+expected='-rw-r--r-- root/root ./usr/share/applications/tavrin.desktop
+-rw-r--r-- root/root ./usr/share/icons/hicolor/scalable/apps/tavrin.svg
+-rw-r--r-- root/root ./usr/share/metainfo/org.example.tavrin.metainfo.xml
+-rwxr-xr-x root/root ./usr/bin/tavrin
+-rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
+-rwxr-xr-x root/root ./usr/libexec/tavrin/osascript
+-rwxr-xr-x root/root ./usr/libexec/tavrin/purge'
+listing=$(dpkg-deb -c "$package")
+check "it holds these files and no other" same "$expected" \
+    "$(awk '!/^d/ { print $1, $2, $6 }' <<<"$listing" | LC_ALL=C sort)"
+check "its folders are open to everyone" none "$(grep '^d' <<<"$listing" | grep -v '^drwxr-xr-x root/root')"
+
+# Removing it leaves nothing behind: no configuration files, no scripts that would make some.
+check "it has no scripts" same "control md5sums" "$(dpkg-deb --ctrl-tarfile "$package" | tar t | sed 's|^\./||; /^$/d' | sort | xargs)"
+for library in libqt6core6 libqt6gui6 libqt6widgets6 libqt6network6 libqt6dbus6 libqt6svg6 libxcb1; do
+    check "it depends on $library" grep -qE "(^|, )$library( \(|,|$)" <<<"$(field Depends)"
+done
+missing=$(field Depends | tr ',' '\n' | sed 's/ (.*//; s/ //g' | while read -r name; do
+    dpkg-query -W -f='${Status}\n' "$name" 2>/dev/null | grep -q 'ok installed' || echo "$name"
+done)
+check "what it depends on exists here" none "$(grep -vx hicolor-icon-theme <<<"$missing")"
+for name in Maintainer Homepage Description Section Installed-Size; do
+    check "it states its $name" test -n "$(field "$name")"
+done
+
+# What is unpacked.
+dpkg-deb -x "$package" "$root"
+dpkg-deb -e "$package" "$work/control"
+check "the checksums fit" eval "(cd '$root' && md5sum --quiet -c '$work/control/md5sums')"
+check "the desktop entry is valid" desktop-file-validate "$root/usr/share/applications/tavrin.desktop"
+check "the metainfo is valid" appstreamcli validate --no-net --no-color "$root/usr/share/metainfo/"*.xml
+check "menu, metainfo and icon fit together" eval "grep -q '>tavrin.desktop<' '$root'/usr/share/metainfo/*.xml &&
+    grep -qx 'Icon=tavrin' '$root/usr/share/applications/tavrin.desktop' &&
+    [ -x '$root/usr/bin/'\$(sed -n 's/^Exec=//p' '$root/usr/share/applications/tavrin.desktop') ]"
+programs=("$root/usr/bin/tavrin" "$root/usr/libexec/tavrin/"*)
+check "programs are stripped" none "$(file "${programs[@]}" | grep -v ', stripped')"
+check "programs search no folder of the build" none "$(readelf -d "${programs[@]}" | grep -iE 'r(un)?path')"
+check "programs find their libraries" none "$(ldd "${programs[@]}" | grep 'not found')"
+
+# A program in the same place, with the same code, answers where the tools are.
+cp "$build/tests/tool_host" "$root/usr/bin/"
+for path in /usr/bin/memory_pressure /usr/bin/osascript /usr/sbin/purge; do
+    tool=$root/usr/libexec/tavrin/$(basename "$path")
+    check "$path is answered by ours" same "$tool" "$("$root/usr/bin/tool_host" where "$path")"
+    status=0
+    said=$("$tool" --no-such-option 2>&1) || status=$?
+    check "it runs" same "2 usage: $(basename "$path")" "$status $(cut -d' ' -f1,2 <<<"$said")"
+done
+
+# The program itself.
+home=$private_files/home
+mkdir "$home"
+unset XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME
+export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb
+spawn "$root/usr/bin/tavrin"
+pid=$spawned
+window=$(main_window "$pid") || fail "the main window appears"
+class=$(sed -n 's/^StartupWMClass=//p' "$root/usr/share/applications/tavrin.desktop")
+check "the window belongs to the desktop entry" grep -q "\"$class\"" <<<"$(xprop -id "$window" WM_CLASS)"
+check "it came from the package" same "$root/usr/bin/tavrin" "$(readlink "/proc/$pid/exe")"
+kill "$pid"
+wait "$pid" || fail "it ends well"
+
+# Beside the caches of system libraries it leaves its settings and its log, and the entry that starts it at
+# login, which the desktop skips once the program is gone.
+check "it leaves only what is the user's" none \
+    "$(cd "$home" && find . -type f | grep -vE '^\./(\.cache/|\.config/Tavrin/|Library/Logs/Tavrin/|\.config/autostart/tavrin\.desktop$)')"
+autostart=$home/.config/autostart/tavrin.desktop
+if [ -e "$autostart" ]; then
+    check "the login entry is skipped without the program" grep -qxF "TryExec=$root/usr/bin/tavrin" "$autostart"
+fi
+echo "1 passed, 0 failed"
