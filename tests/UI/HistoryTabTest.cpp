@@ -233,6 +233,9 @@ TEST_F(HistoryTabTest, ExportsEveryRowWhateverIsShown) {
     exportAs(home.path(u"out"_s), QDialogButtonBox::Cancel);
     EXPECT_FALSE(QFileInfo::exists(target));
     exportAs(home.path(u"out"_s)); // the suffix is added
+    press(u"Export CSV…"_s);
+    QTest::keyClick(tab.findChild<QFileDialog*>()->findChild<QLineEdit*>(), Qt::Key_Return); // as proposed
+    EXPECT_EQ(contentOf(home.path(u"tavrin-actions.csv"_s)), contentOf(target));
     EXPECT_EQ(contentOf(target), "timestamp,kind,success,freed_bytes,detail\n"
                                  "2026-11-16T10:00:03Z,clean,true,3145728,\"npm\"\n"
                                  "2026-11-16T10:00:02Z,purge,true,2097152,\"by a later version\"\n"

@@ -78,7 +78,7 @@ for path in /usr/bin/memory_pressure /usr/bin/osascript /usr/sbin/purge; do
     check "$path is answered by ours" same "$tool" "$("$root/usr/bin/tool_host" where "$path")"
     status=0
     said=$("$tool" --no-such-option 2>&1) || status=$?
-    check "it runs" same "2 usage: $(basename "$path")" "$status $(cut -d' ' -f1,2 <<<"$said")"
+    check "it runs" same "2 usage: $(basename "$path")" "$status $(head -n 1 <<<"$said" | cut -d' ' -f1,2)"
 done
 
 # The program itself.
