@@ -1,0 +1,121 @@
+#include "Core/MessageFeed.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A feed of one complete message; a key that is given again replaces the earlier one.
+QByteArray feedWith(const QByteArray& member = {}) {
+    return R"({"messages": [{"id": "a", "target": "all", "severity": "info", "title": "t", "body": "b")" +
+           (member.isEmpty() ? member : ", " + member) + "}]}";
+}
+
+} // namespace
+
+TEST(MessageFeedTest, ReadsEveryKeyInOrder) {
+    const auto feed = Feed::decode(R"({"version": 2, "messages": [
+        {"id": "1", "target": "linux", "severity": "upgrade", "title": "T\u00e9", "body": "", "extra": [{}],
+         "actionLabel": "Go", "actionURL": "https://x.example", "minVersion": "1", "maxVersion": "2.0",
+         "showOncePerVersion": false},
+        {"id": "2", "target": "macos", "severity": "warn", "title": "", "body": "b", "actionLabel": null,
+         "actionURL": null, "minVersion": null, "maxVersion": null, "showOncePerVersion": null}]})");
+    const Message first = {.id = u"1"_s,
+                           .target = Message::Target::linuxBuild,
+                           .severity = Message::Severity::upgrade,
+                           .title = u"Té"_s,
+                           .body = u""_s,
+                           .actionLabel = u"Go"_s,
+                           .actionURL = u"https://x.example"_s,
+                           .minVersion = u"1"_s,
+                           .maxVersion = u"2.0"_s,
+                           .showOncePerVersion = false};
+    const Message second = {.id = u"2"_s,
+                            .target = Message::Target::macBuild,
+                            .severity = Message::Severity::warn,
+                            .title = u""_s,
+                            .body = u"b"_s};
+    ASSERT_TRUE(feed);
+    EXPECT_EQ(feed->messages, (QList<Message>{first, second}));
+    EXPECT_EQ(Feed::decode(R"({"messages": []})"), Feed());
+}
+
+TEST(MessageFeedTest, OneFaultRejectsTheWholeFeed) {
+    ASSERT_TRUE(Feed::decode(feedWith()));
+    const QByteArray good = R"({"id": "g", "target": "all", "severity": "info", "title": "t", "body": "b"})";
+    const QByteArray faulty[] = {
+        "",
+        "null",
+        "[]",
+        "{}",
+        R"({"messages": null})",
+        R"({"messages": {}})",
+        R"({"messages": [null]})",
+        R"({"Messages": []})",
+        R"({"messages": []} {})",
+        R"({"messages": [)" + good,
+        R"({"messages": [)" + good + R"(, {"id": "x"}, )" + good + "]}",
+        R"({"messages": [)" + good + ", \"text\"]}",
+        feedWith(R"("id": 7)"),
+        feedWith(R"("id": null)"),
+        feedWith(R"("title": ["t"])"),
+        feedWith(R"("body": true)"),
+        feedWith(R"("target": "everyone")"),
+        feedWith(R"("target": "All")"),
+        feedWith(R"("severity": "alert")"),
+        feedWith(R"("severity": "Info")"),
+        feedWith(R"("severity": "")"),
+        feedWith(R"("actionLabel": 1)"),
+        feedWith(R"("actionURL": {})"),
+        feedWith(R"("minVersion": 1.2)"),
+        feedWith(R"("maxVersion": false)"),
+        feedWith(R"("showOncePerVersion": 1)"),
+        feedWith(R"("showOncePerVersion": "true")"),
+        feedWith("\"title\": \"caf\xe9\""),
+        feedWith("\"unlisted\": \"\xc0\xaf\""),
+        feedWith(R"("title": "\ud83d")"),
+        "\xff\xfe" + feedWith(),
+        QByteArray(100'000, '['),
+    };
+    for (const QByteArray& json : faulty)
+        EXPECT_FALSE(Feed::decode(json)) << json.left(200).data();
+}
+
+TEST(MessageFeedTest, OnlyPagesAndPlainLettersAreFollowed) {
+    struct Case {
+        const char* url;
+        const char* link; ///< null where nothing is followed
+    };
+    const Case cases[] = {
+        {"https://x.example/a?b=c#d", "https://x.example/a?b=c#d"},
+        {"HTTP://X.Example", "http://x.example"},
+        {"mailto:help@x.example", "mailto:help@x.example"},
+        {"mailto:help@x.example?subject=Hi%20there&Body=x",
+         "mailto:help@x.example?subject=Hi%20there&Body=x"},
+        {"mailto:help@x.example?attach=/etc/passwd", nullptr},
+        {"mailto:help@x.example?subject=a&%61ttach=/etc/passwd", nullptr},
+        {"mailto:", nullptr},
+        {"mailto://x.example/a", nullptr},
+        {"file:///etc/passwd", nullptr},
+        {"/usr/bin/xterm", nullptr},
+        {"x.example", nullptr},
+        {"", nullptr},
+        {"https://", nullptr},
+        {"https:///path", nullptr},
+        {"https:x.example", nullptr},
+        {"https://bank.example@evil.example", nullptr},
+        {"https://x.example/a b", nullptr},
+        {" https://x.example", nullptr},
+        {"https://x.example/\n", nullptr},
+        {"https://x.example:port", nullptr},
+        {"javascript:alert(1)", nullptr},
+        {"ssh://x.example", nullptr},
+        {"data:text/html,x", nullptr},
+    };
+    for (const Case& c : cases) {
+        const auto link = Message{.actionURL = QString::fromLatin1(c.url)}.actionLink();
+        EXPECT_EQ(link.value_or(QUrl()).toString(QUrl::FullyEncoded), QString::fromLatin1(c.link)) << c.url;
+    }
+    EXPECT_FALSE(Message().actionLink());
+}

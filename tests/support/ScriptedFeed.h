@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Core/FeedSource.h"
+#include "Core/MessageFeed.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QList>
+
+#include <coroutine>
+
+/// A feed that answers what the test says: at once or, while `held`, when the test lets a request go.
+class ScriptedFeed : public FeedSource {
+public:
+    std::optional<QByteArray> answer;
+    bool held = false;
+    QList<QUrl> requests;
+
+    QCoro::Task<std::optional<QByteArray>> fetch(QUrl url) override {
+        requests.append(url);
+        if (held) {
+            Turn turn{*this};
+            co_await turn;
+        }
+        co_return answer;
+    }
+
+    /// Lets a held request go, counted from the one that has waited longest.
+    void release(qsizetype index) { m_waiting.takeAt(index).resume(); }
+
+private:
+    struct Turn {
+        ScriptedFeed& feed;
+
+        bool await_ready() const noexcept { return false; }
+        void await_suspend(std::coroutine_handle<> waiter) { feed.m_waiting.append(waiter); }
+        void await_resume() const noexcept {}
+    };
+
+    QList<std::coroutine_handle<>> m_waiting;
+};
+
+/// The document that holds those messages.
+inline QByteArray feedOf(const QList<Message>& messages) {
+    QJsonArray array;
+    for (const Message& message : messages) {
+        QJsonObject object{{QStringLiteral("id"), message.id},
+                           {QStringLiteral("target"), rawValue(message.target)},
+                           {QStringLiteral("severity"), rawValue(message.severity)},
+                           {QStringLiteral("title"), message.title},
+                           {QStringLiteral("body"), message.body}};
+        const auto add = [&object](const char* key, const auto& value) {
+            if (value)
+                object[QLatin1String(key)] = *value;
+        };
+        add("actionLabel", message.actionLabel);
+        add("actionURL", message.actionURL);
+        add("minVersion", message.minVersion);
+        add("maxVersion", message.maxVersion);
+        add("showOncePerVersion", message.showOncePerVersion);
+        array.append(object);
+    }
+    return QJsonDocument(QJsonObject{{QStringLiteral("messages"), array}}).toJson(QJsonDocument::Compact);
+}
