@@ -8,12 +8,13 @@
 class AppModel;
 class MainWindow;
 class MenuBarController;
+class MessageCenter;
 class Preferences;
 
 /// What happens when launching has finished, and who owns the windows from then on.
 class AppDelegate {
 public:
-    AppDelegate(AppModel& model, Preferences& preferences, Desktop desktop);
+    AppDelegate(AppModel& model, Preferences& preferences, MessageCenter& messages, Desktop desktop);
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
@@ -25,6 +26,7 @@ private:
 
     AppModel& m_model;
     Preferences& m_preferences;
+    MessageCenter& m_messages;
     Desktop m_desktop;
     WidgetWindow m_widget;
     std::unique_ptr<MainWindow> m_mainWindow;

@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
+#include "Core/MessageCenter.h"
 #include "Platform/Appearance.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
@@ -38,8 +39,8 @@ int TavrinApp::run() {
     SingleInstance instance(displayName());
     if (!instance.claim())
         return 0;
-    m_appDelegate =
-        std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(), Desktop::native());
+    m_appDelegate = std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(),
+                                                  MessageCenter::shared(), Desktop::native());
     connect(&instance, &SingleInstance::startedAgain, this, [this] { m_appDelegate->bringForward(); });
     m_appDelegate->applicationDidFinishLaunching();
     const TerminationRequest termination;

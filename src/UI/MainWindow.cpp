@@ -7,9 +7,9 @@
 #include <QCloseEvent>
 #include <QMenu>
 
-MainWindow::MainWindow(AppModel& model, Preferences& preferences, QWidget* parent)
+MainWindow::MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QMainWindow(parent)
-    , m_root(new RootView(model, preferences)) {
+    , m_root(new RootView(model, preferences, messages)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class AppModel;
+class MessageCenter;
 class Preferences;
 class RootView;
 
@@ -12,7 +13,7 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainWindow(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
+    MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void widgetToggled();

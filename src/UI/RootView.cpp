@@ -5,6 +5,7 @@
 #include "UI/Kit/SidebarDelegate.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Kit/Theme.h"
+#include "UI/MessageBanner.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
 #include "UI/Processes/ProcessesView.h"
@@ -40,10 +41,11 @@ QString tabSymbol(RootView::Tab tab) {
     return {};
 }
 
-RootView::RootView(AppModel& model, Preferences& preferences, QWidget* parent)
+RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QWidget(parent)
     , m_sidebar(new QListWidget)
     , m_menuButton(new IconButton(QStringLiteral("gear"), QStringLiteral("Menu")))
+    , m_banner(new MessageBanner(messages))
     , m_title(new TextLabel(Theme::TextStyle::title2, QFont::Bold))
     , m_sections(new QStackedWidget) {
     m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
@@ -89,13 +91,14 @@ RootView::RootView(AppModel& model, Preferences& preferences, QWidget* parent)
     select(Tab::overview);
 }
 
-/// The selected section under its title.
+/// The selected section under its title, and above them what there is to announce.
 QWidget* RootView::makeDetail() {
     auto* detail = new QWidget;
     auto* column = new QVBoxLayout(detail);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     m_title->setContentsMargins(Theme::pagePadding, titleTopMargin, Theme::pagePadding, 0);
+    column->addWidget(m_banner);
     column->addWidget(m_title);
     column->addWidget(m_sections, 1);
     return detail;

@@ -8,13 +8,16 @@
 
 class AppModel;
 class IconButton;
+class MessageBanner;
+class MessageCenter;
 class Preferences;
 class QListWidget;
 class QMenu;
 class QStackedWidget;
 class TextLabel;
 
-/// The content of the main window: a sidebar of sections and, beside it, the selected one.
+/// The content of the main window: a sidebar of sections and, beside it, the selected one under the
+/// announcement in force.
 class RootView : public QWidget {
     Q_OBJECT
 
@@ -23,7 +26,7 @@ public:
 
     static constexpr QSize minimumContent{1000, 680};
 
-    RootView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
+    RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent = nullptr);
 
     Tab tab() const;
     void select(Tab tab);
@@ -45,6 +48,7 @@ private:
 
     QListWidget* m_sidebar;
     IconButton* m_menuButton;
+    MessageBanner* m_banner;
     TextLabel* m_title;
     QStackedWidget* m_sections;
 };

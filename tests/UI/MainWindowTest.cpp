@@ -1,18 +1,22 @@
 #include "UI/MainWindow.h"
 
+#include "Core/MessageCenter.h"
 #include "UI/ModelFixture.h"
 #include "UI/RootView.h"
+#include "support/ScriptedFeed.h"
 
 #include <QListWidget>
 
 namespace {
 
-using MainWindowTest = ModelFixture;
+struct MainWindowTest : ModelFixture {
+    MessageCenter messages{std::make_unique<ScriptedFeed>(), prefs.file()};
+};
 
 } // namespace
 
 TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
-    MainWindow window(model, prefs);
+    MainWindow window(model, prefs, messages);
     window.show();
     window.close();
     EXPECT_FALSE(window.isVisible());
@@ -24,7 +28,7 @@ TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
 }
 
 TEST_F(MainWindowTest, SidebarKeepsItsWidth) {
-    MainWindow window(model, prefs);
+    MainWindow window(model, prefs, messages);
     window.resize(1600, 1000);
     window.show();
     const auto* sidebar = window.findChild<QListWidget*>();

@@ -2,6 +2,7 @@
 // a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
 
 #include "AppModel.h"
+#include "Core/MessageCenter.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Kit/ConfirmDialog.h"
@@ -11,6 +12,7 @@
 #include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
+#include "UI/MessageBanner.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -21,6 +23,7 @@
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakePlatform.h"
+#include "support/ScriptedFeed.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -34,6 +37,7 @@
 #include <QPainter>
 #include <QTest>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include <cmath>
 #include <cstdio>
@@ -72,6 +76,8 @@ struct Stage {
     FakePlatform fakes;
     TemporarySettings settings;
     AppModel model{fakes.platform(), settings.preferences};
+    ScriptedFeed* feed = new ScriptedFeed;
+    MessageCenter messages{std::unique_ptr<FeedSource>(feed), settings.preferences.file()};
 
     Stage() {
         qint32 pid = 812;
@@ -223,7 +229,7 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
 void shootOverview(Camera& camera) {
     Stage calm;
     calm.play(150, 24, 8.1);
-    MainWindow window(calm.model, calm.settings.preferences);
+    MainWindow window(calm.model, calm.settings.preferences, calm.messages);
     camera.take(window, QStringLiteral("overview"));
     window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
     camera.take(window, QStringLiteral("overview-open-group"));
@@ -234,7 +240,7 @@ void shootOverview(Camera& camera) {
     pressed.fakes.host->swap = 5 * GiB;
     pressed.fakes.host->thermal = 2;
     pressed.play(150, 92, 14.6);
-    MainWindow busy(pressed.model, pressed.settings.preferences);
+    MainWindow busy(pressed.model, pressed.settings.preferences, pressed.messages);
     camera.take(busy, QStringLiteral("overview-alerts"));
     busy.resize(1600, 1000);
     camera.take(busy, QStringLiteral("overview-alerts-large"));
@@ -317,6 +323,66 @@ void shootHistory(Camera& camera) {
     camera.take(tab, QStringLiteral("history-empty"));
 }
 
+/// The announcements of all severities, one under the other, and one over a section.
+void shootBanners(Camera& camera) {
+    using Severity = Message::Severity;
+    const QString link = QStringLiteral("https://tavrin.example/news");
+    const QList<Message> messages = {
+        {.id = QStringLiteral("1"),
+         .severity = Severity::info,
+         .title = QStringLiteral("Thank you for trying Tavrin"),
+         .body = QStringLiteral("A short tour shows what the four sections are for."),
+         .actionLabel = QStringLiteral("Take the Tour"),
+         .actionURL = link},
+        {.id = QStringLiteral("2"),
+         .severity = Severity::warn,
+         .title = QStringLiteral("Cleaning the container cache may take long"),
+         .body = QStringLiteral(
+             "With the latest container runtime the prune command waits for running builds. Until "
+             "that is repaired there, stop your builds before you clean, or leave that target out: "
+             "the other targets are not affected by it. If a clean seems to hang, it goes on as "
+             "soon as the last build ends; nothing is lost, and the freed space is counted when it "
+             "is done. We shall take this notice back once a repaired runtime has been out for a "
+             "while, and you need not do anything about it then."),
+         .actionLabel = QStringLiteral("Details"),
+         .actionURL = link},
+        {.id = QStringLiteral("3"),
+         .severity = Severity::update,
+         .title = QStringLiteral("Tavrin 1.2 is out"),
+         .body = QStringLiteral("It finds the caches of two more package managers."),
+         .actionLabel = QStringLiteral("Get It"),
+         .actionURL = link},
+        {.id = QStringLiteral("4"),
+         .severity = Severity::upgrade,
+         .title = QStringLiteral("Watch more than one machine"),
+         .body =
+             QStringLiteral("The team edition shows all your workstations and build servers in one window."),
+         .actionLabel = QStringLiteral("See the Team Edition"),
+         .actionURL = link},
+        {.id = QStringLiteral("5"),
+         .severity = Severity::info,
+         .title = QStringLiteral("The site is being moved this weekend"),
+         .body = QStringLiteral("Downloads may fail for an hour.")},
+    };
+    QList<std::shared_ptr<Stage>> stages;
+    QWidget sheet;
+    sheet.resize(800, 0);
+    auto* column = new QVBoxLayout(&sheet);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (const Message& message : messages) {
+        stages.append(std::make_shared<Stage>());
+        stages.last()->feed->answer = feedOf({message});
+        QCoro::waitFor(stages.last()->messages.refresh());
+        column->addWidget(new MessageBanner(stages.last()->messages));
+    }
+    camera.take(sheet, QStringLiteral("banners"));
+
+    Stage& stage = *stages[2];
+    stage.play(150, 24, 8.1);
+    MainWindow window(stage.model, stage.settings.preferences, stage.messages);
+    camera.take(window, QStringLiteral("overview-banner"));
+}
+
 /// Every symbol at 16, 24 and 48 points with its name.
 QPixmap contactSheet(double ratio) {
     constexpr int columns = 5;
@@ -390,6 +456,7 @@ int main(int argc, char** argv) {
     shootFreeRAM(camera);
     shootPanels(camera);
     shootHistory(camera);
+    shootBanners(camera);
     shootSheets(camera);
     return camera.failed() ? 1 : 0;
 }

@@ -25,6 +25,7 @@ constexpr std::array shades = {
     Shades{Role::sidebarFill, 0xffeaebef, 0xff232529},   Shades{Role::cardFill, 0xffffffff, 0xff26282c},
     Shades{Role::cardBorder, 0x4d82828a, 0x4d8f8f98},    Shades{Role::separator, 0x3382828a, 0x338f8f98},
     Shades{Role::hoverFill, 0x1482828a, 0x1e8f8f98},     Shades{Role::trackFill, 0x2882828a, 0x3a8f8f98},
+    Shades{Role::lime, 0xffbff747, 0xffbff747},
 };
 
 struct Style {

@@ -29,6 +29,7 @@ enum class Role {
     separator,
     hoverFill,
     trackFill, ///< the empty part of a progress bar
+    lime,      ///< a ground for black text, the same in both schemes
 };
 
 enum class TextStyle { largeTitle, title, title2, title3, headline, body, callout, caption, caption2 };

@@ -1,0 +1,82 @@
+#include "UI/BannerButtons.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Theme.h"
+#include "UI/MessageSeverity.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+
+namespace {
+
+constexpr int capsulePadding = 12;
+constexpr int widestCapsule = 240;
+constexpr int dismissSide = 20;
+constexpr int crossSize = 18; // of which the cross fills half
+
+} // namespace
+
+ActionCapsule::ActionCapsule(QWidget* parent)
+    : QAbstractButton(parent) {
+    setFont(Theme::font(Theme::TextStyle::callout, QFont::DemiBold));
+    setFixedHeight(Theme::smallControlHeight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Severity severity) {
+    m_caption = Formatters::visible(caption);
+    m_severity = severity;
+    setAccessibleName(m_caption);
+    // Where it leads, in plain ASCII: no look-alike letters, nothing that could be taken for markup.
+    setToolTip(link.toString(QUrl::FullyEncoded));
+    updateGeometry();
+    update();
+}
+
+QSize ActionCapsule::sizeHint() const {
+    const int wanted = fontMetrics().horizontalAdvance(m_caption) + 2 * capsulePadding;
+    return {std::min(wanted, widestCapsule), height()};
+}
+
+void ActionCapsule::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double radius = height() / 2.0;
+    Painting::drawCard(painter, rect(), radius, MessageSeverity::buttonFill(m_severity),
+                       MessageSeverity::buttonOutline(m_severity));
+    if (underMouse() || isDown())
+        Painting::drawCard(painter, rect(), radius, Theme::color(Role::hoverFill, isDown() ? 2 : 1),
+                           Qt::transparent);
+    painter.setFont(font());
+    painter.setPen(MessageSeverity::actionLabelColor(m_severity));
+    Painting::drawElided(painter, QRectF(rect()).adjusted(capsulePadding, 0, -capsulePadding + 1, 0),
+                         Qt::ElideRight, m_caption);
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), radius);
+}
+
+DismissButton::DismissButton(QWidget* parent)
+    : QAbstractButton(parent) {
+    setToolTip(QStringLiteral("Dismiss"));
+    setAccessibleName(toolTip());
+    setFixedSize(dismissSide, dismissSide);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void DismissButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double radius = height() / 2.0;
+    if (underMouse() || isDown())
+        Painting::drawCard(painter, rect(), radius, Theme::color(Role::secondaryText, isDown() ? 0.28 : 0.18),
+                           Qt::transparent);
+    Symbols::draw(painter, QStringLiteral("xmark"), Theme::color(Role::secondaryText), rect(), crossSize);
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), radius);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Core/MessageFeed.h"
+
+#include <QAbstractButton>
+
+/// The capsule that follows a message's link, in the colours of its severity. A long caption is shortened.
+class ActionCapsule : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit ActionCapsule(QWidget* parent = nullptr);
+
+    /// `caption` is plain text: an ampersand in it marks no key.
+    void set(const QString& caption, const QUrl& link, Message::Severity severity);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_caption;
+    Message::Severity m_severity = Message::Severity::info;
+};
+
+/// A cross whose ground shows while the pointer is on it.
+class DismissButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit DismissButton(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,75 @@
+#include "UI/Kit/ClampedLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int comfortableWidth = 320;
+
+} // namespace
+
+ClampedLabel::ClampedLabel(int mostLines, Theme::TextStyle style, std::optional<QFont::Weight> weight,
+                           QWidget* parent)
+    : TextLabel(style, weight, parent)
+    , m_mostLines(mostLines) {
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QStringList ClampedLabel::lines(int width) const {
+    QTextLayout layout(text(), font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList result;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(std::max(width, 1));
+        if (result.size() + 1 == m_mostLines) {
+            result.append(fontMetrics().elidedText(text().mid(line.textStart()), Qt::ElideRight, width));
+            break;
+        }
+        result.append(text().mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return result;
+}
+
+QSize ClampedLabel::sizeHint() const {
+    return {comfortableWidth, heightForWidth(comfortableWidth)};
+}
+
+QSize ClampedLabel::minimumSizeHint() const {
+    return {0, fontMetrics().lineSpacing()};
+}
+
+int ClampedLabel::heightForWidth(int width) const {
+    return static_cast<int>(std::max<qsizetype>(lines(width).size(), 1)) * fontMetrics().lineSpacing();
+}
+
+void ClampedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    int baseline = fontMetrics().ascent();
+    for (const QString& line : lines(width())) {
+        painter.drawText(0, baseline, line);
+        baseline += fontMetrics().lineSpacing();
+    }
+}
+
+bool ClampedLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return TextLabel::event(event);
+    const QStringList shown = lines(width());
+    const bool isCut = !shown.isEmpty() && !text().trimmed().endsWith(shown.last());
+    // As a paragraph, because a tool tip would take a text that looks like markup for such.
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       isCut ? QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()) : QString(), this);
+    return true;
+}

@@ -1,0 +1,119 @@
+#include "UI/MessageBanner.h"
+
+#include "Core/Observe.h"
+#include "UI/BannerButtons.h"
+#include "UI/Kit/ClampedLabel.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Theme.h"
+#include "UI/MessageSeverity.h"
+
+#include <QAccessible>
+#include <QDesktopServices>
+#include <QHBoxLayout>
+#include <QPainter>
+
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int symbolFrame = 22;
+constexpr int itemSpacing = 12;
+constexpr QMargins padding(14, 10, 14, 10);
+/// Brings the title's first line to the middle of the symbol.
+constexpr int titleDrop = 2;
+constexpr int mostTitleLines = 2;
+constexpr int mostBodyLines = 3;
+/// More can not be seen anyway, and laying out a megabyte would be felt.
+constexpr qsizetype longestText = 2000;
+
+QString shortened(const QString& text) {
+    return text.size() > longestText ? text.left(longestText) + u'…' : text;
+}
+
+/// Empty unless the message has both a caption that can be seen and a link that may be followed.
+std::optional<QUrl> actionOf(const Message& message) {
+    const bool hasCaption = !message.actionLabel.value_or(QString()).trimmed().isEmpty();
+    return hasCaption ? message.actionLink() : std::nullopt;
+}
+
+} // namespace
+
+MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* parent)
+    : QWidget(parent)
+    , m_center(center)
+    , m_open(std::move(open))
+    , m_symbol(new SymbolView(Theme::iconSize, symbolFrame))
+    , m_title(new ClampedLabel(mostTitleLines, TextStyle::headline))
+    , m_body(new ClampedLabel(mostBodyLines, TextStyle::callout))
+    , m_action(new ActionCapsule) {
+    m_symbol->setFixedHeight(symbolFrame);
+    m_body->secondary();
+    auto* dismiss = new DismissButton;
+    auto* texts = new QVBoxLayout;
+    texts->setContentsMargins(0, titleDrop, 0, 0);
+    texts->setSpacing(Theme::textGap);
+    texts->addWidget(m_title);
+    texts->addWidget(m_body);
+    texts->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(padding);
+    row->setSpacing(itemSpacing);
+    row->addWidget(m_symbol, 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+    row->addWidget(m_action, 0, Qt::AlignTop);
+    row->addWidget(dismiss, 0, Qt::AlignTop);
+
+    // Another message may come while a button is held down: what was pressed for counts.
+    for (QAbstractButton* button :
+         {static_cast<QAbstractButton*>(m_action), static_cast<QAbstractButton*>(dismiss)})
+        connect(button, &QAbstractButton::pressed, this, [this] { m_pressed = m_message; });
+    connect(m_action, &QAbstractButton::clicked, this, [this] {
+        if (const auto link = actionOf(m_pressed))
+            m_open(*link);
+    });
+    connect(dismiss, &QAbstractButton::clicked, this, [this] {
+        m_center.dismiss(m_pressed);
+        refresh();
+    });
+    observe(&m_center, this, [this] { refresh(); });
+    // Not made visible here, where it is still a window of its own.
+    if (m_center.currentMessage())
+        set(*m_center.currentMessage());
+    else
+        hide();
+}
+
+void MessageBanner::openInDesktop(const QUrl& link) {
+    QDesktopServices::openUrl(link);
+}
+
+void MessageBanner::refresh() {
+    const auto& current = m_center.currentMessage();
+    if (current && *current != m_message)
+        set(*current);
+    setVisible(current.has_value());
+}
+
+void MessageBanner::set(const MessageCenter::Message& message) {
+    m_message = message;
+    m_symbol->set(MessageSeverity::symbol(message.severity), MessageSeverity::role(message.severity));
+    m_title->setPlainText(shortened(message.title));
+    m_body->setPlainText(shortened(message.body));
+    m_body->setVisible(!message.body.isEmpty());
+    const auto link = actionOf(message);
+    if (link)
+        m_action->set(shortened(*message.actionLabel), *link, message.severity);
+    m_action->setVisible(link.has_value());
+    setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_body->text()));
+    QAccessibleEvent announcement(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+    update();
+}
+
+void MessageBanner::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Theme::Role role = MessageSeverity::role(m_message.severity);
+    painter.fillRect(rect(), Theme::color(Theme::Role::cardFill));
+    painter.fillRect(rect(), Theme::color(role, 0.08));
+    painter.fillRect(QRect(0, height() - 1, width(), 1), Theme::color(role, 0.25));
+}
