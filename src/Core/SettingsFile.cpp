@@ -1,16 +1,39 @@
 #include "Core/SettingsFile.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
 #include <cmath>
 
 SettingsFile::SettingsFile(const QString& path)
     : m_settings(path, QSettings::IniFormat) {}
 
+QVariant SettingsFile::value(const QString& key) const {
+    const auto unsaved = m_unsaved.constFind(key);
+    return unsaved == m_unsaved.cend() ? m_settings.value(key) : *unsaved;
+}
+
+/// QSettings replaces the file also by one that a full disk cut short, and does not say so. It gets to write
+/// only where more than the whole has just fitted.
+bool SettingsFile::hasRoom() const {
+    constexpr qsizetype slack = 4096;
+    constexpr qsizetype mostEscaped = 4; // a byte can take four
+    const QFileInfo file(path());
+    qsizetype size = file.size() + slack;
+    for (const QVariant& each : m_unsaved)
+        size += mostEscaped * each.toByteArray().size();
+    QDir().mkpath(file.path());
+    QTemporaryFile trial(path() + QStringLiteral(".XXXXXX"));
+    return trial.open() && trial.write(QByteArray(size, 'x')) == size && trial.flush();
+}
+
 std::optional<QString> SettingsFile::text(const QString& key) const {
-    const QVariant value = m_settings.value(key);
+    const QVariant stored = value(key);
     // An unquoted comma in the file makes a list, which no setting of ours is.
-    if (!value.isValid() || value.userType() == QMetaType::QStringList)
+    if (!stored.isValid() || stored.userType() == QMetaType::QStringList)
         return std::nullopt;
-    return value.toString();
+    return stored.toString();
 }
 
 std::optional<bool> SettingsFile::boolean(const QString& key) const {
@@ -30,12 +53,18 @@ std::optional<double> SettingsFile::number(const QString& key) const {
 }
 
 std::optional<QByteArray> SettingsFile::bytes(const QString& key) const {
-    const QVariant value = m_settings.value(key);
-    const bool readable = value.userType() == QMetaType::QByteArray || value.userType() == QMetaType::QString;
-    return readable ? std::optional(value.toByteArray()) : std::nullopt;
+    const QVariant stored = value(key);
+    const bool readable =
+        stored.userType() == QMetaType::QByteArray || stored.userType() == QMetaType::QString;
+    return readable ? std::optional(stored.toByteArray()) : std::nullopt;
 }
 
 void SettingsFile::store(const QString& key, const QVariant& value) {
-    m_settings.setValue(key, value);
+    m_unsaved.insert(key, value);
+    if (!hasRoom())
+        return;
+    for (auto each = m_unsaved.cbegin(); each != m_unsaved.cend(); ++each)
+        m_settings.setValue(each.key(), each.value());
+    m_unsaved.clear();
     m_settings.sync();
 }

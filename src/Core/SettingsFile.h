@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QSettings>
 #include <QString>
 
 #include <optional>
 
 /// Typed access to one INI file. A write is on disk when it returns, and keeps what other programs wrote
-/// meanwhile. A value that cannot be read as the type asked for, or is not finite, counts as absent.
+/// meanwhile. While the disk is full the file stays as it was, and what could not be written can be read here
+/// and is written with the next value that can. A value that cannot be read as the type asked for, or is not
+/// finite, counts as absent.
 class SettingsFile {
 public:
     explicit SettingsFile(const QString& path);
@@ -22,5 +25,9 @@ public:
     void store(const QString& key, const QVariant& value);
 
 private:
+    QVariant value(const QString& key) const;
+    bool hasRoom() const;
+
     QSettings m_settings;
+    QHash<QString, QVariant> m_unsaved; ///< what the disk had no room for yet
 };

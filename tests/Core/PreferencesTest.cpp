@@ -2,9 +2,14 @@
 
 #include "support/TemporarySettings.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -82,6 +87,30 @@ TEST(Preferences, AWriteIsAnnouncedFirstAndOnDiskAtOnce) {
     const Preferences reread(settings.path);
     EXPECT_EQ(reread.menuBarFormat(), MenuBarFormat::ramOnly);
     EXPECT_EQ(reread.quickKillPresetsJSON(), QByteArray("[{\"a\":\"\xc3\xa9, b\"}]"));
+}
+
+TEST(Preferences, AFullDiskLosesNothing) {
+    TemporarySettings settings;
+    settings.preferences.alertCachesBigGB.set(7);
+    settings.preferences.storeQuickKillPresets(QuickKillPreset::defaults());
+    const QByteArray before = read(settings.path);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit tight{.rlim_cur = static_cast<rlim_t>(before.size() / 2), .rlim_max = limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    settings.preferences.showInDock.set(false);
+    const QByteArray meanwhile = read(settings.path);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(meanwhile, before);
+    EXPECT_FALSE(settings.preferences.showInDock());
+    settings.preferences.pollIntervalSeconds.set(5);
+    const Preferences reread(settings.path);
+    EXPECT_FALSE(reread.showInDock());
+    EXPECT_EQ(reread.alertCachesBigGB(), 7.0);
+    EXPECT_EQ(reread.quickKillPresets(), QuickKillPreset::defaults());
+    EXPECT_EQ(QDir(settings.folder.path()).entryList(QDir::Files).size(), 1);
 }
 
 TEST(Preferences, TwoWritersKeepEachOthersKeys) {
