@@ -8,7 +8,7 @@ packages_of() {
     # that no script changes the cache that another one left behind.
     build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qcoro-qt6-dev libxcb1-dev \
         libgtest-dev libgmock-dev ;;
-    test) echo procps fonts-dejavu-core desktop-file-utils appstream openssl ;;
+    test) echo procps fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl ;;
     package) echo dpkg-dev file ;;
     bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \

@@ -6,6 +6,7 @@ class Appearance;
 class Clock;
 class HostStatistics;
 class Identity;
+class LoginItem;
 class Places;
 class PowerMode;
 class ProcessTable;
@@ -27,4 +28,6 @@ struct Platform {
     static Platform native();
     /// Separate, because only programs with windows ask for it.
     static std::unique_ptr<Appearance> makeAppearance();
+    /// Separate for the same reason.
+    static std::unique_ptr<LoginItem> makeLoginItem();
 };

@@ -1,0 +1,109 @@
+#include "Platform/Linux/LinuxLoginItem.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include <unistd.h>
+
+namespace {
+
+QString autostartFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/autostart");
+}
+
+QString entryFile() {
+    return autostartFolder() + QStringLiteral("/tavrin.desktop");
+}
+
+QString failure(const QString& path, const QString& reason) {
+    return QStringLiteral("%1: %2").arg(path, reason);
+}
+
+QString failure(const QString& path, int error) {
+    return failure(path, QString::fromStdString(std::generic_category().message(error)));
+}
+
+/// One argument as the key Exec wants it: in quotes, with a backslash before what would end or expand there,
+/// and no field code.
+QString quoted(const QString& argument) {
+    QString result;
+    for (const QChar character : argument) {
+        if (QStringView(u"\"`$\\").contains(character))
+            result += u'\\';
+        if (character == u'%')
+            result += u'%';
+        result += character;
+    }
+    return u'"' + result + u'"';
+}
+
+/// A text as the value of any key: the file knows backslashes and line ends as escapes of its own.
+QByteArray value(QString text) {
+    return text.replace(u'\\', QStringLiteral("\\\\"))
+        .replace(u'\n', QStringLiteral("\\n"))
+        .replace(u'\r', QStringLiteral("\\r"))
+        .replace(u'\t', QStringLiteral("\\t"))
+        .toUtf8();
+}
+
+/// Desktops look for the program before they resolve "%%", and a name with "=" in it is not allowed there: a
+/// shell finds what is called so.
+QString command(const QString& program) {
+    if (!program.contains(u'%') && !program.contains(u'='))
+        return quoted(program);
+    return QStringLiteral("/bin/sh -c %1 %2").arg(quoted(QStringLiteral("exec \"$0\"")), quoted(program));
+}
+
+std::optional<QString> makeFolder(const QString& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
+    return error ? std::optional(failure(folder, error.value())) : std::nullopt;
+}
+
+} // namespace
+
+LinuxLoginItem::LinuxLoginItem(QString program)
+    : m_program(std::move(program)) {}
+
+QString LinuxLoginItem::runningProgram() {
+    return QCoreApplication::applicationFilePath();
+}
+
+QByteArray LinuxLoginItem::entry(const QString& program) {
+    return "[Desktop Entry]\n"
+           "Type=Application\n"
+           "Name=Tavrin\n"
+           "Comment=Watches memory and disk space and gives them back\n"
+           "Exec=" +
+           value(command(program)) + "\nTryExec=" + value(program) +
+           "\nIcon=tavrin\n"
+           "Terminal=false\n"
+           "StartupNotify=false\n";
+}
+
+std::optional<QString> LinuxLoginItem::registerItem() {
+    if (!QDir::isAbsolutePath(m_program))
+        return QStringLiteral("The program's own file cannot be found.");
+    if (const auto reason = makeFolder(autostartFolder()))
+        return reason;
+    QSaveFile file(entryFile());
+    const QByteArray text = entry(m_program);
+    // The commit alone would not notice that a full disk took only a part.
+    const bool saved =
+        file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit();
+    return saved ? std::nullopt : std::optional(failure(entryFile(), file.errorString()));
+}
+
+std::optional<QString> LinuxLoginItem::unregisterItem() {
+    const bool removed = unlink(QFile::encodeName(entryFile()).constData()) == 0;
+    const bool neverThere = errno == ENOENT || errno == ENOTDIR;
+    return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), errno));
+}

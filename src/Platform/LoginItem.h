@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// The program's place among those that start when the user logs in.
+class LoginItem {
+public:
+    virtual ~LoginItem() = default;
+
+    /// Starts the program that is running now at every later login. Empty when that was settled, else the
+    /// reason why not, as a text for the user. Again is fine.
+    virtual std::optional<QString> registerItem() = 0;
+    /// The opposite. Not being registered is no failure.
+    virtual std::optional<QString> unregisterItem() = 0;
+};

@@ -1,0 +1,141 @@
+#include "Platform/Linux/LinuxLoginItem.h"
+
+#include "support/TemporaryHome.h"
+
+#include <QProcess>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <functional>
+
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct LoginItemTest : testing::Test {
+    TemporaryHome home;
+    QString entry = home.path(u".config/autostart/tavrin.desktop"_s);
+
+    /// A program that leaves its own path in the file `started`.
+    QString makeProgram(const QString& below) const {
+        const QString path = home.makeFile(below, "#!/bin/sh\nprintf %s \"$0\" > \"$HOME/started.new\"\n"
+                                                  "mv \"$HOME/started.new\" \"$HOME/started\"\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return path;
+    }
+    QByteArray content(const QString& path) const {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList autostartFolder() const {
+        return QDir(home.path(u".config/autostart"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+};
+
+/// What the tool says, empty when it is content.
+QByteArray complaints(const QString& tool, const QStringList& arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(tool, arguments);
+    if (!process.waitForFinished())
+        return "could not be run: " + process.errorString().toUtf8();
+    return process.exitCode() == 0 ? process.readAll() : "failed: " + process.readAll();
+}
+
+} // namespace
+
+TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
+    for (const QString& folder :
+         {u"plain"_s, u"two words"_s, u"it's \"quoted\""_s, u"100%u %% off"_s, u"back\\slash\\n"_s,
+          u"$HOME `id` ~ & ; | < > * ? # ( )"_s, u"line\nand\ttab"_s, u"größe 測試"_s, u"a=b"_s}) {
+        const QString program = makeProgram(folder + u"/tavrin"_s);
+        LinuxLoginItem item(program);
+        EXPECT_EQ(item.registerItem(), std::nullopt) << qPrintable(folder);
+        EXPECT_EQ(complaints(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
+        EXPECT_EQ(complaints(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
+        QByteArray started;
+        for (int waited = 0; started.isEmpty() && waited < 500; ++waited) {
+            started = content(home.path(u"started"_s));
+            QThread::msleep(10);
+        }
+        EXPECT_EQ(QString::fromUtf8(started), program);
+        QFile::remove(home.path(u"started"_s));
+    }
+    EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
+}
+
+TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
+    LinuxLoginItem item(u"/usr/bin/tavrin"_s);
+    EXPECT_EQ(item.unregisterItem(), std::nullopt); // not even a folder
+    EXPECT_EQ(item.registerItem(), std::nullopt);
+    EXPECT_EQ(item.registerItem(), std::nullopt);
+    home.makeFile(u".config/autostart/other.desktop"_s);
+    EXPECT_EQ(item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(autostartFolder(), QStringList(u"other.desktop"_s));
+}
+
+TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
+    qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
+    EXPECT_EQ(LinuxLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);
+    EXPECT_TRUE(content(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
+                    .contains("\nExec=\"/usr/bin/tavrin\"\nTryExec=/usr/bin/tavrin\n"));
+    EXPECT_FALSE(QFile::exists(entry));
+}
+
+TEST_F(LoginItemTest, SaysWhyItCannot) {
+    struct Case {
+        std::function<void()> obstacle;
+        QString program;
+        QString onRegister; ///< end of the reason
+        QString onUnregister;
+    };
+    const QString program = u"/usr/bin/tavrin"_s;
+    const Case cases[] = {
+        {[] {}, {}, u"The program's own file cannot be found."_s, {}},
+        {[this] { home.makeFile(u".config/autostart"_s); }, program, u"autostart: Not a directory"_s, {}},
+        {[this] { home.makeFolder(u".config/autostart/tavrin.desktop"_s); }, program,
+         u"Filename refers to a directory"_s, u"tavrin.desktop: Is a directory"_s},
+        {[this] { // where not even an administrator can make a file
+             home.makeFolder(u".config"_s);
+             QFile::link(u"/sys/kernel"_s, home.path(u".config/autostart"_s));
+         },
+         program,
+         u"tavrin.desktop: Permission denied"_s,
+         {}},
+    };
+    for (const Case& c : cases) {
+        c.obstacle();
+        LinuxLoginItem item(c.program);
+        const QString registering = item.registerItem().value_or(QString());
+        EXPECT_TRUE(!registering.isEmpty() && registering.endsWith(c.onRegister)) << qPrintable(registering);
+        const QString unregistering = item.unregisterItem().value_or(QString());
+        EXPECT_TRUE(unregistering.endsWith(c.onUnregister)) << qPrintable(unregistering);
+        EXPECT_EQ(unregistering.isEmpty(), c.onUnregister.isEmpty());
+        QDir(home.path(u".config"_s)).removeRecursively();
+    }
+}
+
+TEST_F(LoginItemTest, AWriteThatFailsLeavesTheEntryThatWasThere) {
+    ASSERT_EQ(LinuxLoginItem(u"/old/tavrin"_s).registerItem(), std::nullopt);
+    const QByteArray before = content(entry);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    QStringList reasons;
+    for (const rlim_t room : {0, 20}) { // bytes that the disk still takes
+        const rlimit tight{.rlim_cur = room, .rlim_max = limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &tight);
+        reasons.append(LinuxLoginItem(u"/new/tavrin"_s).registerItem().value_or(QString()));
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    std::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(reasons[0].endsWith(u"tavrin.desktop: File too large"_s)) << qPrintable(reasons[0]);
+    EXPECT_TRUE(reasons[1].contains(u"tavrin.desktop: "_s)) << qPrintable(reasons[1]);
+    EXPECT_EQ(content(entry), before);
+    EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
+}
