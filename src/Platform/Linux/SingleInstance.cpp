@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <unistd.h>
@@ -36,6 +37,9 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
 }
 
 bool SingleInstance::claim() {
+    // Two that start together, as at login, ask one after the other.
+    QLockFile turn(m_socket + QStringLiteral(".lock"));
+    turn.tryLock(answerMs);
     // Asked first, because listening would take the socket over from the program that has it.
     if (askRunningOne())
         return false;

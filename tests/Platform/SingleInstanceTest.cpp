@@ -1,0 +1,62 @@
+#include "Platform/SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SingleInstanceTest : testing::Test {
+    QTemporaryDir runtime;
+    QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+
+    SingleInstanceTest() {
+        QFile::setPermissions(runtime.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+    }
+    ~SingleInstanceTest() override { qputenv("XDG_RUNTIME_DIR", before); }
+};
+
+} // namespace
+
+TEST_F(SingleInstanceTest, OnePerDisplayAndTheSecondCallsTheFirst) {
+    SingleInstance first(u"\n:0"_s);
+    SingleInstance otherDisplay(u"\n:1"_s);
+    SingleInstance second(u"\n:0"_s);
+    int calls = 0;
+    QObject::connect(&first, &SingleInstance::startedAgain, &first, [&calls] { ++calls; });
+    EXPECT_TRUE(first.claim());
+    EXPECT_TRUE(otherDisplay.claim());
+    EXPECT_FALSE(second.claim());
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SingleInstanceTest, AnotherAccountHasARuntimeFolderOfItsOwn) {
+    SingleInstance mine(u"\n:0"_s);
+    ASSERT_TRUE(mine.claim());
+    const QTemporaryDir theirs;
+    qputenv("XDG_RUNTIME_DIR", theirs.path().toUtf8());
+    EXPECT_TRUE(SingleInstance(u"\n:0"_s).claim());
+}
+
+TEST_F(SingleInstanceTest, ASocketThatNobodyListensToIsTakenOver) {
+    const pid_t child = fork();
+    if (child == 0) { // ends without clearing up, as after a crash
+        SingleInstance crashed(u"\n:0"_s);
+        _exit(crashed.claim() ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0);
+    ASSERT_FALSE(QDir(runtime.path()).entryList({u"*.socket"_s}, QDir::System).isEmpty());
+    EXPECT_TRUE(SingleInstance(u"\n:0"_s).claim());
+}
