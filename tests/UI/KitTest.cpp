@@ -1,3 +1,4 @@
+#include "UI/Controls.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/Slider.h"
@@ -54,4 +55,55 @@ TEST(SliderTest, MovesByStepsUnderMouseAndKeys) {
     QTest::mouseRelease(knob, Qt::LeftButton, {}, QPoint(-50, 10));
     EXPECT_EQ(slider.value(), 50);
     EXPECT_EQ(knob->accessibleName(), u"Size: 50 MB"_s);
+}
+
+TEST(StepperTest, StepsWithinItsRangeAndComesBackIntoIt) {
+    struct Case {
+        StepperRow::Look look;
+        Stepper::Range range;
+        double stored;
+        QString shown;
+        Qt::Key key;
+        double after;
+    };
+    const StepperRow::Look gigabytes{u"Free"_s, u"%1 GB"_s, 1};
+    const StepperRow::Look percent{u"Load"_s, u"%1%"_s};
+    const Case cases[] = {
+        {gigabytes, {0.5, 16, 0.5}, 2, u"Free 2.0 GB"_s, Qt::Key_Up, 2.5},
+        {gigabytes, {0.5, 16, 0.5}, 16, u"Free 16.0 GB"_s, Qt::Key_Right, 16},
+        {gigabytes, {0.5, 16, 0.5}, 0.5, u"Free 0.5 GB"_s, Qt::Key_Down, 0.5},
+        {percent, {50, 100, 5}, 98, u"Load 98%"_s, Qt::Key_Up, 100},
+        {percent, {50, 100, 5}, 87.9, u"Load 87%"_s, Qt::Key_Home, 50},
+        {percent, {50, 100, 5}, -3, u"Load -3%"_s, Qt::Key_Left, 50},
+        {percent, {50, 100, 5}, -0.9, u"Load 0%"_s, Qt::Key_Up, 50},
+        {percent, {50, 100, 5}, 400, u"Load 400%"_s, Qt::Key_Up, 100},
+        {percent, {50, 100, 5}, 1e300, u"Load 1"_s, Qt::Key_Down, 100},
+        {{u"Min %1 MB"_s, {}}, {0, 4000, 50}, 500, u"Min 500 MB"_s, Qt::Key_End, 4000},
+    };
+    for (const Case& c : cases) {
+        StepperRow row(c.look, c.range);
+        row.setValue(c.stored);
+        row.show();
+        EXPECT_TRUE(row.accessibleName().startsWith(c.shown)) << qPrintable(row.accessibleName());
+        EXPECT_EQ(row.value(), c.stored);
+        QSignalSpy stepped(&row, &StepperRow::stepped);
+        QTest::keyClick(row.findChild<Stepper*>(), c.key);
+        EXPECT_EQ(row.value(), c.after) << qPrintable(c.shown);
+        EXPECT_EQ(stepped.size(), c.stored == c.after ? 0 : 1);
+    }
+}
+
+TEST(StepperTest, HalvesEndWithTheRangeAndRepeatWhileHeld) {
+    StepperRow row({u"Load"_s, u"%1%"_s}, {50, 60, 5});
+    row.setValue(40);
+    row.show();
+    click(row, u"Less"_s);
+    EXPECT_EQ(row.value(), 50);
+    EXPECT_FALSE(control<QAbstractButton>(row, u"Less: Load 50%"_s)->isEnabled());
+    auto* more = control<QAbstractButton>(row, u"More"_s);
+    QTest::mousePress(more, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return row.value() == 60; }, 3000));
+    EXPECT_FALSE(more->isEnabled());
+    QTest::mouseRelease(more, Qt::LeftButton);
+    EXPECT_EQ(row.value(), 60);
 }

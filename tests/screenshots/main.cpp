@@ -19,9 +19,15 @@
 #include "UI/Overview/GroupRow.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
+#include "UI/Settings/AlertsTab.h"
+#include "UI/Settings/GeneralTab.h"
 #include "UI/Settings/HistoryTab.h"
+#include "UI/Settings/PresetTable.h"
+#include "UI/Settings/QuickKillEditorSheet.h"
+#include "UI/Settings/SettingsScene.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePlatform.h"
 #include "support/ScriptedFeed.h"
 #include "support/TemporaryHome.h"
@@ -35,6 +41,7 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -383,6 +390,35 @@ void shootBanners(Camera& camera) {
     camera.take(window, QStringLiteral("overview-banner"));
 }
 
+void shootSettings(Camera& camera) {
+    TemporarySettings settings;
+    FakeLoginItem loginItem;
+    SettingsScene window(settings.preferences, loginItem);
+    const auto shoot = [&](SettingsScene::Tab tab, const QString& name) {
+        window.select(tab);
+        camera.take(window, QStringLiteral("settings-") + name);
+    };
+    shoot(SettingsScene::Tab::general, QStringLiteral("general"));
+    loginItem.failure = QStringLiteral("/home/ana/.config/autostart/tavrin.desktop: No space left on device");
+    window.findChild<GeneralTab*>()->findChild<Switch*>()->click();
+    shoot(SettingsScene::Tab::general, QStringLiteral("general-error"));
+    settings.preferences.pollIntervalSeconds.set(3);
+    shoot(SettingsScene::Tab::sampling, QStringLiteral("sampling"));
+    settings.preferences.alertCPUHotEnabled.set(false);
+    settings.preferences.alertRAMLowFreeGB.set(16);
+    shoot(SettingsScene::Tab::alerts, QStringLiteral("alerts"));
+    QScrollBar* scroll = window.findChild<AlertsTab*>()->verticalScrollBar();
+    scroll->setValue(scroll->maximum());
+    shoot(SettingsScene::Tab::alerts, QStringLiteral("alerts-end"));
+    auto* table = window.findChild<PresetTable*>();
+    shoot(SettingsScene::Tab::quickKills, QStringLiteral("quick-kills"));
+    table->setCurrentIndex(table->model()->index(3, 0));
+    QTest::keyClick(table, Qt::Key_Return);
+    camera.take(*window.findChild<QuickKillEditorSheet*>(), QStringLiteral("settings-editor"));
+    settings.preferences.storeQuickKillPresets({});
+    shoot(SettingsScene::Tab::quickKills, QStringLiteral("quick-kills-empty"));
+}
+
 /// Every symbol at 16, 24 and 48 points with its name.
 QPixmap contactSheet(double ratio) {
     constexpr int columns = 5;
@@ -457,6 +493,7 @@ int main(int argc, char** argv) {
     shootPanels(camera);
     shootHistory(camera);
     shootBanners(camera);
+    shootSettings(camera);
     shootSheets(camera);
     return camera.failed() ? 1 : 0;
 }

@@ -1,7 +1,6 @@
 #include "UI/Kit/SearchField.h"
 
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
 
 #include <QHBoxLayout>
@@ -19,16 +18,10 @@ constexpr int symbolSize = 14;
 } // namespace
 
 SearchField::SearchField(const QString& prompt, QWidget* parent)
-    : QLineEdit(parent) {
-    setFrame(false);
-    setFixedHeight(Theme::controlHeight);
-    setFont(Theme::font(Theme::TextStyle::body));
+    : TextField(parent) {
     setTextMargins(leadRoom, 0, trailRoom, 0);
     setPlaceholderText(prompt);
     setAccessibleName(prompt);
-    QPalette clear = palette();
-    clear.setColor(QPalette::Base, Qt::transparent);
-    setPalette(clear);
 
     auto* button = new IconButton(QStringLiteral("xmark.circle.fill"), QStringLiteral("Clear search"));
     button->setFocusPolicy(Qt::NoFocus);
@@ -47,18 +40,10 @@ void SearchField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !text().isEmpty())
         clear();
     else
-        QLineEdit::keyPressEvent(event);
+        TextField::keyPressEvent(event);
 }
 
-void SearchField::paintEvent(QPaintEvent* event) {
-    {
-        QPainter painter(this);
-        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::cardFill),
-                           Theme::color(Role::cardBorder));
-        Symbols::draw(painter, QStringLiteral("magnifyingglass"), Theme::color(Role::secondaryText),
-                      QRectF(6, 0, leadRoom - 6, height()), symbolSize);
-        if (hasFocus())
-            Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
-    }
-    QLineEdit::paintEvent(event);
+void SearchField::drawLead(QPainter& painter) {
+    Symbols::draw(painter, QStringLiteral("magnifyingglass"), Theme::color(Role::secondaryText),
+                  QRectF(6, 0, leadRoom - 6, height()), symbolSize);
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QLineEdit>
+#include "UI/Kit/TextField.h"
 
 /// A line to search by: a magnifier before it, a button that clears it, and Escape does the same.
-class SearchField : public QLineEdit {
+class SearchField : public TextField {
     Q_OBJECT
 
 public:
     explicit SearchField(const QString& prompt, QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void drawLead(QPainter& painter) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -23,15 +23,18 @@ Switch::Switch(const QString& text, QWidget* parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+void Switch::setSpread() {
+    m_isSpread = true;
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    update();
+}
+
 QSize Switch::sizeHint() const {
     const int label = text().isEmpty() ? 0 : textGap + fontMetrics().horizontalAdvance(text()) + 2;
     return {track.width() + label, Theme::smallControlHeight};
 }
 
-void Switch::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const double opacity = isEnabled() ? 1 : 0.45;
-    const QRectF ground(QPointF(0, (height() - track.height()) / 2.0), track);
+void Switch::drawTrack(QPainter& painter, const QRectF& ground, double opacity) const {
     const double radius = track.height() / 2.0;
     Painting::drawCard(painter, ground, radius,
                        isChecked() ? Theme::tileColor(Role::green, opacity)
@@ -43,8 +46,17 @@ void Switch::paintEvent(QPaintEvent*) {
                        Qt::transparent);
     if (hasFocus())
         Painting::drawFocusRing(painter, ground, radius);
+}
+
+void Switch::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double opacity = isEnabled() ? 1 : 0.45;
+    const int room = track.width() + textGap;
+    const double left = m_isSpread ? width() - track.width() : 0;
+    drawTrack(painter, QRectF(QPointF(left, (height() - track.height()) / 2.0), track), opacity);
     painter.setFont(font());
     painter.setPen(Theme::color(Role::primaryText, opacity));
-    Painting::drawElided(painter, QRectF(rect()).adjusted(track.width() + textGap, 0, 0, 0), Qt::ElideRight,
-                         text());
+    const QRectF line =
+        m_isSpread ? QRectF(rect()).adjusted(0, 0, -room, 0) : QRectF(rect()).adjusted(room, 0, 0, 0);
+    Painting::drawElided(painter, line, Qt::ElideRight, text());
 }

@@ -2,6 +2,8 @@
 
 #include "Core/Formatters.h"
 
+#include <QEvent>
+
 TextLabel::TextLabel(Theme::TextStyle style, std::optional<QFont::Weight> weight, QWidget* parent)
     : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -11,6 +13,20 @@ TextLabel::TextLabel(Theme::TextStyle style, std::optional<QFont::Weight> weight
 TextLabel* TextLabel::secondary() {
     setForegroundRole(QPalette::PlaceholderText);
     return this;
+}
+
+TextLabel* TextLabel::tinted(Theme::Role role) {
+    m_tint = role;
+    QPalette own = palette();
+    own.setColor(QPalette::WindowText, Theme::color(role));
+    setPalette(own);
+    return this;
+}
+
+void TextLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange && m_tint)
+        tinted(*m_tint);
+    QLabel::changeEvent(event);
 }
 
 TextLabel* TextLabel::wrapped() {

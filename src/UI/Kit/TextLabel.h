@@ -14,7 +14,15 @@ public:
 
     /// In the colour of secondary text.
     TextLabel* secondary();
+    /// In the role's colour of whichever scheme is on.
+    TextLabel* tinted(Theme::Role role);
     /// Breaks the text into lines where it is wider than the label.
     TextLabel* wrapped();
     void setPlainText(const QString& text);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    std::optional<Theme::Role> m_tint;
 };

@@ -1,0 +1,126 @@
+#include "UI/Kit/Stepper.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+
+namespace {
+
+constexpr int buttonWidth = 28;
+constexpr int symbolSize = 12;
+constexpr double disabledOpacity = 0.35;
+
+/// One half of the stepper, which draws the ground of both.
+class Half : public QAbstractButton {
+public:
+    explicit Half(QString symbol)
+        : m_symbol(std::move(symbol)) {
+        setFixedSize(buttonWidth, Theme::smallControlHeight);
+        setFocusPolicy(Qt::NoFocus);
+        setAttribute(Qt::WA_Hover);
+        setAutoRepeat(true);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        if (isEnabled() && (underMouse() || isDown()))
+            Painting::drawCard(painter, rect(), Theme::controlRadius,
+                               Theme::color(Role::hoverFill, isDown() ? 1.6 : 0.9), Qt::transparent);
+        Symbols::draw(painter, m_symbol, Theme::color(Role::primaryText, isEnabled() ? 1 : disabledOpacity),
+                      rect(), symbolSize);
+    }
+
+private:
+    QString m_symbol;
+};
+
+} // namespace
+
+Stepper::Stepper(const Range& range, QWidget* parent)
+    : QWidget(parent)
+    , m_range(range)
+    , m_value(range.from) {
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(1);
+    m_less = addButton(QStringLiteral("minus"), -range.step);
+    m_more = addButton(QStringLiteral("plus"), range.step);
+    enableButtons();
+}
+
+QAbstractButton* Stepper::addButton(const QString& symbol, double by) {
+    auto* button = new Half(symbol);
+    layout()->addWidget(button);
+    connect(button, &QAbstractButton::clicked, this, [this, by] { take(m_value + by); });
+    return button;
+}
+
+void Stepper::setName(const QString& name) {
+    setAccessibleName(name);
+    m_less->setAccessibleName(QStringLiteral("Less: ") + name);
+    m_more->setAccessibleName(QStringLiteral("More: ") + name);
+}
+
+void Stepper::setValue(double value) {
+    m_value = value;
+    enableButtons();
+}
+
+void Stepper::take(double value) {
+    const double next = std::clamp(value, m_range.from, m_range.to);
+    if (next == m_value)
+        return;
+    setValue(next);
+    Q_EMIT stepped(next);
+}
+
+void Stepper::enableButtons() {
+    m_less->setEnabled(m_value != m_range.from);
+    m_more->setEnabled(m_value != m_range.to);
+}
+
+QSize Stepper::sizeHint() const {
+    return {2 * buttonWidth + 1, Theme::smallControlHeight};
+}
+
+void Stepper::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+        take(m_value + m_range.step);
+        break;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+        take(m_value - m_range.step);
+        break;
+    case Qt::Key_Home:
+        take(m_range.from);
+        break;
+    case Qt::Key_End:
+        take(m_range.to);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void Stepper::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double opacity = isEnabled() ? 1 : 0.5;
+    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, opacity),
+                       Theme::color(Role::cardBorder, opacity));
+    painter.fillRect(buttonWidth, 5, 1, height() - 10, Theme::color(Role::cardBorder, opacity));
+    if (hasFocus())
+        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "UI/Kit/Stepper.h"
+
+/// The row of a form with a label, a number in its unit and the stepper that changes it.
+class StepperRow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Both texts may hold "%1" for the number.
+    struct Look {
+        QString label;
+        QString value;
+        int decimals = 0; ///< 0 drops the fraction, 1 rounds to one digit
+    };
+
+    StepperRow(Look look, const Stepper::Range& range, QWidget* parent = nullptr);
+
+    double value() const { return m_stepper->value(); }
+    void setValue(double value);
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The user changed the value.
+    void stepped(double value);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    /// `pattern` with the number in it.
+    QString text(const QString& pattern) const;
+    void showValue();
+
+    Look m_look;
+    Stepper* m_stepper;
+};

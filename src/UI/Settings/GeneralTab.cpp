@@ -1,0 +1,32 @@
+#include "UI/Settings/GeneralTab.h"
+
+#include "Platform/LoginItem.h"
+#include "UI/Kit/FormSection.h"
+#include "UI/Kit/Switch.h"
+#include "UI/Kit/TextLabel.h"
+
+GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
+    : SettingsForm(preferences, QStringLiteral("General"), parent)
+    , m_loginItem(loginItem)
+    , m_loginError(new TextLabel(Theme::TextStyle::caption)) {
+    auto* startup = addSection(QStringLiteral("Startup"));
+    auto* startAtLogin = addToggle(startup, QStringLiteral("Start at login"), preferences.startAtLogin);
+    startup->addNote(m_loginError->tinted(Theme::Role::red)->wrapped());
+    m_loginError->hide();
+    addToggle(startup, QStringLiteral("Show floating widget on launch"), preferences.showWidgetOnLaunch);
+    addToggle(startup, QStringLiteral("Show in Dock"), preferences.showInDock);
+    connect(startAtLogin, &Switch::toggled, this, &GeneralTab::applyLoginItem);
+
+    const auto formats = allCases<MenuBarFormat>();
+    addPicker<MenuBarFormat>(addSection(QStringLiteral("Menu bar")), QStringLiteral("Display"),
+                             {formats.begin(), formats.end()}, rawValue<MenuBarFormat>,
+                             preferences.menuBarFormat);
+}
+
+void GeneralTab::applyLoginItem(bool enabled) {
+    const auto reason = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
+    m_loginError->setVisible(reason.has_value());
+    m_loginError->setPlainText(QStringLiteral("Couldn't %1: %2")
+                                   .arg(enabled ? QStringLiteral("register") : QStringLiteral("unregister"),
+                                        reason.value_or(QString())));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "UI/Settings/SettingsForm.h"
+
+class LoginItem;
+class TextLabel;
+
+/// What happens at start, and what the status item shows.
+class GeneralTab : public SettingsForm {
+    Q_OBJECT
+
+public:
+    GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent = nullptr);
+
+private:
+    void applyLoginItem(bool enabled);
+
+    LoginItem& m_loginItem;
+    TextLabel* m_loginError;
+};

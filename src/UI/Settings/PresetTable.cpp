@@ -1,0 +1,179 @@
+#include "UI/Settings/PresetTable.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/IconButton.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/Symbols.h"
+#include "UI/Kit/TableHeader.h"
+#include "UI/Settings/PresetTableModel.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <array>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+using Column = PresetTableModel::Column;
+
+constexpr int rowHeight = 32;
+constexpr int padding = 8;
+constexpr int symbolSize = 16;
+
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {40, rowHeight}; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        if (option.state & QStyle::State_Selected)
+            painter->fillRect(option.rect, Theme::color(Role::accent, 0.16));
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(option.rect, Theme::color(Role::hoverFill));
+        const QString text = index.data(Qt::DisplayRole).toString();
+        const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
+        const int column = index.column();
+        if (column == Column::symbol || column == Column::force) {
+            const QRectF symbolArea(area.left(), area.top(), symbolSize, area.height());
+            const Role tint =
+                text == u"bolt.fill" && column == Column::force ? Role::orange : Role::secondaryText;
+            Symbols::draw(*painter, text, Theme::color(tint), symbolArea, symbolSize);
+            return;
+        }
+        painter->setFont(Theme::font(TextStyle::callout));
+        painter->setPen(Theme::color(column == Column::name ? Role::primaryText : Role::secondaryText));
+        const bool isFigure = column == Column::idle || column == Column::ram;
+        if (isFigure && Painting::tabularWidth(painter->font(), text) <= area.width())
+            Painting::drawTabular(*painter, area, Qt::AlignRight, text);
+        else
+            Painting::drawElided(*painter, area, Qt::ElideRight, text);
+    }
+};
+
+} // namespace
+
+PresetTable::PresetTable(QWidget* parent)
+    : QTreeView(parent)
+    , m_rows(new PresetTableModel(this)) {
+    auto* head = new TableHeader(this);
+    setHeader(head);
+    setModel(m_rows);
+    setItemDelegate(new RowDelegate(this));
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    setFrameShape(NoFrame);
+    setMouseTracking(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setAccessibleName(QStringLiteral("Quick Kill presets"));
+    SlimScrollBar::install(this);
+    head->setStretchLastSection(false);
+    head->setSectionsMovable(false);
+    constexpr std::array widths = {56, 0, 114, 50, 66, 48, 62};
+    for (int column = 0; column < PresetTableModel::columns; ++column) {
+        head->setSectionResizeMode(column, QHeaderView::Fixed);
+        head->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+    }
+    head->setSectionResizeMode(Column::name, QHeaderView::Stretch); // has what the others leave
+    QPalette clear = palette(); // the delegate draws the ground of selected rows
+    clear.setColor(QPalette::Highlight, Qt::transparent);
+    setPalette(clear);
+}
+
+void PresetTable::show(const QList<QuickKillPreset>& presets) {
+    if (presets == m_rows->presets())
+        return;
+    const QuickKillPreset* selected = preset(currentIndex());
+    const QUuid id = selected ? selected->id : QUuid();
+    const int row = currentIndex().row();
+    m_rows->setPresets(presets);
+    setAccessibleDescription(
+        presets.isEmpty() ? QStringLiteral("No presets. Add one, or reset to the defaults.") : QString());
+    for (int each = 0; each < presets.size(); ++each)
+        addButtons(each);
+    if (row < 0)
+        return;
+    const auto kept = std::find_if(presets.begin(), presets.end(),
+                                   [&id](const QuickKillPreset& each) { return each.id == id; });
+    const auto wanted = kept == presets.end() ? row : static_cast<int>(kept - presets.begin());
+    setCurrentIndex(m_rows->index(std::min(wanted, m_rows->rowCount() - 1), 0));
+}
+
+/// Reached by the mouse only: the keyboard has keys of its own for them.
+void PresetTable::addButtons(int row) {
+    const QuickKillPreset preset = m_rows->presets()[row];
+    auto* edit = new IconButton(QStringLiteral("pencil"), QStringLiteral("Edit"));
+    auto* remove = new IconButton(QStringLiteral("trash"), QStringLiteral("Delete"));
+    connect(edit, &IconButton::clicked, this, [this, preset] { Q_EMIT editRequested(preset); });
+    connect(remove, &IconButton::clicked, this, [this, preset] { Q_EMIT deleteRequested(preset); });
+    auto* cell = new QWidget;
+    auto* buttons = new QHBoxLayout(cell);
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->setSpacing(2);
+    buttons->addStretch();
+    for (IconButton* button : {edit, remove}) {
+        button->setFocusPolicy(Qt::NoFocus);
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    setIndexWidget(m_rows->index(row, Column::actions), cell);
+}
+
+const QuickKillPreset* PresetTable::preset(const QModelIndex& index) const {
+    return index.isValid() ? &m_rows->presets()[index.row()] : nullptr;
+}
+
+void PresetTable::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (m_rows->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setFont(Theme::font(TextStyle::callout));
+    painter.setPen(Theme::color(Role::secondaryText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, accessibleDescription());
+}
+
+void PresetTable::keyPressEvent(QKeyEvent* event) {
+    const QuickKillPreset* current = preset(currentIndex());
+    const auto key = event->key();
+    if (current && (key == Qt::Key_Return || key == Qt::Key_Enter))
+        Q_EMIT editRequested(QuickKillPreset(*current));
+    else if (current && key == Qt::Key_Delete)
+        Q_EMIT deleteRequested(QuickKillPreset(*current));
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void PresetTable::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QuickKillPreset* pointed = preset(indexAt(event->pos()));
+    if (pointed && event->button() == Qt::LeftButton)
+        Q_EMIT editRequested(QuickKillPreset(*pointed));
+}
+
+void PresetTable::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
+    const QuickKillPreset* pointed = preset(index);
+    if (!pointed)
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("Edit"), this,
+                    [this, chosen = *pointed] { Q_EMIT editRequested(chosen); });
+    menu->addAction(QStringLiteral("Delete"), this,
+                    [this, chosen = *pointed] { Q_EMIT deleteRequested(chosen); });
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}

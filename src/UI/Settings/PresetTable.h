@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Core/QuickKillPreset.h"
+
+#include <QTreeView>
+
+class PresetTableModel;
+
+/// The table of quick-kill presets. A row is edited by its button, Return or a double click, and deleted by
+/// its button or Delete.
+class PresetTable : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit PresetTable(QWidget* parent = nullptr);
+
+    /// The preset that was selected stays so; once it is gone, the one in its place is.
+    void show(const QList<QuickKillPreset>& presets);
+
+Q_SIGNALS:
+    void editRequested(const QuickKillPreset& preset);
+    void deleteRequested(const QuickKillPreset& preset);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void addButtons(int row);
+    /// Null unless the index is that of a row.
+    const QuickKillPreset* preset(const QModelIndex& index) const;
+
+    PresetTableModel* m_rows;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Core/QuickKillPreset.h"
+
+#include <QDialog>
+
+#include <functional>
+
+class PushButton;
+class SymbolView;
+class TextField;
+
+/// Edits a copy of one preset. Modal over its window; gone once it is closed.
+class QuickKillEditorSheet : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `onSave` gets the finished preset, unless the user cancels.
+    QuickKillEditorSheet(const QString& title, const QuickKillPreset& preset,
+                         std::function<void(const QuickKillPreset&)> onSave, QWidget* parent);
+
+private:
+    QWidget* makeTexts();
+    QWidget* makeConditions();
+    QLayout* makeButtons();
+    /// A line that edits one text of the preset.
+    TextField* makeField(QString& text);
+    void refresh();
+    void save();
+
+    QuickKillPreset m_preset;
+    std::function<void(const QuickKillPreset&)> m_onSave;
+    SymbolView* m_symbol;
+    PushButton* m_save;
+};

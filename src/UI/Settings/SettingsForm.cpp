@@ -1,0 +1,84 @@
+#include "UI/Settings/SettingsForm.h"
+
+#include "Core/Observe.h"
+#include "UI/Kit/FormSection.h"
+#include "UI/Kit/OnScreen.h"
+#include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/Switch.h"
+#include "UI/Kit/Theme.h"
+
+#include <QVBoxLayout>
+
+SettingsForm::SettingsForm(Preferences& preferences, const QString& name, QWidget* parent)
+    : QScrollArea(parent) {
+    auto* page = new QWidget;
+    m_column = new QVBoxLayout(page);
+    m_column->setContentsMargins(Theme::pageMargins);
+    m_column->setSpacing(Theme::gridSpacing);
+    m_column->addStretch();
+    setWidget(page);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(name);
+    SlimScrollBar::install(this);
+    observe(&preferences, this, [this] {
+        if (isOnScreen(this))
+            refresh();
+    });
+}
+
+void SettingsForm::showEvent(QShowEvent* event) {
+    refresh();
+    QScrollArea::showEvent(event);
+}
+
+void SettingsForm::refresh() {
+    for (const auto& show : std::as_const(m_displays))
+        show();
+}
+
+void SettingsForm::addDisplay(std::function<void()> show) {
+    show();
+    m_displays.append(std::move(show));
+}
+
+FormSection* SettingsForm::addSection(const QString& title) {
+    auto* section = new FormSection(title);
+    m_column->insertWidget(m_column->count() - 1, section);
+    return section;
+}
+
+Switch* SettingsForm::addToggle(FormSection* section, const QString& text, Property<bool>& property) {
+    auto* toggle = new Switch(text);
+    toggle->setSpread();
+    section->addRow(toggle);
+    addDisplay([toggle, &property] { toggle->setChecked(property()); });
+    connect(toggle, &Switch::toggled, this, [&property](bool on) {
+        if (property() != on)
+            property.set(on);
+    });
+    return toggle;
+}
+
+void SettingsForm::addStepper(FormSection* section, const StepperRow::Look& look, const Stepper::Range& range,
+                              Property<double>& property, const Property<bool>& condition) {
+    auto* row = new StepperRow(look, range);
+    section->addRow(row);
+    addDisplay([row, &property, &condition] {
+        row->setValue(property());
+        row->setEnabled(condition());
+    });
+    connect(row, &StepperRow::stepped, this, [&property](double value) { property.set(value); });
+}
+
+void SettingsForm::addPicker(FormSection* section, const QString& label, const QStringList& choices,
+                             const std::function<qsizetype()>& selected,
+                             const std::function<void(int)>& select) {
+    auto* picker = new PopUpButton(QString());
+    picker->addItems(choices);
+    section->addRow(label, picker);
+    addDisplay([picker, selected] { picker->setCurrentIndex(static_cast<int>(selected())); });
+    connect(picker, &QComboBox::activated, this, select);
+}

@@ -1,0 +1,109 @@
+#include "UI/Settings/SettingsScene.h"
+
+#include "UI/Kit/Theme.h"
+#include "UI/Settings/AlertsTab.h"
+#include "UI/Settings/GeneralTab.h"
+#include "UI/Settings/QuickKillsTab.h"
+#include "UI/Settings/SamplingTab.h"
+#include "UI/Settings/TabButton.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize windowSize(640, 460);
+constexpr int barHeight = 62;
+
+} // namespace
+
+QString tabSymbol(SettingsScene::Tab tab) {
+    switch (tab) {
+    case SettingsScene::Tab::general:
+        return QStringLiteral("gear");
+    case SettingsScene::Tab::sampling:
+        return QStringLiteral("waveform");
+    case SettingsScene::Tab::alerts:
+        return QStringLiteral("bell");
+    case SettingsScene::Tab::quickKills:
+        return QStringLiteral("xmark.octagon");
+    case SettingsScene::Tab::history:
+        return QStringLiteral("clock.arrow.circlepath");
+    }
+    return {};
+}
+
+SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout)
+    , m_contents(new QStackedWidget) {
+    setWindowTitle(QStringLiteral("Tavrin Settings"));
+    setFixedSize(windowSize);
+    auto* bar = new QWidget;
+    bar->setFixedHeight(barHeight);
+    bar->setLayout(m_row);
+    bar->setAccessibleName(QStringLiteral("Tabs"));
+    m_row->setContentsMargins(0, 0, 0, 1);
+    m_row->setSpacing(Theme::textGap);
+    m_row->addStretch();
+    m_row->addStretch();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(bar);
+    column->addWidget(m_contents, 1);
+
+    addTab(Tab::general, new GeneralTab(preferences, loginItem));
+    addTab(Tab::sampling, new SamplingTab(preferences));
+    addTab(Tab::alerts, new AlertsTab(preferences));
+    addTab(Tab::quickKills, new QuickKillsTab(preferences));
+    addActions();
+    select(Tab::general);
+}
+
+void SettingsScene::addTab(Tab tab, QWidget* content) {
+    auto* button = new TabButton(tabSymbol(tab), rawValue(tab));
+    m_row->insertWidget(m_row->count() - 1, button);
+    m_buttons.append(button);
+    m_contents->addWidget(content);
+    connect(button, &TabButton::clicked, this, [this, tab] { select(tab); });
+}
+
+void SettingsScene::select(Tab tab) {
+    const auto index = static_cast<int>(tab);
+    if (index >= m_buttons.size())
+        return;
+    m_tab = tab;
+    m_buttons[index]->setChecked(true);
+    m_contents->setCurrentIndex(index);
+}
+
+void SettingsScene::selectNext(int by) {
+    const auto count = static_cast<int>(m_buttons.size());
+    select(static_cast<Tab>((static_cast<int>(m_tab) + by + count) % count));
+}
+
+void SettingsScene::addActions() {
+    const auto add = [this](const QString& text, const QList<QKeySequence>& keys, auto act) {
+        auto* action = new QAction(text, this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, act);
+        addAction(action);
+    };
+    add(QStringLiteral("Close"), {Qt::Key_Escape, Qt::CTRL | Qt::Key_W}, [this] { close(); });
+    add(QStringLiteral("Quit"), {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
+    add(QStringLiteral("Next Tab"), {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown},
+        [this] { selectNext(1); });
+    add(QStringLiteral("Previous Tab"), {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp},
+        [this] { selectNext(-1); });
+}
+
+void SettingsScene::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect bar(0, 0, width(), barHeight);
+    painter.fillRect(bar, Theme::color(Theme::Role::sidebarFill));
+    painter.fillRect(0, bar.bottom(), width(), 1, Theme::color(Theme::Role::separator));
+}

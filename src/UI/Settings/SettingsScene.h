@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Core/RawValue.h"
+
+#include <QWidget>
+
+#include <array>
+
+class LoginItem;
+class Preferences;
+class QHBoxLayout;
+class QStackedWidget;
+class TabButton;
+
+/// The settings window. Every change takes effect at once; there is nothing to apply or to cancel.
+class SettingsScene : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Tab { general, sampling, alerts, quickKills, history };
+
+    SettingsScene(Preferences& preferences, LoginItem& loginItem, QWidget* parent = nullptr);
+
+    Tab tab() const { return m_tab; }
+    void select(Tab tab);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addTab(Tab tab, QWidget* content);
+    void addActions();
+    void selectNext(int by);
+
+    Tab m_tab = Tab::general;
+    QHBoxLayout* m_row;
+    QStackedWidget* m_contents;
+    QList<TabButton*> m_buttons;
+};
+
+template <>
+inline constexpr std::array rawValueTable<SettingsScene::Tab> = {
+    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::general, u"General"},
+    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::sampling, u"Sampling"},
+    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::alerts, u"Alerts"},
+    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::quickKills, u"Quick Kills"},
+    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::history, u"History"},
+};
+
+/// Name of the tab's symbol, under resources/symbols.
+QString tabSymbol(SettingsScene::Tab tab);

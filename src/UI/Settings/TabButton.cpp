@@ -1,0 +1,53 @@
+#include "UI/Settings/TabButton.h"
+
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/Symbols.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+
+namespace {
+
+constexpr int leastWidth = 72;
+constexpr int padding = 10;
+constexpr int tabHeight = 50;
+constexpr int symbolSize = 20;
+constexpr int symbolTop = 5;
+constexpr int labelHeight = 20;
+
+} // namespace
+
+TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_symbol(std::move(symbol)) {
+    setText(label);
+    setFont(Theme::font(Theme::TextStyle::callout, QFont::Medium));
+    setCheckable(true);
+    setAutoExclusive(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize TabButton::sizeHint() const {
+    return {std::max(leastWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
+}
+
+void TabButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (isChecked() || underMouse() || isDown())
+        Painting::drawCard(painter, rect(), Theme::controlRadius,
+                           isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill),
+                           Qt::transparent);
+    // A ring only for those who move by keyboard: the window opens with the focus here.
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
+    const QColor ink = Theme::color(isChecked() ? Role::accent : Role::secondaryText);
+    Symbols::draw(painter, m_symbol, ink, QRectF(0, symbolTop, width(), symbolSize), symbolSize);
+    painter.setFont(font());
+    painter.setPen(ink);
+    painter.drawText(QRectF(0, height() - labelHeight - 3, width(), labelHeight), Qt::AlignCenter, text());
+}

@@ -1,0 +1,180 @@
+#include "UI/Settings/SettingsScene.h"
+
+#include "UI/Controls.h"
+#include "UI/Kit/Switch.h"
+#include "UI/ModelFixture.h"
+#include "UI/Settings/TabButton.h"
+#include "support/FakeLoginItem.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Tab = SettingsScene::Tab;
+
+struct SettingsTest : testing::Test {
+    TemporarySettings settings;
+    Preferences& prefs = settings.preferences;
+    FakeLoginItem loginItem;
+    SettingsScene window{prefs, loginItem};
+
+    void SetUp() override {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    QStringList stored() const {
+        QFile file(settings.path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n')
+                                              : QStringList();
+    }
+    bool isOn(const QString& toggle) { return control<Switch>(window, toggle)->isChecked(); }
+    QString chosen(const QString& picker) { return control<QComboBox>(window, picker)->currentText(); }
+};
+
+} // namespace
+
+TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
+    EXPECT_EQ(window.size(), QSize(640, 460));
+    EXPECT_TRUE(window.windowTitle().contains(u"settings"_s, Qt::CaseInsensitive));
+    EXPECT_EQ(window.tab(), Tab::general);
+    click(window, u"Quick Kills"_s);
+    EXPECT_EQ(window.tab(), Tab::quickKills);
+    EXPECT_TRUE(showsText(window, u"Custom Quick Kill presets"_s));
+    auto* quickKills = control<TabButton>(window, u"Quick Kills"_s);
+    quickKills->setFocus();
+    QTest::keyClick(quickKills, Qt::Key_Left);
+    EXPECT_EQ(window.tab(), Tab::alerts);
+    EXPECT_TRUE(control<Switch>(window, u"CPU saturation"_s));
+    QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window.tab(), Tab::sampling);
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window.tab(), Tab::alerts);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
+    struct Case {
+        Tab tab;
+        QString name;
+        QString choice; ///< of a picker, else "More" or "Less" of a stepper, else empty
+        QString line;   ///< in the file from then on
+    };
+    const Case cases[] = {
+        {Tab::general, u"Start at login"_s, {}, u"pref.startAtLogin=false"_s},
+        {Tab::general, u"Show floating widget on launch"_s, {}, u"pref.showWidgetOnLaunch=true"_s},
+        {Tab::general, u"Show in Dock"_s, {}, u"pref.showInDock=false"_s},
+        {Tab::general, u"Display"_s, u"Icon only"_s, u"pref.menuBarFormat=Icon only"_s},
+        {Tab::sampling, u"Poll interval"_s, u"5s"_s, u"pref.pollIntervalSeconds=5"_s},
+        {Tab::sampling, u"History retention"_s, u"1 hour"_s, u"pref.historyRetention=1 hour"_s},
+        {Tab::sampling, u"Pause sampling on Low Power Mode"_s, {}, u"pref.pauseOnLowPower=true"_s},
+        {Tab::alerts, u"Free RAM threshold"_s, u"More"_s, u"pref.alertRAMLow_freeGB=2.5"_s},
+        {Tab::alerts, u"Low RAM warning"_s, {}, u"pref.alertRAMLow_enabled=false"_s},
+        {Tab::alerts, u"CPU threshold"_s, u"More"_s, u"pref.alertCPUHot_percent=90"_s},
+        {Tab::alerts, u"CPU saturation"_s, {}, u"pref.alertCPUHot_enabled=false"_s},
+        {Tab::alerts, u"Thermal pressure warning"_s, {}, u"pref.alertThermal_enabled=false"_s},
+        {Tab::alerts, u"Min idle"_s, u"Less"_s, u"pref.alertIdleAgent_minIdleMin=14"_s},
+        {Tab::alerts, u"Min RAM"_s, u"More"_s, u"pref.alertIdleAgent_minRSSMB=600"_s},
+        {Tab::alerts, u"Flag idle Claude / agentic processes"_s, {}, u"pref.alertIdleAgent_enabled=false"_s},
+        {Tab::alerts, u"Of total RAM"_s, u"Less"_s, u"pref.alertBrowserHog_percentTotal=20"_s},
+        {Tab::alerts, u"Browser RAM dominance"_s, {}, u"pref.alertBrowserHog_enabled=false"_s},
+        {Tab::alerts, u"Threshold"_s, u"More"_s, u"pref.alertCachesBig_gb=6"_s},
+        {Tab::alerts, u"Caches reclaimable"_s, {}, u"pref.alertCachesBig_enabled=false"_s},
+    };
+    for (const Case& c : cases) {
+        window.select(c.tab);
+        if (c.choice.isEmpty())
+            click(window, c.name);
+        else if (control<QComboBox>(window, c.name))
+            choose(window, c.name, c.choice);
+        else
+            step(window, c.choice, c.name);
+        EXPECT_TRUE(stored().contains(c.line)) << qPrintable(c.line + u"\nnot in\n"_s + stored().join(u'\n'));
+    }
+    Preferences reread(settings.path);
+    SettingsScene again(reread, loginItem);
+    again.show();
+    QStringList shown;
+    for (const Tab tab : {Tab::general, Tab::sampling, Tab::alerts}) {
+        again.select(tab);
+        for (const auto* toggle : again.findChildren<Switch*>()) {
+            if (toggle->isVisibleTo(&again) && toggle->isChecked())
+                shown.append(toggle->text());
+        }
+        for (const auto* picker : again.findChildren<QComboBox*>()) {
+            if (picker->isVisibleTo(&again))
+                shown.append(picker->currentText());
+        }
+        shown.append(shownNames<StepperRow>(again));
+    }
+    EXPECT_EQ(shown,
+              (QStringList{u"Show floating widget on launch"_s, u"Icon only"_s,
+                           u"Pause sampling on Low Power Mode"_s, u"5s"_s, u"1 hour"_s,
+                           u"Free RAM threshold 2.5 GB"_s, u"CPU threshold 90%"_s, u"Min idle 14 min"_s,
+                           u"Min RAM 600 MB"_s, u"Of total RAM 20%"_s, u"Threshold 6 GB"_s}));
+}
+
+TEST_F(SettingsTest, ChangesFromElsewhereShowAtOnce) {
+    prefs.showInDock.set(false);
+    prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_FALSE(isOn(u"Show in Dock"_s));
+    EXPECT_EQ(chosen(u"Display"_s), u"RAM%"_s);
+    window.select(Tab::alerts);
+    prefs.alertCachesBigGB.set(7.9);
+    prefs.alertRAMLowEnabled.set(false);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(control<StepperRow>(window, u"Threshold 7 GB"_s));
+    EXPECT_FALSE(control<StepperRow>(window, u"Free RAM threshold 2.0 GB"_s)->isEnabled());
+    EXPECT_TRUE(control<StepperRow>(window, u"CPU threshold"_s)->isEnabled());
+    window.select(Tab::general); // while the tab was not on show
+    window.select(Tab::alerts);
+    EXPECT_FALSE(isOn(u"Low RAM warning"_s));
+}
+
+TEST_F(SettingsTest, TheRetentionLineFollowsBothPickers) {
+    window.select(Tab::sampling);
+    const auto keeps = [this](int samples) {
+        return showsText(window, u"Keeps %1 samples for the Overview sparklines."_s.arg(samples));
+    };
+    EXPECT_TRUE(keeps(750));
+    choose(window, u"Poll interval"_s, u"10s"_s);
+    EXPECT_TRUE(keeps(150));
+    choose(window, u"History retention"_s, u"5 min"_s);
+    EXPECT_TRUE(keeps(60));
+    for (const double odd : {3.0, -7.0, 1e300}) {
+        prefs.pollIntervalSeconds.set(odd);
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(chosen(u"Poll interval"_s), QString()) << odd;
+        EXPECT_EQ(prefs.pollIntervalSeconds(), odd);
+    }
+    EXPECT_TRUE(keeps(60));
+    choose(window, u"Poll interval"_s, u"1s"_s);
+    EXPECT_TRUE(keeps(300));
+}
+
+TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
+    click(window, u"Start at login"_s);
+    loginItem.failure = u"<b>disk</b> full"_s;
+    click(window, u"Start at login"_s);
+    EXPECT_TRUE(showsText(window, u"Couldn't register: <b>disk</b> full"_s));
+    EXPECT_TRUE(prefs.startAtLogin());
+    click(window, u"Start at login"_s);
+    EXPECT_TRUE(showsText(window, u"Couldn't unregister: <b>disk</b> full"_s));
+    EXPECT_FALSE(isOn(u"Start at login"_s));
+    EXPECT_FALSE(prefs.startAtLogin());
+    {
+        SettingsScene another(prefs, loginItem);
+        another.show();
+        EXPECT_FALSE(showsText(another, u"Couldn't unregister: <b>disk</b> full"_s));
+    }
+    loginItem.failure.reset();
+    click(window, u"Start at login"_s);
+    EXPECT_FALSE(showsText(window, u"Couldn't unregister: <b>disk</b> full"_s));
+    EXPECT_EQ(loginItem.requests,
+              (QStringList{u"unregister"_s, u"register"_s, u"unregister"_s, u"register"_s}));
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/LoginItem.h"
+
+#include <QStringList>
+
+#include <functional>
+
+/// A login item that only remembers what it was asked for, and fails for the reason the test gives.
+class FakeLoginItem : public LoginItem {
+public:
+    QStringList requests; ///< "register" and "unregister"
+    std::optional<QString> failure;
+    std::function<void()> whenAsked = [] {};
+
+    std::optional<QString> registerItem() override { return ask(QStringLiteral("register")); }
+    std::optional<QString> unregisterItem() override { return ask(QStringLiteral("unregister")); }
+
+private:
+    std::optional<QString> ask(const QString& request) {
+        requests.append(request);
+        whenAsked();
+        return failure;
+    }
+};
