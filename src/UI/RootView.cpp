@@ -1,5 +1,6 @@
 #include "UI/RootView.h"
 
+#include "Preferences.h"
 #include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/SidebarDelegate.h"
@@ -16,6 +17,8 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -43,6 +46,7 @@ QString tabSymbol(RootView::Tab tab) {
 
 RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QWidget(parent)
+    , m_storeLater(preferences.file())
     , m_sidebar(new QListWidget)
     , m_menuButton(new IconButton(QStringLiteral("gear"), QStringLiteral("Menu")))
     , m_banner(new MessageBanner(messages))
@@ -74,7 +78,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     split->addWidget(sidebarPane);
     split->addWidget(makeDetail());
     split->setStretchFactor(1, 1);
-    split->setSizes({sidebarIdeal, minimumContent.width() - sidebarIdeal});
+    restoreSidebar(split, preferences.file());
 
     auto* frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 0, 0);
@@ -102,6 +106,16 @@ QWidget* RootView::makeDetail() {
     column->addWidget(m_title);
     column->addWidget(m_sections, 1);
     return detail;
+}
+
+void RootView::restoreSidebar(QSplitter* split, const SettingsFile& file) {
+    const QString key = QStringLiteral("ui.window.sidebarWidth");
+    const double stored = file.number(key).value_or(sidebarIdeal);
+    const int width = static_cast<int>(
+        std::clamp(stored, static_cast<double>(sidebarMinimum), static_cast<double>(sidebarMaximum)));
+    split->setSizes({width, minimumContent.width() - width});
+    connect(split, &QSplitter::splitterMoved, this,
+            [this, split, key] { m_storeLater.store(key, split->sizes().first()); });
 }
 
 void RootView::showSection(int row) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/RawValue.h"
+#include "UI/Kit/StoreLater.h"
 
 #include <QWidget>
 
@@ -13,6 +14,7 @@ class MessageCenter;
 class Preferences;
 class QListWidget;
 class QMenu;
+class QSplitter;
 class QStackedWidget;
 class TextLabel;
 
@@ -42,10 +44,12 @@ protected:
 
 private:
     QWidget* makeDetail();
+    void restoreSidebar(QSplitter* split, const SettingsFile& file);
     void showSection(int row);
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();
 
+    StoreLater m_storeLater;
     QListWidget* m_sidebar;
     IconButton* m_menuButton;
     MessageBanner* m_banner;

@@ -219,7 +219,10 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
 TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {
     show();
     table->header()->resizeSection(1, 99);
-    EXPECT_EQ(ProcessesView(model, prefs).findChild<ProcessTableView*>()->header()->sectionSize(1), 99);
+    const auto isStored = [this] {
+        return ProcessesView(model, prefs).findChild<ProcessTableView*>()->header()->sectionSize(1) == 99;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isStored, 3000));
     prefs.file().store(u"ui.processes.widths"_s, u"-5 99999999 x"_s);
     const ProcessesView again(model, prefs);
     EXPECT_EQ(again.findChild<ProcessTableView*>()->header()->sectionSize(1), 156);

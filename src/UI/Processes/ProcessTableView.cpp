@@ -51,7 +51,8 @@ ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
     : QTreeView(parent)
     , m_preferences(preferences)
     , m_rows(new ProcessTableModel(this))
-    , m_delegate(new ProcessRowDelegate(this)) {
+    , m_delegate(new ProcessRowDelegate(this))
+    , m_storeLater(preferences.file()) {
     auto* head = new TableHeader(this);
     setHeader(head);
     setModel(m_rows);
@@ -77,7 +78,10 @@ ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
     restoreWidths();
     connect(m_delegate, &ProcessRowDelegate::triggered, this, &ProcessTableView::triggered);
     connect(head, &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
-    connect(head, &QHeaderView::sectionResized, this, &ProcessTableView::storeWidths);
+    connect(head, &QHeaderView::sectionResized, this, [this](int section) {
+        if (section > 0) // the first follows the window
+            storeWidths();
+    });
 }
 
 void ProcessTableView::show(QList<ProcessTableRow> rows, bool isGrouped) {
@@ -143,7 +147,7 @@ void ProcessTableView::storeWidths() {
     QStringList widths;
     for (int i = 0; i < m_rows->columnCount(); ++i)
         widths.append(QString::number(header()->sectionSize(i)));
-    m_preferences.file().store(widthsKey(), widths.join(u' '));
+    m_storeLater.store(widthsKey(), widths.join(u' '));
 }
 
 void ProcessTableView::copySelection() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "UI/Kit/StoreLater.h"
 #include "UI/Processes/ProcessRowDelegate.h"
 #include "UI/Processes/ProcessTableModel.h"
 
@@ -40,6 +41,7 @@ private:
     Preferences& m_preferences;
     ProcessTableModel* m_rows;
     ProcessRowDelegate* m_delegate;
+    StoreLater m_storeLater;
     SortBy m_sort = SortBy::ram;
     bool m_isRestoring = false;
 };
