@@ -4,39 +4,77 @@
 #include "Core/MessageCenter.h"
 #include "Core/Observe.h"
 #include "Platform/Desktop/DesktopApplication.h"
+#include "Platform/LoginItem.h"
 #include "Preferences.h"
 #include "UI/MainWindow.h"
 #include "UI/MainWindowFinder.h"
 #include "UI/MenuBar.h"
+#include "UI/Settings/SettingsScene.h"
 
-AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, MessageCenter& messages, Desktop desktop)
+#include <QScreen>
+
+AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, MessageCenter& messages, Desktop desktop,
+                         std::shared_ptr<LoginItem> loginItem)
     : m_model(model)
     , m_preferences(preferences)
     , m_messages(messages)
     , m_desktop(std::move(desktop))
+    , m_loginItem(std::move(loginItem))
     , m_widget(m_desktop) {}
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate() {
+    delete m_settings;
+}
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_model.start();
     m_messages.start();
     menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
+    QObject::connect(menuBar.get(), &MenuBarController::settingsRequested, menuBar.get(),
+                     [this] { openSettings(); });
     applyActivationPolicy();
+    openMainWindow();
+    if (m_preferences.showWidgetOnLaunch())
+        m_widget.show(m_model);
+    registerLoginItemIfFirstLaunch();
+    observe(&m_preferences, menuBar.get(), [this] { applyActivationPolicy(); });
+}
+
+void AppDelegate::openMainWindow() {
     m_mainWindow = std::make_unique<MainWindow>(m_model, m_preferences, m_messages);
     QObject::connect(m_mainWindow.get(), &MainWindow::widgetToggled, m_mainWindow.get(),
                      [this] { m_widget.toggle(m_model); });
+    QObject::connect(m_mainWindow.get(), &MainWindow::settingsRequested, m_mainWindow.get(),
+                     [this] { openSettings(); });
     m_mainWindow->show();
-    if (m_preferences.showWidgetOnLaunch())
-        m_widget.show(m_model);
-    observe(&m_preferences, m_mainWindow.get(), [this] { applyActivationPolicy(); });
 }
 
 void AppDelegate::bringForward() {
     MainWindowFinder::open(*m_desktop.application, MainWindowFinder::Fallback::anyWindow);
 }
 
+void AppDelegate::openSettings() {
+    if (!m_settings || !m_settings->isVisible()) { // one that was closed may not be gone yet
+        m_settings = new SettingsScene(m_preferences, *m_loginItem);
+        m_settings->setAttribute(Qt::WA_DeleteOnClose);
+        const QRect around =
+            m_mainWindow->isVisible() ? m_mainWindow->geometry() : m_settings->screen()->availableGeometry();
+        m_settings->move(around.center() - m_settings->rect().center());
+        m_settings->show();
+    }
+    m_desktop.application->bringForward(m_settings);
+}
+
 void AppDelegate::applyActivationPolicy() {
     m_desktop.application->setActivationPolicy(m_preferences.showInDock() ? ActivationPolicy::regular
                                                                           : ActivationPolicy::accessory);
+}
+
+void AppDelegate::registerLoginItemIfFirstLaunch() {
+    const QString key = QStringLiteral("pref.didFirstLaunchSetup");
+    if (m_preferences.file().boolean(key).value_or(false))
+        return;
+    m_preferences.file().store(key, true); // first, so that whatever fails is not tried at every launch
+    if (m_preferences.startAtLogin())
+        m_loginItem->registerItem(); // a failure is nothing to bother a new user with
 }

@@ -4,19 +4,24 @@
 #include "AppModel.h"
 #include "Core/MessageCenter.h"
 #include "Platform/Appearance.h"
+#include "Platform/LoginItem.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
 #include "UI/Kit/ThemeFollower.h"
 
 #include <QIcon>
+#include <QRegularExpression>
 #include <QStyleFactory>
 
 namespace {
 
-/// The screen that this program's windows appear on, so that two screens of one user are told apart.
+/// Where this program's windows appear, so that two displays of one user are told apart. ":0.1" is a screen
+/// of the display ":0".
 QString displayName() {
-    return qEnvironmentVariable("WAYLAND_DISPLAY") + u'\n' + qEnvironmentVariable("DISPLAY");
+    static const QRegularExpression screen(QStringLiteral("(:[0-9]+)\\.[0-9]+$"));
+    const QString display = qEnvironmentVariable("DISPLAY").replace(screen, QStringLiteral("\\1"));
+    return qEnvironmentVariable("WAYLAND_DISPLAY") + u'\n' + display;
 }
 
 } // namespace
@@ -24,7 +29,6 @@ QString displayName() {
 TavrinApp::TavrinApp(int& argc, char** argv)
     : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Tavrin"));
-    setApplicationDisplayName(QStringLiteral("Tavrin"));
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
     setDesktopFileName(QStringLiteral("tavrin"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
@@ -40,7 +44,8 @@ int TavrinApp::run() {
     if (!instance.claim())
         return 0;
     m_appDelegate = std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(),
-                                                  MessageCenter::shared(), Desktop::native());
+                                                  MessageCenter::shared(), Desktop::native(),
+                                                  Platform::makeLoginItem());
     connect(&instance, &SingleInstance::startedAgain, this, [this] { m_appDelegate->bringForward(); });
     m_appDelegate->applicationDidFinishLaunching();
     const TerminationRequest termination;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/Kit/StoreLater.h"
+
 #include <QMainWindow>
 
 class AppModel;
@@ -8,7 +10,7 @@ class Preferences;
 class RootView;
 
 /// The window around RootView. Closing it only orders it out: the program goes on in the status area, and
-/// the window comes back on its first section.
+/// the window comes back on its first section. Its size and place outlast the program.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -17,12 +19,19 @@ public:
 
 Q_SIGNALS:
     void widgetToggled();
+    void settingsRequested();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void addMenuActions();
+    void restorePlace();
+    void rememberPlace();
 
+    SettingsFile& m_file;
+    StoreLater m_storeLater;
     RootView* m_root;
 };

@@ -62,10 +62,13 @@ MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, 
     const auto redraw = [this] { update(m_model.systemSample()); };
     observe(&m_model, this, redraw);
     observe(&m_preferences, this, redraw);
+    if (!m_model.systemHistory().isEmpty()) // the first sample was taken before anybody could observe it
+        QMetaObject::invokeMethod(this, redraw, Qt::QueuedConnection);
 }
 
 void MenuBarController::buildMenu() {
-    AppMenu::fill(m_menu, [this] { openMainWindow(); });
+    AppMenu::fill(
+        m_menu, [this] { openMainWindow(); }, [this] { Q_EMIT settingsRequested(); });
     m_desktop.statusItem->setMenu(&m_menu);
 }
 

@@ -24,6 +24,9 @@ public:
     /// The whole title, without the symbol of the icon-only format: "CPU 23% • RAM 61%".
     static QString title(MenuBarFormat format, const SystemSample& sample);
 
+Q_SIGNALS:
+    void settingsRequested();
+
 private:
     /// What the item was last drawn from; it is drawn again only when that changes.
     struct Shown {

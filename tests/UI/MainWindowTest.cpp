@@ -6,12 +6,19 @@
 #include "support/ScriptedFeed.h"
 
 #include <QListWidget>
+#include <QScreen>
+#include <QSplitter>
+#include <QTest>
 
 namespace {
 
 struct MainWindowTest : ModelFixture {
     MessageCenter messages{std::make_unique<ScriptedFeed>(), prefs.file()};
 };
+
+int paneWidth(const MainWindow& window) {
+    return window.findChild<QSplitter*>()->sizes().first();
+}
 
 } // namespace
 
@@ -25,6 +32,55 @@ TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Tavrin"));
     EXPECT_GE(window.centralWidget()->width(), 1000);
     EXPECT_GE(window.centralWidget()->height(), 680);
+}
+
+TEST_F(MainWindowTest, SizePlaceAndSidebarOutlastTheProgram) {
+    {
+        MainWindow window(model, prefs, messages);
+        window.show();
+        EXPECT_EQ(paneWidth(window), 200);
+        window.setGeometry(0, 21, 1000, 743);
+        auto* handle = window.findChild<QSplitter*>()->handle(1);
+        QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(0, 300));
+        QTest::mouseMove(handle, QPoint(13, 300));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(0, 300));
+    }
+    MainWindow again(model, prefs);
+    again.show();
+    EXPECT_EQ(again.height(), 743);
+    EXPECT_NEAR(again.y(), 21, 4); // give or take a frame
+    EXPECT_GT(paneWidth(again), 205);
+}
+
+TEST_F(MainWindowTest, DamagedPlacesAndScreensThatAreGoneDoNoHarm) {
+    const QString place = QStringLiteral("ui.window.place");
+    const QString sidebar = QStringLiteral("ui.window.sidebarWidth");
+    QByteArray farAway;
+    {
+        MainWindow window(model, prefs, messages);
+        window.show();
+        window.setGeometry(9000, -7000, 1300, 700);
+        farAway = window.saveGeometry();
+    }
+    for (const QByteArray& stored :
+         {farAway, farAway.left(20), QByteArray(farAway).replace(8, 24, QByteArray(24, '\xff')),
+          QByteArray("@Rect(1 2 3 4)"), QByteArray(5000, '\0')}) {
+        prefs.file().store(place, stored);
+        prefs.file().store(sidebar, QStringLiteral("wide"));
+        MainWindow window(model, prefs, messages);
+        window.show();
+        EXPECT_GE(window.width(), 1000);
+        EXPECT_LE(window.width(), 1300);
+        EXPECT_TRUE(window.geometry().intersects(window.screen()->availableGeometry()))
+            << stored.toHex().data();
+        EXPECT_EQ(paneWidth(window), 200);
+    }
+    for (const auto& [stored, shown] : {std::pair(-5.0, 180), std::pair(1e300, 220)}) {
+        prefs.file().store(sidebar, stored);
+        MainWindow window(model, prefs, messages);
+        window.show();
+        EXPECT_EQ(paneWidth(window), shown);
+    }
 }
 
 TEST_F(MainWindowTest, SidebarKeepsItsWidth) {

@@ -1,0 +1,156 @@
+#include "AppDelegate.h"
+
+#include "Core/MessageCenter.h"
+#include "UI/Controls.h"
+#include "UI/FakeDesktop.h"
+#include "UI/Kit/Switch.h"
+#include "UI/MainWindow.h"
+#include "UI/ModelFixture.h"
+#include "UI/Settings/SettingsScene.h"
+#include "support/FakeLoginItem.h"
+#include "support/ScriptedFeed.h"
+
+#include <QApplication>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString firstLaunchKey = u"pref.didFirstLaunchSetup"_s;
+
+struct AppDelegateTest : ModelFixture {
+    FakeDesktop desktop;
+    MessageCenter messages{std::make_unique<ScriptedFeed>(), prefs.file()};
+    std::shared_ptr<FakeLoginItem> loginItem = std::make_shared<FakeLoginItem>();
+    std::optional<AppDelegate> delegate;
+
+    void launch() {
+        delegate.emplace(model, prefs, messages, desktop.desktop(), loginItem);
+        delegate->applicationDidFinishLaunching();
+        settle();
+    }
+    void settle() {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+    bool didFirstLaunch() {
+        return Preferences(settings.path).file().boolean(firstLaunchKey).value_or(false);
+    }
+    template <typename T> QList<T*> windows() {
+        QList<T*> result;
+        for (QWidget* each : QApplication::topLevelWidgets()) {
+            if (auto* window = qobject_cast<T*>(each))
+                result.append(window);
+        }
+        return result;
+    }
+    void pick(const QString& item) {
+        for (QAction* action : desktop.statusItem->menu->actions()) {
+            if (action->text() == item)
+                action->trigger();
+        }
+        settle();
+    }
+    SettingsScene& settingsWindow() {
+        pick(u"Settings…"_s);
+        return *windows<SettingsScene>().constFirst();
+    }
+};
+
+} // namespace
+
+TEST_F(AppDelegateTest, TheFirstLaunchRegistersOnceAndTheFlagComesFirst) {
+    bool flagWhenAsked = false;
+    loginItem->whenAsked = [&] { flagWhenAsked = didFirstLaunch(); };
+    loginItem->failure = u"no such folder"_s;
+    launch();
+    EXPECT_TRUE(flagWhenAsked);
+    EXPECT_EQ(loginItem->requests, QStringList(u"register"_s));
+    EXPECT_EQ(desktop.application->policy, ActivationPolicy::regular);
+    EXPECT_TRUE(desktop.panels->isEmpty());
+    ASSERT_EQ(windows<MainWindow>().size(), 1);
+    EXPECT_TRUE(windows<MainWindow>().constFirst()->isVisible());
+    EXPECT_EQ(desktop.statusItem->content.title, u"CPU 0% • RAM 0%"_s);
+    EXPECT_FALSE(showsText(settingsWindow(), u"Couldn't register: no such folder"_s));
+    launch();
+    EXPECT_EQ(loginItem->requests.size(), 1);
+}
+
+TEST_F(AppDelegateTest, WhatIsStoredDecidesTheLaunch) {
+    prefs.startAtLogin.set(false);
+    prefs.showInDock.set(false);
+    prefs.showWidgetOnLaunch.set(true);
+    launch();
+    EXPECT_TRUE(loginItem->requests.isEmpty());
+    EXPECT_TRUE(didFirstLaunch());
+    EXPECT_EQ(desktop.application->policy, ActivationPolicy::accessory);
+    ASSERT_EQ(desktop.panels->size(), 1);
+    EXPECT_TRUE(desktop.panels->constFirst()->visible);
+}
+
+TEST_F(AppDelegateTest, OneSettingsWindowThatOpensOnGeneral) {
+    launch();
+    QStringList items;
+    for (const QAction* action : desktop.statusItem->menu->actions())
+        items.append(action->text());
+    EXPECT_EQ(items, (QStringList{u"Open"_s, u"Settings…"_s, QString(), u"Quit"_s}));
+
+    MainWindow& main = *windows<MainWindow>().constFirst();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+    QTest::keyClick(&main, Qt::Key_Comma, Qt::ControlModifier);
+    settle();
+    ASSERT_EQ(windows<SettingsScene>().size(), 1);
+    auto* window = windows<SettingsScene>().constFirst();
+    EXPECT_EQ(desktop.application->forward, window);
+    window->select(SettingsScene::Tab::alerts);
+    desktop.application->forward = nullptr;
+    main.close();
+    pick(u"Settings…"_s);
+    EXPECT_EQ(windows<SettingsScene>(), QList{window});
+    EXPECT_EQ(desktop.application->forward, window);
+    EXPECT_EQ(window->tab(), SettingsScene::Tab::alerts);
+
+    window->close();
+    delegate->openSettings(); // before the closed one is gone
+    settle();
+    ASSERT_EQ(windows<SettingsScene>().size(), 1);
+    EXPECT_EQ(windows<SettingsScene>().constFirst()->tab(), SettingsScene::Tab::general);
+    EXPECT_TRUE(windows<SettingsScene>().constFirst()->isVisible());
+    delegate.reset();
+    EXPECT_TRUE(windows<SettingsScene>().isEmpty());
+}
+
+TEST_F(AppDelegateTest, SettingsTakeEffectWithoutARestart) {
+    launch();
+    SettingsScene& window = settingsWindow();
+    click(window, u"Show in Dock"_s);
+    settle();
+    EXPECT_EQ(desktop.application->policy, ActivationPolicy::accessory);
+    click(window, u"Show in Dock"_s);
+    settle();
+    EXPECT_EQ(desktop.application->policy, ActivationPolicy::regular);
+    choose(window, u"Display"_s, u"Icon only"_s);
+    settle();
+    EXPECT_EQ(desktop.statusItem->content.title, QString());
+    EXPECT_FALSE(desktop.statusItem->content.symbol.isNull());
+    window.select(SettingsScene::Tab::sampling);
+    choose(window, u"Poll interval"_s, u"5s"_s);
+    settle();
+    EXPECT_EQ(model.timerInterval(), 5.0);
+    window.select(SettingsScene::Tab::alerts);
+    fakes.host->thermal = 3;
+    for (int i = 0; i < 30; ++i) // until it counts as hot
+        tick();
+    EXPECT_EQ(model.alerts().size(), 1);
+    click(window, u"Thermal pressure warning"_s);
+    tick();
+    EXPECT_TRUE(model.alerts().isEmpty());
+    window.select(SettingsScene::Tab::sampling);
+    click(window, u"Pause sampling on Low Power Mode"_s);
+    fakes.power->lowPower = true;
+    addProcesses(1, "late", 1);
+    tick();
+    EXPECT_TRUE(model.processes().isEmpty());
+}
