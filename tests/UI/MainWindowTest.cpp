@@ -45,7 +45,7 @@ TEST_F(MainWindowTest, SizePlaceAndSidebarOutlastTheProgram) {
         QTest::mouseMove(handle, QPoint(13, 300));
         QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(0, 300));
     }
-    MainWindow again(model, prefs);
+    MainWindow again(model, prefs, messages);
     again.show();
     EXPECT_EQ(again.height(), 743);
     EXPECT_NEAR(again.y(), 21, 4); // give or take a frame
