@@ -3,6 +3,7 @@
 #include "UI/Kit/Theme.h"
 #include "UI/Settings/AlertsTab.h"
 #include "UI/Settings/GeneralTab.h"
+#include "UI/Settings/HistoryTab.h"
 #include "UI/Settings/QuickKillsTab.h"
 #include "UI/Settings/SamplingTab.h"
 #include "UI/Settings/TabButton.h"
@@ -60,6 +61,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWi
     addTab(Tab::sampling, new SamplingTab(preferences));
     addTab(Tab::alerts, new AlertsTab(preferences));
     addTab(Tab::quickKills, new QuickKillsTab(preferences));
+    addTab(Tab::history, new HistoryTab);
     addActions();
     select(Tab::general);
 }
@@ -74,8 +76,6 @@ void SettingsScene::addTab(Tab tab, QWidget* content) {
 
 void SettingsScene::select(Tab tab) {
     const auto index = static_cast<int>(tab);
-    if (index >= m_buttons.size())
-        return;
     m_tab = tab;
     m_buttons[index]->setChecked(true);
     m_contents->setCurrentIndex(index);
