@@ -12,7 +12,7 @@ packages_of() {
     package) echo dpkg-dev file ;;
     bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \
-        fonts-dejavu-core ;;
+        at-spi2-core python3-gi gir1.2-atspi-2.0 util-linux mount fonts-dejavu-core ;;
     screenshots) echo fonts-dejavu-core ;;
     wayland) echo qt6-wayland ;;
     lint) echo clang-format cppcheck ;;

@@ -37,6 +37,7 @@ TEST_F(OverviewViewTest, FiguresCanBeReadByAccessibleName) {
               (QStringList{QStringLiteral("CPU 0%"), QStringLiteral("Memory 25%"), QStringLiteral("Disk 60%"),
                            QStringLiteral("Thermal Cool")}));
     EXPECT_EQ(header(ProcGroup::browsers)->accessibleName(), QStringLiteral("Browsers (2), 1 GB, 0% CPU"));
+    EXPECT_EQ(header(ProcGroup::ides)->accessibleName(), QStringLiteral("IDEs (0), 0 bytes, 0% CPU"));
 }
 
 TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {

@@ -171,6 +171,8 @@ TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
     QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
     EXPECT_EQ(column(u"Name"_s), (QStringList{u"helper"_s, u"single"_s}));
     EXPECT_EQ(column(u"Procs"_s), (QStringList{u"12"_s, u"1"_s}));
+    EXPECT_EQ(table->model()->index(0, 0).data(Qt::AccessibleTextRole), u"helper ×12"_s);
+    EXPECT_EQ(table->model()->index(1, 0).data(Qt::AccessibleTextRole), u"single"_s);
     EXPECT_EQ(column(u"RAM"_s), (QStringList{u"720 MB"_s, u"700 MB"_s}));
     press(0, 0);
     EXPECT_EQ(fakes.signalSender->sent().size(), 12);

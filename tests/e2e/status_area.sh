@@ -5,20 +5,7 @@ set -euo pipefail
 program=$(realpath "$1")
 cd "$(dirname "$0")/../.."
 . scripts/lib/display.sh
-
-fail() {
-    echo "FAILED: $1" >&2
-    [ -z "${SCREENSHOT:-}" ] || import -window root "$SCREENSHOT"
-    exit 1
-}
-check() {
-    local what=$1
-    shift
-    within_ten_seconds "$@" || fail "$what"
-    echo "ok: $what"
-}
-not() { ! "$@"; }
-alive() { kill -0 "$1" 2>/dev/null; }
+. tests/e2e/lib.sh
 
 # Prints the id of the program's visible window whose "WIDTHxHEIGHT" matches the pattern.
 window_of_size() {

@@ -35,6 +35,7 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    describe();
 }
 
 QSize GroupHeader::sizeHint() const {
@@ -50,12 +51,18 @@ void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpand
     m_rollup = rollup;
     m_share = share;
     m_expanded = isExpanded;
-    setAccessibleName(QStringLiteral("%1 (%2), %3, %4 CPU")
-                          .arg(rawValue(rollup.group))
-                          .arg(rollup.count)
-                          .arg(Formatters::bytes(rollup.rssBytes), Formatters::percent(rollup.cpuPercent)));
-    setAccessibleDescription(isExpanded ? QStringLiteral("Expanded") : QStringLiteral("Collapsed"));
+    describe();
     update();
+}
+
+/// What a screen reader says.
+void GroupHeader::describe() {
+    setAccessibleName(
+        QStringLiteral("%1 (%2), %3, %4 CPU")
+            .arg(rawValue(m_rollup.group))
+            .arg(m_rollup.count)
+            .arg(Formatters::bytes(m_rollup.rssBytes), Formatters::percent(m_rollup.cpuPercent)));
+    setAccessibleDescription(m_expanded ? QStringLiteral("Expanded") : QStringLiteral("Collapsed"));
 }
 
 void GroupHeader::keyPressEvent(QKeyEvent* event) {

@@ -59,6 +59,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void describe();
     void paintLabel(QPainter& painter, QRectF area);
 
     GroupRollup m_rollup;

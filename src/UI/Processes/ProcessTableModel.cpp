@@ -61,6 +61,12 @@ QString textOf(const ProcessTableRow& row, Column column) {
     return {};
 }
 
+/// The name as a screen reader says it, with the painted badge.
+QString nameAndBadge(const ProcessTableRow& row) {
+    const QString name = textOf(row, Column::name);
+    return row.processes.size() > 1 ? QStringLiteral("%1 ×%2").arg(name).arg(row.processes.size()) : name;
+}
+
 bool isFigure(Column column) {
     return column != Column::name && column != Column::group && column != Column::actions;
 }
@@ -97,6 +103,8 @@ QVariant ProcessTableModel::data(const QModelIndex& index, int role) const {
     const Column at = column(index.column());
     if (role == Qt::DisplayRole)
         return textOf(row(index.row()), at);
+    if (role == Qt::AccessibleTextRole && at == Column::name)
+        return nameAndBadge(row(index.row()));
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(isFigure(at) ? Qt::AlignRight | Qt::AlignVCenter
                                                 : Qt::AlignLeft | Qt::AlignVCenter);

@@ -1,0 +1,53 @@
+# What the end-to-end tests share. Sourced after scripts/lib/display.sh, never run.
+#
+#   make_machine_private FOLDER...   begins the script anew where it can harm nobody
+#   check WHAT COMMAND...            prints "ok: WHAT" once COMMAND succeeds, fails after ten seconds
+#   fail WHAT                        ends the script, with a picture where SCREENSHOT names a file
+
+fail() {
+    echo "FAILED: $1" >&2
+    # An open descriptor: on a private machine the file itself is out of reach.
+    [ -z "${SCREENSHOT:-}" ] || import -window root png:- >&"$picture"
+    exit 1
+}
+[ -z "${SCREENSHOT:-}" ] || [ -n "${picture:-}" ] || exec {picture}>"$SCREENSHOT"
+export picture
+
+check() {
+    local what=$1
+    shift
+    within_ten_seconds "$@" || fail "$what"
+    echo "ok: $what"
+}
+not() { ! "$@"; }
+alive() { kill -0 "$1" 2>/dev/null; }
+
+# The rest of the script sees no process but its own, an empty /tmp, and all other files read-only; the
+# FOLDERs remain where they are, also below /tmp. To be called before anything is started.
+make_machine_private() {
+    local outside here folder
+    here=$(readlink /proc/self/ns/mnt)
+    outside=${TAVRIN_MOUNTS_OUTSIDE:-$here}
+    if [ "$outside" = "$here" ]; then
+        local private=(unshare --mount --pid --fork --mount-proc --kill-child)
+        [ "$(id -u)" = 0 ] || private+=(--map-root-user)
+        if ! "${private[@]}" true 2>/dev/null; then
+            echo "skipped: this machine allows no private processes and mounts"
+            exit 77
+        fi
+        TAVRIN_MOUNTS_OUTSIDE=$here exec "${private[@]}" bash "$0" "${script_arguments[@]}"
+    fi
+    mount -n -t tmpfs tmpfs /mnt
+    for folder in "$@"; do
+        case $folder in /tmp/*)
+            mkdir -p "/mnt${folder#/tmp}"
+            mount -n --rbind "$folder" "/mnt${folder#/tmp}"
+            ;;
+        esac
+    done
+    findmnt -rno TARGET | grep -vx /mnt | while read -r folder; do
+        mount -n -o remount,bind,ro "$(printf %b "$folder")" 2>/dev/null || true
+    done
+    mount -n --move /mnt /tmp
+    unset TMPDIR
+}
