@@ -1,5 +1,6 @@
 #include "Core/CacheScanner.h"
 #include "Core/Cleaner.h"
+#include "Platform/Child.h"
 #include "Platform/Clock.h"
 #include "Platform/Linux/LinuxPlaces.h"
 #include "Platform/Linux/LinuxToolRunner.h"
@@ -167,6 +168,69 @@ TEST_F(CleanupOnDisk, EmptiesTheTrashOfLinux) {
     EXPECT_TRUE(entries(home.path(u".local/share/Trash/files"_s)).isEmpty());
     EXPECT_TRUE(entries(home.path(u".local/share/Trash/info"_s)).isEmpty());
     EXPECT_EQ(entries(home.path(u".local/share/Trash"_s)).size(), 3);
+}
+
+/// Makes and removes files in both folders without end, in the second one old ones; says 'r' when it has
+/// begun.
+void comeAndGo(const std::string& cache, const std::string& downloads, int socket) {
+    constexpr int files = 40;
+    const std::string room(4096, 'x');
+    const timespec longAgo[2] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
+    for (;;) {
+        mkdir((cache + "/busy").c_str(), 0700);
+        for (int i = 0; i < files; ++i) {
+            for (const std::string& folder : {cache, cache + "/busy", downloads}) {
+                const int file = open((folder + "/" + std::to_string(i)).c_str(), O_CREAT | O_WRONLY, 0600);
+                if (file < 0)
+                    continue; // the folder is gone already
+                static_cast<void>(!write(file, room.data(), room.size()));
+                futimens(file, folder == downloads ? longAgo : nullptr);
+                close(file);
+            }
+        }
+        static_cast<void>(!write(socket, "r", 1));
+        for (int i = 0; i < files; ++i) {
+            for (const std::string& folder : {cache, cache + "/busy", downloads})
+                unlink((folder + "/" + std::to_string(i)).c_str());
+        }
+        rmdir((cache + "/busy").c_str());
+    }
+}
+
+TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
+    constexpr quint64 stable = 4 << 20;
+    constexpr quint64 passing = 1 << 20; // more than what comes and goes ever takes
+    const CacheTarget cache{.name = u"x"_s, .paths = {home.makeFolder(u"cache"_s)}};
+    const CacheTarget downloads{.name = u"Old Downloads (>30d)"_s, .paths = {u"~/Downloads"_s}};
+    home.makeFile(u"cache/stable/file"_s, QByteArray(stable, 'x'));
+    age(home.makeFile(u"Downloads/old"_s, QByteArray(stable, 'x')), 40);
+    home.makeFile(u"Downloads/new"_s);
+    const auto inside = [this](const QString& folder) { return home.path(folder).toStdString(); };
+    Child tenant([&](int socket) { comeAndGo(inside(u"cache"_s), inside(u"Downloads"_s), socket); });
+    ASSERT_EQ(tenant.heard(), 'r');
+
+    for (int round = 0; round < 20; ++round) {
+        for (const CacheTarget& target : {cache, downloads}) {
+            const CacheTarget measured = scanned(target);
+            EXPECT_TRUE(measured.lastScanned);
+            EXPECT_GE(measured.sizeBytes, stable) << target.name.toStdString();
+            EXPECT_LE(measured.sizeBytes, stable + passing) << target.name.toStdString();
+        }
+    }
+    const CleanResult result = clean(cache); // which may fail: a folder fills again before it is removed
+    EXPECT_FALSE(QFileInfo::exists(home.path(u"cache/stable"_s)));
+    EXPECT_GE(result.freedBytes, stable - passing);
+    EXPECT_LE(result.freedBytes, stable + passing);
+    for (int round = 0; round < 20; ++round)
+        clean(downloads);
+    EXPECT_FALSE(QFileInfo::exists(home.path(u"Downloads/old"_s)));
+    EXPECT_TRUE(QFileInfo::exists(home.path(u"Downloads/new"_s)));
+
+    tenant.end();
+    EXPECT_TRUE(clean(cache).success);
+    EXPECT_TRUE(entries(home.path(u"cache"_s)).isEmpty());
+    EXPECT_TRUE(clean(downloads).success);
+    EXPECT_EQ(entries(home.path(u"Downloads"_s)), QStringList(u"new"_s));
 }
 
 /// For caches that real tools have made in a home folder of their own; docs/testing.md tells how.
