@@ -7,7 +7,7 @@
 fail() {
     echo "FAILED: $1" >&2
     # An open descriptor: on a private machine the file itself is out of reach.
-    [ -z "${SCREENSHOT:-}" ] || import -window root png:- >&"$picture"
+    [ -z "${picture:-}" ] || import -window root png:- >&"$picture"
     exit 1
 }
 [ -z "${SCREENSHOT:-}" ] || [ -n "${picture:-}" ] || exec {picture}>"$SCREENSHOT"

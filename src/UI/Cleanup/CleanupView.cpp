@@ -169,6 +169,9 @@ void CleanupView::open(const CacheTarget& target) {
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();
+        // The drawer may close together with the dialog upon it, and a window manager that has just handed
+        // it the keyboard leaves the keyboard there.
+        window()->activateWindow();
     });
     drawer->open();
     refresh();
