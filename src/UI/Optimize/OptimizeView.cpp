@@ -32,7 +32,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     : QScrollArea(parent)
     , m_model(model)
     , m_preferences(preferences)
-    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime, this))
+    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime, viewport()))
     , m_memory(new MemoryCard)
     , m_quickKills(new QuickKillsCard)
     , m_mcp(new MCPCard)
