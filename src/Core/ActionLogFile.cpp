@@ -6,8 +6,24 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace {
+
+/// A full disk or a crash may have cut a line short, to which the next one must not be joined.
+bool endsInsideALine(QFile& file) {
+    char last = '\n';
+    return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
+}
+
+} // namespace
+
 QString Cleaner::actionLogPath() {
     return QDir::homePath() + QStringLiteral("/Library/Logs/Tavrin/actions.log");
+}
+
+QByteArray Cleaner::actionLogLine(const ActionLogEntry& entry) {
+    return Iso8601::format(entry.timestamp) + '\t' + rawValue(entry.kind).toUtf8() + '\t' +
+           (entry.success ? "ok" : "fail") + '\t' + QByteArray::number(entry.freedBytes) + '\t' +
+           entry.detail.toUtf8() + '\n';
 }
 
 void Cleaner::appendActionLog(const ActionLogEntry& entry) {
@@ -16,10 +32,9 @@ void Cleaner::appendActionLog(const ActionLogEntry& entry) {
     // Opening a pipe that nobody reads would never return.
     if (place.exists() && !place.isFile())
         return;
-    const QByteArray line = Iso8601::format(entry.timestamp) + '\t' + rawValue(entry.kind).toUtf8() + '\t' +
-                            (entry.success ? "ok" : "fail") + '\t' + QByteArray::number(entry.freedBytes) +
-                            '\t' + entry.detail.toUtf8() + '\n';
     QFile file(place.filePath());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        file.write(line);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
+        return;
+    const QByteArray line = actionLogLine(entry);
+    file.write(endsInsideALine(file) ? '\n' + line : line);
 }

@@ -83,7 +83,7 @@ std::optional<LoggedAction> parseLine(QByteArrayView line) {
                         .detail = QString::fromUtf8(line)};
 }
 
-QList<LoggedAction> parseLines(const QByteArray& bytes) {
+QList<LoggedAction> linesOf(const QByteArray& bytes) {
     QList<LoggedAction> actions;
     actions.reserve(std::min(bytes.count('\n') + 1, bytes.size() / shortestLine + 1));
     const QByteArrayView text(bytes);
@@ -125,15 +125,18 @@ QString ActionLogReader::path() {
     return Cleaner::actionLogPath();
 }
 
-QList<LoggedAction> ActionLogReader::read() {
-    QList<LoggedAction> actions = parseLines(readFile(path()));
+QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
+    QList<LoggedAction> actions = linesOf(bytes);
     std::stable_sort(actions.begin(), actions.end(), isNewer);
     return actions;
 }
 
-QString ActionLogReader::exportCSV() {
+QList<LoggedAction> ActionLogReader::read() {
+    return parse(readFile(path()));
+}
+
+QString ActionLogReader::csv(const QList<LoggedAction>& actions) {
     QString text = u"timestamp,kind,success,freed_bytes,detail\n"_s;
-    const QList<LoggedAction> actions = read();
     for (const LoggedAction& action : actions) {
         const QString detail = QString(action.detail).replace(u'"', u"\"\""_s);
         text += QString::fromLatin1(Iso8601::format(action.timestamp)) + u',' + action.kind + u',' +
@@ -141,6 +144,10 @@ QString ActionLogReader::exportCSV() {
                 u",\""_s + detail + u"\"\n"_s;
     }
     return text;
+}
+
+QString ActionLogReader::exportCSV() {
+    return csv(read());
 }
 
 void ActionLogReader::clear() {

@@ -10,11 +10,16 @@ namespace ActionLogReader {
 QString path();
 
 /// Every well-formed line, newest first; lines of one second in the order of the file. A damaged line (not
-/// UTF-8, too few fields, no date, no byte count) is left out and hides no other. Empty when there is no
-/// readable file.
+/// UTF-8, too few fields, no date, no byte count) is left out and hides no other.
+QList<LoggedAction> parse(const QByteArray& bytes);
+
+/// The file's lines. Empty when there is no readable file.
 QList<LoggedAction> read();
 
-/// The whole log as comma-separated text with a header line, in the order of `read`.
+/// As comma-separated text with a header line, in the order given.
+QString csv(const QList<LoggedAction>& actions);
+
+/// The whole log, in the order of `read`.
 QString exportCSV();
 
 /// Leaves an empty file. Errors are ignored.

@@ -10,6 +10,9 @@ using namespace std::chrono;
 /// Characters of "2026-11-16T14:23:43", before the zone.
 constexpr qsizetype dateTimeLength = 19;
 constexpr qsizetype offsetLength = 6;
+/// What an instant can hold, in whole seconds: the years from 1677 to 2262.
+constexpr auto earliest = time_point_cast<seconds>(Instant::min());
+constexpr auto latest = time_point_cast<seconds>(Instant::max());
 
 /// The decimal number in `text[from, from + width)`, or -1 when that is not all digits.
 int number(QByteArrayView text, qsizetype from, qsizetype width) {
@@ -75,5 +78,8 @@ std::optional<Instant> Iso8601::parse(QByteArrayView text) {
     if (!date.ok() || !isInRange(hour, 23) || !isInRange(minute, 59) || !isInRange(second, 59) || !offset)
         return std::nullopt;
     const sys_seconds local = sys_days(date) + hours(hour) + minutes(minute) + seconds(second);
-    return local - *offset;
+    const sys_seconds instant = local - *offset;
+    if (instant < earliest || instant > latest)
+        return std::nullopt;
+    return instant;
 }

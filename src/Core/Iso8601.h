@@ -13,7 +13,7 @@ namespace Iso8601 {
 QByteArray format(Instant instant);
 
 /// Strict: every field has its full width and is in range, upper-case T, no fraction, and the zone is "Z" or
-/// an offset such as "+01:00". Empty for anything else.
+/// an offset such as "+01:00". Empty for anything else, and for a time that an Instant cannot hold.
 std::optional<Instant> parse(QByteArrayView text);
 
 } // namespace Iso8601

@@ -45,7 +45,8 @@ TEST(Iso8601Test, AcceptsOnlyWholeSecondsInStrictForm) {
     for (const char* text :
          {"2026-11-16T14:23:43Z", "2026-11-16T15:23:43+01:00", "2026-11-16T12:53:43-01:30"})
         EXPECT_EQ(Iso8601::parse(text), expected) << text;
-    EXPECT_TRUE(Iso8601::parse("2024-02-29T00:00:00Z"));
+    for (const char* text : {"2024-02-29T00:00:00Z", "1677-09-21T00:12:44Z", "2262-04-11T23:47:16Z"})
+        EXPECT_TRUE(Iso8601::parse(text)) << text;
     for (const char* text : {"",
                              "2026-11-16",
                              "2026-11-16T14:23:43",
@@ -63,6 +64,10 @@ TEST(Iso8601Test, AcceptsOnlyWholeSecondsInStrictForm) {
                              "2026-11-16T14:23:43+24:00",
                              "26-11-16T14:23:43Z",
                              "2026-11-16T14:23:4xZ",
+                             "0000-01-01T00:00:00Z",
+                             "1677-09-21T00:12:43Z",
+                             "2262-04-11T23:47:17Z",
+                             "9999-12-31T23:59:59-23:59",
                              "-026-11-16T14:23:43Z",
                              "2026-11-16T14:23:43ZZ",
                              " 2026-11-16T14:23:43Z"})
@@ -112,6 +117,15 @@ TEST_F(ActionLogTest, DamagedLinesHideNoOther) {
         EXPECT_EQ(details(good + line + '\n' + good), (QStringList{u"good"_s, u"good"_s}))
             << line.left(80).data();
     EXPECT_EQ(details(good + "2026-11-16T14:23:43Z\tquit\tok\t1\tcut"), (QStringList{u"good"_s, u"cut"_s}));
+}
+
+TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
+    home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, "2026-11-16T14:23:43Z\tclean\tok");
+    Cleaner::appendActionLog(entry(u"one"_s));
+    Cleaner::appendActionLog(entry(u"two"_s));
+    EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\n"
+                         "2026-11-16T14:23:43Z\tclean\tok\t1048576\tone\n"
+                         "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\n");
 }
 
 TEST_F(ActionLogTest, UnusualLinesAreKept) {

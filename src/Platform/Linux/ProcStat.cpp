@@ -32,7 +32,7 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     }
     return ProcStat{.parentPid = static_cast<qint32>(field[ppid]),
                     .flags = static_cast<quint32>(field[flags]),
-                    .cpuTicks = static_cast<quint64>(field[utime] + field[stime]),
+                    .cpuTicks = static_cast<quint64>(field[utime]) + static_cast<quint64>(field[stime]),
                     .threads = static_cast<int>(field[threads]),
                     .startTicks = static_cast<quint64>(field[starttime]),
                     .virtualBytes = static_cast<quint64>(field[vsize]),
