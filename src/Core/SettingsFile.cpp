@@ -1,13 +1,32 @@
 #include "Core/SettingsFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <cmath>
 
+namespace {
+
+/// Opening a pipe or a device in the place of the file could wait for ever, and storing would put a file
+/// there. A folder takes the settings' place instead: it is readable for nothing and takes nothing.
+QString fileOrFolder(const QString& path) {
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() ? info.absolutePath() : path;
+}
+
+} // namespace
+
 SettingsFile::SettingsFile(const QString& path)
-    : m_settings(path, QSettings::IniFormat) {}
+    : m_settings(fileOrFolder(path), QSettings::IniFormat) {
+    // What cannot be read would be gone with the first value that is stored.
+    m_settings.allKeys(); // until somebody looks at all, the state is good
+    if (m_settings.status() == QSettings::FormatError) {
+        QFile::remove(path + QStringLiteral(".damaged"));
+        QFile::copy(path, path + QStringLiteral(".damaged"));
+    }
+}
 
 QVariant SettingsFile::value(const QString& key) const {
     const auto unsaved = m_unsaved.constFind(key);

@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -69,6 +69,39 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
         EXPECT_EQ(prefs.pauseOnLowPower(), c.paused) << c.line;
         EXPECT_EQ(prefs.menuBarFormat(), c.format) << c.line;
     }
+}
+
+TEST(Preferences, ADamagedFileIsKeptBesideAndItsReadableValuesStay) {
+    const TemporarySettings place;
+    const QByteArray damaged("\0\xff[[\x01\npref.showInDock\n[General]\npref.pauseOnLowPower=true\n", 57);
+    write(place.path, damaged);
+    Preferences prefs(place.path);
+    EXPECT_TRUE(prefs.pauseOnLowPower());
+    prefs.startAtLogin.set(false);
+    EXPECT_EQ(read(place.path + QStringLiteral(".damaged")), damaged);
+    const Preferences again(place.path);
+    EXPECT_TRUE(again.pauseOnLowPower());
+    EXPECT_FALSE(again.startAtLogin());
+}
+
+TEST(Preferences, WhatIsNoFileIsLeftAloneAndValuesLastAsLongAsTheProgram) {
+    const TemporarySettings place;
+    const QString pipe = place.folder.filePath(QStringLiteral("pipe"));
+    const QString link = place.folder.filePath(QStringLiteral("link"));
+    const QString folder = place.folder.filePath(QStringLiteral("folder"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ASSERT_TRUE(QFile::link(pipe, link));
+    ASSERT_TRUE(QDir().mkdir(folder));
+    for (const QString& path : {pipe, link, folder}) {
+        Preferences prefs(path);
+        EXPECT_EQ(prefs.pollIntervalSeconds(), 2) << qPrintable(path);
+        prefs.pollIntervalSeconds.set(5);
+        EXPECT_EQ(prefs.pollIntervalSeconds(), 5) << qPrintable(path);
+    }
+    const auto kept =
+        QDir(place.folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    EXPECT_EQ(kept, QStringList({QStringLiteral("folder"), QStringLiteral("link"), QStringLiteral("pipe")}));
+    EXPECT_FALSE(QFileInfo(pipe).isFile());
 }
 
 TEST(Preferences, AWriteIsAnnouncedFirstAndOnDiskAtOnce) {

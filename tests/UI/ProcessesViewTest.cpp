@@ -220,6 +220,9 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
 
 TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {
     show();
+    view.resize(1300, 700);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(prefs.file().text(u"ui.processes.widths"_s)) << "nobody has moved a column";
     table->header()->resizeSection(1, 99);
     const auto isStored = [this] {
         return ProcessesView(model, prefs).findChild<ProcessTableView*>()->header()->sectionSize(1) == 99;
