@@ -71,7 +71,8 @@ std::string DesktopWindows::property(std::uint32_t window, const std::string& na
 std::vector<std::uint32_t> DesktopWindows::words(std::uint32_t window, const std::string& name) {
     const std::string bytes = property(window, name);
     std::vector<std::uint32_t> values(bytes.size() / sizeof(std::uint32_t));
-    std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
+    if (!values.empty())
+        std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
     return values;
 }
 

@@ -104,7 +104,8 @@ TEST_F(AppModelCleanupTest, PublishesWhatIsBeingWorkedOn) {
     EXPECT_EQ(model->cleanProgress()->done, 2);
     EXPECT_TRUE(tools->release(u"docker system prune -af --volumes"_s));
     EXPECT_FALSE(model->isCleaning());
-    EXPECT_TRUE(other.isReady() && cleaning.isReady());
+    EXPECT_TRUE(tools->release(u"-lc"_s)) << "the container report of the scan";
+    EXPECT_TRUE(other.isReady() && cleaning.isReady() && scan.isReady());
 }
 
 TEST_F(AppModelCleanupTest, AnOlderScanNeverReplacesANewerOne) {

@@ -135,8 +135,9 @@ void burn(int socket, int threadCount) {
 
 /// In percent of one core, over one window.
 struct Share {
-    double read = 0;    ///< by the table
-    double granted = 0; ///< by the kernel's other account, user and system time of `/proc/N/stat`
+    double read;  ///< by the table
+    double least; ///< by the kernel's other account, user and system time of `/proc/N/stat`, read between
+    double most;  ///< the table's two readings, and around them
 };
 
 double grantedNs(qint32 pid) {
@@ -148,17 +149,21 @@ double grantedNs(qint32 pid) {
 }
 
 Share share(LinuxProcessTable& table, qint32 pid, std::chrono::milliseconds window) {
-    const auto before = table.taskInfo(pid);
-    const auto grantedBefore = grantedNs(pid);
     const auto start = std::chrono::steady_clock::now();
+    const auto firstBefore = grantedNs(pid);
+    const auto before = table.taskInfo(pid);
+    const auto firstAfter = grantedNs(pid);
     std::this_thread::sleep_for(window);
+    const auto lastBefore = grantedNs(pid);
     const auto after = table.taskInfo(pid);
-    const auto granted = grantedNs(pid) - grantedBefore;
+    const auto lastAfter = grantedNs(pid);
     const std::chrono::duration<double, std::nano> passed = std::chrono::steady_clock::now() - start;
+    const auto percent = [&passed](double ns) { return ns / passed.count() * 100; };
     if (!before || !after)
-        return {.read = -1, .granted = 0};
-    return {.read = static_cast<double>(after->cpuTimeNs - before->cpuTimeNs) / passed.count() * 100,
-            .granted = granted / passed.count() * 100};
+        return {.read = -1, .least = 0, .most = 0};
+    return {.read = percent(static_cast<double>(after->cpuTimeNs - before->cpuTimeNs)),
+            .least = percent(lastBefore - firstAfter),
+            .most = percent(lastAfter - firstBefore)};
 }
 
 class BusyChild : public testing::TestWithParam<int> {};
@@ -171,8 +176,9 @@ TEST_P(BusyChild, ReadsTheCoresItTakes) {
     // Other work, such as a second copy of this test, may leave the child less than it asks for: so the
     // figure is held against what it was granted, which on an idle machine is all of it.
     const auto seen = share(table, child.pid(), 500ms);
-    EXPECT_GT(seen.granted, 0);
-    EXPECT_NEAR(seen.read, seen.granted, expected * 0.1);
+    EXPECT_GT(seen.most, 0);
+    EXPECT_GE(seen.read, seen.least - expected * 0.1);
+    EXPECT_LE(seen.read, seen.most + expected * 0.1);
     EXPECT_LT(seen.read, expected * 1.1);
 
     // The sum is right whatever else the machine does.
@@ -288,6 +294,7 @@ TEST(ProcessTable, LeavesOutKernelThreads) {
 }
 
 TEST(ProcessTable, KeepsNoDescriptorsOfProcessesThatWent) {
+    constexpr int others = 60; // of other programs, which come and go meanwhile
     LinuxProcessTable table;
     listed(table);
     const auto before = openDescriptors();
@@ -299,11 +306,11 @@ TEST(ProcessTable, KeepsNoDescriptorsOfProcessesThatWent) {
         listed(table);
         for (const auto& child : children)
             ASSERT_TRUE(table.taskInfo(child->pid()));
-        EXPECT_GE(openDescriptors(), before + sockets + 2 * 200);
+        EXPECT_GE(openDescriptors(), before + sockets + 2 * 200 - others);
     }
     for (const auto pid : listed(table)) // a pass: the ids of those that went may be given once more
         table.taskInfo(pid);
-    EXPECT_NEAR(openDescriptors(), before, 20); // other programs may have come meanwhile
+    EXPECT_NEAR(openDescriptors(), before, others);
 }
 
 TEST(ProcessTable, FillsNoMoreThanTheRoomGiven) {

@@ -109,4 +109,5 @@ check "a second start brings the main window forward" main_window_shown
 
 xdotool windowactivate --sync "$(main_window "$pid")" key ctrl+q
 check "Ctrl+Q ends the program" not alive "$pid"
+wait "$pid" || fail "it ends well, not with $?" # as it would after a leak, under the sanitizers
 echo "1 passed, 0 failed"

@@ -22,6 +22,10 @@ public:
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_EVENT_MASK, &events);
     }
 
+    ~Window() { xcb_disconnect(m_connection); }
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
     void describe(const std::string& name, std::uint32_t pid) {
         char host[HOST_NAME_MAX + 1] = {};
         gethostname(host, HOST_NAME_MAX);

@@ -44,8 +44,7 @@ ToolGroups& toolGroups() {
 constexpr std::chrono::seconds graceAfterTerminate{1};
 
 /// In the child, before its program: only calls that are safe after a fork.
-void prepareChild(pid_t parent, const rlimit& descriptors) {
-    constexpr int niceness = 10;
+void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
     // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
     constexpr int thisProcess = 1;
     constexpr int bestEffort = 2;
@@ -64,8 +63,10 @@ void configure(QProcess& process, bool captureOutput) {
     process.setStandardErrorFile(QProcess::nullDevice());
     if (!captureOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
+    constexpr int behindUs = 10;
     process.setChildProcessModifier(
-        [parent = getpid(), descriptors = DescriptorLimit::atStart()] { prepareChild(parent, descriptors); });
+        [parent = getpid(), niceness = getpriority(PRIO_PROCESS, 0) + behindUs,
+         descriptors = DescriptorLimit::atStart()] { prepareChild(parent, niceness, descriptors); });
 }
 
 /// Done once the process ended or could not be launched.
