@@ -15,6 +15,7 @@ packages_of() {
         at-spi2-core python3-gi gir1.2-atspi-2.0 util-linux mount fonts-dejavu-core ;;
     screenshots) echo fonts-dejavu-core ;;
     wayland) echo qt6-wayland ;;
+    fuzz) echo clang-16 libclang-rt-16-dev ;;
     lint) echo clang-format cppcheck ;;
     *) echo "packages.sh: no group named '$1'" >&2 && return 1 ;;
     esac

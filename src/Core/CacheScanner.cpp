@@ -118,13 +118,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, CleanupP
     QList<CacheEntry> entries;
     quint64 total = 0;
     int sinceBreath = 0;
-    for (qsizetype start = 0; start < listing.size();) {
-        qsizetype end = listing.indexOf('\0', start);
-        end = end < 0 ? listing.size() : end;
-        const QByteArray path = listing.sliced(start, end - start);
-        start = end + 1;
-        if (path.isEmpty())
-            continue;
+    QByteArrayView rest(listing);
+    for (QByteArray path = takePath(rest); !path.isEmpty(); path = takePath(rest)) {
         const quint64 size = fileBytes(path);
         total += size;
         if (entries.size() < keptEntries)
@@ -146,16 +141,9 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
     const QByteArray report = co_await shell;
 
     target.sizeBytes = 0;
-    target.details.clear();
-    const QStringList lines = QString::fromUtf8(report).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
-        const QStringList fields = line.split(u'\t');
-        if (fields.size() < 2)
-            continue;
-        const quint64 size = parseSize(fields[1]);
-        target.sizeBytes += size;
-        target.details.append({fields[0], size});
-    }
+    target.details = parseContainerReport(report);
+    for (const CacheEntry& entry : std::as_const(target.details))
+        target.sizeBytes += entry.sizeBytes;
     target.lastScanned = m_clock->now();
     co_return target;
 }
@@ -169,6 +157,26 @@ QCoro::Task<QByteArray> CacheScanner::runShell(QString executable, QStringList a
     request.terminateAfter = limit;
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;
+}
+
+QByteArray CacheScanner::takePath(QByteArrayView& listing) {
+    while (listing.startsWith('\0'))
+        listing = listing.sliced(1);
+    const qsizetype found = listing.indexOf('\0');
+    const QByteArray path = listing.first(found < 0 ? listing.size() : found).toByteArray();
+    listing = listing.sliced(path.size());
+    return path;
+}
+
+QList<CacheEntry> CacheScanner::parseContainerReport(const QByteArray& report) {
+    QList<CacheEntry> entries;
+    const QStringList lines = QString::fromUtf8(report).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(u'\t');
+        if (fields.size() >= 2)
+            entries.append({fields[0], parseSize(fields[1])});
+    }
+    return entries;
 }
 
 quint64 CacheScanner::parseSize(const QString& text) {

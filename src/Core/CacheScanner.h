@@ -4,6 +4,7 @@
 #include "Core/CleanupProgress.h"
 #include "Core/Models.h"
 
+#include <QByteArrayView>
 #include <QCoroTask>
 #include <QList>
 #include <QString>
@@ -36,6 +37,11 @@ public:
     /// Bytes of a text such as "1.5GB" (steps of 1,000; TB, GB, MB, KB, B or none). 0 for a text that is no
     /// number, and for a number that is no size: negative, not finite, 2^64 or more.
     static quint64 parseSize(const QString& text);
+    /// The kinds and sizes in a report of the container engine: lines of fields separated by TABs, the kind
+    /// first and the size second. A line with fewer fields is left out.
+    static QList<CacheEntry> parseContainerReport(const QByteArray& report);
+    /// Takes the next path off the front of a listing in which a NUL ends each; empty at the end.
+    static QByteArray takePath(QByteArrayView& listing);
 
 private:
     QCoro::Task<> measure(CacheTarget target);

@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,9 +84,13 @@ QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolR
     request.arguments = {u"-sk"_s, u"-x"_s, path};
     request.captureOutput = true;
     const ToolResult result = co_await tools->run(request);
+    co_return reportedBytes(result.output);
+}
 
-    const QByteArray firstWord = result.output.simplified().split(' ').constFirst();
-    co_return firstWord.toULongLong() * 1024;
+quint64 Cleaner::reportedBytes(const QByteArray& report) {
+    constexpr quint64 largest = std::numeric_limits<quint64>::max() / 1024;
+    const quint64 kib = report.simplified().split(' ').constFirst().toULongLong();
+    return kib <= largest ? kib * 1024 : 0;
 }
 
 QCoro::Task<bool> Cleaner::runShell(QString executable, QStringList arguments,

@@ -37,6 +37,9 @@ QCoro::Task<CleanResult> clean(CacheTarget target, std::shared_ptr<ToolRunner> t
 /// 0 when it gives no figure.
 QCoro::Task<quint64> directoryBytes(QString path, std::shared_ptr<ToolRunner> tools);
 
+/// The bytes in a report of `du -sk`: its first word, in KiB. 0 when that is no number, or no size.
+quint64 reportedBytes(const QByteArray& report);
+
 /// Runs a program, its output thrown away. True when it ran and exited with 0.
 QCoro::Task<bool> runShell(QString executable, QStringList arguments, std::shared_ptr<ToolRunner> tools);
 

@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,10 +33,11 @@ QStringList argumentsOf(const QJsonObject& entry) {
     return arguments;
 }
 
-QList<ConfiguredServer> parse(const QByteArray& json, const QString& scope) {
+} // namespace
+
+QList<ConfiguredServer> MCPConfiguration::parse(const QByteArray& json, const QString& scope) {
     const QJsonObject servers = QJsonDocument::fromJson(json).object()["mcpServers"_L1].toObject();
     QList<ConfiguredServer> result;
-    // An object's members are kept in order of their keys.
     for (auto member = servers.begin(); member != servers.end(); ++member) {
         const QJsonObject entry = member.value().toObject();
         result.append({.name = member.key(),
@@ -42,10 +45,11 @@ QList<ConfiguredServer> parse(const QByteArray& json, const QString& scope) {
                        .args = argumentsOf(entry),
                        .scope = scope});
     }
+    // An object's members are in order of their keys, but for keys that began with a byte order mark.
+    std::stable_sort(result.begin(), result.end(),
+                     [](const auto& a, const auto& b) { return a.name < b.name; });
     return result;
 }
-
-} // namespace
 
 QByteArray MCPConfiguration::readFile(const QByteArray& path, Version& version) {
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);

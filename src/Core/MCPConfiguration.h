@@ -13,6 +13,9 @@ public:
     /// unreadable counts as one without servers.
     QList<MCPInspector::ConfiguredServer> readConfigured();
 
+    /// The servers of one file, in order of name. Empty for a text that is no such document.
+    static QList<MCPInspector::ConfiguredServer> parse(const QByteArray& json, const QString& scope);
+
 private:
     /// What tells one content of a file from another without reading it.
     struct Version {

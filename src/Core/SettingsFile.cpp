@@ -6,27 +6,47 @@
 #include <QTemporaryFile>
 
 #include <cmath>
+#include <new>
 
 namespace {
 
+enum class State { good, damaged, unreadable };
+
+State stateOf(const QString& path) {
+    try {
+        const QSettings settings(path, QSettings::IniFormat);
+        settings.allKeys(); // until somebody looks at all, the state is good
+        return settings.status() == QSettings::FormatError ? State::damaged : State::good;
+    } catch (const std::bad_alloc&) { // Qt makes room for any length that a damaged value names
+        return State::unreadable;
+    }
+}
+
+/// What cannot be read would be gone with the first value that is stored.
+void keepDamagedBeside(const QString& path) {
+    const State state = stateOf(path);
+    if (state == State::good)
+        return;
+    QFile::remove(path + QStringLiteral(".damaged"));
+    QFile::copy(path, path + QStringLiteral(".damaged"));
+    if (state == State::unreadable)
+        QFile::remove(path);
+}
+
 /// Opening a pipe or a device in the place of the file could wait for ever, and storing would put a file
 /// there. A folder takes the settings' place instead: it is readable for nothing and takes nothing.
-QString fileOrFolder(const QString& path) {
+QString prepared(const QString& path) {
     const QFileInfo info(path);
-    return info.exists() && !info.isFile() ? info.absolutePath() : path;
+    if (info.exists() && !info.isFile())
+        return info.absolutePath();
+    keepDamagedBeside(path);
+    return path;
 }
 
 } // namespace
 
 SettingsFile::SettingsFile(const QString& path)
-    : m_settings(fileOrFolder(path), QSettings::IniFormat) {
-    // What cannot be read would be gone with the first value that is stored.
-    m_settings.allKeys(); // until somebody looks at all, the state is good
-    if (m_settings.status() == QSettings::FormatError) {
-        QFile::remove(path + QStringLiteral(".damaged"));
-        QFile::copy(path, path + QStringLiteral(".damaged"));
-    }
-}
+    : m_settings(prepared(path), QSettings::IniFormat) {}
 
 QVariant SettingsFile::value(const QString& key) const {
     const auto unsaved = m_unsaved.constFind(key);

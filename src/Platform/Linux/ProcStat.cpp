@@ -2,7 +2,9 @@
 
 #include "Platform/Linux/KernelText.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 
 std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     // The name stands in parentheses, unescaped: it may itself hold blanks, newlines and parentheses.
@@ -30,11 +32,12 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
             return std::nullopt;
         field[number] = *value;
     }
-    return ProcStat{.parentPid = static_cast<qint32>(field[ppid]),
-                    .flags = static_cast<quint32>(field[flags]),
-                    .cpuTicks = static_cast<quint64>(field[utime]) + static_cast<quint64>(field[stime]),
-                    .threads = static_cast<int>(field[threads]),
-                    .startTicks = static_cast<quint64>(field[starttime]),
-                    .virtualBytes = static_cast<quint64>(field[vsize]),
-                    .residentPages = static_cast<quint64>(field[rss])};
+    return ProcStat{
+        .parentPid = static_cast<qint32>(field[ppid]),
+        .flags = static_cast<quint32>(field[flags]),
+        .cpuTicks = static_cast<quint64>(field[utime]) + static_cast<quint64>(field[stime]),
+        .threads = static_cast<int>(std::clamp<qint64>(field[threads], 0, std::numeric_limits<int>::max())),
+        .startTicks = static_cast<quint64>(field[starttime]),
+        .virtualBytes = static_cast<quint64>(field[vsize]),
+        .residentPages = static_cast<quint64>(field[rss])};
 }

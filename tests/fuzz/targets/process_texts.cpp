@@ -1,0 +1,72 @@
+#include "Core/ProcessGrouper.h"
+#include "Core/Sampler.h"
+#include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/RecordedTree.h"
+#include "fuzz/Fuzz.h"
+#include "support/FakePlatform.h"
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Beyond the kernel's greatest id, so that no CPU clock answers for it.
+constexpr qint32 pid = 5'000'001;
+
+/// procfs with one process, whose files are laid anew for every input.
+class Process {
+public:
+    Process() { m_proc.makeFolder(u"5000001"_s); }
+
+    std::string root() const { return m_proc.path().toStdString(); }
+
+    void lay(const QList<QByteArray>& texts) {
+        const char* names[] = {"stat", "status", "comm", "cmdline"};
+        for (qsizetype i = 0; i < std::ssize(names); ++i)
+            m_proc.with(u"5000001/"_s + QString::fromLatin1(names[i]), texts[i]);
+        const std::string link = root() + "/5000001/exe";
+        unlink(link.c_str());
+        static_cast<void>(!symlink(texts.last().constData(), link.c_str()));
+    }
+
+private:
+    RecordedTree m_proc;
+};
+
+void checkKernelInfo(const std::optional<KernelProcessInfo>& info, const QByteArray& stat,
+                     const QByteArray& status) {
+    const auto parsed = ProcStat::parse(stat.first(std::min<qsizetype>(stat.size(), 1024)).toStdString());
+    Fuzz::require(!info || (parsed && status.contains("Uid:") && info->parentPid == parsed->parentPid));
+}
+
+void checkSample(const ProcSample& sample, const QByteArray& comm, const QByteArray& commandLine) {
+    Fuzz::require(!sample.name.isEmpty() || !comm.isEmpty() || sample.executablePath.endsWith(u'/'));
+    Fuzz::require(!sample.arguments.contains(QChar()) && sample.threads >= 0);
+    Fuzz::require(sample.arguments.isEmpty() == (commandLine.count('\0') == commandLine.size()));
+}
+
+} // namespace
+
+/// The files of one process, in the order of `Process::lay`, and where its `exe` leads.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static Process process;
+    const QList<QByteArray> texts = Fuzz::texts(Fuzz::bytes(data, size), 5);
+    process.lay(texts);
+    const auto table = std::make_shared<LinuxProcessTable>(process.root());
+    checkKernelInfo(table->kernelInfo(pid), texts[0], texts[1]);
+    Fuzz::require(table->shortName(pid).startsWith(texts[2].left(15).split('\n').first()));
+
+    Platform platform;
+    platform.host = std::make_shared<FakeHostStatistics>();
+    platform.clock = std::make_shared<FakeClock>();
+    platform.processes = table;
+    Sampler sampler(platform);
+    const QList<ProcSample> samples = sampler.sampleProcesses();
+    Fuzz::require(samples.size() <= 1);
+    for (const ProcSample& sample : samples)
+        checkSample(sample, texts[2], texts[3]);
+    const QList<ProcSample> classified = ProcessGrouper().classify(samples);
+    Fuzz::require(classified.size() == samples.size());
+    return 0;
+}
