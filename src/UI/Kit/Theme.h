@@ -39,6 +39,8 @@ inline constexpr int pagePadding = 20;
 inline constexpr int scrollBarRoom = 12;
 /// Of a scrolling page: its scroll bar stands in the right padding.
 inline constexpr QMargins pageMargins(pagePadding, pagePadding, pagePadding - scrollBarRoom, pagePadding);
+/// Of a card around a table, which has square corners.
+inline constexpr QMargins tableCardMargins(3, 5, 1, 5);
 inline constexpr int pageSpacing = 20;
 inline constexpr int gridSpacing = 16;
 inline constexpr int cardPadding = 14;

@@ -37,7 +37,7 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     , m_table(new ProcessTableView(preferences)) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(1, 4, 1, 4);
+    inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
     m_stack->addWidget(

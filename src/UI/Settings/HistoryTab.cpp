@@ -52,7 +52,7 @@ HistoryTab::HistoryTab(QWidget* parent)
     , m_stack(new QStackedWidget) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(1, 4, 1, 4);
+    inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
     m_stack->addWidget(new EmptyState(u"clock.arrow.circlepath"_s, {}, u"No actions logged yet."_s));

@@ -20,7 +20,7 @@ QuickKillsTab::QuickKillsTab(Preferences& preferences, QWidget* parent)
     , m_table(new PresetTable) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(3, 5, 1, 5); // clear of the rounded corners
+    inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_table);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::gridSpacing, Theme::pagePadding,
