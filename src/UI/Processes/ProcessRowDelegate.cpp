@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
+#include "UI/Kit/TableView.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -125,10 +126,7 @@ int ProcessRowDelegate::actionsWidth() {
 
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
-    if (option.state & QStyle::State_Selected)
-        painter->fillRect(option.rect, Theme::color(Role::accent, 0.16));
-    else if (option.state & QStyle::State_MouseOver)
-        painter->fillRect(option.rect, Theme::color(Role::hoverFill));
+    TableView::paintGround(*painter, option);
     const ProcessTableModel& model = modelOf(index);
     const Column column = model.column(index.column());
     if (column == Column::actions) {

@@ -1,17 +1,11 @@
 #include "UI/Processes/ProcessTableView.h"
 
 #include "Preferences.h"
-#include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/TableHeader.h"
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QGuiApplication>
-#include <QKeyEvent>
+#include <QHeaderView>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QScrollBar>
-
-#include <algorithm>
 
 namespace {
 
@@ -48,37 +42,21 @@ std::optional<SortBy> sortOf(Column column) {
 } // namespace
 
 ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
-    : QTreeView(parent)
+    : TableView(QStringLiteral("Processes"), parent)
     , m_preferences(preferences)
     , m_rows(new ProcessTableModel(this))
     , m_delegate(new ProcessRowDelegate(this))
     , m_storeLater(preferences.file()) {
-    auto* head = new TableHeader(this);
-    setHeader(head);
     setModel(m_rows);
     setItemDelegate(m_delegate);
-    setRootIsDecorated(false);
-    setIndentation(0);
-    setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
     setSelectionMode(ExtendedSelection);
-    setEditTriggers(NoEditTriggers);
-    setFrameShape(NoFrame);
-    setMouseTracking(true);
-    setVerticalScrollMode(ScrollPerPixel);
-    setAccessibleName(QStringLiteral("Processes"));
-    SlimScrollBar::install(this);
-    head->setSortIndicatorShown(true);
-    head->setSectionsClickable(true); // which being put up as a header took back
-    head->setStretchLastSection(false);
-    head->setSectionResizeMode(0, QHeaderView::Stretch); // the name has what the others leave
-    QPalette clear = palette();                          // the delegate draws the ground of selected rows
-    clear.setColor(QPalette::Highlight, Qt::transparent);
-    setPalette(clear);
+    header()->setSortIndicatorShown(true);
+    header()->setSectionsClickable(true);                    // which being put up as a header took back
+    header()->setSectionResizeMode(0, QHeaderView::Stretch); // the name has what the others leave
     restoreWidths();
     connect(m_delegate, &ProcessRowDelegate::triggered, this, &ProcessTableView::triggered);
-    connect(head, &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
-    connect(head, &QHeaderView::sectionResized, this, [this](int section) {
+    connect(header(), &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int section) {
         if (section > 0) // the first follows the window
             storeWidths();
     });
@@ -150,47 +128,17 @@ void ProcessTableView::storeWidths() {
     m_storeLater.store(widthsKey(), widths.join(u' '));
 }
 
-void ProcessTableView::copySelection() const {
-    QModelIndexList selected = selectionModel()->selectedRows();
-    std::sort(selected.begin(), selected.end());
-    QStringList lines;
-    for (const QModelIndex& index : selected) {
-        QStringList cells;
-        for (int column = 0; column < m_rows->columnCount() - 1; ++column)
-            cells.append(index.siblingAtColumn(column).data().toString());
-        lines.append(cells.join(u'\t'));
-    }
-    if (!lines.isEmpty())
-        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
-}
-
-void ProcessTableView::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
-        copySelection();
-    else
-        QTreeView::keyPressEvent(event);
-}
-
 void ProcessTableView::mouseReleaseEvent(QMouseEvent* event) {
     QTreeView::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         m_delegate->release(event->pos());
 }
 
-void ProcessTableView::contextMenuEvent(QContextMenuEvent* event) {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
-    if (!index.isValid())
-        return;
+void ProcessTableView::fillMenu(QMenu& menu, const QModelIndex& index) {
     const ProcessTableRow row = m_rows->row(index.row()); // the menu is about this row, wherever it goes
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const RowAction action : ProcessRowDelegate::actionsOf(row, m_rows->isGrouped())) {
         QString text = ProcessRowDelegate::helpOf(action, row, m_rows->isGrouped());
-        menu->addAction(text.replace(u'&', QStringLiteral("&&")), this,
-                        [this, action, row] { Q_EMIT triggered(action, row); });
+        menu.addAction(text.replace(u'&', QStringLiteral("&&")), this,
+                       [this, action, row] { Q_EMIT triggered(action, row); });
     }
-    menu->addSeparator();
-    menu->addAction(QStringLiteral("Copy"), this, &ProcessTableView::copySelection);
-    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
 }

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "UI/Kit/StoreLater.h"
+#include "UI/Kit/TableView.h"
 #include "UI/Processes/ProcessRowDelegate.h"
 #include "UI/Processes/ProcessTableModel.h"
-
-#include <QTreeView>
 
 class Preferences;
 
 /// The table itself: columns whose widths are remembered, rows with buttons and a menu.
-class ProcessTableView : public QTreeView {
+class ProcessTableView : public TableView {
     Q_OBJECT
 
 public:
@@ -27,15 +26,13 @@ Q_SIGNALS:
     void sortRequested(SortBy sort);
 
 protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void fillMenu(QMenu& menu, const QModelIndex& index) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QString widthsKey() const;
     void restoreWidths();
     void storeWidths();
-    void copySelection() const;
     void requestSort(int section);
 
     Preferences& m_preferences;

@@ -2,6 +2,7 @@
 
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
+#include "UI/Kit/TableView.h"
 
 #include <QAbstractItemView>
 #include <QFontDatabase>
@@ -79,10 +80,7 @@ int HistoryRowDelegate::widthOf(Column column) {
 
 void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
-    if (option.state & QStyle::State_Selected)
-        painter->fillRect(option.rect, Theme::color(Role::accent, 0.16));
-    else if (option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus))
-        painter->fillRect(option.rect, Theme::color(Role::hoverFill));
+    TableView::paintGround(*painter, option);
     const Column column = columnOf(index);
     const auto& model = *static_cast<const HistoryTableModel*>(index.model());
     if (column == Column::ok) {

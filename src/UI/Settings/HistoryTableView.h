@@ -1,20 +1,13 @@
 #pragma once
 
-#include <QTreeView>
+#include "UI/Kit/TableView.h"
 
 class HistoryTableModel;
 
 /// The table of the action history: sorted by its heads, copied by row.
-class HistoryTableView : public QTreeView {
+class HistoryTableView : public TableView {
     Q_OBJECT
 
 public:
     explicit HistoryTableView(HistoryTableModel* rows, QWidget* parent = nullptr);
-
-protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void copySelection() const;
 };

@@ -3,13 +3,11 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/Symbols.h"
-#include "UI/Kit/TableHeader.h"
 #include "UI/Settings/PresetTableModel.h"
 
-#include <QContextMenuEvent>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -37,10 +35,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
-        if (option.state & QStyle::State_Selected)
-            painter->fillRect(option.rect, Theme::color(Role::accent, 0.16));
-        else if (option.state & QStyle::State_MouseOver)
-            painter->fillRect(option.rect, Theme::color(Role::hoverFill));
+        TableView::paintGround(*painter, option);
         const QString text = index.data(Qt::DisplayRole).toString();
         const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
         const int column = index.column();
@@ -64,33 +59,17 @@ public:
 } // namespace
 
 PresetTable::PresetTable(QWidget* parent)
-    : QTreeView(parent)
+    : TableView(QStringLiteral("Quick Kill presets"), parent)
     , m_rows(new PresetTableModel(this)) {
-    auto* head = new TableHeader(this);
-    setHeader(head);
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
-    setRootIsDecorated(false);
-    setIndentation(0);
-    setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
-    setEditTriggers(NoEditTriggers);
-    setFrameShape(NoFrame);
-    setMouseTracking(true);
-    setVerticalScrollMode(ScrollPerPixel);
-    setAccessibleName(QStringLiteral("Quick Kill presets"));
-    SlimScrollBar::install(this);
-    head->setStretchLastSection(false);
-    head->setSectionsMovable(false);
+    header()->setSectionsMovable(false);
     constexpr std::array widths = {56, 0, 114, 50, 66, 48, 62};
     for (int column = 0; column < PresetTableModel::columns; ++column) {
-        head->setSectionResizeMode(column, QHeaderView::Fixed);
-        head->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+        header()->setSectionResizeMode(column, QHeaderView::Fixed);
+        header()->resizeSection(column, widths[static_cast<std::size_t>(column)]);
     }
-    head->setSectionResizeMode(Column::name, QHeaderView::Stretch); // has what the others leave
-    QPalette clear = palette(); // the delegate draws the ground of selected rows
-    clear.setColor(QPalette::Highlight, Qt::transparent);
-    setPalette(clear);
+    header()->setSectionResizeMode(Column::name, QHeaderView::Stretch); // has what the others leave
 }
 
 void PresetTable::show(const QList<QuickKillPreset>& presets) {
@@ -137,7 +116,7 @@ const QuickKillPreset* PresetTable::preset(const QModelIndex& index) const {
 }
 
 void PresetTable::paintEvent(QPaintEvent* event) {
-    QTreeView::paintEvent(event);
+    TableView::paintEvent(event);
     if (m_rows->rowCount() > 0)
         return;
     QPainter painter(viewport());
@@ -154,7 +133,7 @@ void PresetTable::keyPressEvent(QKeyEvent* event) {
     else if (current && key == Qt::Key_Delete)
         Q_EMIT deleteRequested(QuickKillPreset(*current));
     else
-        QTreeView::keyPressEvent(event);
+        TableView::keyPressEvent(event);
 }
 
 void PresetTable::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -163,17 +142,8 @@ void PresetTable::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT editRequested(QuickKillPreset(*pointed));
 }
 
-void PresetTable::contextMenuEvent(QContextMenuEvent* event) {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
-    const QuickKillPreset* pointed = preset(index);
-    if (!pointed)
-        return;
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(QStringLiteral("Edit"), this,
-                    [this, chosen = *pointed] { Q_EMIT editRequested(chosen); });
-    menu->addAction(QStringLiteral("Delete"), this,
-                    [this, chosen = *pointed] { Q_EMIT deleteRequested(chosen); });
-    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+void PresetTable::fillMenu(QMenu& menu, const QModelIndex& index) {
+    const QuickKillPreset chosen = *preset(index);
+    menu.addAction(QStringLiteral("Edit"), this, [this, chosen] { Q_EMIT editRequested(chosen); });
+    menu.addAction(QStringLiteral("Delete"), this, [this, chosen] { Q_EMIT deleteRequested(chosen); });
 }

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "Core/QuickKillPreset.h"
-
-#include <QTreeView>
+#include "UI/Kit/TableView.h"
 
 class PresetTableModel;
 
 /// The table of quick-kill presets. A row is edited by its button, Return or a double click, and deleted by
 /// its button or Delete.
-class PresetTable : public QTreeView {
+class PresetTable : public TableView {
     Q_OBJECT
 
 public:
@@ -25,7 +24,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
+    void fillMenu(QMenu& menu, const QModelIndex& index) override;
 
 private:
     void addButtons(int row);

@@ -1,0 +1,82 @@
+#include "UI/Kit/TableView.h"
+
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/TableHeader.h"
+#include "UI/Kit/Theme.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+
+#include <algorithm>
+
+using Theme::Role;
+
+TableView::TableView(const QString& name, QWidget* parent)
+    : QTreeView(parent) {
+    setHeader(new TableHeader(this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    setFrameShape(NoFrame);
+    setMouseTracking(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setAccessibleName(name);
+    SlimScrollBar::install(this);
+    header()->setStretchLastSection(false);
+    QPalette clear = palette(); // the delegate draws the ground of selected rows
+    clear.setColor(QPalette::Highlight, Qt::transparent);
+    setPalette(clear);
+}
+
+void TableView::paintGround(QPainter& painter, const QStyleOptionViewItem& option) {
+    if (option.state & QStyle::State_Selected)
+        painter.fillRect(option.rect, Theme::color(Role::accent, 0.16));
+    else if (option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus))
+        painter.fillRect(option.rect, Theme::color(Role::hoverFill));
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copySelection();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void TableView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
+    if (!index.isValid())
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(*menu, index);
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Copy"), this, &TableView::copySelection);
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}
+
+void TableView::fillMenu(QMenu&, const QModelIndex&) {}
+
+/// What is shown of the selected rows, a line each, the cells apart by TABs.
+void TableView::copySelection() const {
+    QModelIndexList selected = selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end());
+    QStringList lines;
+    for (const QModelIndex& index : selected) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column)
+            cells.append(index.siblingAtColumn(column).data().toString());
+        if (cells.last().isEmpty()) // the column of buttons
+            cells.removeLast();
+        lines.append(cells.join(u'\t'));
+    }
+    if (!lines.isEmpty())
+        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+}
