@@ -299,14 +299,14 @@ void shootHistory(Camera& camera) {
     const TemporaryHome home;
     const QString log = QStringLiteral("Library/Logs/Tavrin/actions.log");
     QByteArray lines;
-    constexpr const char* actions[] = {"clean\tok\t2148532224\tXcode DerivedData",
-                                       "quit\tok\t0\tfirefox-esr (graceful)",
-                                       "forceKill\tok\t612368384\tchrome ×24",
-                                       "clean\tfail\t0\tDocker: the daemon does not answer",
-                                       "quit\tok\t1395864371\t[free RAM] 5 processes, the largest of them "
-                                       "containerd-shim-runc-v2 with 412 MB",
-                                       "forceKill\tfail\t0\tzsh \x1b[31m<b>not bold</b>",
-                                       "clean\tok\t734003200\tnpm"};
+    constexpr const char* actions[] = {
+        "clean\tok\t2148532224\tnpm / pnpm / yarn",
+        "quit\tok\t0\t[graceful quit] Firefox (9 child PIDs targeted)",
+        "quit\tok\t0\t[nuke duplicates] chrome — 24/24 PIDs",
+        "clean\tfail\t0\t[batch] Docker",
+        "quit\tok\t1395864371\t[free RAM] 923:quit,1367:quit,2551:forced,812:quit,849:quit freed=1395864371",
+        "forceKill\tfail\t0\tpid=2773",
+        "forceKill\tok\t0\t[quickKill] \x1b[31m<b>hogs</b> — matched=3 killed=3"};
     for (int i = 0; i < 40; ++i)
         lines += "2026-11-" + QByteArray::number(10 + i / 4) + 'T' + QByteArray::number(10 + i % 4 * 3) +
                  ":24:0" + QByteArray::number(i % 10) + "Z\t" + actions[i % 7] + '\n';
