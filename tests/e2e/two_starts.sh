@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# From the first start of the real program to its second, by keyboard and what a screen reader says, on a
+# private display: what is changed takes effect at once, and what should outlast the program does.
+#   two_starts.sh PROGRAM
+set -euo pipefail
+program=$(realpath "$1")
+cd "$(dirname "$0")/../.."
+. scripts/lib/display.sh
+. tests/e2e/lib.sh
+
+screen() { tests/e2e/screen.py "$@"; }
+shows() { screen find "$2" >/dev/null || fail "$1"; echo "ok: $1"; }
+press() {
+    screen tab "$1" || fail "the keyboard reaches \"$1\""
+    xdotool key "${2:-space}"
+}
+stored() { grep -qxF "$1" "$settings"; } 2>/dev/null
+place() { xdotool getwindowgeometry "$main" | awk '/Position|Geometry/ { print $2 }'; }
+is_back() { [ "$(place)" = "$before" ] || { echo "$before, then $(place)" >&2 && return 1; }; }
+in_task_bar() { ! xprop -id "$main" _NET_WM_STATE | grep -q SKIP_TASKBAR; }
+shown_widget() { # by its width
+    local window
+    for window in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
+        xdotool getwindowgeometry "$window" | grep -q 'Geometry: 240x' && return
+    done
+    return 1
+}
+start() {
+    spawn "$program"
+    pid=$spawned
+    main=$(main_window "$pid") || fail "the main window appears"
+}
+quit() {
+    xdotool windowactivate --sync "$main" key ctrl+q
+    wait "$pid" || fail "it ends well, not with $?"
+}
+
+unset DBUS_SESSION_BUS_ADDRESS
+export LC_ALL=C.UTF-8
+start_display
+start_bus
+dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >/dev/null
+home=$private_files/home
+mkdir "$home"
+export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+settings=$home/.config/Tavrin/Tavrin.ini
+autostart=$home/.config/autostart/tavrin.desktop
+
+start
+check "the first start is noted" stored "pref.didFirstLaunchSetup=true"
+check "it registers to start at login" grep -qxF "TryExec=$program" "$autostart"
+check "the entry is one that a desktop starts" desktop-file-validate "$autostart"
+
+xdotool windowsize --sync "$main" 1120 690 windowmove --sync "$main" 60 40
+xdotool windowactivate --sync "$main" key ctrl+comma
+shows "Ctrl+comma opens the settings" "Show in Dock"
+press "Start at login"
+check "the entry is gone once the switch is off" not test -e "$autostart"
+check "so is the wish" stored "pref.startAtLogin=false"
+press "Show floating widget on launch"
+press "Show in Dock"
+check "the task bar entry goes at once" not in_task_bar
+press "General" Right
+press "2s" End
+check "the interval is stored" stored "pref.pollIntervalSeconds=10"
+shows "and what follows from it is shown" "Keeps 150 samples for the Overview sparklines."
+press "Sampling" Right
+press "Thermal pressure warning"
+check "the alert is off" stored "pref.alertThermal_enabled=false"
+xdotool key Escape
+before=$(place)
+quit
+
+start
+check "the window is where it was, as large as it was" is_back
+check "the widget opens" shown_widget
+check "there is no task bar entry" not in_task_bar
+[ ! -e "$autostart" ] || fail "the second start registers nothing"
+xdotool windowactivate --sync "$main" key ctrl+comma
+shows "the settings open on General" "Show in Dock"
+press "General" Right
+shows "the interval outlasts the program" "Keeps 150 samples for the Overview sparklines."
+xdotool key Escape
+quit
+echo "1 passed, 0 failed"
