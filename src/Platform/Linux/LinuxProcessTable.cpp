@@ -33,8 +33,12 @@ std::chrono::nanoseconds read(clockid_t clock) {
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-std::chrono::nanoseconds bootInstant() {
-    return read(CLOCK_REALTIME) - read(CLOCK_BOOTTIME);
+/// The instant so many nanoseconds after the boot; now, for one that is still to come.
+std::chrono::system_clock::time_point sinceBoot(quint64 ns) {
+    const auto uptime = read(CLOCK_BOOTTIME);
+    const auto passed = std::min(ns, static_cast<quint64>(uptime.count()));
+    return std::chrono::system_clock::time_point(read(CLOCK_REALTIME) - uptime +
+                                                 std::chrono::nanoseconds(passed));
 }
 
 QByteArray lastComponent(const QByteArray& path) {
@@ -278,8 +282,7 @@ std::optional<KernelProcessInfo> LinuxProcessTable::kernelInfo(qint32 pid) {
     const auto effective = KernelText::takeNumber(*ids);
     if (!effective)
         return std::nullopt;
-    const auto start = bootInstant() + std::chrono::nanoseconds(stat->startTicks * m_tickNs);
-    return KernelProcessInfo{.start = std::chrono::system_clock::time_point(start),
+    return KernelProcessInfo{.start = sinceBoot(stat->startTicks * m_tickNs),
                              .uid = static_cast<quint32>(*effective),
                              .parentPid = stat->parentPid};
 }
