@@ -43,9 +43,9 @@ int TavrinApp::run() {
     SingleInstance instance(displayName());
     if (!instance.claim())
         return 0;
-    m_appDelegate = std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(),
-                                                  MessageCenter::shared(), Desktop::native(),
-                                                  Platform::makeLoginItem());
+    m_appDelegate =
+        std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(), MessageCenter::shared(),
+                                      Desktop::native(), Platform::makeLoginItem());
     connect(&instance, &SingleInstance::startedAgain, this, [this] { m_appDelegate->bringForward(); });
     m_appDelegate->applicationDidFinishLaunching();
     const TerminationRequest termination;

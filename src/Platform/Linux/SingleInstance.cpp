@@ -39,7 +39,7 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
 bool SingleInstance::claim() {
     // Two that start together, as at login, ask one after the other.
     QLockFile turn(m_socket + QStringLiteral(".lock"));
-    turn.tryLock(answerMs);
+    static_cast<void>(turn.tryLock(answerMs));
     // Asked first, because listening would take the socket over from the program that has it.
     if (askRunningOne())
         return false;
