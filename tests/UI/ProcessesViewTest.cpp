@@ -202,6 +202,24 @@ TEST_F(ProcessesViewTest, ASweepAsksFirst) {
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] <b>node</b> — 3/3 PIDs ok"_s));
 }
 
+TEST_F(ProcessesViewTest, NamesOfAnyKindAreShownAndAskedAbout) {
+    const QByteArray endless(255, 'x');
+    for (const QByteArray& name : {QByteArray("<i>a</i>&amp;"), endless, QByteArray("مدير الذاكرة")})
+        addProcesses(2, name, 60 * MiB);
+    show();
+    EXPECT_EQ(column(u"Name"_s).mid(1, 4), (QStringList{u"<i>a</i>&amp;"_s, QString::fromLatin1(endless),
+                                                        QString::fromLatin1(endless), u"مدير الذاكرة"_s}));
+    for (int row = 1; row < 6; row += 2) {
+        press(row, 2);
+        ASSERT_TRUE(dialog());
+        dialog()->adjustSize();
+        EXPECT_LT(dialog()->width(), 700) << row;
+        QTest::keyClick(dialog(), Qt::Key_Escape);
+        letGo();
+    }
+    EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
+}
+
 TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
     addProcesses(2, "Note Helper", 60 * MiB);
     for (const qint32 pid : {100, 101})

@@ -75,6 +75,7 @@ constexpr Actor cast[] = {
     {"containerd-shim-runc-v2", "/usr/bin/containerd-shim-runc-v2", 18 * MiB, 0, 4},
     {"gnome-shell", "/usr/bin/gnome-shell", 410 * MiB, 0.05, 1},
     {"a-very-long-process-name-that-does-not-fit-any-column-of-a-row", "/opt/x", 75 * MiB, 0, 1},
+    {"مدير الذاكرة (خلفية)", "/opt/y", 72 * MiB, 0, 1},
     {"systemd", "/usr/lib/systemd/systemd", 14 * MiB, 0, 38},
 };
 

@@ -1,7 +1,7 @@
 #include "UI/Kit/ConfirmDialog.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/TextLabel.h"
+#include "UI/Kit/ClampedLabel.h"
 
 #include <QHBoxLayout>
 
@@ -10,6 +10,8 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int textWidth = 420;
+constexpr int mostHeadingLines = 4;
+constexpr int mostTextLines = 12;
 
 } // namespace
 
@@ -21,7 +23,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     setWindowTitle(Formatters::visible(title));
     setAccessibleDescription(Formatters::visible(text));
 
-    auto* heading = (new TextLabel(TextStyle::title3, QFont::Bold))->wrapped();
+    auto* heading = new ClampedLabel(mostHeadingLines, TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
     heading->setFixedWidth(textWidth);
     auto* column = new QVBoxLayout(this);
@@ -30,7 +32,8 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     column->setSpacing(Theme::rowSpacing);
     column->addWidget(heading);
     for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
-        auto* label = (new TextLabel(TextStyle::body))->secondary()->wrapped();
+        auto* label = new ClampedLabel(mostTextLines, TextStyle::body);
+        label->secondary();
         label->setPlainText(paragraph);
         label->setFixedWidth(textWidth);
         column->addWidget(label);
@@ -48,7 +51,8 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
 }
 
 PushButton* ConfirmDialog::addAction(const QString& text, PushButton::Look look) {
-    auto* button = new PushButton(Formatters::visible(text).replace(u'&', QStringLiteral("&&")), look);
+    const QString shown = fontMetrics().elidedText(Formatters::visible(text), Qt::ElideMiddle, textWidth);
+    auto* button = new PushButton(QString(shown).replace(u'&', QStringLiteral("&&")), look);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     m_buttons->insertWidget(m_buttons->count() - 1, button);
     return button;
