@@ -21,6 +21,7 @@
 #include <utility>
 
 class Preferences;
+class ProcessHandle;
 
 /// The one observable model: it samples the machine once per poll interval and publishes the figures that
 /// every view shows. `objectWillChange` is emitted before each change lands; views use `observe`.
@@ -148,6 +149,8 @@ private:
     AutoOptimizer& autoOptimizer();
     void signalChosen(const ProcSample& chosen, bool force);
     QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
+    /// To the process that the last tick listed under the id, and to no other that has the id by now.
+    std::shared_ptr<ProcessHandle> hold(qint32 pid) const;
     /// How many of the signals were delivered.
     int signalAll(const QList<qint32>& pids, bool force);
 

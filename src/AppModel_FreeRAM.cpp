@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -79,9 +80,7 @@ QList<FreeRamPreview> AppModel::freeRamCandidates(double minIdleMin, double minR
                                .group = process.group});
         }
     }
-    std::stable_sort(
-        candidates.begin(), candidates.end(),
-        [](const FreeRamPreview& one, const FreeRamPreview& other) { return one.rssBytes > other.rssBytes; });
+    std::ranges::stable_sort(candidates, std::ranges::greater(), &FreeRamPreview::rssBytes);
     return candidates.mid(0, mostCandidates);
 }
 
@@ -91,7 +90,7 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
     FreeRAMResult result;
     Handles handles;
     for (const qint32 pid : pids)
-        handles.append(m_platform.signalSender->hold(pid));
+        handles.append(hold(pid));
     for (qsizetype i = 0; i < pids.size(); ++i) {
         const ProcSample* known = process(pids[i]);
         result.perPid.append({.pid = pids[i],

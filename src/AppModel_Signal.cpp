@@ -7,8 +7,7 @@
 using namespace Qt::StringLiterals;
 
 const ProcSample* AppModel::process(qint32 pid) const {
-    const auto found = std::find_if(m_processes.begin(), m_processes.end(),
-                                    [pid](const ProcSample& each) { return each.pid == pid; });
+    const auto found = std::ranges::find(m_processes, pid, &ProcSample::pid);
     return found == m_processes.end() ? nullptr : &*found;
 }
 
@@ -35,9 +34,16 @@ void AppModel::quitServer(const MCPInspector::LiveServer& server) {
         signalAll({server.pid}, false);
 }
 
+std::shared_ptr<ProcessHandle> AppModel::hold(qint32 pid) const {
+    constexpr qint32 nobody = 0;
+    const auto handle = m_platform.signalSender->hold(pid);
+    // Asked only now: the handle stays with whoever had the id when it was taken.
+    return m_sampler.isReplaced(pid) ? m_platform.signalSender->hold(nobody) : handle;
+}
+
 int AppModel::signalAll(const QList<qint32>& pids, bool force) {
     const Signal signal = force ? Signal::kill : Signal::terminate;
     return static_cast<int>(std::count_if(pids.begin(), pids.end(), [this, signal](qint32 pid) {
-        return m_platform.signalSender->send(pid, signal) == SignalResult::delivered;
+        return hold(pid)->send(signal) == SignalResult::delivered;
     }));
 }

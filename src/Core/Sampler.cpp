@@ -116,6 +116,12 @@ QList<ProcSample> Sampler::sampleProcesses() {
     return result;
 }
 
+bool Sampler::isReplaced(qint32 pid) const {
+    const auto listed = known.constFind(pid);
+    const auto running = table->kernelInfo(pid);
+    return listed != known.cend() && running && running->startTicks != listed->staticCache.startTicks;
+}
+
 /// Turns the process's cumulative time into a share of a core since its last reading, and remembers it.
 double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
     const bool firstSight = cpu.sampledAt == Uptime();
@@ -155,6 +161,7 @@ Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
         meta.uid = info->uid;
         meta.ppid = info->parentPid;
         meta.startTime = info->start;
+        meta.startTicks = info->startTicks;
     }
     return meta;
 }

@@ -27,6 +27,10 @@ public:
     /// system's listing fails.
     QList<ProcSample> sampleProcesses();
 
+    /// Whether the id of a process of the last listing has come to mean another process since. Asks the
+    /// system; false for an id that was not listed or that nobody has.
+    bool isReplaced(qint32 pid) const;
+
     /// How many processes the tables remember; level in the long run.
     qsizetype rememberedProcesses() const { return known.size(); }
 
@@ -44,6 +48,7 @@ private:
         quint32 uid = 0;
         qint32 ppid = 0;
         Instant startTime;
+        quint64 startTicks = 0;
     };
     /// One entry, so that a pass looks a process up once.
     struct Known {

@@ -22,6 +22,8 @@ struct KernelProcessInfo {
     std::chrono::system_clock::time_point start;
     quint32 uid = 0; ///< effective user id
     qint32 parentPid = 0;
+    quint64 startTicks =
+        0; ///< since boot; whatever is done to the clock, it tells two processes of one id apart
 };
 
 /// The system's processes. Texts are the system's raw bytes, in no particular encoding; an empty one

@@ -30,7 +30,6 @@ public:
     virtual ~Signals() = default;
 
     /// Never null: a handle to an id that nobody has answers `noSuchProcess` for good.
+    /// An id below 1 is nobody's, and never means a group of processes.
     virtual std::shared_ptr<ProcessHandle> hold(qint32 pid) = 0;
-    /// To whichever process has the id now. An id below 1 is no process, never a group of them.
-    virtual SignalResult send(qint32 pid, Signal signal) = 0;
 };

@@ -33,10 +33,6 @@ std::shared_ptr<ProcessHandle> FakeSignals::hold(qint32 pid) {
     return std::make_shared<Handle>(shared_from_this(), pid, process.running ? process.life : 0);
 }
 
-SignalResult FakeSignals::send(qint32 pid, Signal signal) {
-    return sendTo(pid, m_processes.value(pid).life, signal);
-}
-
 SignalResult FakeSignals::sendTo(qint32 pid, int life, Signal signal) {
     const auto process = m_processes.find(pid);
     if (process == m_processes.end() || !process->running || process->life != life)

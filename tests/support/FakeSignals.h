@@ -30,7 +30,6 @@ public:
     const QList<Sent>& sent() const { return m_sent; }
 
     std::shared_ptr<ProcessHandle> hold(qint32 pid) override;
-    SignalResult send(qint32 pid, Signal signal) override;
 
 private:
     class Handle;

@@ -284,5 +284,6 @@ std::optional<KernelProcessInfo> LinuxProcessTable::kernelInfo(qint32 pid) {
         return std::nullopt;
     return KernelProcessInfo{.start = sinceBoot(stat->startTicks * m_tickNs),
                              .uid = static_cast<quint32>(*effective),
-                             .parentPid = stat->parentPid};
+                             .parentPid = stat->parentPid,
+                             .startTicks = stat->startTicks};
 }

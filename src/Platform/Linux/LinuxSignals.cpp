@@ -84,9 +84,3 @@ std::shared_ptr<ProcessHandle> LinuxSignals::hold(qint32 pid) {
         return std::make_shared<PidHandle>(pid);
     return std::make_shared<NoProcess>(resultOf(descriptor));
 }
-
-SignalResult LinuxSignals::send(qint32 pid, Signal signal) {
-    if (pid < 1)
-        return SignalResult::noSuchProcess;
-    return resultOf(::kill(pid, static_cast<int>(signal)));
-}

@@ -7,5 +7,4 @@
 class LinuxSignals : public Signals {
 public:
     std::shared_ptr<ProcessHandle> hold(qint32 pid) override;
-    SignalResult send(qint32 pid, Signal signal) override;
 };

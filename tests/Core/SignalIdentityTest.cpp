@@ -1,0 +1,34 @@
+#include "Core/ReliefFixture.h"
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+/// The list on show may be old: the period is long, or sampling pauses to save power.
+TEST_F(ReliefTest, NoActionReachesAProcessThatTookTheIdSinceTheLastTick) {
+    using Action = std::function<void()>;
+    const QList<std::pair<const char*, Action>> actions = {
+        {"quit", [this] { model->quitProcess(model->processes().first()); }},
+        {"force kill", [this] { model->forceKillProcess(model->processes().first()); }},
+        {"quit server", [this] { model->quitServer(model->mcpReport().live.first()); }},
+        {"kill orphans", [this] { model->killOrphanMCPs(true); }},
+        {"quick kill", [this] { model->quickKill(u"mcp-server"_s, {}, 0, 0, false); }},
+        {"sweep", [this] { model->nuke(model->previewForName(u"mcp-server"_s)); }},
+        {"free RAM", [this] { QCoro::waitFor(model->freeRAM({7})); }},
+    };
+    add(7, "mcp-server", 1, {.uid = 1000, .startTicks = 100});
+    tick();
+    fakes.processes->processes[7].info->startTicks = 200;
+    for (const auto& [name, act] : actions) {
+        act();
+        EXPECT_TRUE(signalSender->sent().isEmpty()) << name;
+    }
+
+    fakes.processes->processes[7].info->startTicks = 100;
+    for (const auto& [name, act] : actions) {
+        const qsizetype before = signalSender->sent().size();
+        signalSender->start(7);
+        act();
+        EXPECT_GT(signalSender->sent().size(), before) << name;
+    }
+}
