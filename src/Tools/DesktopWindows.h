@@ -20,6 +20,8 @@ struct DesktopWindow {
     std::string className; ///< WM_CLASS, second part
     std::optional<pid_t>
         pid; ///< _NET_WM_PID: what the client says of itself; only of clients on this machine
+
+    bool operator==(const DesktopWindow&) const = default;
 };
 
 /// The windows on the X display that DISPLAY names, asked to close the way a window manager asks. Without a

@@ -34,11 +34,11 @@ private:
     bool isOurs(const UserProcess& process) const;
     void addWindow(const DesktopWindow& window, const std::string& name);
     bool holds(pid_t pid) const;
-    std::vector<std::uint32_t> openWindows();
+    std::vector<DesktopWindow> openWindows();
 
     DesktopWindows m_desktop;
     std::string m_parentExecutable;
-    std::vector<std::uint32_t> m_windows;
+    std::vector<DesktopWindow> m_windows;
     std::vector<UserProcess> m_processes;
 };
 
@@ -68,7 +68,7 @@ void Application::addWindow(const DesktopWindow& window, const std::string& name
         return;
     if (process && isOurs(*process))
         return;
-    m_windows.push_back(window.id);
+    m_windows.push_back(window);
     // The id is the client's own word, and in a container it is the container's number for the process: it
     // may name a stranger here. Only a process that goes by the same name is taken for the application.
     const bool isConfirmed = process && (process->isCalled(name) || process->isCalled(window.className) ||
@@ -78,13 +78,13 @@ void Application::addWindow(const DesktopWindow& window, const std::string& name
 }
 
 void Application::close() {
-    for (const auto window : m_windows)
-        m_desktop.close(window);
+    for (const auto& window : m_windows)
+        m_desktop.close(window.id);
 }
 
 void Application::cutOff() {
-    for (const auto window : openWindows())
-        m_desktop.cutOff(window);
+    for (const auto& window : openWindows())
+        m_desktop.cutOff(window.id);
 }
 
 void Application::signal(int number) {
@@ -92,12 +92,12 @@ void Application::signal(int number) {
         process.signal(number);
 }
 
-std::vector<std::uint32_t> Application::openWindows() {
-    std::vector<std::uint32_t> open;
-    for (const auto& window : m_desktop.list()) {
-        if (std::find(m_windows.begin(), m_windows.end(), window.id) != m_windows.end())
-            open.push_back(window.id);
-    }
+/// Compared as a whole: the next program to show a window may get the id of one that was closed.
+std::vector<DesktopWindow> Application::openWindows() {
+    auto open = m_desktop.list();
+    std::erase_if(open, [this](const DesktopWindow& window) {
+        return std::find(m_windows.begin(), m_windows.end(), window) == m_windows.end();
+    });
     return open;
 }
 

@@ -18,6 +18,7 @@
 
 #include <functional>
 #include <memory>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -163,6 +164,21 @@ TEST_P(QuitApplication, NeverBelievesAWindowThatNamesAStranger) {
     EXPECT_EQ(Tools::quitApplication("Claiming", true, shortPatience), QuitOutcome::Quit);
     EXPECT_FALSE(isListed("Claiming"));
     EXPECT_TRUE(isRunning(*stranger));
+}
+
+TEST_P(QuitApplication, LeavesAProgramThatGotTheIdOfAClosedWindow) {
+    const auto closing = show(u"Old.app/old"_s, u"Old"_s, u"polite"_s);
+    const auto helper = sleeper(u"Old.app/helper"_s); // for which it waits before it uses force
+    QuitOutcome outcome = QuitOutcome::NotFound;
+    std::thread quitting([&outcome] {
+        outcome = Tools::quitApplication("Old", true, {.beforeForce = 2s, .afterEachSignal = 1s});
+    });
+    EXPECT_EQ(endOf(*closing), 0);
+    const auto next = show(u"next"_s, u"Next"_s, u"polite"_s);
+    EXPECT_TRUE(isRunning(*helper)) << "too late for the test";
+    quitting.join();
+    EXPECT_EQ(outcome, QuitOutcome::Quit);
+    EXPECT_TRUE(isRunning(*next));
 }
 
 TEST_P(QuitApplication, TellsOneThatIsNotThereFromOneThatCannotBeAsked) {
