@@ -1,8 +1,11 @@
 #include "Platform/SingleInstance.h"
+#include "support/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -46,6 +49,26 @@ TEST_F(SingleInstanceTest, AnotherAccountHasARuntimeFolderOfItsOwn) {
     const QTemporaryDir theirs;
     qputenv("XDG_RUNTIME_DIR", theirs.path().toUtf8());
     EXPECT_TRUE(SingleInstance(u"\n:0"_s).claim());
+}
+
+TEST_F(SingleInstanceTest, OneAlsoWhereTheRuntimeFolderIsNotTheUsers) {
+    const QByteArray temporaryBefore = qgetenv("TMPDIR");
+    const TemporaryHome home;
+    qputenv("TMPDIR", QFile::encodeName(home.makeFolder(u"tmp"_s)));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(home.makeFile(u"unusable"_s)));
+    const QString madeByQt = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    for (const bool isTaken : {false, true}) {
+        if (isTaken) {
+            QDir(madeByQt).removeRecursively();
+            home.makeFile(u"tmp/"_s + QFileInfo(madeByQt).fileName());
+        }
+        SingleInstance first(u"\n:0"_s);
+        EXPECT_TRUE(first.claim()) << isTaken;
+        EXPECT_FALSE(SingleInstance(u"\n:0"_s).claim()) << isTaken;
+        // Where root, who may write anywhere, would put it.
+        EXPECT_TRUE(QDir::root().entryList({u"tavrin-*"_s}, QDir::AllEntries | QDir::System).isEmpty());
+    }
+    qputenv("TMPDIR", temporaryBefore);
 }
 
 TEST_F(SingleInstanceTest, ASocketThatNobodyListensToIsTakenOver) {

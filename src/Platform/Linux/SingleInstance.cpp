@@ -1,6 +1,7 @@
 #include "Platform/SingleInstance.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
@@ -12,11 +13,22 @@ namespace {
 
 constexpr int answerMs = 1000;
 
+/// Qt finds none where $XDG_RUNTIME_DIR is another user's, as after su(1), and the one that it would then
+/// make in the temporary folder is taken: the user's own cache serves as well.
+QString runtimeFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (!folder.isEmpty())
+        return folder;
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    QDir().mkpath(cache);
+    return cache;
+}
+
 /// Displays may hold slashes; a digest is a file name of fixed length, which socket paths need.
 QString socketPath(const QString& display) {
     const QByteArray digest = QCryptographicHash::hash(display.toUtf8(), QCryptographicHash::Sha256).toHex();
     return QStringLiteral("%1/tavrin-%2-%3.socket")
-        .arg(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
+        .arg(runtimeFolder())
         .arg(getuid())
         .arg(QString::fromLatin1(digest.left(16)));
 }
