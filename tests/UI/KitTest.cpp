@@ -3,10 +3,12 @@
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/Slider.h"
 #include "UI/Kit/Switch.h"
+#include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,6 +28,21 @@ TEST(ConfirmDialogTest, EveryWayOutButItsOwnButtonIsTheSafeOne) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(dialog.isNull());
     }
+}
+
+TEST(PushButtonTest, AnEscapedAmpersandIsReadOnce) {
+    EXPECT_EQ(PushButton(u"R&&D"_s).sizeHint(), PushButton(u"R&D"_s).sizeHint());
+}
+
+TEST(ToolTipTest, ShowsAnyTextAsItStands) {
+    for (const QString& text : {u"/home/R&D/\"x\" > y"_s, u"a <b>bold</b> &amp; &lt;"_s,
+                                u"two\nlines,  two  blanks"_s, u"plain"_s}) {
+        ASSERT_TRUE(Qt::mightBeRichText(plainToolTip(text))) << qPrintable(text);
+        QTextDocument shown;
+        shown.setHtml(plainToolTip(text));
+        EXPECT_EQ(shown.toPlainText(), text);
+    }
+    EXPECT_EQ(plainToolTip({}), QString());
 }
 
 TEST(NoticeTest, ALaterTextStaysItsWholeTime) {

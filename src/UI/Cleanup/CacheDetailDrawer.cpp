@@ -7,6 +7,7 @@
 #include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -27,7 +28,7 @@ public:
         : m_path(Formatters::visible(entry.path))
         , m_size(Formatters::bytes(entry.sizeBytes)) {
         setFixedHeight(rowHeight);
-        setToolTip(m_path.toHtmlEscaped());
+        setToolTip(plainToolTip(m_path));
         setAccessibleName(QStringLiteral("%1, %2").arg(m_path, m_size));
     }
 

@@ -1,5 +1,7 @@
 #include "UI/Kit/ClampedLabel.h"
 
+#include "UI/Kit/ToolTip.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QTextLayout>
@@ -68,8 +70,7 @@ bool ClampedLabel::event(QEvent* event) {
         return TextLabel::event(event);
     const QStringList shown = lines(width());
     const bool isCut = !shown.isEmpty() && !text().trimmed().endsWith(shown.last());
-    // As a paragraph, because a tool tip would take a text that looks like markup for such.
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       isCut ? QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()) : QString(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut ? plainToolTip(text()) : QString(),
+                       this);
     return true;
 }

@@ -87,6 +87,13 @@ void drawElided(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, c
     painter.drawText(QPointF(area.left(), baseline(metrics, area)), fitting);
 }
 
+QRectF takeRight(QRectF& line, double width, double gap) {
+    QRectF cell = line;
+    cell.setLeft(line.right() - width);
+    line.setRight(cell.left() - gap);
+    return cell;
+}
+
 void drawProgress(QPainter& painter, const QRectF& area, double share, const QColor& tint) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

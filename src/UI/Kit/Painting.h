@@ -26,6 +26,9 @@ void drawTabular(QPainter& painter, const QRectF& area, Qt::Alignment alignment,
 /// One line of text, shortened with an ellipsis where it does not fit.
 void drawElided(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, const QString& text);
 
+/// Cuts a cell of `width` off the right of `line`, and `gap` beside it.
+QRectF takeRight(QRectF& line, double width, double gap = Theme::rowSpacing);
+
 /// A bar of `share` (0 to 1) of its track.
 void drawProgress(QPainter& painter, const QRectF& area, double share, const QColor& tint);
 

@@ -32,11 +32,6 @@ PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* 
     m_spinner->hide();
 }
 
-void PushButton::setLook(Look look) {
-    m_look = look;
-    update();
-}
-
 void PushButton::setSymbol(const QString& symbol) {
     m_symbol = symbol;
     updateGeometry();
@@ -64,7 +59,7 @@ void PushButton::setBusy(bool busy) {
 
 int PushButton::contentWidth() const {
     const int lead = hasLead() ? symbolSize + symbolGap : 0;
-    return lead + fontMetrics().horizontalAdvance(text());
+    return lead + fontMetrics().horizontalAdvance(caption());
 }
 
 QSize PushButton::sizeHint() const {
@@ -126,7 +121,7 @@ void PushButton::paintEvent(QPaintEvent*) {
             Symbols::draw(painter, m_symbol, textColor(), lead, symbolSize);
         area.setLeft(lead.right() + symbolGap);
     }
-    Painting::drawTabular(painter, area, Qt::AlignLeft, text());
+    Painting::drawTabular(painter, area, Qt::AlignLeft, caption());
     if (!hasFocus())
         return;
     if (m_look == Look::prominent && isEnabled()) // the ring's own colour would drown in the fill

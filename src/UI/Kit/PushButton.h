@@ -21,7 +21,6 @@ public:
     explicit PushButton(const QString& text, Look look = Look::normal, QString symbol = {},
                         QWidget* parent = nullptr);
 
-    void setLook(Look look);
     void setSymbol(const QString& symbol);
     /// Of a prominent button's ground, of any other one's text; the accent colour unless set.
     void setTint(Theme::Role tint);
@@ -38,6 +37,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// What can be read on it: in its text an ampersand is written twice.
+    QString caption() const { return text().replace(QStringLiteral("&&"), QStringLiteral("&")); }
     bool hasLead() const { return !m_symbol.isEmpty() || m_isBusy; }
     int contentWidth() const;
     void placeSpinner();

@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QPainter>
 
@@ -41,8 +42,7 @@ void PresetTile::set(const QuickKillPreset& preset, int matches) {
     const QString name = Formatters::visible(preset.name);
     const QString summary = Formatters::visible(preset.summaryLine());
     setAccessibleName(QStringLiteral("%1, %2, %3 matching").arg(name, summary).arg(matches));
-    setToolTip(
-        QStringLiteral("%1\n%2").arg(name, summary).toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    setToolTip(plainToolTip(QStringLiteral("%1\n%2").arg(name, summary)));
     update();
 }
 

@@ -4,6 +4,7 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -45,7 +46,7 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
         return;
     m_server = server;
     const QString label = Formatters::visible(server.displayLabel);
-    setToolTip(label.toHtmlEscaped());
+    setToolTip(plainToolTip(label));
     setAccessibleName(QStringLiteral("%1 %2, PID %3, parent: %4, %5")
                           .arg(server.isOrphan ? QStringLiteral("Orphan") : QStringLiteral("Running"), label)
                           .arg(server.pid)
@@ -56,21 +57,15 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
 void ServerRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = rect();
-    const auto takeRight = [&line](double width) {
-        QRectF cell = line;
-        cell.setLeft(line.right() - width);
-        line.setRight(cell.left() - Theme::rowSpacing);
-        return cell;
-    };
-    takeRight(m_buttonWidth);
+    Painting::takeRight(line, m_buttonWidth);
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
                           Formatters::bytes(m_server.rssBytes));
     painter.setPen(Theme::color(Role::secondaryText));
-    Painting::drawElided(painter, takeRight(parentWidth), Qt::ElideRight,
+    Painting::drawElided(painter, Painting::takeRight(line, parentWidth), Qt::ElideRight,
                          QStringLiteral("parent: ") + Formatters::visible(m_server.parentName));
-    Painting::drawTabular(painter, takeRight(pidWidth), Qt::AlignLeft,
+    Painting::drawTabular(painter, Painting::takeRight(line, pidWidth), Qt::AlignLeft,
                           QStringLiteral("PID %1").arg(m_server.pid));
 
     constexpr int symbolSize = 12;

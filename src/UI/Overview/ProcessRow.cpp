@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -54,9 +55,7 @@ void ProcessRow::set(const ProcSample& process) {
     m_name = name;
     m_cpu = cpu;
     m_memory = memory;
-    setToolTip(process.executablePath.isEmpty()
-                   ? QString()
-                   : Formatters::visible(process.executablePath).toHtmlEscaped());
+    setToolTip(plainToolTip(Formatters::visible(process.executablePath)));
     setAccessibleName(
         QStringLiteral("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
     update();
@@ -65,17 +64,11 @@ void ProcessRow::set(const ProcSample& process) {
 void ProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
-    const auto takeRight = [&line](double width) {
-        QRectF cell = line;
-        cell.setLeft(line.right() - width);
-        line.setRight(cell.left() - Theme::rowSpacing);
-        return cell;
-    };
-    takeRight(m_buttonsWidth);
+    Painting::takeRight(line, m_buttonsWidth);
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, takeRight(memoryWidth), Qt::AlignRight, m_memory);
-    Painting::drawTabular(painter, takeRight(cpuWidth), Qt::AlignRight, m_cpu);
+    Painting::drawTabular(painter, Painting::takeRight(line, memoryWidth), Qt::AlignRight, m_memory);
+    Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth), Qt::AlignRight, m_cpu);
 
     painter.setPen(Theme::color(Role::secondaryText));
     Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_process.pid));
