@@ -15,8 +15,6 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-#include <algorithm>
-
 using Theme::Role;
 using Theme::TextStyle;
 
@@ -30,16 +28,6 @@ TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
     label->setPlainText(text);
     return label;
-}
-
-/// One row a record, made on first need and hidden beyond the records there are.
-template <typename MakeContent>
-void showRows(QList<PanelRow*>& rows, qsizetype count, MakeContent makeContent) {
-    for (qsizetype i = 0; i < rows.size(); ++i) {
-        if (i < count)
-            rows[i]->set(makeContent(i));
-        rows[i]->setVisible(i < count);
-    }
 }
 
 PanelRow::Content contentOf(const ProcSample& process) {
@@ -155,13 +143,13 @@ void MenuBarPanel::refreshStatistics() {
 
 void MenuBarPanel::refreshProcesses() {
     const QList<ProcSample>& processes = m_model.processes();
-    showRows(m_processRows, processes.size(), [&](qsizetype i) { return contentOf(processes[i]); });
+    PanelRow::setAll(m_processRows, processes.size(), [&](qsizetype i) { return contentOf(processes[i]); });
 }
 
 void MenuBarPanel::refreshAlerts() {
     const QList<Alert>& alerts = m_model.alerts();
     m_alertSection->setVisible(!alerts.isEmpty());
-    showRows(m_alertRows, alerts.size(), [&](qsizetype i) { return contentOf(alerts[i]); });
+    PanelRow::setAll(m_alertRows, alerts.size(), [&](qsizetype i) { return contentOf(alerts[i]); });
 }
 
 void MenuBarPanel::paintEvent(QPaintEvent*) {

@@ -126,7 +126,6 @@ void RootView::showSection(int row) {
 void RootView::addSection(Tab tab, QWidget* section) {
     auto* row = new QListWidgetItem(rawValue(tab), m_sidebar);
     row->setData(SidebarDelegate::symbolRole, tabSymbol(tab));
-    row->setData(SidebarDelegate::symbolRole + 1, static_cast<int>(tab));
     m_sections->addWidget(section);
 }
 
@@ -138,14 +137,11 @@ void RootView::setMenu(QMenu* menu) {
 }
 
 RootView::Tab RootView::tab() const {
-    return static_cast<Tab>(m_sidebar->currentItem()->data(SidebarDelegate::symbolRole + 1).toInt());
+    return static_cast<Tab>(m_sidebar->currentRow());
 }
 
 void RootView::select(Tab tab) {
-    for (int row = 0; row < m_sidebar->count(); ++row) {
-        if (m_sidebar->item(row)->data(SidebarDelegate::symbolRole + 1).toInt() == static_cast<int>(tab))
-            m_sidebar->setCurrentRow(row);
-    }
+    m_sidebar->setCurrentRow(static_cast<int>(tab));
 }
 
 void RootView::changeEvent(QEvent* event) {

@@ -46,6 +46,7 @@ private:
     QWidget* makeDetail();
     void restoreSidebar(QSplitter* split, const SettingsFile& file);
     void showSection(int row);
+    /// In the order of Tab.
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();
 

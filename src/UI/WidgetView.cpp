@@ -18,6 +18,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <functional>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -155,19 +156,14 @@ void WidgetView::refreshGrid() {
 
 void WidgetView::refreshGroups() {
     QList<GroupRollup> groups = m_model.groups();
-    std::stable_sort(groups.begin(), groups.end(),
-                     [](const GroupRollup& a, const GroupRollup& b) { return a.rssBytes > b.rssBytes; });
-    for (qsizetype i = 0; i < m_groupRows.size(); ++i) {
-        const bool shown = i < groups.size();
-        if (shown) {
-            m_groupRows[i]->set({.symbol = groupSymbol(groups[i].group),
+    std::ranges::stable_sort(groups, std::ranges::greater(), &GroupRollup::rssBytes);
+    PanelRow::setAll(m_groupRows, groups.size(), [&groups](qsizetype i) {
+        return PanelRow::Content{.symbol = groupSymbol(groups[i].group),
                                  .tint = Role::secondaryText,
                                  .text = rawValue(groups[i].group),
                                  .textRole = Role::primaryText,
-                                 .figure = Formatters::bytes(groups[i].rssBytes)});
-        }
-        m_groupRows[i]->setVisible(shown);
-    }
+                                 .figure = Formatters::bytes(groups[i].rssBytes)};
+    });
 }
 
 void WidgetView::refreshAlert() {

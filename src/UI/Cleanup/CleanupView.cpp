@@ -164,8 +164,7 @@ quint64 CleanupView::totalBytes() const {
 void CleanupView::open(const CacheTarget& target) {
     m_selected = target.name;
     auto* drawer = new CacheDetailDrawer(target, window());
-    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model,
-            [this](const CacheTarget& chosen) { m_model.clean(chosen); });
+    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model, &AppModel::clean);
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();

@@ -16,6 +16,11 @@ public:
         : QWidget(parent)
         , m_tint(tint) {}
 
+    void setTint(Theme::Role tint) {
+        m_tint = tint;
+        update();
+    }
+
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);

@@ -31,18 +31,11 @@ IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* 
     setAccessibleName(help);
     setFixedSize(side, side);
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
 }
 
 QSize IconButton::sizeHint() const {
     return {side, side};
-}
-
-void IconButton::enterEvent(QEnterEvent*) {
-    update();
-}
-
-void IconButton::leaveEvent(QEvent*) {
-    update();
 }
 
 void IconButton::paintEvent(QPaintEvent*) {
@@ -57,19 +50,12 @@ TextButton::TextButton(const QString& text, QWidget* parent)
     setText(text);
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize TextButton::sizeHint() const {
     return {fontMetrics().horizontalAdvance(text()) + 2 * textPadding, side};
-}
-
-void TextButton::enterEvent(QEnterEvent*) {
-    update();
-}
-
-void TextButton::leaveEvent(QEvent*) {
-    update();
 }
 
 void TextButton::paintEvent(QPaintEvent*) {

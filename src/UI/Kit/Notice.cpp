@@ -11,12 +11,11 @@
 
 using Theme::Role;
 
-Notice::Notice(QString symbol, std::chrono::milliseconds lifetime, QWidget* parent)
+Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent)
     : QWidget(parent)
-    , m_symbol(std::move(symbol))
     , m_text(new TextLabel(Theme::TextStyle::callout)) {
     auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
-    icon->set(m_symbol, Role::green);
+    icon->set(symbol, Role::green);
     auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);
     connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

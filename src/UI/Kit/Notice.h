@@ -13,7 +13,7 @@ class Notice : public QWidget {
 
 public:
     /// It goes by itself after `lifetime`, counted anew for each text; 0 keeps it until it is dismissed.
-    Notice(QString symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
+    Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
 
     void show(const QString& text);
 
@@ -21,7 +21,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString m_symbol;
     TextLabel* m_text;
     QTimer m_timer;
 };

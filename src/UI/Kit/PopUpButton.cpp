@@ -3,7 +3,6 @@
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
 
-#include <QAbstractItemView>
 #include <QPainter>
 
 #include <algorithm>
@@ -24,6 +23,7 @@ PopUpButton::PopUpButton(const QString& label, QWidget* parent)
     setFont(Theme::font(Theme::TextStyle::body));
     setFixedHeight(Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
     setAccessibleName(label);
 }
 
@@ -33,16 +33,6 @@ QSize PopUpButton::sizeHint() const {
         widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
     const int label = fontMetrics().horizontalAdvance(m_label);
     return {label + widest + 2 * padding + gap + chevronSize, Theme::controlHeight};
-}
-
-void PopUpButton::enterEvent(QEnterEvent* event) {
-    QComboBox::enterEvent(event);
-    update();
-}
-
-void PopUpButton::leaveEvent(QEvent* event) {
-    QComboBox::leaveEvent(event);
-    update();
 }
 
 void PopUpButton::paintEvent(QPaintEvent*) {

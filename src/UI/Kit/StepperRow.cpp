@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
 
 using Theme::Role;

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 
 #include <algorithm>
+#include <functional>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -55,9 +56,7 @@ void CachesCard::refresh(const QList<CacheTarget>& targets) {
     setSubtitle(
         QStringLiteral("%1 reclaimable across %2 targets").arg(Formatters::bytes(total)).arg(targets.size()));
     QList<CacheTarget> largest = targets;
-    std::stable_sort(largest.begin(), largest.end(), [](const CacheTarget& one, const CacheTarget& other) {
-        return one.sizeBytes > other.sizeBytes;
-    });
+    std::ranges::stable_sort(largest, std::ranges::greater(), &CacheTarget::sizeBytes);
     for (qsizetype i = 0; i < m_chips.size(); ++i) {
         const bool isUsed = i < largest.size();
         m_chips[i].widget->setVisible(isUsed);

@@ -1,15 +1,12 @@
 #include "UI/Overview/AlertStripView.h"
 
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/Severity.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
-using Theme::Role;
 using Theme::TextStyle;
 
 namespace {
@@ -21,10 +18,23 @@ QHBoxLayout* cardLayout(QWidget* card) {
     return row;
 }
 
+QWidget* makeHealthyCard() {
+    auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
+    symbol->set(QStringLiteral("checkmark.seal.fill"), Theme::Role::green);
+    auto* text = (new TextLabel(TextStyle::body))->secondary();
+    text->setPlainText(QStringLiteral("System looks healthy."));
+    auto* card = new Card;
+    auto* row = cardLayout(card);
+    row->addWidget(symbol);
+    row->addWidget(text, 1);
+    card->setAccessibleName(text->text());
+    return card;
+}
+
 } // namespace
 
 AlertCard::AlertCard(QWidget* parent)
-    : QWidget(parent)
+    : Card(parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
     , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
@@ -43,7 +53,7 @@ AlertCard::AlertCard(QWidget* parent)
 }
 
 void AlertCard::set(const Alert& alert) {
-    m_severity = alert.severity;
+    setTint(severityRole(alert.severity));
     m_symbol->set(severitySymbol(alert.severity), severityRole(alert.severity));
     m_title->setPlainText(alert.title);
     m_detail->setPlainText(alert.detail);
@@ -51,38 +61,12 @@ void AlertCard::set(const Alert& alert) {
     m_actionPid = alert.actionPid.value_or(0);
     m_quit->setVisible(alert.actionPid.has_value());
     setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_detail->text()));
-    update();
-}
-
-void AlertCard::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const Role role = severityRole(m_severity);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(role, 0.08),
-                       Theme::color(role, 0.35));
-}
-
-HealthyCard::HealthyCard(QWidget* parent)
-    : QWidget(parent) {
-    auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
-    symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
-    auto* text = (new TextLabel(TextStyle::body))->secondary();
-    text->setPlainText(QStringLiteral("System looks healthy."));
-    auto* row = cardLayout(this);
-    row->addWidget(symbol);
-    row->addWidget(text, 1);
-    setAccessibleName(text->text());
-}
-
-void HealthyCard::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
-                       Theme::color(Role::cardBorder));
 }
 
 AlertStripView::AlertStripView(QWidget* parent)
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
-    , m_healthy(new HealthyCard) {
+    , m_healthy(makeHealthyCard()) {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(m_healthy);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Core/Models.h"
-
-#include <QWidget>
+#include "UI/Kit/Card.h"
 
 class PushButton;
 class QVBoxLayout;
@@ -10,7 +9,7 @@ class SymbolView;
 class TextLabel;
 
 /// One alert on a card in its severity's colour.
-class AlertCard : public QWidget {
+class AlertCard : public Card {
     Q_OBJECT
 
 public:
@@ -22,28 +21,13 @@ Q_SIGNALS:
     /// For the process that the alert named when the button was pressed.
     void quitRequested(qint32 pid);
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
-    Alert::Severity m_severity = Alert::Severity::info;
     SymbolView* m_symbol;
     TextLabel* m_title;
     TextLabel* m_detail;
     PushButton* m_quit;
     qint32 m_actionPid = 0;
     qint32 m_pressedPid = 0;
-};
-
-/// What is shown while nothing is wrong.
-class HealthyCard : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit HealthyCard(QWidget* parent = nullptr);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 };
 
 /// The alerts in force, one card each, or the word that there are none.
@@ -60,6 +44,6 @@ Q_SIGNALS:
 
 private:
     QVBoxLayout* m_column;
-    HealthyCard* m_healthy;
+    QWidget* m_healthy; ///< shown while nothing is wrong
     QList<AlertCard*> m_cards;
 };

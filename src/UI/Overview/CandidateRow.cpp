@@ -80,18 +80,12 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
     drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
     line.setLeft(line.left() + boxSide + 10);
-    const auto takeRight = [&line](double width) {
-        QRectF cell = line;
-        cell.setLeft(line.right() - width);
-        line.setRight(cell.left() - Theme::rowSpacing);
-        return cell;
-    };
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(Theme::color(Role::secondaryText));
-    Painting::drawTabular(painter, takeRight(idleWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, idleWidth), Qt::AlignRight,
                           Formatters::duration(m_candidate.idleSeconds));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
                           Formatters::bytes(m_candidate.rssBytes));
 
     QRectF upper = line.adjusted(0, 4, 0, -line.height() / 2 + 1);

@@ -6,8 +6,6 @@
 #include <QDialog>
 #include <QHash>
 
-#include <optional>
-
 class AppModel;
 class CandidateRow;
 class EmptyState;

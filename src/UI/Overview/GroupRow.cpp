@@ -35,6 +35,7 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
     describe();
 }
 
@@ -72,16 +73,6 @@ void GroupHeader::keyPressEvent(QKeyEvent* event) {
         QAbstractButton::keyPressEvent(event);
 }
 
-void GroupHeader::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void GroupHeader::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
-}
-
 void GroupHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (underMouse())
@@ -89,24 +80,19 @@ void GroupHeader::paintEvent(QPaintEvent*) {
                            Qt::transparent);
 
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
-    const auto takeRight = [&line](double width) {
-        QRectF cell = line;
-        cell.setLeft(line.right() - width);
-        line.setRight(cell.left() - columnGap);
-        return cell;
-    };
     const auto secondary = Theme::color(Role::secondaryText);
     const auto chevron = m_expanded ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
-    Symbols::draw(painter, chevron, secondary, takeRight(chevronWidth), chevronSize);
+    Symbols::draw(painter, chevron, secondary, Painting::takeRight(line, chevronWidth, columnGap),
+                  chevronSize);
 
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(secondary);
     const auto cpu = QStringLiteral("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
-    Painting::drawTabular(painter, takeRight(cpuWidth), Qt::AlignRight, cpu);
+    Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth, columnGap), Qt::AlignRight, cpu);
 
     painter.setFont(Theme::font(TextStyle::callout));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, takeRight(bytesWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth, columnGap), Qt::AlignRight,
                           Formatters::bytes(m_rollup.rssBytes));
 
     paintLabel(painter, QRectF(line.left(), line.top(), labelWidth, line.height()));
@@ -135,7 +121,7 @@ void GroupHeader::paintLabel(QPainter& painter, QRectF area) {
 }
 
 GroupRow::GroupRow(ProcGroup group, QWidget* parent)
-    : QWidget(parent)
+    : Card(parent)
     , m_header(new GroupHeader(group))
     , m_body(new QWidget)
     , m_overflow((new TextLabel(TextStyle::caption))->secondary()) {
@@ -185,10 +171,4 @@ void GroupRow::showMembers(const QList<ProcSample>& members) {
 void GroupRow::showOverflow(qsizetype hidden) {
     m_overflow->setPlainText(QStringLiteral("… +%1 more in Processes tab").arg(hidden));
     m_overflow->setVisible(hidden > 0);
-}
-
-void GroupRow::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
-                       Theme::color(Role::cardBorder));
 }

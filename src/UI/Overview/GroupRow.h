@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Models.h"
+#include "UI/Kit/Card.h"
 
 #include <QAbstractButton>
 
@@ -10,7 +11,7 @@ class QVBoxLayout;
 class TextLabel;
 
 /// One process group: a header that opens and closes it, and, when open, its largest members.
-class GroupRow : public QWidget {
+class GroupRow : public Card {
     Q_OBJECT
 
 public:
@@ -26,9 +27,6 @@ Q_SIGNALS:
     void toggled();
     void quitRequested(const ProcSample& process);
     void forceKillRequested(const ProcSample& process);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void showMembers(const QList<ProcSample>& members);
@@ -55,8 +53,6 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
 private:
     void describe();

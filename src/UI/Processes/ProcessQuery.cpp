@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -30,14 +31,10 @@ QHash<QString, int> ranks(const QList<ProcSample>& processes) {
     return result;
 }
 
-template <typename Key> void sortDescending(QList<ProcSample>& processes, Key key) {
-    std::stable_sort(processes.begin(), processes.end(),
-                     [key](const ProcSample& one, const ProcSample& other) { return key(one) > key(other); });
-}
-
 void sortByName(QList<ProcSample>& processes) {
     const QHash<QString, int> rank = ranks(processes);
-    sortDescending(processes, [&rank](const ProcSample& process) { return -rank.value(process.name); });
+    std::ranges::stable_sort(processes, {},
+                             [&rank](const ProcSample& process) { return rank.value(process.name); });
 }
 
 } // namespace
@@ -52,16 +49,16 @@ QList<ProcSample> ProcessQuery::filteredAndSorted(const QList<ProcSample>& proce
     }
     switch (sortBy) {
     case SortBy::ram:
-        sortDescending(result, [](const ProcSample& process) { return process.rssBytes; });
+        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::rssBytes);
         break;
     case SortBy::cpu:
-        sortDescending(result, [](const ProcSample& process) { return process.cpuPercent; });
+        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::cpuPercent);
         break;
     case SortBy::name:
         sortByName(result);
         break;
     case SortBy::idle:
-        sortDescending(result, [](const ProcSample& process) { return process.idleSeconds; });
+        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::idleSeconds);
         break;
     }
     return result;
@@ -82,8 +79,6 @@ QList<GroupedRow> ProcessQuery::groupedRows(const QList<ProcSample>& processes) 
         row.totalRSS += process.rssBytes;
         row.totalCPU += process.cpuPercent;
     }
-    std::stable_sort(rows.begin(), rows.end(), [](const GroupedRow& one, const GroupedRow& other) {
-        return one.totalRSS > other.totalRSS;
-    });
+    std::ranges::stable_sort(rows, std::ranges::greater(), &GroupedRow::totalRSS);
     return rows;
 }

@@ -2,9 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
-AlertsTab::AlertsTab(Preferences& preferences, QWidget* parent)
-    : SettingsForm(preferences, u"Alerts"_s, parent) {
-    Preferences& prefs = preferences;
+AlertsTab::AlertsTab(Preferences& prefs, QWidget* parent)
+    : SettingsForm(prefs, u"Alerts"_s, parent) {
     addRule(u"Memory"_s, u"Low RAM warning"_s, prefs.alertRAMLowEnabled,
             {{{u"Free RAM threshold"_s, u"%1 GB"_s, 1}, {0.5, 16, 0.5}, prefs.alertRAMLowFreeGB}});
     addRule(u"CPU"_s, u"CPU saturation"_s, prefs.alertCPUHotEnabled,
