@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -19,10 +20,6 @@ double effectiveInterval(double stored) {
     if (!std::isfinite(stored))
         return shortestIntervalSeconds;
     return std::clamp(stored, shortestIntervalSeconds, longestIntervalSeconds);
-}
-
-bool hasMoreMemory(const ProcSample& one, const ProcSample& other) {
-    return one.rssBytes > other.rssBytes;
 }
 
 } // namespace
@@ -70,7 +67,7 @@ void AppModel::tick() {
 
     QList<ProcSample> classified = m_grouper.classify(m_sampler.sampleProcesses());
     const QList<GroupRollup> rollups = GroupRollup::build(classified);
-    std::stable_sort(classified.begin(), classified.end(), hasMoreMemory);
+    std::ranges::stable_sort(classified, std::ranges::greater(), &ProcSample::rssBytes);
     publish(m_processes, std::move(classified));
     publish(m_groups, rollups);
     publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));

@@ -2,8 +2,6 @@
 
 #include "Core/CacheScanner.h"
 #include "Platform/Clock.h"
-#include "Platform/Places.h"
-#include "Platform/ToolRunner.h"
 
 #include <QPointer>
 

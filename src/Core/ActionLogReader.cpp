@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -97,10 +98,6 @@ QList<LoggedAction> linesOf(const QByteArray& bytes) {
     return actions;
 }
 
-bool isNewer(const LoggedAction& one, const LoggedAction& other) {
-    return one.timestamp > other.timestamp;
-}
-
 /// Opening a pipe or a device in the place of the log could wait for ever.
 bool isOtherThanFile(const QString& path) {
     const QFileInfo info(path);
@@ -127,7 +124,7 @@ QString ActionLogReader::path() {
 
 QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
     QList<LoggedAction> actions = linesOf(bytes);
-    std::stable_sort(actions.begin(), actions.end(), isNewer);
+    std::ranges::stable_sort(actions, std::ranges::greater(), &LoggedAction::timestamp);
     return actions;
 }
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -27,11 +28,6 @@ constexpr int filesPerBreath = 1000;
 
 const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
                              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
-
-template <typename T> void sortLargestFirst(QList<T>& items) {
-    std::stable_sort(items.begin(), items.end(),
-                     [](const T& a, const T& b) { return a.sizeBytes > b.sizeBytes; });
-}
 
 /// By its bytes, for a file name need not be text. 0 when the file is gone.
 quint64 fileBytes(const QByteArray& path) {
@@ -65,7 +61,7 @@ QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
         measurements.push_back(measure(target));
     for (auto& measurement : measurements)
         co_await measurement;
-    sortLargestFirst(m_measured);
+    std::ranges::stable_sort(m_measured, std::ranges::greater(), &CacheTarget::sizeBytes);
     co_return m_measured;
 }
 
@@ -98,7 +94,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
         entries.append({folder, size});
         total += size;
     }
-    sortLargestFirst(entries);
+    std::ranges::stable_sort(entries, std::ranges::greater(), &CacheEntry::sizeBytes);
     target.sizeBytes = total;
     target.details = entries;
     target.lastScanned = m_clock->now();
@@ -129,7 +125,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, CleanupP
             co_await QCoro::sleepFor(0ms);
         }
     }
-    sortLargestFirst(entries);
+    std::ranges::stable_sort(entries, std::ranges::greater(), &CacheEntry::sizeBytes);
     target.sizeBytes = total;
     target.details = entries;
     target.lastScanned = m_clock->now();

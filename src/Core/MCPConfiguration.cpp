@@ -46,9 +46,16 @@ QList<ConfiguredServer> MCPConfiguration::parse(const QByteArray& json, const QS
                        .scope = scope});
     }
     // An object's members are in order of their keys, but for keys that began with a byte order mark.
-    std::stable_sort(result.begin(), result.end(),
-                     [](const auto& a, const auto& b) { return a.name < b.name; });
+    std::ranges::stable_sort(result, {}, &ConfiguredServer::name);
     return result;
+}
+
+MCPConfiguration::Version MCPConfiguration::versionOf(const struct stat& status) {
+    return {.device = status.st_dev,
+            .inode = status.st_ino,
+            .sizeBytes = status.st_size,
+            .modifiedSeconds = status.st_mtim.tv_sec,
+            .modifiedNanoseconds = status.st_mtim.tv_nsec};
 }
 
 QByteArray MCPConfiguration::readFile(const QByteArray& path, Version& version) {
@@ -65,11 +72,7 @@ QByteArray MCPConfiguration::readFile(const QByteArray& path, Version& version) 
     } else if (isFile && status.st_size <= largestFileBytes) {
         content = file.read(largestFileBytes);
     }
-    version = {.device = status.st_dev,
-               .inode = status.st_ino,
-               .sizeBytes = status.st_size,
-               .modifiedSeconds = status.st_mtim.tv_sec,
-               .modifiedNanoseconds = status.st_mtim.tv_nsec};
+    version = versionOf(status);
     return content;
 }
 
@@ -80,12 +83,7 @@ const QList<ConfiguredServer>& MCPConfiguration::read(File& file, const QString&
         file = {};
         return file.servers;
     }
-    const Version current = {.device = status.st_dev,
-                             .inode = status.st_ino,
-                             .sizeBytes = status.st_size,
-                             .modifiedSeconds = status.st_mtim.tv_sec,
-                             .modifiedNanoseconds = status.st_mtim.tv_nsec};
-    if (current != file.version) {
+    if (versionOf(status) != file.version) {
         file.version = {};
         file.servers = parse(readFile(encoded, file.version), scope);
     }

@@ -32,6 +32,7 @@ private:
         QList<MCPInspector::ConfiguredServer> servers;
     };
 
+    static Version versionOf(const struct stat& status);
     static QByteArray readFile(const QByteArray& path, Version& version);
     static const QList<MCPInspector::ConfiguredServer>& read(File& file, const QString& path,
                                                              const QString& scope);

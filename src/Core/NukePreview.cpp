@@ -12,14 +12,11 @@ constexpr qsizetype listedPids = 20;
 
 /// The outermost bundle that the executable lies in.
 std::optional<QString> owningApplication(const QString& path) {
-    constexpr QLatin1StringView extension(".app");
     const qsizetype bundle = path.indexOf(".app/"_L1);
     if (bundle < 0)
         return std::nullopt;
     const qsizetype begin = bundle == 0 ? 0 : path.lastIndexOf(u'/', bundle - 1) + 1;
-    QString name = path.mid(begin, bundle + extension.size() - begin);
-    name.chop(extension.size());
-    return name;
+    return path.mid(begin, bundle - begin);
 }
 
 std::optional<QString> commonApplication(const QList<ProcSample>& processes) {

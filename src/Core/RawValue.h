@@ -15,16 +15,12 @@ template <typename E> struct RawValueRow {
 
 template <typename E> inline constexpr auto rawValueTable = nullptr;
 
-template <typename E> constexpr QStringView rawValueView(E value) {
+template <typename E> QString rawValue(E value) {
     for (const auto& row : rawValueTable<E>) {
         if (row.value == value)
-            return row.raw;
+            return row.raw.toString();
     }
     return {};
-}
-
-template <typename E> QString rawValue(E value) {
-    return rawValueView(value).toString();
 }
 
 /// Empty for a text that is no case's raw value; the comparison is exact.

@@ -1,6 +1,7 @@
 #include "Core/RulesEngine.h"
 
 #include "Core/Formatters.h"
+#include "Core/ProcessFilter.h"
 #include "Preferences.h"
 
 #include <algorithm>
@@ -20,14 +21,7 @@ QString oneDecimal(double value) {
     return QString::number(value, 'f', 1);
 }
 
-/// A threshold in units of `unitShift` bits as bytes; empty for one that no byte count can express, which
-/// leaves its rule out.
-std::optional<quint64> wholeUnits(double value, int unitShift) {
-    if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 64 - unitShift))
-        return std::nullopt;
-    return static_cast<quint64>(value) << unitShift;
-}
-
+/// A threshold in bytes; empty for one that no byte count can express, which leaves its rule out.
 std::optional<quint64> gigabytes(double value) {
     if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 34))
         return std::nullopt;
@@ -103,7 +97,7 @@ Alert idleAgentAlert(const ProcSample& process) {
 }
 
 QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs) {
-    const auto minimum = wholeUnits(prefs.alertIdleAgentMinRSSMB(), 20);
+    const auto minimum = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
     if (!prefs.alertIdleAgentEnabled() || !minimum)
         return {};
     const double minimumIdle = prefs.alertIdleAgentMinIdleMin() * 60;

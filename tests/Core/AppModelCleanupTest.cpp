@@ -15,9 +15,6 @@ namespace {
 class AppModelCleanupTest : public testing::Test {
 protected:
     AppModelCleanupTest() {
-        Platform platform = fakes.platform();
-        platform.tools = tools;
-        platform.places = places;
         places->elsewhere[u"/tmp"_s] = {home.path(u"no such folder"_s)};
         for (const CacheTarget& target : CacheTarget::defaults()) {
             for (const QString& path : target.paths) {
@@ -32,7 +29,7 @@ protected:
             }
             return ScriptedTools::exited(request.arguments.last().contains(failing) ? 1 : 0);
         };
-        model = std::make_unique<AppModel>(platform, settings.preferences);
+        model = std::make_unique<AppModel>(fakes.platform(), settings.preferences);
     }
 
     QStringList logged() const {
@@ -54,9 +51,9 @@ protected:
     QString npm = home.makeFolder(u".npm"_s);
     QString logs = home.makeFolder(u"Library/Logs"_s);
     QString failing = u"nothing"_s;
-    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
-    std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     FakePlatform fakes;
+    std::shared_ptr<ScriptedTools> tools = fakes.tools;
+    std::shared_ptr<FakePlaces> places = fakes.places;
     TemporarySettings settings;
     std::unique_ptr<AppModel> model;
 };

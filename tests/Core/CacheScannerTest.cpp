@@ -18,11 +18,6 @@ const QString docker = u"Docker"_s;
 
 class CacheScannerTest : public testing::Test {
 protected:
-    CacheScannerTest() {
-        platform.tools = tools;
-        platform.places = places;
-    }
-
     CacheTarget scanned(const CacheTarget& target) {
         CacheScanner scanner(platform);
         return QCoro::waitFor(scanner.scan({target})).value(0);
@@ -33,9 +28,9 @@ protected:
     }
 
     TemporaryHome home;
-    std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
-    std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     FakePlatform fakes;
+    std::shared_ptr<ScriptedTools> tools = fakes.tools;
+    std::shared_ptr<FakePlaces> places = fakes.places;
     Platform platform = fakes.platform();
 };
 

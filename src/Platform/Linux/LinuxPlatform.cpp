@@ -1,6 +1,8 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/LinuxAppearance.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxIdentity.h"
+#include "Platform/Linux/LinuxLoginItem.h"
 #include "Platform/Linux/LinuxPlaces.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxProcessTable.h"
@@ -17,4 +19,12 @@ Platform Platform::native() {
             .tools = std::make_shared<LinuxToolRunner>(),
             .places = std::make_shared<LinuxPlaces>(),
             .signalSender = std::make_shared<LinuxSignals>()};
+}
+
+std::unique_ptr<Appearance> Platform::makeAppearance() {
+    return std::make_unique<LinuxAppearance>();
+}
+
+std::unique_ptr<LoginItem> Platform::makeLoginItem() {
+    return std::make_unique<LinuxLoginItem>();
 }

@@ -17,7 +17,6 @@ LinuxStatusItem::LinuxStatusItem(QObject* parent)
 }
 
 void LinuxStatusItem::show(const StatusContent& content) {
-    m_content = content;
     m_tray.setIcon(content.compact);
     m_tray.setToolTip(content.toolTip);
     m_pill.setContent(content);

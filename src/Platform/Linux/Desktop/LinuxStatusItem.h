@@ -21,7 +21,6 @@ public:
 private:
     void followTray();
 
-    StatusContent m_content;
     QSystemTrayIcon m_tray;
     StatusPill m_pill;
     QTimer m_watch;
