@@ -182,6 +182,28 @@ TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
     EXPECT_EQ(dialog()->windowTitle(), u"Kill all 12 “helper” processes?"_s);
 }
 
+TEST_F(ProcessesViewTest, AFoldedRowIsItsNameWhateverComesAndGoes) {
+    addProcesses(2, "kept", 100 * MiB);
+    addProcesses(2, "other", 90 * MiB);
+    show();
+    QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+    table->setCurrentIndex(table->model()->index(0, 0));
+    for (int i = 0; i < 20; ++i) {
+        addProcesses(1, "name-" + QByteArray::number(i), static_cast<quint64>(60 + 40 * i) * MiB);
+        if (i > 0)
+            fakes.processes->remove(nextPid - 2); // the name before it
+        tick();
+        ASSERT_EQ(column(u"Name"_s).size(), 3);
+        EXPECT_EQ(table->currentIndex().data(), u"kept"_s);
+    }
+    process(100).task.reset(); // both processes go, and two others come under the name
+    fakes.processes->remove(101);
+    addProcesses(2, "kept", 100 * MiB);
+    tick();
+    EXPECT_EQ(table->currentIndex().data(), u"kept"_s);
+    EXPECT_EQ(table->selectionModel()->selectedRows().size(), 1);
+}
+
 TEST_F(ProcessesViewTest, ASweepAsksFirst) {
     addProcesses(3, "<b>node</b>", 60 * MiB);
     addProcesses(1, "single", 100 * MiB);

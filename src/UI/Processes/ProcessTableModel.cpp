@@ -122,13 +122,9 @@ QVariant ProcessTableModel::headerData(int section, Qt::Orientation orientation,
     return {};
 }
 
-quint64 ProcessTableModel::keyOf(const ProcessTableRow& row) const {
-    if (!m_isGrouped) { // the id, and the start, which tells the process from a later one with the same id
-        const auto start = static_cast<quint32>(row.first.startTime.time_since_epoch().count() / 1000);
-        return (static_cast<quint64>(static_cast<quint32>(row.first.pid)) << 32) | start;
-    }
-    auto key = m_nameKeys.find(row.first.name);
-    if (key == m_nameKeys.end())
-        key = m_nameKeys.insert(row.first.name, static_cast<quint64>(m_nameKeys.size()));
-    return *key;
+ProcessRowKey ProcessTableModel::keyOf(const ProcessTableRow& row) const {
+    if (m_isGrouped)
+        return {.name = row.first.name};
+    const auto start = static_cast<quint32>(row.first.startTime.time_since_epoch().count() / 1000);
+    return {.process = (static_cast<quint64>(static_cast<quint32>(row.first.pid)) << 32) | start};
 }

@@ -12,8 +12,21 @@ struct ProcessTableRow {
     int sameName = 1; ///< how many processes of the machine have the name
 };
 
+/// What makes a row the same from one tick to the next. Nothing remembers keys, so that names which never
+/// come again leave nothing behind.
+struct ProcessRowKey {
+    quint64 process = 0; ///< of a process by itself: its id, and its start, which tells it from a later one
+    QString name;        ///< of all processes of one name
+
+    bool operator==(const ProcessRowKey&) const = default;
+};
+
+inline size_t qHash(const ProcessRowKey& key, size_t seed = 0) {
+    return qHashMulti(seed, key.process, key.name);
+}
+
 /// The rows of the Processes section.
-class ProcessTableModel : public KeyedTableModel<ProcessTableRow, quint64> {
+class ProcessTableModel : public KeyedTableModel<ProcessTableRow, ProcessRowKey> {
     Q_OBJECT
 
 public:
@@ -33,9 +46,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 protected:
-    quint64 keyOf(const ProcessTableRow& row) const override;
+    ProcessRowKey keyOf(const ProcessTableRow& row) const override;
 
 private:
     bool m_isGrouped = false;
-    mutable QHash<QString, quint64> m_nameKeys;
 };
