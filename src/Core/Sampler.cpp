@@ -9,8 +9,8 @@
 namespace {
 
 constexpr std::size_t maximumPids = 4096;
-constexpr qsizetype mostTextsPerProcess = 6;
-constexpr double busyPercent = 0.5; ///< below it a process counts as idle
+constexpr qsizetype partThatMayBeGone = 8; ///< one in so many, before their texts are dropped
+constexpr double busyPercent = 0.5;        ///< below it a process counts as idle
 
 double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
     return std::chrono::duration<double>(to - from).count();
@@ -143,12 +143,14 @@ QString Sampler::interned(const QString& text) {
     return *texts.insert(text);
 }
 
+/// The texts of processes that went are dropped now and then, as looking for them costs a walk over all. They
+/// must not pile up: the arguments of a compiler are long, and a build starts thousands.
 void Sampler::evictUnseen() {
-    known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
-    // The texts of the processes that went are dropped now and then, with the rest, which lives on in
-    // `known`.
-    if (texts.size() > mostTextsPerProcess * known.size() + mostTextsPerProcess)
-        texts.clear();
+    gone += known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
+    if (gone * partThatMayBeGone <= known.size())
+        return;
+    texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
+    gone = 0;
 }
 
 Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {

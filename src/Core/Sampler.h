@@ -33,6 +33,7 @@ public:
 
     /// How many processes the tables remember; level in the long run.
     qsizetype rememberedProcesses() const { return known.size(); }
+    qsizetype rememberedTexts() const { return texts.size(); }
 
 private:
     struct PrevCPU {
@@ -72,5 +73,6 @@ private:
     std::optional<CpuTicks> prevHostCPU;
     QHash<qint32, Known> known; ///< by process id
     QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it
+    qsizetype gone = 0;         ///< processes, since their texts were last dropped
     quint32 pass = 0;
 };

@@ -117,6 +117,22 @@ TEST_F(SamplerTest, ReusedIdKeepsTheOldNameUntilItLeavesTheListing) {
     EXPECT_EQ(only().name, QStringLiteral("new"));
 }
 
+TEST_F(SamplerTest, TextsAreSharedAndGoWithTheirProcesses) {
+    fakes.processes->add(1, {.path = "/bin/steady", .name = "steady"});
+    for (qint32 pid = 2; pid < 2000; ++pid) { // 20 at a time, each under texts of its own
+        const QByteArray name = "program-" + QByteArray::number(pid);
+        fakes.processes->add(pid, {.path = "/bin/" + name, .name = name, .arguments = name + " --once"});
+        if (pid > 21)
+            fakes.processes->remove(pid - 20);
+        sampler.sampleProcesses();
+        ASSERT_LE(sampler.rememberedTexts(), 3 * (21 + 5));
+    }
+    fakes.processes->add(2000, {.path = "/bin/steady", .name = "steady"});
+    const QList<ProcSample> samples = sampler.sampleProcesses();
+    EXPECT_EQ(samples.first().name, QStringLiteral("steady"));
+    EXPECT_EQ(samples.last().name.constData(), samples.first().name.constData());
+}
+
 TEST_F(SamplerTest, UnreadableProcessIsLeftOutButNotForgotten) {
     fakes.processes->add(10);
     fakes.processes->add(11);
