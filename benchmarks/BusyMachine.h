@@ -1,0 +1,30 @@
+#pragma once
+
+#include "support/FakePlatform.h"
+
+#include <QRandomGenerator>
+
+/// A scripted machine of 1,000 processes on which 200 end and 200 others start every second, half of them
+/// under a name, a path and arguments that were never seen before. Ids come round again.
+class BusyMachine {
+public:
+    FakePlatform fakes;
+
+    BusyMachine();
+
+    /// Two seconds pass.
+    void pass();
+
+private:
+    qint32 nextFreePid();
+    void start(qsizetype row);
+    void startSteady(qsizetype row);
+    void startPassing(qsizetype row);
+    void work();
+    void swing();
+
+    QRandomGenerator m_random{5};
+    qint32 m_pid = 300;
+    int m_started = 0;
+    int m_passes = 0;
+};
