@@ -279,7 +279,10 @@ TEST(ProcessTable, LeavesOutKernelThreads) {
     LinuxProcessTable table;
     const auto pids = listed(table);
     EXPECT_EQ(std::ranges::count(pids, getpid()), 1);
-    EXPECT_EQ(pids, listed(table));
+    bool isTheSameTwice = false; // between two starts of other programs' children
+    for (int tries = 0; tries < 200 && !isTheSameTwice; ++tries)
+        isTheSameTwice = listed(table) == listed(table);
+    EXPECT_TRUE(isTheSameTwice);
     int kernelThreads = 0;
     for (const auto& row : outputOf("ps -e -o pid=,flags=,vsz=").split('\n')) {
         // ps shows only some of the flags; a kernel thread is a child of 2, or 2 itself.

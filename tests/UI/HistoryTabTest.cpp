@@ -1,7 +1,9 @@
 #include "UI/Settings/HistoryTab.h"
+#include "UI/Kit/ToolTip.h"
 
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/HistoryTableView.h"
 #include "UI/Settings/LocalTimeText.h"
@@ -209,9 +211,9 @@ TEST_F(HistoryTabTest, WhatComesFromOutsideStaysPlainAndVisible) {
     };
     EXPECT_EQ(toolTip(0, 2), QString());
     const QString cut = toolTip(1, 2);
-    EXPECT_TRUE(cut.startsWith(u"<p>xxx"_s) && cut.endsWith(u"x…</p>"_s) && cut.size() < 5000);
+    EXPECT_TRUE(cut.contains(u">xxx"_s) && cut.endsWith(u"x…</p>"_s) && cut.size() < 5000);
     table->header()->resizeSection(0, 400);
-    EXPECT_EQ(toolTip(0, 2), u"<p>&lt;b&gt;a&lt;/b&gt;␉&amp;amp; \ufffdtxt.exe␇</p>"_s);
+    EXPECT_EQ(toolTip(0, 2), plainToolTip(u"<b>a</b>␉&amp; \ufffdtxt.exe␇"_s));
     tab.grab(); // a megabyte in one cell is painted
 }
 

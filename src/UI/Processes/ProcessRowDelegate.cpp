@@ -4,6 +4,7 @@
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -196,6 +197,6 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                 text = helpOf(action, row, model.isGrouped());
         }
     }
-    QToolTip::showText(event->globalPos(), text.toHtmlEscaped(), view);
+    QToolTip::showText(event->globalPos(), plainToolTip(text), view);
     return true;
 }

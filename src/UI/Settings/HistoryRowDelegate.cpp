@@ -3,6 +3,7 @@
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QAbstractItemView>
 #include <QFontDatabase>
@@ -111,8 +112,6 @@ bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(mostPainted)) <=
                                                               option.rect.width() - 2 * padding;
     const QString shown = text.size() > mostInToolTip ? text.left(mostInToolTip) + u'…' : text;
-    // As markup that holds nothing but the text: that is how a tool tip wraps, and it guesses nothing.
-    QToolTip::showText(event->globalPos(),
-                       isWhole ? QString() : QStringLiteral("<p>%1</p>").arg(shown.toHtmlEscaped()), view);
+    QToolTip::showText(event->globalPos(), isWhole ? QString() : plainToolTip(shown), view);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "UI/Settings/PresetTableModel.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <cmath>
 
@@ -89,7 +90,7 @@ QVariant PresetTableModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return spokenText(preset, index.column());
     case Qt::ToolTipRole:
-        return textOf(preset, index.column()).toHtmlEscaped();
+        return plainToolTip(textOf(preset, index.column()));
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(alignmentOf(index.column()));
     default:
