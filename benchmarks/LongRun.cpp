@@ -29,13 +29,14 @@ std::size_t heapBytes() {
     return heap.uordblks + heap.hblkhd;
 }
 
-/// In KiB, of proc(5) `smaps_rollup`: Pss.
-double proportionalMemory() {
+/// In KiB, of proc(5) `smaps_rollup`: Pss_Anon. Of the libraries' pages a share is counted that grows when
+/// another program ends; these are the program's own.
+double ownMemory() {
     std::ifstream rollup("/proc/self/smaps_rollup");
     std::string word;
     double value = 0;
     while (rollup >> word) {
-        if (word == "Pss:" && rollup >> value)
+        if (word == "Pss_Anon:" && rollup >> value)
             return value;
     }
     return 0;
@@ -68,7 +69,7 @@ std::vector<LongRun::Figure> LongRun::look() const {
     std::vector<Figure> result = {
         {.name = "descriptors", .value = openDescriptors(), .margin = m_descriptorMargin},
         {.name = "heap_kib", .value = double(*m_leastHeapBytes) / 1024, .margin = heapMarginKiB},
-        {.name = "pss_kib", .value = proportionalMemory(), .margin = memoryMarginKiB},
+        {.name = "own_memory_kib", .value = ownMemory(), .margin = memoryMarginKiB},
     };
     std::ranges::move(m_figures(), std::back_inserter(result));
     return result;
