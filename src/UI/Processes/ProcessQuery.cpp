@@ -42,14 +42,16 @@ void sortByName(QList<ProcSample>& processes) {
 QList<ProcSample> ProcessQuery::filteredAndSorted(const QList<ProcSample>& processes) const {
     const quint64 leastBytes = static_cast<quint64>(minRSSMB) << 20;
     QList<ProcSample> result;
+    result.reserve(processes.size());
     for (const ProcSample& process : processes) {
         if (process.rssBytes >= leastBytes && (!groupFilter || groupFilter == process.group) &&
             matches(process, search))
             result.append(process);
     }
     switch (sortBy) {
-    case SortBy::ram:
-        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::rssBytes);
+    case SortBy::ram: // the order they come in from the model; sorting would move each of them about
+        if (!std::ranges::is_sorted(result, std::ranges::greater(), &ProcSample::rssBytes))
+            std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::rssBytes);
         break;
     case SortBy::cpu:
         std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::cpuPercent);

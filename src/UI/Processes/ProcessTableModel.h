@@ -12,8 +12,8 @@ struct ProcessTableRow {
     int sameName = 1; ///< how many processes of the machine have the name
 };
 
-/// What makes a row the same from one tick to the next. Nothing remembers keys, so that names which never
-/// come again leave nothing behind.
+/// What makes a row the same from one tick to the next: one of the two. Nothing remembers keys, so that names
+/// which never come again leave nothing behind.
 struct ProcessRowKey {
     quint64 process = 0; ///< of a process by itself: its id, and its start, which tells it from a later one
     QString name;        ///< of all processes of one name
@@ -22,7 +22,7 @@ struct ProcessRowKey {
 };
 
 inline size_t qHash(const ProcessRowKey& key, size_t seed = 0) {
-    return qHashMulti(seed, key.process, key.name);
+    return key.name.isEmpty() ? ::qHash(key.process, seed) : ::qHash(key.name, seed);
 }
 
 /// The rows of the Processes section.
