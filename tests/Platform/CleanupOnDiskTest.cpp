@@ -230,7 +230,9 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
     EXPECT_TRUE(clean(cache).success);
     EXPECT_TRUE(entries(home.path(u"cache"_s)).isEmpty());
     EXPECT_TRUE(clean(downloads).success);
-    EXPECT_EQ(entries(home.path(u"Downloads"_s)), QStringList(u"new"_s));
+    const QStringList left = entries(home.path(u"Downloads"_s));
+    EXPECT_TRUE(left.contains(u"new"_s));
+    EXPECT_LE(left.size(), 2); // the tenant may have ended before it made its last file old
 }
 
 /// For caches that real tools have made in a home folder of their own; docs/testing.md tells how.

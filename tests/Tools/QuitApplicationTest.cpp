@@ -32,9 +32,9 @@ constexpr Tools::QuitPatience shortPatience{
 constexpr Tools::QuitPatience noPatience{
     .afterClosing = 300ms, .beforeForce = 300ms, .afterEachSignal = 300ms};
 
-bool waitFor(const std::function<bool()>& isTrue) {
+bool waitFor(const std::function<bool()>& isTrue, std::chrono::milliseconds patience = 10s) {
     QElapsedTimer time;
-    for (time.start(); time.elapsed() < 10'000; QThread::msleep(20)) {
+    for (time.start(); time.elapsed() < patience.count(); QThread::msleep(20)) {
         if (isTrue())
             return true;
     }
@@ -102,9 +102,15 @@ protected:
     /// Starts the test's windowed program, copied to `path`, and waits for its window to be listed.
     Program show(const QString& path, const QString& name, const QString& manner,
                  const QStringList& more = {}) {
-        auto process = spawn(install(path, QCoreApplication::applicationDirPath() + u"/window_app"_s),
-                             QStringList({name, manner}) + more);
-        EXPECT_TRUE(waitFor([&] { return isListed(name.toStdString()); }));
+        const auto program = install(path, QCoreApplication::applicationDirPath() + u"/window_app"_s);
+        Program process;
+        bool listed = false;
+        // A window manager that is just starting may miss a window.
+        for (int tries = 0; tries < 5 && !listed; ++tries) {
+            process = spawn(program, QStringList({name, manner}) + more);
+            listed = waitFor([&] { return isListed(name.toStdString()); }, 4s);
+        }
+        EXPECT_TRUE(listed) << qPrintable(name);
         return process;
     }
 
