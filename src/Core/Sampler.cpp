@@ -154,12 +154,13 @@ void Sampler::evictUnseen() {
 }
 
 Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
+    const ProcessOrigin origin = table->origin(pid);
     StaticMeta meta;
-    meta.path = interned(QString::fromUtf8(table->executablePath(pid)));
-    meta.name = interned(procName(pid, meta.path));
-    meta.args = interned(procArgs(pid));
+    meta.path = interned(QString::fromUtf8(origin.executablePath));
+    meta.name = interned(procName(pid, origin.shortName, meta.path));
+    meta.args = interned(procArgs(origin.argumentArea));
     meta.startTime = now;
-    if (const auto info = table->kernelInfo(pid)) {
+    if (const auto& info = origin.kernelInfo) {
         meta.uid = info->uid;
         meta.ppid = info->parentPid;
         meta.startTime = info->start;
@@ -168,18 +169,17 @@ Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
     return meta;
 }
 
-QString Sampler::procName(qint32 pid, const QString& fallbackPath) const {
-    const QByteArray name = table->shortName(pid);
-    if (!name.isEmpty())
-        return QString::fromUtf8(name);
+QString Sampler::procName(qint32 pid, const QByteArray& shortName, const QString& fallbackPath) {
+    if (!shortName.isEmpty())
+        return QString::fromUtf8(shortName);
     if (!fallbackPath.isEmpty())
         return fallbackPath.section(u'/', -1);
     return QStringLiteral("pid %1").arg(pid);
 }
 
 /// The arguments without the program's name; the name alone where there are none.
-QString Sampler::procArgs(qint32 pid) const {
-    QList<QByteArray> strings = table->argumentArea(pid).split('\0');
+QString Sampler::procArgs(const QByteArray& argumentArea) {
+    QList<QByteArray> strings = argumentArea.split('\0');
     strings.removeAll(QByteArray());
     if (strings.size() > 1)
         strings.removeFirst();

@@ -61,8 +61,8 @@ private:
     double cpuLoad();
     double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
     StaticMeta lookUp(qint32 pid, Instant now);
-    QString procName(qint32 pid, const QString& fallbackPath) const;
-    QString procArgs(qint32 pid) const;
+    static QString procName(qint32 pid, const QByteArray& shortName, const QString& fallbackPath);
+    static QString procArgs(const QByteArray& argumentArea);
     QString interned(const QString& text);
     void evictUnseen();
 

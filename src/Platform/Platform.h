@@ -24,6 +24,8 @@ struct Platform {
     std::shared_ptr<Places> places;
     std::shared_ptr<Signals> signalSender;
 
+    /// What has to be done before the program's first thread starts.
+    static void prepareProgram();
     /// The answers of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();
     /// Separate, because only programs with windows ask for it.

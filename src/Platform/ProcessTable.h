@@ -17,7 +17,7 @@ struct TaskInfo {
     bool operator==(const TaskInfo&) const = default;
 };
 
-/// What the kernel knows of a process's origin; read once in a process's life.
+/// What the kernel knows of a process's origin.
 struct KernelProcessInfo {
     std::chrono::system_clock::time_point start;
     quint32 uid = 0; ///< effective user id
@@ -26,8 +26,16 @@ struct KernelProcessInfo {
         0; ///< since boot; whatever is done to the clock, it tells two processes of one id apart
 };
 
-/// The system's processes. Texts are the system's raw bytes, in no particular encoding; an empty one
-/// means that it could not be read.
+/// What is read once in a process's life. Texts are the system's raw bytes, in no particular encoding; an
+/// empty one means that it could not be read.
+struct ProcessOrigin {
+    QByteArray executablePath;
+    QByteArray shortName;
+    QByteArray argumentArea; ///< as the process sees it: strings each ended by a NUL
+    std::optional<KernelProcessInfo> kernelInfo;
+};
+
+/// The system's processes.
 class ProcessTable {
 public:
     virtual ~ProcessTable() = default;
@@ -37,9 +45,7 @@ public:
     virtual int listAllPids(std::span<qint32> pids) = 0;
     /// Empty when the process is gone or may not be read.
     virtual std::optional<TaskInfo> taskInfo(qint32 pid) = 0;
-    virtual QByteArray executablePath(qint32 pid) = 0;
-    virtual QByteArray shortName(qint32 pid) = 0;
-    /// The argument vector as the process sees it: strings each ended by a NUL.
-    virtual QByteArray argumentArea(qint32 pid) = 0;
+    virtual ProcessOrigin origin(qint32 pid) = 0;
+    /// The same as in `origin`, where nothing else of it is needed.
     virtual std::optional<KernelProcessInfo> kernelInfo(qint32 pid) = 0;
 };

@@ -33,7 +33,7 @@ TEST(ProcessText, NamesOfEveryKindAreReadAsTheyStand) {
             static_cast<void>(!read(socket, &word, 1));
         });
         ASSERT_EQ(child.heard(), '!');
-        EXPECT_EQ(table.shortName(child.pid()), name);
+        EXPECT_EQ(table.origin(child.pid()).shortName, name);
         const auto kernel = table.kernelInfo(child.pid());
         ASSERT_TRUE(kernel) << name;
         EXPECT_EQ(kernel->parentPid, getpid()) << name;
@@ -51,16 +51,17 @@ TEST(ProcessText, ArgumentsOfEveryKindAreReadWhole) {
         std::vector<std::string> arguments = {"sh", "-c", "read line"};
         arguments.insert(arguments.end(), tail.begin(), tail.end());
         const Child child("/bin/sh", arguments);
-        EXPECT_TRUE(table.argumentArea(child.pid()) == argumentsOf(arguments)) << tail.front().substr(0, 20);
+        EXPECT_TRUE(table.origin(child.pid()).argumentArea == argumentsOf(arguments))
+            << tail.front().substr(0, 20);
     }
 }
 
 TEST(ProcessText, AProgramWithoutArgumentsHasNone) {
     LinuxProcessTable table;
     const Child child("/bin/cat", {});
-    const auto area = table.argumentArea(child.pid());
+    const auto area = table.origin(child.pid()).argumentArea;
     EXPECT_TRUE(area.isEmpty() || area == argumentsOf({""})); // newer kernels put an empty one in
-    EXPECT_EQ(table.shortName(child.pid()), "cat");
+    EXPECT_EQ(table.origin(child.pid()).shortName, "cat");
 }
 
 TEST(ProcessText, LongNamesAreCompleted) {
@@ -69,11 +70,11 @@ TEST(ProcessText, LongNamesAreCompleted) {
     const auto program = folder.filePath(u"a-program-with-a-long-name (v2)"_s);
     ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, program));
     const Child byExecutable(program.toStdString(), {"other", "1000"});
-    EXPECT_EQ(table.shortName(byExecutable.pid()), "a-program-with-a-long-name (v2)");
+    EXPECT_EQ(table.origin(byExecutable.pid()).shortName, "a-program-with-a-long-name (v2)");
 
     ASSERT_TRUE(QFile::remove(program));
-    EXPECT_EQ(table.executablePath(byExecutable.pid()), QFile::encodeName(program));
-    EXPECT_EQ(table.shortName(byExecutable.pid()), "a-program-with-a-long-name (v2)");
+    EXPECT_EQ(table.origin(byExecutable.pid()).executablePath, QFile::encodeName(program));
+    EXPECT_EQ(table.origin(byExecutable.pid()).shortName, "a-program-with-a-long-name (v2)");
 
     // The shell names itself so, and says when it has.
     const std::string rename = "printf %s a-worker-in-its > /proc/$$/comm; printf ! >&0; read line";
@@ -82,7 +83,7 @@ TEST(ProcessText, LongNamesAreCompleted) {
              {"/opt/bin/worker", "a-worker-in-its"}}) {
         const Child byArgument("/bin/sh", {first, "-c", rename});
         ASSERT_EQ(byArgument.heard(), '!');
-        EXPECT_EQ(table.shortName(byArgument.pid()), expected);
+        EXPECT_EQ(table.origin(byArgument.pid()).shortName, expected);
     }
 }
 
@@ -92,6 +93,7 @@ TEST(ProcessText, StatLinesAreParsedFromTheLastParenthesis) {
     for (const char* name : {"sh", "a b", "x) R 1 1 (y", ")))", "", "line\nfeed"}) {
         const auto stat = ProcStat::parse("7 (" + std::string(name) + ")" + figures);
         ASSERT_TRUE(stat) << name;
+        EXPECT_EQ(stat->name, name);
         EXPECT_EQ(stat->parentPid, 41);
         EXPECT_EQ(stat->flags, 4194304u);
         EXPECT_EQ(stat->cpuTicks, 1122u);
@@ -137,7 +139,7 @@ TEST(ProcessText, OddFoldersAreLookedAtWithCare) {
         EXPECT_EQ(table.taskInfo(5000003), (TaskInfo{8192, 21 * page, fiveSeconds, 3}));
         EXPECT_FALSE(table.taskInfo(5000004));
         EXPECT_FALSE(table.taskInfo(5000005));
-        EXPECT_FALSE(table.kernelInfo(5000001)); // it has no owner
+        EXPECT_FALSE(table.kernelInfo(5000004));
     }
 }
 

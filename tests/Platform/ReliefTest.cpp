@@ -35,9 +35,7 @@ public:
         return static_cast<int>(pids.size());
     }
     std::optional<TaskInfo> taskInfo(qint32 pid) override { return m_table.taskInfo(pid); }
-    QByteArray executablePath(qint32 pid) override { return m_table.executablePath(pid); }
-    QByteArray shortName(qint32 pid) override { return m_table.shortName(pid); }
-    QByteArray argumentArea(qint32 pid) override { return m_table.argumentArea(pid); }
+    ProcessOrigin origin(qint32 pid) override { return m_table.origin(pid); }
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return m_table.kernelInfo(pid); }
 
     /// A child of `parent`, waited for.
@@ -46,7 +44,8 @@ public:
             const int count = m_table.listAllPids(m_everything);
             for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
                 const auto info = m_table.kernelInfo(pid);
-                if (info && info->parentPid == parent && m_table.argumentArea(pid).contains("mcp-server"))
+                if (info && info->parentPid == parent &&
+                    m_table.origin(pid).argumentArea.contains("mcp-server"))
                     return pid;
             }
         }

@@ -87,12 +87,11 @@ public:
         const auto found = processes.constFind(pid);
         return found == processes.constEnd() ? std::nullopt : found->task;
     }
-    QByteArray executablePath(qint32 pid) override {
+    ProcessOrigin origin(qint32 pid) override {
         ++metadataLookUps;
-        return processes.value(pid).path;
+        const FakeProcess process = processes.value(pid);
+        return {process.path, process.name, process.arguments, process.info};
     }
-    QByteArray shortName(qint32 pid) override { return processes.value(pid).name; }
-    QByteArray argumentArea(qint32 pid) override { return processes.value(pid).arguments; }
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return processes.value(pid).info; }
 };
 

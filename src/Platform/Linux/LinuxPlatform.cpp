@@ -1,4 +1,5 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/DescriptorLimit.h"
 #include "Platform/Linux/LinuxAppearance.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxIdentity.h"
@@ -9,6 +10,10 @@
 #include "Platform/Linux/LinuxSignals.h"
 #include "Platform/Linux/LinuxToolRunner.h"
 #include "Platform/Platform.h"
+
+void Platform::prepareProgram() {
+    DescriptorLimit::reserve();
+}
 
 Platform Platform::native() {
     return {.host = std::make_shared<LinuxHostStatistics>(),

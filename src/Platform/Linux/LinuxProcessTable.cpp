@@ -41,8 +41,28 @@ std::chrono::system_clock::time_point sinceBoot(quint64 ns) {
                                                  std::chrono::nanoseconds(passed));
 }
 
+/// Relative to where procfs is mounted; `name` is empty or begins with a slash.
+std::array<char, 32> pathOf(qint32 pid, const char* name) {
+    std::array<char, 32> path;
+    std::snprintf(path.data(), path.size(), "%d%s", pid, name);
+    return path;
+}
+
 QByteArray lastComponent(const QByteArray& path) {
     return path.mid(path.lastIndexOf('/') + 1);
+}
+
+/// The whole of a name that the kernel may have cut.
+QByteArray completed(const QByteArray& name, const ProcessOrigin& origin) {
+    if (name.size() != commLength)
+        return name;
+    const auto& area = origin.argumentArea;
+    const auto firstArgument = area.first(std::max<qsizetype>(area.indexOf('\0'), 0));
+    for (const auto& whole : {lastComponent(origin.executablePath), lastComponent(firstArgument)}) {
+        if (whole.startsWith(name))
+            return whole;
+    }
+    return name;
 }
 
 } // namespace
@@ -122,7 +142,7 @@ LinuxProcessTable::Process& LinuxProcessTable::processOf(qint32 pid) {
 }
 
 bool LinuxProcessTable::isKernelThread(Process& process) {
-    if (open(process) && fromKept(process))
+    if (open(process) && pagesOf(process))
         return false; // it has memory
     const auto stat = readStat(process.pid);
     const bool kernels = stat && stat->isKernelThread();
@@ -134,26 +154,19 @@ bool LinuxProcessTable::isKernelThread(Process& process) {
 bool LinuxProcessTable::open(Process& process) {
     if (process.statm.isOpen())
         return true;
-    if (m_descriptors + 2 > m_descriptorBudget)
+    if (m_descriptors >= m_descriptorBudget)
         return false;
-    process.statm = openFile(process.pid, "statm");
-    process.task = openFile(process.pid, "task", O_DIRECTORY);
-    if (!process.statm.isOpen() || !process.task.isOpen()) {
-        process.statm.close();
-        process.task.close();
-        return false;
-    }
-    m_descriptors += 2;
-    return true;
+    process.statm = openFile(process.pid, "/statm");
+    m_descriptors += process.statm.isOpen() ? 1 : 0;
+    return process.statm.isOpen();
 }
 
 void LinuxProcessTable::close(Process& process) {
-    if (!process.statm.isOpen())
-        return;
-    process.statm.close();
-    process.task.close();
+    for (KernelFile* file : {&process.statm, &process.task}) {
+        m_descriptors -= file->isOpen() ? 1 : 0;
+        file->close();
+    }
     process.threads = 0;
-    m_descriptors -= 2;
 }
 
 std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
@@ -172,7 +185,29 @@ std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
 }
 
 /// With errno ESRCH when the process that the descriptors belong to is gone.
-std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) const {
+std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
+    const auto pages = pagesOf(process);
+    if (!pages)
+        return std::nullopt;
+    const auto cpu = cpuTimeNs(process.pid);
+    if (!cpu)
+        return std::nullopt;
+    // No thread has begun or ended in a process that has not run for a nanosecond.
+    if (process.threads == 0 || process.cpuTimeNs != *cpu) {
+        const auto threads = threadCount(process);
+        if (!threads)
+            return std::nullopt;
+        process.threads = *threads;
+        process.cpuTimeNs = *cpu;
+    }
+    return TaskInfo{.virtualBytes = pages->virtualPages * m_pageSize,
+                    .residentBytes = pages->residentPages * m_pageSize,
+                    .cpuTimeNs = *cpu,
+                    .threads = process.threads};
+}
+
+/// Empty for a process without memory as well, with errno 0.
+std::optional<LinuxProcessTable::Pages> LinuxProcessTable::pagesOf(const Process& process) {
     errno = 0;
     std::array<char, 128> room;
     auto statm = process.statm.read(room);
@@ -180,21 +215,19 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) const {
     const auto residentPages = KernelText::takeNumber(statm);
     if (!residentPages || *virtualPages == 0)
         return std::nullopt;
-    const auto cpu = cpuTimeNs(process.pid);
-    if (!cpu)
-        return std::nullopt;
-    // No thread has begun or ended in a process that has not run for a nanosecond.
-    if (process.threads == 0 || process.cpuTimeNs != *cpu) {
-        struct stat task;
-        if (fstat(process.task.descriptor(), &task) != 0)
-            return std::nullopt;
-        process.threads = std::max(0, static_cast<int>(task.st_nlink) - 2);
-        process.cpuTimeNs = *cpu;
+    return Pages{*virtualPages, *residentPages};
+}
+
+/// By the folder's name at first: most processes sleep all the time and are never asked again.
+std::optional<int> LinuxProcessTable::threadCount(Process& process) {
+    struct stat task;
+    if (process.threads > 0 && !process.task.isOpen() && m_descriptors < m_descriptorBudget) {
+        process.task = openFile(process.pid, "/task", O_DIRECTORY);
+        m_descriptors += process.task.isOpen() ? 1 : 0;
     }
-    return TaskInfo{.virtualBytes = *virtualPages * m_pageSize,
-                    .residentBytes = *residentPages * m_pageSize,
-                    .cpuTimeNs = *cpu,
-                    .threads = process.threads};
+    const bool answered = process.task.isOpen() ? fstat(process.task.descriptor(), &task) == 0
+                                                : statOf(process.pid, "/task", task);
+    return answered ? std::optional(std::max(0, static_cast<int>(task.st_nlink) - 2)) : std::nullopt;
 }
 
 std::optional<TaskInfo> LinuxProcessTable::fromStat(qint32 pid) const {
@@ -216,45 +249,41 @@ std::optional<quint64> LinuxProcessTable::cpuTimeNs(qint32 pid) const {
 }
 
 std::optional<ProcStat> LinuxProcessTable::readStat(qint32 pid) const {
-    const auto file = openFile(pid, "stat");
+    const auto file = openFile(pid, "/stat");
     std::array<char, 1024> room;
     return ProcStat::parse(file.read(room));
 }
 
 KernelFile LinuxProcessTable::openFile(qint32 pid, const char* name, int extraFlags) const {
-    std::array<char, 32> path;
-    std::snprintf(path.data(), path.size(), "%d/%s", pid, name);
-    return KernelFile(m_folder.descriptor(), path.data(), extraFlags);
+    return KernelFile(m_folder.descriptor(), pathOf(pid, name).data(), extraFlags);
 }
 
-QByteArray LinuxProcessTable::executablePath(qint32 pid) {
-    std::array<char, 32> path;
-    std::snprintf(path.data(), path.size(), "%d/exe", pid);
+/// What `/proc/N` followed by `name` is; false when it cannot be told.
+bool LinuxProcessTable::statOf(qint32 pid, const char* name, struct stat& result) const {
+    return fstatat(m_folder.descriptor(), pathOf(pid, name).data(), &result, 0) == 0;
+}
+
+ProcessOrigin LinuxProcessTable::origin(qint32 pid) {
+    ProcessOrigin origin{.executablePath = executablePath(pid), .argumentArea = argumentArea(pid)};
+    if (const auto stat = readStat(pid)) {
+        origin.shortName = completed(stat->name, origin);
+        origin.kernelInfo = kernelInfo(pid, *stat);
+    }
+    return origin;
+}
+
+QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
     QByteArray target(4096, Qt::Uninitialized);
-    const auto length = readlinkat(m_folder.descriptor(), path.data(), target.data(), target.size());
+    const auto length =
+        readlinkat(m_folder.descriptor(), pathOf(pid, "/exe").data(), target.data(), target.size());
     target.truncate(std::max<qsizetype>(length, 0));
     if (target.endsWith(" (deleted)"))
         target.chop(sizeof(" (deleted)") - 1);
     return target;
 }
 
-QByteArray LinuxProcessTable::shortName(qint32 pid) {
-    std::array<char, 64> room;
-    auto text = openFile(pid, "comm").read(room);
-    if (text.ends_with('\n'))
-        text.remove_suffix(1);
-    const QByteArray name(text.data(), static_cast<qsizetype>(text.size()));
-    if (name.size() != commLength)
-        return name;
-    if (const auto whole = lastComponent(executablePath(pid)); whole.startsWith(name))
-        return whole;
-    const auto arguments = argumentArea(pid);
-    const auto whole = lastComponent(arguments.left(std::max<qsizetype>(arguments.indexOf('\0'), 0)));
-    return whole.startsWith(name) ? whole : name;
-}
-
-QByteArray LinuxProcessTable::argumentArea(qint32 pid) {
-    const auto file = openFile(pid, "cmdline");
+QByteArray LinuxProcessTable::argumentArea(qint32 pid) const {
+    const auto file = openFile(pid, "/cmdline");
     QByteArray area(4096, Qt::Uninitialized);
     qsizetype filled = 0;
     while (filled < mostArguments) {
@@ -264,8 +293,9 @@ QByteArray LinuxProcessTable::argumentArea(qint32 pid) {
         if (length <= 0)
             break;
         filled += length;
-        if (filled == area.size())
-            area.resize(2 * area.size());
+        if (filled < area.size())
+            break; // the kernel stops short at the end alone
+        area.resize(2 * area.size());
     }
     area.truncate(filled);
     return area;
@@ -273,17 +303,15 @@ QByteArray LinuxProcessTable::argumentArea(qint32 pid) {
 
 std::optional<KernelProcessInfo> LinuxProcessTable::kernelInfo(qint32 pid) {
     const auto stat = readStat(pid);
-    std::array<char, 4096> room;
-    const auto status = openFile(pid, "status").read(room);
-    auto ids = KernelText::valueOf(status, "Uid:");
-    if (!stat || !ids)
+    return stat ? kernelInfo(pid, *stat) : std::nullopt;
+}
+
+std::optional<KernelProcessInfo> LinuxProcessTable::kernelInfo(qint32 pid, const ProcStat& stat) const {
+    struct stat folder;
+    if (!statOf(pid, "", folder))
         return std::nullopt;
-    KernelText::takeNumber(*ids); // the real one
-    const auto effective = KernelText::takeNumber(*ids);
-    if (!effective)
-        return std::nullopt;
-    return KernelProcessInfo{.start = sinceBoot(stat->startTicks * m_tickNs),
-                             .uid = static_cast<quint32>(*effective),
-                             .parentPid = stat->parentPid,
-                             .startTicks = stat->startTicks};
+    return KernelProcessInfo{.start = sinceBoot(stat.startTicks * m_tickNs),
+                             .uid = folder.st_uid,
+                             .parentPid = stat.parentPid,
+                             .startTicks = stat.startTicks};
 }

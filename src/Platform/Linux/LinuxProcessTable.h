@@ -5,16 +5,19 @@
 #include "Platform/Linux/ProcStat.h"
 #include "Platform/ProcessTable.h"
 
+#include <sys/stat.h>
+
 #include <string>
 #include <vector>
 
 /// The processes that procfs shows, kernel threads left out.
 ///
-/// Made to be asked about every process every few seconds: for each it keeps two descriptors from pass to
-/// pass, and asks at most three questions a pass:
+/// Made to be asked about every process every few seconds: for each it asks at most three questions a pass,
+/// the first and the last on descriptors that it keeps from pass to pass:
 ///   - `/proc/N/statm` (pread): resident and virtual pages;
 ///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
-///   - `/proc/N/task` (fstat), where the clock has moved: two links and one for each thread.
+///   - `/proc/N/task` (fstat), where the clock has moved: two links and one for each thread. A process that
+///     has slept since it was first seen has no descriptor for it yet.
 /// The listing itself is repeated from memory while no id has been given out and no listed process has gone.
 /// Such a descriptor never speaks for another process: once its own is gone it answers ESRCH, and the id is
 /// looked up anew. Where the limit on descriptors is reached, `/proc/N/stat` answers instead, opened each
@@ -28,15 +31,13 @@ public:
     int listAllPids(std::span<qint32> pids) override;
     /// Empty also for a process without address space, such as one that waits to be reaped.
     std::optional<TaskInfo> taskInfo(qint32 pid) override;
-    /// Target of `/proc/N/exe`, also when the file has been deleted since; readable for the user's own
-    /// processes only.
-    QByteArray executablePath(qint32 pid) override;
-    /// `/proc/N/comm`. The kernel keeps 15 bytes of it: a name that long is completed from the executable
-    /// or the first argument, where that begins with it.
-    QByteArray shortName(qint32 pid) override;
-    /// `/proc/N/cmdline`
-    QByteArray argumentArea(qint32 pid) override;
-    /// `/proc/N/stat` and `/proc/N/status`
+    /// The executable is the target of `/proc/N/exe`, also when the file has been deleted since; readable for
+    /// the user's own processes only. The arguments are `/proc/N/cmdline`. Of the short name, in
+    /// `/proc/N/stat`, the kernel keeps 15 bytes: one that long is completed from the executable or the first
+    /// argument, where that begins with it.
+    ProcessOrigin origin(qint32 pid) override;
+    /// `/proc/N/stat`, and the owner of `/proc/N`, which is the effective user id also for a process whose
+    /// other files belong to root (proc(5), "dumpable").
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override;
 
 private:
@@ -50,6 +51,11 @@ private:
         quint64 cpuTimeNs = 0;
     };
 
+    struct Pages {
+        quint64 virtualPages = 0;
+        quint64 residentPages = 0;
+    };
+
     bool hasNewPids();
     void listAnew();
     Process keptOrNew(const ProcFolder::Row& row, std::vector<Process>::iterator& kept);
@@ -57,11 +63,17 @@ private:
     bool isKernelThread(Process& process);
     bool open(Process& process);
     void close(Process& process);
-    std::optional<TaskInfo> fromKept(Process& process) const;
+    std::optional<TaskInfo> fromKept(Process& process);
+    static std::optional<Pages> pagesOf(const Process& process);
+    std::optional<int> threadCount(Process& process);
     std::optional<TaskInfo> fromStat(qint32 pid) const;
     std::optional<quint64> cpuTimeNs(qint32 pid) const;
     std::optional<ProcStat> readStat(qint32 pid) const;
+    QByteArray executablePath(qint32 pid) const;
+    QByteArray argumentArea(qint32 pid) const;
+    std::optional<KernelProcessInfo> kernelInfo(qint32 pid, const ProcStat& stat) const;
     KernelFile openFile(qint32 pid, const char* name, int extraFlags = 0) const;
+    bool statOf(qint32 pid, const char* name, struct stat& result) const;
 
     ProcFolder m_folder;
     KernelFile m_loadAverage;

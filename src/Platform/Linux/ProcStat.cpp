@@ -8,9 +8,12 @@
 
 std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     // The name stands in parentheses, unescaped: it may itself hold blanks, newlines and parentheses.
+    const auto nameStart = text.find('(') + 1;
     const auto nameEnd = text.rfind(')');
-    if (nameEnd == std::string_view::npos || text.size() < nameEnd + 4)
+    if (nameStart == 0 || nameEnd == std::string_view::npos || nameEnd < nameStart ||
+        text.size() < nameEnd + 4)
         return std::nullopt;
+    const auto name = text.substr(nameStart, nameEnd - nameStart);
     text.remove_prefix(nameEnd + 3); // ") S"
 
     // Numbered as in proc(5), where the parent is the fourth.
@@ -33,6 +36,7 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
         field[number] = *value;
     }
     return ProcStat{
+        .name = QByteArray(name.data(), static_cast<qsizetype>(name.size())),
         .parentPid = static_cast<qint32>(field[ppid]),
         .flags = static_cast<quint32>(field[flags]),
         .cpuTicks = static_cast<quint64>(field[utime]) + static_cast<quint64>(field[stime]),

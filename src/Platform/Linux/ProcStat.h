@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <optional>
 #include <string_view>
 
 /// The fields of `/proc/N/stat` (proc(5)) that the process table uses.
 struct ProcStat {
+    QByteArray name; ///< as in `/proc/N/comm`
     qint32 parentPid = 0;
     quint32 flags = 0;    ///< the kernel's PF_ bits
     quint64 cpuTicks = 0; ///< utime + stime, in clock ticks
