@@ -29,11 +29,11 @@ AppDelegate::~AppDelegate() {
 void AppDelegate::applicationDidFinishLaunching() {
     m_model.start();
     m_messages.start();
+    applyActivationPolicy();
+    openMainWindow(); // first: its frame is drawn while the rest is made
     menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
     QObject::connect(menuBar.get(), &MenuBarController::settingsRequested, menuBar.get(),
                      [this] { openSettings(); });
-    applyActivationPolicy();
-    openMainWindow();
     if (m_preferences.showWidgetOnLaunch())
         m_widget.show(m_model);
     registerLoginItemIfFirstLaunch();
