@@ -11,7 +11,6 @@
 #include "UI/Kit/ThemeFollower.h"
 
 #include <QIcon>
-#include <QRegularExpression>
 #include <QStyleFactory>
 
 namespace {
@@ -19,8 +18,8 @@ namespace {
 /// Where this program's windows appear, so that two displays of one user are told apart. ":0.1" is a screen
 /// of the display ":0".
 QString displayName() {
-    static const QRegularExpression screen(QStringLiteral("(:[0-9]+)\\.[0-9]+$"));
-    const QString display = qEnvironmentVariable("DISPLAY").replace(screen, QStringLiteral("\\1"));
+    const QString screen = qEnvironmentVariable("DISPLAY");
+    const QString display = screen.left(screen.indexOf(u'.', screen.lastIndexOf(u':')));
     return qEnvironmentVariable("WAYLAND_DISPLAY") + u'\n' + display;
 }
 
