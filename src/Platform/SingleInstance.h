@@ -3,6 +3,7 @@
 #include <QObject>
 
 class QLocalServer;
+class QLocalSocket;
 
 /// At most one running program per user and display. The first listens on a socket in the user's runtime
 /// folder; a later one finds it, asks it to come forward, and ends.
@@ -22,6 +23,7 @@ Q_SIGNALS:
 
 private:
     bool askRunningOne() const;
+    void hearOut(QLocalSocket* caller);
 
     QString m_socket;
     QLocalServer* m_server;

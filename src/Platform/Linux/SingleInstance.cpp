@@ -12,6 +12,12 @@
 namespace {
 
 constexpr int answerMs = 1000;
+constexpr qint64 longestToken = 1024;
+
+/// What a Wayland launcher gives the program that it starts: the right to take the keyboard, once. Qt looks
+/// for it when a window is to come forward. It was given for the second start, but the first one's window is
+/// to come.
+constexpr const char* activationToken = "XDG_ACTIVATION_TOKEN";
 
 /// Qt finds none where $XDG_RUNTIME_DIR is another user's, as after su(1), and the one that it would then
 /// make in the temporary folder is taken: the user's own cache serves as well.
@@ -43,9 +49,16 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server->nextPendingConnection()) {
             connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            Q_EMIT startedAgain();
+            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { hearOut(caller); });
         }
     });
+}
+
+void SingleInstance::hearOut(QLocalSocket* caller) {
+    const QByteArray token = caller->read(longestToken);
+    if (!token.isEmpty())
+        qputenv(activationToken, token);
+    Q_EMIT startedAgain();
 }
 
 bool SingleInstance::claim() {
@@ -63,5 +76,11 @@ bool SingleInstance::claim() {
 bool SingleInstance::askRunningOne() const {
     QLocalSocket socket;
     socket.connectToServer(m_socket);
-    return socket.waitForConnected(answerMs);
+    if (!socket.waitForConnected(answerMs))
+        return false;
+    socket.write(qgetenv(activationToken));
+    socket.disconnectFromServer();
+    if (socket.state() != QLocalSocket::UnconnectedState)
+        socket.waitForDisconnected(answerMs);
+    return true;
 }
