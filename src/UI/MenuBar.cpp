@@ -112,6 +112,7 @@ void MenuBarController::togglePopover() {
 }
 
 void MenuBarController::openMainWindow() {
-    m_desktop.popover->close();
+    // In this order: the popover has the keyboard, and may pass it on only as long as it is there.
     MainWindowFinder::open(*m_desktop.application, MainWindowFinder::Fallback::anyWindow);
+    m_desktop.popover->close();
 }
