@@ -1,19 +1,36 @@
 #include "Platform/Linux/Desktop/LinuxPopover.h"
 
+#include "Platform/Linux/Desktop/WaylandWindow.h"
+
 #include <QCursor>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr int gap = 4;
 constexpr int sameClickMs = 250;
+/// Where the keyboard follows the pointer, other windows have it while the pointer is on its way here.
+constexpr auto patience = 1s;
+
+constexpr Qt::WindowFlags popUp = Qt::Popup | Qt::FramelessWindowHint;
+constexpr Qt::WindowFlags smallWindow = Qt::Tool | Qt::FramelessWindowHint;
 
 } // namespace
+
+LinuxPopover::LinuxPopover(QObject* parent)
+    : Popover(parent) {
+    m_forsaken.setSingleShot(true);
+    connect(&m_forsaken, &QTimer::timeout, this, &LinuxPopover::close);
+}
 
 LinuxPopover::~LinuxPopover() {
     delete m_window;
@@ -21,7 +38,7 @@ LinuxPopover::~LinuxPopover() {
 
 void LinuxPopover::setContent(QWidget* content, QSize size) {
     delete m_window;
-    m_window = new QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint);
+    m_window = new QWidget(nullptr, popUp);
     m_window->setWindowTitle(QGuiApplication::applicationDisplayName());
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_window->setFixedSize(size);
@@ -32,6 +49,10 @@ void LinuxPopover::setContent(QWidget* content, QSize size) {
 }
 
 void LinuxPopover::show(QRect anchor) {
+    const bool besideTray = anchor.isEmpty() && WaylandWindow::isWayland();
+    const Qt::WindowFlags flags = besideTray ? smallWindow : popUp;
+    if (m_window->windowFlags() != flags)
+        m_window->setWindowFlags(flags);
     m_window->move(place(anchor));
     m_window->show();
     m_window->raise();
@@ -48,22 +69,49 @@ bool LinuxPopover::isShown() const {
 }
 
 bool LinuxPopover::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_window && event->type() == QEvent::Hide)
-        m_sinceClosed.start();
+    if (watched == m_window)
+        filterOwnWindow(event);
     return Popover::eventFilter(watched, event);
 }
 
-/// Below the anchor where there is room, else above it; always whole on the anchor's screen.
+/// What the window system and Qt do for a pop-up is done here for the small window.
+void LinuxPopover::filterOwnWindow(QEvent* event) {
+    const bool isPopUp = m_window->windowType() == Qt::Popup;
+    switch (event->type()) {
+    case QEvent::Hide:
+        m_sinceClosed.start();
+        m_forsaken.stop();
+        break;
+    case QEvent::WindowActivate:
+        m_forsaken.stop();
+        break;
+    case QEvent::WindowDeactivate:
+        if (!isPopUp)
+            m_forsaken.start(patience);
+        break;
+    case QEvent::KeyPress:
+        if (!isPopUp && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
+            close();
+        break;
+    default:
+        break;
+    }
+}
+
+/// Below the anchor where there is room, else above it; always whole on the anchor's screen. A Wayland
+/// compositor alone knows where the room ends, and moves what goes beyond.
 QPoint LinuxPopover::place(QRect anchor) const {
     if (anchor.isEmpty())
         anchor = QRect(QCursor::pos(), QSize(1, 1));
+    const QSize size = m_window->size();
+    const QPoint below(anchor.center().x() - size.width() / 2, anchor.bottom() + 1 + gap);
+    if (WaylandWindow::isWayland())
+        return below;
     const QScreen* screen = QGuiApplication::screenAt(anchor.center());
     const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    const QSize size = m_window->size();
-    int y = anchor.bottom() + 1 + gap;
-    if (y + size.height() > room.bottom())
-        y = anchor.top() - gap - size.height();
-    const int x = anchor.center().x() - size.width() / 2;
-    return {std::clamp(x, room.left() + gap, std::max(room.left() + gap, room.right() - size.width() - gap)),
+    const bool fits = below.y() + size.height() <= room.bottom();
+    const int y = fits ? below.y() : anchor.top() - gap - size.height();
+    return {std::clamp(below.x(), room.left() + gap,
+                       std::max(room.left() + gap, room.right() - size.width() - gap)),
             std::clamp(y, room.top(), std::max(room.top(), room.bottom() - size.height()))};
 }

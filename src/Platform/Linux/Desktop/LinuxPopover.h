@@ -4,14 +4,17 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
-/// A pop-up window: the window system closes it on an outside click, Qt on Escape.
+/// A pop-up window: the window system closes it on an outside click, Qt on Escape. A Wayland compositor lets
+/// pop up only what belongs to a window of ours that was clicked; beside a tray, which is none, the popover
+/// is a small window of its own instead, and the compositor places it.
 class LinuxPopover : public Popover {
     Q_OBJECT
 
 public:
-    using Popover::Popover;
+    explicit LinuxPopover(QObject* parent = nullptr);
     ~LinuxPopover() override;
 
     void setContent(QWidget* content, QSize size) override;
@@ -25,8 +28,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void filterOwnWindow(QEvent* event);
     QPoint place(QRect anchor) const;
 
     QPointer<QWidget> m_window;
     QElapsedTimer m_sinceClosed;
+    QTimer m_forsaken;
 };

@@ -1,5 +1,7 @@
 #include "Platform/Linux/Desktop/LinuxStatusItem.h"
 
+#include "Platform/Linux/Desktop/WaylandWindow.h"
+
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -7,7 +9,9 @@ using namespace std::chrono_literals;
 LinuxStatusItem::LinuxStatusItem(QObject* parent)
     : StatusItem(parent) {
     connect(&m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger)
+        // A Wayland tray that draws no menus asks for ours, which could not pop up there.
+        const bool isMenuMissing = reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
+        if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
             Q_EMIT clicked();
     });
     connect(&m_pill, &StatusPill::clicked, this, &StatusItem::clicked);

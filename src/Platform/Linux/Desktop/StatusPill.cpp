@@ -1,12 +1,14 @@
 #include "Platform/Linux/Desktop/StatusPill.h"
 
+#include "Platform/Linux/Desktop/WaylandWindow.h"
 #include "Platform/Linux/Desktop/X11Window.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -49,6 +51,10 @@ void StatusPill::fit() {
     const int content =
         m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
     const QSize wanted(content + 2 * padding, pillHeight);
+    if (WaylandWindow::isWayland()) {
+        setFixedSize(wanted); // a compositor that tiles its windows lets those of one size float
+        return;
+    }
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     setGeometry(
         QRect(QPoint(room.right() + 1 - screenMargin - wanted.width(), room.top() + screenMargin), wanted));
@@ -71,8 +77,21 @@ void StatusPill::paintEvent(QPaintEvent*) {
 }
 
 void StatusPill::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::RightButton && m_menu)
-        m_menu->popup(event->globalPosition().toPoint());
+    m_grip = event->position().toPoint();
+    if (event->button() != Qt::RightButton || !m_menu)
+        return;
+    // Without a parent of its own it would belong to the window that has the keyboard, and on Wayland be
+    // there.
+    m_menu->winId();
+    m_menu->windowHandle()->setTransientParent(windowHandle());
+    m_menu->popup(event->globalPosition().toPoint());
+}
+
+void StatusPill::mouseMoveEvent(QMouseEvent* event) {
+    const int distance = (event->position().toPoint() - m_grip).manhattanLength();
+    const bool isDrag = event->buttons() & Qt::LeftButton && distance >= QApplication::startDragDistance();
+    if (isDrag && WaylandWindow::isWayland())
+        windowHandle()->startSystemMove();
 }
 
 void StatusPill::mouseReleaseEvent(QMouseEvent* event) {
