@@ -1,6 +1,7 @@
 #include "Platform/Linux/Desktop/LinuxPopover.h"
 
 #include "Platform/Linux/Desktop/WaylandWindow.h"
+#include "Platform/Linux/Desktop/X11Window.h"
 
 #include <QCursor>
 #include <QEvent>
@@ -50,13 +51,16 @@ void LinuxPopover::setContent(QWidget* content, QSize size) {
 
 void LinuxPopover::show(QRect anchor) {
     const bool besideTray = anchor.isEmpty() && WaylandWindow::isWayland();
-    const Qt::WindowFlags flags = besideTray ? smallWindow : popUp;
+    const bool cannotPopUp = besideTray || WaylandWindow::isXWayland();
+    const Qt::WindowFlags flags = cannotPopUp ? smallWindow : popUp;
     if (m_window->windowFlags() != flags)
         m_window->setWindowFlags(flags);
     m_window->move(place(anchor));
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
+    if (cannotPopUp)
+        X11Window::activate(m_window);
     m_window->setFocus(); // no control of the content looks chosen before Tab picks one
 }
 

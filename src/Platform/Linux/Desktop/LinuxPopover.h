@@ -8,8 +8,9 @@
 #include <QWidget>
 
 /// A pop-up window: the window system closes it on an outside click, Qt on Escape. A Wayland compositor lets
-/// pop up only what belongs to a window of ours that was clicked; beside a tray, which is none, the popover
-/// is a small window of its own instead, and the compositor places it.
+/// pop up only what belongs to a window of ours that was clicked, and keeps from an X11 program what is done
+/// elsewhere. Beside a tray, and under XWayland, the popover is a small window of its own instead, which
+/// closes when the keyboard goes elsewhere.
 class LinuxPopover : public Popover {
     Q_OBJECT
 

@@ -10,4 +10,9 @@ inline bool isWayland() {
     return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
+/// X11 in the session of a compositor, which tells us of clicks and keys in our own windows alone.
+inline bool isXWayland() {
+    return QGuiApplication::platformName() == u"xcb" && qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
 } // namespace WaylandWindow
