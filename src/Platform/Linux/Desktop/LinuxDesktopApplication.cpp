@@ -1,10 +1,32 @@
 #include "Platform/Linux/Desktop/LinuxDesktopApplication.h"
 
+#include "Platform/Linux/Desktop/WaylandWindow.h"
 #include "Platform/Linux/Desktop/X11Window.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QTimer>
 #include <QWidget>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How long a compositor may take to bring a window forward.
+constexpr auto patience = 500ms;
+
+/// A Wayland compositor may refuse to bring a window forward or to unminimize it. One that is opened anew it
+/// shows.
+void openAnewUnlessActive(QWidget* window) {
+    if (!window->isVisible() || window->isActiveWindow() || QApplication::activeModalWidget())
+        return;
+    window->hide();
+    window->show();
+}
+
+} // namespace
 
 LinuxDesktopApplication::LinuxDesktopApplication() {
     qApp->installEventFilter(this);
@@ -26,6 +48,8 @@ void LinuxDesktopApplication::bringForward(QWidget* window) {
     window->raise();
     window->activateWindow();
     X11Window::activate(window);
+    if (WaylandWindow::isWayland())
+        QTimer::singleShot(patience, window, [window] { openAnewUnlessActive(window); });
 }
 
 void LinuxDesktopApplication::setActivationPolicy(ActivationPolicy policy) {

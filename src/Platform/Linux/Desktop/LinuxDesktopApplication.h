@@ -5,7 +5,7 @@
 #include <QObject>
 
 /// Windows through Qt, their task bar entries through the window manager. A Wayland compositor decides for
-/// itself what comes to the front and what its task bar lists.
+/// itself what its task bar lists and what comes to the front; a window that it leaves behind is opened anew.
 class LinuxDesktopApplication : public QObject, public DesktopApplication {
     Q_OBJECT
 
