@@ -3,12 +3,16 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <chrono>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -26,6 +30,13 @@ struct SingleInstanceTest : testing::Test {
         qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
     }
     ~SingleInstanceTest() override { qputenv("XDG_RUNTIME_DIR", before); }
+
+    static bool isCalled(const SingleInstance& instance) {
+        QEventLoop loop;
+        QObject::connect(&instance, &SingleInstance::startedAgain, &loop, &QEventLoop::quit);
+        QTimer::singleShot(std::chrono::seconds(10), &loop, [&loop] { loop.exit(1); });
+        return loop.exec() == 0;
+    }
 };
 
 } // namespace
@@ -39,8 +50,23 @@ TEST_F(SingleInstanceTest, OnePerDisplayAndTheSecondCallsTheFirst) {
     EXPECT_TRUE(first.claim());
     EXPECT_TRUE(otherDisplay.claim());
     EXPECT_FALSE(second.claim());
+    EXPECT_TRUE(isCalled(first));
     QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SingleInstanceTest, TheSecondHandsOnItsRightToComeForward) {
+    constexpr const char* token = "XDG_ACTIVATION_TOKEN";
+    SingleInstance first(u"\n:0"_s);
+    ASSERT_TRUE(first.claim());
+    for (const QByteArray& given : {QByteArray("launcher-1"), QByteArray()}) {
+        qputenv(token, given);
+        EXPECT_FALSE(SingleInstance(u"\n:0"_s).claim());
+        qunsetenv(token);
+        EXPECT_TRUE(isCalled(first));
+        EXPECT_EQ(qgetenv(token), given);
+        qunsetenv(token);
+    }
 }
 
 TEST_F(SingleInstanceTest, AnotherAccountHasARuntimeFolderOfItsOwn) {
