@@ -1,6 +1,8 @@
 #include "Core/ActionLogFile.h"
 #include "Core/ActionLogReader.h"
 #include "Core/Iso8601.h"
+#include "support/Each.h"
+#include "support/Files.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -15,16 +17,10 @@ struct ActionLogTest : testing::Test {
     TemporaryHome home;
     QString file = home.path(u"Library/Logs/Tavrin/actions.log"_s);
 
-    QByteArray written() const {
-        QFile log(file);
-        return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray("missing");
-    }
+    QByteArray written() const { return contentOf(file); }
     QStringList details(const QByteArray& content) const {
         home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, content);
-        QStringList result;
-        for (const LoggedAction& action : ActionLogReader::read())
-            result.append(action.detail);
-        return result;
+        return each(ActionLogReader::read(), &LoggedAction::detail);
     }
     static ActionLogEntry entry(const QString& detail, qint64 seconds = 1'794'839'023) {
         return {.id = QUuid::createUuid(),

@@ -1,19 +1,16 @@
-#include "AppModel.h"
-#include "support/FakePlaces.h"
-#include "support/FakePlatform.h"
-#include "support/ScriptedTools.h"
-#include "support/TemporaryHome.h"
-#include "support/TemporarySettings.h"
-
-#include <gtest/gtest.h>
+#include "Core/ReliefFixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// A model whose tools are scripted: `du` finds 2 MiB in the npm folder and 1 MiB in the logs.
-class AppModelCleanupTest : public testing::Test {
-protected:
+struct AppModelCleanupTest : ReliefTest {
+    QString npm = home.makeFolder(u".npm"_s);
+    QString logs = home.makeFolder(u"Library/Logs"_s);
+    QString failing = u"nothing"_s;
+    std::shared_ptr<FakePlaces> places = fakes.places;
+
     AppModelCleanupTest() {
         places->elsewhere[u"/tmp"_s] = {home.path(u"no such folder"_s)};
         for (const CacheTarget& target : CacheTarget::defaults()) {
@@ -22,23 +19,14 @@ protected:
                     places->elsewhere[path] = {home.path(path.mid(2))};
             }
         }
-        tools->answer = [npm = npm, logs = logs, this](const ToolRequest& request) {
+        tools->answer = [this](const ToolRequest& request) {
             if (request.launchPath == u"/usr/bin/du") {
                 const QString path = request.arguments.last();
                 return ScriptedTools::exited(0, path == npm ? "2048 x" : path == logs ? "1024 x" : "0 x");
             }
             return ScriptedTools::exited(request.arguments.last().contains(failing) ? 1 : 0);
         };
-        model = std::make_unique<AppModel>(fakes.platform(), settings.preferences);
     }
-
-    QStringList logged() const {
-        QStringList lines;
-        for (const ActionLogEntry& entry : model->actionLog())
-            lines.append(entry.detail + (entry.success ? u" ok"_s : u" fail"_s));
-        return lines;
-    }
-
     CacheTarget target(const QString& name) const {
         for (const CacheTarget& one : model->cacheTargets()) {
             if (one.name == name)
@@ -46,16 +34,10 @@ protected:
         }
         return {};
     }
-
-    TemporaryHome home;
-    QString npm = home.makeFolder(u".npm"_s);
-    QString logs = home.makeFolder(u"Library/Logs"_s);
-    QString failing = u"nothing"_s;
-    FakePlatform fakes;
-    std::shared_ptr<ScriptedTools> tools = fakes.tools;
-    std::shared_ptr<FakePlaces> places = fakes.places;
-    TemporarySettings settings;
-    std::unique_ptr<AppModel> model;
+    void releaseAll() {
+        for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
+            tools->release(request.arguments.last());
+    }
 };
 
 TEST_F(AppModelCleanupTest, CleansOnlyWhatWasMeasuredAndLogsEachTarget) {
@@ -68,15 +50,15 @@ TEST_F(AppModelCleanupTest, CleansOnlyWhatWasMeasuredAndLogsEachTarget) {
     failing = u"'"_s + logs;
     const auto cleaned = QCoro::waitFor(model->cleanAll());
     EXPECT_EQ(cleaned, std::pair(1, quint64(0)));
-    EXPECT_EQ(logged(), QStringList({u"[batch] User logs fail"_s, u"[batch] npm / pnpm / yarn ok"_s}));
+    EXPECT_EQ(logged(),
+              QStringList({u"clean [batch] User logs fail"_s, u"clean [batch] npm / pnpm / yarn ok"_s}));
     EXPECT_FALSE(model->isCleaning());
     EXPECT_FALSE(model->isScanning());
 }
 
 TEST_F(AppModelCleanupTest, CleansOneTargetAndMeasuresAgain) {
     QCoro::waitFor(model->clean(target(u"npx cache"_s)));
-    EXPECT_EQ(logged(), QStringList(u"npx cache ok"_s));
-    EXPECT_EQ(model->actionLog().first().kind, ActionLogEntry::Kind::clean);
+    EXPECT_EQ(logged(), QStringList(u"clean npx cache ok"_s));
     EXPECT_EQ(target(u"npx cache"_s).lastScanned, fakes.clock->wall);
 }
 
@@ -112,8 +94,7 @@ TEST_F(AppModelCleanupTest, AnOlderScanNeverReplacesANewerOne) {
     QCoro::waitFor(model->rescanCaches());
     const auto newest = model->cacheTargets();
     tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "99999 x"); };
-    for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
-        tools->release(request.arguments.last());
+    releaseAll();
     EXPECT_TRUE(older.isReady());
     EXPECT_EQ(model->cacheTargets(), newest);
 }
@@ -123,8 +104,7 @@ TEST_F(AppModelCleanupTest, MayEndWhileToolsRun) {
     auto scan = model->rescanCaches();
     auto cleaning = model->clean(target(u"Docker"_s));
     model.reset();
-    for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
-        tools->release(request.arguments.last());
+    releaseAll();
     EXPECT_TRUE(scan.isReady() && cleaning.isReady());
 }
 

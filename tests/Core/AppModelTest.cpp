@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/Observe.h"
+#include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/TemporarySettings.h"
 
@@ -35,10 +36,8 @@ TEST_F(AppModelTest, StartTicksOnceAndPublishesSortedAndGrouped) {
     EXPECT_EQ(model.systemSample(), SystemSample::zero());
     EXPECT_EQ(model.timerInterval(), -1);
     model.start();
-    QList<qint32> pids;
-    for (const ProcSample& sample : model.processes())
-        pids.append(sample.pid);
-    EXPECT_EQ(pids, (QList<qint32>{9, 4, 2, 3})); // equal sizes keep the listing's order
+    // Equal sizes keep the listing's order.
+    EXPECT_EQ(each(model.processes(), &ProcSample::pid), (QList<qint32>{9, 4, 2, 3}));
     ASSERT_EQ(model.groups().size(), 6);
     EXPECT_EQ(model.groups()[0].rssBytes, 500U);
     EXPECT_EQ(model.systemHistory().size(), 1);
@@ -94,15 +93,12 @@ TEST_F(AppModelTest, AlertsFollowTheTick) {
 
 TEST_F(AppModelTest, TimerFollowsThePollIntervalAndNeverSpins) {
     model.start();
-    struct Case {
-        double stored;
-        double interval;
-    };
-    const Case cases[] = {{2.005, 2}, {5, 5}, {0, 0.1}, {-7, 0.1}, {1e300, 86400}, {0.25, 0.25}};
-    for (const Case& c : cases) {
-        prefs.pollIntervalSeconds.set(c.stored);
+    const std::pair<double, double> cases[] = {{2.005, 2}, {5, 5},         {0, 0.1},
+                                               {-7, 0.1},  {1e300, 86400}, {0.25, 0.25}};
+    for (const auto& [stored, interval] : cases) {
+        prefs.pollIntervalSeconds.set(stored);
         QCoreApplication::sendPostedEvents();
-        EXPECT_DOUBLE_EQ(model.timerInterval(), c.interval) << c.stored;
+        EXPECT_DOUBLE_EQ(model.timerInterval(), interval) << stored;
     }
 }
 

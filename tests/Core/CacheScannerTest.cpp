@@ -1,8 +1,7 @@
 #include "Core/CacheScanner.h"
 
-#include "support/FakePlaces.h"
+#include "support/Each.h"
 #include "support/FakePlatform.h"
-#include "support/ScriptedTools.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -35,10 +34,7 @@ protected:
 };
 
 TEST_F(CacheScannerTest, ParsesSizesAndNeverFaults) {
-    const struct {
-        const char* text;
-        quint64 bytes;
-    } cases[] = {
+    const std::pair<const char*, quint64> cases[] = {
         {"1.5GB", 1500000000},
         {"12.3MB", 12300000},
         {"512B", 512},
@@ -62,8 +58,8 @@ TEST_F(CacheScannerTest, ParsesSizesAndNeverFaults) {
         {"18446744073709549568", 18446744073709549568U},
         {"twelve MB", 0},
     };
-    for (const auto& one : cases)
-        EXPECT_EQ(CacheScanner::parseSize(QString::fromUtf8(one.text)), one.bytes) << one.text;
+    for (const auto& [text, bytes] : cases)
+        EXPECT_EQ(CacheScanner::parseSize(QString::fromUtf8(text)), bytes) << text;
 }
 
 TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
@@ -87,19 +83,16 @@ TEST_F(CacheScannerTest, AsksForOldFilesByTheTargetsExactName) {
     const QString root = home.makeFolder(u"old"_s);
     for (const auto& path : {u"/tmp"_s, u"~/Downloads"_s, u"~/Desktop"_s})
         places->elsewhere[path] = {root};
-    const struct {
-        QString name;
-        QString command;
-    } cases[] = {
+    const std::pair<QString, QString> cases[] = {
         {u"Old /tmp (>7d)"_s, u"/usr/bin/find %1 -type f -mtime +7 -print0"_s},
         {u"Old Downloads (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -print0"_s},
         {u"Old Desktop screenshots (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -print0"_s},
         {u"old downloads (>30d)"_s, u"/usr/bin/du -sk -x %1"_s},
     };
-    for (const auto& one : cases) {
+    for (const auto& [name, command] : cases) {
         tools->requests.clear();
-        scanned({.name = one.name, .paths = {root}});
-        EXPECT_EQ(tools->commandLines(), QStringList(one.command.arg(root)));
+        scanned({.name = name, .paths = {root}});
+        EXPECT_EQ(tools->commandLines(), QStringList(command.arg(root)));
     }
 }
 
@@ -190,10 +183,8 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
     EXPECT_TRUE(tools->release(home.path(u"hangs/1"_s)));
     EXPECT_TRUE(tools->release(home.path(u"hangs/2"_s)));
     EXPECT_EQ(progress.last(), (CleanupProgress{{}, 4, 4}));
-    QStringList order;
-    for (const CacheTarget& target : QCoro::waitFor(scan))
-        order.append(target.name);
-    EXPECT_EQ(order, QStringList({u"largest"_s, u"equal two"_s, u"equal one"_s, u"hangs"_s}));
+    EXPECT_EQ(each(QCoro::waitFor(scan), &CacheTarget::name),
+              QStringList({u"largest"_s, u"equal two"_s, u"equal one"_s, u"hangs"_s}));
 }
 
 } // namespace

@@ -39,19 +39,15 @@ TEST_F(CleanerTest, EmptiesAFolderBetweenTwoMeasurements) {
     const QStringList commands = {u"/usr/bin/du -sk -x "_s + folder,
                                   u"/bin/sh -lc rm -rf -- "_s + quoted + u"/* "_s + quoted + u"/.[!.]*"_s,
                                   u"/usr/bin/du -sk -x "_s + folder};
-    const struct {
-        QByteArrayList kilobytes;
-        int status;
-        CleanResult result;
-    } cases[] = {
+    const std::tuple<QByteArrayList, int, CleanResult> cases[] = {
         {{"100", "4"}, 0, {true, 96 * 1024}},
         {{"100", "40"}, 1, {false, 60 * 1024}},
         {{"4", "100"}, 0, {true, 0}},
         {{"", ""}, 0, {true, 0}},
     };
-    for (const auto& one : cases) {
-        script(one.kilobytes, one.status);
-        EXPECT_EQ(clean({.name = u"x"_s, .paths = {folder}}), one.result);
+    for (const auto& [kilobytes, status, result] : cases) {
+        script(kilobytes, status);
+        EXPECT_EQ(clean({.name = u"x"_s, .paths = {folder}}), result);
         EXPECT_EQ(tools->commandLines(), commands);
     }
 }
@@ -70,19 +66,16 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
 
 TEST_F(CleanerTest, DeletesOldFilesWithoutLookingFirst) {
     const QString missing = home.path(u"missing"_s);
-    const struct {
-        QString name;
-        QString command;
-    } cases[] = {
+    const std::pair<QString, QString> cases[] = {
         {u"Old /tmp (>7d)"_s, u"/usr/bin/find %1 -type f -mtime +7 -delete"_s},
         {u"Old Downloads (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -delete"_s},
         {u"Old Desktop screenshots (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -delete"_s},
     };
-    for (const auto& one : cases) {
+    for (const auto& [name, command] : cases) {
         for (const int status : {0, 1}) {
             script({}, status);
-            EXPECT_EQ(clean({.name = one.name, .paths = {missing}}), (CleanResult{status == 0, 0}));
-            EXPECT_EQ(tools->commandLines(), QStringList(one.command.arg(missing)));
+            EXPECT_EQ(clean({.name = name, .paths = {missing}}), (CleanResult{status == 0, 0}));
+            EXPECT_EQ(tools->commandLines(), QStringList(command.arg(missing)));
         }
     }
 }

@@ -6,9 +6,9 @@
 #include "support/TemporarySettings.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTcpServer>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -29,17 +29,6 @@ QByteArray paddedFeed(qsizetype size) {
     const QByteArray feed = feedNamed(u"new"_s);
     return feed + QByteArray(size - feed.size(), ' ');
 }
-
-/// Counts the passes of the main loop that a waiting user interface would get.
-struct LoopWatch {
-    QTimer timer;
-    int firings = 0;
-
-    LoopWatch() {
-        QObject::connect(&timer, &QTimer::timeout, [this] { ++firings; });
-        timer.start(1);
-    }
-};
 
 const SelfSigned& trusted() {
     static const SelfSigned identity = SelfSigned::make();
@@ -82,6 +71,7 @@ struct FeedFetcherTest : testing::Test {
     void reply(const QByteArray& response) {
         server.answer = [response](QSslSocket& client, const QByteArray&) { client.write(response); };
     }
+    void serve(const QByteArray& feed) { reply(LoopbackServer::response("200 OK", feed)); }
     void replyAndClose(const QByteArray& response) {
         server.answer = [response](QSslSocket& client, const QByteArray&) {
             client.write(response);
@@ -117,73 +107,66 @@ struct FeedFetcherTest : testing::Test {
     QString shown() const { return center->currentMessage().value_or(Message()).id; }
 };
 
-/// Turns the main loop until it is so, for at most ten seconds.
-bool comesTrue(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(10s);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    return condition();
-}
-
 } // namespace
 
 TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesWhatIsOnShow) {
     struct Case {
         const char* name;
         std::function<void()> prepare;
-        const char* shown;
+        QString shown;
         std::chrono::milliseconds limit = 30s;
     };
+    const QString now = u"new"_s;
+    const QString old = u"old"_s;
     const auto response = &LoopbackServer::response;
     const QByteArray good = feedNamed(u"new"_s);
     const QByteArray oneBad = QByteArray(good).replace("[{", "[{\"id\": 1}, {");
     const QByteArray badText = QByteArray(good).replace("title\"", "\xff\"");
     const QUrl plain(u"http://127.0.0.1:%1/"_s.arg(plainServer.serverPort()));
     const Case cases[] = {
-        {"good", [&] { reply(response("200 OK", good, {})); }, "new"},
-        {"another success", [&] { reply(response("203 Fine", good, {})); }, "new"},
-        {"ended by closing", [&] { replyAndClose("HTTP/1.1 200 OK\r\n\r\n" + good); }, "new"},
-        {"cut short", [&] { replyAndClose(response("200 OK", good, {}).chopped(1)); }, "old"},
-        {"304", [&] { reply(response("304 Not Modified", {}, {})); }, "old"},
-        {"404", [&] { reply(response("404 Gone", good, {})); }, "old"},
-        {"500", [&] { reply(response("500 Oops", good, {})); }, "old"},
-        {"no HTTP", [&] { replyAndClose(good); }, "old"},
-        {"one bad message", [&] { reply(response("200 OK", oneBad, {})); }, "old"},
-        {"bad UTF-8", [&] { reply(response("200 OK", badText, {})); }, "old"},
-        {"redirect to plain HTTP", [&] { redirect(plain); }, "old"},
-        {"redirect to a file", [&] { redirect(QUrl(u"file:///etc/hostname"_s)); }, "old"},
-        {"redirect in circles", [&] { redirect(server.url(u"/again"_s)); }, "old"},
-        {"redirect elsewhere", [&] { redirect(otherServer.url(u"/moved"_s)); }, "new"},
-        {"a stranger's certificate",
-         [&] {
-             server.present(SelfSigned::make());
-             reply(response("200 OK", good, {}));
-         },
-         "old"},
-        {"1 MiB", [&] { reply(response("200 OK", paddedFeed(MiB), {})); }, "new"},
-        {"1 MiB and a byte", [&] { reply(response("200 OK", paddedFeed(MiB + 1), {})); }, "old"},
-        {"2 MiB", [&] { reply(response("200 OK", paddedFeed(2 * MiB), {})); }, "old"},
-        {"without end", [&] { pour(); }, "old"},
-        {"dripping", [&] { drip(); }, "old", 600ms},
-        {"silent", [&] { reply({}); }, "old", 600ms},
-        {"nobody there", [&] { server.close(); }, "old"},
+        {"good", [&] { serve(good); }, now},
+        {"another success", [&] { reply(response("203 Fine", good, {})); }, now},
+        {"ended by closing", [&] { replyAndClose("HTTP/1.1 200 OK\r\n\r\n" + good); }, now},
+        {"cut short", [&] { replyAndClose(response("200 OK", good, {}).chopped(1)); }, old},
+        {"304", [&] { reply(response("304 Not Modified", {}, {})); }, old},
+        {"404", [&] { reply(response("404 Gone", good, {})); }, old},
+        {"500", [&] { reply(response("500 Oops", good, {})); }, old},
+        {"no HTTP", [&] { replyAndClose(good); }, old},
+        {"one bad message", [&] { serve(oneBad); }, old},
+        {"bad UTF-8", [&] { serve(badText); }, old},
+        {"redirect to plain HTTP", [&] { redirect(plain); }, old},
+        {"redirect to a file", [&] { redirect(QUrl(u"file:///etc/hostname"_s)); }, old},
+        {"redirect in circles", [&] { redirect(server.url(u"/again"_s)); }, old},
+        {"redirect elsewhere", [&] { redirect(otherServer.url(u"/moved"_s)); }, now},
+        {"a stranger's certificate", [&] { server.present(SelfSigned::make()), serve(good); }, old},
+        {"1 MiB", [&] { serve(paddedFeed(MiB)); }, now},
+        {"1 MiB and a byte", [&] { serve(paddedFeed(MiB + 1)); }, old},
+        {"2 MiB", [&] { serve(paddedFeed(2 * MiB)); }, old},
+        {"without end", [&] { pour(); }, old},
+        {"dripping", [&] { drip(); }, old, 600ms},
+        {"silent", [&] { reply({}); }, old, 600ms},
+        {"nobody there", [&] { server.close(); }, old},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+    int firings = 0; // the passes of the main loop that a waiting user interface would get
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&firings] { ++firings; });
+    timer.start(1);
+    for (const auto& [name, prepare, expected, limit] : cases) {
+        SCOPED_TRACE(name);
         server.present(trusted());
         relay->allow({});
-        reply(response("200 OK", feedNamed(u"old"_s), {}));
+        serve(feedNamed(old));
         QCoro::waitFor(center->refresh());
-        ASSERT_EQ(shown(), u"old"_s);
-        relay->allow({.wholeTransfer = c.limit});
-        c.prepare();
-        LoopWatch watch;
+        ASSERT_EQ(shown(), old);
+        relay->allow({.wholeTransfer = limit});
+        prepare();
+        firings = 0;
         QElapsedTimer elapsed;
         elapsed.start();
         QCoro::waitFor(center->refresh());
-        EXPECT_EQ(shown(), QString::fromLatin1(c.shown));
+        EXPECT_EQ(shown(), expected);
         EXPECT_LT(elapsed.elapsed(), 20'000);
-        EXPECT_GE(watch.firings * 100, elapsed.elapsed());
+        EXPECT_GE(firings * 100, elapsed.elapsed());
     }
     EXPECT_FALSE(plainServer.hasPendingConnections());
     EXPECT_LT(pouredBytes, 16 * MiB); // what fits into buffers, and no more
@@ -226,7 +209,7 @@ TEST_F(FeedFetcherTest, ACenterThatEndsBreaksItsTransfersOff) {
         QObject::connect(&client, &QSslSocket::disconnected, [&isHungUp] { isHungUp = true; });
     };
     center->refresh();
-    ASSERT_TRUE(comesTrue([this] { return !server.requests.isEmpty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !server.requests.isEmpty(); }, 10'000));
     center.reset();
-    EXPECT_TRUE(comesTrue([&isHungUp] { return isHungUp; }));
+    EXPECT_TRUE(QTest::qWaitFor([&isHungUp] { return isHungUp; }, 10'000));
 }

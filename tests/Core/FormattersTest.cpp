@@ -57,10 +57,10 @@ TEST(Formatters, BytesStepBy1024WithAtMostOneDecimal) {
 }
 
 TEST(Formatters, PercentRoundsHalvesAwayFromZero) {
-    EXPECT_EQ(Formatters::percent(12.5), QStringLiteral("13%"));
-    EXPECT_EQ(Formatters::percent(12.49), QStringLiteral("12%"));
-    EXPECT_EQ(Formatters::percent(400), QStringLiteral("400%"));
-    EXPECT_EQ(Formatters::percent(std::numeric_limits<double>::infinity()), QStringLiteral("0%"));
+    const std::pair<double, const char*> cases[] = {
+        {12.5, "13%"}, {12.49, "12%"}, {400, "400%"}, {std::numeric_limits<double>::infinity(), "0%"}};
+    for (const auto& [percent, text] : cases)
+        EXPECT_EQ(Formatters::percent(percent).toStdString(), text) << percent;
 }
 
 TEST(Formatters, TextFromOutsideCannotBreakOrReverseALine) {

@@ -16,17 +16,11 @@ using Result = SignalResult;
 constexpr quint64 MiB = 1 << 20;
 
 QList<qint32> pidsOf(const QList<FreeRamPreview>& candidates) {
-    QList<qint32> pids;
-    for (const FreeRamPreview& candidate : candidates)
-        pids.append(candidate.pid);
-    return pids;
+    return each(candidates, &FreeRamPreview::pid);
 }
 
 QStringList outcomesOf(const FreeRAMResult& result) {
-    QStringList outcomes;
-    for (const FreeRAMResult::Record& record : result.perPid)
-        outcomes.append(rawValue(record.outcome));
-    return outcomes;
+    return each(result.perPid, [](const FreeRAMResult::Record& record) { return rawValue(record.outcome); });
 }
 
 } // namespace
@@ -72,28 +66,23 @@ TEST_F(FreeRAMTest, NoThresholdIsTooWild) {
 }
 
 TEST_F(FreeRAMTest, EveryOutcome) {
-    struct Row {
-        FakeSignals::Script script;
-        const char* outcome;
-    };
-    const QList<Row> rows = {
-        {{.endsOnTerminate = true}, "quit"},
-        {{}, "forced"},
-        {{.terminate = Result::notPermitted}, "denied"},
-        {{.terminate = Result::other}, "forced"},
-        {{.terminate = Result::other, .kill = Result::other}, "ignored"},
-        {{.kill = Result::notPermitted}, "denied"},
-        {{.kill = Result::noSuchProcess}, "quit"},
-        {{.kill = Result::other, .probe = Result::other}, "ignored"},
+    const std::pair<FakeSignals::Script, QString> rows[] = {
+        {{.endsOnTerminate = true}, u"quit"_s},
+        {{}, u"forced"_s},
+        {{.terminate = Result::notPermitted}, u"denied"_s},
+        {{.terminate = Result::other}, u"forced"_s},
+        {{.terminate = Result::other, .kill = Result::other}, u"ignored"_s},
+        {{.kill = Result::notPermitted}, u"denied"_s},
+        {{.kill = Result::noSuchProcess}, u"quit"_s},
+        {{.kill = Result::other, .probe = Result::other}, u"ignored"_s},
     };
     QList<qint32> pids;
-    QStringList expected;
-    for (const Row& row : rows) {
+    for (const auto& [script, outcome] : rows) {
         pids.append(static_cast<qint32>(100 + pids.size()));
-        signalSender->start(pids.last(), row.script);
-        expected.append(QString::fromLatin1(row.outcome));
+        signalSender->start(pids.last(), script);
     }
-    EXPECT_EQ(outcomesOf(QCoro::waitFor(model->freeRAM(pids))), expected);
+    EXPECT_EQ(outcomesOf(QCoro::waitFor(model->freeRAM(pids))),
+              each(rows, [](const auto& row) { return row.second; }));
 }
 
 TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {

@@ -1,21 +1,13 @@
 #include "LoopbackServer.h"
 
-#include <QFile>
+#include "support/Files.h"
+
 #include <QProcess>
 #include <QSslConfiguration>
 #include <QTemporaryDir>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 SelfSigned SelfSigned::make() {
     const QTemporaryDir folder;

@@ -1,5 +1,6 @@
 #include "Core/MCPInspector.h"
 #include "Core/MCPConfiguration.h"
+#include "support/Each.h"
 #include "support/TemporaryHome.h"
 
 #include <QRandomGenerator>
@@ -51,12 +52,7 @@ struct MCPConfigurationTest : testing::Test {
     WorkingFolder project{home.makeFolder(u"project"_s)};
     MCPConfiguration configuration;
 
-    QStringList names() {
-        QStringList result;
-        for (const ConfiguredServer& server : configuration.readConfigured())
-            result.append(server.name);
-        return result;
-    }
+    QStringList names() { return each(configuration.readConfigured(), &ConfiguredServer::name); }
 };
 
 } // namespace
@@ -108,10 +104,7 @@ TEST(MCPInspectorTest, OrphansAreThoseWithoutAClaudeHost) {
                                          process(5, u"e-mcp"_s, u"e"_s, 99, 300),
                                          process(6, u"f-mcp"_s, u"f"_s, 11, 100)};
     const MCPInspector::Report report{.configured = {}, .live = MCPInspector::detectLive(processes)};
-    QList<qint32> order;
-    for (const LiveServer& server : report.live)
-        order.append(server.pid);
-    EXPECT_EQ(order, (QList<qint32>{5, 2, 6, 1, 4, 3}));
+    EXPECT_EQ(each(report.live, &LiveServer::pid), (QList<qint32>{5, 2, 6, 1, 4, 3}));
     EXPECT_EQ(report.orphanCount(), 3);
     EXPECT_EQ(report.orphanBytes(), 500U);
     EXPECT_EQ(report.live[0].parentName, u"(launchd or gone)"_s);

@@ -1,5 +1,6 @@
 #include "Core/MessageCenter.h"
 
+#include "support/Each.h"
 #include "support/ScriptedFeed.h"
 #include "support/TemporarySettings.h"
 
@@ -36,30 +37,18 @@ Message message(const QString& id, Severity severity = Severity::info) {
     return {.id = id, .severity = severity, .title = u"title"_s, .body = u"body"_s};
 }
 
-Message versioned(const QString& minVersion, const QString& maxVersion) {
-    Message result = message(u"m"_s);
-    if (!minVersion.isEmpty())
-        result.minVersion = minVersion;
-    if (!maxVersion.isEmpty())
-        result.maxVersion = maxVersion;
-    return result;
+Message versioned(const std::optional<QString>& minVersion, const std::optional<QString>& maxVersion) {
+    return {.id = u"m"_s, .minVersion = minVersion, .maxVersion = maxVersion};
 }
 
 Message targeted(Target target) {
-    Message result = message(rawValue(target));
-    result.target = target;
-    return result;
+    return {.id = rawValue(target), .target = target};
 }
 
 } // namespace
 
 TEST(MessageCenter, ComparesVersionsNumberByNumber) {
-    struct Case {
-        const char* a;
-        const char* b;
-        int result;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, int> cases[] = {
         {"", "", 0},
         {"1.2", "1.2.0", 0},
         {"1.2", "1.10", -1},
@@ -77,21 +66,16 @@ TEST(MessageCenter, ComparesVersionsNumberByNumber) {
         {"99999999999999999999999999", "x", 0},
         {"1.\u0663", "1.3", -1}, // another script's digits are no decimal number
     };
-    for (const Case& c : cases) {
-        const QString a = QString::fromUtf8(c.a);
-        const QString b = QString::fromUtf8(c.b);
-        EXPECT_EQ(MessageCenter::compareVersions(a, b), c.result) << c.a << " and " << c.b;
-        EXPECT_EQ(MessageCenter::compareVersions(b, a), -c.result) << c.b << " and " << c.a;
+    for (const auto& [one, other, result] : cases) {
+        const QString a = QString::fromUtf8(one);
+        const QString b = QString::fromUtf8(other);
+        EXPECT_EQ(MessageCenter::compareVersions(a, b), result) << one << " and " << other;
+        EXPECT_EQ(MessageCenter::compareVersions(b, a), -result) << other << " and " << one;
     }
 }
 
 TEST_F(MessageCenterTest, ChoosesByTargetVersionRankAndPlace) {
-    struct Case {
-        const char* version;
-        QList<Message> messages;
-        const char* shown;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, QList<Message>, const char*> cases[] = {
         {"1", {}, ""},
         {"1", {targeted(Target::macBuild), targeted(Target::windowsBuild)}, ""},
         {"1", {targeted(Target::macBuild), targeted(Target::linuxBuild), targeted(Target::all)}, "linux"},
@@ -108,11 +92,11 @@ TEST_F(MessageCenterTest, ChoosesByTargetVersionRankAndPlace) {
         {"", {versioned({}, u"0.0.0"_s)}, "m"}, // a program without a version is 0.0.0
         {"1", {versioned(u"2"_s, {}), message(u"i"_s)}, "i"},
     };
-    for (const Case& c : cases) {
-        setVersion(QString::fromLatin1(c.version));
-        publish(c.messages);
-        EXPECT_EQ(shown(), QString::fromLatin1(c.shown)) << feedOf(c.messages).data();
-        EXPECT_EQ(center.allMessages(), c.messages);
+    for (const auto& [version, messages, expected] : cases) {
+        setVersion(QString::fromLatin1(version));
+        publish(messages);
+        EXPECT_EQ(shown(), QString::fromLatin1(expected)) << feedOf(messages).data();
+        EXPECT_EQ(center.allMessages(), messages);
     }
 }
 
@@ -138,10 +122,7 @@ TEST_F(MessageCenterTest, DismissalsAreKeptForGoodOrForOneVersion) {
 TEST_F(MessageCenterTest, AnyIdCanBeDismissedAndHidesNoOther) {
     const QStringList ids = {u""_s,    u"a"_s,   u"a/b"_s, u"a\\b"_s,    u"ü € 漢"_s,
                              u"%41"_s, u"[x]"_s, u"k="_s,  u"line\nx"_s, u"x, y; \"quoted\""_s};
-    QList<Message> messages;
-    for (const QString& id : ids)
-        messages.append(message(id));
-    publish(messages);
+    publish(each(ids, [](const QString& id) { return message(id); }));
     for (const QString& id : ids) {
         ASSERT_TRUE(center.currentMessage()) << qPrintable(id);
         EXPECT_EQ(shown(), id);
@@ -155,9 +136,8 @@ TEST_F(MessageCenterTest, AnyIdCanBeDismissedAndHidesNoOther) {
 
 TEST_F(MessageCenterTest, AFailureKeepsWhatWasKnown) {
     publish({message(u"a"_s)});
-    for (const std::optional<QByteArray>& answer :
-         {std::optional<QByteArray>(), std::optional<QByteArray>(""),
-          std::optional<QByteArray>("{\"messages\": [{}]}")}) {
+    const std::optional<QByteArray> answers[] = {{}, "", "{\"messages\": [{}]}"};
+    for (const auto& answer : answers) {
         feed->answer = answer;
         QCoro::waitFor(center.refresh());
         EXPECT_EQ(shown(), u"a"_s);

@@ -1,5 +1,6 @@
 #include "Preferences.h"
 
+#include "support/Files.h"
 #include "support/TemporarySettings.h"
 
 #include <QDir>
@@ -7,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -17,11 +16,6 @@ void write(const QString& path, const QByteArray& text) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_EQ(file.write(text), text.size());
-}
-
-QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -40,13 +34,7 @@ TEST(Preferences, FreshOnesReadTheDefaultsAndWriteNothing) {
 }
 
 TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
-    struct Case {
-        const char* line;
-        double interval;
-        bool paused;
-        MenuBarFormat format;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, double, bool, MenuBarFormat> cases[] = {
         {"pref.pollIntervalSeconds=5", 5, false, MenuBarFormat::both},
         {"pref.pollIntervalSeconds=nan", 2, false, MenuBarFormat::both},
         {"pref.pollIntervalSeconds=inf", 2, false, MenuBarFormat::both},
@@ -60,14 +48,14 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
         {"pref.menuBarFormat=\"Icon only\"", 2, false, MenuBarFormat::iconOnly},
         {"\x01\xff[[[broken", 2, false, MenuBarFormat::both},
     };
-    for (const Case& c : cases) {
+    for (const auto& [line, interval, paused, format] : cases) {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("s.ini"));
-        write(path, QByteArray("[General]\n") + c.line + '\n');
+        write(path, QByteArray("[General]\n") + line + '\n');
         const Preferences prefs(path);
-        EXPECT_EQ(prefs.pollIntervalSeconds(), c.interval) << c.line;
-        EXPECT_EQ(prefs.pauseOnLowPower(), c.paused) << c.line;
-        EXPECT_EQ(prefs.menuBarFormat(), c.format) << c.line;
+        EXPECT_EQ(prefs.pollIntervalSeconds(), interval) << line;
+        EXPECT_EQ(prefs.pauseOnLowPower(), paused) << line;
+        EXPECT_EQ(prefs.menuBarFormat(), format) << line;
     }
 }
 
@@ -78,7 +66,7 @@ TEST(Preferences, ADamagedFileIsKeptBesideAndItsReadableValuesStay) {
     Preferences prefs(place.path);
     EXPECT_TRUE(prefs.pauseOnLowPower());
     prefs.startAtLogin.set(false);
-    EXPECT_EQ(read(place.path + QStringLiteral(".damaged")), damaged);
+    EXPECT_EQ(contentOf(place.path + QStringLiteral(".damaged")), damaged);
     const Preferences again(place.path);
     EXPECT_TRUE(again.pauseOnLowPower());
     EXPECT_FALSE(again.startAtLogin());
@@ -113,7 +101,7 @@ TEST(Preferences, AWriteIsAnnouncedFirstAndOnDiskAtOnce) {
     prefs.pollIntervalSeconds.set(10);
     EXPECT_EQ(seenWhileAnnounced, 2.0);
     EXPECT_EQ(prefs.pollIntervalSeconds(), 10.0);
-    EXPECT_TRUE(read(settings.path).contains("pref.pollIntervalSeconds=10"));
+    EXPECT_TRUE(contentOf(settings.path).contains("pref.pollIntervalSeconds=10"));
 
     prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
     prefs.quickKillPresetsJSON.set("[{\"a\":\"\xc3\xa9, b\"}]");
@@ -126,17 +114,12 @@ TEST(Preferences, AFullDiskLosesNothing) {
     TemporarySettings settings;
     settings.preferences.alertCachesBigGB.set(7);
     settings.preferences.storeQuickKillPresets(QuickKillPreset::defaults());
-    const QByteArray before = read(settings.path);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit tight{.rlim_cur = static_cast<rlim_t>(before.size() / 2), .rlim_max = limit.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tight);
-    settings.preferences.showInDock.set(false);
-    const QByteArray meanwhile = read(settings.path);
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(meanwhile, before);
+    const QByteArray before = contentOf(settings.path);
+    {
+        const FullDisk full(static_cast<rlim_t>(before.size() / 2));
+        settings.preferences.showInDock.set(false);
+    }
+    EXPECT_EQ(contentOf(settings.path), before);
     EXPECT_FALSE(settings.preferences.showInDock());
     settings.preferences.pollIntervalSeconds.set(5);
     const Preferences reread(settings.path);
@@ -161,19 +144,15 @@ TEST(Preferences, TwoWritersKeepEachOthersKeys) {
 TEST(Preferences, HistoryLengthFollowsRetentionAndIntervalWithAFloor) {
     TemporarySettings settings;
     Preferences& prefs = settings.preferences;
-    struct Case {
-        HistoryRetention retention;
-        double interval;
-        int samples;
-    };
-    const Case cases[] = {{HistoryRetention::fiveMin, 2, 150},
-                          {HistoryRetention::fiveMin, 10, 60},
-                          {HistoryRetention::oneHour, 0.25, 7200},
-                          {HistoryRetention::oneHour, -1, 7200},
-                          {HistoryRetention::twentyFive, 7, 214}};
-    for (const Case& c : cases) {
-        prefs.historyRetention.set(c.retention);
-        prefs.pollIntervalSeconds.set(c.interval);
-        EXPECT_EQ(prefs.historyRetentionSamples(), c.samples);
+    using enum HistoryRetention;
+    const std::tuple<HistoryRetention, double, int> cases[] = {{fiveMin, 2, 150},
+                                                               {fiveMin, 10, 60},
+                                                               {oneHour, 0.25, 7200},
+                                                               {oneHour, -1, 7200},
+                                                               {twentyFive, 7, 214}};
+    for (const auto& [retention, interval, samples] : cases) {
+        prefs.historyRetention.set(retention);
+        prefs.pollIntervalSeconds.set(interval);
+        EXPECT_EQ(prefs.historyRetentionSamples(), samples);
     }
 }

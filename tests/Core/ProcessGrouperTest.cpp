@@ -1,18 +1,13 @@
 #include "Core/ProcessGrouper.h"
 #include "Core/PatternMatcher.h"
+#include "support/Each.h"
 
 #include <gtest/gtest.h>
 
 using enum ProcGroup;
 
 TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
-    struct Case {
-        const char* name;
-        const char* path;
-        const char* arguments;
-        ProcGroup group;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*, ProcGroup> cases[] = {
         {"node", "", "@modelcontextprotocol/server-filesystem", agents},
         {"node", "", "server.js", other},
         {"python3", "", "-m foo-mcp", agents},
@@ -41,18 +36,17 @@ TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
         {"\u212Aitty", "", "", terminals}, // the Kelvin sign is an upper-case k
         {"", "", "", other},
     };
-    QList<ProcSample> processes;
-    for (const Case& c : cases) {
-        ProcSample process;
-        process.name = QString::fromUtf8(c.name);
-        process.executablePath = QString::fromUtf8(c.path);
-        process.arguments = QString::fromUtf8(c.arguments);
-        processes.append(process);
-    }
+    const auto processes = each(cases, [](const auto& row) {
+        const auto& [name, path, arguments, group] = row;
+        return ProcSample{.name = QString::fromUtf8(name),
+                          .executablePath = QString::fromUtf8(path),
+                          .arguments = QString::fromUtf8(arguments)};
+    });
     const auto classified = ProcessGrouper().classify(processes);
     ASSERT_EQ(classified.size(), processes.size());
     for (qsizetype i = 0; i < classified.size(); ++i) {
-        EXPECT_EQ(rawValue(classified[i].group), rawValue(cases[i].group)) << cases[i].name << cases[i].path;
+        EXPECT_EQ(rawValue(classified[i].group), rawValue(std::get<3>(cases[i])))
+            << std::get<0>(cases[i]) << i;
         EXPECT_EQ(classified[i].name, processes[i].name);
     }
 }

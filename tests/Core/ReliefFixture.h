@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppModel.h"
+#include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
@@ -36,17 +37,10 @@ struct ReliefTest : testing::Test {
     void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
     /// "KIND DETAIL ok", newest first.
     QStringList logged() const {
-        QStringList lines;
-        for (const ActionLogEntry& entry : model->actionLog()) {
-            lines.append(rawValue(entry.kind) + u' ' + entry.detail +
-                         (entry.success ? QStringLiteral(" ok") : QStringLiteral(" fail")));
-        }
-        return lines;
+        return each(model->actionLog(), [](const ActionLogEntry& entry) {
+            return rawValue(entry.kind) + u' ' + entry.detail +
+                   QLatin1String(entry.success ? " ok" : " fail");
+        });
     }
-    QList<qint32> signalled() const {
-        QList<qint32> pids;
-        for (const FakeSignals::Sent& sent : signalSender->sent())
-            pids.append(sent.pid);
-        return pids;
-    }
+    QList<qint32> signalled() const { return each(signalSender->sent(), &FakeSignals::Sent::pid); }
 };

@@ -1,5 +1,6 @@
 #include "Core/RulesEngine.h"
 
+#include "support/Each.h"
 #include "support/TemporarySettings.h"
 
 #include <gtest/gtest.h>
@@ -23,12 +24,7 @@ struct RulesEngineTest : testing::Test {
         system.memUsedBytes = 4 * GiB;
     }
     QList<Alert> evaluate() { return rules.evaluate(system, processes, groups, caches, prefs); }
-    QStringList ids() {
-        QStringList result;
-        for (const Alert& alert : evaluate())
-            result.append(alert.id);
-        return result;
-    }
+    QStringList ids() { return each(evaluate(), &Alert::id); }
     Alert only() {
         const auto alerts = evaluate();
         EXPECT_EQ(alerts.size(), 1);

@@ -39,20 +39,16 @@ TEST_F(SamplerTest, FirstSampleHasFiguresButNoLoad) {
 
 TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
     constexpr quint32 nearWrap = 0xFFFFFFFAU;
-    struct Step {
-        std::optional<CpuTicks> ticks;
-        double load;
-    };
-    const Step steps[] = {
+    const std::pair<std::optional<CpuTicks>, double> steps[] = {
         {CpuTicks{.user = nearWrap, .system = 0, .idle = 100, .nice = 0}, 0},
         {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 62.5}, // 12 + 6 + 12 of 48, over the wrap
         {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 0},    // nothing moved
         {std::nullopt, 0},
         {CpuTicks{.user = 16, .system = 6, .idle = 128, .nice = 12}, 50}, // since the last good reading
     };
-    for (const Step& step : steps) {
-        fakes.host->ticks = step.ticks;
-        EXPECT_DOUBLE_EQ(sampler.sample().cpuPercent, step.load);
+    for (const auto& [ticks, load] : steps) {
+        fakes.host->ticks = ticks;
+        EXPECT_DOUBLE_EQ(sampler.sample().cpuPercent, load);
     }
 }
 
@@ -156,13 +152,8 @@ TEST_F(SamplerTest, FailedListingLeavesTheTablesAsTheyAre) {
 
 TEST_F(SamplerTest, MetadataDegradesFieldByField) {
     using namespace std::string_literals;
-    struct Case {
-        FakeProcess process;
-        const char* name;
-        const char* arguments;
-    };
     const auto area = [](const std::string& text) { return QByteArray::fromStdString(text); };
-    const Case cases[] = {
+    const std::tuple<FakeProcess, const char*, const char*> cases[] = {
         {{.path = "/usr/bin/foo", .name = "foo", .arguments = area("/usr/bin/foo\0"s)},
          "foo",
          "/usr/bin/foo"},
@@ -175,12 +166,12 @@ TEST_F(SamplerTest, MetadataDegradesFieldByField) {
         {{.name = "odd (name)\n<b>", .arguments = area("a\0b c"s)}, "odd (name)\n<b>", "b c"},
         {{.name = "\xff\xfe"}, "\xef\xbf\xbd\xef\xbf\xbd", ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& [process, name, arguments] : cases) {
         FakePlatform own;
-        own.processes->add(7, c.process).info.reset();
+        own.processes->add(7, process).info.reset();
         const ProcSample sample = Sampler(own.platform()).sampleProcesses().value(0);
-        EXPECT_EQ(sample.name.toStdString(), c.name);
-        EXPECT_EQ(sample.arguments.toStdString(), c.arguments);
+        EXPECT_EQ(sample.name.toStdString(), name);
+        EXPECT_EQ(sample.arguments.toStdString(), arguments);
         EXPECT_EQ(sample.uid, 0U);
         EXPECT_EQ(sample.parentPid, 0);
         EXPECT_EQ(sample.startTime, own.clock->wall);

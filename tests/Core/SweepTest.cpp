@@ -20,11 +20,7 @@ NukePreview previewOf(const QStringList& paths, quint64 rssBytes = 0) {
 TEST(NukePreviewTest, TheApplicationIsTheOutermostBundleOfAll) {
     const QString nested =
         u"/Applications/Google Chrome.app/Contents/Frameworks/Google Chrome Helper.app/x"_s;
-    struct Row {
-        QStringList paths;
-        std::optional<QString> application;
-    };
-    const QList<Row> rows = {
+    const std::pair<QStringList, std::optional<QString>> rows[] = {
         {{nested, nested, u"/Applications/Google Chrome.app/y"_s}, u"Google Chrome"_s},
         {{nested, u"/usr/bin/helper"_s}, std::nullopt},
         {{u"/usr/bin/helper"_s, nested}, std::nullopt},
@@ -34,8 +30,8 @@ TEST(NukePreviewTest, TheApplicationIsTheOutermostBundleOfAll) {
         {{u"My.app.app/x"_s}, u"My.app"_s},
         {{}, std::nullopt},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(previewOf(row.paths).parentAppName, row.application) << qPrintable(row.paths.join(u'|'));
+    for (const auto& [paths, application] : rows)
+        EXPECT_EQ(previewOf(paths).parentAppName, application) << qPrintable(paths.join(u'|'));
 }
 
 TEST(NukePreviewTest, TextsForAnApplication) {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QList>
+
+#include <functional>
+
+/// What `read`, a member or a function, gives of each element, in their order.
+template <typename List, typename Read> auto each(const List& list, Read read) {
+    QList<std::decay_t<decltype(std::invoke(read, *std::begin(list)))>> result;
+    for (const auto& element : list)
+        result.append(std::invoke(read, element));
+    return result;
+}
