@@ -46,12 +46,8 @@ TEST(HostStatistics, AgreesWithTheSystemsOwnTools) {
 }
 
 TEST(HostStatistics, CountsCpuTicksByKind) {
-    struct Case {
-        const char* line;
-        std::optional<CpuTicks> expected;
-    };
     // user nice system idle iowait irq softirq steal guest guest_nice
-    const std::vector<Case> cases = {
+    const std::pair<const char*, std::optional<CpuTicks>> cases[] = {
         {"cpu  100 20 30 400 50 6 7 8 90 9\ncpu0 1 1 1 1 1 1 1 1 1 1\n", CpuTicks{100, 51, 450, 20}},
         {"cpu  4294967297 0 0 4294967296 5 0 0 0 0 0\n", CpuTicks{1, 0, 5, 0}},
         {"cpu  3000000000 0 0 3000000000 0 0 0 0 0 0\n", CpuTicks{3000000000, 0, 3000000000, 0}},
@@ -90,50 +86,46 @@ const QByteArray typical = "MemTotal:  1000000 kB\nMemFree:  100000 kB\nMemAvail
                            "Unevictable: 40000 kB\nZswap: 0 kB\nZswapped: 99999 kB\nSUnreclaim: 8000 kB\n"
                            "KernelStack: 4000 kB\nPageTables: 4000 kB\n";
 
-class HostMemory : public testing::TestWithParam<Memory> {};
-
-TEST_P(HostMemory, SplitsWhatIsUsed) {
-    const auto& given = GetParam();
-    RecordedTree tree;
-    tree.with(u"proc/meminfo"_s, given.meminfo);
-    for (size_t device = 0; device < given.zram.size(); ++device)
-        tree.with(u"sys/block/zram%1/mm_stat"_s.arg(device), given.zram[device]);
-    tree.makeFolder(u"sys/block/sda"_s);
-    LinuxHostStatistics host(tree.path());
-    const auto pages = host.memoryPages();
-    ASSERT_EQ(pages.has_value(), given.used.has_value());
-    if (!pages)
-        return;
-    const auto inPages = [&host](quint64 kib) { return kib * 1024 / host.pageSize(); };
-    EXPECT_EQ(pages->wired, inPages(given.wired));
-    EXPECT_EQ(pages->compressed, inPages(given.compressed));
-    EXPECT_EQ(sum(*pages), inPages(*given.used));
+TEST(HostStatistics, SplitsTheMemoryInUse) {
+    const Memory cases[] = {
+        {"typical", typical, {}, 600000, 56000, 0},
+        {"newer_lines", typical + "SecPageTables: 4000 kB\nPercpu: 8000 kB\n", {}, 600000, 68000, 0},
+        {"zram",
+         typical,
+         {"9000000 3000000 4096000 0 8192000 5 0 0 0\n", "  8192 74 2048000 0 12288 0 0 0 0\n"},
+         600000,
+         56000,
+         6000},
+        {"zswap", QByteArray(typical).replace("Zswap: 0", "Zswap: 20000"), {}, 600000, 56000, 20000},
+        {"zram_without_figures", typical, {"", "1 2\n"}, 600000, 56000, 0},
+        {"wired_above_used",
+         QByteArray(typical).replace("Unevictable: 40000", "Unevictable: 4000000"),
+         {"1 1 4096000\n"},
+         600000,
+         600000,
+         0},
+        {"compressed_above_rest", typical, {"1 1 99999999999\n"}, 600000, 56000, 544000},
+        {"available_above_total", QByteArray(typical).replace("e:  400000", "e: 1400000"), {}, 0, 0, 0},
+        {"no_available", QByteArray(typical).replace("MemAvailable:", "Elsewhere:"), {}, std::nullopt},
+        {"empty", "", {}, std::nullopt}};
+    for (const Memory& given : cases) {
+        SCOPED_TRACE(given.name);
+        RecordedTree tree;
+        tree.with(u"proc/meminfo"_s, given.meminfo);
+        for (size_t device = 0; device < given.zram.size(); ++device)
+            tree.with(u"sys/block/zram%1/mm_stat"_s.arg(device), given.zram[device]);
+        tree.makeFolder(u"sys/block/sda"_s);
+        LinuxHostStatistics host(tree.path());
+        const auto pages = host.memoryPages();
+        ASSERT_EQ(pages.has_value(), given.used.has_value());
+        if (!pages)
+            continue;
+        const auto inPages = [&host](quint64 kib) { return kib * 1024 / host.pageSize(); };
+        EXPECT_EQ(pages->wired, inPages(given.wired));
+        EXPECT_EQ(pages->compressed, inPages(given.compressed));
+        EXPECT_EQ(sum(*pages), inPages(*given.used));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Recorded, HostMemory,
-    testing::Values(
-        Memory{"typical", typical, {}, 600000, 56000, 0},
-        Memory{"newer_lines", typical + "SecPageTables: 4000 kB\nPercpu: 8000 kB\n", {}, 600000, 68000, 0},
-        Memory{"zram",
-               typical,
-               {"9000000 3000000 4096000 0 8192000 5 0 0 0\n", "  8192 74 2048000 0 12288 0 0 0 0\n"},
-               600000,
-               56000,
-               6000},
-        Memory{"zswap", QByteArray(typical).replace("Zswap: 0", "Zswap: 20000"), {}, 600000, 56000, 20000},
-        Memory{"zram_without_figures", typical, {"", "1 2\n"}, 600000, 56000, 0},
-        Memory{"wired_above_used",
-               QByteArray(typical).replace("Unevictable: 40000", "Unevictable: 4000000"),
-               {"1 1 4096000\n"},
-               600000,
-               600000,
-               0},
-        Memory{"compressed_above_rest", typical, {"1 1 99999999999\n"}, 600000, 56000, 544000},
-        Memory{"available_above_total", QByteArray(typical).replace("e:  400000", "e: 1400000"), {}, 0, 0, 0},
-        Memory{"no_available", QByteArray(typical).replace("MemAvailable:", "Elsewhere:"), {}, std::nullopt},
-        Memory{"empty", "", {}, std::nullopt}),
-    [](const auto& given) { return std::string(given.param.name); });
 
 TEST(HostStatistics, CountsSwapInUse) {
     const std::vector<std::pair<const char*, std::optional<quint64>>> cases = {
@@ -163,51 +155,44 @@ struct Zone {
     QByteArray temperature;
     std::vector<std::pair<QByteArray, QByteArray>> trips; // type, temperature
 };
-struct Thermal {
-    const char* name;
-    std::vector<Zone> zones;
-    int level;
-};
 
-class ThermalLevel : public testing::TestWithParam<Thermal> {};
-
-TEST_P(ThermalLevel, IsThatOfTheWorstZone) {
-    RecordedTree tree;
-    tree.makeFolder(u"sys/class/thermal/cooling_device0"_s);
-    int number = 0;
-    for (const auto& zone : GetParam().zones) {
-        const auto folder = u"sys/class/thermal/thermal_zone%1/"_s.arg(number++);
-        tree.with(folder + u"temp"_s, zone.temperature);
-        int trip = 0;
-        for (const auto& [type, temperature] : zone.trips) {
-            const auto stem = folder + u"trip_point_%1_"_s.arg(trip++);
-            tree.with(stem + u"type"_s, type + "\n").with(stem + u"temp"_s, temperature + "\n");
-        }
-    }
-    EXPECT_EQ(LinuxHostStatistics(tree.path()).thermalLevel(), GetParam().level);
+Zone laptop(const char* temperature) {
+    return {temperature,
+            {{"active", "50000"}, {"passive", "90000"}, {"hot", "100000"}, {"critical", "105000"}}};
 }
 
-const auto laptop = [](const char* temperature) {
-    return Zone{temperature,
-                {{"active", "50000"}, {"passive", "90000"}, {"hot", "100000"}, {"critical", "105000"}}};
-};
-
-INSTANTIATE_TEST_SUITE_P(
-    Recorded, ThermalLevel,
-    testing::Values(
-        Thermal{"cool", {laptop("79999\n")}, 0}, Thermal{"near_passive", {laptop("80000\n")}, 1},
-        Thermal{"below_passive", {laptop("89999\n")}, 1}, Thermal{"passive", {laptop("90000\n")}, 2},
-        Thermal{"hot", {laptop("100000\n")}, 3},
-        Thermal{"critical_only", {{"95000\n", {{"critical", "95000"}}}}, 3},
-        Thermal{"near_critical", {{"85000\n", {{"critical", "95000"}}}}, 1},
-        Thermal{"cool_without_passive", {{"84999\n", {{"critical", "95000"}}}}, 0},
-        Thermal{"lowest_of_several", {{"70000\n", {{"passive", "90000"}, {"passive", "70000"}}}}, 2},
-        Thermal{
-            "trips_out_of_use", {{"40000\n", {{"passive", "0"}, {"critical", "-273200"}, {"hot", "x"}}}}, 0},
-        Thermal{"worst_of_zones", {laptop("40000\n"), laptop("91000\n"), laptop("85000\n")}, 2},
-        Thermal{"unreadable_zone", {laptop(""), laptop("82000\n")}, 1},
-        Thermal{"below_zero", {laptop("-5000\n")}, 0}, Thermal{"no_trips", {{"120000\n", {}}}, 0},
-        Thermal{"no_zones", {}, 0}),
-    [](const auto& given) { return std::string(given.param.name); });
+TEST(HostStatistics, TheThermalLevelIsThatOfTheWorstZone) {
+    const std::tuple<const char*, std::vector<Zone>, int> cases[] = {
+        {"cool", {laptop("79999\n")}, 0},
+        {"near_passive", {laptop("80000\n")}, 1},
+        {"below_passive", {laptop("89999\n")}, 1},
+        {"passive", {laptop("90000\n")}, 2},
+        {"hot", {laptop("100000\n")}, 3},
+        {"critical_only", {{"95000\n", {{"critical", "95000"}}}}, 3},
+        {"near_critical", {{"85000\n", {{"critical", "95000"}}}}, 1},
+        {"cool_without_passive", {{"84999\n", {{"critical", "95000"}}}}, 0},
+        {"lowest_of_several", {{"70000\n", {{"passive", "90000"}, {"passive", "70000"}}}}, 2},
+        {"trips_out_of_use", {{"40000\n", {{"passive", "0"}, {"critical", "-273200"}, {"hot", "x"}}}}, 0},
+        {"worst_of_zones", {laptop("40000\n"), laptop("91000\n"), laptop("85000\n")}, 2},
+        {"unreadable_zone", {laptop(""), laptop("82000\n")}, 1},
+        {"below_zero", {laptop("-5000\n")}, 0},
+        {"no_trips", {{"120000\n", {}}}, 0},
+        {"no_zones", {}, 0}};
+    for (const auto& [name, zones, level] : cases) {
+        RecordedTree tree;
+        tree.makeFolder(u"sys/class/thermal/cooling_device0"_s);
+        int number = 0;
+        for (const auto& zone : zones) {
+            const auto folder = u"sys/class/thermal/thermal_zone%1/"_s.arg(number++);
+            tree.with(folder + u"temp"_s, zone.temperature);
+            int trip = 0;
+            for (const auto& [type, temperature] : zone.trips) {
+                const auto stem = folder + u"trip_point_%1_"_s.arg(trip++);
+                tree.with(stem + u"type"_s, type + "\n").with(stem + u"temp"_s, temperature + "\n");
+            }
+        }
+        EXPECT_EQ(LinuxHostStatistics(tree.path()).thermalLevel(), level) << name;
+    }
+}
 
 } // namespace

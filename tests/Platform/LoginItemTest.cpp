@@ -1,16 +1,14 @@
 #include "Platform/Linux/LinuxLoginItem.h"
 
+#include "support/Files.h"
 #include "support/TemporaryHome.h"
 
 #include <QProcess>
-#include <QThread>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <functional>
-
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -26,10 +24,6 @@ struct LoginItemTest : testing::Test {
                                                   "mv \"$HOME/started.new\" \"$HOME/started\"\n");
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return path;
-    }
-    QByteArray content(const QString& path) const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     QStringList autostartFolder() const {
         return QDir(home.path(u".config/autostart"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
@@ -57,13 +51,10 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
         EXPECT_EQ(item.registerItem(), std::nullopt) << qPrintable(folder);
         EXPECT_EQ(complaints(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
         EXPECT_EQ(complaints(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
-        QByteArray started;
-        for (int waited = 0; started.isEmpty() && waited < 500; ++waited) {
-            started = content(home.path(u"started"_s));
-            QThread::msleep(10);
-        }
-        EXPECT_EQ(QString::fromUtf8(started), program);
-        QFile::remove(home.path(u"started"_s));
+        const QString started = home.path(u"started"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&started] { return QFile::exists(started); }));
+        EXPECT_EQ(QString::fromUtf8(contentOf(started)), program);
+        QFile::remove(started);
     }
     EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
 }
@@ -82,20 +73,15 @@ TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
 TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
     qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
     EXPECT_EQ(LinuxLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);
-    EXPECT_TRUE(content(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
+    EXPECT_TRUE(contentOf(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
                     .contains("\nExec=\"/usr/bin/tavrin\"\nTryExec=/usr/bin/tavrin\n"));
     EXPECT_FALSE(QFile::exists(entry));
 }
 
 TEST_F(LoginItemTest, SaysWhyItCannot) {
-    struct Case {
-        std::function<void()> obstacle;
-        QString program;
-        QString onRegister; ///< end of the reason
-        QString onUnregister;
-    };
     const QString program = u"/usr/bin/tavrin"_s;
-    const Case cases[] = {
+    /// The obstacle, the program, and the ends of the reasons when it registers and when it unregisters.
+    const std::tuple<std::function<void()>, QString, QString, QString> cases[] = {
         {[] {}, {}, u"The program's own file cannot be found."_s, {}},
         {[this] { home.makeFile(u".config/autostart"_s); }, program, u"autostart: Not a directory"_s, {}},
         {[this] { home.makeFolder(u".config/autostart/tavrin.desktop"_s); }, program,
@@ -108,34 +94,28 @@ TEST_F(LoginItemTest, SaysWhyItCannot) {
          u"tavrin.desktop: Permission denied"_s,
          {}},
     };
-    for (const Case& c : cases) {
-        c.obstacle();
-        LinuxLoginItem item(c.program);
+    for (const auto& [obstacle, path, onRegister, onUnregister] : cases) {
+        obstacle();
+        LinuxLoginItem item(path);
         const QString registering = item.registerItem().value_or(QString());
-        EXPECT_TRUE(!registering.isEmpty() && registering.endsWith(c.onRegister)) << qPrintable(registering);
+        EXPECT_TRUE(!registering.isEmpty() && registering.endsWith(onRegister)) << qPrintable(registering);
         const QString unregistering = item.unregisterItem().value_or(QString());
-        EXPECT_TRUE(unregistering.endsWith(c.onUnregister)) << qPrintable(unregistering);
-        EXPECT_EQ(unregistering.isEmpty(), c.onUnregister.isEmpty());
+        EXPECT_TRUE(unregistering.endsWith(onUnregister)) << qPrintable(unregistering);
+        EXPECT_EQ(unregistering.isEmpty(), onUnregister.isEmpty());
         QDir(home.path(u".config"_s)).removeRecursively();
     }
 }
 
 TEST_F(LoginItemTest, AWriteThatFailsLeavesTheEntryThatWasThere) {
     ASSERT_EQ(LinuxLoginItem(u"/old/tavrin"_s).registerItem(), std::nullopt);
-    const QByteArray before = content(entry);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
+    const QByteArray before = contentOf(entry);
     QStringList reasons;
     for (const rlim_t room : {0, 20}) { // bytes that the disk still takes
-        const rlimit tight{.rlim_cur = room, .rlim_max = limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
+        const FullDisk full(room);
         reasons.append(LinuxLoginItem(u"/new/tavrin"_s).registerItem().value_or(QString()));
-        setrlimit(RLIMIT_FSIZE, &limit);
     }
-    std::signal(SIGXFSZ, handler);
     EXPECT_TRUE(reasons[0].endsWith(u"tavrin.desktop: File too large"_s)) << qPrintable(reasons[0]);
     EXPECT_TRUE(reasons[1].contains(u"tavrin.desktop: "_s)) << qPrintable(reasons[1]);
-    EXPECT_EQ(content(entry), before);
+    EXPECT_EQ(contentOf(entry), before);
     EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
 }

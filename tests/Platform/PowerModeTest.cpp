@@ -2,26 +2,18 @@
 
 #include "Platform/RecordedTree.h"
 
-#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QDeadlineTimer>
 #include <QProcess>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template <typename Condition> bool eventually(Condition condition) {
-    const QDeadlineTimer deadline(5000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    return condition();
-}
 
 /// Answers as the power-profiles daemon does, under one of its names.
 class Daemon : public QDBusVirtualObject {
@@ -91,13 +83,13 @@ TEST_P(PowerModeOnABus, FollowsTheDaemonAndFallsBackToTheFirmware) {
     EXPECT_TRUE(mode.isLowPowerModeEnabled()); // the firmware's word, as no daemon runs
     {
         Daemon daemon(bus(u"daemon"_s), QString::fromLatin1(GetParam()));
-        EXPECT_TRUE(eventually([&] { return !mode.isLowPowerModeEnabled(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !mode.isLowPowerModeEnabled(); }));
         daemon.setProfile(u"power-saver"_s);
-        EXPECT_TRUE(eventually([&] { return mode.isLowPowerModeEnabled(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return mode.isLowPowerModeEnabled(); }));
         daemon.setProfile(u"performance"_s);
-        EXPECT_TRUE(eventually([&] { return !mode.isLowPowerModeEnabled(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !mode.isLowPowerModeEnabled(); }));
     }
-    EXPECT_TRUE(eventually([&] { return mode.isLowPowerModeEnabled(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mode.isLowPowerModeEnabled(); }));
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, PowerModeOnABus,
