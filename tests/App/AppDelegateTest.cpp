@@ -30,11 +30,6 @@ struct AppDelegateTest : ModelFixture {
         delegate->applicationDidFinishLaunching();
         settle();
     }
-    void settle() {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
     bool didFirstLaunch() {
         return Preferences(settings.path).file().boolean(firstLaunchKey).value_or(false);
     }
@@ -92,10 +87,8 @@ TEST_F(AppDelegateTest, WhatIsStoredDecidesTheLaunch) {
 
 TEST_F(AppDelegateTest, OneSettingsWindowThatOpensOnGeneral) {
     launch();
-    QStringList items;
-    for (const QAction* action : desktop.statusItem->menu->actions())
-        items.append(action->text());
-    EXPECT_EQ(items, (QStringList{u"Open"_s, u"Settings…"_s, QString(), u"Quit"_s}));
+    EXPECT_EQ(each(desktop.statusItem->menu->actions(), &QAction::text),
+              (QStringList{u"Open"_s, u"Settings…"_s, QString(), u"Quit"_s}));
 
     MainWindow& main = *windows<MainWindow>().constFirst();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&main));

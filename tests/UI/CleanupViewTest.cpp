@@ -7,38 +7,21 @@
 #include "UI/ModelFixture.h"
 
 #include <QPointer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// 2 MiB in the npm folder, as long as it is not cleaned; nothing anywhere else.
 struct CleanupViewTest : ModelFixture {
     QWidget window;
     CleanupView* view = new CleanupView(model, &window);
-    QByteArray npmKiB = "2048 x";
 
     CleanupViewTest() {
-        home.makeFile(u".npm/x"_s);
-        for (const CacheTarget& target : CacheTarget::defaults()) {
-            for (const QString& path : target.paths)
-                fakes.places->elsewhere[path] = {home.path(path == u"~/.npm" ? u".npm"_s : u"none"_s)};
-        }
-        fakes.tools->answer = [this](const ToolRequest& request) {
-            if (request.launchPath == u"/usr/bin/du")
-                return ScriptedTools::exited(0, npmKiB);
-            if (request.arguments.join(u' ').contains(u"rm -rf"))
-                npmKiB = "0 x";
-            return ScriptedTools::exited(0);
-        };
+        fillNpmFolder();
         window.resize(900, 700);
         view->resize(900, 700);
         window.show();
         tick();
-    }
-    void press(const QWidget& parent, const QString& button) {
-        QTest::mouseClick(buttonNamed(parent, button), Qt::LeftButton);
     }
     void rescan() {
         press(*view, u"Rescan"_s);
@@ -47,7 +30,6 @@ struct CleanupViewTest : ModelFixture {
     }
     QStringList cards() { return shownNames<CacheCard>(*view); }
     QPointer<ConfirmDialog> dialog() { return window.findChild<ConfirmDialog*>(); }
-    void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 };
 
 } // namespace
@@ -88,7 +70,7 @@ TEST_F(CleanupViewTest, TheDrawerCleansOnlyAfterAsking) {
     EXPECT_TRUE(showsText(*drawer, u"2 MB reclaimable"_s));
     press(*drawer, u"Clean 2 MB"_s);
     QTest::keyClick(dialog(), Qt::Key_Return); // the safe answer
-    letGo();
+    settle();
     EXPECT_FALSE(dialog());
     EXPECT_TRUE(logged().isEmpty());
 
@@ -96,7 +78,7 @@ TEST_F(CleanupViewTest, TheDrawerCleansOnlyAfterAsking) {
     EXPECT_EQ(dialog()->windowTitle(), u"Delete npm / pnpm / yarn?"_s);
     press(*dialog(), u"Delete 2 MB"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !model.isCleaning() && !model.isScanning(); }, 2000));
-    letGo();
+    settle();
     EXPECT_FALSE(drawer);
     EXPECT_EQ(logged(), QStringList(u"clean npm / pnpm / yarn ok"_s));
     tick();
@@ -110,7 +92,7 @@ TEST_F(CleanupViewTest, CleanAllAsksFirstAndTellsWhatItFreed) {
     EXPECT_EQ(dialog()->windowTitle(), u"Clean all reclaimable caches?"_s);
     EXPECT_FALSE(qobject_cast<QPushButton*>(buttonNamed(*dialog(), u"Clean 2 MB"_s))->isDefault());
     QTest::keyClick(dialog(), Qt::Key_Escape);
-    letGo();
+    settle();
     EXPECT_TRUE(logged().isEmpty());
     press(*view, u"Clean All"_s);
     press(*dialog(), u"Clean 2 MB"_s);

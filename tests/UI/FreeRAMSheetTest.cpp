@@ -5,7 +5,6 @@
 #include "UI/Overview/CandidateRow.h"
 
 #include <QPointer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -40,7 +39,6 @@ struct FreeRAMSheetTest : ModelFixture {
         }
         return pids;
     }
-    void press(const QString& button) { QTest::mouseClick(buttonNamed(*sheet, button), Qt::LeftButton); }
     CandidateRow* row(int index) { return sheet->findChildren<CandidateRow*>().at(index); }
 };
 
@@ -52,12 +50,12 @@ TEST_F(FreeRAMSheetTest, TicksTheFiveLargestOnce) {
     EXPECT_EQ(rows(false), (QList<qint32>{106, 105, 104, 103, 102, 101, 100}));
     EXPECT_EQ(rows(true), (QList<qint32>{106, 105, 104, 103, 102}));
     EXPECT_TRUE(showsText(*sheet, u"5 selected • 2 GB targeted"_s));
-    press(u"Clear"_s);
+    press(*sheet, u"Clear"_s);
     tick();
     EXPECT_EQ(rows(true), QList<qint32>());
     EXPECT_FALSE(buttonNamed(*sheet, u"Clear"_s)->isEnabled());
     EXPECT_TRUE(buttonNamed(*sheet, u"Send memory pressure only"_s));
-    press(u"Select all"_s);
+    press(*sheet, u"Select all"_s);
     EXPECT_EQ(rows(true).size(), 7);
     EXPECT_TRUE(buttonNamed(*sheet, u"Kill 7 and free RAM"_s));
 }
@@ -65,7 +63,7 @@ TEST_F(FreeRAMSheetTest, TicksTheFiveLargestOnce) {
 TEST_F(FreeRAMSheetTest, ATickIsForTheProcessThatWasPressed) {
     addIdle(2);
     open();
-    press(u"Clear"_s);
+    press(*sheet, u"Clear"_s);
     QTest::mousePress(row(0), Qt::LeftButton);
     fakes.processes->processes[100].task->residentBytes = 900 * MiB; // takes the first row
     tick();
@@ -118,7 +116,7 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
                            u"claude (102) Ignored SIGTERM/KILL"_s, u"claude (103) Force-killed"_s}));
     EXPECT_EQ(logged().size(), 1);
     QTest::keyClick(sheet, Qt::Key_Escape);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    settle();
     EXPECT_TRUE(sheet.isNull());
 }
 
@@ -134,9 +132,7 @@ TEST_F(FreeRAMSheetTest, ClosedDuringARunItLeavesTheRunToFinish) {
 
 TEST_F(FreeRAMSheetTest, HostileNamesStayPlain) {
     addProcesses(1, "<b>claude</b>\n", 500 * MiB);
-    tick();
-    fakes.clock->advance(1200);
-    tick();
+    addIdle(0);
     open();
     EXPECT_EQ(row(0)->accessibleName(),
               u"<b>claude</b>\u240a, PID 100 • Claude Code & Agents, 500 MB, idle 20m"_s);

@@ -1,5 +1,4 @@
 #include "UI/Settings/HistoryTab.h"
-#include "UI/Kit/ToolTip.h"
 
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/PopUpButton.h"
@@ -7,6 +6,7 @@
 #include "UI/ModelFixture.h"
 #include "UI/Settings/HistoryTableView.h"
 #include "UI/Settings/LocalTimeText.h"
+#include "support/Files.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -18,13 +18,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTest>
 #include <QTimer>
 #include <QToolTip>
 
-#include <csignal>
 #include <ctime>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -47,19 +44,9 @@ struct HistoryTabTest : testing::Test {
         tab.show();
     }
     void write(const QByteArray& content) { home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, content); }
-    static QByteArray contentOf(const QString& path) {
-        QFile read(path);
-        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray("missing");
-    }
-    QStringList column(int section) const {
-        QStringList texts;
-        for (int row = 0; row < table->model()->rowCount(); ++row)
-            texts.append(table->model()->index(row, section).data().toString());
-        return texts;
-    }
+    QStringList column(int section) const { return columnOf(*table->model(), section); }
     QStringList details() const { return column(2); }
     bool isEmpty() const { return showsText(tab, u"No actions logged yet."_s) && !table->isVisibleTo(&tab); }
-    void press(const QString& button) { QTest::mouseClick(buttonNamed(tab, button), Qt::LeftButton); }
     void choose(const QString& kind) {
         auto* picker = tab.findChild<PopUpButton*>();
         QTest::keyClick(picker, Qt::Key_Home);
@@ -72,13 +59,13 @@ struct HistoryTabTest : testing::Test {
                           QPoint(head->sectionViewportPosition(section) + 12, 10));
     }
     void exportAs(const QString& name, QDialogButtonBox::StandardButton answer = QDialogButtonBox::Save) {
-        press(u"Export CSV…"_s);
+        press(tab, u"Export CSV…"_s);
         const QPointer<QFileDialog> panel = tab.findChild<QFileDialog*>();
         ASSERT_TRUE(panel);
         EXPECT_EQ(panel->selectedFiles().value(0).section(u'/', -1), u"tavrin-actions.csv"_s);
         panel->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(name);
         QTest::mouseClick(panel->findChild<QDialogButtonBox*>()->button(answer), Qt::LeftButton);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        settle();
         ASSERT_FALSE(panel);
     }
     /// Answers the question whether to replace a file, once it comes up.
@@ -91,27 +78,6 @@ struct HistoryTabTest : testing::Test {
     }
 };
 
-/// No file of this process may grow past `bytes` while it lives, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
-
 } // namespace
 
 TEST(LocalTimeTextTest, AsTheLocaleWritesIt) {
@@ -119,13 +85,12 @@ TEST(LocalTimeTextTest, AsTheLocaleWritesIt) {
     qputenv("TZ", "UTC-1");
     tzset();
     const Instant instant{std::chrono::seconds(1'794'839'023)};
-    for (const auto& [locale, expected] : {std::pair(u"en_US"_s, u"Nov 16, 2026 3:23:43 PM"_s),
-                                           std::pair(u"de_DE"_s, u"16. Nov. 2026 15:23:43"_s),
-                                           std::pair(u"fr_FR"_s, u"16 nov. 2026 15:23:43"_s),
-                                           std::pair(u"da_DK"_s, u"16. nov. 2026 15.23.43"_s),
-                                           std::pair(u"hu_HU"_s, u"2026. nov. 16. 15:23:43"_s),
-                                           std::pair(u"ja_JP"_s, u"2026年11月16日 15時23分43秒"_s),
-                                           std::pair(u"C"_s, u"16 Nov 2026 15:23:43"_s)})
+    const std::pair<QString, QString> cases[] = {
+        {u"en_US"_s, u"Nov 16, 2026 3:23:43 PM"_s}, {u"de_DE"_s, u"16. Nov. 2026 15:23:43"_s},
+        {u"fr_FR"_s, u"16 nov. 2026 15:23:43"_s},   {u"da_DK"_s, u"16. nov. 2026 15.23.43"_s},
+        {u"hu_HU"_s, u"2026. nov. 16. 15:23:43"_s}, {u"ja_JP"_s, u"2026年11月16日 15時23分43秒"_s},
+        {u"C"_s, u"16 Nov 2026 15:23:43"_s}};
+    for (const auto& [locale, expected] : cases)
         EXPECT_EQ(LocalTimeText(QLocale(locale)).of(instant), expected) << locale.toStdString();
     zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
     tzset();
@@ -148,7 +113,7 @@ TEST_F(HistoryTabTest, FiltersByKind) {
     choose(u"Quit"_s);
     EXPECT_EQ(details(), QStringList(u"Browser"_s));
     write("2026-11-16T10:00:00Z\tquit\tok\t1\tone\n2026-11-16T10:00:00Z\tQuit\tok\t1\tno such kind\n");
-    press(u"Refresh"_s);
+    press(tab, u"Refresh"_s);
     EXPECT_EQ(details(), QStringList(u"one"_s));
     choose(u"Clean"_s);
     EXPECT_TRUE(isEmpty());
@@ -164,7 +129,7 @@ TEST_F(HistoryTabTest, ReadsWhenItAppearsAndOnRefreshOnly) {
     QTest::keyClick(&tab, Qt::Key_F5);
     EXPECT_EQ(details().first(), u"late"_s);
     table->setCurrentIndex(table->model()->index(3, 0));
-    press(u"Refresh"_s);
+    press(tab, u"Refresh"_s);
     EXPECT_EQ(table->currentIndex().row(), 3); // nothing new: nothing moves
     QFile::remove(file);
     tab.hide();
@@ -235,7 +200,7 @@ TEST_F(HistoryTabTest, ExportsEveryRowWhateverIsShown) {
     exportAs(home.path(u"out"_s), QDialogButtonBox::Cancel);
     EXPECT_FALSE(QFileInfo::exists(target));
     exportAs(home.path(u"out"_s)); // the suffix is added
-    press(u"Export CSV…"_s);
+    press(tab, u"Export CSV…"_s);
     QTest::keyClick(tab.findChild<QFileDialog*>()->findChild<QLineEdit*>(), Qt::Key_Return); // as proposed
     EXPECT_EQ(contentOf(home.path(u"tavrin-actions.csv"_s)), contentOf(target));
     EXPECT_EQ(contentOf(target), "timestamp,kind,success,freed_bytes,detail\n"
@@ -266,21 +231,21 @@ TEST_F(HistoryTabTest, AFailedExportLeavesTheOlderFile) {
 TEST_F(HistoryTabTest, ClearsOnlyWhenConfirmed) {
     show();
     for (const Qt::Key leave : {Qt::Key_Escape, Qt::Key_Return}) {
-        press(u"Clear log"_s);
+        press(tab, u"Clear log"_s);
         auto* dialog = tab.findChild<ConfirmDialog*>();
         ASSERT_TRUE(dialog);
         EXPECT_TRUE(showsText(*dialog, u"Clear action history?"_s));
         EXPECT_TRUE(showsText(*dialog, u"This deletes ~/Library/Logs/Tavrin/actions.log."_s));
         QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, leave);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        settle();
         EXPECT_EQ(contentOf(file), fourLines);
         EXPECT_EQ(details().size(), 4);
     }
-    press(u"Clear log"_s);
-    QTest::mouseClick(buttonNamed(*tab.findChild<ConfirmDialog*>(), u"Clear all"_s), Qt::LeftButton);
+    press(tab, u"Clear log"_s);
+    press(*tab.findChild<ConfirmDialog*>(), u"Clear all"_s);
     EXPECT_EQ(contentOf(file), "");
     EXPECT_TRUE(isEmpty());
     write("2026-11-16T10:00:00Z\tquit\tok\t1\tnext\n");
-    press(u"Refresh"_s);
+    press(tab, u"Refresh"_s);
     EXPECT_EQ(details(), QStringList(u"next"_s));
 }

@@ -25,7 +25,7 @@ TEST(ConfirmDialogTest, EveryWayOutButItsOwnButtonIsTheSafeOne) {
         QTest::keyClick(focused ? focused : dialog, leave);
         EXPECT_FALSE(dialog->isVisible()) << leave;
         EXPECT_TRUE(acted.isEmpty()) << leave;
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        settle();
         EXPECT_TRUE(dialog.isNull());
     }
 }
@@ -75,17 +75,9 @@ TEST(SliderTest, MovesByStepsUnderMouseAndKeys) {
 }
 
 TEST(StepperTest, StepsWithinItsRangeAndComesBackIntoIt) {
-    struct Case {
-        StepperRow::Look look;
-        Stepper::Range range;
-        double stored;
-        QString shown;
-        Qt::Key key;
-        double after;
-    };
     const StepperRow::Look gigabytes{u"Free"_s, u"%1 GB"_s, 1};
     const StepperRow::Look percent{u"Load"_s, u"%1%"_s};
-    const Case cases[] = {
+    const std::tuple<StepperRow::Look, Stepper::Range, double, QString, Qt::Key, double> cases[] = {
         {gigabytes, {0.5, 16, 0.5}, 2, u"Free 2.0 GB"_s, Qt::Key_Up, 2.5},
         {gigabytes, {0.5, 16, 0.5}, 16, u"Free 16.0 GB"_s, Qt::Key_Right, 16},
         {gigabytes, {0.5, 16, 0.5}, 0.5, u"Free 0.5 GB"_s, Qt::Key_Down, 0.5},
@@ -97,16 +89,16 @@ TEST(StepperTest, StepsWithinItsRangeAndComesBackIntoIt) {
         {percent, {50, 100, 5}, 1e300, u"Load 1"_s, Qt::Key_Down, 100},
         {{u"Min %1 MB"_s, {}}, {0, 4000, 50}, 500, u"Min 500 MB"_s, Qt::Key_End, 4000},
     };
-    for (const Case& c : cases) {
-        StepperRow row(c.look, c.range);
-        row.setValue(c.stored);
+    for (const auto& [look, range, stored, shown, key, after] : cases) {
+        StepperRow row(look, range);
+        row.setValue(stored);
         row.show();
-        EXPECT_TRUE(row.accessibleName().startsWith(c.shown)) << qPrintable(row.accessibleName());
-        EXPECT_EQ(row.value(), c.stored);
+        EXPECT_TRUE(row.accessibleName().startsWith(shown)) << qPrintable(row.accessibleName());
+        EXPECT_EQ(row.value(), stored);
         QSignalSpy stepped(&row, &StepperRow::stepped);
-        QTest::keyClick(row.findChild<Stepper*>(), c.key);
-        EXPECT_EQ(row.value(), c.after) << qPrintable(c.shown);
-        EXPECT_EQ(stepped.size(), c.stored == c.after ? 0 : 1);
+        QTest::keyClick(row.findChild<Stepper*>(), key);
+        EXPECT_EQ(row.value(), after) << qPrintable(shown);
+        EXPECT_EQ(stepped.size(), stored == after ? 0 : 1);
     }
 }
 

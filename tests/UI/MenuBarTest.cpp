@@ -8,8 +8,6 @@
 #include "UI/ModelFixture.h"
 #include "UI/Widget.h"
 
-#include <QTest>
-
 namespace {
 
 struct MenuBarTest : ModelFixture {
@@ -23,39 +21,24 @@ struct MenuBarTest : ModelFixture {
         QCoreApplication::sendPostedEvents();
         return desktop.statusItem->content.title;
     }
-    void press(const QString& name) {
-        for (auto* button : panel().findChildren<QAbstractButton*>()) {
-            if (button->accessibleName() == name || button->text() == name)
-                QTest::mouseClick(button, Qt::LeftButton);
-        }
-    }
 };
 
 SystemSample sample(double cpu, quint64 used, quint64 total) {
-    SystemSample result;
-    result.cpuPercent = cpu;
-    result.memUsedBytes = used;
-    result.memTotalBytes = total;
-    return result;
+    return {.cpuPercent = cpu, .memUsedBytes = used, .memTotalBytes = total};
 }
 
 } // namespace
 
 TEST_F(MenuBarTest, TitleByFormatWithHalvesAwayFromZero) {
-    struct Case {
-        MenuBarFormat format;
-        SystemSample sample;
-        const char16_t* title;
-    };
-    const Case cases[] = {
+    const std::tuple<MenuBarFormat, SystemSample, const char16_t*> cases[] = {
         {MenuBarFormat::both, sample(23, 61, 100), u"CPU 23% • RAM 61%"},
         {MenuBarFormat::both, sample(12.5, 125, 1000), u"CPU 13% • RAM 13%"},
         {MenuBarFormat::cpuOnly, sample(12.49, 0, 1), u"CPU 12%"},
         {MenuBarFormat::ramOnly, sample(0, 5, 0), u"RAM 0%"},
         {MenuBarFormat::iconOnly, sample(50, 1, 2), u""},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(MenuBarController::title(c.format, c.sample), QString::fromUtf16(c.title));
+    for (const auto& [format, sampled, title] : cases)
+        EXPECT_EQ(MenuBarController::title(format, sampled), QString::fromUtf16(title));
 }
 
 TEST_F(MenuBarTest, TitleFollowsTicksAndTheFormatAtOnce) {
@@ -82,28 +65,19 @@ TEST_F(MenuBarTest, ClickOpensThePanelAtTheItemAndASecondClosesIt) {
 
 TEST_F(MenuBarTest, PanelShowsUpToFiveProcessesAndThreeAlerts) {
     click();
-    struct Case {
-        int processes;
-        int agents; ///< each idle and large: one alert
-        int shownProcesses;
-        int shownAlerts;
-    };
-    const Case cases[] = {{0, 0, 0, 0}, {3, 0, 3, 0}, {9, 0, 5, 0}, {0, 1, 1, 1}, {0, 3, 3, 3}, {2, 5, 5, 3}};
-    for (const Case& c : cases) {
+    const std::pair<int, int> cases[] = {{0, 0}, {3, 0}, {9, 0}, {0, 1}, {0, 3}, {2, 5}};
+    for (const auto& [others, agents] : cases) { // agents are idle and large: an alert each
         fakes.processes->listing.clear();
-        addProcesses(c.processes, "plain", 10);
-        addProcesses(c.agents, "claude", quint64(600) << 20);
+        addProcesses(others, "plain", 10);
+        addProcesses(agents, "claude", quint64(600) << 20);
         tick();
         fakes.clock->advance(3600);
         tick();
-        QStringList expected;
-        for (int i = 0; i < std::min(5, c.agents); ++i)
-            expected.append(QStringLiteral("claude 600 MB"));
-        while (expected.size() < c.shownProcesses)
-            expected.append(QStringLiteral("plain 10 bytes"));
-        for (int i = 0; i < c.shownAlerts; ++i)
-            expected.append(QStringLiteral("Idle agent — claude"));
-        EXPECT_EQ(shownNames<PanelRow>(panel()), expected) << c.processes << c.agents;
+        QStringList expected(std::min(5, agents), QStringLiteral("claude 600 MB"));
+        expected +=
+            QStringList(std::min<qsizetype>(5 - expected.size(), others), QStringLiteral("plain 10 bytes"));
+        expected += QStringList(std::min(3, agents), QStringLiteral("Idle agent — claude"));
+        EXPECT_EQ(shownNames<PanelRow>(panel()), expected) << others << ' ' << agents;
     }
 }
 
@@ -124,21 +98,17 @@ TEST_F(MenuBarTest, OpenBringsTheMainWindowForwardWithItsTaskBarEntry) {
     QWidget main;
     main.setWindowTitle(QStringLiteral("Cleanup"));
     FakeApplication& application = *desktop.application;
-    struct Case {
-        QList<QWidget*> windows;
-        QWidget* forward;
-    };
-    const Case cases[] = {{{&settingsWindow, &other, &main}, &main},
-                          {{&settingsWindow, &other}, &other},
-                          {{&settingsWindow}, &settingsWindow},
-                          {{}, nullptr}};
-    for (const Case& c : cases) {
-        application.own = c.windows;
+    const std::pair<QList<QWidget*>, QWidget*> cases[] = {{{&settingsWindow, &other, &main}, &main},
+                                                          {{&settingsWindow, &other}, &other},
+                                                          {{&settingsWindow}, &settingsWindow},
+                                                          {{}, nullptr}};
+    for (const auto& [windows, forward] : cases) {
+        application.own = windows;
         application.forward = nullptr;
         application.policy = ActivationPolicy::accessory;
         click();
-        press(QStringLiteral("Open"));
-        EXPECT_EQ(application.forward, c.forward);
+        press(panel(), QStringLiteral("Open"));
+        EXPECT_EQ(application.forward, forward);
         EXPECT_EQ(application.policy, ActivationPolicy::regular);
         EXPECT_FALSE(desktop.popover->shown);
     }
@@ -147,7 +117,7 @@ TEST_F(MenuBarTest, OpenBringsTheMainWindowForwardWithItsTaskBarEntry) {
 TEST_F(MenuBarTest, WidgetButtonTogglesOnePanel) {
     click();
     for (const bool visible : {true, false, true}) {
-        press(QStringLiteral("Toggle floating widget"));
+        press(panel(), QStringLiteral("Toggle floating widget"));
         EXPECT_EQ(widget.isVisible(), visible);
     }
     EXPECT_EQ(desktop.panels->size(), 1);

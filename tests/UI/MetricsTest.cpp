@@ -11,34 +11,21 @@ namespace {
 constexpr quint64 GiB = quint64(1) << 30;
 
 SystemSample withCpu(double percent) {
-    SystemSample sample;
-    sample.cpuPercent = percent;
-    return sample;
+    return {.cpuPercent = percent};
 }
 
 SystemSample withMemory(double percent) {
-    SystemSample sample;
-    sample.memTotalBytes = 100000;
-    sample.memUsedBytes = static_cast<quint64>(percent * 1000);
-    return sample;
+    return {.memUsedBytes = static_cast<quint64>(percent * 1000), .memTotalBytes = 100000};
 }
 
 SystemSample withDisk(double usedPercent) {
-    SystemSample sample;
-    sample.diskTotalBytes = 100000;
-    sample.diskFreeBytes = static_cast<quint64>((100 - usedPercent) * 1000);
-    return sample;
+    return {.diskFreeBytes = static_cast<quint64>((100 - usedPercent) * 1000), .diskTotalBytes = 100000};
 }
 
 } // namespace
 
 TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
-    struct Case {
-        Metric metric;
-        const char16_t* value;
-        Role accent;
-    };
-    const Case cases[] = {
+    const std::tuple<Metric, const char16_t*, Role> cases[] = {
         {Metrics::cpu(withCpu(59.9), {}), u"60%", Role::green},
         {Metrics::cpu(withCpu(60), {}), u"60%", Role::orange},
         {Metrics::cpu(withCpu(84.9), {}), u"85%", Role::orange},
@@ -52,9 +39,9 @@ TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
         {Metrics::disk(withDisk(92)), u"92%", Role::red},
         {Metrics::disk(SystemSample()), u"0%", Role::green},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.metric.value, QString::fromUtf16(c.value)) << qPrintable(c.metric.title);
-        EXPECT_EQ(c.metric.accent, c.accent) << qPrintable(c.metric.title) << qPrintable(c.metric.value);
+    for (const auto& [metric, value, accent] : cases) {
+        EXPECT_EQ(metric.value, QString::fromUtf16(value)) << qPrintable(metric.title);
+        EXPECT_EQ(metric.accent, accent) << qPrintable(metric.title) << qPrintable(metric.value);
     }
 }
 

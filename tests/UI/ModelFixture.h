@@ -1,13 +1,16 @@
 #pragma once
 
 #include "AppModel.h"
+#include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -37,11 +40,25 @@ struct ModelFixture : testing::Test {
 
     /// "KIND DETAIL ok", newest first.
     QStringList logged() const {
-        QStringList lines;
-        for (const ActionLogEntry& entry : model.actionLog())
-            lines.append(rawValue(entry.kind) + u' ' + entry.detail +
-                         QString::fromLatin1(entry.success ? " ok" : " fail"));
-        return lines;
+        return each(model.actionLog(), [](const ActionLogEntry& entry) {
+            return rawValue(entry.kind) + u' ' + entry.detail +
+                   QLatin1String(entry.success ? " ok" : " fail");
+        });
+    }
+
+    /// 2 MiB in the npm folder until that is cleaned; nothing anywhere else.
+    void fillNpmFolder() {
+        const QString npm = home.makeFolder(QStringLiteral(".npm"));
+        for (const CacheTarget& target : CacheTarget::defaults()) {
+            for (const QString& path : target.paths)
+                fakes.places->elsewhere[path] = {path == u"~/.npm" ? npm : home.path(QStringLiteral("none"))};
+        }
+        fakes.tools->answer = [isCleaned = false](const ToolRequest& request) mutable {
+            if (request.launchPath == u"/usr/bin/du")
+                return ScriptedTools::exited(0, isCleaned ? "0 x" : "2048 x");
+            isCleaned |= request.arguments.last().contains(u"rm -rf");
+            return ScriptedTools::exited(0);
+        };
     }
 
     qint32 nextPid = 100;
@@ -54,6 +71,30 @@ inline QAbstractButton* buttonNamed(const QWidget& parent, const QString& name) 
             return button;
     }
     return nullptr;
+}
+
+inline void press(const QWidget& parent, const QString& button) {
+    QTest::mouseClick(buttonNamed(parent, button), Qt::LeftButton);
+}
+
+/// Queued redraws, and what is to be deleted.
+inline void settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+inline QStringList columnOf(const QAbstractItemModel& table, int section) {
+    QStringList texts;
+    for (int row = 0; row < table.rowCount(); ++row)
+        texts.append(table.index(row, section).data().toString());
+    return texts;
+}
+
+/// What the widget of that kind, the only one, is called while it can be seen.
+template <typename T> QString shownName(const QWidget& parent) {
+    const auto* shown = parent.findChild<T*>();
+    return shown->isVisibleTo(&parent) ? shown->accessibleName() : QString();
 }
 
 /// Whether a label with exactly that text can be seen.

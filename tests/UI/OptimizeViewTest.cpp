@@ -7,8 +7,6 @@
 #include "UI/Optimize/ServerRow.h"
 #include "UI/Optimize/StatBox.h"
 
-#include <QTest>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,19 +19,14 @@ struct OptimizeViewTest : ModelFixture {
         view.show();
         tick();
     }
-    void press(const QString& button) { QTest::mouseClick(buttonNamed(view, button), Qt::LeftButton); }
-    QString notice() {
-        const auto* shown = view.findChild<Notice*>();
-        return shown->isVisibleTo(&view) ? shown->accessibleName() : QString();
-    }
+    QString notice() { return shownName<Notice>(view); }
     QList<PresetTile*> tiles() { return view.findChildren<PresetTile*>(); }
     void usePreset(const QString& name, const QString& pattern) {
         QuickKillPreset preset = QuickKillPreset::blank();
         preset.name = name;
         preset.pattern = pattern;
         prefs.storeQuickKillPresets({preset});
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
+        settle();
     }
     void addServer(qint32 parent) {
         fakes.signalSender->start(nextPid);
@@ -89,19 +82,19 @@ TEST_F(OptimizeViewTest, ServersAndTheirOrphans) {
     QTest::mouseClick(view.findChildren<ServerRow*>()[1]->findChild<QAbstractButton*>(), Qt::LeftButton);
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{101, Signal::terminate, 1}}));
     EXPECT_TRUE(logged().isEmpty());
-    press(u"Kill orphans"_s);
+    press(view, u"Kill orphans"_s);
     EXPECT_EQ(notice(), u"Killed 1 orphan MCP server(s)"_s);
     fakes.signalSender->end(102);
-    press(u"Kill orphans"_s);
+    press(view, u"Kill orphans"_s);
     EXPECT_EQ(notice(), u"No orphan MCPs to kill"_s);
 }
 
 TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     show();
-    press(u"Pressure nudge"_s);
+    press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"Sent memory_pressure -l warn"_s);
     fakes.tools->held = true;
-    press(u"Deep purge (admin)"_s);
+    press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
     fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
     EXPECT_TRUE(fakes.tools->release(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s));
@@ -109,12 +102,12 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
     fakes.tools->held = false;
     fakes.tools->answer = [](const ToolRequest&) { return ToolResult(); };
-    press(u"Pressure nudge"_s);
+    press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"memory_pressure failed"_s);
     EXPECT_EQ(logged(),
               (QStringList{u"clean memory_pressure -l warn fail"_s, u"clean sudo purge (admin) fail"_s,
                            u"clean memory_pressure -l warn ok"_s}));
-    press(u"Dismiss"_s);
+    press(view, u"Dismiss"_s);
     EXPECT_EQ(notice(), QString());
 }
 
@@ -132,23 +125,12 @@ TEST_F(OptimizeViewTest, TheSwitchRunsTheOptimizer) {
 }
 
 TEST_F(OptimizeViewTest, CachesAreCleanedAtOnce) {
-    home.makeFile(u".npm/x"_s);
-    for (const CacheTarget& target : CacheTarget::defaults()) {
-        for (const QString& path : target.paths)
-            fakes.places->elsewhere[path] = {home.path(path == u"~/.npm" ? u".npm"_s : u"none"_s)};
-    }
-    bool isCleaned = false;
-    fakes.tools->answer = [&isCleaned](const ToolRequest& request) {
-        if (request.launchPath == u"/usr/bin/du")
-            return ScriptedTools::exited(0, isCleaned ? "0 x" : "2048 x");
-        isCleaned |= request.arguments.last().contains(u"rm -rf");
-        return ScriptedTools::exited(0);
-    };
+    fillNpmFolder();
     show();
     EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
     QCoro::waitFor(model.rescanCaches());
     tick();
     EXPECT_TRUE(showsText(view, u"2 MB reclaimable across %1 targets"_s.arg(CacheTarget::defaults().size())));
-    press(u"Clean All"_s);
+    press(view, u"Clean All"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return notice() == u"Cleaned 1 targets, freed ~2 MB"_s; }, 2000));
 }

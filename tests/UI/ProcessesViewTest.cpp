@@ -15,7 +15,6 @@
 #include <QHeaderView>
 #include <QPointer>
 #include <QScrollBar>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -34,30 +33,25 @@ struct ProcessesViewTest : ModelFixture {
         tick();
     }
     QStringList column(const QString& title) const {
-        const QAbstractItemModel* rows = table->model();
-        QStringList texts;
-        for (int section = 0; section < rows->columnCount(); ++section) {
-            if (rows->headerData(section, Qt::Horizontal).toString() != title)
-                continue;
-            for (int row = 0; row < rows->rowCount(); ++row)
-                texts.append(rows->index(row, section).data().toString());
+        for (int section = 0; section < table->model()->columnCount(); ++section) {
+            if (table->model()->headerData(section, Qt::Horizontal) == title)
+                return columnOf(*table->model(), section);
         }
-        return texts;
+        return {};
     }
     QPoint button(int row, int position) const {
         const QModelIndex cell = table->model()->index(row, table->model()->columnCount() - 1);
         return table->visualRect(cell).topLeft() + QPoint(17 + 26 * position, 15);
     }
-    void press(int row, int position) {
+    void pressIn(int row, int position) {
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, button(row, position));
     }
     FakeProcess& process(qint32 pid) { return fakes.processes->processes[pid]; }
     QPointer<ConfirmDialog> dialog() { return view.findChild<ConfirmDialog*>(); }
-    QString notice() {
-        const auto* shown = view.findChild<Notice*>();
-        return shown->isVisibleTo(&view) ? shown->accessibleName() : QString();
+    QString notice() { return shownName<Notice>(view); }
+    void foldDuplicates() {
+        QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
     }
-    void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
     void type(const QString& text) {
         auto* field = view.findChild<SearchField*>();
         field->clear();
@@ -147,8 +141,8 @@ TEST_F(ProcessesViewTest, AClickMeansTheRowThatWasPressed) {
     addProcesses(1, "one", 300 * MiB);
     addProcesses(1, "two", 200 * MiB);
     show();
-    press(0, 0);
-    press(1, 1);
+    pressIn(0, 0);
+    pressIn(1, 1);
     EXPECT_EQ(fakes.signalSender->sent(),
               (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}, {101, Signal::kill, 1}}));
     QTest::mousePress(table->viewport(), Qt::LeftButton, {}, button(0, 1));
@@ -168,17 +162,17 @@ TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
     addProcesses(12, "helper", 60 * MiB);
     addProcesses(1, "single", 700 * MiB);
     show();
-    QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+    foldDuplicates();
     EXPECT_EQ(column(u"Name"_s), (QStringList{u"helper"_s, u"single"_s}));
     EXPECT_EQ(column(u"Procs"_s), (QStringList{u"12"_s, u"1"_s}));
     EXPECT_EQ(table->model()->index(0, 0).data(Qt::AccessibleTextRole), u"helper ×12"_s);
     EXPECT_EQ(table->model()->index(1, 0).data(Qt::AccessibleTextRole), u"single"_s);
     EXPECT_EQ(column(u"RAM"_s), (QStringList{u"720 MB"_s, u"700 MB"_s}));
-    press(0, 0);
+    pressIn(0, 0);
     EXPECT_EQ(fakes.signalSender->sent().size(), 12);
     EXPECT_EQ(logged().size(), 12);
     EXPECT_FALSE(dialog());
-    press(0, 1);
+    pressIn(0, 1);
     EXPECT_EQ(dialog()->windowTitle(), u"Kill all 12 “helper” processes?"_s);
 }
 
@@ -186,7 +180,7 @@ TEST_F(ProcessesViewTest, AFoldedRowIsItsNameWhateverComesAndGoes) {
     addProcesses(2, "kept", 100 * MiB);
     addProcesses(2, "other", 90 * MiB);
     show();
-    QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+    foldDuplicates();
     table->setCurrentIndex(table->model()->index(0, 0));
     for (int i = 0; i < 20; ++i) {
         addProcesses(1, "name-" + QByteArray::number(i), static_cast<quint64>(60 + 40 * i) * MiB);
@@ -208,18 +202,18 @@ TEST_F(ProcessesViewTest, ASweepAsksFirst) {
     addProcesses(3, "<b>node</b>", 60 * MiB);
     addProcesses(1, "single", 100 * MiB);
     show();
-    press(0, 2); // a name of its own has no sweep
+    pressIn(0, 2); // a name of its own has no sweep
     EXPECT_FALSE(dialog());
-    press(1, 2);
+    pressIn(1, 2);
     ASSERT_TRUE(dialog());
     QTest::keyClick(dialog(), Qt::Key_Return);
-    letGo();
+    settle();
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
-    press(1, 2);
+    pressIn(1, 2);
     EXPECT_TRUE(showsText(*dialog(), u"Kill all 3 “<b>node</b>” processes?"_s));
-    QTest::mouseClick(buttonNamed(*dialog(), u"Kill 3 (≈180 MB)"_s), Qt::LeftButton);
+    press(*dialog(), u"Kill 3 (≈180 MB)"_s);
     EXPECT_EQ(notice(), u"Killed 3/3 “<b>node</b>” processes (≈180 MB targeted)"_s);
-    QTest::mouseClick(buttonNamed(view, u"Dismiss"_s), Qt::LeftButton);
+    press(view, u"Dismiss"_s);
     EXPECT_EQ(notice(), QString());
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] <b>node</b> — 3/3 PIDs ok"_s));
 }
@@ -232,12 +226,12 @@ TEST_F(ProcessesViewTest, NamesOfAnyKindAreShownAndAskedAbout) {
     EXPECT_EQ(column(u"Name"_s).mid(1, 4), (QStringList{u"<i>a</i>&amp;"_s, QString::fromLatin1(endless),
                                                         QString::fromLatin1(endless), u"مدير الذاكرة"_s}));
     for (int row = 1; row < 6; row += 2) {
-        press(row, 2);
+        pressIn(row, 2);
         ASSERT_TRUE(dialog());
         dialog()->adjustSize();
         EXPECT_LT(dialog()->width(), 700) << row;
         QTest::keyClick(dialog(), Qt::Key_Escape);
-        letGo();
+        settle();
     }
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
 }
@@ -247,13 +241,13 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
     for (const qint32 pid : {100, 101})
         process(pid).path = "/Applications/Note.app/Contents/Helper";
     show();
-    press(0, 2);
-    QTest::mouseClick(buttonNamed(*dialog(), u"Quit Note (≈120 MB)"_s), Qt::LeftButton);
+    pressIn(0, 2);
+    press(*dialog(), u"Quit Note (≈120 MB)"_s);
     EXPECT_EQ(notice(), u"Note quit cleanly — 2 helpers closed (≈120 MB freed)"_s);
-    letGo();
-    press(0, 2);
+    settle();
+    pressIn(0, 2);
     fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
-    QTest::mouseClick(buttonNamed(*dialog(), u"Force-quit Note (no save prompt)"_s), Qt::LeftButton);
+    press(*dialog(), u"Force-quit Note (no save prompt)"_s);
     EXPECT_TRUE(notice().startsWith(u"Couldn't tell Note to quit"_s));
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
 }

@@ -32,21 +32,11 @@ struct QuickKillsTabTest : ModelFixture {
         tab.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&tab));
     }
-    void settle() {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
     void store(const QList<QuickKillPreset>& presets) {
         prefs.storeQuickKillPresets(presets);
         settle();
     }
-    QStringList column(int section) const {
-        QStringList texts;
-        for (int row = 0; row < table->model()->rowCount(); ++row)
-            texts.append(table->model()->index(row, section).data().toString());
-        return texts;
-    }
+    QStringList column(int section) const { return columnOf(*table->model(), section); }
     QStringList names() const { return column(1); }
     QuickKillEditorSheet* editor() { return tab.findChild<QuickKillEditorSheet*>(); }
     void type(const QString& field, const QString& text) {

@@ -5,6 +5,7 @@
 #include "UI/ModelFixture.h"
 #include "UI/Settings/TabButton.h"
 #include "support/FakeLoginItem.h"
+#include "support/Files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,11 +23,7 @@ struct SettingsTest : testing::Test {
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    QStringList stored() const {
-        QFile file(settings.path);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n')
-                                              : QStringList();
-    }
+    QByteArray stored() const { return contentOf(settings.path); }
     bool isOn(const QString& toggle) { return control<Switch>(window, toggle)->isChecked(); }
     QString chosen(const QString& picker) { return control<QComboBox>(window, picker)->currentText(); }
 };
@@ -58,13 +55,9 @@ TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
 }
 
 TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
-    struct Case {
-        Tab tab;
-        QString name;
-        QString choice; ///< of a picker, else "More" or "Less" of a stepper, else empty
-        QString line;   ///< in the file from then on
-    };
-    const Case cases[] = {
+    // Its name, the choice of a picker, else "More" or "Less" of a stepper, and the line from then on in the
+    // file.
+    const std::tuple<Tab, QString, QString, QString> cases[] = {
         {Tab::general, u"Start at login"_s, {}, u"pref.startAtLogin=false"_s},
         {Tab::general, u"Show floating widget on launch"_s, {}, u"pref.showWidgetOnLaunch=true"_s},
         {Tab::general, u"Show in Dock"_s, {}, u"pref.showInDock=false"_s},
@@ -85,15 +78,16 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         {Tab::alerts, u"Threshold"_s, u"More"_s, u"pref.alertCachesBig_gb=6"_s},
         {Tab::alerts, u"Caches reclaimable"_s, {}, u"pref.alertCachesBig_enabled=false"_s},
     };
-    for (const Case& c : cases) {
-        window.select(c.tab);
-        if (c.choice.isEmpty())
-            click(window, c.name);
-        else if (control<QComboBox>(window, c.name))
-            choose(window, c.name, c.choice);
+    for (const auto& [tab, name, choice, line] : cases) {
+        window.select(tab);
+        if (choice.isEmpty())
+            click(window, name);
+        else if (control<QComboBox>(window, name))
+            choose(window, name, choice);
         else
-            step(window, c.choice, c.name);
-        EXPECT_TRUE(stored().contains(c.line)) << qPrintable(c.line + u"\nnot in\n"_s + stored().join(u'\n'));
+            step(window, choice, name);
+        EXPECT_TRUE(stored().split('\n').contains(line.toUtf8())) << line.toStdString() << "\nnot in\n"
+                                                                  << stored().data();
     }
     Preferences reread(settings.path);
     SettingsScene again(reread, loginItem);
