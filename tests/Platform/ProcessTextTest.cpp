@@ -78,9 +78,8 @@ TEST(ProcessText, LongNamesAreCompleted) {
 
     // The shell names itself so, and says when it has.
     const std::string rename = "printf %s a-worker-in-its > /proc/$$/comm; printf ! >&0; read line";
-    for (const auto& [first, expected] : std::vector<std::pair<std::string, QByteArray>>{
-             {"/opt/bin/a-worker-in-its-pool", "a-worker-in-its-pool"},
-             {"/opt/bin/worker", "a-worker-in-its"}}) {
+    for (const auto& [first, expected] : {std::pair("/opt/bin/a-worker-in-its-pool", "a-worker-in-its-pool"),
+                                          {"/opt/bin/worker", "a-worker-in-its"}}) {
         const Child byArgument("/bin/sh", {first, "-c", rename});
         ASSERT_EQ(byArgument.heard(), '!');
         EXPECT_EQ(table.origin(byArgument.pid()).shortName, expected);

@@ -2,11 +2,11 @@
 
 #include "Platform/Child.h"
 #include "Platform/RecordedTree.h"
+#include "support/Files.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QThread>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -89,18 +89,12 @@ TEST(ToolRunner, GivesNothingToRead) {
 }
 
 TEST(ToolRunner, TerminatesWhatTakesTooLong) {
-    struct Case {
-        QString command;
-        int status;
-        qint64 leastMs;
-        qint64 mostMs;
-    };
-    for (const auto& [command, status, leastMs, mostMs] : {
-             Case{u"exec sleep 60"_s, -1, 200, 1100},
-             Case{u"trap 'exit 5' TERM; while :; do sleep 0.05; done"_s, 5, 200, 1100},
-             Case{u"trap '' TERM; exec sleep 60"_s, -1, 1200, 4000},
-             Case{u"exit 4"_s, 4, 0, 200},
-         }) {
+    const std::tuple<QString, int, qint64, qint64> cases[] = {
+        {u"exec sleep 60"_s, -1, 200, 1100},
+        {u"trap 'exit 5' TERM; while :; do sleep 0.05; done"_s, 5, 200, 1100},
+        {u"trap '' TERM; exec sleep 60"_s, -1, 1200, 4000},
+        {u"exit 4"_s, 4, 0, 200}};
+    for (const auto& [command, status, leastMs, mostMs] : cases) {
         QElapsedTimer time;
         time.start();
         const ToolResult result = runShell(command, 200ms);
@@ -132,27 +126,18 @@ TEST(ToolRunner, LeavesNoChildBehindAndIsNotHeldUpByOne) {
         time.start();
         outputOf(hostCommand(u"leave"_s, command.arg(note)));
         EXPECT_LT(time.elapsed(), 5000) << qPrintable(command);
-        QFile file(note);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(command);
-        const QByteArray pid = file.readAll().trimmed();
+        const QByteArray pid = contentOf(note).trimmed();
         ASSERT_GT(pid.toInt(), 1) << qPrintable(command);
-        for (time.start(); isRunning(pid) && time.elapsed() < 5000;)
-            QThread::msleep(20);
-        EXPECT_FALSE(isRunning(pid)) << qPrintable(command);
+        EXPECT_TRUE(QTest::qWaitFor([&pid] { return !isRunning(pid); })) << qPrintable(command);
     }
 }
 
 TEST(ToolRunner, AnswersForToolsThatLinuxLacks) {
     const LinuxToolRunner runner(u"/own"_s);
-    for (const auto& [path, program] : {
-             std::pair(u"/usr/bin/memory_pressure"_s, u"/own/memory_pressure"_s),
-             std::pair(u"/usr/bin/osascript"_s, u"/own/osascript"_s),
-             std::pair(u"/usr/sbin/purge"_s, u"/own/purge"_s),
-             std::pair(u"/usr/bin/du"_s, u"/usr/bin/du"_s),
-             std::pair(u"/bin/sh"_s, u"/bin/sh"_s),
-             std::pair(u"/opt/bin/osascript"_s, u"/opt/bin/osascript"_s),
-         })
-        EXPECT_EQ(runner.programFor(path), program);
+    for (const auto& path : {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s})
+        EXPECT_EQ(runner.programFor(path), u"/own"_s + path.mid(path.lastIndexOf(u'/')));
+    for (const auto& path : {u"/usr/bin/du"_s, u"/bin/sh"_s, u"/opt/bin/osascript"_s})
+        EXPECT_EQ(runner.programFor(path), path);
     const ToolResult refused = run(u"/usr/bin/osascript"_s, {u"-e"_s, u"beep"_s});
     EXPECT_EQ(refused.exitStatus, 2);
 }

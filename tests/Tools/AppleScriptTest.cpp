@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
+
 using Tools::AppleScript;
 using Tools::parseAppleScript;
 using Verb = AppleScript::Verb;
@@ -32,23 +34,15 @@ TEST(AppleScript, RefusesEverythingButItsThreeForms) {
 }
 
 TEST(AppleScript, ReadsBackEveryNameAsItWasWritten) {
-    const auto escaped = [](const std::string& name) {
-        std::string text;
-        for (const char character : name)
-            text += character == '"' ? std::string("\\\"") : std::string(1, character);
-        return text;
-    };
     for (const std::string name : {"Google Chrome", "a\"b", "\"", "\"\"", "a\\b", "a\\", "a\\\"b", "\\\\\"",
                                    "$(touch x)", "'; rm -rf ~ #", "x\" to quit", "Zoë", "\xff\xfe"}) {
-        const std::string start = "tell application \"" + escaped(name);
-        const auto plain = parseAppleScript(start + "\" to quit");
-        ASSERT_TRUE(plain) << name;
-        EXPECT_EQ(plain->application, name);
-        EXPECT_EQ(plain->verb, Verb::Quit);
-        const auto forced = parseAppleScript(start + "\" to quit saving no");
-        ASSERT_TRUE(forced) << name;
-        EXPECT_EQ(forced->application, name);
-        EXPECT_EQ(forced->verb, Verb::QuitWithoutSaving);
+        const std::string escaped = std::regex_replace(name, std::regex("\""), "\\\"");
+        for (const auto& [end, verb] : {std::pair("", Verb::Quit), {" saving no", Verb::QuitWithoutSaving}}) {
+            const auto script = parseAppleScript("tell application \"" + escaped + "\" to quit" + end);
+            ASSERT_TRUE(script) << name;
+            EXPECT_EQ(script->application, name);
+            EXPECT_EQ(script->verb, verb);
+        }
     }
 }
 

@@ -4,19 +4,17 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <signal.h>
 #include <sys/prctl.h>
 
-#include <functional>
 #include <memory>
 #include <thread>
 
@@ -31,15 +29,6 @@ constexpr Tools::QuitPatience shortPatience{
     .afterClosing = 5s, .beforeForce = 300ms, .afterEachSignal = 300ms};
 constexpr Tools::QuitPatience noPatience{
     .afterClosing = 300ms, .beforeForce = 300ms, .afterEachSignal = 300ms};
-
-bool waitFor(const std::function<bool()>& isTrue, std::chrono::milliseconds patience = 10s) {
-    QElapsedTimer time;
-    for (time.start(); time.elapsed() < patience.count(); QThread::msleep(20)) {
-        if (isTrue())
-            return true;
-    }
-    return false;
-}
 
 struct End {
     void operator()(QProcess* process) const {
@@ -77,8 +66,7 @@ protected:
     void SetUp() override {
         m_server = spawn(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"640x480x24"_s,
                                      u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
-        ASSERT_TRUE(waitFor([this] { return m_server->waitForReadyRead(100) || m_server->canReadLine(); }))
-            << "Xvfb is needed";
+        ASSERT_TRUE(QTest::qWaitFor([this] { return m_server->canReadLine(); }, 10'000)) << "Xvfb is needed";
         qputenv("DISPLAY", ':' + m_server->readLine().trimmed());
         qunsetenv("XAUTHORITY");
         if (qstrlen(GetParam()) == 0)
@@ -88,7 +76,7 @@ protected:
             const auto xprop = spawn(u"xprop"_s, {u"-root"_s, u"_NET_CLIENT_LIST"_s});
             return xprop->waitForFinished() && xprop->readAll().contains("window id");
         };
-        ASSERT_TRUE(waitFor(isManaging)) << GetParam() << " and xprop are needed";
+        ASSERT_TRUE(QTest::qWaitFor(isManaging, 10'000)) << GetParam() << " and xprop are needed";
     }
 
     /// A copy of the program `original` under `path`.
@@ -108,7 +96,7 @@ protected:
         // A window manager that is just starting may miss a window.
         for (int tries = 0; tries < 5 && !listed; ++tries) {
             process = spawn(program, QStringList({name, manner}) + more);
-            listed = waitFor([&] { return isListed(name.toStdString()); }, 4s);
+            listed = QTest::qWaitFor([&] { return isListed(name.toStdString()); }, 4000);
         }
         EXPECT_TRUE(listed) << qPrintable(name);
         return process;

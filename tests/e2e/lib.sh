@@ -2,6 +2,9 @@
 #
 #   make_machine_private FOLDER...   begins the script anew where it can harm nobody
 #   check WHAT COMMAND...            prints "ok: WHAT" once COMMAND succeeds, fails after ten seconds
+#   shows WHAT NAME, hides WHAT NAME the same for what a screen reader finds under a name, or no more
+#   press NAME [KEY]                 takes the keyboard to a control and presses a key there
+#   start_listening                  begins a session that a screen reader can ask; before the program starts
 #   fail WHAT                        ends the script, with a picture where SCREENSHOT names a file
 
 fail() {
@@ -18,6 +21,21 @@ check() {
     shift
     within_ten_seconds "$@" || fail "$what"
     echo "ok: $what"
+}
+screen() { tests/e2e/screen.py "$@"; }
+shows() { screen find "$2" >/dev/null || fail "$1"; echo "ok: $1"; }
+hides() { screen gone "$2" || fail "$1"; echo "ok: $1"; }
+press() {
+    screen tab "$1" || fail "the keyboard reaches \"$1\""
+    xdotool key "${2:-space}"
+}
+start_listening() {
+    unset DBUS_SESSION_BUS_ADDRESS
+    export LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+    start_display
+    start_bus
+    dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >/dev/null
+    home=$private_files/home
 }
 not() { ! "$@"; }
 alive() { kill -0 "$1" 2>/dev/null; }

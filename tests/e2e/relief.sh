@@ -11,14 +11,6 @@ cd "$(dirname "$0")/../.."
 . tests/e2e/lib.sh
 make_machine_private "$PWD" "$(dirname "$program")" "$(dirname "$idle_process")"
 
-screen() { tests/e2e/screen.py "$@"; }
-shows() { screen find "$2" >/dev/null || fail "$1"; echo "ok: $1"; }
-hides() { screen gone "$2" || fail "$1"; echo "ok: $1"; }
-# Takes the keyboard to a control and presses a key there.
-press() {
-    screen tab "$1" || fail "the keyboard reaches \"$1\""
-    xdotool key "${2:-space}"
-}
 open_section() { screen click "$1" || fail "the section $1"; }
 
 # Starts IDLE_PROCESS under a name of its own, with what else stands in its arguments; sets `spawned`.
@@ -39,12 +31,7 @@ logged() {
     check "the log has one more line: $2" log_ends "[-0-9]+T[:0-9]+Z"$'\t'"$1"$'\t'"ok"$'\t'"[0-9]+"$'\t'"$2"
 }
 
-unset DBUS_SESSION_BUS_ADDRESS
-export LC_ALL=C.UTF-8
-start_display
-start_bus
-dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >/dev/null
-home=$private_files/home
+start_listening
 children=$private_files/children
 log=$home/Library/Logs/Tavrin/actions.log
 mkdir -p "$home/.config/Tavrin" "$home/.npm/_cacache" "$home/outside" "$home/tools" "$children"
@@ -85,7 +72,7 @@ second_worker=$spawned
 start_idle bystander 2 polite job=day
 bystander=$spawned
 
-export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb
 unset XDG_CACHE_HOME XDG_DATA_HOME
 spawn "$program"
 pid=$spawned

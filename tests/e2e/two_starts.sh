@@ -8,12 +8,6 @@ cd "$(dirname "$0")/../.."
 . scripts/lib/display.sh
 . tests/e2e/lib.sh
 
-screen() { tests/e2e/screen.py "$@"; }
-shows() { screen find "$2" >/dev/null || fail "$1"; echo "ok: $1"; }
-press() {
-    screen tab "$1" || fail "the keyboard reaches \"$1\""
-    xdotool key "${2:-space}"
-}
 stored() { grep -qxF "$1" "$settings"; } 2>/dev/null
 place() { xdotool getwindowgeometry "$main" | awk '/Position|Geometry/ { print $2 }'; }
 is_back() { [ "$(place)" = "$before" ] || { echo "$before, then $(place)" >&2 && return 1; }; }
@@ -35,14 +29,9 @@ quit() {
     wait "$pid" || fail "it ends well, not with $?"
 }
 
-unset DBUS_SESSION_BUS_ADDRESS
-export LC_ALL=C.UTF-8
-start_display
-start_bus
-dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >/dev/null
-home=$private_files/home
+start_listening
 mkdir "$home"
-export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb
 settings=$home/.config/Tavrin/Tavrin.ini
 autostart=$home/.config/autostart/tavrin.desktop
 

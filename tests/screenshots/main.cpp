@@ -1,7 +1,6 @@
 // Renders every screen in both schemes as OUTDIR/NAME-light.png and OUTDIR/NAME-dark.png, on the figures of
 // a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
 
-#include "AppModel.h"
 #include "Core/MessageCenter.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
@@ -13,6 +12,7 @@
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
 #include "UI/MessageBanner.h"
+#include "UI/ModelFixture.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -28,10 +28,7 @@
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakeLoginItem.h"
-#include "support/FakePlatform.h"
 #include "support/ScriptedFeed.h"
-#include "support/TemporaryHome.h"
-#include "support/TemporarySettings.h"
 
 #include <QCoroTask>
 
@@ -42,12 +39,13 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTest>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 #include <cmath>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -80,13 +78,11 @@ constexpr Actor cast[] = {
 };
 
 /// A machine that has been busy for a while.
-struct Stage {
-    FakePlatform fakes;
-    TemporarySettings settings;
-    AppModel model{fakes.platform(), settings.preferences};
+struct Stage : ModelFixture {
     ScriptedFeed* feed = new ScriptedFeed;
-    MessageCenter messages{std::unique_ptr<FeedSource>(feed), settings.preferences.file()};
+    MessageCenter messages{std::unique_ptr<FeedSource>(feed), prefs.file()};
 
+    void TestBody() override {}
     Stage() {
         qint32 pid = 812;
         for (const Actor& actor : cast) {
@@ -146,7 +142,7 @@ public:
     }
 
     void save(const QPixmap& picture, const QString& name, bool dark) {
-        const QString file = QStringLiteral("%1/%2-%3.png").arg(m_folder, name, dark ? u"dark" : u"light");
+        const QString file = u"%1/%2-%3.png"_s.arg(m_folder, name, dark ? u"dark" : u"light");
         if (!picture.save(file))
             m_failed = true;
     }
@@ -191,56 +187,52 @@ void addServers(Stage& stage) {
 void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     auto* root = window.findChild<RootView*>();
     root->select(RootView::Tab::optimize);
-    camera.take(window, QStringLiteral("optimize-quiet"));
+    camera.take(window, u"optimize-quiet"_s);
     root->select(RootView::Tab::cleanup);
-    camera.take(window, QStringLiteral("cleanup-unscanned"));
+    camera.take(window, u"cleanup-unscanned"_s);
 
-    const TemporaryHome home;
     for (const CacheTarget& target : CacheTarget::defaults()) {
         for (const QString& path : target.paths)
-            stage.fakes.places->elsewhere[path] = {
-                home.makeFolder(QString(path)
-                                    .remove(QStringLiteral("~/"))
-                                    .replace(QStringLiteral("/tmp"), QStringLiteral("tmp")))};
+            stage.fakes.places->elsewhere[path] = {stage.home.makeFolder(path.mid(path.indexOf(u'/') + 1))};
     }
     scriptCaches(stage);
     addServers(stage);
     QCoro::waitFor(stage.model.rescanCaches());
     stage.play(90, 24, 8.1);
-    camera.take(window, QStringLiteral("cleanup"));
+    camera.take(window, u"cleanup"_s);
     window.findChildren<CacheCard*>().first()->click();
-    camera.take(*window.findChild<CacheDetailDrawer*>(), QStringLiteral("cleanup-drawer"));
+    camera.take(*window.findChild<CacheDetailDrawer*>(), u"cleanup-drawer"_s);
     window.findChild<CacheDetailDrawer*>()->findChildren<PushButton*>().last()->click();
-    camera.take(*window.findChild<ConfirmDialog*>(), QStringLiteral("cleanup-confirm"));
+    camera.take(*window.findChild<ConfirmDialog*>(), u"cleanup-confirm"_s);
     delete window.findChild<CacheDetailDrawer*>();
     root->select(RootView::Tab::processes);
-    camera.take(window, QStringLiteral("processes"));
+    camera.take(window, u"processes"_s);
     auto* processes = window.findChild<ProcessesView*>();
     auto* table = processes->findChild<QTreeView*>();
     table->setCurrentIndex(table->model()->index(3, 0));
     processes->findChild<Switch*>()->click();
-    camera.take(window, QStringLiteral("processes-grouped"));
+    camera.take(window, u"processes-grouped"_s);
     processes->findChild<Switch*>()->click();
     root->select(RootView::Tab::optimize);
     stage.play(1, 24, 8.1);
-    camera.take(window, QStringLiteral("optimize"));
+    camera.take(window, u"optimize"_s);
     window.resize(1600, 1000);
     window.findChild<OptimizeView*>()->findChildren<PresetTile*>().at(3)->click();
-    camera.take(window, QStringLiteral("optimize-large"));
+    camera.take(window, u"optimize-large"_s);
     root->select(RootView::Tab::cleanup);
-    camera.take(window, QStringLiteral("cleanup-large"));
+    camera.take(window, u"cleanup-large"_s);
     root->select(RootView::Tab::processes);
     table->setCurrentIndex(table->model()->index(3, 0));
-    camera.take(window, QStringLiteral("processes-large"));
+    camera.take(window, u"processes-large"_s);
 }
 
 void shootOverview(Camera& camera) {
     Stage calm;
     calm.play(150, 24, 8.1);
-    MainWindow window(calm.model, calm.settings.preferences, calm.messages);
-    camera.take(window, QStringLiteral("overview"));
+    MainWindow window(calm.model, calm.prefs, calm.messages);
+    camera.take(window, u"overview"_s);
     window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
-    camera.take(window, QStringLiteral("overview-open-group"));
+    camera.take(window, u"overview-open-group"_s);
 
     shootSections(camera, window, calm);
 
@@ -248,10 +240,10 @@ void shootOverview(Camera& camera) {
     pressed.fakes.host->swap = 5 * GiB;
     pressed.fakes.host->thermal = 2;
     pressed.play(150, 92, 14.6);
-    MainWindow busy(pressed.model, pressed.settings.preferences, pressed.messages);
-    camera.take(busy, QStringLiteral("overview-alerts"));
+    MainWindow busy(pressed.model, pressed.prefs, pressed.messages);
+    camera.take(busy, u"overview-alerts"_s);
     busy.resize(1600, 1000);
-    camera.take(busy, QStringLiteral("overview-alerts-large"));
+    camera.take(busy, u"overview-alerts-large"_s);
 }
 
 void shootFreeRAM(Camera& camera) {
@@ -261,14 +253,14 @@ void shootFreeRAM(Camera& camera) {
     stage.play(1, 24, 13.1);
     stage.model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     auto* sheet = new FreeRAMSheet(stage.model, nullptr);
-    camera.take(*sheet, QStringLiteral("free-ram"));
+    camera.take(*sheet, u"free-ram"_s);
     stage.fakes.host->memory->active -= 900 * MiB / 4096;
     QTest::keyClick(sheet, Qt::Key_Return);
     QTest::qWait(50);
-    camera.take(*sheet, QStringLiteral("free-ram-result"));
+    camera.take(*sheet, u"free-ram-result"_s);
     stage.fakes.processes->listing.clear();
     stage.play(1, 24, 13.1);
-    camera.take(*sheet, QStringLiteral("free-ram-empty"));
+    camera.take(*sheet, u"free-ram-empty"_s);
     delete sheet;
 }
 
@@ -279,26 +271,18 @@ void shootPanels(Camera& camera) {
     WidgetWindow unused{Desktop()};
     MenuBarPanel panel(stage.model, unused);
     panel.setFixedSize(320, 360);
-    camera.take(panel, QStringLiteral("panel"));
+    camera.take(panel, u"panel"_s);
 
     WidgetView widget(stage.model);
-    camera.take(widget, QStringLiteral("widget"));
+    camera.take(widget, u"widget"_s);
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
     QCoreApplication::sendEvent(&widget, &enter);
-    camera.take(widget, QStringLiteral("widget-hover"));
-}
-
-QAbstractButton* buttonOf(const QWidget& parent, const QString& text) {
-    for (auto* button : parent.findChildren<QAbstractButton*>()) {
-        if (button->text() == text)
-            return button;
-    }
-    qFatal("no button %s", qPrintable(text));
+    camera.take(widget, u"widget-hover"_s);
 }
 
 void shootHistory(Camera& camera) {
     const TemporaryHome home;
-    const QString log = QStringLiteral("Library/Logs/Tavrin/actions.log");
+    const QString log = u"Library/Logs/Tavrin/actions.log"_s;
     QByteArray lines;
     constexpr const char* actions[] = {
         "clean\tok\t2148532224\tnpm / pnpm / yarn",
@@ -317,61 +301,50 @@ void shootHistory(Camera& camera) {
     tab.show();
     auto* table = tab.findChild<QTreeView*>();
     table->setCurrentIndex(table->model()->index(2, 0));
-    camera.take(tab, QStringLiteral("history"));
-    buttonOf(tab, QStringLiteral("Clear log"))->click();
-    camera.take(*tab.findChild<ConfirmDialog*>(), QStringLiteral("history-clear"));
+    camera.take(tab, u"history"_s);
+    press(tab, u"Clear log"_s);
+    camera.take(*tab.findChild<ConfirmDialog*>(), u"history-clear"_s);
     delete tab.findChild<ConfirmDialog*>();
-    buttonOf(tab, QStringLiteral("Export CSV…"))->click();
-    camera.take(*tab.findChild<QFileDialog*>(), QStringLiteral("history-export"));
+    press(tab, u"Export CSV…"_s);
+    camera.take(*tab.findChild<QFileDialog*>(), u"history-export"_s);
     delete tab.findChild<QFileDialog*>();
     table->sortByColumn(4, Qt::AscendingOrder);
-    camera.take(tab, QStringLiteral("history-sorted"));
+    camera.take(tab, u"history-sorted"_s);
     tab.hide();
     home.makeFile(log, {});
-    camera.take(tab, QStringLiteral("history-empty"));
+    camera.take(tab, u"history-empty"_s);
 }
 
 /// The announcements of all severities, one under the other, and one over a section.
 void shootBanners(Camera& camera) {
     using Severity = Message::Severity;
-    const QString link = QStringLiteral("https://tavrin.example/news");
-    const QList<Message> messages = {
-        {.id = QStringLiteral("1"),
-         .severity = Severity::info,
-         .title = QStringLiteral("Thank you for trying Tavrin"),
-         .body = QStringLiteral("A short tour shows what the four sections are for."),
-         .actionLabel = QStringLiteral("Take the Tour"),
-         .actionURL = link},
-        {.id = QStringLiteral("2"),
-         .severity = Severity::warn,
-         .title = QStringLiteral("Cleaning the container cache may take long"),
-         .body = QStringLiteral(
-             "With the latest container runtime the prune command waits for running builds. Until "
+    const auto says = [](Severity severity, const QString& title, const QString& body,
+                         const std::optional<QString>& action = {}) {
+        return Message{.id = title,
+                       .severity = severity,
+                       .title = title,
+                       .body = body,
+                       .actionLabel = action,
+                       .actionURL = u"https://tavrin.example/news"_s};
+    };
+    const Message messages[] = {
+        says(Severity::info, u"Thank you for trying Tavrin"_s,
+             u"A short tour shows what the four sections are for."_s, u"Take the Tour"_s),
+        says(Severity::warn, u"Cleaning the container cache may take long"_s,
+             u"With the latest container runtime the prune command waits for running builds. Until "
              "that is repaired there, stop your builds before you clean, or leave that target out: "
              "the other targets are not affected by it. If a clean seems to hang, it goes on as "
              "soon as the last build ends; nothing is lost, and the freed space is counted when it "
              "is done. We shall take this notice back once a repaired runtime has been out for a "
-             "while, and you need not do anything about it then."),
-         .actionLabel = QStringLiteral("Details"),
-         .actionURL = link},
-        {.id = QStringLiteral("3"),
-         .severity = Severity::update,
-         .title = QStringLiteral("Tavrin 1.2 is out"),
-         .body = QStringLiteral("It finds the caches of two more package managers."),
-         .actionLabel = QStringLiteral("Get It"),
-         .actionURL = link},
-        {.id = QStringLiteral("4"),
-         .severity = Severity::upgrade,
-         .title = QStringLiteral("Watch more than one machine"),
-         .body =
-             QStringLiteral("The team edition shows all your workstations and build servers in one window."),
-         .actionLabel = QStringLiteral("See the Team Edition"),
-         .actionURL = link},
-        {.id = QStringLiteral("5"),
-         .severity = Severity::info,
-         .title = QStringLiteral("The site is being moved this weekend"),
-         .body = QStringLiteral("Downloads may fail for an hour.")},
-    };
+             "while, and you need not do anything about it then."_s,
+             u"Details"_s),
+        says(Severity::update, u"Tavrin 1.2 is out"_s, u"It finds the caches of two more package managers."_s,
+             u"Get It"_s),
+        says(Severity::upgrade, u"Watch more than one machine"_s,
+             u"The team edition shows all your workstations and build servers in one window."_s,
+             u"See the Team Edition"_s),
+        says(Severity::info, u"The site is being moved this weekend"_s,
+             u"Downloads may fail for an hour."_s)};
     QList<std::shared_ptr<Stage>> stages;
     QWidget sheet;
     sheet.resize(800, 0);
@@ -383,12 +356,12 @@ void shootBanners(Camera& camera) {
         QCoro::waitFor(stages.last()->messages.refresh());
         column->addWidget(new MessageBanner(stages.last()->messages));
     }
-    camera.take(sheet, QStringLiteral("banners"));
+    camera.take(sheet, u"banners"_s);
 
     Stage& stage = *stages[2];
     stage.play(150, 24, 8.1);
-    MainWindow window(stage.model, stage.settings.preferences, stage.messages);
-    camera.take(window, QStringLiteral("overview-banner"));
+    MainWindow window(stage.model, stage.prefs, stage.messages);
+    camera.take(window, u"overview-banner"_s);
 }
 
 void shootSettings(Camera& camera) {
@@ -397,27 +370,27 @@ void shootSettings(Camera& camera) {
     SettingsScene window(settings.preferences, loginItem);
     const auto shoot = [&](SettingsScene::Tab tab, const QString& name) {
         window.select(tab);
-        camera.take(window, QStringLiteral("settings-") + name);
+        camera.take(window, u"settings-"_s + name);
     };
-    shoot(SettingsScene::Tab::general, QStringLiteral("general"));
-    loginItem.failure = QStringLiteral("/home/ana/.config/autostart/tavrin.desktop: No space left on device");
+    shoot(SettingsScene::Tab::general, u"general"_s);
+    loginItem.failure = u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s;
     window.findChild<GeneralTab*>()->findChild<Switch*>()->click();
-    shoot(SettingsScene::Tab::general, QStringLiteral("general-error"));
+    shoot(SettingsScene::Tab::general, u"general-error"_s);
     settings.preferences.pollIntervalSeconds.set(3);
-    shoot(SettingsScene::Tab::sampling, QStringLiteral("sampling"));
+    shoot(SettingsScene::Tab::sampling, u"sampling"_s);
     settings.preferences.alertCPUHotEnabled.set(false);
     settings.preferences.alertRAMLowFreeGB.set(16);
-    shoot(SettingsScene::Tab::alerts, QStringLiteral("alerts"));
+    shoot(SettingsScene::Tab::alerts, u"alerts"_s);
     QScrollBar* scroll = window.findChild<AlertsTab*>()->verticalScrollBar();
     scroll->setValue(scroll->maximum());
-    shoot(SettingsScene::Tab::alerts, QStringLiteral("alerts-end"));
+    shoot(SettingsScene::Tab::alerts, u"alerts-end"_s);
     auto* table = window.findChild<PresetTable*>();
-    shoot(SettingsScene::Tab::quickKills, QStringLiteral("quick-kills"));
+    shoot(SettingsScene::Tab::quickKills, u"quick-kills"_s);
     table->setCurrentIndex(table->model()->index(3, 0));
     QTest::keyClick(table, Qt::Key_Return);
-    camera.take(*window.findChild<QuickKillEditorSheet*>(), QStringLiteral("settings-editor"));
+    camera.take(*window.findChild<QuickKillEditorSheet*>(), u"settings-editor"_s);
     settings.preferences.storeQuickKillPresets({});
-    shoot(SettingsScene::Tab::quickKills, QStringLiteral("quick-kills-empty"));
+    shoot(SettingsScene::Tab::quickKills, u"quick-kills-empty"_s);
 }
 
 /// Every symbol at 16, 24 and 48 points with its name.
@@ -447,11 +420,7 @@ QPixmap contactSheet(double ratio) {
 
 /// The tray icon on a light and on a dark tray, at its real sizes and enlarged.
 QPixmap traySheet(double ratio) {
-    const QList<QStringList> contents{{},
-                                      {QStringLiteral("7")},
-                                      {QStringLiteral("100")},
-                                      {QStringLiteral("23"), QStringLiteral("61")},
-                                      {QStringLiteral("100"), QStringLiteral("99")}};
+    const QList<QStringList> contents{{}, {u"7"_s}, {u"100"_s}, {u"23"_s, u"61"_s}, {u"100"_s, u"99"_s}};
     QPixmap sheet(QSize(760, 300) * ratio);
     sheet.setDevicePixelRatio(ratio);
     sheet.fill(Theme::color(Theme::Role::windowFill));
@@ -470,8 +439,8 @@ QPixmap traySheet(double ratio) {
 void shootSheets(Camera& camera) {
     for (const bool dark : {false, true}) {
         Theme::apply(dark);
-        camera.save(contactSheet(qApp->devicePixelRatio()), QStringLiteral("symbols"), dark);
-        camera.save(traySheet(qApp->devicePixelRatio()), QStringLiteral("tray"), dark);
+        camera.save(contactSheet(qApp->devicePixelRatio()), u"symbols"_s, dark);
+        camera.save(traySheet(qApp->devicePixelRatio()), u"tray"_s, dark);
     }
 }
 
@@ -480,14 +449,14 @@ void shootSheets(Camera& camera) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(u"Fusion"_s);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
         std::fprintf(stderr, "usage: tavrin_screenshots OUTDIR\n");
         return 2;
     }
     // The off-screen platform has no desktop font of its own.
-    if (QFontDatabase::families().contains(QStringLiteral("Inter")))
-        QApplication::setFont(QFont(QStringLiteral("Inter"), 10));
+    if (QFontDatabase::families().contains(u"Inter"_s))
+        QApplication::setFont(QFont(u"Inter"_s, 10));
     Camera camera(QString::fromLocal8Bit(argv[1]));
     shootOverview(camera);
     shootFreeRAM(camera);
