@@ -1,4 +1,5 @@
 #include "Platform/Linux/LinuxPlaces.h"
+#include "support/Each.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -10,10 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 TEST(LinuxPlaces, NamesThePlaceOfLinuxWhereTheCataloguePathDoesNotExist) {
-    const struct {
-        QString path;
-        QStringList linuxPlaces;
-    } cases[] = {
+    const std::pair<QString, QStringList> cases[] = {
         {u"~/Library/Caches"_s, {u".cache"_s}},
         {u"~/Library/Caches/Homebrew"_s, {u".cache/Homebrew"_s}},
         {u"~/Library/Caches/Yarn"_s, {u".cache/yarn"_s}},
@@ -26,23 +24,18 @@ TEST(LinuxPlaces, NamesThePlaceOfLinuxWhereTheCataloguePathDoesNotExist) {
         {u"~/Downloads"_s, {u"Geladenes"_s}},
         {u"~/Desktop"_s, {u"Arbeitsfläche"_s}},
     };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.path.toStdString());
+    for (const auto& [path, linuxPlaces] : cases) {
+        SCOPED_TRACE(path.toStdString());
         TemporaryHome home;
         const LinuxPlaces places;
-        home.makeFile(u".config/user-dirs.dirs"_s, QStringLiteral("XDG_DOWNLOAD_DIR=\"$HOME/Geladenes\"\n"
-                                                                  "XDG_DESKTOP_DIR=\"$HOME/Arbeitsfläche\"\n")
-                                                       .toUtf8());
-        const QString asItStands = home.path(one.path.mid(2));
-        EXPECT_EQ(places.locate(one.path), QStringList(asItStands)) << "neither exists";
-
-        QStringList expected;
-        for (const QString& place : one.linuxPlaces)
-            expected.append(home.makeFolder(place));
-        EXPECT_EQ(places.locate(one.path), expected);
-
-        home.makeFolder(one.path.mid(2));
-        EXPECT_EQ(places.locate(one.path), QStringList(asItStands)) << "both exist";
+        home.makeFile(u".config/user-dirs.dirs"_s, "XDG_DOWNLOAD_DIR=\"$HOME/Geladenes\"\n"
+                                                   "XDG_DESKTOP_DIR=\"$HOME/Arbeitsfläche\"\n");
+        const QString asItStands = home.path(path.mid(2));
+        EXPECT_EQ(places.locate(path), QStringList(asItStands)) << "neither exists";
+        const auto made = each(linuxPlaces, [&](const QString& place) { return home.makeFolder(place); });
+        EXPECT_EQ(places.locate(path), made);
+        home.makeFolder(path.mid(2));
+        EXPECT_EQ(places.locate(path), QStringList(asItStands)) << "both exist";
     }
 }
 
@@ -88,23 +81,17 @@ TEST(LinuxPlaces, NeverAnswersWithTheHomeFolderOrWhatHoldsIt) {
 TEST(LinuxPlaces, SeesWritableMountsInside) {
     TemporaryHome home;
     const QString folder = home.makeFolder(u"the cache"_s);
-    const struct {
-        QString mountPoint;
-        QString options;
-        bool reached;
-    } cases[] = {
+    const std::tuple<QString, QString, bool> cases[] = {
         {folder + u"/inside"_s, u"rw,relatime"_s, true},   {folder + u"/deep/er"_s, u"rw"_s, true},
         {folder + u"/image"_s, u"ro,nosuid"_s, false},     {folder, u"rw,relatime"_s, false},
         {folder + u"2/inside"_s, u"rw,relatime"_s, false}, {u"/"_s, u"rw,relatime"_s, false},
     };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.mountPoint.toStdString());
-        QString escaped = one.mountPoint;
-        escaped.replace(u' ', u"\\040"_s);
-        const QString line =
-            u"36 35 98:0 /root %1 %2 master:1 - ext4 /dev/sdb1 rw\n"_s.arg(escaped, one.options);
+    for (const auto& [mountPoint, options, reached] : cases) {
+        SCOPED_TRACE(mountPoint.toStdString());
+        const QString escaped = QString(mountPoint).replace(u' ', u"\\040"_s);
+        const QString line = u"36 35 98:0 /root %1 %2 master:1 - ext4 /dev/sdb1 rw\n"_s.arg(escaped, options);
         const LinuxPlaces places(home.makeFile(u"mountinfo"_s, line.toUtf8()).toStdString());
-        EXPECT_EQ(places.reachesMount(folder), one.reached);
+        EXPECT_EQ(places.reachesMount(folder), reached);
     }
     EXPECT_TRUE(LinuxPlaces("/no/such/table").reachesMount(folder));
     EXPECT_FALSE(LinuxPlaces().reachesMount(folder));

@@ -9,27 +9,18 @@ using Tools::parseAppleScript;
 using Verb = AppleScript::Verb;
 
 TEST(AppleScript, RefusesEverythingButItsThreeForms) {
-    for (const std::string source : {
-             "",
-             "beep",
-             "tell application \"Notes\"",
-             "tell application \"Notes\" to quit ",
-             " tell application \"Notes\" to quit",
-             "tell application \"Notes\" to activate",
-             "tell application \"Notes\" to quit saving yes",
-             "tell application Notes to quit",
-             "Tell application \"Notes\" to quit",
-             "tell application \"\" to quit",
-             "tell application \"a\"b\" to quit",
-             "tell application \"a\" to quit\ntell application \"b\" to quit",
-             "tell application \"a\nb\" to quit",
-             "tell application \"a/../b\" to quit",
-             "tell application \"\x7f\" to quit saving no",
-             "do shell script \"/usr/sbin/purge\"",
-             "do shell script \"/usr/sbin/purge \" with administrator privileges",
-             "do shell script \"/bin/sh\" with administrator privileges",
-             "do shell script \"/usr/sbin/purge\" with administrator privileges\n",
-         })
+    for (const std::string source :
+         {"", "beep", "tell application \"Notes\"", "tell application \"Notes\" to quit ",
+          " tell application \"Notes\" to quit", "tell application \"Notes\" to activate",
+          "tell application \"Notes\" to quit saving yes", "tell application Notes to quit",
+          "Tell application \"Notes\" to quit", "tell application \"\" to quit",
+          "tell application \"a\"b\" to quit",
+          "tell application \"a\" to quit\ntell application \"b\" to quit",
+          "tell application \"a\nb\" to quit", "tell application \"a/../b\" to quit",
+          "tell application \"\x7f\" to quit saving no", "do shell script \"/usr/sbin/purge\"",
+          "do shell script \"/usr/sbin/purge \" with administrator privileges",
+          "do shell script \"/bin/sh\" with administrator privileges",
+          "do shell script \"/usr/sbin/purge\" with administrator privileges\n"})
         EXPECT_FALSE(parseAppleScript(source)) << source;
 }
 

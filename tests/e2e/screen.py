@@ -26,29 +26,25 @@ MOST_TABS = 80
 
 def below(thing):
     """What is on show inside a thing, itself first; what vanishes meanwhile is left out."""
-    try:
-        if not thing or not thing.get_state_set().contains(Atspi.StateType.SHOWING):
-            return
+    if thing and is_(thing, Atspi.StateType.SHOWING):
         yield thing
-        parts = [thing.get_child_at_index(i) for i in range(thing.get_child_count())]
+        for part in asked(lambda: [thing.get_child_at_index(i) for i in range(thing.get_child_count())], []):
+            yield from below(part)
+
+
+def asked(question, otherwise):
+    try:
+        return question()
     except GLib.Error:
-        return
-    for part in parts:
-        yield from below(part)
+        return otherwise
 
 
 def is_(thing, state):
-    try:
-        return thing.get_state_set().contains(state)
-    except GLib.Error:
-        return False
+    return asked(lambda: thing.get_state_set().contains(state), False)
 
 
 def name_of(thing):
-    try:
-        return thing.get_name() or ""
-    except GLib.Error:
-        return ""
+    return asked(lambda: thing.get_name() or "", "")
 
 
 def on_show():

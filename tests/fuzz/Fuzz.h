@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QString>
 
 #include <cstddef>
 #include <cstdint>
@@ -28,6 +29,11 @@ inline QList<QByteArray> texts(QByteArray input, qsizetype count) {
         input = end < 0 ? QByteArray() : input.sliced(end + 4);
     }
     return result;
+}
+
+/// Half a surrogate pair, which JSON can name, has no form in UTF-8; a byte order mark is dropped in reading.
+inline bool isText(const QString& text) {
+    return text.isValidUtf16() && !text.startsWith(QChar::ByteOrderMark);
 }
 
 /// Ends the program, which the fuzzer and ctest take for a finding, where a promise does not hold.

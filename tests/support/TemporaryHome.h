@@ -7,28 +7,20 @@
 #include <QTemporaryDir>
 
 #include <map>
-#include <optional>
 
 /// HOME in an empty folder of its own, and none of the XDG variables, for as long as it lives.
 class TemporaryHome {
 public:
     TemporaryHome() {
         for (const char* name : {"HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"}) {
-            if (qEnvironmentVariableIsSet(name))
-                m_before[name] = qgetenv(name);
-            else
-                m_before[name] = std::nullopt;
+            m_before[name] = qgetenv(name);
             qunsetenv(name);
         }
         qputenv("HOME", QFile::encodeName(m_folder.path()));
     }
     ~TemporaryHome() {
-        for (const auto& [name, value] : m_before) {
-            if (value)
-                qputenv(name.c_str(), *value);
-            else
-                qunsetenv(name.c_str());
-        }
+        for (const auto& [name, value] : m_before)
+            value.isNull() ? qunsetenv(name.c_str()) : qputenv(name.c_str(), value);
     }
     TemporaryHome(const TemporaryHome&) = delete;
     TemporaryHome& operator=(const TemporaryHome&) = delete;
@@ -50,5 +42,5 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    std::map<std::string, std::optional<QByteArray>> m_before;
+    std::map<std::string, QByteArray> m_before; ///< null for one that was not set
 };

@@ -21,14 +21,9 @@ QByteArray written(const QList<ConfiguredServer>& servers) {
     return QJsonDocument(QJsonObject{{u"mcpServers"_s, members}}).toJson();
 }
 
-/// Half a surrogate pair, which JSON can name, has no form in UTF-8; a byte order mark is dropped in reading.
-bool isText(const QString& text) {
-    return text.isValidUtf16() && !text.startsWith(QChar::ByteOrderMark);
-}
-
 bool isWritable(const ConfiguredServer& server) {
-    return isText(server.name) && isText(server.command) &&
-           std::all_of(server.args.begin(), server.args.end(), isText);
+    return Fuzz::isText(server.name) && Fuzz::isText(server.command) &&
+           std::all_of(server.args.begin(), server.args.end(), Fuzz::isText);
 }
 
 } // namespace

@@ -5,13 +5,8 @@
 
 namespace {
 
-/// Half a surrogate pair, which JSON can name, has no form in UTF-8; a byte order mark is dropped in reading.
-bool isText(const QString& text) {
-    return text.isValidUtf16() && !text.startsWith(QChar::ByteOrderMark);
-}
-
 bool isWritable(const QuickKillPreset& preset) {
-    return isText(preset.name) && isText(preset.pattern) && isText(preset.symbol);
+    return Fuzz::isText(preset.name) && Fuzz::isText(preset.pattern) && Fuzz::isText(preset.symbol);
 }
 
 } // namespace
