@@ -34,7 +34,7 @@ TEST_F(MenuBarTest, TitleByFormatWithHalvesAwayFromZero) {
         {MenuBarFormat::both, sample(23, 61, 100), u"CPU 23% • RAM 61%"},
         {MenuBarFormat::both, sample(12.5, 125, 1000), u"CPU 13% • RAM 13%"},
         {MenuBarFormat::cpuOnly, sample(12.49, 0, 1), u"CPU 12%"},
-        {MenuBarFormat::ramOnly, sample(0, 5, 0), u"RAM 0%"},
+        {MenuBarFormat::ramOnly, sample(7, 5, 0), u"RAM 0%"},
         {MenuBarFormat::iconOnly, sample(50, 1, 2), u""},
     };
     for (const auto& [format, sampled, title] : cases)

@@ -73,8 +73,10 @@ inline QAbstractButton* buttonNamed(const QWidget& parent, const QString& name) 
     return nullptr;
 }
 
-inline void press(const QWidget& parent, const QString& button) {
-    QTest::mouseClick(buttonNamed(parent, button), Qt::LeftButton);
+inline void press(const QWidget& parent, const QString& name) {
+    auto* button = buttonNamed(parent, name);
+    ASSERT_TRUE(button) << qPrintable(name);
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 /// Queued redraws, and what is to be deleted.
