@@ -31,7 +31,7 @@ using Cleaner::CleanResult;
 namespace {
 
 /// Root may do anything; where the tests run as root these tools run as nobody.
-class OrdinaryUsersTools : public ToolRunner {
+class OrdinaryUsersTools : public LinuxToolRunner {
 public:
     QCoro::Task<ToolResult> run(ToolRequest request) override {
         if (geteuid() == 0) {
@@ -40,11 +40,8 @@ public:
                 request.arguments;
             request.launchPath = u"/usr/bin/setpriv"_s;
         }
-        return m_real.run(request);
+        return LinuxToolRunner::run(request);
     }
-
-private:
-    LinuxToolRunner m_real;
 };
 
 class CleanupOnDisk : public testing::Test {
@@ -245,32 +242,23 @@ QByteArray mountNamespace() {
 }
 
 /// Run by the test below in a mount namespace of its own, where /tmp is an empty disk of 1 MiB.
-class DISABLED_InPrivateMount : public testing::Test {
+class DISABLED_InPrivateMount : public CleanupOnDisk {
 protected:
     void SetUp() override {
         const QByteArray outside = qgetenv("TAVRIN_MOUNTS_OUTSIDE");
         ASSERT_TRUE(!outside.isEmpty() && outside != mountNamespace())
             << "would touch the machine's own files";
         ASSERT_EQ(mount("tmpfs", "/tmp", "tmpfs", 0, "size=1m"), 0);
-        tools = std::make_shared<LinuxToolRunner>();
-        places = std::make_shared<LinuxPlaces>();
     }
     void TearDown() override { EXPECT_EQ(umount2("/tmp", MNT_DETACH), 0); }
-
-    CleanResult clean(const CacheTarget& target) {
-        return QCoro::waitFor(Cleaner::clean(target, tools, places));
-    }
-
-    std::shared_ptr<ToolRunner> tools;
-    std::shared_ptr<Places> places;
 };
 
 TEST_F(DISABLED_InPrivateMount, LeavesAFolderWithAMountInsideAlone) {
-    TemporaryHome home;
-    const QString inside = home.makeFolder(u".npm/disk"_s);
-    home.makeFile(u".npm/file"_s);
+    const TemporaryHome ours;
+    const QString inside = ours.makeFolder(u".npm/disk"_s);
+    ours.makeFile(u".npm/file"_s);
     ASSERT_EQ(mount("tmpfs", inside.toUtf8().constData(), "tmpfs", 0, nullptr), 0);
-    const QString precious = home.makeFile(u".npm/disk/precious"_s);
+    const QString precious = ours.makeFile(u".npm/disk/precious"_s);
     const CacheTarget target{.name = u"x"_s, .paths = {u"~/.npm"_s}};
     EXPECT_EQ(clean(target), (CleanResult{false, 0}));
     EXPECT_TRUE(QFileInfo::exists(precious));
@@ -279,9 +267,9 @@ TEST_F(DISABLED_InPrivateMount, LeavesAFolderWithAMountInsideAlone) {
 }
 
 TEST_F(DISABLED_InPrivateMount, CleansAFullDisk) {
-    TemporaryHome home;
-    home.makeFolder(u".npm"_s);
-    std::ofstream fill(home.path(u".npm/fill"_s).toStdString());
+    const TemporaryHome ours;
+    ours.makeFolder(u".npm"_s);
+    std::ofstream fill(ours.path(u".npm/fill"_s).toStdString());
     while (fill << std::string(4096, 'x') << std::flush) {
     }
     fill.close();
@@ -292,12 +280,12 @@ TEST_F(DISABLED_InPrivateMount, CleansAFullDisk) {
 }
 
 TEST_F(DISABLED_InPrivateMount, ReportsMoreEntriesThanTheShellCanPass) {
-    TemporaryHome home;
-    const std::string cache = home.makeFolder(u".npm"_s).toStdString() + "/entry number ";
+    const TemporaryHome ours;
+    const std::string cache = ours.makeFolder(u".npm"_s).toStdString() + "/entry number ";
     for (int i = 0; i < 200000; ++i)
         close(open((cache + std::to_string(i)).c_str(), O_CREAT | O_WRONLY, 0600));
     EXPECT_EQ(clean({.name = u"x"_s, .paths = {u"~/.npm"_s}}), (CleanResult{false, 0}));
-    EXPECT_EQ(QDir(home.path(u".npm"_s)).entryList(QDir::Files).size(), 200000);
+    EXPECT_EQ(QDir(ours.path(u".npm"_s)).entryList(QDir::Files).size(), 200000);
 }
 
 TEST_F(DISABLED_InPrivateMount, DeletesOnlyOldFilesOfTmp) {

@@ -1,7 +1,7 @@
 #include "Platform/Linux/LinuxHostStatistics.h"
 
 #include "Platform/Child.h"
-#include "Platform/RecordedTree.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -57,18 +57,18 @@ TEST(HostStatistics, CountsCpuTicksByKind) {
         {"intr 5\n", std::nullopt},
     };
     for (const auto& [line, expected] : cases) {
-        RecordedTree tree;
-        tree.with(u"proc/stat"_s, line);
+        TemporaryFolder tree;
+        tree.makeFile(u"proc/stat"_s, line);
         EXPECT_EQ(LinuxHostStatistics(tree.path()).cpuTicks(), expected) << line;
     }
 }
 
 TEST(HostStatistics, DoesNotFollowACounterThatStepsBack) {
-    RecordedTree tree;
-    tree.with(u"proc/stat"_s, "cpu  4294967290 0 30 400 50 0 0 0 0 0\n");
+    TemporaryFolder tree;
+    tree.makeFile(u"proc/stat"_s, "cpu  4294967290 0 30 400 50 0 0 0 0 0\n");
     LinuxHostStatistics host(tree.path());
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{4294967290, 30, 450, 0}));
-    tree.with(u"proc/stat"_s, "cpu  4294967302 0 31 400 48 0 0 0 0 0\n");
+    tree.makeFile(u"proc/stat"_s, "cpu  4294967302 0 31 400 48 0 0 0 0 0\n");
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{6, 31, 450, 0}));
 }
 
@@ -110,10 +110,10 @@ TEST(HostStatistics, SplitsTheMemoryInUse) {
         {"empty", "", {}, std::nullopt}};
     for (const Memory& given : cases) {
         SCOPED_TRACE(given.name);
-        RecordedTree tree;
-        tree.with(u"proc/meminfo"_s, given.meminfo);
+        TemporaryFolder tree;
+        tree.makeFile(u"proc/meminfo"_s, given.meminfo);
         for (size_t device = 0; device < given.zram.size(); ++device)
-            tree.with(u"sys/block/zram%1/mm_stat"_s.arg(device), given.zram[device]);
+            tree.makeFile(u"sys/block/zram%1/mm_stat"_s.arg(device), given.zram[device]);
         tree.makeFolder(u"sys/block/sda"_s);
         LinuxHostStatistics host(tree.path());
         const auto pages = host.memoryPages();
@@ -135,14 +135,14 @@ TEST(HostStatistics, CountsSwapInUse) {
         {"SwapTotal: 2000 kB\n", std::nullopt},
     };
     for (const auto& [meminfo, expected] : cases) {
-        RecordedTree tree;
-        tree.with(u"proc/meminfo"_s, meminfo);
+        TemporaryFolder tree;
+        tree.makeFile(u"proc/meminfo"_s, meminfo);
         EXPECT_EQ(LinuxHostStatistics(tree.path()).swapUsedBytes(), expected) << meminfo;
     }
 }
 
 TEST(HostStatistics, RefusesWhatItCannotRead) {
-    const RecordedTree tree;
+    const TemporaryFolder tree;
     LinuxHostStatistics host(tree.path());
     EXPECT_FALSE(host.cpuTicks());
     EXPECT_FALSE(host.memoryPages());
@@ -179,16 +179,17 @@ TEST(HostStatistics, TheThermalLevelIsThatOfTheWorstZone) {
         {"no_trips", {{"120000\n", {}}}, 0},
         {"no_zones", {}, 0}};
     for (const auto& [name, zones, level] : cases) {
-        RecordedTree tree;
+        TemporaryFolder tree;
         tree.makeFolder(u"sys/class/thermal/cooling_device0"_s);
         int number = 0;
         for (const auto& zone : zones) {
             const auto folder = u"sys/class/thermal/thermal_zone%1/"_s.arg(number++);
-            tree.with(folder + u"temp"_s, zone.temperature);
+            tree.makeFile(folder + u"temp"_s, zone.temperature);
             int trip = 0;
             for (const auto& [type, temperature] : zone.trips) {
                 const auto stem = folder + u"trip_point_%1_"_s.arg(trip++);
-                tree.with(stem + u"type"_s, type + "\n").with(stem + u"temp"_s, temperature + "\n");
+                tree.makeFile(stem + u"type"_s, type + "\n");
+                tree.makeFile(stem + u"temp"_s, temperature + "\n");
             }
         }
         EXPECT_EQ(LinuxHostStatistics(tree.path()).thermalLevel(), level) << name;

@@ -1,6 +1,6 @@
 #include "Platform/Linux/LinuxPowerMode.h"
 
-#include "Platform/RecordedTree.h"
+#include "support/TemporaryFolder.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
@@ -77,8 +77,8 @@ private:
 };
 
 TEST_P(PowerModeOnABus, FollowsTheDaemonAndFallsBackToTheFirmware) {
-    RecordedTree root;
-    root.with(u"sys/firmware/acpi/platform_profile"_s, "low-power\n");
+    TemporaryFolder root;
+    root.makeFile(u"sys/firmware/acpi/platform_profile"_s, "low-power\n");
     const LinuxPowerMode mode(bus(u"client"_s), root.path());
     EXPECT_TRUE(mode.isLowPowerModeEnabled()); // the firmware's word, as no daemon runs
     {
@@ -102,12 +102,12 @@ TEST(PowerMode, NeedsNoBus) {
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++messages; });
     for (const auto& [profile, expected] : std::vector<std::pair<const char*, bool>>{
              {"low-power\n", true}, {"balanced\n", false}, {"low-power-ish\n", false}, {"", false}}) {
-        RecordedTree root;
-        root.with(u"sys/firmware/acpi/platform_profile"_s, profile);
+        TemporaryFolder root;
+        root.makeFile(u"sys/firmware/acpi/platform_profile"_s, profile);
         const LinuxPowerMode mode(QDBusConnection(u"none"_s), root.path());
         EXPECT_EQ(mode.isLowPowerModeEnabled(), expected) << profile;
     }
-    const RecordedTree bare;
+    const TemporaryFolder bare;
     EXPECT_FALSE(LinuxPowerMode(QDBusConnection(u"none"_s), bare.path()).isLowPowerModeEnabled());
     const LinuxPowerMode ofThisMachine;
     qInstallMessageHandler(previous);

@@ -1,6 +1,6 @@
 #include "Platform/Child.h"
 #include "Platform/Linux/LinuxProcessTable.h"
-#include "Platform/RecordedTree.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -115,16 +115,17 @@ QByteArray stat(const char* flags, const char* size) {
 }
 
 TEST(ProcessText, OddFoldersAreLookedAtWithCare) {
-    RecordedTree proc;
-    proc.with(u"5000001/stat"_s, stat("0", "8192")).with(u"5000001/statm"_s, "2 1 0 0 0 0 0\n");
-    proc.makeFolder(u"5000001/task/5000001"_s).makeFolder(u"5000001/task/5000009"_s);
-    proc.with(u"5000002/stat"_s, stat("2129984", "0")).with(u"5000002/statm"_s, "0 0 0 0 0 0 0\n");
-    proc.makeFolder(u"5000002/task/5000002"_s);
-    proc.with(u"5000003/stat"_s, stat("0", "8192"));
-    proc.makeFolder(u"5000004"_s);
-    proc.with(u"5000005/statm"_s, "garbage\n").makeFolder(u"5000005/task"_s);
-    for (const auto& other : {u"self"_s, u"12a"_s, u"99999999999"_s, u"0"_s, u"sys"_s})
-        proc.makeFolder(other);
+    TemporaryFolder proc;
+    proc.makeFile(u"5000001/stat"_s, stat("0", "8192"));
+    proc.makeFile(u"5000001/statm"_s, "2 1 0 0 0 0 0\n");
+    proc.makeFile(u"5000002/stat"_s, stat("2129984", "0"));
+    proc.makeFile(u"5000002/statm"_s, "0 0 0 0 0 0 0\n");
+    proc.makeFile(u"5000003/stat"_s, stat("0", "8192"));
+    proc.makeFile(u"5000005/statm"_s, "garbage\n");
+    for (const auto& folder :
+         {u"5000001/task/5000001"_s, u"5000001/task/5000009"_s, u"5000002/task/5000002"_s, u"5000004"_s,
+          u"5000005/task"_s, u"self"_s, u"12a"_s, u"99999999999"_s, u"0"_s, u"sys"_s})
+        proc.makeFolder(folder);
 
     LinuxProcessTable table(proc.path().toStdString());
     for (int pass = 0; pass < 2; ++pass) {
@@ -143,14 +144,14 @@ TEST(ProcessText, OddFoldersAreLookedAtWithCare) {
 }
 
 TEST(ProcessText, AKernelThreadsIdMayComeBackAsAProcess) {
-    RecordedTree proc;
-    proc.with(u"5000001/stat"_s, stat("2097152", "0"));
+    TemporaryFolder proc;
+    proc.makeFile(u"5000001/stat"_s, stat("2097152", "0"));
     LinuxProcessTable table(proc.path().toStdString());
     std::vector<qint32> pids(16);
     EXPECT_EQ(table.listAllPids(pids), 0);
     // The old folder stays, elsewhere, so that its inode cannot be the new one's.
     ASSERT_TRUE(QDir(proc.path()).rename(u"5000001"_s, u"gone"_s));
-    proc.with(u"5000001/stat"_s, stat("0", "8192"));
+    proc.makeFile(u"5000001/stat"_s, stat("0", "8192"));
     EXPECT_EQ(table.listAllPids(pids), 1);
     EXPECT_TRUE(table.taskInfo(5000001));
 }

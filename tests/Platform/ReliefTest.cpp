@@ -25,27 +25,24 @@ namespace {
 constexpr uid_t nobody = 65534;
 
 /// The machine's processes, of which only those that the test started can be seen and so be chosen.
-class OwnProcesses : public ProcessTable {
+class OwnProcesses : public LinuxProcessTable {
 public:
     QList<qint32> pids;
 
     int listAllPids(std::span<qint32> room) override {
-        m_table.listAllPids(m_everything);
+        LinuxProcessTable::listAllPids(m_everything);
         std::copy(pids.begin(), pids.end(), room.begin());
         return static_cast<int>(pids.size());
     }
-    std::optional<TaskInfo> taskInfo(qint32 pid) override { return m_table.taskInfo(pid); }
-    ProcessOrigin origin(qint32 pid) override { return m_table.origin(pid); }
-    std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return m_table.kernelInfo(pid); }
 
     /// A child of `parent`, waited for.
     qint32 childOf(qint32 parent) {
         qint32 child = 0;
         const auto isThere = [&] {
-            const int count = m_table.listAllPids(m_everything);
+            const int count = LinuxProcessTable::listAllPids(m_everything);
             for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
-                const auto info = m_table.kernelInfo(pid);
-                if (info && info->parentPid == parent && m_table.origin(pid).argumentArea.contains("mcp-server"))
+                const auto info = kernelInfo(pid);
+                if (info && info->parentPid == parent && origin(pid).argumentArea.contains("mcp-server"))
                     child = pid;
             }
             return child > 0;
@@ -54,7 +51,6 @@ public:
     }
 
 private:
-    LinuxProcessTable m_table;
     std::array<qint32, 4096> m_everything{};
 };
 

@@ -1,8 +1,8 @@
 #include "Platform/Linux/LinuxToolRunner.h"
 
 #include "Platform/Child.h"
-#include "Platform/RecordedTree.h"
 #include "support/Files.h"
+#include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -57,8 +57,8 @@ TEST(ToolRunner, TellsHowAProgramEnded) {
 }
 
 TEST(ToolRunner, AnswersAtOnceForWhatCannotBeLaunched) {
-    RecordedTree tree;
-    tree.with(u"plain"_s, "not a program");
+    TemporaryFolder tree;
+    tree.makeFile(u"plain"_s, "not a program");
     QElapsedTimer time;
     time.start();
     for (const QString& path :
@@ -120,7 +120,7 @@ TEST(ToolRunner, GivesChildrenTheDescriptorLimitWeWereStartedWith) {
 TEST(ToolRunner, LeavesNoChildBehindAndIsNotHeldUpByOne) {
     for (const auto& command : {u"echo $$ >%1; exec sleep 60"_s, u"sleep 60 & echo $! >%1; wait"_s,
                                 u"trap : TERM; echo $$ >%1; while :; do sleep 1; done"_s}) {
-        const RecordedTree tree;
+        const TemporaryFolder tree;
         const QString note = tree.path() + u"/pid"_s;
         QElapsedTimer time;
         time.start();

@@ -1,7 +1,7 @@
 #include "Tools/MemoryReclaim.h"
 
-#include "Platform/RecordedTree.h"
 #include "support/Files.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -43,19 +43,20 @@ TEST(MemoryReclaim, TheGroupIsTheHighestOfTheUsersOwn) {
         {"/boxes/a", {"/boxes/a", "es/a"}, {}, "/box"},
     };
     for (const auto& [ownGroup, reclaimable, expected, mountRoot] : cases) {
-        RecordedTree tree;
+        TemporaryFolder tree;
         const QByteArray mountPoint = tree.path().toUtf8() + "/cgroup";
-        tree.with(u"proc/self/mountinfo"_s,
-                  "25 30 0:23 / /sys rw,relatime shared:7 - sysfs sysfs rw\n"
-                  "26 25 0:24 / " +
-                      mountPoint +
-                      "/v1 rw shared:8 - cgroup cgroup rw,memory\n"
-                      "27 25 0:25 " +
-                      QByteArray(mountRoot) + ' ' + mountPoint +
-                      " rw,nosuid shared:9 master:1 - cgroup2 cgroup2 rw,nsdelegate\n");
-        tree.with(u"proc/self/cgroup"_s, "4:memory:/v1\n0::" + QByteArray::fromStdString(ownGroup) + '\n');
+        tree.makeFile(u"proc/self/mountinfo"_s,
+                      "25 30 0:23 / /sys rw,relatime shared:7 - sysfs sysfs rw\n"
+                      "26 25 0:24 / " +
+                          mountPoint +
+                          "/v1 rw shared:8 - cgroup cgroup rw,memory\n"
+                          "27 25 0:25 " +
+                          QByteArray(mountRoot) + ' ' + mountPoint +
+                          " rw,nosuid shared:9 master:1 - cgroup2 cgroup2 rw,nsdelegate\n");
+        tree.makeFile(u"proc/self/cgroup"_s,
+                      "4:memory:/v1\n0::" + QByteArray::fromStdString(ownGroup) + '\n');
         for (const std::string& group : reclaimable)
-            tree.with(u"cgroup"_s + QString::fromStdString(group) + u"/memory.reclaim"_s, {});
+            tree.makeFile(u"cgroup"_s + QString::fromStdString(group) + u"/memory.reclaim"_s, {});
         const auto found = Tools::reclaimableGroup(tree.path().toStdString() + "/proc", 1000);
         EXPECT_EQ(found.value_or(""), expected.empty() ? "" : mountPoint.toStdString() + expected)
             << ownGroup;
@@ -93,16 +94,16 @@ TEST(MemoryReclaim, StopsWhenItIsMetRefusedOrOutOfTime) {
 }
 
 TEST(MemoryReclaim, WritesOneNumberOfBytesARequest) {
-    RecordedTree tree;
-    tree.with(u"memory.current"_s, QByteArray::number(quint64(700 * mib)) + '\n');
-    tree.with(u"memory.reclaim"_s, {});
+    TemporaryFolder tree;
+    tree.makeFile(u"memory.current"_s, QByteArray::number(quint64(700 * mib)) + '\n');
+    tree.makeFile(u"memory.reclaim"_s, {});
     EXPECT_EQ(Tools::reclaim(tree.path().toStdString(), {}), 0);
     EXPECT_EQ(contentOf(tree.path() + u"/memory.reclaim"_s), "33554432\n33554432\n6291456\n");
 }
 
 TEST(MemoryReclaim, ReportsWhatTheKernelObjectsTo) {
-    RecordedTree tree;
-    tree.with(u"memory.current"_s, "99999999\n");
+    TemporaryFolder tree;
+    tree.makeFile(u"memory.current"_s, "99999999\n");
     const auto folder = tree.path().toStdString();
     EXPECT_EQ(Tools::reclaim(folder, {}), ENOENT);
     ASSERT_TRUE(QFile::link(u"/dev/full"_s, tree.path() + u"/memory.reclaim"_s));

@@ -1,7 +1,7 @@
 #include "Tools/Purge.h"
 
-#include "Platform/RecordedTree.h"
 #include "support/Files.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,8 @@
 namespace {
 
 /// Writes an executable script and returns its path.
-std::string script(RecordedTree& tree, const QString& name, const QByteArray& text) {
-    tree.with(name, "#!/bin/sh\n" + text);
-    QFile file(tree.path() + u'/' + name);
+std::string script(TemporaryFolder& tree, const QString& name, const QByteArray& text) {
+    QFile file(tree.makeFile(name, "#!/bin/sh\n" + text));
     file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeUser);
     return file.fileName().toStdString();
 }
@@ -33,8 +32,8 @@ TEST(PurgeDeathTest, IsRefusedToAnotherUser) {
 TEST(Purge, AsksForCleanCachesAlone) {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root gets as far as the file";
-    RecordedTree tree;
-    tree.with(QStringLiteral("drop_caches"), {});
+    TemporaryFolder tree;
+    tree.makeFile(QStringLiteral("drop_caches"), {});
     EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/drop_caches"), 0);
     EXPECT_EQ(contentOf(tree.path() + QStringLiteral("/drop_caches")), "1");
     EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/missing"), 1);
@@ -42,7 +41,7 @@ TEST(Purge, AsksForCleanCachesAlone) {
 }
 
 TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
-    RecordedTree tree;
+    TemporaryFolder tree;
     const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
     const std::string prompt =
         script(tree, QStringLiteral("pkexec"), "[ $# = 1 ] && echo \"asked for $1\" >&2; exit 126\n");
@@ -51,7 +50,7 @@ TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
 }
 
 TEST(PurgeDeathTest, AMissingPartIsAMessageAndAFailure) {
-    RecordedTree tree;
+    TemporaryFolder tree;
     const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
     const std::string missing = tree.path().toStdString() + "/missing";
     EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, missing)), testing::ExitedWithCode(1),

@@ -1,7 +1,7 @@
 #include "UI/Settings/HistoryTab.h"
 
+#include "UI/Controls.h"
 #include "UI/Kit/ConfirmDialog.h"
-#include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/HistoryTableView.h"
@@ -47,12 +47,6 @@ struct HistoryTabTest : testing::Test {
     QStringList column(int section) const { return columnOf(*table->model(), section); }
     QStringList details() const { return column(2); }
     bool isEmpty() const { return showsText(tab, u"No actions logged yet."_s) && !table->isVisibleTo(&tab); }
-    void choose(const QString& kind) {
-        auto* picker = tab.findChild<PopUpButton*>();
-        QTest::keyClick(picker, Qt::Key_Home);
-        while (picker->currentText() != kind && picker->currentIndex() + 1 < picker->count())
-            QTest::keyClick(picker, Qt::Key_Down);
-    }
     void clickHead(int section) {
         const QHeaderView* head = table->header();
         QTest::mouseClick(head->viewport(), Qt::LeftButton, {},
@@ -108,16 +102,16 @@ TEST_F(HistoryTabTest, ListsTheFileNewestFirst) {
 
 TEST_F(HistoryTabTest, FiltersByKind) {
     show();
-    choose(u"Force kill"_s);
+    choose(tab, u"Kind"_s, u"Force kill"_s);
     EXPECT_EQ(details(), QStringList(u"code"_s));
-    choose(u"Quit"_s);
+    choose(tab, u"Kind"_s, u"Quit"_s);
     EXPECT_EQ(details(), QStringList(u"Browser"_s));
     write("2026-11-16T10:00:00Z\tquit\tok\t1\tone\n2026-11-16T10:00:00Z\tQuit\tok\t1\tno such kind\n");
     press(tab, u"Refresh"_s);
     EXPECT_EQ(details(), QStringList(u"one"_s));
-    choose(u"Clean"_s);
+    choose(tab, u"Kind"_s, u"Clean"_s);
     EXPECT_TRUE(isEmpty());
-    choose(u"All"_s);
+    choose(tab, u"Kind"_s, u"All"_s);
     EXPECT_EQ(details().size(), 2);
 }
 
@@ -152,8 +146,8 @@ TEST_F(HistoryTabTest, HeadsSortAndTheSelectionStaysWithItsRow) {
     EXPECT_EQ(details(), (QStringList{u"Browser"_s, u"by a later version"_s, u"code"_s, u"npm"_s}));
     clickHead(4);
     EXPECT_EQ(details(), (QStringList{u"code"_s, u"npm"_s, u"by a later version"_s, u"Browser"_s}));
-    choose(u"Clean"_s);
-    choose(u"All"_s);
+    choose(tab, u"Kind"_s, u"Clean"_s);
+    choose(tab, u"Kind"_s, u"All"_s);
     EXPECT_EQ(details().first(), u"code"_s);
     clickHead(0);
     EXPECT_EQ(details(), newestFirst);
@@ -195,7 +189,7 @@ TEST_F(HistoryTabTest, CopiesTheSelectedRows) {
 
 TEST_F(HistoryTabTest, ExportsEveryRowWhateverIsShown) {
     show();
-    choose(u"Quit"_s);
+    choose(tab, u"Kind"_s, u"Quit"_s);
     const QString target = home.path(u"out.csv"_s);
     exportAs(home.path(u"out"_s), QDialogButtonBox::Cancel);
     EXPECT_FALSE(QFileInfo::exists(target));

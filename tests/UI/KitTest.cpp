@@ -7,7 +7,6 @@
 #include "UI/ModelFixture.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;

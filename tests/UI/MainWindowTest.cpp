@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QScreen>
 #include <QSplitter>
-#include <QTest>
 
 namespace {
 

@@ -9,7 +9,6 @@
 
 #include <QElapsedTimer>
 #include <QStackedWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -7,8 +7,6 @@
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/ProcessRow.h"
 
-#include <QTest>
-
 namespace {
 
 struct OverviewViewTest : ModelFixture {

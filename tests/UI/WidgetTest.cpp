@@ -7,7 +7,6 @@
 #include "UI/ModelFixture.h"
 
 #include <QEnterEvent>
-#include <QTest>
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "Core/ProcessGrouper.h"
 #include "Core/Sampler.h"
 #include "Platform/Linux/LinuxProcessTable.h"
-#include "Platform/RecordedTree.h"
 #include "fuzz/Fuzz.h"
 #include "support/FakePlatform.h"
+#include "support/TemporaryFolder.h"
 
 #include <unistd.h>
 
@@ -24,14 +24,14 @@ public:
     void lay(const QList<QByteArray>& texts) {
         const char* names[] = {"stat", "cmdline"};
         for (qsizetype i = 0; i < std::ssize(names); ++i)
-            m_proc.with(u"5000001/"_s + QString::fromLatin1(names[i]), texts[i]);
+            m_proc.makeFile(u"5000001/"_s + QString::fromLatin1(names[i]), texts[i]);
         const std::string link = root() + "/5000001/exe";
         unlink(link.c_str());
         static_cast<void>(!symlink(texts.last().constData(), link.c_str()));
     }
 
 private:
-    RecordedTree m_proc;
+    TemporaryFolder m_proc;
 };
 
 void checkOrigin(const ProcessOrigin& origin, const QByteArray& stat) {
