@@ -82,7 +82,7 @@ TEST_F(AppDelegateTest, WhatIsStoredDecidesTheLaunch) {
     EXPECT_TRUE(didFirstLaunch());
     EXPECT_EQ(desktop.application->policy, ActivationPolicy::accessory);
     ASSERT_EQ(desktop.panels->size(), 1);
-    EXPECT_TRUE(desktop.panels->constFirst()->visible);
+    EXPECT_TRUE(desktop.panels->constFirst()->shown);
 }
 
 TEST_F(AppDelegateTest, OneSettingsWindowThatOpensOnGeneral) {

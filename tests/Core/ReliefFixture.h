@@ -34,7 +34,10 @@ struct ReliefTest : testing::Test {
                                    .info = info});
         signalSender->start(pid);
     }
-    void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
+    void tick(int times = 1) {
+        for (int i = 0; i < times; ++i)
+            QMetaObject::invokeMethod(model.get(), "tick");
+    }
     /// "KIND DETAIL ok", newest first.
     QStringList logged() const {
         return each(model->actionLog(), [](const ActionLogEntry& entry) {

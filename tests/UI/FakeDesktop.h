@@ -22,11 +22,20 @@ public:
     QRect geometry() const override { return place; }
 };
 
-class FakePopover : public Popover {
-public:
+/// What is shown in a popover or a panel.
+struct ShownContent {
     std::unique_ptr<QWidget> content;
-    QRect anchor;
     bool shown = false;
+
+    void setShown(bool isShown) {
+        shown = isShown;
+        content->setVisible(isShown);
+    }
+};
+
+class FakePopover : public Popover, public ShownContent {
+public:
+    QRect anchor;
 
     void setContent(QWidget* widget, QSize size) override {
         content.reset(widget);
@@ -34,37 +43,21 @@ public:
     }
     void show(QRect where) override {
         anchor = where;
-        shown = true;
-        content->show();
+        setShown(true);
     }
-    void close() override {
-        shown = false;
-        content->hide();
-    }
+    void close() override { setShown(false); }
     bool isShown() const override { return shown; }
 };
 
-class FakePanel : public FloatingPanel {
+class FakePanel : public FloatingPanel, public ShownContent {
 public:
-    std::unique_ptr<QWidget> content;
-    QPoint corner;
     int placements = 0;
-    bool visible = false;
 
     void setContent(QWidget* widget) override { content.reset(widget); }
-    void placeBottomLeft(QPoint place) override {
-        corner = place;
-        ++placements;
-    }
-    void orderFront() override {
-        visible = true;
-        content->show();
-    }
-    void orderOut() override {
-        visible = false;
-        content->hide();
-    }
-    bool isVisible() const override { return visible; }
+    void placeBottomLeft(QPoint) override { ++placements; }
+    void orderFront() override { setShown(true); }
+    void orderOut() override { setShown(false); }
+    bool isVisible() const override { return shown; }
 };
 
 class FakeApplication : public DesktopApplication {

@@ -134,11 +134,11 @@ TEST_F(OverviewViewTest, AnAlertsQuitEndsTheProcessItNames) {
     EXPECT_EQ(buttonNamed(view, QStringLiteral("Quit")), nullptr);
     fakes.clock->advance(1000);
     tick();
-    QTest::mouseClick(buttonNamed(view, QStringLiteral("Quit")), Qt::LeftButton);
+    press(view, QStringLiteral("Quit"));
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
     fakes.processes->remove(100);
     QMetaObject::invokeMethod(&model, "tick"); // gone, but not yet off the screen
-    QTest::mouseClick(buttonNamed(view, QStringLiteral("Quit")), Qt::LeftButton);
+    press(view, QStringLiteral("Quit"));
     EXPECT_EQ(fakes.signalSender->sent().size(), 1);
     EXPECT_EQ(logged(),
               (QStringList{QStringLiteral("quit pid=100 fail"), QStringLiteral("quit pid=100 ok")}));
