@@ -66,17 +66,12 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
 
 TEST_F(CleanerTest, DeletesOldFilesWithoutLookingFirst) {
     const QString missing = home.path(u"missing"_s);
-    const std::pair<QString, QString> cases[] = {
-        {u"Old /tmp (>7d)"_s, u"/usr/bin/find %1 -type f -mtime +7 -delete"_s},
-        {u"Old Downloads (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -delete"_s},
-        {u"Old Desktop screenshots (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -delete"_s},
-    };
-    for (const auto& [name, command] : cases) {
-        for (const int status : {0, 1}) {
-            script({}, status);
-            EXPECT_EQ(clean({.name = name, .paths = {missing}}), (CleanResult{status == 0, 0}));
-            EXPECT_EQ(tools->commandLines(), QStringList(command.arg(missing)));
-        }
+    for (const int status : {0, 1}) {
+        script({}, status);
+        EXPECT_EQ(clean({.name = u"Old Desktop screenshots (>30d)"_s, .paths = {missing}}),
+                  (CleanResult{status == 0, 0}));
+        EXPECT_EQ(tools->commandLines(),
+                  QStringList(u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -delete"_s.arg(missing)));
     }
 }
 

@@ -23,11 +23,7 @@ void write(const QString& path, const QByteArray& text) {
 TEST(Preferences, FreshOnesReadTheDefaultsAndWriteNothing) {
     const TemporarySettings settings;
     const Preferences& prefs = settings.preferences;
-    EXPECT_TRUE(prefs.startAtLogin());
-    EXPECT_FALSE(prefs.pauseOnLowPower());
     EXPECT_EQ(prefs.menuBarFormat(), MenuBarFormat::both);
-    EXPECT_EQ(prefs.pollIntervalSeconds(), 2.0);
-    EXPECT_EQ(prefs.alertIdleAgentMinRSSMB(), 500.0);
     EXPECT_TRUE(prefs.quickKillPresetsJSON().isEmpty());
     EXPECT_EQ(prefs.historyRetentionSamples(), 750);
     EXPECT_FALSE(QFile::exists(settings.path));

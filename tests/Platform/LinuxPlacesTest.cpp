@@ -11,19 +11,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 TEST(LinuxPlaces, NamesThePlaceOfLinuxWhereTheCataloguePathDoesNotExist) {
-    const std::pair<QString, QStringList> cases[] = {
+    QList<std::pair<QString, QStringList>> cases = {
         {u"~/Library/Caches"_s, {u".cache"_s}},
-        {u"~/Library/Caches/Homebrew"_s, {u".cache/Homebrew"_s}},
         {u"~/Library/Caches/Yarn"_s, {u".cache/yarn"_s}},
-        {u"~/Library/Caches/ms-playwright"_s, {u".cache/ms-playwright"_s}},
-        {u"~/Library/Caches/org.swift.swiftpm"_s, {u".cache/org.swift.swiftpm"_s}},
-        {u"~/Library/Caches/pip"_s, {u".cache/pip"_s}},
-        {u"~/Library/Caches/uv"_s, {u".cache/uv"_s}},
         {u"~/.pnpm-store"_s, {u".local/share/pnpm/store"_s}},
         {u"~/.Trash"_s, {u".local/share/Trash/files"_s, u".local/share/Trash/info"_s}},
         {u"~/Downloads"_s, {u"Geladenes"_s}},
         {u"~/Desktop"_s, {u"Arbeitsfläche"_s}},
     };
+    for (const auto& name : {u"Homebrew"_s, u"ms-playwright"_s, u"org.swift.swiftpm"_s, u"pip"_s, u"uv"_s})
+        cases.append({u"~/Library/Caches/"_s + name, {u".cache/"_s + name}});
     for (const auto& [path, linuxPlaces] : cases) {
         SCOPED_TRACE(path.toStdString());
         TemporaryHome home;
