@@ -1,6 +1,7 @@
 #include "Preferences.h"
 
 #include "support/Files.h"
+#include "support/TemporaryFolder.h"
 #include "support/TemporarySettings.h"
 
 #include <QDir>
@@ -12,11 +13,7 @@
 
 namespace {
 
-void write(const QString& path, const QByteArray& text) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(text), text.size());
-}
+const QString iniFile = QStringLiteral("s.ini");
 
 } // namespace
 
@@ -45,10 +42,8 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
         {"\x01\xff[[[broken", 2, false, MenuBarFormat::both},
     };
     for (const auto& [line, interval, paused, format] : cases) {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("s.ini"));
-        write(path, QByteArray("[General]\n") + line + '\n');
-        const Preferences prefs(path);
+        const TemporaryFolder folder;
+        const Preferences prefs(folder.makeFile(iniFile, QByteArray("[General]\n") + line + '\n'));
         EXPECT_EQ(prefs.pollIntervalSeconds(), interval) << line;
         EXPECT_EQ(prefs.pauseOnLowPower(), paused) << line;
         EXPECT_EQ(prefs.menuBarFormat(), format) << line;
@@ -56,34 +51,32 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
 }
 
 TEST(Preferences, ADamagedFileIsKeptBesideAndItsReadableValuesStay) {
-    const TemporarySettings place;
+    const TemporaryFolder folder;
     const QByteArray damaged("\0\xff[[\x01\npref.showInDock\n[General]\npref.pauseOnLowPower=true\n", 57);
-    write(place.path, damaged);
-    Preferences prefs(place.path);
+    const QString path = folder.makeFile(iniFile, damaged);
+    Preferences prefs(path);
     EXPECT_TRUE(prefs.pauseOnLowPower());
     prefs.startAtLogin.set(false);
-    EXPECT_EQ(contentOf(place.path + QStringLiteral(".damaged")), damaged);
-    const Preferences again(place.path);
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged")), damaged);
+    const Preferences again(path);
     EXPECT_TRUE(again.pauseOnLowPower());
     EXPECT_FALSE(again.startAtLogin());
 }
 
 TEST(Preferences, WhatIsNoFileIsLeftAloneAndValuesLastAsLongAsTheProgram) {
-    const TemporarySettings place;
-    const QString pipe = place.folder.filePath(QStringLiteral("pipe"));
-    const QString link = place.folder.filePath(QStringLiteral("link"));
-    const QString folder = place.folder.filePath(QStringLiteral("folder"));
+    const TemporaryFolder place;
+    const QString pipe = place.path(QStringLiteral("pipe"));
+    const QString link = place.path(QStringLiteral("link"));
+    const QString folder = place.makeFolder(QStringLiteral("folder"));
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     ASSERT_TRUE(QFile::link(pipe, link));
-    ASSERT_TRUE(QDir().mkdir(folder));
     for (const QString& path : {pipe, link, folder}) {
         Preferences prefs(path);
         EXPECT_EQ(prefs.pollIntervalSeconds(), 2) << qPrintable(path);
         prefs.pollIntervalSeconds.set(5);
         EXPECT_EQ(prefs.pollIntervalSeconds(), 5) << qPrintable(path);
     }
-    const auto kept =
-        QDir(place.folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    const auto kept = QDir(place.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     EXPECT_EQ(kept, QStringList({QStringLiteral("folder"), QStringLiteral("link"), QStringLiteral("pipe")}));
     EXPECT_FALSE(QFileInfo(pipe).isFile());
 }

@@ -23,23 +23,52 @@ public:
         bool operator==(const Sent&) const = default;
     };
 
-    void start(qint32 pid, const Script& script);
+    void start(qint32 pid, const Script& script) {
+        m_processes[pid] = {.script = script, .life = m_processes[pid].life + 1, .running = true};
+    }
     void start(qint32 pid) { start(pid, Script()); }
-    void end(qint32 pid);
+    void end(qint32 pid) { m_processes[pid].running = false; }
     /// Every signal that reached a process, or was refused by one, probes left out.
     const QList<Sent>& sent() const { return m_sent; }
 
-    std::shared_ptr<ProcessHandle> hold(qint32 pid) override;
+    std::shared_ptr<ProcessHandle> hold(qint32 pid) override {
+        const Process process = m_processes.value(pid);
+        return std::make_shared<Handle>(shared_from_this(), pid, process.running ? process.life : 0);
+    }
 
 private:
-    class Handle;
+    class Handle : public ProcessHandle {
+    public:
+        Handle(std::shared_ptr<FakeSignals> owner, qint32 pid, int life)
+            : m_owner(std::move(owner))
+            , m_pid(pid)
+            , m_life(life) {}
+
+        SignalResult send(Signal signal) override { return m_owner->sendTo(m_pid, m_life, signal); }
+
+    private:
+        std::shared_ptr<FakeSignals> m_owner;
+        qint32 m_pid;
+        int m_life;
+    };
     struct Process {
         Script script;
         int life = 0;
         bool running = false;
     };
 
-    SignalResult sendTo(qint32 pid, int life, Signal signal);
+    SignalResult sendTo(qint32 pid, int life, Signal signal) {
+        const auto process = m_processes.find(pid);
+        if (process == m_processes.end() || !process->running || process->life != life)
+            return SignalResult::noSuchProcess;
+        if (signal == Signal::probe)
+            return process->script.probe;
+        m_sent.append({.pid = pid, .signal = signal, .life = life});
+        const SignalResult result = signal == Signal::kill ? process->script.kill : process->script.terminate;
+        if (result == SignalResult::delivered && (signal == Signal::kill || process->script.endsOnTerminate))
+            process->running = false;
+        return result;
+    }
 
     QHash<qint32, Process> m_processes;
     QList<Sent> m_sent;
