@@ -35,14 +35,15 @@ public:
         return static_cast<int>(pids.size());
     }
 
-    /// A child of `parent`, waited for.
-    qint32 childOf(qint32 parent) {
+    /// A server that `parent` started, waited for until it is as large.
+    qint32 childOf(qint32 parent, quint64 leastBytes) {
         qint32 child = 0;
         const auto isThere = [&] {
             const int count = LinuxProcessTable::listAllPids(m_everything);
             for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
                 const auto info = kernelInfo(pid);
-                if (info && info->parentPid == parent && origin(pid).argumentArea.contains("mcp-server"))
+                if (info && info->parentPid == parent && origin(pid).argumentArea.contains("mcp-server") &&
+                    taskInfo(pid).value_or(TaskInfo()).residentBytes >= leastBytes)
                     child = pid;
             }
             return child > 0;
@@ -156,8 +157,9 @@ TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKi
             .toStdString();
     Child host(claude.toStdString(), {"claude", script});
     Child shell("/bin/sh", {"sh", script});
-    const qint32 hosted = processes->childOf(host.pid());
-    const qint32 orphan = processes->childOf(shell.pid());
+    const quint64 least = published.isEmpty() ? 0 : 20 << 20; // of a runtime that has begun
+    const qint32 hosted = processes->childOf(host.pid(), least);
+    const qint32 orphan = processes->childOf(shell.pid(), least);
     ASSERT_GT(hosted, 0);
     ASSERT_GT(orphan, 0);
     processes->pids = {host.pid(), shell.pid(), hosted, orphan};
