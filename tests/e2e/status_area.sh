@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Drives the real program on a private display with a window manager and a tray, as a person would:
-#   status_area.sh PROGRAM
+#   status_area.sh PROGRAM TRAY_ON_BUS
 set -euo pipefail
 program=$(realpath "$1")
+tray_on_bus=$(realpath "$2")
 cd "$(dirname "$0")/../.."
 . scripts/lib/display.sh
 . tests/e2e/lib.sh
@@ -17,6 +18,11 @@ window_of_size() {
     done
     return 1
 }
+start_tray_on_bus() {
+    spawn "$tray_on_bus" >>"$private_files/items"
+    bus_tray=$spawned
+}
+items_are() { [ "$(grep -cx item "$private_files/items")" = "$1" ]; }
 shown() { window_of_size "$1" >/dev/null; }
 place() { xdotool getwindowgeometry "$1" | awk '/Position/ { print $2 }'; }
 click() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
@@ -110,4 +116,21 @@ check "a second start brings the main window forward" main_window_shown
 xdotool windowactivate --sync "$(main_window "$pid")" key ctrl+q
 check "Ctrl+Q ends the program" not alive "$pid"
 wait "$pid" || fail "it ends well, not with $?" # as it would after a leak, under the sanitizers
+
+kill "$tray_program"
+start_tray_on_bus
+within_ten_seconds grep -qx tray "$private_files/items" || fail "a tray appears on the bus"
+spawn "$program"
+pid=$spawned
+check "the item goes to a tray on the bus" items_are 1
+kill "$bus_tray"
+check "without it the pill shows the figures" shown "$pill"
+start_tray_on_bus
+check "once it is back it takes the pill's place" not shown "$pill"
+check "and has the item again" items_are 2
+kill -STOP "$bus_tray"
+sleep 4
+kill "$pid"
+check "a tray that no longer answers does not hold up the program" not alive "$pid"
+kill -CONT "$bus_tray"
 echo "1 passed, 0 failed"

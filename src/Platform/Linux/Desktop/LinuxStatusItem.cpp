@@ -1,8 +1,12 @@
 #include "Platform/Linux/Desktop/LinuxStatusItem.h"
 
 #include "Platform/Linux/Desktop/WaylandWindow.h"
+#include "Platform/Linux/Desktop/X11Window.h"
+
+#include <QDBusConnection>
 
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -15,16 +19,45 @@ LinuxStatusItem::LinuxStatusItem(QObject* parent)
             Q_EMIT clicked();
     });
     connect(&m_pill, &StatusPill::clicked, this, &StatusItem::clicked);
-    // Neither tray protocol announces itself to Qt; asking costs one round trip to the display server.
-    connect(&m_watch, &QTimer::timeout, this, &LinuxStatusItem::followTray);
-    m_watch.start(3s);
+    watchTrays();
+}
+
+/// Qt asks a tray on the bus and waits for its answer, as long as it may take, so it is made to ask only when
+/// a tray may have come or gone.
+void LinuxStatusItem::watchTrays() {
+    const auto notifier = QStringLiteral("org.kde.StatusNotifierWatcher");
+    if (auto bus = QDBusConnection::sessionBus(); bus.isConnected()) {
+        m_notifierWatch.setConnection(bus);
+        m_notifierWatch.addWatchedService(notifier);
+        connect(&m_notifierWatch, &QDBusServiceWatcher::serviceOwnerChanged, this,
+                &LinuxStatusItem::askForTray);
+        for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
+            bus.connect(QString(), QStringLiteral("/StatusNotifierWatcher"), notifier,
+                        QString::fromLatin1(event), this, SLOT(askForTray()));
+    }
+    // The older protocol announces itself to a tray's clients only; this is one round trip to the display.
+    connect(&m_windowWatch, &QTimer::timeout, this, &LinuxStatusItem::watchTrayWindow);
+    m_windowWatch.start(3s);
+    m_trayWindow = X11Window::tray();
+    m_hasTray = QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void LinuxStatusItem::watchTrayWindow() {
+    const quint32 window = X11Window::tray();
+    if (std::exchange(m_trayWindow, window) != window)
+        askForTray();
+}
+
+void LinuxStatusItem::askForTray() {
+    m_hasTray = QSystemTrayIcon::isSystemTrayAvailable();
+    placeItem();
 }
 
 void LinuxStatusItem::show(const StatusContent& content) {
     m_tray.setIcon(content.compact);
     m_tray.setToolTip(content.toolTip);
     m_pill.setContent(content);
-    followTray();
+    placeItem();
 }
 
 void LinuxStatusItem::setMenu(QMenu* menu) {
@@ -36,9 +69,8 @@ QRect LinuxStatusItem::geometry() const {
     return m_pill.isVisible() ? m_pill.geometry() : m_tray.geometry();
 }
 
-void LinuxStatusItem::followTray() {
-    const bool hasTray = QSystemTrayIcon::isSystemTrayAvailable();
-    if (m_tray.isVisible() != hasTray)
-        m_tray.setVisible(hasTray);
-    m_pill.setVisible(!hasTray);
+void LinuxStatusItem::placeItem() {
+    if (m_tray.isVisible() != m_hasTray)
+        m_tray.setVisible(m_hasTray);
+    m_pill.setVisible(!m_hasTray);
 }

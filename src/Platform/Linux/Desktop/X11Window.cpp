@@ -30,6 +30,13 @@ xcb_atom_t atom(const QByteArray& name) {
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
+xcb_window_t ownerOf(const QByteArray& selection) {
+    const auto cookie = xcb_get_selection_owner(connection(), atom(selection));
+    const Reply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(connection(), cookie, nullptr), &std::free);
+    return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
+}
+
 /// Asks the window manager, the way a mapped window has to.
 void sendToRoot(QWidget* window, const QByteArray& message, std::initializer_list<quint32> data) {
     xcb_client_message_event_t event{};
@@ -77,12 +84,11 @@ void activate(QWidget* window) {
 }
 
 bool isComposited() {
-    if (!isX11())
-        return true;
-    const auto cookie = xcb_get_selection_owner(connection(), atom("_NET_WM_CM_S0"));
-    const Reply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(connection(), cookie, nullptr), &std::free);
-    return reply && reply->owner != XCB_WINDOW_NONE;
+    return !isX11() || ownerOf("_NET_WM_CM_S0") != XCB_WINDOW_NONE;
+}
+
+quint32 tray() {
+    return isX11() ? ownerOf("_NET_SYSTEM_TRAY_S0") : xcb_window_t(XCB_WINDOW_NONE);
 }
 
 } // namespace X11Window

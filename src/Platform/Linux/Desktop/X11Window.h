@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QWidget;
 
 /// What the extended window manager hints offer and Qt does not. Under Wayland these do nothing.
@@ -15,5 +17,7 @@ void setSkipTaskbar(QWidget* window, bool skip);
 void activate(QWidget* window);
 /// Whether a compositor runs, without which nothing can be translucent.
 bool isComposited();
+/// The window of the tray that takes in windows (XEmbed); 0 for none.
+quint32 tray();
 
 } // namespace X11Window
