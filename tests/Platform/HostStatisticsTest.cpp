@@ -72,6 +72,17 @@ TEST(HostStatistics, DoesNotFollowACounterThatStepsBack) {
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{6, 31, 450, 0}));
 }
 
+TEST(HostStatistics, CountsOnWhereAContainerWasMovedOrHasFewerCpus) {
+    RecordedTree tree;
+    tree.with(u"proc/stat"_s, "cpu  5000 0 300 90000 0 0 0 0 0 0\n");
+    LinuxHostStatistics host(tree.path());
+    host.cpuTicks();
+    tree.with(u"proc/stat"_s, "cpu  100 0 10 2000 0 0 0 0 0 0\n");
+    EXPECT_EQ(host.cpuTicks(), (CpuTicks{5000, 300, 90000, 0}));
+    tree.with(u"proc/stat"_s, "cpu  104 0 11 2003 0 0 0 0 0 0\n");
+    EXPECT_EQ(host.cpuTicks(), (CpuTicks{5004, 301, 90003, 0}));
+}
+
 /// Figures in KiB, as meminfo has them.
 struct Memory {
     const char* name;

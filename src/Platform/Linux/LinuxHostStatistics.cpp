@@ -23,16 +23,14 @@ std::string pathIn(const QString& root, const QString& path) {
     return QFile::encodeName(root + u'/' + path).toStdString();
 }
 
-/// The per-CPU idle and iowait counts behind a total may step back a little (proc(5)). To a reader of
-/// counters that wrap, such a step would look like 2^32 ticks.
-CpuTicks notBackwards(const CpuTicks& last, const CpuTicks& now) {
-    const auto later = [](quint32 before, quint32 after) {
-        return static_cast<qint32>(after - before) < 0 ? before : after;
-    };
-    return {.user = later(last.user, now.user),
-            .system = later(last.system, now.system),
-            .idle = later(last.idle, now.idle),
-            .nice = later(last.nice, now.nice)};
+/// A count may step back: a little where the kernel adds up its CPUs anew (proc(5)), far where a container
+/// was moved or has fewer CPUs now. To a reader of counters that wrap, such a step would look like 2^32
+/// ticks.
+void addForwardSteps(CpuTicks& sum, const CpuTicks& last, const CpuTicks& now) {
+    for (const auto kind : {&CpuTicks::user, &CpuTicks::system, &CpuTicks::idle, &CpuTicks::nice}) {
+        const quint32 step = now.*kind - last.*kind;
+        sum.*kind += static_cast<qint32>(step) < 0 ? 0 : step;
+    }
 }
 
 /// Memory of the kernel's own or locked by programs: nothing of it can be paged out. The lines do not
@@ -81,8 +79,11 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
         .system = static_cast<quint32>(ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal]),
         .idle = static_cast<quint32>(ticks[idle] + ticks[iowait]),
         .nice = static_cast<quint32>(ticks[nice])};
-    m_lastTicks = notBackwards(m_lastTicks.value_or(now), now);
-    return m_lastTicks;
+    if (!m_ticks)
+        m_ticks = m_lastTicks = now;
+    addForwardSteps(*m_ticks, m_lastTicks, now);
+    m_lastTicks = now;
+    return m_ticks;
 }
 
 std::optional<MemoryPages> LinuxHostStatistics::memoryPages() {

@@ -35,5 +35,6 @@ private:
     KernelFile m_meminfo;
     std::vector<KernelFile> m_zram;
     ThermalZones m_zones;
-    std::optional<CpuTicks> m_lastTicks;
+    std::optional<CpuTicks> m_ticks; ///< never step back
+    CpuTicks m_lastTicks;            ///< as they were read
 };
