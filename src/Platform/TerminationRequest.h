@@ -3,7 +3,7 @@
 #include <QObject>
 
 /// The system, or whoever started the program, asks it to end: the session closes, a terminal's interrupt
-/// key was pressed. One per program.
+/// key was pressed. A request that was ignored when the program started stays so. One per program.
 class TerminationRequest : public QObject {
     Q_OBJECT
 

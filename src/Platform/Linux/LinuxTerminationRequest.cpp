@@ -31,6 +31,10 @@ TerminationRequest::TerminationRequest(QObject* parent)
     struct sigaction action {};
     action.sa_handler = tellMainLoop;
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction atStart {};
+        sigaction(signal, &action, &atStart);
+        if (atStart.sa_handler == SIG_IGN) // nohup(1) and shells mean it
+            sigaction(signal, &atStart, nullptr);
+    }
 }
