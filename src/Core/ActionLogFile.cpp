@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A full disk or a crash may have cut a line short, to which the next one must not be joined.
+/// A crash may have cut a line short, to which the next one must not be joined.
 bool endsInsideALine(QFile& file) {
     char last = '\n';
     return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
@@ -35,6 +35,9 @@ void Cleaner::appendActionLog(const ActionLogEntry& entry) {
     QFile file(place.filePath());
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
         return;
-    const QByteArray line = actionLogLine(entry);
-    file.write(endsInsideALine(file) ? '\n' + line : line);
+    const qint64 end = file.size();
+    const QByteArray line = (endsInsideALine(file) ? "\n" : "") + actionLogLine(entry);
+    // What a full disk took of a line may end inside a character, and the whole file would be no text.
+    if (file.write(line) < line.size())
+        file.resize(end);
 }

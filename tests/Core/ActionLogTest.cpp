@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -107,6 +109,20 @@ TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
     EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\n"
                          "2026-11-16T14:23:43Z\tclean\tok\t1048576\tone\n"
                          "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\n");
+}
+
+TEST_F(ActionLogTest, ALineThatDoesNotFitLeavesTheFileAsItWas) {
+    Cleaner::appendActionLog(entry(u"one"_s));
+    const QByteArray before = written();
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const auto onFull = std::signal(SIGXFSZ, SIG_IGN); // stands in for a full disk
+    const rlimit full{.rlim_cur = static_cast<rlim_t>(before.size()) + 40, .rlim_max = limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    Cleaner::appendActionLog(entry(u"“two”"_s));
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, onFull);
+    EXPECT_EQ(written(), before);
 }
 
 TEST_F(ActionLogTest, UnusualLinesAreKept) {
