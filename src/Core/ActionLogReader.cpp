@@ -65,8 +65,6 @@ QString kindText(QByteArrayView kind) {
 }
 
 std::optional<LoggedAction> parseLine(QByteArrayView line) {
-    if (!QUtf8StringView(line).isValidUtf8())
-        return std::nullopt;
     std::array<QByteArrayView, fieldsBeforeDetail> fields;
     for (QByteArrayView& field : fields) {
         field = takeField(line);
@@ -123,6 +121,8 @@ QString ActionLogReader::path() {
 }
 
 QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
+    if (!QUtf8StringView(bytes).isValidUtf8())
+        return {};
     QList<LoggedAction> actions = linesOf(bytes);
     std::ranges::stable_sort(actions, std::ranges::greater(), &LoggedAction::timestamp);
     return actions;

@@ -9,8 +9,8 @@ namespace ActionLogReader {
 
 QString path();
 
-/// Every well-formed line, newest first; lines of one second in the order of the file. A damaged line (not
-/// UTF-8, too few fields, no date, no byte count) is left out and hides no other.
+/// Every well-formed line, newest first; lines of one second in the order of the file. A damaged line (too
+/// few fields, no date, no byte count) is left out and hides no other; a file that is not UTF-8 has none.
 QList<LoggedAction> parse(const QByteArray& bytes);
 
 /// The file's lines. Empty when there is no readable file.

@@ -81,9 +81,6 @@ TEST_F(ActionLogTest, DamagedLinesHideNoOther) {
     const QList<QByteArray> damaged = {
         "",
         "not a record",
-        "\xff\xfe",
-        "2026-11-16T14:23:43Z\tquit\tok\t1\tbad \xc3\x28 byte",
-        "2026-11-16T14:23:43Z\tqu\xe9it\tok\t1\tdetail",
         "2026-11-16T14:23:43Z\tquit\tok\t1\t",
         "2026-11-16T14:23:43Z\tquit\tok\t1",
         "2026-11-16T14:23:43Z\tquit\tok\t-1\tdetail",
@@ -100,6 +97,14 @@ TEST_F(ActionLogTest, DamagedLinesHideNoOther) {
         EXPECT_EQ(details(good + line + '\n' + good), (QStringList{u"good"_s, u"good"_s}))
             << line.left(80).data();
     EXPECT_EQ(details(good + "2026-11-16T14:23:43Z\tquit\tok\t1\tcut"), (QStringList{u"good"_s, u"cut"_s}));
+}
+
+TEST_F(ActionLogTest, AFileThatIsNoTextHasNoActions) {
+    const QByteArray good = "2026-11-16T14:23:43Z\tquit\tok\t1\t“good”\n";
+    EXPECT_EQ(details(good), QStringList(u"“good”"_s));
+    for (const char* piece : {"\xff\xfe\n", "2026-11-16T14:23:43Z\tquit\tok\t1\tbad \xc3\x28 byte\n",
+                              "2026-11-16T14:23:43Z\tqu\xe9it\tok\t1\tdetail\n"})
+        EXPECT_EQ(details(good + piece + good), QStringList()) << piece;
 }
 
 TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
