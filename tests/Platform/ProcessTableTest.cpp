@@ -324,7 +324,7 @@ void checkUnderLimit(rlim_t limit, qint32 pid) {
 
 TEST(ProcessTable, DoesWithFewDescriptors) {
     const auto subject = waitingProgram();
-    for (const rlim_t limit : {64, 70, 80}) {
+    for (const rlim_t limit : {64, 134, 144}) {
         Child child([&](int) { checkUnderLimit(limit, subject.pid()); });
         EXPECT_EQ(child.exitStatus(), 0) << "limit " << limit;
     }

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr qsizetype descriptorsForTheRest = 64;
+constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone takes 30 at once
 constexpr qsizetype commLength = 15;
 // Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
 constexpr int mostRepeats = 15;
