@@ -118,11 +118,12 @@ check "Ctrl+Q ends the program" not alive "$pid"
 wait "$pid" || fail "it ends well, not with $?" # as it would after a leak, under the sanitizers
 
 kill "$tray_program"
-start_tray_on_bus
-within_ten_seconds grep -qx tray "$private_files/items" || fail "a tray appears on the bus"
 spawn "$program"
 pid=$spawned
-check "the item goes to a tray on the bus" items_are 1
+check "a start without any tray shows the pill" shown "$pill"
+start_tray_on_bus
+check "the item goes to a tray that appears on the bus" items_are 1
+check "and the pill goes" not shown "$pill"
 kill "$bus_tray"
 check "without it the pill shows the figures" shown "$pill"
 start_tray_on_bus

@@ -4,73 +4,105 @@
 #include "Platform/Linux/Desktop/X11Window.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
 
 #include <chrono>
 #include <utility>
 
 using namespace std::chrono_literals;
 
+namespace {
+
+constexpr int answerMs = 1000;
+
+const auto notifier = QStringLiteral("org.kde.StatusNotifierWatcher");
+const auto notifierPath = QStringLiteral("/StatusNotifierWatcher");
+
+} // namespace
+
 LinuxStatusItem::LinuxStatusItem(QObject* parent)
     : StatusItem(parent) {
-    connect(&m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        // A Wayland tray that draws no menus asks for ours, which could not pop up there.
-        const bool isMenuMissing = reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
-        if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
-            Q_EMIT clicked();
-    });
     connect(&m_pill, &StatusPill::clicked, this, &StatusItem::clicked);
-    watchTrays();
-}
 
-/// Qt asks a tray on the bus and waits for its answer, as long as it may take, so it is made to ask only when
-/// a tray may have come or gone.
-void LinuxStatusItem::watchTrays() {
-    const auto notifier = QStringLiteral("org.kde.StatusNotifierWatcher");
-    if (auto bus = QDBusConnection::sessionBus(); bus.isConnected()) {
-        m_notifierWatch.setConnection(bus);
-        m_notifierWatch.addWatchedService(notifier);
-        connect(&m_notifierWatch, &QDBusServiceWatcher::serviceOwnerChanged, this,
-                &LinuxStatusItem::askForTray);
-        for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
-            bus.connect(QString(), QStringLiteral("/StatusNotifierWatcher"), notifier,
-                        QString::fromLatin1(event), this, SLOT(askForTray()));
-    }
+    auto bus = QDBusConnection::sessionBus();
+    m_notifierWatch.setConnection(bus);
+    m_notifierWatch.addWatchedService(notifier);
+    connect(&m_notifierWatch, &QDBusServiceWatcher::serviceOwnerChanged, this, &LinuxStatusItem::askNotifier);
+    for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
+        bus.connect(QString(), notifierPath, notifier, QString::fromLatin1(event), this, SLOT(askNotifier()));
     // The older protocol announces itself to a tray's clients only; this is one round trip to the display.
     connect(&m_windowWatch, &QTimer::timeout, this, &LinuxStatusItem::watchTrayWindow);
     m_windowWatch.start(3s);
     m_trayWindow = X11Window::tray();
-    m_hasTray = QSystemTrayIcon::isSystemTrayAvailable();
+    askNotifier();
+}
+
+void LinuxStatusItem::askNotifier() {
+    auto question = QDBusMessage::createMethodCall(
+        notifier, notifierPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << notifier << QStringLiteral("IsStatusNotifierHostRegistered");
+    question.setAutoStartService(false);
+    auto* watcher =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question, answerMs), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        m_hasNotifier = reply.isValid() && reply.value().variant().toBool();
+        watcher->deleteLater();
+        chooseTray();
+    });
 }
 
 void LinuxStatusItem::watchTrayWindow() {
     const quint32 window = X11Window::tray();
     if (std::exchange(m_trayWindow, window) != window)
-        askForTray();
+        chooseTray();
 }
 
-void LinuxStatusItem::askForTray() {
-    m_hasTray = QSystemTrayIcon::isSystemTrayAvailable();
-    placeItem();
+/// Qt is asked only once there is a tray: it settles at its first answer for good which kind there is, and
+/// waits for one that does not answer.
+void LinuxStatusItem::chooseTray() {
+    const bool hasTray = (m_hasNotifier || m_trayWindow != 0) && QSystemTrayIcon::isSystemTrayAvailable();
+    if (hasTray && !m_tray) {
+        m_tray.emplace();
+        connect(&*m_tray, &QSystemTrayIcon::activated, this,
+                [this](QSystemTrayIcon::ActivationReason reason) {
+                    // A Wayland tray that draws no menus asks for ours, which could not pop up there.
+                    const bool isMenuMissing =
+                        reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
+                    if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
+                        Q_EMIT clicked();
+                });
+        m_tray->setContextMenu(m_menu);
+        fillTray();
+    }
+    if (m_tray)
+        m_tray->setVisible(hasTray);
+    m_pill.setVisible(!hasTray);
+}
+
+void LinuxStatusItem::fillTray() {
+    if (!m_tray)
+        return;
+    m_tray->setIcon(m_content.compact);
+    m_tray->setToolTip(m_content.toolTip);
 }
 
 void LinuxStatusItem::show(const StatusContent& content) {
-    m_tray.setIcon(content.compact);
-    m_tray.setToolTip(content.toolTip);
+    m_content = content;
+    fillTray();
     m_pill.setContent(content);
-    placeItem();
 }
 
 void LinuxStatusItem::setMenu(QMenu* menu) {
-    m_tray.setContextMenu(menu);
+    m_menu = menu;
+    if (m_tray)
+        m_tray->setContextMenu(menu);
     m_pill.setMenu(menu);
 }
 
 QRect LinuxStatusItem::geometry() const {
-    return m_pill.isVisible() ? m_pill.geometry() : m_tray.geometry();
-}
-
-void LinuxStatusItem::placeItem() {
-    if (m_tray.isVisible() != m_hasTray)
-        m_tray.setVisible(m_hasTray);
-    m_pill.setVisible(!m_hasTray);
+    return m_tray && m_tray->isVisible() ? m_tray->geometry() : m_pill.geometry();
 }

@@ -4,11 +4,16 @@
 #include "Platform/Linux/Desktop/StatusPill.h"
 
 #include <QDBusServiceWatcher>
+#include <QMenu>
+#include <QPointer>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
+#include <optional>
+
 /// An item in the desktop's tray, or the pill while there is no tray. A tray that appears or vanishes while
-/// the program runs is followed; one that stops to answer holds up nothing.
+/// the program runs is followed; one that stops answering holds up nothing. Nothing shows before the first
+/// answer.
 class LinuxStatusItem : public StatusItem {
     Q_OBJECT
 
@@ -20,17 +25,19 @@ public:
     QRect geometry() const override;
 
 private Q_SLOTS:
-    void askForTray();
+    void askNotifier();
 
 private:
-    void watchTrays();
     void watchTrayWindow();
-    void placeItem();
+    void chooseTray();
+    void fillTray();
 
-    QSystemTrayIcon m_tray;
+    StatusContent m_content;
+    QPointer<QMenu> m_menu;
+    std::optional<QSystemTrayIcon> m_tray; ///< once there is a tray
     StatusPill m_pill;
     QDBusServiceWatcher m_notifierWatch;
+    bool m_hasNotifier = false; ///< a tray on the bus
     QTimer m_windowWatch;
     quint32 m_trayWindow = 0; ///< that of the older protocol, 0 for none
-    bool m_hasTray = false;
 };
