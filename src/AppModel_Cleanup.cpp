@@ -1,7 +1,6 @@
 #include "AppModel.h"
 
 #include "Core/CacheScanner.h"
-#include "Platform/Clock.h"
 
 #include <QPointer>
 
@@ -46,8 +45,7 @@ QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString
     progress = *m_cleanProgress;
     ++progress.done;
     publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
-    log({QUuid::createUuid(), m_platform.clock->now(), ActionLogEntry::Kind::clean, logDetail,
-         result.freedBytes, result.success});
+    record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.success);
     co_return result;
 }
 

@@ -20,6 +20,11 @@ QString Cleaner::actionLogPath() {
     return QDir::homePath() + QStringLiteral("/Library/Logs/Tavrin/actions.log");
 }
 
+bool Cleaner::isActionLogObstructed() {
+    const QFileInfo place(actionLogPath());
+    return place.exists() && !place.isFile();
+}
+
 QByteArray Cleaner::actionLogLine(const ActionLogEntry& entry) {
     return Iso8601::format(entry.timestamp) + '\t' + rawValue(entry.kind).toUtf8() + '\t' +
            (entry.success ? "ok" : "fail") + '\t' + QByteArray::number(entry.freedBytes) + '\t' +
@@ -27,13 +32,10 @@ QByteArray Cleaner::actionLogLine(const ActionLogEntry& entry) {
 }
 
 void Cleaner::appendActionLog(const ActionLogEntry& entry) {
-    const QFileInfo place(actionLogPath());
-    QDir().mkpath(place.path());
-    // Opening a pipe that nobody reads would never return.
-    if (place.exists() && !place.isFile())
-        return;
-    QFile file(place.filePath());
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
+    QFile file(actionLogPath());
+    QDir().mkpath(QFileInfo(file).path());
+    if (isActionLogObstructed() ||
+        !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
         return;
     const qint64 end = file.size();
     const QByteArray line = (endsInsideALine(file) ? "\n" : "") + actionLogLine(entry);

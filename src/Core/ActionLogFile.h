@@ -7,6 +7,9 @@ namespace Cleaner {
 /// "~/Library/Logs/Tavrin/actions.log" in the user's home folder.
 QString actionLogPath();
 
+/// Whether something else than a file stands there. Opening a pipe or a device could wait for ever.
+bool isActionLogObstructed();
+
 /// The line of one action, its end included: time, kind, "ok" or "fail", freed bytes and detail, separated by
 /// TABs.
 QByteArray actionLogLine(const ActionLogEntry& entry);

@@ -4,7 +4,6 @@
 #include "Core/Iso8601.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -96,19 +95,6 @@ QList<LoggedAction> linesOf(const QByteArray& bytes) {
     return actions;
 }
 
-/// Opening a pipe or a device in the place of the log could wait for ever.
-bool isOtherThanFile(const QString& path) {
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile();
-}
-
-QByteArray readFile(const QString& path) {
-    QFile file(path);
-    if (isOtherThanFile(path) || !file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
-}
-
 } // namespace
 
 QString LoggedAction::id() const {
@@ -129,7 +115,9 @@ QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
 }
 
 QList<LoggedAction> ActionLogReader::read() {
-    return parse(readFile(path()));
+    QFile file(path());
+    const bool isReadable = !Cleaner::isActionLogObstructed() && file.open(QIODevice::ReadOnly);
+    return isReadable ? parse(file.readAll()) : QList<LoggedAction>();
 }
 
 QString ActionLogReader::csv(const QList<LoggedAction>& actions) {
@@ -149,6 +137,6 @@ QString ActionLogReader::exportCSV() {
 
 void ActionLogReader::clear() {
     QFile file(path());
-    if (!isOtherThanFile(path()))
+    if (!Cleaner::isActionLogObstructed())
         file.open(QIODevice::WriteOnly | QIODevice::Truncate);
 }

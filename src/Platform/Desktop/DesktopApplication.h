@@ -12,7 +12,7 @@ class DesktopApplication {
 public:
     virtual ~DesktopApplication() = default;
 
-    /// Windows that are no panels or pop-ups, ordered-out ones included, oldest first.
+    /// Windows that are no panels or pop-ups, ordered-out ones included, in no particular order.
     virtual QList<QWidget*> windows() const = 0;
     /// Shows the window if need be, over the windows of other programs, with the keyboard.
     virtual void bringForward(QWidget* window) = 0;
