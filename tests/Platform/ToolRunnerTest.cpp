@@ -13,6 +13,7 @@
 #include <sys/resource.h>
 
 #include <algorithm>
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -54,6 +55,12 @@ TEST(ToolRunner, TellsHowAProgramEnded) {
     const ToolResult crashed = runShell(u"kill -KILL $$"_s);
     EXPECT_TRUE(crashed.launched);
     EXPECT_EQ(crashed.exitStatus, -1);
+}
+
+TEST(ToolRunner, TellsItAlsoWhereWhoeverStartedUsIgnoredTheEndOfChildren) {
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(runShell(u"exit 0"_s).exitStatus, 0);
+    std::signal(SIGCHLD, before);
 }
 
 TEST(ToolRunner, AnswersAtOnceForWhatCannotBeLaunched) {

@@ -94,7 +94,13 @@ void terminateLater(QProcess* process, std::chrono::milliseconds time) {
 } // namespace
 
 LinuxToolRunner::LinuxToolRunner(QString toolsFolder)
-    : m_toolsFolder(std::move(toolsFolder)) {}
+    : m_toolsFolder(std::move(toolsFolder)) {
+    struct sigaction ofChildren {};
+    sigaction(SIGCHLD, nullptr, &ofChildren);
+    // Inherited so from some window managers; the kernel would then tell nobody how a child ended.
+    if (ofChildren.sa_handler == SIG_IGN)
+        signal(SIGCHLD, SIG_DFL);
+}
 
 QString LinuxToolRunner::ownToolsFolder() {
     const QDir own(QCoreApplication::applicationDirPath());
