@@ -107,8 +107,10 @@ QStringList LinuxPlaces::locate(const QString& path) const {
         places.append(asItStands);
     } else {
         for (const Row& row : elsewhere) {
+            if (row.path != path)
+                continue;
             const QString place = QDir::cleanPath(folderOf(row.base, *home) + u'/' + row.below.toString());
-            if (row.path == path && QFileInfo::exists(place))
+            if (QFileInfo::exists(place))
                 places.append(place);
         }
         if (places.isEmpty())
