@@ -42,6 +42,7 @@ panel=320x360
 card='240x*'
 pill='*x26'
 
+unset DBUS_SESSION_BUS_ADDRESS # the desktop that this runs on may have a tray of its own
 start_display
 start_bus
 home=$private_files/home
