@@ -134,5 +134,10 @@ kill -STOP "$bus_tray"
 sleep 4
 kill "$pid"
 check "a tray that no longer answers does not hold up the program" not alive "$pid"
+spawn "$program"
+pid=$spawned
+check "a start meanwhile shows the pill" shown "$pill"
 kill -CONT "$bus_tray"
+check "and the item once the tray answers" items_are 3
+check "instead of the pill" not shown "$pill"
 echo "1 passed, 0 failed"

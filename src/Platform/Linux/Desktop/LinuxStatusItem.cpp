@@ -49,6 +49,7 @@ void LinuxStatusItem::askNotifier() {
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question, answerMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        m_isSilent = reply.error().type() == QDBusError::NoReply;
         m_hasNotifier = reply.isValid() && reply.value().variant().toBool();
         watcher->deleteLater();
         chooseTray();
@@ -57,14 +58,18 @@ void LinuxStatusItem::askNotifier() {
 
 void LinuxStatusItem::watchTrayWindow() {
     const quint32 window = X11Window::tray();
-    if (std::exchange(m_trayWindow, window) != window)
+    const bool isOther = std::exchange(m_trayWindow, window) != window;
+    if (m_isSilent)
+        askNotifier();
+    else if (isOther)
         chooseTray();
 }
 
-/// Qt is asked only once there is a tray: it settles at its first answer for good which kind there is, and
-/// waits for one that does not answer.
+/// Qt is asked only once there is a tray that answers: it settles at its first look for good which kind there
+/// is, and waits for one that is silent.
 void LinuxStatusItem::chooseTray() {
-    const bool hasTray = (m_hasNotifier || m_trayWindow != 0) && QSystemTrayIcon::isSystemTrayAvailable();
+    const bool mayHaveTray = !m_isSilent && (m_hasNotifier || m_trayWindow != 0);
+    const bool hasTray = mayHaveTray && QSystemTrayIcon::isSystemTrayAvailable();
     if (hasTray && !m_tray) {
         m_tray.emplace();
         connect(&*m_tray, &QSystemTrayIcon::activated, this,

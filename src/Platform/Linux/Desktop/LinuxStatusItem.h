@@ -38,6 +38,7 @@ private:
     StatusPill m_pill;
     QDBusServiceWatcher m_notifierWatch;
     bool m_hasNotifier = false; ///< a tray on the bus
+    bool m_isSilent = false;    ///< it did not answer when last asked
     QTimer m_windowWatch;
     quint32 m_trayWindow = 0; ///< that of the older protocol, 0 for none
 };
