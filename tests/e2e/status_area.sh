@@ -140,4 +140,11 @@ check "a start meanwhile shows the pill" shown "$pill"
 kill -CONT "$bus_tray"
 check "and the item once the tray answers" items_are 3
 check "instead of the pill" not shown "$pill"
+kill "$pid"
+check "the program ends" not alive "$pid"
+start_tray
+sleep 1 # it is there before the program
+DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent spawn "$program"
+pid=$spawned
+check "without a bus the item goes to the tray on the display" shown '[123]?x[123]?'
 echo "1 passed, 0 failed"

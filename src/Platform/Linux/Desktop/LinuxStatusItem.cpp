@@ -41,12 +41,16 @@ LinuxStatusItem::LinuxStatusItem(QObject* parent)
 }
 
 void LinuxStatusItem::askNotifier() {
+    auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) { // nobody would ever answer
+        QMetaObject::invokeMethod(this, &LinuxStatusItem::chooseTray, Qt::QueuedConnection);
+        return;
+    }
     auto question = QDBusMessage::createMethodCall(
         notifier, notifierPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question << notifier << QStringLiteral("IsStatusNotifierHostRegistered");
     question.setAutoStartService(false);
-    auto* watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question, answerMs), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, answerMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         m_isSilent = reply.error().type() == QDBusError::NoReply;
