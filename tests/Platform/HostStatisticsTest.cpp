@@ -73,13 +73,13 @@ TEST(HostStatistics, DoesNotFollowACounterThatStepsBack) {
 }
 
 TEST(HostStatistics, CountsOnWhereAContainerWasMovedOrHasFewerCpus) {
-    RecordedTree tree;
-    tree.with(u"proc/stat"_s, "cpu  5000 0 300 90000 0 0 0 0 0 0\n");
+    TemporaryFolder tree;
+    tree.makeFile(u"proc/stat"_s, "cpu  5000 0 300 90000 0 0 0 0 0 0\n");
     LinuxHostStatistics host(tree.path());
     host.cpuTicks();
-    tree.with(u"proc/stat"_s, "cpu  100 0 10 2000 0 0 0 0 0 0\n");
+    tree.makeFile(u"proc/stat"_s, "cpu  100 0 10 2000 0 0 0 0 0 0\n");
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{5000, 300, 90000, 0}));
-    tree.with(u"proc/stat"_s, "cpu  104 0 11 2003 0 0 0 0 0 0\n");
+    tree.makeFile(u"proc/stat"_s, "cpu  104 0 11 2003 0 0 0 0 0 0\n");
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{5004, 301, 90003, 0}));
 }
 
