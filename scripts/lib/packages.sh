@@ -26,7 +26,7 @@ need() {
     for group in "$@"; do
         packages=$(packages_of "$group") || return
         for package in $packages; do
-            is_installed "$package" || missing+=("$package")
+            is_installed "$package" || [[ " ${missing[*]} " = *" $package "* ]] || missing+=("$package")
         done
     done
     [ ${#missing[@]} -eq 0 ] && return

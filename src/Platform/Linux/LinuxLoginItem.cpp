@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -103,7 +104,10 @@ std::optional<QString> LinuxLoginItem::registerItem() {
 }
 
 std::optional<QString> LinuxLoginItem::unregisterItem() {
-    const bool removed = unlink(QFile::encodeName(entryFile()).constData()) == 0;
-    const bool neverThere = errno == ENOENT || errno == ENOTDIR;
-    return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), errno));
+    const QByteArray entry = QFile::encodeName(entryFile());
+    const bool removed = unlink(entry.constData()) == 0;
+    const int reason = errno;
+    struct stat nothing; // a disk that is read-only refuses also to remove what is not there
+    const bool neverThere = lstat(entry.constData(), &nothing) != 0 && (errno == ENOENT || errno == ENOTDIR);
+    return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), reason));
 }
