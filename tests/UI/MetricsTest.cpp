@@ -73,3 +73,19 @@ TEST(Sparkline, ScalesToItsLargestValueButAtLeastOne) {
     EXPECT_EQ(Sparkline::points({0, 50}, size), (QPolygonF{{0, 30}, {90, 0}}));
     EXPECT_EQ(Sparkline::points({0, 0.5, 0, 0.5}, size), (QPolygonF{{0, 30}, {30, 15}, {60, 30}, {90, 15}}));
 }
+
+TEST(Sparkline, ALongHistoryKeepsItsPeaks) {
+    QList<double> values(3600, 0.0);
+    values[1800] = 100;
+    values[2700] = 50;
+    Sparkline sparkline;
+    sparkline.resize(100, sparkline.height());
+    sparkline.set(values, Qt::black);
+    const QImage picture = sparkline.grab().toImage();
+    const auto inkIn = [&](int x, int y) { return picture.pixelColor(x, y) != picture.pixelColor(0, 0); };
+    EXPECT_TRUE(inkIn(50, 2));
+    EXPECT_FALSE(inkIn(75, 2));
+    EXPECT_TRUE(inkIn(75, picture.height() / 2 + 2));
+    EXPECT_TRUE(inkIn(25, picture.height() - 1));
+    EXPECT_FALSE(inkIn(25, picture.height() / 2));
+}
