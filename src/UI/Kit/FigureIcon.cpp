@@ -3,9 +3,12 @@
 #include "UI/Kit/Symbols.h"
 
 #include <QApplication>
+#include <QIconEngine>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -31,10 +34,8 @@ void drawFigure(QPainter& painter, const QRectF& room, QRgb ink, const QString& 
     painter.drawText(QPointF(qRound(room.center().x() - width / 2), qRound(baseline)), figure);
 }
 
-QPixmap draw(const QStringList& figures, int size) {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+/// In the square at the origin.
+void draw(QPainter& painter, const QStringList& figures, int size) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(badgeFill));
@@ -45,7 +46,7 @@ QPixmap draw(const QStringList& figures, int size) {
         const int inner = qRound(size * 0.8);
         Symbols::draw(painter, QStringLiteral("waveform.path.ecg"), QColor(inks[0]), QRectF(0, 0, size, size),
                       inner);
-        return pixmap;
+        return;
     }
     const double inset = size * 0.06;
     const double row = (size - 2 * inset) / static_cast<double>(figures.size());
@@ -53,14 +54,43 @@ QPixmap draw(const QStringList& figures, int size) {
         const QRectF room(inset, inset + row * static_cast<double>(i), size - 2 * inset, row);
         drawFigure(painter, room, inks[static_cast<std::size_t>(i) % inks.size()], figures[i]);
     }
-    return pixmap;
 }
+
+/// Draws the size that is asked for. An icon of pixmaps would draw all, and Qt keep each that was shown in
+/// its cache, megabytes of figures of the past.
+class FigureIconEngine : public QIconEngine {
+public:
+    explicit FigureIconEngine(QStringList figures)
+        : m_figures(std::move(figures)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        const int size = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->translate(rect.center() - QPoint((size - 1) / 2, (size - 1) / 2));
+        draw(*painter, m_figures, size);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> result;
+        for (const int size : sizes)
+            result.append(QSize(size, size));
+        return result;
+    }
+    QIconEngine* clone() const override { return new FigureIconEngine(*this); }
+
+private:
+    QStringList m_figures;
+};
 
 } // namespace
 
 QIcon FigureIcon::make(const QStringList& figures) {
-    QIcon icon;
-    for (const int size : sizes)
-        icon.addPixmap(draw(figures, size));
-    return icon;
+    return QIcon(new FigureIconEngine(figures));
 }
