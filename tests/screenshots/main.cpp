@@ -88,11 +88,12 @@ struct Stage : ModelFixture {
         for (const Actor& actor : cast) {
             cpuTimePerTick[actor.name] = static_cast<quint64>(actor.cores * 2e9);
             for (int i = 0; i < actor.count; ++i, pid += 37) {
-                fakes.processes->add(pid,
-                                     {.task = TaskInfo{.residentBytes = actor.memory - i * actor.memory / 40},
-                                      .path = actor.path,
-                                      .name = actor.name,
-                                      .info = KernelProcessInfo{.uid = fakes.identity->uid}});
+                fakes.processes->add(
+                    pid, {.task = TaskInfo{.residentBytes = actor.memory - i * actor.memory / 40,
+                                           .threads = 1 + static_cast<int>(actor.memory / (40 * MiB))},
+                          .path = actor.path,
+                          .name = actor.name,
+                          .info = KernelProcessInfo{.uid = fakes.identity->uid}});
             }
         }
         fakes.host->physical = 16 * GiB;
