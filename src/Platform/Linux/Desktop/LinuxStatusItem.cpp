@@ -76,14 +76,13 @@ void LinuxStatusItem::chooseTray() {
     const bool hasTray = mayHaveTray && QSystemTrayIcon::isSystemTrayAvailable();
     if (hasTray && !m_tray) {
         m_tray.emplace();
-        connect(&*m_tray, &QSystemTrayIcon::activated, this,
-                [this](QSystemTrayIcon::ActivationReason reason) {
-                    // A Wayland tray that draws no menus asks for ours, which could not pop up there.
-                    const bool isMenuMissing =
-                        reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
-                    if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
-                        Q_EMIT clicked();
-                });
+        connect(
+            &*m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+                // A Wayland tray that draws no menus asks for ours, which could not pop up there.
+                const bool isMenuMissing = reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
+                if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
+                    Q_EMIT clicked();
+            });
         m_tray->setContextMenu(m_menu);
         fillTray();
     }
