@@ -11,7 +11,7 @@ namespace DescriptorLimit {
 qsizetype raised();
 
 /// Makes room for as many descriptors as a large process table needs, 32 KiB in the kernel. In a program with
-/// threads the kernel waits each time it enlarges that room, some 8 ms (measured: 40 ms for the first 1,000
+/// threads the kernel waits each time it enlarges that room, some 8 ms (measured: 35 ms for the first 1,000
 /// descriptors); so this is to be called before there are any.
 void reserve();
 
