@@ -84,6 +84,8 @@ struct ProcSample {
     Instant startTime;
     double idleSeconds = 0; ///< since it last used more than 0.5 % CPU
     ProcGroup group = ProcGroup::other;
+    QString program; ///< what is run: the executable, or what an interpreter or launcher was told to run
+                     ///< (a script's path, a module, a package, an image)
 
     bool operator==(const ProcSample&) const = default;
 };

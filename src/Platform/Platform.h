@@ -3,6 +3,7 @@
 #include <memory>
 
 class Appearance;
+class Applications;
 class Clock;
 class HostStatistics;
 class Identity;
@@ -23,6 +24,7 @@ struct Platform {
     std::shared_ptr<ToolRunner> tools;
     std::shared_ptr<Places> places;
     std::shared_ptr<Signals> signalSender;
+    std::shared_ptr<Applications> applications;
 
     /// What has to be done before the program's first thread starts.
     static void prepareProgram();

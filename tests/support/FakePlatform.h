@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Models.h"
+#include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
@@ -111,6 +112,24 @@ public:
     qint32 processId() const override { return pid; }
 };
 
+class FakeApplications : public Applications {
+public:
+    QHash<QString, Application> byProgram;
+    QHash<qint32, Application> byProcess;
+
+    std::optional<Application> ofProgram(const QString& executable) override {
+        return answer(byProgram, executable);
+    }
+    std::optional<Application> ofProcess(qint32 pid) override { return answer(byProcess, pid); }
+
+private:
+    template <typename Key>
+    static std::optional<Application> answer(const QHash<Key, Application>& known, const Key& key) {
+        const auto found = known.constFind(key);
+        return found == known.constEnd() ? std::nullopt : std::optional(*found);
+    }
+};
+
 /// All of them together, each still in reach of the test.
 struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
@@ -121,6 +140,7 @@ struct FakePlatform {
     std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
+    std::shared_ptr<FakeApplications> applications = std::make_shared<FakeApplications>();
 
     Platform platform() const {
         return {.host = host,
@@ -130,6 +150,7 @@ struct FakePlatform {
                 .clock = clock,
                 .tools = tools,
                 .places = places,
-                .signalSender = signalSender};
+                .signalSender = signalSender,
+                .applications = applications};
     }
 };

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <optional>
+
+/// A program as the desktop's menu has it.
+struct Application {
+    QString id; ///< of its desktop entry, without ".desktop"; where there is none, what its sandbox calls it
+    QString name; ///< as in the menu, in the user's language
+
+    bool operator==(const Application&) const = default;
+};
+
+/// Which application is behind a program or a process.
+class Applications {
+public:
+    virtual ~Applications() = default;
+
+    /// The application whose menu entry starts the program at `executable` (an absolute path). Empty when no
+    /// entry does.
+    virtual std::optional<Application> ofProgram(const QString& executable) = 0;
+    /// The application that a running process belongs to. Empty when it belongs to none or is gone.
+    virtual std::optional<Application> ofProcess(qint32 pid) = 0;
+};
