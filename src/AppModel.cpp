@@ -33,7 +33,8 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     : QObject(parent)
     , m_platform(std::move(platform))
     , m_preferences(preferences)
-    , m_sampler(m_platform) {
+    , m_sampler(m_platform)
+    , m_servers(m_platform.processes, m_platform.clock) {
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
 }
 
@@ -71,8 +72,8 @@ void AppModel::tick() {
     publish(m_processes, std::move(classified));
     publish(m_groups, rollups);
     publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));
-    publish(m_mcpReport, {.configured = m_mcpConfiguration.readConfigured(),
-                          .live = MCPInspector::detectLive(m_processes)});
+    publish(m_mcpReport,
+            {.configured = m_mcpConfiguration.readConfigured(), .live = m_servers.detectLive(m_processes)});
 }
 
 void AppModel::appendHistory(const SystemSample& sample) {

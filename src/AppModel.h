@@ -10,6 +10,7 @@
 #include "Core/ProcessGrouper.h"
 #include "Core/RulesEngine.h"
 #include "Core/Sampler.h"
+#include "Core/ServerWatch.h"
 #include "Platform/Platform.h"
 
 #include <QCoroTask>
@@ -107,7 +108,8 @@ public:
     /// How many processes `quickKill` would signal now.
     int previewMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
 
-    /// Signals the user's orphan servers of the last report; how many signals were delivered.
+    /// Looks at the orphan servers of the last report again and signals those of the user that still are; how
+    /// many servers got a signal. Their launchers are signalled with them.
     int killOrphanMCPs(bool force) override;
 
     /// All processes of exactly that name, this program left out.
@@ -148,6 +150,8 @@ private:
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
     AutoOptimizer& autoOptimizer();
     void signalChosen(const ProcSample& chosen, bool force);
+    QList<ProcSample> orphansLookedAtAgain() const;
+    int signalServer(const MCPInspector::LiveServer& server, bool force);
     QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     /// To the process that the last tick listed under the id, and to no other that has the id by now.
     std::shared_ptr<ProcessHandle> hold(qint32 pid) const;
@@ -173,6 +177,7 @@ private:
     ProcessGrouper m_grouper;
     RulesEngine m_rules;
     MCPConfiguration m_mcpConfiguration;
+    ServerWatch m_servers;
     std::unique_ptr<AutoOptimizer> m_autoOptimizer;
     FreeRAMWaits m_freeRAMWaits;
     QTimer m_timer;

@@ -35,8 +35,11 @@ int AppModel::previewMatches(const QString& pattern, double minIdleMin, double m
 AppModel::QuickKillResult AppModel::quickKill(const QString& pattern, const QString& label, double minIdleMin,
                                               double minRSSMB, bool force) {
     QList<qint32> pids;
-    for (const ProcSample& process : quickKillMatches(pattern, minIdleMin, minRSSMB))
-        pids.append(process.pid);
+    for (const ProcSample& listed : quickKillMatches(pattern, minIdleMin, minRSSMB)) {
+        const auto now = m_sampler.lookAgain(listed);
+        if (now && now->uid == listed.uid && holds(*now, pattern))
+            pids.append(listed.pid);
+    }
     const int matched = static_cast<int>(pids.size());
     const int killed = signalAll(pids, force);
     record(force ? ActionLogEntry::Kind::forceKill : ActionLogEntry::Kind::quit,

@@ -28,12 +28,6 @@ void AppModel::signalChosen(const ProcSample& chosen, bool force) {
            u"pid="_s + QString::number(pid), 0, delivered);
 }
 
-void AppModel::quitServer(const MCPInspector::LiveServer& server) {
-    const ProcSample* current = process(server.pid);
-    if (current && current->name == server.name)
-        signalAll({server.pid}, false);
-}
-
 std::shared_ptr<ProcessHandle> AppModel::hold(qint32 pid) const {
     constexpr qint32 nobody = 0;
     const auto handle = m_platform.signalSender->hold(pid);

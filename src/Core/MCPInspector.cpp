@@ -1,10 +1,15 @@
 #include "Core/MCPInspector.h"
 
+#include "Core/KnownPrograms.h"
+#include "Core/LaunchedProgram.h"
 #include "Core/PatternMatcher.h"
+#include "Core/ProgramPath.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -60,14 +65,77 @@ bool tellsServer(QStringView text) {
     return (found & serverName) || ((found & mcpSuffix) && hasSuffixWord(text));
 }
 
-bool isMCPServerProcess(const ProcSample& process) {
-    return tellsServer(process.name) || tellsServer(process.executablePath) || tellsServer(process.arguments);
+/// Of a path, what tells of the program: not the user's home, and of a tool among a project's packages not
+/// the project.
+QStringView tellingPart(QStringView path) {
+    const qsizetype packages = path.lastIndexOf(u"/node_modules/");
+    return packages < 0 ? ProgramPath::withoutPrefix(path) : path.sliced(packages);
 }
 
-bool isClaudeHost(const ProcSample& process) {
-    return process.name.contains("claude"_L1, Qt::CaseInsensitive) ||
-           process.executablePath.contains("claude"_L1, Qt::CaseInsensitive) ||
-           process.name.contains("code helper"_L1, Qt::CaseInsensitive);
+bool tellsServer(const ProcSample& process) {
+    if (tellsServer(process.name) || tellsServer(tellingPart(process.program)))
+        return true;
+    if (process.program == process.executablePath)
+        return false;
+    return tellsServer(tellingPart(process.executablePath)) &&
+           !LaunchedProgram::isInterpreter(ProgramPath::lastComponent(process.executablePath));
+}
+
+/// Editors on a server and in a bundle run their parts by a program of a common name.
+bool isPartOfEditor(const QString& path) {
+    static constexpr std::array<QStringView, 6> marks = {u"/.vscode-server",   u"/.cursor-server",
+                                                         u"/.windsurf-server", u"/.vscodium-server",
+                                                         u"/code-server/",     u"/jbr/bin/java"};
+    return std::ranges::any_of(marks, [&path](QStringView mark) { return path.contains(mark); });
+}
+
+/// The parent by id. The processes of one list can only form a ring where it was read in several steps.
+class Ancestry {
+public:
+    explicit Ancestry(const QList<ProcSample>& processes) {
+        m_byPid.reserve(processes.size());
+        for (const ProcSample& process : processes) {
+            m_byPid.insert(process.pid, &process);
+            ++m_children[process.parentPid];
+        }
+    }
+
+    const ProcSample* parent(const ProcSample& process) const { return m_byPid.value(process.parentPid); }
+    int children(const ProcSample& process) const { return m_children.value(process.pid); }
+    /// The nearest ancestor that `isWanted`; null when there is none.
+    template <typename Wanted> const ProcSample* above(const ProcSample& process, Wanted isWanted) const {
+        const ProcSample* ancestor = parent(process);
+        for (int step = 0; ancestor && step < mostSteps; ++step, ancestor = parent(*ancestor)) {
+            if (isWanted(*ancestor))
+                return ancestor;
+        }
+        return nullptr;
+    }
+
+private:
+    static constexpr int mostSteps = 256;
+
+    QHash<qint32, const ProcSample*> m_byPid;
+    QHash<qint32, int> m_children;
+};
+
+bool isLauncher(const ProcSample& process) {
+    const QString file = ProgramPath::lastComponent(process.executablePath).toString();
+    const QStringList arguments = process.arguments.split(u' ', Qt::SkipEmptyParts);
+    return LaunchedProgram::read(file, QStringList(file) + arguments).isLauncher &&
+           !MCPInspector::isHost(process);
+}
+
+/// From the server's parent upwards, those that only wait for it.
+QList<const ProcSample*> launchersOf(const ProcSample& server, const Ancestry& ancestry) {
+    QList<const ProcSample*> launchers;
+    const ProcSample* ancestor = ancestry.parent(server);
+    while (ancestor && ancestry.children(*ancestor) == 1 && isLauncher(*ancestor) &&
+           !launchers.contains(ancestor)) {
+        launchers.append(ancestor);
+        ancestor = ancestry.parent(*ancestor);
+    }
+    return launchers;
 }
 
 QString displayLabel(const ProcSample& process) {
@@ -79,15 +147,41 @@ QString displayLabel(const ProcSample& process) {
     return process.name;
 }
 
-LiveServer describe(const ProcSample& process, const ProcSample* parent) {
-    return {.pid = process.pid,
-            .parentPid = process.parentPid,
-            .name = process.name,
-            .displayLabel = displayLabel(process),
-            .rssBytes = process.rssBytes,
-            .idleSeconds = process.idleSeconds,
-            .parentName = parent ? parent->name : u"(launchd or gone)"_s,
-            .isOrphan = !parent || !isClaudeHost(*parent)};
+bool isKept(const LiveServer& server, const ProcSample* parent) {
+    using Kind = ProcessKeeper::Kind;
+    if (server.keeper.kind != Kind::service)
+        return server.keeper.kind == Kind::container;
+    if (server.keeper.mainPid == 0)
+        return parent && parent->name == "systemd"_L1;
+    return server.pid == server.keeper.mainPid ||
+           std::ranges::any_of(server.launchers, [&server](const ProcessIdentity& launcher) {
+               return launcher.pid == server.keeper.mainPid;
+           });
+}
+
+LiveServer describe(const ProcSample& process, const QList<const ProcSample*>& launchers,
+                    const Ancestry& ancestry, const MCPInspector::KeeperOf& keeperOf) {
+    const ProcSample* host = ancestry.above(process, &MCPInspector::isHost);
+    const ProcSample& top = launchers.isEmpty() ? process : *launchers.last();
+    const ProcSample* parent = host ? host : ancestry.parent(top);
+    LiveServer server{.pid = process.pid,
+                      .parentPid = parent ? parent->pid : top.parentPid,
+                      .name = process.name,
+                      .displayLabel = displayLabel(process),
+                      .rssBytes = process.rssBytes,
+                      .idleSeconds = process.idleSeconds,
+                      .parentName = parent ? parent->name : u"(launchd or gone)"_s,
+                      .startTime = process.startTime};
+    for (const ProcSample* launcher : launchers) {
+        server.launchers.append(launcher->identity());
+        server.rssBytes += launcher->rssBytes;
+    }
+    if (host)
+        server.host = host->identity();
+    else if (keeperOf)
+        server.keeper = keeperOf(process);
+    server.isOrphan = !host && !isKept(server, parent);
+    return server;
 }
 
 bool comesFirst(const LiveServer& one, const LiveServer& other) {
@@ -110,7 +204,22 @@ quint64 MCPInspector::Report::orphanBytes() const {
     return total;
 }
 
-QList<LiveServer> MCPInspector::detectLive(const QList<ProcSample>& processes) {
+bool MCPInspector::isMCPServerProcess(const ProcSample& process) {
+    return tellsServer(process) && !isHost(process);
+}
+
+bool MCPInspector::isHost(const ProcSample& process) {
+    const auto* known = KnownPrograms::of(process);
+    if ((known && known->hostsServers) || isPartOfEditor(process.executablePath))
+        return true;
+    const QStringView path = ProgramPath::withoutPrefix(process.executablePath);
+    const bool soundsLikeHost = process.name.contains("claude"_L1, Qt::CaseInsensitive) ||
+                                path.contains("claude"_L1, Qt::CaseInsensitive) ||
+                                process.name.contains("code helper"_L1, Qt::CaseInsensitive);
+    return soundsLikeHost && !tellsServer(process);
+}
+
+QList<LiveServer> MCPInspector::detectLive(const QList<ProcSample>& processes, const KeeperOf& keeperOf) {
     QList<const ProcSample*> servers;
     for (const ProcSample& process : processes) {
         if (isMCPServerProcess(process))
@@ -118,13 +227,19 @@ QList<LiveServer> MCPInspector::detectLive(const QList<ProcSample>& processes) {
     }
     if (servers.isEmpty())
         return {};
-    QHash<qint32, const ProcSample*> byPid;
-    byPid.reserve(processes.size());
-    for (const ProcSample& process : processes)
-        byPid.insert(process.pid, &process);
+    const Ancestry ancestry(processes);
+    QHash<const ProcSample*, QList<const ProcSample*>> launchers;
+    QSet<const ProcSample*> folded;
+    for (const ProcSample* server : servers) {
+        const auto waiting = launchersOf(*server, ancestry);
+        folded += QSet<const ProcSample*>(waiting.begin(), waiting.end());
+        launchers.insert(server, waiting);
+    }
     QList<LiveServer> live;
-    for (const ProcSample* server : servers)
-        live.append(describe(*server, byPid.value(server->parentPid)));
+    for (const ProcSample* server : servers) {
+        if (!folded.contains(server))
+            live.append(describe(*server, launchers.value(server), ancestry, keeperOf));
+    }
     std::stable_sort(live.begin(), live.end(), comesFirst);
     return live;
 }

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "Core/Models.h"
+#include "Platform/ProcessTable.h"
+
+#include <functional>
+#include <optional>
 
 /// Which MCP servers run right now, and which of them nobody uses any more.
 namespace MCPInspector {
@@ -15,17 +19,23 @@ struct ConfiguredServer {
     bool operator==(const ConfiguredServer&) const = default;
 };
 
-/// A running server process.
+/// A running server. Launchers that only wait for it belong to it.
 struct LiveServer {
     qint32 pid = 0;
     qint32 parentPid = 0;
     QString name;
     QString displayLabel;
-    quint64 rssBytes = 0;
+    quint64 rssBytes = 0; ///< its launchers' included
     double idleSeconds = 0;
-    QString parentName;    ///< "(launchd or gone)" where the parent is not in the list
-    bool isOrphan = false; ///< its parent is gone, or is no Claude host
+    QString parentName; ///< its host, else what started it; "(launchd or gone)" where that is not in the list
+    bool isOrphan = false; ///< no agent or editor above it, and nothing else that keeps it
+    Instant startTime;
+    QList<ProcessIdentity> launchers;
+    std::optional<ProcessIdentity> host; ///< the agent or editor that uses it
+    ProcessKeeper keeper;                ///< asked only where there is no host
+    QString reason;                      ///< why it is judged so, in words; see ServerWatch
 
+    ProcessIdentity identity() const { return {pid, startTime}; }
     bool operator==(const LiveServer&) const = default;
 };
 
@@ -37,7 +47,17 @@ struct Report {
     quint64 orphanBytes() const;
 };
 
+/// Whether it runs a server, by its name, its executable and what it was told to run; no other argument
+/// counts.
+bool isMCPServerProcess(const ProcSample& process);
+/// Whether it runs servers of its own: an agent, or an editor that runs agents. Such a process is never a
+/// server.
+bool isHost(const ProcSample& process);
+
+/// Who keeps a process, asked only about servers without a host.
+using KeeperOf = std::function<ProcessKeeper(const ProcSample& process)>;
+
 /// Orphans first, then by resident memory, largest first.
-QList<LiveServer> detectLive(const QList<ProcSample>& processes);
+QList<LiveServer> detectLive(const QList<ProcSample>& processes, const KeeperOf& keeperOf = {});
 
 } // namespace MCPInspector

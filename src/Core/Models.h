@@ -69,6 +69,14 @@ inline constexpr std::array rawValueTable<ProcGroup> = {
 /// Name of the group's symbol, under resources/symbols.
 QString groupSymbol(ProcGroup group);
 
+/// One process for good: its id may pass on to another, its start does not.
+struct ProcessIdentity {
+    qint32 pid = 0;
+    Instant startTime;
+
+    bool operator==(const ProcessIdentity&) const = default;
+};
+
 /// One process in one sampling pass.
 struct ProcSample {
     qint32 pid = 0;
@@ -87,6 +95,7 @@ struct ProcSample {
     QString program; ///< what is run: the executable, or what an interpreter or launcher was told to run
                      ///< (a script's path, a module, a package, an image)
 
+    ProcessIdentity identity() const { return {pid, startTime}; }
     bool operator==(const ProcSample&) const = default;
 };
 

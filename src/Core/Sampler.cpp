@@ -1,5 +1,8 @@
 #include "Core/Sampler.h"
 
+#include "Core/LaunchedProgram.h"
+#include "Core/ProcessName.h"
+#include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/Platform.h"
 #include "Platform/ProcessTable.h"
@@ -11,6 +14,7 @@ namespace {
 constexpr std::size_t maximumPids = 4096;
 constexpr qsizetype partThatMayBeGone = 8; ///< one in so many, before their texts are dropped
 constexpr double busyPercent = 0.5;        ///< below it a process counts as idle
+constexpr quint32 passesBetweenLooks = 3;  ///< at the texts of a process that goes on running
 
 double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
     return std::chrono::duration<double>(to - from).count();
@@ -29,6 +33,23 @@ ThermalState thermalState(int level) {
     }
 }
 
+/// The arguments that are not empty.
+QStringList argumentsOf(const QByteArray& argumentArea) {
+    QStringList arguments;
+    for (const QByteArray& argument : argumentArea.split('\0')) {
+        if (!argument.isEmpty())
+            arguments.append(QString::fromUtf8(argument));
+    }
+    return arguments;
+}
+
+/// The arguments without the program's name; the name alone where there are none.
+QString procArgs(QStringList arguments) {
+    if (arguments.size() > 1)
+        arguments.removeFirst();
+    return arguments.join(u' ');
+}
+
 /// The difference of two counters that wrap at 2^32.
 double delta(quint32 current, quint32 previous) {
     return static_cast<double>(quint32(current - previous));
@@ -40,6 +61,7 @@ Sampler::Sampler(const Platform& platform)
     : host(platform.host)
     , table(platform.processes)
     , clock(platform.clock)
+    , applications(platform.applications)
     , pageSize(host->pageSize()) {}
 
 SystemSample Sampler::sample() {
@@ -92,10 +114,16 @@ QList<ProcSample> Sampler::sampleProcesses() {
         if (entry != known.end())
             entry->prev.pass = pass;
         const auto task = table->taskInfo(pid);
-        if (!task)
+        if (!task) {
+            if (entry != known.end())
+                left.insert(pid); // it waits to be reaped, its children have another parent
             continue;
+        }
         if (entry == known.end())
-            entry = known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now)});
+            entry = known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now), .firstPass = pass});
+        entry->mayHaveChanged |= task->cpuTimeNs != entry->prev.totalNs;
+        if (isDue(pid, *entry))
+            refreshTexts(pid, *entry, now);
         const double percent = cpuPercent(entry->prev, task->cpuTimeNs, uptime);
         const StaticMeta& meta = entry->staticCache;
         result.append({.pid = pid,
@@ -110,10 +138,70 @@ QList<ProcSample> Sampler::sampleProcesses() {
                        .threads = task->threads,
                        .startTime = meta.startTime,
                        .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
-                       .group = ProcGroup::other});
+                       .group = ProcGroup::other,
+                       .program = meta.program});
     }
     evictUnseen();
+    refreshParents(result);
     return result;
+}
+
+/// A process that has not run has changed nothing of itself. One that has just come is looked at every time,
+/// because it may have been listed between its fork and its exec; the others take turns.
+bool Sampler::isDue(qint32 pid, const Known& process) const {
+    const bool isYoung = pass - process.firstPass <= passesBetweenLooks;
+    const bool hasItsTurn = (static_cast<quint32>(pid) + pass) % passesBetweenLooks == 0;
+    return process.mayHaveChanged && process.firstPass != pass && (isYoung || hasItsTurn);
+}
+
+void Sampler::refreshTexts(qint32 pid, Known& process, Instant now) {
+    process.mayHaveChanged = false;
+    const auto mark = table->textMark(pid);
+    if (!mark || *mark == process.staticCache.textMark)
+        return;
+    StaticMeta meta = lookUp(pid, now);
+    if (meta.startTicks == process.staticCache.startTicks) {
+        meta.startTime = process.staticCache.startTime;
+    } else {
+        left.insert(pid); // the id has passed on to another process
+        process.prev = {.pass = process.prev.pass};
+        process.firstPass = pass;
+    }
+    process.staticCache = meta;
+}
+
+/// The children of a process that left have another parent now.
+void Sampler::refreshParents(QList<ProcSample>& processes) {
+    if (left.isEmpty())
+        return;
+    for (ProcSample& process : processes) {
+        if (!left.contains(process.parentPid))
+            continue;
+        const auto info = table->kernelInfo(process.pid);
+        const auto entry = known.find(process.pid);
+        if (!info || entry == known.end() || info->startTicks != entry->staticCache.startTicks)
+            continue;
+        entry->staticCache.ppid = info->parentPid;
+        process.parentPid = info->parentPid;
+    }
+    left.clear();
+}
+
+std::optional<ProcSample> Sampler::lookAgain(const ProcSample& listed) const {
+    const auto entry = known.constFind(listed.pid);
+    const ProcessOrigin origin = table->origin(listed.pid);
+    if (entry == known.cend() || listed.startTime != entry->staticCache.startTime || !origin.kernelInfo ||
+        origin.kernelInfo->startTicks != entry->staticCache.startTicks)
+        return std::nullopt;
+    const StaticMeta meta = metaOf(listed.pid, origin, listed.startTime);
+    ProcSample again = listed;
+    again.name = meta.name;
+    again.executablePath = meta.path;
+    again.arguments = meta.args;
+    again.program = meta.program;
+    again.uid = meta.uid;
+    again.parentPid = meta.ppid;
+    return again;
 }
 
 bool Sampler::isReplaced(qint32 pid) const {
@@ -146,7 +234,12 @@ QString Sampler::interned(const QString& text) {
 /// The texts of processes that went are dropped now and then, as looking for them costs a walk over all. They
 /// must not pile up: the arguments of a compiler are long, and a build starts thousands.
 void Sampler::evictUnseen() {
-    gone += known.removeIf([this](const auto& entry) { return entry->prev.pass != pass; });
+    gone += known.removeIf([this](const auto& entry) {
+        if (entry->prev.pass == pass)
+            return false;
+        left.insert(entry.key());
+        return true;
+    });
     if (gone * partThatMayBeGone <= known.size())
         return;
     texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
@@ -154,11 +247,22 @@ void Sampler::evictUnseen() {
 }
 
 Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
-    const ProcessOrigin origin = table->origin(pid);
+    StaticMeta meta = metaOf(pid, table->origin(pid), now);
+    for (QString* text : {&meta.path, &meta.name, &meta.args, &meta.program})
+        *text = interned(*text);
+    return meta;
+}
+
+/// `now` is the start of a process whose own is not known.
+Sampler::StaticMeta Sampler::metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const {
+    const QStringList arguments = argumentsOf(origin.argumentArea);
     StaticMeta meta;
-    meta.path = interned(QString::fromUtf8(origin.executablePath));
-    meta.name = interned(procName(pid, origin.shortName, meta.path));
-    meta.args = interned(procArgs(origin.argumentArea));
+    meta.path = QString::fromUtf8(origin.executablePath);
+    const auto launched = LaunchedProgram::read(meta.path, arguments);
+    meta.program = launched.program;
+    meta.name = procName(pid, origin, arguments, launched.isScript ? launched.program : QString());
+    meta.args = procArgs(arguments);
+    meta.textMark = origin.textMark;
     meta.startTime = now;
     if (const auto& info = origin.kernelInfo) {
         meta.uid = info->uid;
@@ -169,19 +273,15 @@ Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
     return meta;
 }
 
-QString Sampler::procName(qint32 pid, const QByteArray& shortName, const QString& fallbackPath) {
-    if (!shortName.isEmpty())
-        return QString::fromUtf8(shortName);
-    if (!fallbackPath.isEmpty())
-        return fallbackPath.section(u'/', -1);
-    return QStringLiteral("pid %1").arg(pid);
-}
-
-/// The arguments without the program's name; the name alone where there are none.
-QString Sampler::procArgs(const QByteArray& argumentArea) {
-    QList<QByteArray> strings = argumentArea.split('\0');
-    strings.removeAll(QByteArray());
-    if (strings.size() > 1)
-        strings.removeFirst();
-    return QString::fromUtf8(strings.join(' '));
+QString Sampler::procName(qint32 pid, const ProcessOrigin& origin, const QStringList& arguments,
+                          const QString& script) const {
+    const QString name = ProcessName::of({.shortName = origin.shortName,
+                                          .executablePath = QString::fromUtf8(origin.executablePath),
+                                          .arguments = arguments,
+                                          .script = script},
+                                         [this](const QString& executable) {
+                                             const auto application = applications->ofProgram(executable);
+                                             return application ? application->name : QString();
+                                         });
+    return name.isEmpty() ? QStringLiteral("pid %1").arg(pid) : name;
 }

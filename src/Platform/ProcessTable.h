@@ -26,13 +26,25 @@ struct KernelProcessInfo {
         0; ///< since boot; whatever is done to the clock, it tells two processes of one id apart
 };
 
-/// What is read once in a process's life. Texts are the system's raw bytes, in no particular encoding; an
-/// empty one means that it could not be read.
+/// What is read when a process is first seen, and again once it has changed. Texts are the system's raw
+/// bytes, in no particular encoding; an empty one means that it could not be read.
 struct ProcessOrigin {
     QByteArray executablePath;
     QByteArray shortName;
     QByteArray argumentArea; ///< as the process sees it: strings each ended by a NUL
     std::optional<KernelProcessInfo> kernelInfo;
+    quint64 textMark = 0; ///< of the texts above
+};
+
+/// Who keeps a process running, where that is not the program that started it.
+struct ProcessKeeper {
+    enum class Kind { none, service, container };
+
+    Kind kind = Kind::none;
+    QByteArray name;    ///< of the service's unit or of the container
+    qint32 mainPid = 0; ///< the process that the service manager itself started; 0 when unknown
+
+    bool operator==(const ProcessKeeper&) const = default;
 };
 
 /// The system's processes.
@@ -48,4 +60,10 @@ public:
     virtual ProcessOrigin origin(qint32 pid) = 0;
     /// The same as in `origin`, where nothing else of it is needed.
     virtual std::optional<KernelProcessInfo> kernelInfo(qint32 pid) = 0;
+    /// A figure that differs once the process has taken another program, name or arguments, at a fraction of
+    /// the price of `origin`. Empty when the process is gone.
+    virtual std::optional<quint64> textMark(qint32 pid) = 0;
+    /// The folder that a process works in; empty when it may not be read.
+    virtual QByteArray workingFolder(qint32 pid) = 0;
+    virtual ProcessKeeper keeper(qint32 pid) = 0;
 };

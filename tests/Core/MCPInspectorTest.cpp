@@ -1,9 +1,15 @@
 #include "Core/MCPInspector.h"
+
+#include "Core/LaunchedProgram.h"
 #include "Core/MCPConfiguration.h"
+#include "Core/ServerWatch.h"
 #include "support/Each.h"
+#include "support/FakePlatform.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
+
+#include <QDateTime>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,13 +21,22 @@ namespace {
 using MCPInspector::ConfiguredServer;
 using MCPInspector::LiveServer;
 
+/// What the sampler makes of an executable and its arguments, words apart by blanks.
 ProcSample process(qint32 pid, const QString& name, const QString& arguments = {}, qint32 parent = 0,
-                   quint64 rssBytes = 0) {
-    return {.pid = pid, .parentPid = parent, .name = name, .arguments = arguments, .rssBytes = rssBytes};
+                   quint64 rssBytes = 0, const QString& path = {}) {
+    const QStringList words = arguments.split(u' ', Qt::SkipEmptyParts);
+    const QString executable = path.isEmpty() ? u"/usr/bin/"_s + name : path;
+    return {.pid = pid,
+            .parentPid = parent,
+            .name = name,
+            .executablePath = executable,
+            .arguments = words.size() > 1 ? words.sliced(1).join(u' ') : arguments,
+            .rssBytes = rssBytes,
+            .program = LaunchedProgram::read(executable, words).program};
 }
 
-bool isServer(const QString& arguments) {
-    return !MCPInspector::detectLive({process(1, u"node"_s, arguments)}).isEmpty();
+bool isServer(const QString& name, const QString& arguments, const QString& path = {}) {
+    return MCPInspector::isMCPServerProcess(process(1, name, arguments, 0, 0, path));
 }
 
 /// A folder as the current one, for as long as it lives.
@@ -42,40 +57,194 @@ struct MCPConfigurationTest : testing::Test {
 } // namespace
 
 TEST(MCPInspectorTest, TellsServersByTheirMarks) {
-    for (const auto& text : {u"npx -y @modelcontextprotocol/server-filesystem"_s, u"/opt/MCP-Server-github"_s,
-                             u"-m mcp_server_git"_s, u"foo-mcp"_s, u"foo-mcp@1.2"_s, u"x9_-mcp/run"_s,
-                             u"stitch"_s, u"@upstash/context7"_s, u"foo-mcpx bar-mcp"_s})
-        EXPECT_TRUE(isServer(text)) << qPrintable(text);
-    for (const auto& text :
-         {u""_s, u"mymcp"_s, u"foo-mcpx"_s, u"-mcp"_s, u"run --mcp"_s, u"foo-mcp2"_s, u"mcp"_s})
-        EXPECT_FALSE(isServer(text)) << qPrintable(text);
+    for (const auto& script :
+         {u"@modelcontextprotocol/server-filesystem"_s, u"/opt/MCP-Server-github"_s, u"mcp_server_git"_s,
+          u"foo-mcp"_s, u"foo-mcp@1.2"_s, u"x9_-mcp/run"_s, u"stitch"_s, u"composio-social"_s,
+          u"hostinger-mcp"_s, u"memory-server"_s, u"filesystem-server"_s, u"puppeteer-mcp"_s,
+          u"playwright-mcp"_s, u"supabase-mcp"_s, u"context7"_s}) {
+        EXPECT_TRUE(isServer(u"node"_s, u"node "_s + script)) << qPrintable(script);
+    }
+    for (const auto& script :
+         {u""_s, u"mymcp"_s, u"foo-mcpx"_s, u"-mcp"_s, u"foo-mcp2"_s, u"mcp"_s, u"stitc"_s})
+        EXPECT_FALSE(isServer(u"node"_s, u"node "_s + script)) << qPrintable(script);
 }
 
-TEST(MCPInspectorTest, OrphansAreThoseWithoutAClaudeHost) {
-    ProcSample inBundle = process(12, u"node"_s);
-    inBundle.executablePath = u"/Applications/Claude.app/node"_s;
+TEST(MCPInspectorTest, AServerIsWhatIsRunNotWhatIsNamed) {
+    EXPECT_TRUE(isServer(u"python3"_s, u"python3 -m mcp_server_git"_s));
+    EXPECT_TRUE(isServer(u"mcp-server-time"_s, u"mcp-server-time"_s));
+    EXPECT_TRUE(isServer(u"node"_s, u"node /home/u/src/app/node_modules/.bin/mcp-server-filesystem /p"_s));
+    EXPECT_TRUE(isServer(u"docker"_s, u"docker run -i --rm ghcr.io/a/b-mcp-server"_s));
+    const std::pair<QString, QString> others[] = {
+        {u"claude"_s, u"claude --mcp-config mcp-servers.json"_s},
+        {u"vim"_s, u"vim mcp-server.md"_s},
+        {u"tail"_s, u"tail -f mcp-server.log"_s},
+        {u"grep"_s, u"grep -r modelcontextprotocol ."_s},
+        {u"bash"_s, u"bash"_s},
+        {u"node"_s, u"node eslint.js --config mcp-server.json"_s},
+        {u"node"_s, u"node /home/u/src/mcp-server/node_modules/.bin/vite"_s},
+        {u"docker"_s, u"docker build -t mcp-server ."_s},
+        {u"code"_s, u"code /home/u/mcp-server"_s},
+    };
+    for (const auto& [name, arguments] : others)
+        EXPECT_FALSE(isServer(name, arguments)) << qPrintable(arguments);
+    EXPECT_FALSE(isServer(u"python3"_s, u"python3 manage.py"_s, u"/opt/mcp-server/venv/bin/python3"_s));
+    const QString inHome = QDir::homePath() + u"/mcp-server.d/tool"_s;
+    EXPECT_TRUE(isServer(u"tool"_s, u"tool"_s, inHome)); // of the path only the home itself says nothing
+}
+
+TEST(MCPInspectorTest, EveryHostCountsUnderTheNamesItHasHere) {
+    const std::tuple<const char*, const char*, const char*> hosts[] = {
+        {"claude", "claude", "/home/u/.local/share/claude/versions/2.1.4"},
+        {"claude", "claude", "/usr/bin/node"},
+        {"node", "node /usr/lib/node_modules/@anthropic-ai/claude-code/cli.js", "/usr/bin/node"},
+        {"codex", "codex app-server", "/opt/codex"},
+        {"node", "node /home/u/.npm/bin/codex", "/usr/bin/node"},
+        {"node", "node --max-old-space-size=4096 /usr/bin/gemini", "/usr/bin/node"},
+        {"node", "node /x/node_modules/@qwen-code/qwen-code/cli.js", "/usr/bin/node"},
+        {"opencode", "opencode", "/home/u/.opencode/bin/opencode"},
+        {"python3", "python3 /home/u/.local/bin/aider", "/usr/bin/python3.11"},
+        {"goose", "goose session", "/usr/bin/goose"},
+        {"crush", "crush", "/usr/bin/crush"},
+        {"amp", "amp", "/usr/bin/amp"},
+        {"cursor-agent", "cursor-agent", "/home/u/.local/bin/cursor-agent"},
+        {"copilot", "copilot", "/usr/bin/copilot"},
+        {"code", "code", "/usr/share/code/code"},
+        {"Code Helper (Plugin)", "code --type=utility", "/usr/share/code/code"},
+        {"code-insiders", "code-insiders", "/usr/share/code-insiders/code-insiders"},
+        {"codium", "codium", "/usr/share/codium/codium"},
+        {"node", "node out/server-main.js", "/home/u/.vscode-server/cli/servers/x/server/node"},
+        {"cursor", "cursor", "/opt/cursor/cursor"},
+        {"windsurf", "windsurf", "/usr/share/windsurf/windsurf"},
+        {"trae", "trae", "/usr/share/trae/trae"},
+        {"zed-editor", "zed-editor", "/home/u/.local/zed.app/libexec/zed-editor"},
+        {"java", "java com.intellij.idea.Main", "/opt/idea-IU-251/jbr/bin/java"},
+        {"pycharm", "pycharm", "/opt/pycharm/bin/pycharm"},
+        {"claude-desktop", "claude-desktop", "/usr/lib/claude-desktop/claude-desktop"},
+    };
+    for (const auto& [name, arguments, path] : hosts) {
+        const ProcSample host =
+            process(10, QString::fromUtf8(name), QString::fromUtf8(arguments), 0, 0, QString::fromUtf8(path));
+        EXPECT_TRUE(MCPInspector::isHost(host)) << arguments;
+        const auto live = MCPInspector::detectLive(
+            {host, process(11, u"sh"_s, u"sh"_s, 10), process(12, u"node"_s, u"node a-mcp"_s, 11)});
+        ASSERT_EQ(live.size(), 1) << arguments;
+        EXPECT_FALSE(live[0].isOrphan) << arguments;
+        EXPECT_EQ(live[0].parentPid, 10) << arguments;
+    }
+    for (const auto& [name, arguments] : {std::pair(u"bash"_s, u"bash"_s),
+                                          {u"node"_s, u"node vite.js"_s},
+                                          {u"tmux"_s, u"tmux"_s},
+                                          {u"claude-mcp-server"_s, u"claude-mcp-server"_s}}) {
+        EXPECT_FALSE(MCPInspector::isHost(process(1, name, arguments))) << qPrintable(name);
+    }
+}
+
+TEST(MCPInspectorTest, OneRowAServerWithItsLaunchersAndItsHost) {
+    const ProcSample host = process(10, u"claude"_s, u"claude"_s, 2, 900);
+    const QList<ProcSample> npx = {
+        host,
+        process(11, u"node"_s, u"node /usr/bin/npx -y @modelcontextprotocol/server-filesystem"_s, 10, 50),
+        process(12, u"sh"_s, u"sh -c mcp-server-filesystem"_s, 11, 1),
+        process(13, u"node"_s, u"node /x/.bin/mcp-server-filesystem /p"_s, 12, 100)};
+    const QList<ProcSample> uvx = {host, process(11, u"uv"_s, u"uv tool uvx mcp-server-git"_s, 10, 30),
+                                   process(12, u"python3"_s, u"python3 /x/bin/mcp-server-git"_s, 11, 100)};
+    const QList<ProcSample> direct = {host, process(12, u"node"_s, u"node /x/a-mcp"_s, 10, 100)};
+    for (const auto& [tree, bytes, launchers] :
+         {std::tuple(npx, 151ULL, 2), std::tuple(uvx, 130ULL, 1), std::tuple(direct, 100ULL, 0)}) {
+        for (const bool isHosted : {true, false}) {
+            const QList<ProcSample> processes = isHosted ? tree : tree.sliced(1);
+            const auto live = MCPInspector::detectLive(processes);
+            ASSERT_EQ(live.size(), 1);
+            EXPECT_EQ(live[0].pid, processes.last().pid);
+            EXPECT_EQ(live[0].rssBytes, bytes);
+            EXPECT_EQ(live[0].launchers.size(), launchers);
+            EXPECT_EQ(live[0].isOrphan, !isHosted);
+            EXPECT_EQ(live[0].parentName, isHosted ? u"claude"_s : u"(launchd or gone)"_s);
+        }
+    }
+    // A shell that has more to do than to wait, and a server that runs another, are rows of their own.
+    auto busy = npx;
+    busy.append(process(14, u"sleep"_s, u"sleep 1"_s, 12));
+    EXPECT_EQ(MCPInspector::detectLive(busy).size(), 2);
+    const auto nested = MCPInspector::detectLive({host, process(11, u"node"_s, u"node /x/proxy-mcp"_s, 10),
+                                                  process(12, u"node"_s, u"node /x/a-mcp"_s, 11)});
+    ASSERT_EQ(nested.size(), 2);
+    EXPECT_FALSE(nested[0].isOrphan || nested[1].isOrphan);
+}
+
+TEST(MCPInspectorTest, WhoeverKeepsAServerMakesItNoOrphan) {
+    using Kind = ProcessKeeper::Kind;
+    const QList<ProcSample> processes = {process(1, u"systemd"_s), process(5, u"zsh"_s),
+                                         process(6, u"sh"_s, u"sh -c a-mcp"_s, 1),
+                                         process(7, u"a-mcp"_s, {}, 6), process(8, u"b-mcp"_s, {}, 5)};
+    const std::tuple<ProcessKeeper, bool, bool> cases[] = {
+        {{}, true, true},
+        {{.kind = Kind::container, .name = "docker-1.scope"}, false, false},
+        {{.kind = Kind::service, .name = "a.service", .mainPid = 6}, false, true},
+        {{.kind = Kind::service, .name = "a.service", .mainPid = 7}, false, true},
+        {{.kind = Kind::service, .name = "term.service", .mainPid = 4}, true, true}, // started in a terminal
+        {{.kind = Kind::service, .name = "a.service"}, false, true},                 // of another user
+    };
+    for (const auto& [keeper, first, second] : cases) {
+        auto live = MCPInspector::detectLive(processes, [&keeper](const ProcSample&) { return keeper; });
+        std::ranges::sort(live, {}, &LiveServer::pid);
+        ASSERT_EQ(live.size(), 2);
+        EXPECT_EQ(live[0].isOrphan, first) << keeper.name.toStdString() << keeper.mainPid;
+        EXPECT_EQ(live[1].isOrphan, second) << keeper.name.toStdString() << keeper.mainPid;
+    }
+}
+
+TEST(MCPInspectorTest, OrphansComeFirstThenTheLargest) {
     const QList<ProcSample> processes = {process(10, u"claude"_s),
                                          process(11, u"zsh"_s),
-                                         inBundle,
-                                         process(13, u"Code Helper (Plugin)"_s),
-                                         process(1, u"a-mcp"_s, u"a"_s, 10, 1000),
-                                         process(2, u"b-mcp"_s, u"b"_s, 11, 100),
-                                         process(3, u"c-mcp"_s, u"c"_s, 12, 900),
-                                         process(4, u"d-mcp"_s, u"d"_s, 13, 1000),
-                                         process(5, u"e-mcp"_s, u"e"_s, 99, 300),
-                                         process(6, u"f-mcp"_s, u"f"_s, 11, 100)};
+                                         process(1, u"a-mcp"_s, {}, 10, 1000),
+                                         process(2, u"b-mcp"_s, {}, 11, 100),
+                                         process(3, u"c-mcp"_s, {}, 10, 900),
+                                         process(5, u"e-mcp"_s, {}, 99, 300),
+                                         process(6, u"f-mcp"_s, {}, 11, 100)};
     const MCPInspector::Report report{.configured = {}, .live = MCPInspector::detectLive(processes)};
-    EXPECT_EQ(each(report.live, &LiveServer::pid), (QList<qint32>{5, 2, 6, 1, 4, 3}));
+    EXPECT_EQ(each(report.live, &LiveServer::pid), (QList<qint32>{5, 2, 6, 1, 3}));
     EXPECT_EQ(report.orphanCount(), 3);
     EXPECT_EQ(report.orphanBytes(), 500U);
     EXPECT_EQ(report.live[0].parentName, u"(launchd or gone)"_s);
     EXPECT_EQ(report.live[1].parentName, u"zsh"_s);
-    EXPECT_EQ(MCPInspector::Report().orphanBytes(), 0U);
+}
+
+TEST(ServerWatchTest, SaysWhyInWords) {
+    FakePlatform fakes;
+    ServerWatch watch(fakes.processes, fakes.clock);
+    const auto reason = [&watch](const QList<ProcSample>& processes) {
+        return watch.detectLive(processes).value(0).reason;
+    };
+    const ProcSample host = process(2927, u"claude"_s);
+    ProcSample server = process(30, u"a-mcp"_s, {}, 2927);
+    fakes.processes->add(2927, {.folder = QFile::encodeName(QDir::homePath() + u"/src/app"_s)});
+    EXPECT_EQ(reason({host, server}), u"in use by claude (2927) in ~/src/app"_s);
+    fakes.processes->processes[2927].folder = "/elsewhere"; // asked once
+    EXPECT_EQ(reason({host, server}), u"in use by claude (2927) in ~/src/app"_s);
+
+    server.parentPid = 1;
+    EXPECT_EQ(reason({host, server}), u"orphan: no longer below its host claude (2927)"_s);
+    const QString ended = QDateTime::fromSecsSinceEpoch(1'700'000'000)
+                              .toString(u"'orphan: its host claude (2927) ended at' HH:mm"_s);
+    EXPECT_EQ(reason({server}), ended);
+    fakes.clock->advance(7200);
+    server.idleSeconds = 3 * 3600 + 100;
+    EXPECT_EQ(reason({server}), ended + u", no CPU for 3 h"_s);
+    EXPECT_EQ(reason({}), QString());
+    server.idleSeconds = 720;
+    EXPECT_EQ(reason({server}), u"orphan: no agent or editor above it, no CPU for 12 min"_s);
+
+    fakes.processes->add(
+        31, {.keeper = {.kind = ProcessKeeper::Kind::service, .name = "a.service", .mainPid = 31}});
+    EXPECT_EQ(reason({process(31, u"a-mcp"_s)}), u"run by the service manager as a.service"_s);
 }
 
 TEST(MCPInspectorTest, TheLabelIsTheFirstTellingPiece) {
     const auto label = [](const QString& arguments) {
-        return MCPInspector::detectLive({process(1, u"x-mcp"_s, arguments)}).value(0).displayLabel;
+        ProcSample server = process(1, u"x-mcp"_s);
+        server.arguments = arguments;
+        return MCPInspector::detectLive({server}).value(0).displayLabel;
     };
     EXPECT_EQ(label(u"node /opt/x/bin/mcp-server-github --stdio"_s), u"/opt/x/bin/mcp-server-github"_s);
     EXPECT_EQ(label(u"npx  -y @upstash/context7-mcp mcp-server"_s), u"@upstash/context7-mcp"_s);

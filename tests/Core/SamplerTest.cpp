@@ -95,22 +95,84 @@ TEST_F(SamplerTest, IdleTimeGrowsBelowHalfAPercentAndSurvivesAWallClockJump) {
     EXPECT_EQ(only().idleSeconds, 0);
 }
 
-TEST_F(SamplerTest, ReusedIdKeepsTheOldNameUntilItLeavesTheListing) {
-    fakes.processes->add(10, {.name = "old"});
+TEST_F(SamplerTest, AProcessThatTookAnotherIdIsNewAndSoAreItsChildrensParents) {
+    fakes.processes->add(10, {.name = "old", .info = KernelProcessInfo{.startTicks = 1}});
+    fakes.processes->add(11, {.name = "child", .info = KernelProcessInfo{.parentPid = 10}});
     burn(10, 5);
-    only();
-    fakes.clock->advance(2);
-    fakes.processes->processes[10] = {.name = "new"};
-    const ProcSample reused = only();
-    EXPECT_EQ(reused.cpuPercent, 0);
-    EXPECT_EQ(reused.name, QStringLiteral("old"));
+    sampler.sampleProcesses();
+    fakes.clock->advance(100);
+    fakes.processes->processes[10] = {.name = "new", .info = KernelProcessInfo{.startTicks = 2}};
+    fakes.processes->processes[11].info->parentPid = 1;
+    const auto processes = sampler.sampleProcesses();
+    EXPECT_EQ(processes[0].name, QStringLiteral("new"));
+    EXPECT_EQ(processes[0].cpuPercent, 0);
+    EXPECT_EQ(processes[0].idleSeconds, 0);
+    EXPECT_EQ(processes[1].parentPid, 1);
 
     fakes.processes->listing.clear();
     fakes.processes->listing.append(0); // the kernel's own id: listed, never shown
     EXPECT_TRUE(sampler.sampleProcesses().isEmpty());
     EXPECT_EQ(sampler.rememberedProcesses(), 0);
-    fakes.processes->listing = {10};
-    EXPECT_EQ(only().name, QStringLiteral("new"));
+}
+
+TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
+    const auto pass = [this](bool runs) {
+        fakes.clock->advance(2);
+        for (const qint32 pid : {20, 21, 22}) {
+            if (runs)
+                burn(pid, 0.001);
+        }
+        return sampler.sampleProcesses();
+    };
+    fakes.processes->add(10, {.name = "host"});
+    for (const qint32 pid : {20, 21, 22})
+        fakes.processes->add(pid,
+                             {.path = "/bin/sh", .name = "sh", .info = KernelProcessInfo{.parentPid = 10}});
+    for (int i = 0; i < 10; ++i)
+        pass(true); // no longer young
+    for (int i = 0; i < 3; ++i)
+        pass(false);
+    for (const qint32 pid : {20, 21, 22}) {
+        FakeProcess& process = fakes.processes->processes[pid];
+        process.path = "/usr/bin/node";
+        process.name = "MainThread";
+        process.arguments = QByteArray("node\0/opt/server.js\0", 21);
+    }
+    const int marks = fakes.processes->textMarks;
+    EXPECT_EQ(pass(false)[1].name, QStringLiteral("sh"));
+    EXPECT_EQ(fakes.processes->textMarks, marks); // who has not run has changed nothing
+    pass(true);
+    pass(true);
+    EXPECT_LE(fakes.processes->textMarks, marks + 3); // they take turns
+    const auto changed = pass(true);
+    for (int i = 1; i <= 3; ++i) {
+        EXPECT_EQ(changed[i].name, QStringLiteral("node"));
+        EXPECT_EQ(changed[i].executablePath, QStringLiteral("/usr/bin/node"));
+        EXPECT_EQ(changed[i].arguments, QStringLiteral("/opt/server.js"));
+        EXPECT_EQ(changed[i].program, QStringLiteral("/opt/server.js"));
+        EXPECT_EQ(changed[i].parentPid, 10);
+        EXPECT_DOUBLE_EQ(changed[i].idleSeconds, 32); // goes on since it was first seen
+    }
+    fakes.processes->remove(10);
+    for (const qint32 pid : {20, 21, 22})
+        fakes.processes->processes[pid].info->parentPid = 1;
+    EXPECT_EQ(pass(false)[0].parentPid, 1);
+}
+
+TEST_F(SamplerTest, ALookAgainSeesTheSameProcessOrNone) {
+    fakes.processes->add(10, {.name = "sh", .info = KernelProcessInfo{.parentPid = 3, .startTicks = 5}});
+    const ProcSample listed = only();
+    fakes.processes->processes[10].name = "vim";
+    fakes.processes->processes[10].info->parentPid = 4;
+    const auto again = sampler.lookAgain(listed);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->name, QStringLiteral("vim"));
+    EXPECT_EQ(again->parentPid, 4);
+    EXPECT_EQ(again->identity(), listed.identity());
+    fakes.processes->processes[10].info->startTicks = 6;
+    EXPECT_FALSE(sampler.lookAgain(listed));
+    fakes.processes->remove(10);
+    EXPECT_FALSE(sampler.lookAgain(listed));
 }
 
 TEST_F(SamplerTest, TextsAreSharedAndGoWithTheirProcesses) {

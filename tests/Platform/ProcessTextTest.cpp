@@ -1,8 +1,11 @@
 #include "Platform/Child.h"
+#include "Platform/Linux/ControlGroup.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <QDir>
 
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -64,26 +67,65 @@ TEST(ProcessText, AProgramWithoutArgumentsHasNone) {
     EXPECT_EQ(table.origin(child.pid()).shortName, "cat");
 }
 
-TEST(ProcessText, LongNamesAreCompleted) {
+TEST(ProcessText, AProgramThatWasRemovedIsStillNamed) {
     LinuxProcessTable table;
     const QTemporaryDir folder;
     const auto program = folder.filePath(u"a-program-with-a-long-name (v2)"_s);
     ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, program));
-    const Child byExecutable(program.toStdString(), {"other", "1000"});
-    EXPECT_EQ(table.origin(byExecutable.pid()).shortName, "a-program-with-a-long-name (v2)");
-
+    const Child child(program.toStdString(), {"other", "1000"});
     ASSERT_TRUE(QFile::remove(program));
-    EXPECT_EQ(table.origin(byExecutable.pid()).executablePath, QFile::encodeName(program));
-    EXPECT_EQ(table.origin(byExecutable.pid()).shortName, "a-program-with-a-long-name (v2)");
+    EXPECT_EQ(table.origin(child.pid()).executablePath, QFile::encodeName(program));
+}
 
-    // The shell names itself so, and says when it has.
-    const std::string rename = "printf %s a-worker-in-its > /proc/$$/comm; printf ! >&0; read line";
-    for (const auto& [first, expected] : {std::pair("/opt/bin/a-worker-in-its-pool", "a-worker-in-its-pool"),
-                                          {"/opt/bin/worker", "a-worker-in-its"}}) {
-        const Child byArgument("/bin/sh", {first, "-c", rename});
-        ASSERT_EQ(byArgument.heard(), '!');
-        EXPECT_EQ(table.origin(byArgument.pid()).shortName, expected);
+TEST(ProcessText, TheMarkFollowsNameArgumentsAndProgram) {
+    LinuxProcessTable table;
+    // Each line that the shell hears takes it one step on; it answers when the step is done.
+    const Child child("/bin/sh",
+                      {"sh", "-c",
+                       "printf ! >&0; read line; printf %s renamed > /proc/$$/comm; printf ! >&0; read line;"
+                       "exec sh -c 'printf ! >&0; read line' sh other-argument"});
+    std::optional<quint64> last;
+    for (const char* step : {"started", "renamed", "another program"}) {
+        ASSERT_EQ(child.heard(), '!') << step;
+        const auto mark = table.textMark(child.pid());
+        ASSERT_TRUE(mark) << step;
+        EXPECT_NE(mark, last) << step;
+        EXPECT_EQ(mark, table.origin(child.pid()).textMark) << step;
+        for (int again = 0; again < 3; ++again)
+            EXPECT_EQ(table.textMark(child.pid()), mark) << step; // with descriptors kept and without
+        last = mark;
+        child.tell('\n');
     }
+    EXPECT_EQ(table.workingFolder(child.pid()), QFile::encodeName(QDir::currentPath()));
+    EXPECT_FALSE(table.textMark(999'999'999));
+}
+
+TEST(ProcessText, ControlGroupsTellWhoKeepsAProcess) {
+    using Kind = ProcessKeeper::Kind;
+    const std::string user = "0::/user.slice/user-1000.slice/user@1000.service/";
+    const std::tuple<std::string, Kind, const char*> cases[] = {
+        {"", Kind::none, ""},
+        {"0::/\n", Kind::none, ""},
+        {"0::/user.slice/user-1000.slice/session-2.scope\n", Kind::none, ""},
+        {user + "app.slice/app-gnome-org.gnome.Terminal-2481.scope\n", Kind::none, ""},
+        {user + "app.slice/app-org.kde.konsole@4f2c.service\n", Kind::none, ""},
+        {user + "init.scope\n", Kind::none, ""},
+        {user + "app.slice/mcp-notes.service\n", Kind::service, "mcp-notes.service"},
+        {"0::/system.slice/mcp-gateway.service\n", Kind::service, "mcp-gateway.service"},
+        {"0::/system.slice/docker-0123abcd.scope\n", Kind::container, "docker-0123abcd.scope"},
+        {user + "user.slice/libpod-77.scope/container\n", Kind::container, "libpod-77.scope"},
+        {"12:pids:/docker/0123abcd\n1:name=systemd:/docker/0123abcd\n", Kind::container, "0123abcd"},
+        {"1:name=systemd:/system.slice/docker.service\n", Kind::service, "docker.service"},
+        {"0::/lxc.payload.dev/system.slice/mcp.service\n", Kind::container, "lxc.payload.dev"},
+    };
+    for (const auto& [text, kind, name] : cases) {
+        const ProcessKeeper keeper = ControlGroup::keeper(QByteArray::fromStdString(text));
+        EXPECT_EQ(keeper.kind, kind) << text;
+        EXPECT_EQ(keeper.name, name) << text;
+    }
+    using namespace std::string_literals;
+    EXPECT_EQ(ControlGroup::mainPid(QByteArray::fromStdString("A=1\0SYSTEMD_EXEC_PID=4711\0B=2\0"s)), 4711);
+    EXPECT_EQ(ControlGroup::mainPid("NOT_SYSTEMD_EXEC_PID=4711"), 0);
 }
 
 TEST(ProcessText, StatLinesAreParsedFromTheLastParenthesis) {

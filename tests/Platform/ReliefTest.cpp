@@ -147,11 +147,12 @@ TEST_F(ReliefOnProcessesTest, AnotherUsersProcessIsDeniedAndNeverChosenByRule) {
 /// With a published server in the place of the made-up one where docs/testing.md has it.
 TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKilled) {
     const QString published = qEnvironmentVariable("TAVRIN_MCP_SERVER");
-    const QString label = published.isEmpty() ? u"/opt/bin/mcp-server-demo"_s : published;
+    const QString label =
+        published.isEmpty() ? home.makeFile(u"bin/mcp-server-demo"_s, "read x\n") : published;
     const QString claude = home.path(u"claude"_s);
     ASSERT_TRUE(QFile::copy(u"/bin/sh"_s, claude));
     // The servers wait for the test's end of the socket.
-    const QString command = (published.isEmpty() ? u"sh -c 'read x' "_s : QString()) + label;
+    const QString command = (published.isEmpty() ? u"sh "_s : QString()) + label;
     const auto script =
         home.makeFile(u"host"_s, "exec 3<&0\n" + command.toUtf8() + " <&3 >/dev/null 2>&1 &\nwait\n")
             .toStdString();

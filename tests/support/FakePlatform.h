@@ -59,6 +59,8 @@ struct FakeProcess {
     QByteArray name = {};
     QByteArray arguments = {};
     std::optional<KernelProcessInfo> info = KernelProcessInfo{};
+    QByteArray folder = {};
+    ProcessKeeper keeper = {};
 };
 
 class FakeProcessTable : public ProcessTable {
@@ -67,6 +69,7 @@ public:
     QHash<qint32, FakeProcess> processes;
     bool fails = false;
     int metadataLookUps = 0;
+    int textMarks = 0;
 
     FakeProcess& add(qint32 pid, FakeProcess process = {}) {
         listing.append(pid);
@@ -91,9 +94,21 @@ public:
     ProcessOrigin origin(qint32 pid) override {
         ++metadataLookUps;
         const FakeProcess process = processes.value(pid);
-        return {process.path, process.name, process.arguments, process.info};
+        return {process.path, process.name, process.arguments, process.info, markOf(process)};
     }
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return processes.value(pid).info; }
+    std::optional<quint64> textMark(qint32 pid) override {
+        ++textMarks;
+        const auto found = processes.constFind(pid);
+        return found == processes.constEnd() ? std::nullopt : std::optional(markOf(*found));
+    }
+    QByteArray workingFolder(qint32 pid) override { return processes.value(pid).folder; }
+    ProcessKeeper keeper(qint32 pid) override { return processes.value(pid).keeper; }
+
+private:
+    static quint64 markOf(const FakeProcess& process) {
+        return qHashMulti(0, process.path, process.name, process.arguments);
+    }
 };
 
 class FakePowerMode : public PowerMode {

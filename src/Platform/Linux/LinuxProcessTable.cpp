@@ -1,7 +1,10 @@
 #include "Platform/Linux/LinuxProcessTable.h"
 
+#include "Platform/Linux/ControlGroup.h"
 #include "Platform/Linux/DescriptorLimit.h"
 #include "Platform/Linux/KernelText.h"
+
+#include <QHash>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,7 +19,7 @@
 namespace {
 
 constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone takes 30 at once
-constexpr qsizetype commLength = 15;
+constexpr qsizetype markedBytes = 4096;
 // Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
 constexpr int mostRepeats = 15;
 constexpr qsizetype mostArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
@@ -48,21 +51,10 @@ std::array<char, 32> pathOf(qint32 pid, const char* name) {
     return path;
 }
 
-QByteArray lastComponent(const QByteArray& path) {
-    return path.mid(path.lastIndexOf('/') + 1);
-}
-
-/// The whole of a name that the kernel may have cut.
-QByteArray completed(const QByteArray& name, const ProcessOrigin& origin) {
-    if (name.size() != commLength)
-        return name;
-    const auto& area = origin.argumentArea;
-    const auto firstArgument = area.first(std::max<qsizetype>(area.indexOf('\0'), 0));
-    for (const auto& whole : {lastComponent(origin.executablePath), lastComponent(firstArgument)}) {
-        if (whole.startsWith(name))
-            return whole;
-    }
-    return name;
+/// One figure for the three texts. Of the arguments their beginning is enough: a program takes others with an
+/// exec or with a title, and both begin anew.
+quint64 markOf(QByteArrayView name, QByteArrayView arguments, QByteArrayView executable) {
+    return qHashMulti(0, name, arguments.first(std::min(arguments.size(), markedBytes)), executable);
 }
 
 } // namespace
@@ -162,11 +154,12 @@ bool LinuxProcessTable::open(Process& process) {
 }
 
 void LinuxProcessTable::close(Process& process) {
-    for (KernelFile* file : {&process.statm, &process.task}) {
+    for (KernelFile* file : {&process.statm, &process.task, &process.comm, &process.cmdline}) {
         m_descriptors -= file->isOpen() ? 1 : 0;
         file->close();
     }
     process.threads = 0;
+    process.wasMarked = false;
 }
 
 std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
@@ -264,26 +257,76 @@ bool LinuxProcessTable::statOf(qint32 pid, const char* name, struct stat& result
 }
 
 ProcessOrigin LinuxProcessTable::origin(qint32 pid) {
-    ProcessOrigin origin{.executablePath = executablePath(pid), .argumentArea = argumentArea(pid)};
+    ProcessOrigin origin{.executablePath = executablePath(pid), .argumentArea = wholeFile(pid, "/cmdline")};
     if (const auto stat = readStat(pid)) {
-        origin.shortName = completed(stat->name, origin);
+        origin.shortName = stat->name;
         origin.kernelInfo = kernelInfo(pid, *stat);
     }
+    origin.textMark = markOf(origin.shortName, origin.argumentArea, origin.executablePath);
     return origin;
 }
 
-QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
+/// Whether both files are open. A process is asked about again only if it runs time and again: then the
+/// descriptors are worth their place.
+bool LinuxProcessTable::keepTexts(Process& process) {
+    if (!process.cmdline.isOpen() && process.wasMarked && m_descriptors + 2 <= m_descriptorBudget) {
+        process.comm = openFile(process.pid, "/comm");
+        process.cmdline = openFile(process.pid, "/cmdline");
+        m_descriptors += (process.comm.isOpen() ? 1 : 0) + (process.cmdline.isOpen() ? 1 : 0);
+    }
+    process.wasMarked = true;
+    return process.comm.isOpen() && process.cmdline.isOpen();
+}
+
+std::optional<quint64> LinuxProcessTable::textMark(qint32 pid) {
+    Process& process = processOf(pid);
+    const bool isKept = keepTexts(process);
+    const KernelFile openedComm = isKept ? KernelFile() : openFile(pid, "/comm");
+    const KernelFile openedCmdline = isKept ? KernelFile() : openFile(pid, "/cmdline");
+    std::array<char, 64> nameRoom;
+    std::array<char, markedBytes> argumentRoom;
+    auto name = (isKept ? process.comm : openedComm).read(nameRoom);
+    const auto arguments = (isKept ? process.cmdline : openedCmdline).read(argumentRoom);
+    if (name.empty())
+        return std::nullopt;
+    name.remove_suffix(1); // a line feed
+    return markOf(QByteArrayView(name.data(), static_cast<qsizetype>(name.size())),
+                  QByteArrayView(arguments.data(), static_cast<qsizetype>(arguments.size())),
+                  executablePath(pid));
+}
+
+QByteArray LinuxProcessTable::workingFolder(qint32 pid) {
+    return linkTarget(pid, "/cwd");
+}
+
+ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
+    ProcessKeeper keeper = ControlGroup::keeper(wholeFile(pid, "/cgroup"));
+    const bool isOurs = keeper == ControlGroup::keeper(wholeFile(getpid(), "/cgroup"));
+    if (isOurs && keeper.kind == ProcessKeeper::Kind::container)
+        return {}; // this program runs in it as well
+    if (keeper.kind == ProcessKeeper::Kind::service)
+        keeper.mainPid = ControlGroup::mainPid(wholeFile(pid, "/environ"));
+    return keeper;
+}
+
+QByteArray LinuxProcessTable::linkTarget(qint32 pid, const char* name) const {
     QByteArray target(4096, Qt::Uninitialized);
     const auto length =
-        readlinkat(m_folder.descriptor(), pathOf(pid, "/exe").data(), target.data(), target.size());
+        readlinkat(m_folder.descriptor(), pathOf(pid, name).data(), target.data(), target.size());
     target.truncate(std::max<qsizetype>(length, 0));
+    return target;
+}
+
+QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
+    QByteArray target = linkTarget(pid, "/exe");
     if (target.endsWith(" (deleted)"))
         target.chop(sizeof(" (deleted)") - 1);
     return target;
 }
 
-QByteArray LinuxProcessTable::argumentArea(qint32 pid) const {
-    const auto file = openFile(pid, "/cmdline");
+/// A file of any length; empty when it cannot be read.
+QByteArray LinuxProcessTable::wholeFile(qint32 pid, const char* name) const {
+    const auto file = openFile(pid, name);
     QByteArray area(4096, Qt::Uninitialized);
     qsizetype filled = 0;
     while (filled < mostArguments) {

@@ -32,23 +32,32 @@ public:
     /// Empty also for a process without address space, such as one that waits to be reaped.
     std::optional<TaskInfo> taskInfo(qint32 pid) override;
     /// The executable is the target of `/proc/N/exe`, also when the file has been deleted since; readable for
-    /// the user's own processes only. The arguments are `/proc/N/cmdline`. Of the short name, in
-    /// `/proc/N/stat`, the kernel keeps 15 bytes: one that long is completed from the executable or the first
-    /// argument, where that begins with it.
+    /// the user's own processes only. The arguments are `/proc/N/cmdline`. The short name, in `/proc/N/stat`,
+    /// is of 15 bytes at most.
     ProcessOrigin origin(qint32 pid) override;
     /// `/proc/N/stat`, and the owner of `/proc/N`, which is the effective user id also for a process whose
     /// other files belong to root (proc(5), "dumpable").
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override;
+    /// Of `/proc/N/comm`, the first 4,096 bytes of `/proc/N/cmdline` and the target of `/proc/N/exe`. The
+    /// first two stay open for a process that is asked about again.
+    std::optional<quint64> textMark(qint32 pid) override;
+    /// The target of `/proc/N/cwd`; readable for the user's own processes only.
+    QByteArray workingFolder(qint32 pid) override;
+    /// From `/proc/N/cgroup`, and for a service SYSTEMD_EXEC_PID in `/proc/N/environ` (systemd.exec(5)).
+    ProcessKeeper keeper(qint32 pid) override;
 
 private:
     struct Process {
         qint32 pid = 0;
         KernelFile statm;
         KernelFile task;
+        KernelFile comm;
+        KernelFile cmdline;
         quint64 inode = 0;
         bool isKernelThread = false;
         int threads = 0; ///< when its clock stood at cpuTimeNs; 0 before the first look
         quint64 cpuTimeNs = 0;
+        bool wasMarked = false; ///< its text mark has been asked for
     };
 
     struct Pages {
@@ -69,8 +78,10 @@ private:
     std::optional<TaskInfo> fromStat(qint32 pid) const;
     std::optional<quint64> cpuTimeNs(qint32 pid) const;
     std::optional<ProcStat> readStat(qint32 pid) const;
+    QByteArray linkTarget(qint32 pid, const char* name) const;
     QByteArray executablePath(qint32 pid) const;
-    QByteArray argumentArea(qint32 pid) const;
+    QByteArray wholeFile(qint32 pid, const char* name) const;
+    bool keepTexts(Process& process);
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid, const ProcStat& stat) const;
     KernelFile openFile(qint32 pid, const char* name, int extraFlags = 0) const;
     bool statOf(qint32 pid, const char* name, struct stat& result) const;

@@ -46,7 +46,8 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
         return;
     m_server = server;
     const QString label = Formatters::visible(server.displayLabel);
-    setToolTip(plainToolTip(label));
+    setToolTip(plainToolTip(label + u'\n' + server.reason));
+    setAccessibleDescription(server.reason);
     setAccessibleName(QStringLiteral("%1 %2, PID %3, parent: %4, %5")
                           .arg(server.isOrphan ? QStringLiteral("Orphan") : QStringLiteral("Running"), label)
                           .arg(server.pid)

@@ -37,8 +37,8 @@ private:
 void checkOrigin(const ProcessOrigin& origin, const QByteArray& stat) {
     const auto parsed = ProcStat::parse(stat.first(std::min<qsizetype>(stat.size(), 1024)).toStdString());
     Fuzz::require(origin.kernelInfo.has_value() == parsed.has_value());
-    Fuzz::require(!parsed || (origin.shortName.startsWith(parsed->name) &&
-                              origin.kernelInfo->parentPid == parsed->parentPid));
+    Fuzz::require(!parsed ||
+                  (origin.shortName == parsed->name && origin.kernelInfo->parentPid == parsed->parentPid));
 }
 
 void checkSample(const ProcSample& sample, const QByteArray& commandLine) {
@@ -61,6 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     platform.host = std::make_shared<FakeHostStatistics>();
     platform.clock = std::make_shared<FakeClock>();
     platform.processes = table;
+    platform.applications = std::make_shared<FakeApplications>();
     Sampler sampler(platform);
     const QList<ProcSample> samples = sampler.sampleProcesses();
     Fuzz::require(samples.size() <= 1);

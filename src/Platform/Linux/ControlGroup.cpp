@@ -1,0 +1,63 @@
+#include "Platform/Linux/ControlGroup.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// How the name of a container's group begins.
+constexpr std::array<QByteArrayView, 10> containerPrefixes = {
+    "docker-",      "libpod-",   "cri-containerd-", "crio-",    "nerdctl-",
+    "lxc.payload.", "kubepods-", "kubepods.slice",  "buildkit", "machine-"};
+/// Whose groups lie beneath a folder of their own, each named by the container's id.
+constexpr std::array<QByteArrayView, 5> containerFolders = {"docker", "lxc", "kubepods", "libpod_parent",
+                                                            "garden"};
+
+/// Services that start whatever a user wants: what runs in them is not a service of its own.
+constexpr std::array<QByteArrayView, 4> sessionPrefixes = {"user@", "app-", "dbus-", "xdg-desktop-portal"};
+
+bool beginsWithOne(const QByteArray& name, const auto& prefixes) {
+    return std::ranges::any_of(prefixes, [&name](QByteArrayView prefix) { return name.startsWith(prefix); });
+}
+
+/// The groups from the root down, by their names: of the unified hierarchy ("0::"), else of systemd's own.
+QList<QByteArray> groupsOf(const QByteArray& cgroupFile) {
+    QByteArray path;
+    for (const QByteArray& line : cgroupFile.split('\n')) {
+        const bool isUnified = line.startsWith("0::");
+        const qsizetype begin =
+            isUnified ? 2 : line.indexOf(":name=systemd:") + qsizetype(sizeof(":name=systemd"));
+        const bool isNamed = isUnified || line.contains(":name=systemd:");
+        if (isNamed && line.size() > begin + 1)
+            path = line.mid(begin + 1);
+    }
+    return path.split('/');
+}
+
+} // namespace
+
+ProcessKeeper ControlGroup::keeper(const QByteArray& cgroupFile) {
+    ProcessKeeper keeper;
+    const QList<QByteArray> groups = groupsOf(cgroupFile);
+    for (qsizetype i = 0; i < groups.size(); ++i) {
+        const QByteArray& group = groups[i];
+        const bool isNumbered =
+            i + 1 < groups.size() && std::ranges::find(containerFolders, group) != containerFolders.end();
+        if (isNumbered || beginsWithOne(group, containerPrefixes))
+            return {.kind = ProcessKeeper::Kind::container, .name = isNumbered ? groups[i + 1] : group};
+        if (group.endsWith(".service") && !beginsWithOne(group, sessionPrefixes))
+            keeper = {.kind = ProcessKeeper::Kind::service, .name = group};
+    }
+    return keeper;
+}
+
+qint32 ControlGroup::mainPid(const QByteArray& environment) {
+    constexpr QByteArrayView variable = "SYSTEMD_EXEC_PID=";
+    for (const QByteArray& entry : environment.split('\0')) {
+        if (entry.startsWith(variable))
+            return entry.mid(variable.size()).toInt();
+    }
+    return 0;
+}
