@@ -94,7 +94,8 @@ start_display() {
 
 # The desktop's panel, which holds the tray; sets `tray_program`.
 start_tray() {
-    spawn tint2 >/dev/null 2>&1
+    # At its first start it writes its settings, which a private machine lets it do nowhere else.
+    spawn env XDG_CONFIG_HOME="$private_files/panel" tint2 >/dev/null 2>&1
     tray_program=$spawned
 }
 

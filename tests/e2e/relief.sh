@@ -138,11 +138,11 @@ shows "nothing matches any more" "Left over, .*, 0 matching"
 # A server whose host has ended.
 cp /bin/sh "$children/claude"
 cat >"$children/host" <<HOST
-"$children/server" 60 polite mcp-server-relief >"$children/server.said" &
+"$children/mcp-server-relief" 60 polite >"$children/server.said" &
 echo \$! >"$children/server.pid"
 wait
 HOST
-cp "$idle_process" "$children/server"
+cp "$idle_process" "$children/mcp-server-relief"
 spawn "$children/claude" "$children/host"
 host=$spawned
 server=$(first_line "$children/server.pid") || fail "the server starts"

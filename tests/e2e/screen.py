@@ -3,6 +3,7 @@
 
     screen.py find NAME      waits until something on show has that name, and prints the name
     screen.py gone NAME      waits until nothing has
+    screen.py describe NAME  the same as find, and prints what else a screen reader says of it
     screen.py tab NAME       presses Tab until it has the keyboard
     screen.py click NAME     clicks into its middle
 
@@ -118,6 +119,7 @@ def main():
     name = re.compile(sys.argv[2])
     done = {
         "find": lambda: wait_for(lambda: find(name)),
+        "describe": lambda: wait_for(lambda: find(name)),
         "gone": lambda: wait_for(lambda: not find(name)),
         "tab": lambda: tab(name),
         "click": lambda: click(name),
@@ -128,6 +130,8 @@ def main():
         return 1
     if sys.argv[1] == "find":
         print(name_of(done))
+    if sys.argv[1] == "describe":
+        print(asked(done.get_description, ""))
     return 0
 
 
