@@ -114,6 +114,10 @@ public:
 
     /// All processes of exactly that name, this program left out.
     NukePreview previewForName(const QString& name) const;
+    /// The application that all of them belong to, as the menu calls it. Asks the system.
+    std::optional<QString> applicationOf(const QList<ProcSample>& processes) const;
+    /// All processes of that application.
+    NukePreview previewForApplication(const QString& application) const;
     /// Asks every process of the preview to end; the outcome in words.
     QString nuke(const NukePreview& preview);
     /// Asks the application itself to quit, which closes its helpers; the outcome in words.
@@ -149,6 +153,7 @@ private:
     void expectCleans(int count);
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
     AutoOptimizer& autoOptimizer();
+    std::optional<QString> applicationOf(const ProcSample& process) const;
     void signalChosen(const ProcSample& chosen, bool force);
     QList<ProcSample> orphansLookedAtAgain() const;
     int signalServer(const MCPInspector::LiveServer& server, bool force);

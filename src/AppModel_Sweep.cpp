@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/MemoryTools.h"
+#include "Platform/Applications.h"
 #include "Platform/Identity.h"
 
 #include <QPointer>
@@ -9,22 +10,53 @@ using namespace Qt::StringLiterals;
 
 NukePreview AppModel::previewForName(const QString& name) const {
     QList<ProcSample> named;
+    NukePreview::Applications applications;
     for (const ProcSample& process : m_processes) {
-        if (process.name == name && process.pid != m_platform.identity->processId())
-            named.append(process);
+        if (process.name != name || process.pid == m_platform.identity->processId())
+            continue;
+        named.append(process);
+        applications.append(applicationOf(process));
     }
-    return NukePreview::make(name, named);
+    return NukePreview::make(name, named, applications);
+}
+
+/// None for this program itself and for the processes of others, which no application of the user's owns.
+std::optional<QString> AppModel::applicationOf(const ProcSample& process) const {
+    if (process.pid == m_platform.identity->processId() || process.uid != m_platform.identity->userId())
+        return std::nullopt;
+    if (const auto bundle = NukePreview::bundleOf(process.executablePath))
+        return bundle;
+    // The id may have come to mean another process since the last tick.
+    const auto application = m_platform.applications->ofProcess(process.pid);
+    return application && !m_sampler.isReplaced(process.pid) ? std::optional(application->name)
+                                                             : std::nullopt;
+}
+
+std::optional<QString> AppModel::applicationOf(const QList<ProcSample>& processes) const {
+    NukePreview::Applications applications;
+    for (const ProcSample& process : processes)
+        applications.append(applicationOf(process));
+    return NukePreview::common(applications);
+}
+
+NukePreview AppModel::previewForApplication(const QString& application) const {
+    QList<ProcSample> owned;
+    for (const ProcSample& process : m_processes) {
+        if (applicationOf(process) == application)
+            owned.append(process);
+    }
+    return NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
 }
 
 QString AppModel::nuke(const NukePreview& preview) {
-    // The preview may have been on show for long: an id that meanwhile names something else is left alone.
-    QList<qint32> stillNamed;
-    for (const qint32 pid : preview.pids) {
-        const ProcSample* running = process(pid);
-        if (running && running->name == preview.name)
-            stillNamed.append(pid);
+    // The preview may have been on show for long: an id that meanwhile means another process is left alone.
+    QList<qint32> same;
+    for (qsizetype i = 0; i < preview.pids.size(); ++i) {
+        const ProcSample* running = process(preview.pids[i]);
+        if (running && running->name == preview.name && running->startTime == preview.startTimes[i])
+            same.append(running->pid);
     }
-    const int killed = signalAll(stillNamed, false);
+    const int killed = signalAll(same, false);
     record(ActionLogEntry::Kind::quit,
            u"[nuke duplicates] "_s + preview.name + u" — %1/%2 PIDs"_s.arg(killed).arg(preview.pids.size()),
            0, true);

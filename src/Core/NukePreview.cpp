@@ -10,25 +10,6 @@ namespace {
 
 constexpr qsizetype listedPids = 20;
 
-/// The outermost bundle that the executable lies in.
-std::optional<QString> owningApplication(const QString& path) {
-    const qsizetype bundle = path.indexOf(".app/"_L1);
-    if (bundle < 0)
-        return std::nullopt;
-    const qsizetype begin = bundle == 0 ? 0 : path.lastIndexOf(u'/', bundle - 1) + 1;
-    return path.mid(begin, bundle - begin);
-}
-
-std::optional<QString> commonApplication(const QList<ProcSample>& processes) {
-    if (processes.isEmpty())
-        return std::nullopt;
-    const auto first = owningApplication(processes.first().executablePath);
-    const bool shared = std::all_of(processes.begin(), processes.end(), [&first](const ProcSample& process) {
-        return owningApplication(process.executablePath) == first;
-    });
-    return shared ? first : std::nullopt;
-}
-
 QString pidList(const QList<qint32>& pids) {
     QStringList texts;
     for (const qint32 pid : pids.first(std::min(listedPids, pids.size())))
@@ -38,16 +19,33 @@ QString pidList(const QList<qint32>& pids) {
 
 } // namespace
 
-NukePreview NukePreview::make(const QString& name, const QList<ProcSample>& processes) {
-    NukePreview preview{.id = QUuid::createUuid(),
-                        .name = name,
-                        .pids = {},
-                        .totalRSS = 0,
-                        .parentAppName = commonApplication(processes)};
-    for (const ProcSample& process : processes) {
+std::optional<QString> NukePreview::bundleOf(const QString& executablePath) {
+    const qsizetype bundle = executablePath.indexOf(".app/"_L1);
+    if (bundle < 0)
+        return std::nullopt;
+    const qsizetype begin = bundle == 0 ? 0 : executablePath.lastIndexOf(u'/', bundle - 1) + 1;
+    return executablePath.mid(begin, bundle - begin);
+}
+
+std::optional<QString> NukePreview::common(const Applications& applications) {
+    const bool isShared =
+        !applications.isEmpty() && applications.count(applications.first()) == applications.size();
+    return isShared ? applications.first() : std::nullopt;
+}
+
+NukePreview NukePreview::make(const QString& name, const QList<ProcSample>& processes,
+                              const Applications& applications) {
+    NukePreview preview{.id = QUuid::createUuid(), .name = name};
+    Applications owners;
+    for (qsizetype i = 0; i < processes.size(); ++i) {
+        const ProcSample& process = processes[i];
         preview.pids.append(process.pid);
+        preview.startTimes.append(process.startTime);
         preview.totalRSS += process.rssBytes;
+        const auto bundle = bundleOf(process.executablePath);
+        owners.append(bundle ? bundle : applications.value(i));
     }
+    preview.parentAppName = common(owners);
     return preview;
 }
 

@@ -3,7 +3,6 @@
 #include "Preferences.h"
 
 #include <QHeaderView>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -135,10 +134,5 @@ void ProcessTableView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ProcessTableView::fillMenu(QMenu& menu, const QModelIndex& index) {
-    const ProcessTableRow row = m_rows->row(index.row()); // the menu is about this row, wherever it goes
-    for (const RowAction action : ProcessRowDelegate::actionsOf(row, m_rows->isGrouped())) {
-        QString text = ProcessRowDelegate::helpOf(action, row, m_rows->isGrouped());
-        menu.addAction(text.replace(u'&', QStringLiteral("&&")), this,
-                       [this, action, row] { Q_EMIT triggered(action, row); });
-    }
+    Q_EMIT menuOpens(menu, m_rows->row(index.row()), m_rows->isGrouped());
 }

@@ -24,6 +24,8 @@ public:
 Q_SIGNALS:
     void triggered(RowAction action, const ProcessTableRow& row);
     void sortRequested(SortBy sort);
+    /// The menu of a row is about to be shown, to be filled now.
+    void menuOpens(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
 
 protected:
     void fillMenu(QMenu& menu, const QModelIndex& index) override;

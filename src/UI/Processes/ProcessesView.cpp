@@ -8,6 +8,7 @@
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Processes/ProcessControls.h"
+#include "UI/Processes/ProcessMenu.h"
 #include "UI/Processes/ProcessTableView.h"
 
 #include <QPointer>
@@ -34,7 +35,8 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     , m_controls(new ProcessControls)
     , m_notice(new Notice(QStringLiteral("bolt.fill"), 0ms))
     , m_stack(new QStackedWidget)
-    , m_table(new ProcessTableView(preferences)) {
+    , m_table(new ProcessTableView(preferences))
+    , m_menu(new ProcessMenu(model, this)) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(Theme::tableCardMargins);
@@ -56,6 +58,9 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     connect(m_controls, &ProcessControls::changed, this, &ProcessesView::ask);
     connect(m_table, &ProcessTableView::sortRequested, m_controls, &ProcessControls::setSort);
     connect(m_table, &ProcessTableView::triggered, this, &ProcessesView::act);
+    connect(m_table, &ProcessTableView::menuOpens, m_menu, &ProcessMenu::fill);
+    connect(m_menu, &ProcessMenu::triggered, this, &ProcessesView::act);
+    connect(m_menu, &ProcessMenu::quitRequested, this, &ProcessesView::confirmSweep);
     observe(&m_model, this, [this] { refresh(); });
 }
 

@@ -9,6 +9,7 @@ struct NukePreview;
 class Notice;
 class Preferences;
 class ProcessControls;
+class ProcessMenu;
 class ProcessTableView;
 class QStackedWidget;
 
@@ -35,4 +36,5 @@ private:
     Notice* m_notice;
     QStackedWidget* m_stack;
     ProcessTableView* m_table;
+    ProcessMenu* m_menu;
 };

@@ -1,0 +1,47 @@
+#include "UI/Processes/ProcessMenu.h"
+
+#include "AppModel.h"
+#include "Core/Formatters.h"
+
+#include <QMenu>
+
+namespace {
+
+/// A text from outside as the text of an entry: no control characters, and no letter for the keyboard in it.
+QString entryText(const QString& text) {
+    return Formatters::visible(text).replace(u'&', QStringLiteral("&&"));
+}
+
+QList<ProcSample> processesOf(const ProcessTableRow& row) {
+    return row.processes.isEmpty() ? QList<ProcSample>{row.first} : row.processes;
+}
+
+} // namespace
+
+ProcessMenu::ProcessMenu(AppModel& model, QObject* parent)
+    : QObject(parent)
+    , m_model(model) {}
+
+void ProcessMenu::fill(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
+    addButtons(menu, row, isGrouped);
+    addApplication(menu, row);
+}
+
+void ProcessMenu::addButtons(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
+    for (const RowAction action : ProcessRowDelegate::actionsOf(row, isGrouped)) {
+        menu.addAction(entryText(ProcessRowDelegate::helpOf(action, row, isGrouped)), this,
+                       [this, action, row] { Q_EMIT triggered(action, row); });
+    }
+}
+
+void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {
+    const auto application = m_model.applicationOf(processesOf(row));
+    if (!application)
+        return;
+    menu.addSeparator();
+    menu.addAction(entryText(QStringLiteral("Quit %1…").arg(*application)), this, [this, application] {
+        const NukePreview preview = m_model.previewForApplication(*application);
+        if (preview.parentAppName) // it may have ended while the menu was open
+            Q_EMIT quitRequested(preview);
+    });
+}
