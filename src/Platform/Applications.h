@@ -18,9 +18,10 @@ class Applications {
 public:
     virtual ~Applications() = default;
 
-    /// The application whose menu entry starts the program at `executable` (an absolute path). Empty when no
-    /// entry does.
+    /// The application whose menu entry starts the program at `executable` (an absolute path), or one that it
+    /// is a helper of. Empty when there is none, or several could be meant.
     virtual std::optional<Application> ofProgram(const QString& executable) = 0;
-    /// The application that a running process belongs to. Empty when it belongs to none or is gone.
+    /// The application that a running process belongs to, so that it ends when the application is quit. Empty
+    /// when it belongs to none, may not be read or is gone; also in doubt, as for what runs in a terminal.
     virtual std::optional<Application> ofProcess(qint32 pid) = 0;
 };

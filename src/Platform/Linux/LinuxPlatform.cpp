@@ -1,6 +1,7 @@
 #include "Platform/Clock.h"
 #include "Platform/Linux/DescriptorLimit.h"
 #include "Platform/Linux/LinuxAppearance.h"
+#include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxIdentity.h"
 #include "Platform/Linux/LinuxLoginItem.h"
@@ -23,7 +24,8 @@ Platform Platform::native() {
             .clock = std::make_shared<SystemClock>(),
             .tools = std::make_shared<LinuxToolRunner>(),
             .places = std::make_shared<LinuxPlaces>(),
-            .signalSender = std::make_shared<LinuxSignals>()};
+            .signalSender = std::make_shared<LinuxSignals>(),
+            .applications = std::make_shared<LinuxApplications>()};
 }
 
 std::unique_ptr<Appearance> Platform::makeAppearance() {

@@ -1,0 +1,121 @@
+#include "Platform/Linux/LinuxApplications.h"
+
+#include "Platform/Linux/ApplicationUnit.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+#include <climits>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 mostBytes = 16 * 1024;
+
+/// Empty where it cannot be read. A file of procfs, or one of a sandbox, which may be anything.
+QByteArray textOf(const QString& path) {
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
+}
+
+/// What a link of procfs points to, without the mark of a program that was replaced on disk.
+QString targetOf(const QString& link) {
+    char room[PATH_MAX];
+    const auto length = readlink(QFile::encodeName(link).constData(), room, sizeof room);
+    QByteArray target(room, std::max<qsizetype>(length, 0));
+    if (target.endsWith(" (deleted)"))
+        target.chop(10);
+    return QFile::decodeName(target);
+}
+
+QString fileName(const QString& path) {
+    return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
+/// The name that flatpak gives what runs inside, from the file that it puts there (flatpak-metadata(5)).
+QString flatpakId(const QByteArray& info) {
+    bool isInside = false;
+    for (const QByteArray& line : info.split('\n')) {
+        if (line.startsWith('['))
+            isInside = line == "[Application]";
+        else if (isInside && line.startsWith("name="))
+            return QString::fromUtf8(line.sliced(5)).simplified();
+    }
+    return {};
+}
+
+} // namespace
+
+LinuxApplications::LinuxApplications(DesktopEntries entries, QString root)
+    : m_entries(std::move(entries))
+    , m_root(std::move(root)) {}
+
+std::optional<Application> LinuxApplications::ofProgram(const QString& executable) {
+    const auto* program = m_entries.ofFile(executable);
+    if (!program && QFileInfo(executable).isSymLink())
+        program = m_entries.ofFile(QFileInfo(executable).canonicalFilePath());
+    return program ? std::optional(Application{program->entry.id, program->entry.name}) : std::nullopt;
+}
+
+std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
+    const QString folder = m_root + u'/' + QString::number(pid);
+    const QString executable = targetOf(folder + u"/exe");
+    if (auto application = ofSandbox(folder, executable))
+        return application;
+    if (executable.isEmpty())
+        return std::nullopt;
+    if (const auto* program = m_entries.ofFile(executable))
+        return Application{program->entry.id, program->entry.name};
+    if (DesktopEntries::isInterpreter(fileName(executable)))
+        return ofScript(folder);
+    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup").toStdString());
+    return unit.kind == ApplicationUnit::Kind::desktop ? ofUnit(unit.id, executable) : std::nullopt;
+}
+
+std::optional<Application> LinuxApplications::ofSandbox(const QString& folder, const QString& executable) {
+    if (const QString id = flatpakId(textOf(folder + u"/root/.flatpak-info")); !id.isEmpty())
+        return named(id);
+    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup").toStdString());
+    if (unit.kind == ApplicationUnit::Kind::flatpak)
+        return named(unit.id);
+    return unit.kind == ApplicationUnit::Kind::snap ? ofSnap(unit.id, executable) : std::nullopt;
+}
+
+/// A snap need not shut its programs in: what lies elsewhere was started by a person in it.
+std::optional<Application> LinuxApplications::ofSnap(const QString& name, const QString& executable) {
+    if (!executable.startsWith(u"/snap/"_s + name + u'/') &&
+        !executable.startsWith(u"/var/lib/snapd/snap/"_s + name + u'/'))
+        return std::nullopt;
+    return named(name + u'_' + name);
+}
+
+Application LinuxApplications::named(const QString& id) {
+    const auto* entry = m_entries.withId(id);
+    return entry ? Application{entry->id, entry->name} : Application{id, id};
+}
+
+/// The interpreter's first argument that is no option, where a script is named by its whole path.
+std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
+    QByteArrayList arguments = textOf(folder + u"/cmdline").split('\0');
+    arguments.removeFirst();
+    for (const QByteArray& argument : std::as_const(arguments)) {
+        if (argument.startsWith('-'))
+            continue;
+        const QString script =
+            argument.startsWith('/') ? QFileInfo(QFile::decodeName(argument)).canonicalFilePath() : QString();
+        const auto* program = script.isEmpty() ? nullptr : m_entries.ofProgram(script);
+        return program ? std::optional(Application{program->entry.id, program->entry.name}) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<Application> LinuxApplications::ofUnit(const QString& id, const QString& executable) {
+    const auto* program = m_entries.ofId(id);
+    if (!program || fileName(program->file) != fileName(executable))
+        return std::nullopt;
+    return Application{program->entry.id, program->entry.name};
+}
