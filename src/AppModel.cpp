@@ -36,6 +36,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_sampler(m_platform)
     , m_servers(m_platform.processes, m_platform.clock) {
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
+    m_grouper.setChoices(m_preferences.programGroups());
 }
 
 void AppModel::start() {

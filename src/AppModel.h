@@ -68,6 +68,12 @@ public:
     /// The same, made now.
     void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) override;
 
+    /// The group that the user chose for the program of a process. Empty: it is as detected.
+    std::optional<ProcGroup> chosenGroup(const ProcSample& process) const;
+    /// Puts the program of a process into a group, from now on and at the next start too; empty leaves that to
+    /// the rules again.
+    void chooseGroup(const ProcSample& process, std::optional<ProcGroup> group);
+
     /// As of the last tick; null when the system listed no such process.
     const ProcSample* process(qint32 pid) const;
     /// Signals the very process that the user pointed at, not another that has its id by now, and puts that

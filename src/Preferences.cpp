@@ -1,5 +1,7 @@
 #include "Preferences.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -78,4 +80,25 @@ QList<QuickKillPreset> Preferences::quickKillPresets() const {
 
 void Preferences::storeQuickKillPresets(const QList<QuickKillPreset>& presets) {
     quickKillPresetsJSON.set(QuickKillPreset::encode(presets));
+}
+
+QHash<QString, ProcGroup> Preferences::programGroups() const {
+    QHash<QString, ProcGroup> groups;
+    const QJsonObject stored = QJsonDocument::fromJson(programGroupsJSON()).object();
+    for (auto each = stored.begin(); each != stored.end(); ++each) {
+        if (const auto group = fromRawValue<ProcGroup>(each.value().toString()))
+            groups.insert(each.key(), *group);
+    }
+    return groups;
+}
+
+void Preferences::storeProgramGroup(const QString& program, std::optional<ProcGroup> group) {
+    QHash<QString, ProcGroup> groups = programGroups();
+    groups.remove(program);
+    if (group)
+        groups.insert(program, *group);
+    QJsonObject stored;
+    for (auto each = groups.cbegin(); each != groups.cend(); ++each)
+        stored.insert(each.key(), rawValue(each.value()));
+    programGroupsJSON.set(QJsonDocument(stored).toJson(QJsonDocument::Compact));
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "Core/Models.h"
 #include "Core/QuickKillPreset.h"
 #include "Core/RawValue.h"
 #include "Core/SettingsFile.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QObject>
 
 #include <array>
@@ -85,12 +87,20 @@ public:
     Property<double> alertCachesBigGB{*this, u"pref.alertCachesBig_gb", 5.0};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
 
+    /// A JSON object: raw values of groups by program.
+    Property<QByteArray> programGroupsJSON{*this, u"pref.programGroupsJSON", QByteArray()};
+
     /// How many samples the in-memory history keeps: the retention over the poll interval, at least 60.
     int historyRetentionSamples() const;
 
     /// The presets in force: the stored ones, or the built-in ones while nothing readable is stored.
     QList<QuickKillPreset> quickKillPresets() const;
     void storeQuickKillPresets(const QList<QuickKillPreset>& presets);
+
+    /// The groups that the user chose for programs. What cannot be read as a group counts as absent.
+    QHash<QString, ProcGroup> programGroups() const;
+    /// Empty takes the choice back.
+    void storeProgramGroup(const QString& program, std::optional<ProcGroup> group);
 
     /// The file behind the properties, for keys that are none of them.
     SettingsFile& file() { return m_file; }

@@ -1,6 +1,8 @@
 #include "Core/ProcessGrouper.h"
 
+#include "Core/KnownPrograms.h"
 #include "Core/PatternMatcher.h"
+#include "Core/ProgramPath.h"
 
 #include <algorithm>
 #include <array>
@@ -85,30 +87,77 @@ const PatternMatcher& matcher() {
     return instance;
 }
 
+using Facts = PatternMatcher::Facts;
+
+/// Which group a fact speaks for.
+struct Test {
+    Facts facts;
+    ProcGroup group;
+};
+constexpr std::array tests = {Test{agent, ProcGroup::agents}, Test{ide | ideFolder, ProcGroup::ides},
+                              Test{terminal, ProcGroup::terminals}, Test{browser, ProcGroup::browsers},
+                              Test{container, ProcGroup::containers}};
+
+/// Without what speaks for a group that `name` only sounds like.
+Facts withoutFalseFriends(Facts found, QStringView name) {
+    for (const Test& test : tests) {
+        if (found & test.facts && KnownPrograms::onlySoundsLike(test.group, name))
+            found &= static_cast<Facts>(~test.facts);
+    }
+    return found;
+}
+
+Facts factsOfName(QStringView name) {
+    return withoutFalseFriends(matcher().search(name), name);
+}
+
+/// A path is searched folder by folder: no pattern spans two of them, and each may be a false friend. The
+/// user's home folder and that of the architecture say nothing.
+Facts factsOfPath(const QString& path) {
+    const QStringView rest = ProgramPath::withoutPrefix(path);
+    QStringView ownFolder; // right in the home folder
+    if (rest.size() < path.size() && !path.startsWith(u"/usr/lib/"))
+        ownFolder = rest.first(std::max(rest.indexOf(u'/', 1), qsizetype(0)));
+    Facts found = 0;
+    for (qsizetype start = 0; start < rest.size();) {
+        qsizetype end = rest.indexOf(u'/', start + 1);
+        end = end < 0 ? rest.size() : end;
+        const QStringView folder = rest.sliced(start, end - start); // with the slash before it
+        Facts here = withoutFalseFriends(matcher().search(folder), ProgramPath::lastComponent(folder));
+        if (start == 0 && here && !ownFolder.isEmpty())
+            here = withoutFalseFriends(here, QString(u'~').append(ownFolder));
+        found |= here;
+        start = end;
+    }
+    return found;
+}
+
+/// The arguments are searched word by word, because no pattern that is looked for in them holds a blank.
+Facts factsOfArguments(const QString& arguments) {
+    Facts found = 0;
+    for (const QStringView word : QStringView(arguments).tokenize(u' '))
+        found |= factsOfName(word);
+    return found;
+}
+
 bool isShell(const QString& name) {
     return std::any_of(shellNames.begin(), shellNames.end(),
                        [&name](QStringView shell) { return name.compare(shell, Qt::CaseInsensitive) == 0; });
 }
 
-} // namespace
-
-QList<ProcSample> ProcessGrouper::classify(QList<ProcSample> processes) const {
-    for (ProcSample& process : processes)
-        process.group = groupFor(process);
-    return processes;
+/// Where an interpreter is told what to run, that alone makes a server of it, not what is named besides.
+bool runsServer(const ProcSample& process) {
+    const QStringView told = process.program.isEmpty() ? QStringView(process.arguments)
+                                                       : ProgramPath::withoutPrefix(process.program);
+    return matcher().search(told) & mcpMarker;
 }
 
-ProcGroup ProcessGrouper::groupFor(const ProcSample& process) const {
-    const PatternMatcher& patterns = matcher();
-    const auto name = patterns.search(process.name);
-    const auto path = patterns.search(process.executablePath);
-    const auto either = name | path;
-    if (either & agent)
-        return ProcGroup::agents;
-    // The arguments are by far the longest text: they are searched only where they can still decide.
-    const bool mayHostMcp = name & scriptRuntime;
-    const auto arguments = mayHostMcp ? patterns.search(process.arguments) : PatternMatcher::Facts(0);
-    if (arguments & mcpMarker)
+/// By the patterns.
+ProcGroup groupByRules(const ProcSample& process) {
+    const Facts name = factsOfName(process.name);
+    const Facts path = factsOfPath(process.executablePath);
+    const Facts either = name | path;
+    if (either & agent || (name & scriptRuntime && runsServer(process)))
         return ProcGroup::agents;
     if (name & ide || path & ideFolder)
         return ProcGroup::ides;
@@ -116,8 +165,82 @@ ProcGroup ProcessGrouper::groupFor(const ProcSample& process) const {
         return ProcGroup::terminals;
     if (either & browser)
         return ProcGroup::browsers;
-    const auto rest = mayHostMcp ? arguments : patterns.search(process.arguments);
-    return (either | rest) & container ? ProcGroup::containers : ProcGroup::other;
+    return (either | factsOfArguments(process.arguments)) & container ? ProcGroup::containers
+                                                                      : ProcGroup::other;
+}
+
+bool isSame(const QString& one, const QString& other) {
+    return one.constData() == other.constData() || one == other;
+}
+
+/// A script called so is told from others by its folder only.
+bool isCommonScriptName(QStringView name) {
+    constexpr std::array<QStringView, 11> names = {u"__main__", u"app",    u"cli",    u"dist",
+                                                   u"index",    u"main",   u"manage", u"run",
+                                                   u"serve",    u"server", u"start"};
+    return std::ranges::find(names, name) != names.end();
+}
+
+/// The name of the executable; its process's name where the file is called by a version alone.
+QString executableKey(const ProcSample& process) {
+    const QStringView file = ProgramPath::lastComponent(process.executablePath);
+    const bool isNamed = std::ranges::any_of(file, [](QChar each) { return each.isLetter(); });
+    return isNamed ? file.toString() : process.name;
+}
+
+} // namespace
+
+bool ProcessGrouper::Judged::isOf(const ProcSample& process) const {
+    return isSame(name, process.name) && isSame(path, process.executablePath) &&
+           isSame(arguments, process.arguments) && isSame(program, process.program);
+}
+
+QString ProcessGrouper::programKey(const ProcSample& process) {
+    if (process.program.isEmpty() || process.program == process.executablePath)
+        return executableKey(process);
+    const QStringView package = ProgramPath::packageName(process.program);
+    if (!package.isEmpty())
+        return package.toString();
+    const QStringView script = ProgramPath::scriptName(process.program);
+    return isCommonScriptName(script) ? process.program : script.toString();
+}
+
+void ProcessGrouper::setChoices(Choices choices) {
+    m_choices = std::move(choices);
+    m_judged.clear();
+}
+
+QList<ProcSample> ProcessGrouper::classify(QList<ProcSample> processes) {
+    for (ProcSample& process : processes) {
+        Judged& judged = m_judged[process.pid];
+        if (judged.name.isNull() || !judged.isOf(process))
+            judged = {.name = process.name,
+                      .path = process.executablePath,
+                      .arguments = process.arguments,
+                      .program = process.program,
+                      .group = groupFor(process)};
+        process.group = judged.group;
+    }
+    forgetTheGone(processes.size());
+    return processes;
+}
+
+/// Whose id is not listed any more is of no use, but costs nothing either before there are many.
+void ProcessGrouper::forgetTheGone(qsizetype living) {
+    constexpr qsizetype spare = 256;
+    if (m_judged.size() > 2 * living + spare)
+        m_judged.clear();
+}
+
+ProcGroup ProcessGrouper::groupFor(const ProcSample& process) const {
+    if (!m_choices.isEmpty()) {
+        const auto chosen = m_choices.constFind(programKey(process));
+        if (chosen != m_choices.constEnd())
+            return *chosen;
+    }
+    const ProcGroup found = groupByRules(process);
+    const KnownPrograms::Program* known = found == ProcGroup::other ? KnownPrograms::of(process) : nullptr;
+    return known ? known->group : found;
 }
 
 QList<GroupRollup> GroupRollup::build(const QList<ProcSample>& processes) {

@@ -62,7 +62,7 @@ QStringView ProgramPath::packageName(QStringView program) {
 }
 
 QStringView ProgramPath::withoutPrefix(QStringView path) {
-    static const QString home = QDir::homePath();
+    const QString home = QDir::homePath();
     if (home.size() > 1 && isBelow(path, home))
         return path.sliced(home.size());
     constexpr QStringView libraries = u"/usr/lib/";
