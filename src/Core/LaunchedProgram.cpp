@@ -260,5 +260,7 @@ Reading LaunchedProgram::read(const QString& executable, const QStringList& argu
             return reading;
         }
     }
-    return readCommand(executable, Words(arguments.constData(), arguments.size()), 0);
+    const bool isUnknown = executable.isEmpty() && !arguments.isEmpty();
+    return readCommand(isUnknown ? arguments.first() : executable,
+                       Words(arguments.constData(), arguments.size()), 0);
 }

@@ -17,6 +17,7 @@ struct Reading {
 };
 
 /// `arguments` begins with the program's own name; a title that replaced them is understood as well.
+/// An `executable` that cannot be read is empty; the name among the arguments stands for it.
 Reading read(const QString& executable, const QStringList& arguments);
 
 } // namespace LaunchedProgram

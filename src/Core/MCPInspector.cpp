@@ -4,6 +4,7 @@
 #include "Core/LaunchedProgram.h"
 #include "Core/PatternMatcher.h"
 #include "Core/ProgramPath.h"
+#include "Platform/Words.h"
 
 #include <QHash>
 #include <QSet>
@@ -170,7 +171,7 @@ LiveServer describe(const ProcSample& process, const QList<const ProcSample*>& l
                       .displayLabel = displayLabel(process),
                       .rssBytes = process.rssBytes,
                       .idleSeconds = process.idleSeconds,
-                      .parentName = parent ? parent->name : u"(launchd or gone)"_s,
+                      .parentName = parent ? parent->name : u"(%1 or gone)"_s.arg(Words::native().initProcess),
                       .startTime = process.startTime};
     for (const ProcSample* launcher : launchers) {
         server.launchers.append(launcher->identity());

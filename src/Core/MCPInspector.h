@@ -27,7 +27,7 @@ struct LiveServer {
     QString displayLabel;
     quint64 rssBytes = 0; ///< its launchers' included
     double idleSeconds = 0;
-    QString parentName; ///< its host, else what started it; "(launchd or gone)" where that is not in the list
+    QString parentName; ///< its host, else what started it; "(init or gone)" where that is not in the list
     bool isOrphan = false; ///< no agent or editor above it, and nothing else that keeps it
     Instant startTime;
     QList<ProcessIdentity> launchers;

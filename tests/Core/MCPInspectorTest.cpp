@@ -159,7 +159,7 @@ TEST(MCPInspectorTest, OneRowAServerWithItsLaunchersAndItsHost) {
             EXPECT_EQ(live[0].rssBytes, bytes);
             EXPECT_EQ(live[0].launchers.size(), launchers);
             EXPECT_EQ(live[0].isOrphan, !isHosted);
-            EXPECT_EQ(live[0].parentName, isHosted ? u"claude"_s : u"(launchd or gone)"_s);
+            EXPECT_EQ(live[0].parentName, isHosted ? u"claude"_s : u"(init or gone)"_s);
         }
     }
     // A shell that has more to do than to wait, and a server that runs another, are rows of their own.
@@ -206,7 +206,7 @@ TEST(MCPInspectorTest, OrphansComeFirstThenTheLargest) {
     EXPECT_EQ(each(report.live, &LiveServer::pid), (QList<qint32>{5, 2, 6, 1, 3}));
     EXPECT_EQ(report.orphanCount(), 3);
     EXPECT_EQ(report.orphanBytes(), 500U);
-    EXPECT_EQ(report.live[0].parentName, u"(launchd or gone)"_s);
+    EXPECT_EQ(report.live[0].parentName, u"(init or gone)"_s);
     EXPECT_EQ(report.live[1].parentName, u"zsh"_s);
 }
 

@@ -93,10 +93,10 @@ TEST(ProcessText, TheMarkFollowsNameArgumentsAndProgram) {
         EXPECT_EQ(mark, table.origin(child.pid()).textMark) << step;
         for (int again = 0; again < 3; ++again)
             EXPECT_EQ(table.textMark(child.pid()), mark) << step; // with descriptors kept and without
+        EXPECT_EQ(table.workingFolder(child.pid()), QFile::encodeName(QDir::currentPath())) << step;
         last = mark;
         child.tell('\n');
     }
-    EXPECT_EQ(table.workingFolder(child.pid()), QFile::encodeName(QDir::currentPath()));
     EXPECT_FALSE(table.textMark(999'999'999));
 }
 

@@ -96,7 +96,7 @@ TEST_F(QuickKillsTabTest, AddingAppendsHereAndOnTheOptimizePage) {
     QTest::keyClick(editor(), Qt::Key_Return);
     EXPECT_TRUE(editor());
     type(u"Name"_s, u"Build & ship"_s);
-    type(u"SF Symbol"_s, u"hammer"_s);
+    type(u"Symbol"_s, u"hammer"_s);
     step(*editor(), u"More"_s, u"Min idle minutes 0"_s);
     step(*editor(), u"More"_s, u"Min RAM 0 MB"_s);
     click(*editor(), u"Use SIGKILL (force)"_s);

@@ -60,7 +60,7 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
     const std::tuple<Tab, QString, QString, QString> cases[] = {
         {Tab::general, u"Start at login"_s, {}, u"pref.startAtLogin=false"_s},
         {Tab::general, u"Show floating widget on launch"_s, {}, u"pref.showWidgetOnLaunch=true"_s},
-        {Tab::general, u"Show in Dock"_s, {}, u"pref.showInDock=false"_s},
+        {Tab::general, u"Show in task bar"_s, {}, u"pref.showInDock=false"_s},
         {Tab::general, u"Display"_s, u"Icon only"_s, u"pref.menuBarFormat=Icon only"_s},
         {Tab::sampling, u"Poll interval"_s, u"5s"_s, u"pref.pollIntervalSeconds=5"_s},
         {Tab::sampling, u"History retention"_s, u"1 hour"_s, u"pref.historyRetention=1 hour"_s},
@@ -116,7 +116,7 @@ TEST_F(SettingsTest, ChangesFromElsewhereShowAtOnce) {
     prefs.showInDock.set(false);
     prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
     QCoreApplication::sendPostedEvents();
-    EXPECT_FALSE(isOn(u"Show in Dock"_s));
+    EXPECT_FALSE(isOn(u"Show in task bar"_s));
     EXPECT_EQ(chosen(u"Display"_s), u"RAM%"_s);
     window.select(Tab::alerts);
     prefs.alertCachesBigGB.set(7.9);

@@ -63,7 +63,7 @@ std::optional<Application> LinuxApplications::ofProgram(const QString& executabl
 
 std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
     const QString folder = m_root + u'/' + QString::number(pid);
-    const QString executable = targetOf(folder + u"/exe");
+    const QString executable = targetOf(folder + u"/exe"_s);
     if (auto application = ofSandbox(folder, executable))
         return application;
     if (executable.isEmpty())
@@ -72,14 +72,14 @@ std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
         return Application{program->entry.id, program->entry.name};
     if (DesktopEntries::isInterpreter(fileName(executable)))
         return ofScript(folder);
-    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup").toStdString());
+    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup"_s).toStdString());
     return unit.kind == ApplicationUnit::Kind::desktop ? ofUnit(unit.id, executable) : std::nullopt;
 }
 
 std::optional<Application> LinuxApplications::ofSandbox(const QString& folder, const QString& executable) {
-    if (const QString id = flatpakId(textOf(folder + u"/root/.flatpak-info")); !id.isEmpty())
+    if (const QString id = flatpakId(textOf(folder + u"/root/.flatpak-info"_s)); !id.isEmpty())
         return named(id);
-    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup").toStdString());
+    const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup"_s).toStdString());
     if (unit.kind == ApplicationUnit::Kind::flatpak)
         return named(unit.id);
     return unit.kind == ApplicationUnit::Kind::snap ? ofSnap(unit.id, executable) : std::nullopt;
@@ -100,7 +100,7 @@ Application LinuxApplications::named(const QString& id) {
 
 /// The interpreter's first argument that is no option, where a script is named by its whole path.
 std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
-    QByteArrayList arguments = textOf(folder + u"/cmdline").split('\0');
+    QByteArrayList arguments = textOf(folder + u"/cmdline"_s).split('\0');
     arguments.removeFirst();
     for (const QByteArray& argument : std::as_const(arguments)) {
         if (argument.startsWith('-'))

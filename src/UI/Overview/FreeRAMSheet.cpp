@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "Core/Formatters.h"
 #include "Core/Observe.h"
+#include "Platform/Words.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PushButton.h"
@@ -58,9 +59,12 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     header->addWidget(close);
 
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
-    explanation->setPlainText(QStringLiteral(
-        "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 s "
-        "gets SIGKILL. macOS is then nudged with a memory-pressure hint to compress inactive pages."));
+    explanation->setPlainText(
+        QStringLiteral(
+            "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 "
+            "s "
+            "gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
+            .arg(Words::native().system));
 
     auto* thresholds = new QHBoxLayout;
     thresholds->setSpacing(Theme::pageSpacing);

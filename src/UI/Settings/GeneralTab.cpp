@@ -1,6 +1,7 @@
 #include "UI/Settings/GeneralTab.h"
 
 #include "Platform/LoginItem.h"
+#include "Platform/Words.h"
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/Switch.h"
 #include "UI/Kit/TextLabel.h"
@@ -14,11 +15,11 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     startup->addNote(m_loginError->tinted(Theme::Role::red)->wrapped());
     m_loginError->hide();
     addToggle(startup, QStringLiteral("Show floating widget on launch"), preferences.showWidgetOnLaunch);
-    addToggle(startup, QStringLiteral("Show in Dock"), preferences.showInDock);
+    addToggle(startup, QStringLiteral("Show in %1").arg(Words::native().taskBar), preferences.showInDock);
     connect(startAtLogin, &Switch::toggled, this, &GeneralTab::applyLoginItem);
 
     const auto formats = allCases<MenuBarFormat>();
-    addPicker<MenuBarFormat>(addSection(QStringLiteral("Menu bar")), QStringLiteral("Display"),
+    addPicker<MenuBarFormat>(addSection(Words::native().statusArea), QStringLiteral("Display"),
                              {formats.begin(), formats.end()}, rawValue<MenuBarFormat>,
                              preferences.menuBarFormat);
 }

@@ -1,5 +1,6 @@
 #include "UI/Settings/QuickKillEditorSheet.h"
 
+#include "Platform/Words.h"
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/StepperRow.h"
@@ -61,7 +62,7 @@ QWidget* QuickKillEditorSheet::makeTexts() {
     auto* section = new FormSection(QString());
     section->addRow(u"Name"_s, makeField(m_preset.name));
     section->addRow(u"Process name pattern (substring match)"_s, makeField(m_preset.pattern));
-    section->addRow(u"SF Symbol"_s, makeField(m_preset.symbol), m_symbol);
+    section->addRow(Words::native().symbol, makeField(m_preset.symbol), m_symbol);
     return section;
 }
 

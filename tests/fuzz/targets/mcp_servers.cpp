@@ -54,7 +54,7 @@ void describesItsProcess(const MCPInspector::LiveServer& server, const QList<Pro
     Fuzz::require(mayBeServer(process) && !MCPInspector::isHost(process));
     Fuzz::require(server.name == process.name && server.rssBytes >= process.rssBytes);
     Fuzz::require(server.displayLabel == process.name || process.arguments.contains(server.displayLabel));
-    Fuzz::require(server.parentPid > 0 || (server.isOrphan && server.parentName == u"(launchd or gone)"));
+    Fuzz::require(server.parentPid > 0 || (server.isOrphan && server.parentName == u"(init or gone)"));
 }
 
 } // namespace
