@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/ActionLogFile.h"
+#include "Core/Formatters.h"
 #include "Platform/Clock.h"
 
 namespace {
@@ -22,7 +23,7 @@ void AppModel::record(ActionLogEntry::Kind kind, const QString& detail, quint64 
     log({.id = QUuid::createUuid(),
          .timestamp = m_platform.clock->now(),
          .kind = kind,
-         .detail = detail,
+         .detail = Formatters::visible(detail), // a name from outside could forge a line
          .freedBytes = freedBytes,
          .success = success});
 }

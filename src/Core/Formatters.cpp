@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 
 namespace Formatters {
@@ -9,12 +10,6 @@ namespace {
 
 constexpr double secondsPerMinute = 60;
 constexpr double secondsPerHour = 3600;
-
-/// Decimals, halves away from zero; the decimal separator is a dot in every language.
-QString fixed(double value, int decimals) {
-    const double scale = std::pow(10.0, decimals);
-    return QString::number(std::round(value * scale) / scale, 'f', decimals);
-}
 
 bool isInvisible(QChar character) {
     switch (character.category()) {
@@ -39,13 +34,20 @@ QChar picture(QChar character) {
 
 } // namespace
 
+QString fixed(double value, int decimals) {
+    std::array<char, 400> room; // the largest double has 309 digits before the dot
+    const auto end =
+        std::to_chars(room.data(), room.data() + room.size(), value, std::chars_format::fixed, decimals).ptr;
+    return QString::fromLatin1(room.data(), end - room.data());
+}
+
 QString duration(double seconds) {
     if (!std::isfinite(seconds) || seconds < 0)
         seconds = 0;
     if (seconds < secondsPerMinute)
         return fixed(seconds, 0) + u's';
     if (seconds < secondsPerHour)
-        return fixed(seconds / secondsPerMinute, 0) + u'm';
+        return fixed(std::round(seconds / secondsPerMinute), 0) + u'm';
     return fixed(seconds / secondsPerHour, 1) + u'h';
 }
 
@@ -57,7 +59,7 @@ QString bytes(quint64 count) {
     double value = static_cast<double>(count) / step;
     std::size_t unit = 0;
     // What would round up to 1024 of a unit is one of the next.
-    while (unit + 1 < units.size() && std::round(value * 10) / 10 >= step) {
+    while (unit + 1 < units.size() && (value >= step || fixed(value, 1) == QStringLiteral("1024.0"))) {
         value /= step;
         ++unit;
     }

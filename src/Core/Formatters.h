@@ -5,7 +5,11 @@
 /// The texts that figures are shown as, the same everywhere in the program.
 namespace Formatters {
 
-/// "42s", "3m", "1.5h"; half-way minutes round away from zero.
+/// As printf's "%.Nf" in every language: decided by the exact binary value, an exact half goes to the even
+/// digit.
+QString fixed(double value, int decimals);
+
+/// "42s", "3m", "1.5h"; but for half minutes, which go up, rounded as `fixed` does.
 QString duration(double seconds);
 
 /// Steps of 1,024 with at most one decimal, none when it is zero: "512 MB", "1.5 GB", "0 bytes".

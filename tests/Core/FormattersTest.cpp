@@ -6,19 +6,11 @@
 
 TEST(Formatters, DurationChoosesItsBandBeforeRounding) {
     const std::pair<double, const char*> cases[] = {
-        {0, "0s"},
-        {42, "42s"},
-        {59.6, "60s"},
-        {60, "1m"},
-        {89, "1m"},
-        {90, "2m"},
-        {150, "3m"},
-        {3599, "60m"},
-        {3600, "1.0h"},
-        {5400, "1.5h"},
-        {86400, "24.0h"},
-        {-5, "0s"},
-        {std::numeric_limits<double>::quiet_NaN(), "0s"},
+        {0, "0s"},      {42, "42s"},      {59.6, "60s"},  {60, "1m"},
+        {89, "1m"},     {90, "2m"},       {150, "3m"},    {3599, "60m"},
+        {3600, "1.0h"}, {5400, "1.5h"},   {4140, "1.1h"}, // a little less than 1.15
+        {4500, "1.2h"},                                   // exactly 1.25
+        {42.5, "42s"},  {86400, "24.0h"}, {-5, "0s"},     {std::numeric_limits<double>::quiet_NaN(), "0s"},
     };
     for (const auto& [seconds, text] : cases)
         EXPECT_EQ(Formatters::duration(seconds).toStdString(), text) << seconds;
@@ -46,19 +38,21 @@ TEST(Formatters, BytesStepBy1024WithAtMostOneDecimal) {
     constexpr quint64 MiB = KiB * 1024;
     constexpr quint64 GiB = MiB * 1024;
     const std::pair<quint64, const char*> cases[] = {
-        {0, "0 bytes"},          {1, "1 byte"},
-        {1023, "1023 bytes"},    {KiB, "1 KB"},
-        {KiB * 3 / 2, "1.5 KB"}, {MiB - 1, "1 MB"},
-        {512 * MiB, "512 MB"},   {GiB * 3 / 2, "1.5 GB"},
-        {GiB * 1024, "1 TB"},    {std::numeric_limits<quint64>::max(), "16 EB"},
+        {0, "0 bytes"},        {1, "1 byte"},           {1023, "1023 bytes"},
+        {KiB, "1 KB"},         {KiB * 3 / 2, "1.5 KB"}, {MiB - 1, "1 MB"},
+        {512 * MiB, "512 MB"}, {GiB * 3 / 2, "1.5 GB"}, {GiB * 1024, "1 TB"},
+        {1280, "1.2 KB"},      {1048524, "1023.9 KB"},  {std::numeric_limits<quint64>::max(), "16 EB"},
     };
     for (const auto& [count, text] : cases)
         EXPECT_EQ(Formatters::bytes(count).toStdString(), text) << count;
 }
 
-TEST(Formatters, PercentRoundsHalvesAwayFromZero) {
-    const std::pair<double, const char*> cases[] = {
-        {12.5, "13%"}, {12.49, "12%"}, {400, "400%"}, {std::numeric_limits<double>::infinity(), "0%"}};
+TEST(Formatters, PercentRoundsAsPrintf) {
+    const std::pair<double, const char*> cases[] = {{12.5, "12%"},
+                                                    {13.5, "14%"},
+                                                    {12.51, "13%"},
+                                                    {400, "400%"},
+                                                    {std::numeric_limits<double>::infinity(), "0%"}};
     for (const auto& [percent, text] : cases)
         EXPECT_EQ(Formatters::percent(percent).toStdString(), text) << percent;
 }
