@@ -34,6 +34,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_platform(std::move(platform))
     , m_preferences(preferences)
     , m_sampler(m_platform)
+    , m_rules(*m_platform.identity)
     , m_servers(m_platform.processes, m_platform.clock) {
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
     m_grouper.setChoices(m_preferences.programGroups());

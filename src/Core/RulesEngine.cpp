@@ -2,6 +2,8 @@
 
 #include "Core/Formatters.h"
 #include "Core/ProcessFilter.h"
+#include "Platform/Identity.h"
+#include "Platform/Words.h"
 #include "Preferences.h"
 
 #include <algorithm>
@@ -18,7 +20,7 @@ constexpr double heavySwapGB = 4.0;
 constexpr qsizetype namedCaches = 3;
 
 QString oneDecimal(double value) {
-    return QString::number(value, 'f', 1);
+    return Formatters::fixed(value, 1);
 }
 
 /// A threshold in bytes; empty for one that no byte count can express, which leaves its rule out.
@@ -52,29 +54,40 @@ std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& 
     return std::nullopt;
 }
 
+/// The first of equals, as a stable sort would have it; null when there is none.
+template <typename Counts> const ProcSample* busiest(const QList<ProcSample>& processes, Counts counts) {
+    const ProcSample* top = nullptr;
+    for (const ProcSample& process : processes) {
+        if (counts(process) && (!top || process.cpuPercent > top->cpuPercent))
+            top = &process;
+    }
+    return top;
+}
+
 std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample>& processes,
-                              const Preferences& prefs) {
+                              const Preferences& prefs, const Identity& identity) {
     if (!prefs.alertCPUHotEnabled() || !(system.cpuPercent > prefs.alertCPUHotPercent()))
         return std::nullopt;
-    // The first of equals, as a stable sort would have it.
-    const auto top =
-        std::max_element(processes.begin(), processes.end(), [](const ProcSample& a, const ProcSample& b) {
-            return a.cpuPercent < b.cpuPercent;
-        });
-    const bool any = top != processes.end();
+    const ProcessFilter maySignal(identity);
+    const ProcSample* target =
+        busiest(processes, [&](const ProcSample& process) { return maySignal.accepts(process); });
+    const ProcSample* named = target ? target : busiest(processes, [&](const ProcSample& process) {
+        return process.pid != identity.processId();
+    });
     return Alert{.id = u"cpu_hot"_s,
                  .severity = Severity::warn,
                  .title = u"CPU saturated"_s,
                  .detail = u"%1 total — top: %2"_s.arg(Formatters::percent(system.cpuPercent),
-                                                       any ? top->name : u"—"_s),
-                 .actionPid = any ? std::optional(top->pid) : std::nullopt};
+                                                       named ? named->name : u"—"_s),
+                 .actionPid = target ? std::optional(target->pid) : std::nullopt};
 }
 
 Alert thermalAlert(ThermalState state) {
     return {.id = u"thermal"_s,
             .severity = Severity::danger,
-            .title = u"Mac is running hot (%1)"_s.arg(thermalLabel(state)),
-            .detail = u"macOS is throttling — reduce parallel agentic work or quit Docker/ollama."_s};
+            .title = u"%1 is running hot (%2)"_s.arg(Words::native().computer, thermalLabel(state)),
+            .detail = u"%1 is throttling — reduce parallel agentic work or quit Docker/ollama."_s.arg(
+                Words::native().system)};
 }
 
 std::optional<Alert> swapAlert(const SystemSample& system) {
@@ -87,16 +100,18 @@ std::optional<Alert> swapAlert(const SystemSample& system) {
                  .detail = u"%1 GB swapped — system will feel sluggish."_s.arg(oneDecimal(swap))};
 }
 
-Alert idleAgentAlert(const ProcSample& process) {
+Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
     return {.id = u"idle_agent_%1"_s.arg(process.pid),
             .severity = Severity::warn,
             .title = u"Idle agent — "_s + process.name,
-            .detail = u"Idle %1 min, %2 RAM. Quit?"_s.arg(QString::number(process.idleSeconds / 60, 'f', 0),
-                                                          Formatters::bytes(process.rssBytes)),
-            .actionPid = process.pid};
+            .detail = u"Idle %1 min, %2 RAM."_s.arg(Formatters::fixed(process.idleSeconds / 60, 0),
+                                                    Formatters::bytes(process.rssBytes)) +
+                      (maySignal ? u" Quit?"_s : QString()),
+            .actionPid = maySignal ? std::optional(process.pid) : std::nullopt};
 }
 
-QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs) {
+QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs,
+                             const ProcessFilter& maySignal) {
     const auto minimum = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
     if (!prefs.alertIdleAgentEnabled() || !minimum)
         return {};
@@ -106,7 +121,7 @@ QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferenc
         const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minimumIdle &&
                                process.rssBytes > *minimum;
         if (qualifies)
-            alerts.append(idleAgentAlert(process));
+            alerts.append(idleAgentAlert(process, maySignal.accepts(process)));
     }
     return alerts;
 }
@@ -161,14 +176,14 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
             alerts.append(*alert);
     };
     add(memoryAlert(system, prefs));
-    add(cpuAlert(system, processes, prefs));
+    add(cpuAlert(system, processes, prefs, m_identity));
     const bool hot =
         system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
     thermalHotStreak = hot ? thermalHotStreak + 1 : 0;
     if (prefs.alertThermalEnabled() && thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));
     add(swapAlert(system));
-    alerts.append(idleAgentAlerts(processes, prefs));
+    alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity)));
     add(browserAlert(system, groups, prefs));
     add(cachesAlert(caches, prefs));
     return alerts;

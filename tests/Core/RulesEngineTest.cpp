@@ -1,6 +1,7 @@
 #include "Core/RulesEngine.h"
 
 #include "support/Each.h"
+#include "support/FakePlatform.h"
 #include "support/TemporarySettings.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,8 @@ constexpr quint64 MiB = quint64(1) << 20;
 struct RulesEngineTest : testing::Test {
     TemporarySettings settings;
     Preferences& prefs = settings.preferences;
-    RulesEngine rules;
+    FakeIdentity identity;
+    RulesEngine rules{identity};
     SystemSample system;
     QList<ProcSample> processes;
     QList<GroupRollup> groups = GroupRollup::build({});
@@ -33,8 +35,13 @@ struct RulesEngineTest : testing::Test {
 };
 
 ProcSample process(qint32 pid, const QString& name, ProcGroup group, double cpu, quint64 rss, double idle) {
-    return {
-        .pid = pid, .name = name, .cpuPercent = cpu, .rssBytes = rss, .idleSeconds = idle, .group = group};
+    return {.pid = pid,
+            .uid = 1000,
+            .name = name,
+            .cpuPercent = cpu,
+            .rssBytes = rss,
+            .idleSeconds = idle,
+            .group = group};
 }
 
 } // namespace
@@ -50,11 +57,6 @@ TEST_F(RulesEngineTest, FreeMemoryBelowItsThresholdAndBelowTwiceIt) {
         system.memUsedBytes = system.memTotalBytes - static_cast<quint64>(freeGB * double(GiB));
         const auto alerts = evaluate();
         EXPECT_EQ(alerts.value(0).detail, detail) << freeGB;
-        if (detail.isEmpty())
-            continue;
-        EXPECT_EQ(alerts[0].id, freeGB < 2 ? QStringLiteral("ram_low") : QStringLiteral("ram_warn"));
-        EXPECT_EQ(alerts[0].severity, freeGB < 2 ? Alert::Severity::danger : Alert::Severity::warn);
-        EXPECT_EQ(alerts[0].actionTarget, QStringLiteral("ram"));
     }
     system.memTotalBytes = 0;
     EXPECT_TRUE(ids().isEmpty());
@@ -88,7 +90,6 @@ TEST_F(RulesEngineTest, HeatIsAnAlertFromTheThirtiethTickOn) {
     EXPECT_TRUE(tick(ThermalState::fair, 1).isEmpty());
     EXPECT_TRUE(tick(ThermalState::critical, 29).isEmpty());
     EXPECT_EQ(tick(ThermalState::serious, 1), QStringList{QStringLiteral("thermal")});
-    EXPECT_EQ(only().title, QStringLiteral("Mac is running hot (Hot)"));
     prefs.alertThermalEnabled.set(false);
     EXPECT_TRUE(tick(ThermalState::serious, 5).isEmpty());
     prefs.alertThermalEnabled.set(true);
@@ -117,15 +118,13 @@ TEST_F(RulesEngineTest, IdleAgentsAboveBothThresholdsInListOrder) {
                  process(5, QStringLiteral("x"), ProcGroup::other, 0, 900 * MiB, 5000)};
     const auto alerts = evaluate();
     ASSERT_EQ(alerts.size(), 2);
-    EXPECT_EQ(alerts[0].id, QStringLiteral("idle_agent_1"));
-    EXPECT_EQ(alerts[0].title, QStringLiteral("Idle agent — claude"));
-    EXPECT_EQ(alerts[0].detail, QStringLiteral("Idle 15 min, 800 MB RAM. Quit?"));
+    EXPECT_EQ(alerts[0].actionPid, 1);
     EXPECT_EQ(alerts[1].actionPid, 4);
 }
 
 TEST_F(RulesEngineTest, BrowsersAtTheirShareOfMemory) {
     groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 4 * GiB;
-    EXPECT_EQ(only().title, QStringLiteral("Browsers using 4 GB"));
+    EXPECT_EQ(ids(), QStringList(QStringLiteral("browser_hog")));
     groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 4 * GiB - 1;
     EXPECT_TRUE(ids().isEmpty());
 }
@@ -134,13 +133,72 @@ TEST_F(RulesEngineTest, CachesNameTheFirstThreeAboveTheirShare) {
     prefs.alertCachesBigGB.set(10);
     for (int i = 0; i < 8; ++i)
         caches.append({.name = QStringLiteral("c%1").arg(i), .symbol = {}, .sizeBytes = 2 * GiB});
-    EXPECT_EQ(only().title, QStringLiteral("Caches reclaimable: 16 GB"));
     EXPECT_EQ(only().detail, QStringLiteral("c0 (2 GB), c1 (2 GB), c2 (2 GB)"));
     for (CacheTarget& target : caches)
-        target.sizeBytes = 0;
+        target.sizeBytes = 10 * GiB / 8; // each has its share, and together they have the limit
     EXPECT_TRUE(ids().isEmpty());
-    caches[3].sizeBytes = 11 * GiB;
-    EXPECT_EQ(only().detail, QStringLiteral("c3 (11 GB)"));
+    ++caches[3].sizeBytes;
+    EXPECT_EQ(only().detail, QStringLiteral("c3 (1.3 GB)"));
+}
+
+TEST_F(RulesEngineTest, AllAlertsInTheirOrderAndToTheLetter) {
+    system = {.cpuPercent = 97.5,
+              .memUsedBytes = 15 * GiB,
+              .memTotalBytes = 16 * GiB,
+              .swapUsedBytes = 6 * GiB,
+              .thermalState = ThermalState::critical};
+    processes = {process(7, QStringLiteral("claude"), ProcGroup::agents, 3, 800 * MiB, 930)};
+    groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 6 * GiB;
+    caches = {{.name = QStringLiteral("npm"), .symbol = {}, .sizeBytes = 12 * GiB}};
+    for (int tick = 1; tick < 30; ++tick)
+        evaluate();
+    using enum Alert::Severity;
+    const QList<Alert> expected = {
+        {QStringLiteral("ram_low"), danger, QStringLiteral("Free RAM low"),
+         QStringLiteral("Only 1.0 GB free — consider quitting top hogs or cleaning caches."), std::nullopt,
+         QStringLiteral("ram")},
+        {QStringLiteral("cpu_hot"), warn, QStringLiteral("CPU saturated"),
+         QStringLiteral("98% total — top: claude"), 7},
+        {QStringLiteral("thermal"), danger, QStringLiteral("Computer is running hot (Critical)"),
+         QStringLiteral("Linux is throttling — reduce parallel agentic work or quit Docker/ollama.")},
+        {QStringLiteral("swap_high"), warn, QStringLiteral("Heavy swap usage"),
+         QStringLiteral("6.0 GB swapped — system will feel sluggish.")},
+        {QStringLiteral("idle_agent_7"), warn, QStringLiteral("Idle agent — claude"),
+         QStringLiteral("Idle 16 min, 800 MB RAM. Quit?"), 7},
+        {QStringLiteral("browser_hog"), info, QStringLiteral("Browsers using 6 GB"),
+         QStringLiteral("That's 38% of total RAM. Closing idle tabs frees the most memory fastest."),
+         std::nullopt, QStringLiteral("browsers")},
+        {QStringLiteral("caches_big"), info, QStringLiteral("Caches reclaimable: 12 GB"),
+         QStringLiteral("npm (12 GB)"), std::nullopt, QStringLiteral("caches")}};
+    const auto alerts = evaluate();
+    ASSERT_EQ(alerts.size(), expected.size());
+    for (qsizetype i = 0; i < alerts.size(); ++i)
+        EXPECT_EQ(alerts[i], expected[i]) << qPrintable(alerts[i].id + alerts[i].title + alerts[i].detail);
+
+    system.memUsedBytes = 13 * GiB;
+    EXPECT_EQ(evaluate().first(),
+              (Alert{QStringLiteral("ram_warn"), warn, QStringLiteral("RAM getting tight"),
+                     QStringLiteral("3.0 GB free."), std::nullopt, QStringLiteral("ram")}));
+}
+
+TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrSomebodyElses) {
+    system.cpuPercent = 95;
+    ProcSample ourselves = process(identity.pid, QStringLiteral("tavrin"), ProcGroup::agents, 300, GiB, 5000);
+    ProcSample foreign = process(1, QStringLiteral("compactor"), ProcGroup::agents, 200, GiB, 5000);
+    foreign.uid = 0;
+    const ProcSample mine = process(2, QStringLiteral("build"), ProcGroup::other, 90, GiB, 0);
+    const QString idle = QStringLiteral("Idle 83 min, 1 GB RAM.");
+    processes = {ourselves, foreign, mine};
+    auto alerts = evaluate();
+    EXPECT_EQ(each(alerts, &Alert::detail),
+              (QStringList{QStringLiteral("95% total — top: build"), idle, idle}));
+    EXPECT_EQ(each(alerts, &Alert::actionPid), (QList<std::optional<qint32>>{2, std::nullopt, std::nullopt}));
+
+    processes = {ourselves, foreign};
+    EXPECT_EQ(evaluate().first().detail, QStringLiteral("95% total — top: compactor"));
+    EXPECT_EQ(evaluate().first().actionPid, std::nullopt);
+    processes = {ourselves};
+    EXPECT_EQ(evaluate().first().detail, QStringLiteral("95% total — top: —"));
 }
 
 TEST_F(RulesEngineTest, ThresholdsThatNoByteCountExpressesSkipTheirRule) {
