@@ -1,6 +1,8 @@
 #include "Tools/QuitApplication.h"
 
+#include "Platform/Linux/LinuxApplications.h"
 #include "Tools/DesktopWindows.h"
+#include "Tools/SessionBus.h"
 #include "Tools/UserProcess.h"
 
 #include <signal.h>
@@ -17,13 +19,18 @@ using Tools::DesktopWindows;
 using Tools::equalNames;
 using Tools::UserProcess;
 
-/// The windows and processes of one application, taken once: what starts later is not touched.
-class Application {
+/// The windows and processes of one application, taken once: what starts later is not touched. Where the
+/// desktop's menu knows the name, the application is what the menu means; a program that is merely called
+/// alike is not.
+class Target {
 public:
-    explicit Application(const std::string& name);
+    explicit Target(const std::string& name);
 
     bool hasWindows() const { return !m_windows.empty(); }
     bool hasProcesses() const { return !m_processes.empty(); }
+    /// Asks by the way that the application offers: its action on the session's bus, its windows, else a
+    /// signal to its main process alone.
+    void ask();
     void close();
     void cutOff();
     void signal(int number);
@@ -31,39 +38,53 @@ public:
     bool endsWithin(std::chrono::milliseconds time);
 
 private:
+    bool isMeant(const UserProcess& process, const std::string& name);
     bool isOurs(const UserProcess& process) const;
+    const UserProcess* mainProcess() const;
     void addWindow(const DesktopWindow& window, const std::string& name);
     bool holds(pid_t pid) const;
     std::vector<DesktopWindow> openWindows();
 
+    LinuxApplications m_applications;
+    QStringList m_ids; ///< of the menu's entries; empty for a name that only a bundle or a window has
     DesktopWindows m_desktop;
     std::string m_parentExecutable;
     std::vector<DesktopWindow> m_windows;
     std::vector<UserProcess> m_processes;
 };
 
-Application::Application(const std::string& name) {
+Target::Target(const std::string& name)
+    : m_ids(m_applications.idsOf(QString::fromStdString(name))) {
     if (const auto parent = UserProcess::open(getppid()))
         m_parentExecutable = parent->executable();
     m_processes = Tools::userProcesses(
-        [&](const UserProcess& process) { return process.belongsTo(name) && !isOurs(process); });
+        [&](const UserProcess& process) { return isMeant(process, name) && !isOurs(process); });
     for (const auto& window : m_desktop.list())
         addWindow(window, name);
 }
 
-bool Application::isOurs(const UserProcess& process) const {
+bool Target::isMeant(const UserProcess& process, const std::string& name) {
+    if (process.belongsTo(name))
+        return true;
+    const auto application = m_ids.isEmpty() ? std::nullopt : m_applications.ofProcess(process.pid());
+    return application && m_ids.contains(application->id);
+}
+
+bool Target::isOurs(const UserProcess& process) const {
     return process.pid() == getpid() || process.pid() == getppid() ||
            process.executable() == m_parentExecutable;
 }
 
-bool Application::holds(pid_t pid) const {
+bool Target::holds(pid_t pid) const {
     return std::any_of(m_processes.begin(), m_processes.end(),
                        [pid](const UserProcess& process) { return process.pid() == pid; });
 }
 
-void Application::addWindow(const DesktopWindow& window, const std::string& name) {
+void Target::addWindow(const DesktopWindow& window, const std::string& name) {
     auto process = window.pid ? UserProcess::open(*window.pid) : std::nullopt;
     const bool hasName = equalNames(window.instance, name) || equalNames(window.className, name);
+    if (!m_ids.isEmpty() && !(process && holds(process->pid())))
+        return;
     if (!hasName && !(process && (process->isCalled(name) || holds(process->pid()))))
         return;
     if (process && isOurs(*process))
@@ -77,23 +98,46 @@ void Application::addWindow(const DesktopWindow& window, const std::string& name
         m_processes.push_back(std::move(*process));
 }
 
-void Application::close() {
+/// The one that no other of them has started; null where nothing runs.
+const UserProcess* Target::mainProcess() const {
+    const auto main =
+        std::find_if(m_processes.begin(), m_processes.end(),
+                     [this](const UserProcess& process) { return !holds(process.parentPid()); });
+    return main == m_processes.end() ? nullptr : &*main;
+}
+
+void Target::ask() {
+    Tools::SessionBus bus;
+    QList<qint32> pids;
+    for (const auto& process : m_processes)
+        pids.append(process.pid());
+    for (const QString& name : pids.isEmpty() ? QStringList() : bus.namesOf(pids)) {
+        if (bus.activateQuit(name) || bus.callQuit(name))
+            return;
+    }
+    if (hasWindows())
+        close();
+    else if (const UserProcess* main = mainProcess())
+        main->signal(SIGTERM);
+}
+
+void Target::close() {
     for (const auto& window : m_windows)
         m_desktop.close(window.id);
 }
 
-void Application::cutOff() {
+void Target::cutOff() {
     for (const auto& window : openWindows())
         m_desktop.cutOff(window.id);
 }
 
-void Application::signal(int number) {
+void Target::signal(int number) {
     for (const auto& process : m_processes)
         process.signal(number);
 }
 
 /// Compared as a whole: the next program to show a window may get the id of one that was closed.
-std::vector<DesktopWindow> Application::openWindows() {
+std::vector<DesktopWindow> Target::openWindows() {
     auto open = m_desktop.list();
     std::erase_if(open, [this](const DesktopWindow& window) {
         return std::find(m_windows.begin(), m_windows.end(), window) == m_windows.end();
@@ -101,7 +145,7 @@ std::vector<DesktopWindow> Application::openWindows() {
     return open;
 }
 
-bool Application::endsWithin(std::chrono::milliseconds time) {
+bool Target::endsWithin(std::chrono::milliseconds time) {
     const auto hasEnded = [](const UserProcess& process) { return process.hasEnded(); };
     const auto end = std::chrono::steady_clock::now() + time;
     while (true) {
@@ -117,16 +161,12 @@ bool Application::endsWithin(std::chrono::milliseconds time) {
 
 Tools::QuitOutcome Tools::quitApplication(const std::string& name, bool forced,
                                           const QuitPatience& patience) {
-    Application application(name);
+    Target application(name);
     if (!application.hasWindows() && !application.hasProcesses())
         return QuitOutcome::NotFound;
-    if (!application.hasWindows() && !forced)
-        return QuitOutcome::HasNoWindow;
-    if (application.hasWindows()) {
-        application.close();
-        if (application.endsWithin(forced ? patience.beforeForce : patience.afterClosing))
-            return QuitOutcome::Quit;
-    }
+    application.ask();
+    if (application.endsWithin(forced ? patience.beforeForce : patience.afterClosing))
+        return QuitOutcome::Quit;
     if (!forced)
         return QuitOutcome::StillRunning;
     application.cutOff();

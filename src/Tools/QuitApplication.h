@@ -5,7 +5,7 @@
 
 namespace Tools {
 
-enum class QuitOutcome { Quit, NotFound, HasNoWindow, StillRunning };
+enum class QuitOutcome { Quit, NotFound, StillRunning };
 
 /// How long an application gets to end by itself.
 struct QuitPatience {
@@ -14,11 +14,12 @@ struct QuitPatience {
     std::chrono::milliseconds afterEachSignal{1'000};
 };
 
-/// Closes the windows of the application `name` and waits for its processes to end; `forced` then ends what
-/// is left. Its windows are those of that class, instance or program, letter case aside; its processes those
-/// of this user that run from NAME.app, run a program NAME, or show such a window and are called like it. An
-/// application without a window cannot be asked, only forced. Never touches this process, its parent, or
-/// another process of the parent's program.
+/// Asks the application `name` to quit and waits for all of it to end; `forced` then ends what is left. A
+/// name of the desktop's menu means the processes of that application and their windows; any other the
+/// processes that run from NAME.app, and the windows of that class, instance or program, letter case aside.
+/// It is asked on the session's bus where it has an action for that, else by closing its windows, and where
+/// it has none by SIGTERM to its main process. Never touches this process, its parent, or another process of
+/// the parent's program.
 QuitOutcome quitApplication(const std::string& name, bool forced, const QuitPatience& patience = {});
 
 } // namespace Tools

@@ -33,18 +33,21 @@ std::string firstLine(const std::string& file) {
     return line;
 }
 
+/// The figure behind `key` in `status` (proc(5)); of several the first.
+long statusFigure(const std::string& folder, const std::string& key) {
+    std::ifstream status(folder + "status");
+    for (std::string line; std::getline(status, line);) {
+        long figure = 0;
+        if (line.starts_with(key) && std::istringstream(line.substr(key.size())) >> figure)
+            return figure;
+    }
+    return -1;
+}
+
 /// The real user id (proc(5), status). The owner of the folder would not do: it is root for a program that
 /// keeps its memory from being read.
 bool isOwn(const std::string& folder) {
-    std::ifstream status(folder + "status");
-    for (std::string line; std::getline(status, line);) {
-        if (!line.starts_with("Uid:"))
-            continue;
-        uid_t user = 0;
-        std::istringstream(line.substr(4)) >> user;
-        return user == getuid();
-    }
-    return false;
+    return statusFigure(folder, "Uid:") == static_cast<long>(getuid());
 }
 
 std::string_view lastComponent(std::string_view path) {
@@ -66,12 +69,14 @@ UserProcess::UserProcess(pid_t pid, int descriptor)
 
 UserProcess::UserProcess(UserProcess&& other) noexcept
     : m_pid(other.m_pid)
+    , m_parentPid(other.m_parentPid)
     , m_descriptor(std::exchange(other.m_descriptor, -1))
     , m_executable(std::move(other.m_executable))
     , m_command(std::move(other.m_command)) {}
 
 UserProcess& UserProcess::operator=(UserProcess&& other) noexcept {
     std::swap(m_pid, other.m_pid);
+    std::swap(m_parentPid, other.m_parentPid);
     std::swap(m_descriptor, other.m_descriptor);
     std::swap(m_executable, other.m_executable);
     std::swap(m_command, other.m_command);
@@ -93,6 +98,7 @@ std::optional<UserProcess> UserProcess::open(pid_t pid) {
         return std::nullopt;
     process.m_executable = linkTarget(folder + "exe");
     process.m_command = firstLine(folder + "comm");
+    process.m_parentPid = static_cast<pid_t>(statusFigure(folder, "PPid:"));
     // Alive after the reading, so that what was read is of the process that the descriptor holds.
     if (process.m_executable.empty() || process.hasEnded())
         return std::nullopt;
@@ -101,7 +107,7 @@ std::optional<UserProcess> UserProcess::open(pid_t pid) {
 
 bool UserProcess::belongsTo(std::string_view application) const {
     const std::string bundle = '/' + std::string(application) + std::string(bundleEnding);
-    return m_executable.find(bundle) != std::string::npos || lastComponent(m_executable) == application;
+    return m_executable.find(bundle) != std::string::npos;
 }
 
 bool UserProcess::isCalled(std::string_view name) const {

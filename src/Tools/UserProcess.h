@@ -20,10 +20,12 @@ public:
     ~UserProcess();
 
     pid_t pid() const { return m_pid; }
+    /// As it was when the process was opened.
+    pid_t parentPid() const { return m_parentPid; }
     /// The path of the program it runs.
     const std::string& executable() const { return m_executable; }
 
-    /// Whether it runs from a bundle NAME.app or runs a program called so.
+    /// Whether it runs from the bundle NAME.app.
     bool belongsTo(std::string_view application) const;
     /// Whether its own name, its program's or its outermost bundle's is `name`, letter case aside.
     bool isCalled(std::string_view name) const;
@@ -35,6 +37,7 @@ private:
     UserProcess(pid_t pid, int descriptor);
 
     pid_t m_pid;
+    pid_t m_parentPid = 0;
     int m_descriptor;
     std::string m_executable;
     std::string m_command; ///< proc(5), comm: 15 bytes at most

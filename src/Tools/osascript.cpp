@@ -2,6 +2,8 @@
 #include "Tools/Purge.h"
 #include "Tools/QuitApplication.h"
 
+#include <QCoreApplication>
+
 #include <filesystem>
 #include <iostream>
 #include <string_view>
@@ -22,8 +24,6 @@ const char* complaint(QuitOutcome outcome) {
     switch (outcome) {
     case QuitOutcome::NotFound:
         return "application not found";
-    case QuitOutcome::HasNoWindow:
-        return "application has no window that could be closed";
     case QuitOutcome::StillRunning:
         return "application did not quit";
     case QuitOutcome::Quit:
@@ -37,6 +37,7 @@ const char* complaint(QuitOutcome outcome) {
 /// Tells applications to quit: `osascript -e SCRIPT`, for the scripts in Tools/AppleScript.h and no others.
 /// Status 0 when it was done, 1 when it could not be, 2 for a script or arguments that are not understood.
 int main(int argc, char** argv) {
+    const QCoreApplication program(argc, argv);
     if (argc != 3 || std::string_view(argv[1]) != "-e") {
         std::cerr << "usage: osascript -e SCRIPT\n";
         return 2;

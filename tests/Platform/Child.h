@@ -35,6 +35,9 @@ private:
     int m_socket = -1;
 };
 
+/// A sleeping process under exactly this id, or a failure for want of the right to choose one.
+pid_t cloneAs(pid_t pid);
+
 /// What `command` prints.
 QByteArray outputOf(const std::string& command);
 /// How many descriptors this program has open.

@@ -95,7 +95,7 @@ QString objection(const QString& file, const QString& target) {
         return u"from a floor above"_s;
     if (isPlatformInterface(file))
         return u"where nothing of ours may be"_s;
-    if (isLinux(target) && !isLinux(file))
+    if (isLinux(target) && !isLinux(file) && !file.startsWith(u"Tools/"_s)) // programs for Linux alone
         return u"which only Linux's own files may know"_s;
     if (mayUseWindows(target) && !mayUseWindows(file))
         return u"which has windows in it"_s;

@@ -175,14 +175,34 @@ TEST_P(QuitApplication, LeavesAProgramThatGotTheIdOfAClosedWindow) {
     EXPECT_TRUE(isRunning(*next));
 }
 
-TEST_P(QuitApplication, TellsOneThatIsNotThereFromOneThatCannotBeAsked) {
+TEST_P(QuitApplication, ASignalEndsOneWithoutAWindowAndNoNamesake) {
     const auto hidden = sleeper(u"Hidden.app/hidden"_s);
     EXPECT_EQ(Tools::quitApplication("Nowhere", false, noPatience), QuitOutcome::NotFound);
     EXPECT_EQ(Tools::quitApplication("Nowhere", true, noPatience), QuitOutcome::NotFound);
-    EXPECT_EQ(Tools::quitApplication("Hidden", false, noPatience), QuitOutcome::HasNoWindow);
-    EXPECT_TRUE(isRunning(*hidden));
-    EXPECT_EQ(Tools::quitApplication("Hidden", true, shortPatience), QuitOutcome::Quit);
+    const auto namesake = sleeper(u"Hidden"_s); // is called like it, and nothing of it
+    EXPECT_EQ(Tools::quitApplication("Hidden", false, shortPatience), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*hidden), -SIGTERM);
+    EXPECT_EQ(Tools::quitApplication("Hidden", true, shortPatience), QuitOutcome::NotFound);
+    EXPECT_TRUE(isRunning(*namesake));
+}
+
+TEST_P(QuitApplication, AMenuNameMeansTheProgramsOfItsEntryAlone) {
+    const QTemporaryDir data;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
+    const auto main = show(u"opt/notes/notes"_s, u"Writer"_s, u"polite"_s);
+    const auto helper = sleeper(u"opt/notes/notes-helper"_s);
+    const auto namesake = show(u"elsewhere/notes"_s, u"Night Notes"_s, u"polite"_s);
+    QDir(data.path()).mkpath(u"applications"_s);
+    QFile entry(data.filePath(u"applications/org.example.Notes.desktop"_s));
+    ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
+    entry.write("[Desktop Entry]\nType=Application\nName=Night Notes\nExec=" +
+                QFile::encodeName(main->program()) + " %u\n");
+    entry.close();
+    EXPECT_EQ(Tools::quitApplication("Night Notes", true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(endOf(*main), 0);
+    EXPECT_EQ(endOf(*helper), -SIGTERM);
+    EXPECT_TRUE(isRunning(*namesake));
+    qunsetenv("XDG_DATA_HOME");
 }
 
 TEST_P(QuitApplication, IsWhatTheProgramDoes) {
