@@ -5,6 +5,7 @@
 #include "Core/CleanupProgress.h"
 #include "Core/FreeRAM.h"
 #include "Core/MCPConfiguration.h"
+#include "Core/MemoryTools.h"
 #include "Core/Models.h"
 #include "Core/NukePreview.h"
 #include "Core/ProcessGrouper.h"
@@ -65,7 +66,7 @@ public:
 
     /// Puts an action on record, here and in the log file.
     void log(const ActionLogEntry& entry);
-    /// The same, made now.
+    /// The same, made now, with the control characters of `detail` made visible.
     void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) override;
 
     /// The group that the user chose for the program of a process. Empty: it is as detected.
@@ -84,9 +85,9 @@ public:
     void quitServer(const MCPInspector::LiveServer& server);
 
     /// Asks the kernel to reclaim memory; on record. Whether the request could be made.
-    QCoro::Task<bool> nudgeMemory();
-    /// Drops clean caches after the administrator's prompt; on record. False when that was not done.
-    QCoro::Task<bool> purgeMemory();
+    QCoro::Task<Cleaner::MemoryAnswer> nudgeMemory();
+    /// Drops clean caches after the administrator's prompt; on record.
+    QCoro::Task<Cleaner::MemoryAnswer> purgeMemory();
 
     /// Idle processes worth ending: at most 15, largest first. Idle time in minutes, size in MiB.
     QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;

@@ -1,6 +1,5 @@
 #include "AppModel.h"
 
-#include "Core/MemoryTools.h"
 #include "Core/ProcessFilter.h"
 #include "Platform/Identity.h"
 #include "Platform/Signals.h"
@@ -105,7 +104,9 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
         co_return result;
     runSecondPass(result.perPid, handles);
 
-    result.memoryPressureSignaled = co_await Cleaner::memoryPressure(m_platform.tools);
+    auto nudge = Cleaner::memoryPressure(m_platform.tools);
+    const Cleaner::MemoryAnswer nudged = co_await nudge;
+    result.memoryPressureSignaled = nudged.done;
     if (!self)
         co_return result;
     const auto beforeMeasuring = m_freeRAMWaits.beforeMeasuring;

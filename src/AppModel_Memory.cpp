@@ -1,25 +1,23 @@
 #include "AppModel.h"
 
-#include "Core/MemoryTools.h"
-
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
 
-QCoro::Task<bool> AppModel::nudgeMemory() {
+QCoro::Task<Cleaner::MemoryAnswer> AppModel::nudgeMemory() {
     const QPointer<AppModel> self(this);
     auto nudge = Cleaner::memoryPressure(m_platform.tools);
-    const bool nudged = co_await nudge;
+    const Cleaner::MemoryAnswer nudged = co_await nudge;
     if (self)
-        record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged);
+        record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged.done);
     co_return nudged;
 }
 
-QCoro::Task<bool> AppModel::purgeMemory() {
+QCoro::Task<Cleaner::MemoryAnswer> AppModel::purgeMemory() {
     const QPointer<AppModel> self(this);
     auto purge = Cleaner::deepPurge(m_platform.tools);
-    const bool purged = co_await purge;
+    const Cleaner::MemoryAnswer purged = co_await purge;
     if (self)
-        record(ActionLogEntry::Kind::clean, u"sudo purge (admin)"_s, 0, purged);
+        record(ActionLogEntry::Kind::clean, u"sudo purge (admin)"_s, 0, purged.done);
     co_return purged;
 }

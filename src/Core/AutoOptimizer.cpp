@@ -32,10 +32,10 @@ QCoro::Task<> AutoOptimizer::tick() {
     const QPointer<AutoOptimizer> self(this);
     const int killed = m_model.killOrphanMCPs(false);
     auto nudge = Cleaner::memoryPressure(m_tools);
-    const bool nudged = co_await nudge;
+    const Cleaner::MemoryAnswer nudged = co_await nudge;
     if (!self)
         co_return;
-    m_model.record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged);
+    m_model.record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged.done);
     m_model.record(ActionLogEntry::Kind::clean, u"[auto-optimize] orphans=%1, pressure nudged"_s.arg(killed),
                    0, true);
 }

@@ -16,9 +16,11 @@ struct ToolRequest {
 };
 
 struct ToolResult {
-    bool launched = false;
-    int exitStatus = -1; ///< -1 when it crashed or was not launched
+    bool launched = false; ///< false as well for a tool of our own that found nothing here to work on
+    int exitStatus = -1;   ///< -1 when it crashed or was not launched
     QByteArray output;
+    /// The first line that a tool of this program's own wrote about a failure; empty for other tools.
+    QString complaint;
 
     bool succeeded() const { return launched && exitStatus == 0; }
 };

@@ -1,10 +1,12 @@
 #include "Tools/Purge.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 
 int Tools::dropCleanCaches(const std::string& dropFile) {
@@ -22,12 +24,35 @@ int Tools::dropCleanCaches(const std::string& dropFile) {
     return dropped ? 0 : 1;
 }
 
+std::string Tools::distrust(const std::string& program) {
+    constexpr mode_t writableByOthers = S_IWGRP | S_IWOTH;
+    std::error_code error;
+    auto path = std::filesystem::canonical(program, error);
+    if (error)
+        return program + ": " + error.message();
+    for (;; path = path.parent_path()) {
+        struct stat status {};
+        const bool isRoots = stat(path.c_str(), &status) == 0 && status.st_uid == 0;
+        if (!isRoots || (status.st_mode & writableByOthers) != 0)
+            return "the administrator runs nothing that others can change: " + path.string();
+        if (std::filesystem::exists(path / "CMakeCache.txt", error))
+            return "the administrator runs nothing from a build tree: " + path.string();
+        if (path == path.root_path())
+            return {};
+    }
+}
+
 int Tools::runAsAdministrator(const std::string& program, const std::string& pkexec) {
     if (access(program.c_str(), X_OK) != 0) {
         std::cerr << "osascript: " << program << ": " << std::strerror(errno) << '\n';
         return 1;
     }
-    execl(pkexec.c_str(), pkexec.c_str(), program.c_str(), nullptr);
+    if (const std::string reason = distrust(program); !reason.empty()) {
+        std::cerr << "osascript: " << reason << '\n';
+        return 1;
+    }
+    // Its own agent would ask on a terminal that nobody may look at, and wait for ever.
+    execl(pkexec.c_str(), pkexec.c_str(), "--disable-internal-agent", program.c_str(), nullptr);
     std::cerr << "osascript: " << pkexec << ": " << std::strerror(errno) << '\n';
     return 1;
 }

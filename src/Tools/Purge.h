@@ -9,9 +9,14 @@ namespace Tools {
 /// files, nothing that is in use). Returns the exit status; explains a failure on standard error.
 int dropCleanCaches(const std::string& dropFile);
 
+/// Why `program` must not run as the administrator: it, or a folder above it, can be changed by somebody
+/// else, or it lies where it was built. Empty when nothing speaks against it.
+std::string distrust(const std::string& program);
+
 /// Becomes `program` run by `pkexec` as the administrator, after the desktop's prompt, and so never returns
-/// when both are there: the status is that of the prompt or the program. Otherwise explains on standard
-/// error and returns the exit status.
+/// when both are there and `program` is to be trusted: the status is that of the prompt or the program.
+/// Where no desktop could ask, `pkexec` refuses at once. Otherwise explains on standard error and returns the
+/// exit status.
 int runAsAdministrator(const std::string& program, const std::string& pkexec);
 
 } // namespace Tools

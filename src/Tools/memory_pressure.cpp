@@ -6,9 +6,15 @@
 #include <iostream>
 #include <string_view>
 
+namespace {
+
+constexpr int cannotStart = 126;
+
+} // namespace
+
 /// Gives memory back: `memory_pressure -l warn`. Asks for a bounded amount and ends at once at SIGTERM, which
-/// interrupts the kernel's search as well. Status 0 when the kernel was asked, 1 when it cannot be, 2 for
-/// other arguments.
+/// interrupts the kernel's search as well. Status 0 when the kernel was asked, 126 (as of a program that
+/// cannot be started) when it cannot be, 2 for other arguments.
 int main(int argc, char** argv) {
     if (argc != 3 || std::string_view(argv[1]) != "-l" || std::string_view(argv[2]) != "warn") {
         std::cerr << "usage: memory_pressure -l warn\n";
@@ -16,13 +22,13 @@ int main(int argc, char** argv) {
     }
     const auto group = Tools::reclaimableGroup("/proc", getuid());
     if (!group) {
-        std::cerr << "memory_pressure: no control group of this user's takes memory.reclaim\n";
-        return 1;
+        std::cerr << "memory_pressure: no control group of this session can be asked to give memory back\n";
+        return cannotStart;
     }
     const int error = Tools::reclaim(*group, {});
     if (error != 0) {
         std::cerr << "memory_pressure: " << *group << ": " << std::strerror(error) << '\n';
-        return 1;
+        return cannotStart;
     }
     return 0;
 }

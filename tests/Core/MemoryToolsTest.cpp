@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,15 +21,27 @@ TEST(MemoryTools, TurnTheEndOfTheirToolIntoAnAnswer) {
                                                        {"1", ScriptedTools::exited(1)},
                                                        {"crashed", {.launched = true}},
                                                        {"missing", {}}};
-    const std::tuple<const char*, QCoro::Task<bool> (*)(std::shared_ptr<ToolRunner>), const char*> tools[] = {
-        {"pressure", Cleaner::memoryPressure, "0 1 crashed"}, // which ends it when it has had its time
-        {"purge", Cleaner::deepPurge, "0"},
-        {"script", quitNotes, "0"}};
+    using Tools = std::shared_ptr<ToolRunner>;
+    const auto reported = [](const Cleaner::MemoryAnswer& answer) {
+        EXPECT_EQ(answer.reason, answer.done ? QString() : u"said why"_s);
+        return answer.done;
+    };
+    const std::tuple<const char*, std::function<bool(Tools)>, const char*> tools[] = {
+        {"pressure",
+         [&](const Tools& runner) { return reported(QCoro::waitFor(Cleaner::memoryPressure(runner))); },
+         "0 1 crashed"}, // which ends it when it has had its time
+        {"purge", [&](const Tools& runner) { return reported(QCoro::waitFor(Cleaner::deepPurge(runner))); },
+         "0"},
+        {"script", [](const Tools& runner) { return QCoro::waitFor(quitNotes(runner)); }, "0"}};
     for (const auto& [name, call, good] : tools) {
         for (const auto& [end, result] : ends) {
             const auto runner = std::make_shared<ScriptedTools>();
-            runner->answer = [&result = result](const ToolRequest&) { return result; };
-            EXPECT_EQ(QCoro::waitFor(call(runner)), QByteArray(good).split(' ').contains(end)) << name << end;
+            runner->answer = [&result = result](const ToolRequest&) {
+                ToolResult answer = result;
+                answer.complaint = u"said why"_s;
+                return answer;
+            };
+            EXPECT_EQ(call(runner), QByteArray(good).split(' ').contains(end)) << name << end;
             EXPECT_EQ(runner->requests.size(), 1) << name << end;
         }
     }

@@ -51,7 +51,15 @@ TEST(Programs, MemoryPressureAsksTheKernelOfThisMachineOrSaysWhyNot) {
     time.start();
     const Ended ended = runTool(u"memory_pressure"_s, {u"-l"_s, u"warn"_s});
     const bool canAsk = Tools::reclaimableGroup("/proc", getuid()).has_value();
-    EXPECT_EQ(ended.status, canAsk ? 0 : 1) << ended.complaint.constData();
+    EXPECT_EQ(ended.status, canAsk ? 0 : 126) << ended.complaint.constData();
     EXPECT_EQ(ended.complaint.isEmpty(), canAsk);
     EXPECT_LT(time.elapsed(), 5000);
+}
+
+TEST(Programs, TheAdministratorRunsNothingFromABuildTree) {
+    const Ended ended = runTool(
+        u"osascript"_s, {u"-e"_s, u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_TRUE(ended.complaint.contains("build tree") || ended.complaint.contains("others can change"))
+        << ended.complaint.constData();
 }

@@ -42,18 +42,25 @@ TEST(Purge, AsksForCleanCachesAlone) {
 
 TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
     TemporaryFolder tree;
-    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
     const std::string prompt =
-        script(tree, QStringLiteral("pkexec"), "[ $# = 1 ] && echo \"asked for $1\" >&2; exit 126\n");
-    EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, prompt)), testing::ExitedWithCode(126),
-                "asked for " + program);
+        script(tree, QStringLiteral("pkexec"), "echo \"asked for $*\" >&2; exit 126\n");
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator("/bin/true", prompt)), testing::ExitedWithCode(126),
+                "asked for --disable-internal-agent /bin/true\n");
+}
+
+TEST(PurgeDeathTest, TheAdministratorIsNeverAskedForWhatOthersCanChange) {
+    TemporaryFolder tree; // which is the user's own, or lies in a folder that all may write
+    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, "/bin/true")), testing::ExitedWithCode(1),
+                "nothing that others can change: .*/");
+    EXPECT_EQ(Tools::distrust("/bin/true"), "");
+    EXPECT_NE(Tools::distrust("/missing"), "");
 }
 
 TEST(PurgeDeathTest, AMissingPartIsAMessageAndAFailure) {
     TemporaryFolder tree;
-    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
     const std::string missing = tree.path().toStdString() + "/missing";
-    EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, missing)), testing::ExitedWithCode(1),
+    EXPECT_EXIT(_exit(Tools::runAsAdministrator("/bin/true", missing)), testing::ExitedWithCode(1),
                 "missing: No such file");
     EXPECT_EXIT(_exit(Tools::runAsAdministrator(missing, "/bin/true")), testing::ExitedWithCode(1),
                 "missing: No such file");

@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+
 // A desktop that only remembers what it was asked for.
 
 class FakeStatusItem : public StatusItem {
@@ -16,8 +18,12 @@ public:
     StatusContent content;
     QMenu* menu = nullptr;
     QRect place{10, 0, 22, 22};
+    std::function<void()> whenShown = [] {};
 
-    void show(const StatusContent& shown) override { content = shown; }
+    void show(const StatusContent& shown) override {
+        content = shown;
+        whenShown();
+    }
     void setMenu(QMenu* shown) override { menu = shown; }
     QRect geometry() const override { return place; }
 };
@@ -65,11 +71,15 @@ public:
     QList<QWidget*> own;
     QWidget* forward = nullptr;
     ActivationPolicy policy = ActivationPolicy::regular;
+    std::function<void()> whenSet = [] {};
 
     QList<QWidget*> windows() const override { return own; }
     void bringForward(QWidget* window) override { forward = window; }
     ActivationPolicy activationPolicy() const override { return policy; }
-    void setActivationPolicy(ActivationPolicy wanted) override { policy = wanted; }
+    void setActivationPolicy(ActivationPolicy wanted) override {
+        policy = wanted;
+        whenSet();
+    }
 };
 
 struct FakeDesktop {
@@ -77,12 +87,14 @@ struct FakeDesktop {
     std::shared_ptr<FakePopover> popover = std::make_shared<FakePopover>();
     std::shared_ptr<FakeApplication> application = std::make_shared<FakeApplication>();
     std::shared_ptr<QList<FakePanel*>> panels = std::make_shared<QList<FakePanel*>>(); ///< all ever made
+    std::function<void()> whenPanelMade = [] {};
 
     Desktop desktop() const {
         return {.statusItem = statusItem,
                 .popover = popover,
                 .application = application,
-                .makePanel = [list = panels] {
+                .makePanel = [list = panels, made = whenPanelMade] {
+                    made();
                     auto panel = std::make_unique<FakePanel>();
                     list->append(panel.get());
                     return panel;

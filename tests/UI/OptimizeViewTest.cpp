@@ -77,7 +77,7 @@ TEST_F(OptimizeViewTest, ServersAndTheirOrphans) {
     EXPECT_EQ(shownNames<StatBox>(view),
               (QStringList{u"Configured 1"_s, u"Running 2"_s, u"Orphans 1"_s, u"Orphan RAM 5 MB"_s}));
     EXPECT_EQ(shownNames<ServerRow>(view),
-              (QStringList{u"Orphan /opt/mcp-server-git, PID 102, parent: (launchd or gone), 5 MB"_s,
+              (QStringList{u"Orphan /opt/mcp-server-git, PID 102, parent: (init or gone), 5 MB"_s,
                            u"Running /opt/mcp-server-git, PID 101, parent: claude, 5 MB"_s}));
     QTest::mouseClick(view.findChildren<ServerRow*>()[1]->findChild<QAbstractButton*>(), Qt::LeftButton);
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{101, Signal::terminate, 1}}));
@@ -96,14 +96,18 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     fakes.tools->held = true;
     press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
-    fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    fakes.tools->answer = [](const ToolRequest&) {
+        return ToolResult{.launched = true, .exitStatus = 1, .complaint = u"no <agent>"_s};
+    };
     EXPECT_TRUE(fakes.tools->release(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s));
     EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
+    EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->toolTip().contains(u"no &lt;agent&gt;"_s));
     fakes.tools->held = false;
-    fakes.tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    fakes.tools->answer = [](const ToolRequest&) { return ToolResult{.complaint = u"no group"_s}; };
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"memory_pressure failed"_s);
+    EXPECT_EQ(buttonNamed(view, u"Pressure nudge"_s)->accessibleDescription(), u"no group"_s);
     EXPECT_EQ(logged(),
               (QStringList{u"clean memory_pressure -l warn fail"_s, u"clean sudo purge (admin) fail"_s,
                            u"clean memory_pressure -l warn ok"_s}));

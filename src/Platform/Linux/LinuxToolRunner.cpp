@@ -42,6 +42,9 @@ ToolGroups& toolGroups() {
 }
 
 constexpr std::chrono::seconds graceAfterTerminate{1};
+/// By which a tool of our own says that it found nothing here to work on, as a shell does of a program that
+/// it cannot start.
+constexpr int cannotStart = 126;
 
 /// In the child, before its program: only calls that are safe after a fork.
 void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
@@ -58,9 +61,10 @@ void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
         _exit(1);
 }
 
-void configure(QProcess& process, bool captureOutput) {
+void configure(QProcess& process, bool captureOutput, bool captureErrors) {
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
+    if (!captureErrors)
+        process.setStandardErrorFile(QProcess::nullDevice());
     if (!captureOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
     constexpr int behindUs = 10;
@@ -89,6 +93,22 @@ void terminateLater(QProcess* process, std::chrono::milliseconds time) {
         signalGroup(SIGTERM);
         QTimer::singleShot(graceAfterTerminate, process, [signalGroup] { signalGroup(SIGKILL); });
     });
+}
+
+ToolResult resultOf(QProcess& process, bool isOurs) {
+    ToolResult result;
+    result.launched = process.error() != QProcess::FailedToStart;
+    if (result.launched && process.exitStatus() == QProcess::NormalExit)
+        result.exitStatus = process.exitCode();
+    if (!isOurs)
+        return result;
+    const QByteArray said = result.launched ? process.readAllStandardError() : process.errorString().toUtf8();
+    result.complaint = QString::fromUtf8(said.trimmed().split('\n').constFirst());
+    if (result.exitStatus == cannotStart) {
+        result.launched = false;
+        result.exitStatus = -1;
+    }
+    return result;
 }
 
 } // namespace
@@ -122,10 +142,12 @@ QString LinuxToolRunner::programFor(const QString& launchPath) const {
 }
 
 QCoro::Task<ToolResult> LinuxToolRunner::run(ToolRequest request) {
+    const QString program = programFor(request.launchPath);
+    const bool isOurs = program != request.launchPath;
     QProcess process;
-    configure(process, request.captureOutput);
+    configure(process, request.captureOutput, isOurs);
     QFuture<void> ended = endOf(process);
-    process.start(programFor(request.launchPath), request.arguments);
+    process.start(program, request.arguments);
     const auto group = static_cast<pid_t>(process.processId());
     if (group > 0)
         toolGroups().add(group);
@@ -135,10 +157,7 @@ QCoro::Task<ToolResult> LinuxToolRunner::run(ToolRequest request) {
         co_await ended;
     toolGroups().remove(group);
 
-    ToolResult result;
-    result.launched = process.error() != QProcess::FailedToStart;
-    if (result.launched && process.exitStatus() == QProcess::NormalExit)
-        result.exitStatus = process.exitCode();
+    ToolResult result = resultOf(process, isOurs);
     if (request.captureOutput)
         result.output = process.readAllStandardOutput();
     co_return result;

@@ -1,6 +1,8 @@
 #include "UI/Optimize/MemoryCard.h"
 
+#include "Core/Formatters.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
 
@@ -14,17 +16,23 @@ PushButton* actionButton(const QString& title, const QString& symbol, Role tint)
     return button;
 }
 
+void explain(QWidget* button, const QString& failure) {
+    const QString text = Formatters::visible(failure);
+    button->setToolTip(plainToolTip(text));
+    button->setAccessibleDescription(text);
+}
+
 } // namespace
 
 MemoryCard::MemoryCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Memory"), QStringLiteral("Free RAM without quitting your work"),
                    QStringLiteral("memorychip"), Role::green, parent)
+    , m_nudge(actionButton(QStringLiteral("Pressure nudge"), QStringLiteral("wind"), Role::blue))
     , m_purge(actionButton(QString(), QStringLiteral("bolt.heart"), Role::orange)) {
     auto* freeRAM = actionButton(QStringLiteral("Free RAM"), QStringLiteral("memorychip"), Role::green);
-    auto* nudge = actionButton(QStringLiteral("Pressure nudge"), QStringLiteral("wind"), Role::blue);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
-    for (PushButton* button : {freeRAM, nudge, m_purge})
+    for (PushButton* button : {freeRAM, m_nudge, m_purge})
         row->addWidget(button);
     row->addStretch();
     content()->addLayout(row);
@@ -33,7 +41,7 @@ MemoryCard::MemoryCard(QWidget* parent)
                        "cache (heavier)."));
     setPurging(false);
     connect(freeRAM, &QPushButton::clicked, this, &MemoryCard::freeRAMRequested);
-    connect(nudge, &QPushButton::clicked, this, &MemoryCard::nudgeRequested);
+    connect(m_nudge, &QPushButton::clicked, this, &MemoryCard::nudgeRequested);
     connect(m_purge, &QPushButton::clicked, this, &MemoryCard::purgeRequested);
 }
 
@@ -41,4 +49,12 @@ void MemoryCard::setPurging(bool purging) {
     m_purge->setText(purging ? QStringLiteral("Purging…") : QStringLiteral("Deep purge (admin)"));
     m_purge->setBusy(purging);
     m_purge->setEnabled(!purging);
+}
+
+void MemoryCard::setNudgeFailure(const QString& reason) {
+    explain(m_nudge, reason);
+}
+
+void MemoryCard::setPurgeFailure(const QString& reason) {
+    explain(m_purge, reason);
 }

@@ -13,6 +13,9 @@ public:
 
     /// While a purge runs its button says so and cannot be pressed.
     void setPurging(bool purging);
+    /// Why the last one was not done, which the button's tool tip then says; empty when it was.
+    void setNudgeFailure(const QString& reason);
+    void setPurgeFailure(const QString& reason);
 
 Q_SIGNALS:
     void freeRAMRequested();
@@ -20,5 +23,6 @@ Q_SIGNALS:
     void purgeRequested();
 
 private:
+    PushButton* m_nudge;
     PushButton* m_purge;
 };

@@ -101,21 +101,24 @@ void OptimizeView::placeNotice() {
 }
 
 void OptimizeView::nudge() {
-    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](bool nudged) {
-        if (self)
-            self->toast(nudged ? QStringLiteral("Sent memory_pressure -l warn")
-                               : QStringLiteral("memory_pressure failed"));
+    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& nudged) {
+        if (!self)
+            return;
+        self->m_memory->setNudgeFailure(nudged.reason);
+        self->toast(nudged.done ? QStringLiteral("Sent memory_pressure -l warn")
+                                : QStringLiteral("memory_pressure failed"));
     });
 }
 
 void OptimizeView::purge() {
     m_memory->setPurging(true);
-    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](bool purged) {
+    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& purged) {
         if (!self)
             return;
         self->m_memory->setPurging(false);
-        self->toast(purged ? QStringLiteral("Inactive memory purged")
-                           : QStringLiteral("Purge cancelled or failed"));
+        self->m_memory->setPurgeFailure(purged.reason);
+        self->toast(purged.done ? QStringLiteral("Inactive memory purged")
+                                : QStringLiteral("Purge cancelled or failed"));
     });
 }
 
