@@ -32,3 +32,20 @@ TEST_F(ReliefTest, NoActionReachesAProcessThatTookTheIdSinceTheLastTick) {
         EXPECT_GT(signalSender->sent().size(), before) << name;
     }
 }
+
+TEST_F(ReliefTest, AChosenProcessIsTheOneThatWasShownThen) {
+    const auto start = fakes.clock->wall;
+    add(8, "another", 0);
+    add(7, "first", 1, {.start = start, .uid = 1000});
+    tick();
+    const ProcSample chosen = model->processes().first();
+    fakes.processes->remove(7);
+    tick();
+    add(7, "second", 1, {.start = start + std::chrono::seconds(5), .uid = 1000});
+    tick();
+    model->forceKillProcess(chosen);
+    EXPECT_TRUE(signalSender->sent().isEmpty());
+    EXPECT_EQ(logged(), QStringList(u"forceKill pid=7 fail"_s));
+    model->quitProcess(model->processes().first());
+    EXPECT_EQ(signalled(), QList<qint32>{7});
+}

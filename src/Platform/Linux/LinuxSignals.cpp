@@ -1,7 +1,14 @@
 #include "Platform/Linux/LinuxSignals.h"
 
+#include "Platform/Linux/ProcStat.h"
+
 #include <cerrno>
 #include <csignal>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+
 #include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -43,16 +50,30 @@ private:
     int m_descriptor;
 };
 
-/// For a system without pidfd: only as safe as the id is lasting.
+/// Since boot, in clock ticks; empty when nobody has the id.
+std::optional<quint64> startOf(qint32 pid) {
+    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    const auto stat = ProcStat::parse(text);
+    return stat ? std::optional(stat->startTicks) : std::nullopt;
+}
+
+/// For a system without pidfd: the id means the process for as long as the start behind it is the same.
 class PidHandle : public ProcessHandle {
 public:
     explicit PidHandle(qint32 pid)
-        : m_pid(pid) {}
+        : m_pid(pid)
+        , m_start(startOf(pid)) {}
 
-    SignalResult send(Signal signal) override { return resultOf(::kill(m_pid, static_cast<int>(signal))); }
+    SignalResult send(Signal signal) override {
+        if (!m_start || startOf(m_pid) != m_start)
+            return SignalResult::noSuchProcess;
+        return resultOf(::kill(m_pid, static_cast<int>(signal)));
+    }
 
 private:
     qint32 m_pid;
+    std::optional<quint64> m_start;
 };
 
 class NoProcess : public ProcessHandle {
