@@ -27,13 +27,13 @@ AppDelegate::~AppDelegate() {
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
+    openMainWindow(); // before all else: its frame is drawn while the rest is made
     m_model.start();
     m_messages.start();
-    applyActivationPolicy();
-    openMainWindow(); // first: its frame is drawn while the rest is made
     menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
     QObject::connect(menuBar.get(), &MenuBarController::settingsRequested, menuBar.get(),
                      [this] { openSettings(); });
+    applyActivationPolicy();
     if (m_preferences.showWidgetOnLaunch())
         m_widget.show(m_model);
     registerLoginItemIfFirstLaunch();
@@ -72,9 +72,13 @@ void AppDelegate::applyActivationPolicy() {
 
 void AppDelegate::registerLoginItemIfFirstLaunch() {
     const QString key = QStringLiteral("pref.didFirstLaunchSetup");
-    if (m_preferences.file().boolean(key).value_or(false))
+    const bool isFirst = !m_preferences.file().boolean(key).value_or(false);
+    if (isFirst)
+        m_preferences.file().store(key, true); // first, so that whatever fails is not tried at every launch
+    if (!m_preferences.startAtLogin())
         return;
-    m_preferences.file().store(key, true); // first, so that whatever fails is not tried at every launch
-    if (m_preferences.startAtLogin())
+    if (isFirst && m_loginItem->isInstalled())
         m_loginItem->registerItem(); // a failure is nothing to bother a new user with
+    else
+        m_loginItem->replaceGoneProgram();
 }

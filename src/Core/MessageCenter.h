@@ -67,7 +67,7 @@ private:
     QUrl m_feedURL;
     std::optional<Message> m_currentMessage;
     QList<Message> m_allMessages;
-    QTimer m_timer;
+    QTimer m_timer{this};
     SettingsFile& m_settings;
     std::unique_ptr<FeedSource> m_source;
 };

@@ -14,4 +14,10 @@ public:
     virtual std::optional<QString> registerItem() = 0;
     /// The opposite. Not being registered is no failure.
     virtual std::optional<QString> unregisterItem() = 0;
+
+    /// Whether the running program is where it will stay: false for one that lies where it was built.
+    virtual bool isInstalled() const = 0;
+    /// Where what starts at login is a program that is gone, an installed one takes its place. Fails
+    /// silently.
+    virtual void replaceGoneProgram() = 0;
 };

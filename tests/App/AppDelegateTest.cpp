@@ -70,7 +70,30 @@ TEST_F(AppDelegateTest, TheFirstLaunchRegistersOnceAndTheFlagComesFirst) {
     EXPECT_EQ(desktop.statusItem->content.title, u"CPU 0% • RAM 0%"_s);
     EXPECT_FALSE(showsText(settingsWindow(), u"Couldn't register: no such folder"_s));
     launch();
-    EXPECT_EQ(loginItem->requests.size(), 1);
+    EXPECT_EQ(loginItem->requests, (QStringList{u"register"_s, u"replace"_s}));
+}
+
+TEST_F(AppDelegateTest, TheLaunchTakesItsStepsInOrder) {
+    QStringList steps;
+    const auto note = [&steps](const QString& step) {
+        if (!steps.contains(step))
+            steps.append(step);
+    };
+    QObject::connect(&model, &AppModel::objectWillChange, &model, [&] { note(u"model"_s); });
+    desktop.statusItem->whenShown = [&] { note(u"status item"_s); };
+    desktop.application->whenSet = [&] { note(u"policy"_s); };
+    desktop.whenPanelMade = [&] { note(u"widget"_s); };
+    loginItem->whenAsked = [&] { note(u"login item"_s); };
+    prefs.showWidgetOnLaunch.set(true);
+    launch();
+    EXPECT_EQ(steps, (QStringList{u"model"_s, u"status item"_s, u"policy"_s, u"widget"_s, u"login item"_s}));
+}
+
+TEST_F(AppDelegateTest, ABuildTreesProgramDoesNotStartAtLogin) {
+    loginItem->installed = false;
+    launch();
+    EXPECT_TRUE(didFirstLaunch());
+    EXPECT_EQ(loginItem->requests, QStringList(u"replace"_s));
 }
 
 TEST_F(AppDelegateTest, WhatIsStoredDecidesTheLaunch) {
@@ -118,10 +141,10 @@ TEST_F(AppDelegateTest, OneSettingsWindowThatOpensOnGeneral) {
 TEST_F(AppDelegateTest, SettingsTakeEffectWithoutARestart) {
     launch();
     SettingsScene& window = settingsWindow();
-    click(window, u"Show in Dock"_s);
+    click(window, u"Show in task bar"_s);
     settle();
     EXPECT_EQ(desktop.application->policy, ActivationPolicy::accessory);
-    click(window, u"Show in Dock"_s);
+    click(window, u"Show in task bar"_s);
     settle();
     EXPECT_EQ(desktop.application->policy, ActivationPolicy::regular);
     choose(window, u"Display"_s, u"Icon only"_s);

@@ -1,8 +1,12 @@
 #include "Core/ReliefFixture.h"
 
+#include "Core/ActionLogReader.h"
 #include "Core/Observe.h"
 
 #include <QCoreApplication>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,15 +15,19 @@ using AppModelTest = ReliefTest;
 } // namespace
 
 TEST_F(AppModelTest, StartTicksOnceAndPublishesSortedAndGrouped) {
+    QList<qint32> bySize = {900};
+    for (qint32 pid = 80; pid > 40; --pid) { // as many as a sort that is not stable mixes up
+        add(pid, "twin", 20);
+        bySize.append(pid);
+    }
     add(3, "small", 10);
-    add(9, "claude", 500);
-    add(4, "twin one", 20);
-    add(2, "twin two", 20);
+    add(900, "claude", 500);
+    bySize.append(3);
     EXPECT_EQ(model->systemSample(), SystemSample::zero());
     EXPECT_EQ(model->timerInterval(), -1);
     model->start();
     // Equal sizes keep the listing's order.
-    EXPECT_EQ(each(model->processes(), &ProcSample::pid), (QList<qint32>{9, 4, 2, 3}));
+    EXPECT_EQ(each(model->processes(), &ProcSample::pid), bySize);
     ASSERT_EQ(model->groups().size(), 6);
     EXPECT_EQ(model->groups()[0].rssBytes, 500U);
     EXPECT_EQ(model->systemHistory().size(), 1);
@@ -75,13 +83,31 @@ TEST_F(AppModelTest, AlertsFollowTheTick) {
 
 TEST_F(AppModelTest, TimerFollowsThePollIntervalAndNeverSpins) {
     model->start();
-    const std::pair<double, double> cases[] = {{2.005, 2}, {5, 5},         {0, 0.1},
+    const std::pair<double, double> cases[] = {{2.005, 2}, {2.02, 2.02},   {5, 5},      {0, 0.1},
                                                {-7, 0.1},  {1e300, 86400}, {0.25, 0.25}};
     for (const auto& [stored, interval] : cases) {
         settings.preferences.pollIntervalSeconds.set(stored);
         QCoreApplication::sendPostedEvents();
         EXPECT_DOUBLE_EQ(model->timerInterval(), interval) << stored;
     }
+}
+
+TEST_F(AppModelTest, EachPeriodEndsWithATick) {
+    settings.preferences.pollIntervalSeconds.set(0.1);
+    model->start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return model->systemHistory().size() > 2; }));
+}
+
+TEST_F(AppModelTest, ARunTakesTheTimesThatTheUserIsTold) {
+    const AppModel::FreeRAMWaits waits;
+    EXPECT_EQ(waits.beforeSecondPass, std::chrono::seconds(2));
+    EXPECT_EQ(waits.beforeMeasuring, std::chrono::milliseconds(1500));
+}
+
+TEST_F(AppModelTest, NoNameForgesALineOfTheLog) {
+    model->quickKill(u"x"_s, u"a\nb\tc"_s, 0, 0, false);
+    EXPECT_EQ(logged(), QStringList(u"quit [quickKill] a\u240ab\u2409c — matched=0 killed=0 ok"_s));
+    EXPECT_EQ(ActionLogReader::read().size(), 1);
 }
 
 TEST_F(AppModelTest, ObserversHearOfABurstOnceAndReadTheNewValues) {

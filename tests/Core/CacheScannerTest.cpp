@@ -64,6 +64,7 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
     EXPECT_EQ(tools->commandLines(),
               QStringList(u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
                           "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s));
+    EXPECT_EQ(tools->requests.first().terminateAfter, std::chrono::minutes(2));
 
     answerEverythingWith({});
     EXPECT_EQ(scanned(target).sizeBytes, 0U) << "of a tool that is gone nothing is left from before";

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QCoroTask>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,11 @@ Message targeted(Target target) {
 }
 
 } // namespace
+
+TEST_F(MessageCenterTest, AsksAgainEveryTwelveHours) {
+    center.start();
+    EXPECT_EQ(center.findChild<QTimer*>()->interval(), 43'200'000);
+}
 
 TEST(MessageCenter, ComparesVersionsNumberByNumber) {
     const std::tuple<const char*, const char*, int> cases[] = {

@@ -61,8 +61,30 @@ TEST_F(SamplerTest, RefusedFiguresAreZeroAndLeaveTheOthersAlone) {
     EXPECT_EQ(sample.diskFreeBytes + sample.diskTotalBytes + sample.memUsedBytes + sample.swapUsedBytes, 0U);
     EXPECT_EQ(sample.thermalState, ThermalState::nominal);
     EXPECT_GT(sample.memTotalBytes, 0U);
-    fakes.host->thermal = 2;
-    EXPECT_EQ(sampler.sample().thermalState, ThermalState::serious);
+    for (const ThermalState state : allCases<ThermalState>()) {
+        fakes.host->thermal = static_cast<int>(state);
+        EXPECT_EQ(sampler.sample().thermalState, state);
+    }
+}
+
+TEST_F(SamplerTest, EveryFigureOfAProcessIsItsOwn) {
+    const Instant start = fakes.clock->wall - std::chrono::hours(3);
+    fakes.processes->add(10, {.task = TaskInfo{.virtualBytes = 4, .residentBytes = 3, .threads = 7},
+                              .path = "/opt/x/prog",
+                              .name = "prog",
+                              .info = KernelProcessInfo{.start = start, .uid = 5, .parentPid = 6}});
+    const ProcSample expected = {.pid = 10,
+                                 .parentPid = 6,
+                                 .uid = 5,
+                                 .name = QStringLiteral("prog"),
+                                 .executablePath = QStringLiteral("/opt/x/prog"),
+                                 .rssBytes = 3,
+                                 .virtualBytes = 4,
+                                 .threads = 7,
+                                 .startTime = start,
+                                 .program = QStringLiteral("/opt/x/prog")};
+    EXPECT_EQ(only(), expected);
+    EXPECT_EQ(sampler.sample().timestamp, fakes.clock->wall);
 }
 
 TEST_F(SamplerTest, CpuShareIsTimeUsedOverTimePassed) {
@@ -88,8 +110,17 @@ TEST_F(SamplerTest, IdleTimeGrowsBelowHalfAPercentAndSurvivesAWallClockJump) {
         EXPECT_DOUBLE_EQ(only().idleSeconds, 3600.0 * (hour + 1));
     }
     fakes.clock->wall += std::chrono::hours(24);
-    fakes.clock->advance(2);
-    EXPECT_DOUBLE_EQ(only().idleSeconds, 7202);
+    fakes.clock->advance(200);
+    burn(10, 1);
+    const ProcSample half = only();
+    EXPECT_EQ(half.cpuPercent, 0.5); // which is not yet busy
+    EXPECT_DOUBLE_EQ(half.idleSeconds, 7400);
+    fakes.clock->advance(1000);
+    burn(10, 4.8);
+    EXPECT_DOUBLE_EQ(only().idleSeconds, 8400);
+    fakes.clock->advance(1000);
+    burn(10, 5.2);
+    EXPECT_EQ(only().idleSeconds, 0);
     fakes.clock->advance(2);
     burn(10, 0.02);
     EXPECT_EQ(only().idleSeconds, 0);

@@ -71,6 +71,25 @@ TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
     EXPECT_EQ(autostartFolder(), QStringList(u"other.desktop"_s));
 }
 
+TEST_F(LoginItemTest, OnlyAnInstalledProgramTakesThePlaceOfOneThatIsGone) {
+    const QString gone = home.path(u"old \\ place\n/tavrin"_s);
+    const QString other = makeProgram(u"other/tavrin"_s);
+    const QString built = makeProgram(u"build/tavrin"_s);
+    home.makeFile(u"build/CMakeCache.txt"_s);
+    const QString installed = makeProgram(u"bin/tavrin"_s);
+    EXPECT_FALSE(LinuxLoginItem(built).isInstalled());
+    EXPECT_TRUE(LinuxLoginItem(installed).isInstalled());
+    LinuxLoginItem(installed).replaceGoneProgram();
+    EXPECT_FALSE(QFile::exists(entry)) << "nothing was registered";
+    for (const auto& [before, program, after] :
+         {std::tuple{gone, built, gone}, std::tuple{gone, installed, installed},
+          std::tuple{other, installed, other}}) {
+        LinuxLoginItem(before).registerItem();
+        LinuxLoginItem(program).replaceGoneProgram();
+        EXPECT_EQ(contentOf(entry), LinuxLoginItem::entry(after)) << qPrintable(before + program);
+    }
+}
+
 TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
     qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
     EXPECT_EQ(LinuxLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);

@@ -12,10 +12,8 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
-#include <linux/sched.h>
 #include <signal.h>
 #include <sys/wait.h>
 
@@ -203,21 +201,6 @@ TEST(ProcessTable, LeavesOutTheFiguresOfAZombie) {
     LinuxProcessTable fresh;
     EXPECT_TRUE(isListed(fresh, child.pid()));
     EXPECT_FALSE(fresh.taskInfo(child.pid()));
-}
-
-/// A sleeping process under exactly this id, or a failure for want of the right to choose one.
-pid_t cloneAs(pid_t pid) {
-    clone_args arguments{};
-    arguments.exit_signal = SIGCHLD;
-    arguments.set_tid = reinterpret_cast<quint64>(&pid);
-    arguments.set_tid_size = 1;
-    const auto clone = static_cast<pid_t>(syscall(SYS_clone3, &arguments, sizeof arguments));
-    if (clone == 0) {
-        alarm(60);
-        for (;;)
-            pause();
-    }
-    return clone;
 }
 
 TEST(ProcessTable, TakesAReusedIdForAnotherProcess) {

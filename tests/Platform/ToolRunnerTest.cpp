@@ -145,6 +145,25 @@ TEST(ToolRunner, AnswersForToolsThatLinuxLacks) {
         EXPECT_EQ(runner.programFor(path), u"/own"_s + path.mid(path.lastIndexOf(u'/')));
     for (const auto& path : {u"/usr/bin/du"_s, u"/bin/sh"_s, u"/opt/bin/osascript"_s})
         EXPECT_EQ(runner.programFor(path), path);
-    const ToolResult refused = run(u"/usr/bin/osascript"_s, {u"-e"_s, u"beep"_s});
-    EXPECT_EQ(refused.exitStatus, 2);
+}
+
+TEST(ToolRunner, HearsWhatToolsOfOurOwnComplainAbout) {
+    const TemporaryFolder tree;
+    const std::tuple<const char*, bool, int, QString> cases[] = {
+        {"echo 'no group' >&2; echo more >&2; exit 126", false, -1, u"no group"_s},
+        {"echo refused >&2; exit 1", true, 1, u"refused"_s},
+        {"exit 0", true, 0, {}}};
+    for (const auto& [script, launched, status, complaint] : cases) {
+        const QString tool = tree.makeFile(u"osascript"_s, QByteArray("#!/bin/sh\n") + script + '\n');
+        QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        LinuxToolRunner runner(tree.path());
+        const ToolResult result = QCoro::waitFor(runner.run({.launchPath = u"/usr/bin/osascript"_s}));
+        EXPECT_EQ(result.launched, launched) << script;
+        EXPECT_EQ(result.exitStatus, status) << script;
+        EXPECT_EQ(result.complaint, complaint) << script;
+    }
+    LinuxToolRunner runner(tree.path());
+    const ToolResult missing = QCoro::waitFor(runner.run({.launchPath = u"/usr/sbin/purge"_s}));
+    EXPECT_TRUE(missing.complaint.contains(u"No such file"_s)) << qPrintable(missing.complaint);
+    EXPECT_EQ(run(u"/bin/sh"_s, {u"-c"_s, u"echo private >&2; exit 126"_s}).exitStatus, 126);
 }

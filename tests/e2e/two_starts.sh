@@ -42,12 +42,12 @@ check "the entry is one that a desktop starts" desktop-file-validate "$autostart
 
 xdotool windowsize --sync "$main" 1120 690 windowmove --sync "$main" 60 40
 xdotool windowactivate --sync "$main" key ctrl+comma
-shows "Ctrl+comma opens the settings" "Show in Dock"
+shows "Ctrl+comma opens the settings" "Show in task bar"
 press "Start at login"
 check "the entry is gone once the switch is off" not test -e "$autostart"
 check "so is the wish" stored "pref.startAtLogin=false"
 press "Show floating widget on launch"
-press "Show in Dock"
+press "Show in task bar"
 check "the task bar entry goes at once" not in_task_bar
 press "General" Right
 press "2s" End
@@ -66,7 +66,7 @@ check "the widget opens" shown_widget
 check "there is no task bar entry" not in_task_bar
 [ ! -e "$autostart" ] || fail "the second start registers nothing"
 xdotool windowactivate --sync "$main" key ctrl+comma
-shows "the settings open on General" "Show in Dock"
+shows "the settings open on General" "Show in task bar"
 press "General" Right
 shows "the interval outlasts the program" "Keeps 150 samples for the Overview sparklines."
 xdotool key Escape

@@ -11,10 +11,14 @@ class FakeLoginItem : public LoginItem {
 public:
     QStringList requests; ///< "register" and "unregister"
     std::optional<QString> failure;
+    bool installed = true;
     std::function<void()> whenAsked = [] {};
 
     std::optional<QString> registerItem() override { return ask(QStringLiteral("register")); }
     std::optional<QString> unregisterItem() override { return ask(QStringLiteral("unregister")); }
+
+    bool isInstalled() const override { return installed; }
+    void replaceGoneProgram() override { requests.append(QStringLiteral("replace")); }
 
 private:
     std::optional<QString> ask(const QString& request) {

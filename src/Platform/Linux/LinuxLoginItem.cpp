@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr qint64 largestEntry = 65536;
+
 QString autostartFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/autostart");
@@ -53,6 +55,35 @@ QByteArray value(QString text) {
         .replace(u'\r', QStringLiteral("\\r"))
         .replace(u'\t', QStringLiteral("\\t"))
         .toUtf8();
+}
+
+/// The opposite of `value`.
+QString textOf(const QByteArray& value) {
+    QString text;
+    bool isEscaped = false;
+    for (const QChar character : QString::fromUtf8(value)) {
+        const qsizetype escape = isEscaped ? QStringView(u"nrt").indexOf(character) : -1;
+        if (!isEscaped && character == u'\\') {
+            isEscaped = true;
+            continue;
+        }
+        text += escape < 0 ? character : QStringView(u"\n\r\t")[escape];
+        isEscaped = false;
+    }
+    return text;
+}
+
+/// What the key TryExec of the entry names; empty without an entry or such a key.
+QString registeredProgram() {
+    QFile file(entryFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    constexpr QByteArrayView key = "TryExec=";
+    for (const QByteArray& line : file.read(largestEntry).split('\n')) {
+        if (line.startsWith(key))
+            return textOf(line.mid(key.size()));
+    }
+    return {};
 }
 
 /// Desktops look for the program before they resolve "%%", and a name with "=" in it is not allowed there: a
@@ -110,4 +141,15 @@ std::optional<QString> LinuxLoginItem::unregisterItem() {
     struct stat nothing; // a disk that is read-only refuses also to remove what is not there
     const bool neverThere = lstat(entry.constData(), &nothing) != 0 && (errno == ENOENT || errno == ENOTDIR);
     return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), reason));
+}
+
+bool LinuxLoginItem::isInstalled() const {
+    return !QFile::exists(QFileInfo(m_program).dir().filePath(QStringLiteral("CMakeCache.txt")));
+}
+
+void LinuxLoginItem::replaceGoneProgram() {
+    const QString registered = registeredProgram();
+    const bool isGone = QDir::isAbsolutePath(registered) && !QFile::exists(registered);
+    if (isGone && isInstalled())
+        registerItem();
 }

@@ -12,6 +12,8 @@ public:
 
     std::optional<QString> registerItem() override;
     std::optional<QString> unregisterItem() override;
+    bool isInstalled() const override;
+    void replaceGoneProgram() override;
 
     /// The text of the entry.
     static QByteArray entry(const QString& program);
