@@ -71,9 +71,9 @@ public:
 
     /// The group that the user chose for the program of a process. Empty: it is as detected.
     std::optional<ProcGroup> chosenGroup(const ProcSample& process) const;
-    /// Puts the program of a process into a group, from now on and at the next start too; empty leaves that to
-    /// the rules again.
-    void chooseGroup(const ProcSample& process, std::optional<ProcGroup> group);
+    /// Puts the programs of these processes into a group, from now on and at the next start too; empty leaves
+    /// that to the rules again.
+    void chooseGroup(const QList<ProcSample>& processes, std::optional<ProcGroup> group);
 
     /// As of the last tick; null when the system listed no such process.
     const ProcSample* process(qint32 pid) const;

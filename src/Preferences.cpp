@@ -92,11 +92,13 @@ QHash<QString, ProcGroup> Preferences::programGroups() const {
     return groups;
 }
 
-void Preferences::storeProgramGroup(const QString& program, std::optional<ProcGroup> group) {
+void Preferences::storeProgramGroups(const QSet<QString>& programs, std::optional<ProcGroup> group) {
     QHash<QString, ProcGroup> groups = programGroups();
-    groups.remove(program);
-    if (group)
-        groups.insert(program, *group);
+    for (const QString& program : programs) {
+        groups.remove(program);
+        if (group)
+            groups.insert(program, *group);
+    }
     QJsonObject stored;
     for (auto each = groups.cbegin(); each != groups.cend(); ++each)
         stored.insert(each.key(), rawValue(each.value()));

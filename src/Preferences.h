@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <array>
 #include <utility>
@@ -99,8 +100,8 @@ public:
 
     /// The groups that the user chose for programs. What cannot be read as a group counts as absent.
     QHash<QString, ProcGroup> programGroups() const;
-    /// Empty takes the choice back.
-    void storeProgramGroup(const QString& program, std::optional<ProcGroup> group);
+    /// An empty `group` takes the choice back.
+    void storeProgramGroups(const QSet<QString>& programs, std::optional<ProcGroup> group);
 
     /// The file behind the properties, for keys that are none of them.
     SettingsFile& file() { return m_file; }

@@ -11,8 +11,10 @@
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
 
@@ -250,6 +252,38 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
     press(*dialog(), u"Force-quit Note (no save prompt)"_s);
     EXPECT_TRUE(notice().startsWith(u"Couldn't tell Note to quit"_s));
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
+}
+
+TEST_F(ProcessesViewTest, ARowsMenuPutsItsProgramIntoAGroup) {
+    addProcesses(1, "a&b", 60 * MiB);
+    addProcesses(1, "zsh", 50 * MiB);
+    show();
+    const auto choose = [this](int row, const QString& group) -> QString {
+        const QModelIndex index = table->model()->index(row, 0);
+        const QPoint place = table->visualRect(index).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, table->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(table->viewport(), &event);
+        auto* menu = table->findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly);
+        QString before;
+        QAction* wanted = nullptr;
+        for (QAction* entry : menu->findChild<QMenu*>()->actions()) {
+            before += entry->isChecked() ? entry->text() : QString();
+            wanted = entry->text() == group ? entry : wanted;
+        }
+        wanted->trigger();
+        delete menu;
+        settle();
+        return before;
+    };
+    EXPECT_EQ(choose(0, u"Docker && Containers"_s), u"As detected"_s);
+    EXPECT_EQ(column(u"Group"_s), (QStringList{u"Docker & Containers"_s, u"Terminals"_s}));
+    EXPECT_EQ(model.groups()[4].count, 1);
+    const AppModel again(fakes.platform(), prefs);
+    EXPECT_EQ(again.chosenGroup(model.processes()[0]), ProcGroup::containers);
+    EXPECT_EQ(choose(0, u"As detected"_s), u"Docker && Containers"_s);
+    EXPECT_EQ(column(u"Group"_s), (QStringList{u"Other"_s, u"Terminals"_s}));
+    prefs.programGroupsJSON.set(R"({"zsh": "IDEs", "a&b": "nonsense", "c": 5})");
+    EXPECT_EQ(prefs.programGroups(), (QHash<QString, ProcGroup>{{u"zsh"_s, ProcGroup::ides}}));
 }
 
 TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {

@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "Core/Formatters.h"
 
+#include <QActionGroup>
 #include <QMenu>
 
 namespace {
@@ -25,6 +26,7 @@ ProcessMenu::ProcessMenu(AppModel& model, QObject* parent)
 void ProcessMenu::fill(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
     addButtons(menu, row, isGrouped);
     addApplication(menu, row);
+    addGroups(menu, row);
 }
 
 void ProcessMenu::addButtons(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
@@ -44,4 +46,25 @@ void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {
         if (preview.parentAppName) // it may have ended while the menu was open
             Q_EMIT quitRequested(preview);
     });
+}
+
+void ProcessMenu::addGroups(QMenu& menu, const ProcessTableRow& row) {
+    menu.addSeparator();
+    auto* groups = menu.addMenu(QStringLiteral("Show in group"));
+    auto* choices = new QActionGroup(groups);
+    const QList<ProcSample> processes = processesOf(row);
+    QList<std::optional<ProcGroup>> chosen;
+    for (const ProcSample& process : processes)
+        chosen.append(m_model.chosenGroup(process));
+    const auto add = [&](const QString& text, std::optional<ProcGroup> group) {
+        QAction* choice = groups->addAction(
+            text, this, [this, processes, group] { m_model.chooseGroup(processes, group); });
+        choice->setCheckable(true);
+        choice->setChecked(chosen.count(group) == chosen.size());
+        choices->addAction(choice);
+    };
+    for (const ProcGroup group : allCases<ProcGroup>())
+        add(entryText(rawValue(group)), group);
+    groups->addSeparator();
+    add(QStringLiteral("As detected"), std::nullopt);
 }

@@ -6,8 +6,8 @@ class AppModel;
 struct NukePreview;
 class QMenu;
 
-/// The menu of a row of the Processes section, flat or grouped: what its buttons do, and what can be done
-/// with the application behind it.
+/// The menu of a row of the Processes section, flat or grouped: what its buttons do, what can be done with
+/// the application behind it, and the group that its programs are shown in.
 class ProcessMenu : public QObject {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ Q_SIGNALS:
 private:
     void addButtons(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
     void addApplication(QMenu& menu, const ProcessTableRow& row);
+    void addGroups(QMenu& menu, const ProcessTableRow& row);
 
     AppModel& m_model;
 };
