@@ -145,11 +145,13 @@ bool isShell(const QString& name) {
                        [&name](QStringView shell) { return name.compare(shell, Qt::CaseInsensitive) == 0; });
 }
 
-/// Where an interpreter is told what to run, that alone makes a server of it, not what is named besides.
-bool runsServer(const ProcSample& process) {
-    const QStringView told = process.program.isEmpty() ? QStringView(process.arguments)
-                                                       : ProgramPath::withoutPrefix(process.program);
-    return matcher().search(told) & mcpMarker;
+/// Whether an argument tells of a server; the user's home folder in front of it does not.
+bool namesServer(const QString& arguments) {
+    for (const QStringView word : QStringView(arguments).tokenize(u' ')) {
+        if (matcher().search(ProgramPath::withoutPrefix(word)) & mcpMarker)
+            return true;
+    }
+    return false;
 }
 
 /// By the patterns.
@@ -157,7 +159,7 @@ ProcGroup groupByRules(const ProcSample& process) {
     const Facts name = factsOfName(process.name);
     const Facts path = factsOfPath(process.executablePath);
     const Facts either = name | path;
-    if (either & agent || (name & scriptRuntime && runsServer(process)))
+    if (either & agent || (name & scriptRuntime && namesServer(process.arguments)))
         return ProcGroup::agents;
     if (name & ide || path & ideFolder)
         return ProcGroup::ides;

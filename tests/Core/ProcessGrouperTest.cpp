@@ -1,6 +1,10 @@
 #include "Core/ProcessGrouper.h"
+#include "Core/LaunchedProgram.h"
 #include "Core/PatternMatcher.h"
 #include "support/Each.h"
+
+#include <QDir>
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -49,6 +53,33 @@ TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
             << std::get<0>(cases[i]) << i;
         EXPECT_EQ(classified[i].name, processes[i].name);
     }
+}
+
+TEST(ProcessGrouper, GroupsTheProgramsOfRealMachines) {
+    const QByteArray home = QDir::homePath().toUtf8();
+    QFile file(QStringLiteral(TAVRIN_SOURCE_DIR "/tests/Core/data/programs.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList groups = QStringLiteral("agents ides terminals browsers containers other").split(u' ');
+    int count = 0;
+    for (QByteArray line : file.readAll().split('\n')) {
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        line.replace("~/", home + '/');
+        QStringList cells = QString::fromUtf8(line).split(QStringLiteral(" |"));
+        ASSERT_EQ(cells.size(), 4) << line.constData();
+        for (QString& cell : cells)
+            cell = cell.trimmed();
+        const auto launched = LaunchedProgram::read(cells[2], cells[3].split(u' '));
+        const ProcSample process{.name = cells[1],
+                                 .executablePath = cells[2],
+                                 .arguments = cells[3].section(u' ', 1),
+                                 .program = launched.program};
+        const auto classified = ProcessGrouper().classify({process});
+        EXPECT_EQ(groups[static_cast<int>(classified[0].group)].toStdString(), cells[0].toStdString())
+            << line.constData();
+        ++count;
+    }
+    EXPECT_GE(count, 200);
 }
 
 TEST(GroupRollup, TotalsEveryGroupInOrder) {
