@@ -1,6 +1,8 @@
 #include "Core/ServerWatch.h"
 
 #include "Core/Formatters.h"
+#include "Core/KnownPrograms.h"
+#include "Core/LaunchedProgram.h"
 #include "Platform/Clock.h"
 
 #include <QDateTime>
@@ -32,6 +34,12 @@ QString shortened(const QString& folder) {
     const QString home = QDir::homePath();
     const bool isInHome = folder == home || folder.startsWith(home + u'/');
     return isInHome ? u'~' + folder.sliced(home.size()) : folder;
+}
+
+/// The agent or editor itself where an interpreter runs it.
+QString hostName(const ProcSample& host) {
+    const auto* known = KnownPrograms::of(host);
+    return known && LaunchedProgram::isInterpreter(host.name) ? known->name.toString() : host.name;
 }
 
 QString nameAndId(const QString& name, qint32 pid) {
@@ -90,7 +98,7 @@ void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const P
         if (past.host != *server.host)
             past.hostFolder = shortened(QString::fromUtf8(m_table->workingFolder(server.host->pid)));
         past.host = *server.host;
-        past.hostName = server.parentName;
+        past.hostName = hostName(*byPid.value(server.host->pid));
         past.hostEnded.reset();
         return;
     }

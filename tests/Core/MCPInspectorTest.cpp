@@ -172,6 +172,34 @@ TEST(MCPInspectorTest, OneRowAServerWithItsLaunchersAndItsHost) {
     EXPECT_FALSE(nested[0].isOrphan || nested[1].isOrphan);
 }
 
+TEST(MCPInspectorTest, AChainEndsAtAHostOrInAnOrphan) {
+    const ProcSample init = process(1, u"systemd"_s);
+    const ProcSample server = process(30, u"node"_s, u"node /x/a-mcp"_s, 20);
+    const auto under = [&](const ProcSample& parent) {
+        return MCPInspector::detectLive({init, process(10, u"code"_s, u"code"_s, 1), parent, server});
+    };
+    const std::tuple<const char*, ProcSample, bool> chains[] = {
+        {"an editor's extension", process(20, u"Code Helper (Plugin)"_s, u"code --type=utility"_s, 10),
+         false},
+        {"a subreaper", process(20, u"systemd"_s, u"systemd --user"_s, 1), true},
+        {"a host that renamed itself",
+         process(20, u"worker"_s, u"worker"_s, 1, 0, u"/home/u/.local/share/claude/versions/2.1.4"_s), false},
+        {"a host whose title is gone", process(20, u"claude"_s, {}, 1, 0, u"/usr/bin/node"_s), false},
+        {"a terminal's shell", process(20, u"zsh"_s, u"zsh"_s, 1), true},
+        {"an id that is not listed", process(21, u"claude"_s, u"claude"_s, 1), true},
+    };
+    for (const auto& [what, parent, isOrphan] : chains) {
+        const auto live = under(parent);
+        ASSERT_EQ(live.size(), 1) << what;
+        EXPECT_EQ(live[0].isOrphan, isOrphan) << what;
+    }
+    // Between its fork and its exec a server is still a copy of its host.
+    EXPECT_TRUE(
+        MCPInspector::detectLive({process(20, u"claude"_s, u"claude --mcp-config mcp-server.json"_s),
+                                  process(30, u"claude"_s, u"claude --mcp-config mcp-server.json"_s, 20)})
+            .isEmpty());
+}
+
 TEST(MCPInspectorTest, WhoeverKeepsAServerMakesItNoOrphan) {
     using Kind = ProcessKeeper::Kind;
     const QList<ProcSample> processes = {process(1, u"systemd"_s), process(5, u"zsh"_s),
@@ -222,6 +250,11 @@ TEST(ServerWatchTest, SaysWhyInWords) {
     EXPECT_EQ(reason({host, server}), u"in use by claude (2927) in ~/src/app"_s);
     fakes.processes->processes[2927].folder = "/elsewhere"; // asked once
     EXPECT_EQ(reason({host, server}), u"in use by claude (2927) in ~/src/app"_s);
+
+    const ProcSample interpreted = process(2928, u"node"_s, u"node /usr/bin/qwen"_s);
+    const ProcSample its = process(32, u"a-mcp"_s, {}, 2928);
+    EXPECT_EQ(reason({interpreted, its}), u"in use by qwen (2928)"_s);
+    EXPECT_EQ(reason({host, server}), u"in use by claude (2927) in /elsewhere"_s);
 
     server.parentPid = 1;
     EXPECT_EQ(reason({host, server}), u"orphan: no longer below its host claude (2927)"_s);
