@@ -35,6 +35,7 @@ check "it is named after its version" same "$(basename "$package")" "tavrin_${ve
 expected='-rw-r--r-- root/root ./usr/share/applications/tavrin.desktop
 -rw-r--r-- root/root ./usr/share/icons/hicolor/scalable/apps/tavrin.svg
 -rw-r--r-- root/root ./usr/share/metainfo/org.example.tavrin.metainfo.xml
+-rw-r--r-- root/root ./usr/share/polkit-1/actions/org.example.tavrin.policy
 -rwxr-xr-x root/root ./usr/bin/tavrin
 -rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
 -rwxr-xr-x root/root ./usr/libexec/tavrin/osascript
@@ -63,6 +64,13 @@ dpkg-deb -e "$package" "$work/control"
 check "the checksums fit" eval "(cd '$root' && md5sum --quiet -c '$work/control/md5sums')"
 check "the desktop entry is valid" desktop-file-validate "$root/usr/share/applications/tavrin.desktop"
 check "the metainfo is valid" appstreamcli validate --no-net --no-color "$root/usr/share/metainfo/"*.xml
+policy=$root/usr/share/polkit-1/actions/org.example.tavrin.policy
+action='import sys, xml.etree.ElementTree as tree
+action = tree.parse(sys.argv[1]).find("action")
+path = action.find("annotate[@key=\"org.freedesktop.policykit.exec.path\"]").text
+print(path, action.find("icon_name").text, action.find("defaults/allow_active").text)'
+check "the administrator's question is about the purge as installed" same \
+    "/usr/libexec/tavrin/purge tavrin auth_admin" "$(python3 -c "$action" "$policy")"
 check "menu, metainfo and icon fit together" eval "grep -q '>tavrin.desktop<' '$root'/usr/share/metainfo/*.xml &&
     grep -qx 'Icon=tavrin' '$root/usr/share/applications/tavrin.desktop' &&
     [ -x '$root/usr/bin/'\$(sed -n 's/^Exec=//p' '$root/usr/share/applications/tavrin.desktop') ]"
