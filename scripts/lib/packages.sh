@@ -9,13 +9,14 @@ packages_of() {
     build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qcoro-qt6-dev libxcb1-dev \
         libtomlplusplus-dev nlohmann-json3-dev \
         libgtest-dev libgmock-dev ;;
-    test) echo procps fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl ;;
+    test) echo procps fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston ;;
     package) echo dpkg-dev file ;;
     bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \
         at-spi2-core python3-gi gir1.2-atspi-2.0 util-linux mount fonts-dejavu-core ;;
     screenshots) echo fonts-dejavu-core ;;
     wayland) echo qt6-wayland ;;
+    mutate) echo git python3 ccache util-linux mount ;;
     fuzz) echo clang-16 libclang-rt-16-dev ;;
     lint) echo clang-format cppcheck ;;
     *) echo "packages.sh: no group named '$1'" >&2 && return 1 ;;

@@ -12,48 +12,32 @@ namespace {
 
 using Patterns = std::initializer_list<const char*>;
 
-constexpr Patterns agentPatterns = {"claude",
-                                    "claude-code",
-                                    "claude.app",
-                                    "codex",
-                                    "aider",
-                                    "openhands",
-                                    "continue",
-                                    "ollama",
-                                    "lm studio",
-                                    "lmstudio",
-                                    "llama.cpp",
-                                    "vllm",
-                                    "cursor-agent",
-                                    "github copilot",
-                                    "mcp-server",
-                                    "mcp_server",
-                                    "modelcontextprotocol",
-                                    "@modelcontextprotocol"};
+// A pattern is left out where another one of its list finds the same: "claude" finds "claude-code" too.
+
+constexpr Patterns agentPatterns = {
+    "claude",       "codex",          "aider",      "openhands",  "continue",
+    "ollama",       "lm studio",      "lmstudio",   "llama.cpp",  "vllm",
+    "cursor-agent", "github copilot", "mcp-server", "mcp_server", "modelcontextprotocol"};
 
 /// Runtimes that may host an MCP server, and what tells one in their arguments.
-constexpr Patterns scriptRuntimes = {"node", "npx", "uvx", "uv", "python"};
+constexpr Patterns scriptRuntimes = {"node", "npx", "uv", "python"};
 constexpr Patterns mcpMarkers = {"modelcontextprotocol", "mcp-server", "mcp_server", "-mcp"};
 
 constexpr Patterns idePatterns = {
-    "code",      "code helper",    "cursor",       "cursor helper",  "xcode",    "xcodebuild",
-    "sourcekit", "swift-frontend", "idea",         "intellij",       "pycharm",  "webstorm",
-    "rubymine",  "goland",         "phpstorm",     "rustrover",      "datagrip", "fleet",
-    "zed",       "sublime text",   "sublime_text", "atom",           "nova",     "vim",
-    "neovim",    "nvim",           "emacs",        "android studio", "windsurf", "trae"};
+    "code",    "cursor",   "xcode",        "sourcekit",      "swift-frontend", "idea",      "intellij",
+    "pycharm", "webstorm", "rubymine",     "goland",         "phpstorm",       "rustrover", "datagrip",
+    "fleet",   "zed",      "sublime text", "sublime_text",   "atom",           "nova",      "vim",
+    "neovim",  "nvim",     "emacs",        "android studio", "windsurf",       "trae"};
 
-constexpr Patterns terminalPatterns = {"iterm", "iterm2", "terminal", "warp",    "ghostty", "alacritty",
-                                       "kitty", "hyper",  "tabby",    "wezterm", "tmux",    "screen"};
+constexpr Patterns terminalPatterns = {"iterm", "terminal", "warp",    "ghostty", "alacritty", "kitty",
+                                       "hyper", "tabby",    "wezterm", "tmux",    "screen"};
 constexpr std::array<QStringView, 5> shellNames = {u"bash", u"zsh", u"fish", u"sh", u"dash"};
 
-constexpr Patterns browserPatterns = {
-    "chrome",  "google chrome",  "chromium", "safari",  "safari technology preview",
-    "firefox", "nightly",        "arc",      "brave",   "brave browser",
-    "edge",    "microsoft edge", "opera",    "vivaldi", "orion",
-    "dia"};
+constexpr Patterns browserPatterns = {"chrome", "chromium", "safari", "firefox", "nightly", "arc",
+                                      "brave",  "edge",     "opera",  "vivaldi", "orion",   "dia"};
 
-constexpr Patterns containerPatterns = {"docker", "com.docker", "orbstack", "colima",     "podman",
-                                        "qemu",   "lima",       "rancher",  "containerd", "runc"};
+constexpr Patterns containerPatterns = {"docker", "orbstack", "colima",     "podman", "qemu",
+                                        "lima",   "rancher",  "containerd", "runc"};
 
 enum Fact : PatternMatcher::Facts {
     agent = 1 << 0,

@@ -1,10 +1,16 @@
+#include "Core/FreeRAM.h"
 #include "Core/MCPInspector.h"
+#include "Core/MessageFeed.h"
 #include "Core/Models.h"
 #include "Core/ProcessGrouper.h"
 #include "Core/QuickKillPreset.h"
 #include "support/Each.h"
+#include "support/Files.h"
+#include "support/TemporarySettings.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +37,23 @@ ProcGroup groupOf(const QString& name, const QString& path = {}, const QString& 
         .group;
 }
 
+/// The text, and what is left of it without its last and its first letter: a pattern that lost a letter still
+/// finds the whole text, but finds one of the others too.
+QStringList withShorter(const char* text) {
+    const QString whole = QString::fromLatin1(text);
+    return {whole, whole.chopped(1), whole.sliced(1)};
+}
+
+bool holdsOne(const QString& text, Texts patterns) {
+    return std::ranges::any_of(
+        patterns, [&text](const char* pattern) { return text.contains(QLatin1String(pattern)); });
+}
+
+bool beginsWithOne(const QString& text, Texts patterns) {
+    return std::ranges::any_of(
+        patterns, [&text](const char* pattern) { return text.startsWith(QLatin1String(pattern)); });
+}
+
 bool isServer(const QString& name) {
     return !MCPInspector::detectLive({{.pid = 2, .parentPid = 1, .name = name}}).isEmpty();
 }
@@ -42,6 +65,11 @@ TEST(FixedLists, RawValuesLabelsAndSymbols) {
     expectRawValues<ProcGroup>(u"Claude Code & Agents|IDEs|Terminals|Browsers|Docker & Containers|Other"_s);
     expectRawValues<Alert::Severity>(u"info|warn|danger"_s);
     expectRawValues<ActionLogEntry::Kind>(u"quit|forceKill|clean"_s);
+    expectRawValues<KillOutcome>(u"quit|forced|ignored|denied"_s);
+    expectRawValues<Message::Target>(u"all|linux|macos|windows"_s);
+    expectRawValues<Message::Severity>(u"info|warn|update|upgrade"_s);
+    expectRawValues<MenuBarFormat>(u"CPU% \u2022 RAM%|CPU%|RAM%|Icon only"_s);
+    expectRawValues<HistoryRetention>(u"5 min|25 min|1 hour"_s);
     EXPECT_EQ(each(allCases<ThermalState>(), thermalLabel).join(u'|'), u"Cool|Warm|Hot|Critical"_s);
     EXPECT_EQ(
         each(allCases<ProcGroup>(), groupSymbol).join(u'|'),
@@ -116,34 +144,110 @@ TEST(FixedLists, GroupPatterns) {
         {containers,
          {"docker", "com.docker", "orbstack", "colima", "podman", "qemu", "lima", "rancher", "containerd",
           "runc"}}};
+    // A name holds a pattern anywhere, and so does a folder but for the patterns of the IDEs: it begins with
+    // one.
+    const auto expected = [&lists](const QString& text, bool isFolder) {
+        for (const auto& [group, patterns] : lists) {
+            if (isFolder && group == ides ? beginsWithOne(text, patterns) : holdsOne(text, patterns))
+                return group;
+        }
+        return other;
+    };
     for (const auto& [group, patterns] : lists) {
         for (const char* pattern : patterns) {
-            const QString text = QString::fromLatin1(pattern);
-            EXPECT_EQ(groupOf(u"x9-%1-9y"_s.arg(text)), group) << pattern;
-            EXPECT_EQ(groupOf(u"q9"_s, u"/opt/%1_9/q9"_s.arg(text.toUpper())), group) << pattern;
-            const bool inArguments = group == containers;
-            EXPECT_EQ(groupOf(u"q9"_s, {}, u"--for=%1"_s.arg(text)), inArguments ? containers : other)
-                << pattern;
+            for (const QString& part : withShorter(pattern)) {
+                const QString name = u"x9-%1-9y"_s.arg(part);
+                EXPECT_EQ(groupOf(name), expected(name, false)) << qPrintable(name);
+                const QString folder = part + u"_9"_s;
+                EXPECT_EQ(groupOf(u"q9"_s, u"/opt/%1/q9"_s.arg(folder.toUpper())), expected(folder, true))
+                    << qPrintable(folder);
+                const QString argument = u"--for="_s + part;
+                EXPECT_EQ(groupOf(u"q9"_s, {}, argument) == containers, holdsOne(argument, lists[4].second))
+                    << qPrintable(argument);
+            }
         }
     }
     EXPECT_EQ(groupOf(u"q9"_s, u"/opt/x9-pycharm/q9"_s), other) << "no folder that begins so";
     for (const char* shell : {"bash", "zsh", "fish", "sh", "dash"})
         EXPECT_EQ(groupOf(QString::fromLatin1(shell)), terminals) << shell;
-    for (const char* runtime : {"node", "npx", "uvx", "uv", "python"}) {
-        for (const char* marker : {"modelcontextprotocol", "mcp-server", "mcp_server", "x-mcp"}) {
-            const QString arguments = u"/srv/9%1"_s.arg(QLatin1String(marker));
-            EXPECT_EQ(groupOf(QLatin1String(runtime), {}, arguments), agents) << runtime << marker;
-            EXPECT_EQ(groupOf(u"q9"_s, {}, arguments), other) << marker;
+}
+
+TEST(FixedLists, RuntimesAndWhatTellsAServerInTheirArguments) {
+    const Texts runtimes = {"node", "npx", "uvx", "uv", "python"};
+    const Texts markers = {"modelcontextprotocol", "mcp-server", "mcp_server", "-mcp"};
+    for (const char* runtime : runtimes) {
+        for (const QString& part : withShorter(runtime)) {
+            const QString name = u"x9-%1-9y"_s.arg(part);
+            EXPECT_EQ(groupOf(name, {}, u"/srv/9mcp-server"_s) == ProcGroup::agents, holdsOne(name, runtimes))
+                << qPrintable(name);
+        }
+    }
+    for (const char* marker : markers) {
+        for (const QString& part : withShorter(marker)) {
+            const QString script = u"/srv/9"_s + part;
+            EXPECT_EQ(groupOf(u"node"_s, {}, script) == ProcGroup::agents, holdsOne(script, markers))
+                << qPrintable(script);
+            EXPECT_EQ(groupOf(u"q9"_s, {}, script), ProcGroup::other) << qPrintable(script);
         }
     }
 }
 
 TEST(FixedLists, ServerNames) {
-    for (const char* mark :
-         {"modelcontextprotocol", "mcp-server", "mcp_server", "@modelcontextprotocol", "stitch",
-          "composio-social", "hostinger-mcp", "memory-server", "filesystem-server", "puppeteer-mcp",
-          "playwright-mcp", "supabase-mcp", "context7"})
-        EXPECT_TRUE(isServer(u"9%19"_s.arg(QLatin1String(mark)))) << mark; // where "-mcp" ends no word
+    const Texts marks = {
+        "modelcontextprotocol", "mcp-server",    "mcp_server",    "@modelcontextprotocol", "stitch",
+        "composio-social",      "hostinger-mcp", "memory-server", "filesystem-server",     "puppeteer-mcp",
+        "playwright-mcp",       "supabase-mcp",  "context7"};
+    for (const char* mark : marks) {
+        for (const QString& part : withShorter(mark)) {
+            const QString name = u'9' + part + u'9'; // where "-mcp" ends no word
+            EXPECT_EQ(isServer(name), holdsOne(name, marks)) << qPrintable(name);
+        }
+    }
     EXPECT_TRUE(isServer(u"x9-mcp"_s));
     EXPECT_FALSE(isServer(u"x9-mcp9"_s));
+}
+
+TEST(FixedLists, SettingsAndTheirDefaults) {
+    // Switches the other way round, numbers one higher.
+    const char* expected = R"([General]
+pref.alertBrowserHog_enabled=false
+pref.alertBrowserHog_percentTotal=26
+pref.alertCPUHot_enabled=false
+pref.alertCPUHot_percent=86
+pref.alertCachesBig_enabled=false
+pref.alertCachesBig_gb=6
+pref.alertIdleAgent_enabled=false
+pref.alertIdleAgent_minIdleMin=16
+pref.alertIdleAgent_minRSSMB=501
+pref.alertRAMLow_enabled=false
+pref.alertRAMLow_freeGB=3
+pref.alertThermal_enabled=false
+pref.historyRetention=25 min
+pref.menuBarFormat=CPU% • RAM%
+pref.pauseOnLowPower=true
+pref.pollIntervalSeconds=3
+pref.programGroupsJSON=@ByteArray(g)
+pref.quickKillPresetsJSON=@ByteArray(q)
+pref.showInDock=false
+pref.showWidgetOnLaunch=true
+pref.startAtLogin=false)";
+    TemporarySettings settings;
+    Preferences& prefs = settings.preferences;
+    for (Property<bool>* each :
+         {&prefs.startAtLogin, &prefs.showWidgetOnLaunch, &prefs.showInDock, &prefs.pauseOnLowPower,
+          &prefs.alertRAMLowEnabled, &prefs.alertCPUHotEnabled, &prefs.alertThermalEnabled,
+          &prefs.alertIdleAgentEnabled, &prefs.alertBrowserHogEnabled, &prefs.alertCachesBigEnabled})
+        each->set(!(*each)());
+    for (Property<double>* each :
+         {&prefs.pollIntervalSeconds, &prefs.alertRAMLowFreeGB, &prefs.alertCPUHotPercent,
+          &prefs.alertIdleAgentMinIdleMin, &prefs.alertIdleAgentMinRSSMB, &prefs.alertBrowserHogPercentTotal,
+          &prefs.alertCachesBigGB})
+        each->set((*each)() + 1);
+    prefs.menuBarFormat.set(prefs.menuBarFormat());
+    prefs.historyRetention.set(prefs.historyRetention());
+    prefs.quickKillPresetsJSON.set("q");
+    prefs.programGroupsJSON.set("g");
+    QList<QByteArray> lines = contentOf(settings.path).trimmed().split('\n');
+    std::ranges::sort(lines);
+    EXPECT_EQ(lines.join('\n').toStdString(), expected);
 }

@@ -88,7 +88,11 @@ TEST_F(FreeRAMTest, EveryOutcome) {
 TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     add(41, "claude", 7 * MiB);
     tick();
-    fakes.host->memory = MemoryPages{.active = 150, .wired = 30, .compressed = 20}; // 50 pages less
+    tools->answer = [this](const ToolRequest&) {
+        const auto give = [this] { fakes.host->memory->active -= 50; }; // which takes the kernel a while
+        QMetaObject::invokeMethod(model.get(), give, Qt::QueuedConnection);
+        return ScriptedTools::exited(0);
+    };
     const FreeRAMResult result = QCoro::waitFor(model->freeRAM({41, 57}));
     EXPECT_EQ(result.perPid, (QList<FreeRAMResult::Record>{{41, u"claude"_s, 7 * MiB, KillOutcome::forced},
                                                            {57, u"pid 57"_s, 0, KillOutcome::quit}}));
@@ -97,6 +101,7 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:forced,57:quit freed=204800 ok"_s));
     EXPECT_EQ(tools->commandLines(), QStringList(u"/usr/bin/memory_pressure -l warn"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 204800U);
+    EXPECT_EQ(model->actionLog().first().timestamp, fakes.clock->wall);
 }
 
 TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {

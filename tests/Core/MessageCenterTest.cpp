@@ -50,7 +50,12 @@ Message targeted(Target target) {
 
 TEST_F(MessageCenterTest, AsksAgainEveryTwelveHours) {
     center.start();
-    EXPECT_EQ(center.findChild<QTimer*>()->interval(), 43'200'000);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(feed->requests.size(), 1);
+    auto* timer = center.findChild<QTimer*>();
+    EXPECT_EQ(timer->interval(), 43'200'000);
+    QMetaObject::invokeMethod(timer, "timeout");
+    EXPECT_EQ(feed->requests.size(), 2);
 }
 
 TEST(MessageCenter, ComparesVersionsNumberByNumber) {

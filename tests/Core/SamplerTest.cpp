@@ -28,6 +28,7 @@ TEST_F(SamplerTest, FirstSampleHasFiguresButNoLoad) {
     const SystemSample sample = sampler.sample();
     EXPECT_EQ(sample.cpuPercent, 0);
     EXPECT_TRUE(sample.cpuPerCore.isEmpty());
+    EXPECT_EQ(sample.memTotalBytes, fakes.host->physical);
     EXPECT_EQ(sample.memUsedBytes, 250U * 4096);
     EXPECT_EQ(sample.memWiredBytes, 30U * 4096);
     EXPECT_EQ(sample.memCompressedBytes, 20U * 4096);

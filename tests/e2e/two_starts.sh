@@ -36,6 +36,17 @@ settings=$home/.config/Tavrin/Tavrin.ini
 autostart=$home/.config/autostart/tavrin.desktop
 
 start
+check "the first start where it was built is noted" stored "pref.didFirstLaunchSetup=true"
+quit
+[ ! -e "$autostart" ] || fail "a program where it was built registers nothing"
+rm "$settings"
+
+installed=$private_files/installed
+mkdir -p "$installed/bin" "$installed/libexec"
+cp "$program" "$installed/bin/tavrin"
+cp -r "$(dirname "$program")/libexec/tavrin" "$installed/libexec/"
+program=$installed/bin/tavrin
+start
 check "the first start is noted" stored "pref.didFirstLaunchSetup=true"
 check "it registers to start at login" grep -qxF "TryExec=$program" "$autostart"
 check "the entry is one that a desktop starts" desktop-file-validate "$autostart"
