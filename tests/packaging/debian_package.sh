@@ -100,15 +100,13 @@ window=$(main_window "$pid") || fail "the main window appears"
 class=$(sed -n 's/^StartupWMClass=//p' "$root/usr/share/applications/tavrin.desktop")
 check "the window belongs to the desktop entry" grep -q "\"$class\"" <<<"$(xprop -id "$window" WM_CLASS)"
 check "it came from the package" same "$root/usr/bin/tavrin" "$(readlink "/proc/$pid/exe")"
+autostart=$home/.config/autostart/tavrin.desktop
+check "it starts at login, which the desktop skips once the program is gone" \
+    within_ten_seconds grep -qsxF "TryExec=$root/usr/bin/tavrin" "$autostart"
 kill "$pid"
 wait "$pid" || fail "it ends well"
 
-# Beside the caches of system libraries it leaves its settings and its log, and the entry that starts it at
-# login, which the desktop skips once the program is gone.
+# Beside the caches of system libraries it leaves its settings, its log and the entry that starts it at login.
 check "it leaves only what is the user's" none \
     "$(cd "$home" && find . -type f | grep -vE '^\./(\.cache/|\.config/Tavrin/|Library/Logs/Tavrin/|\.config/autostart/tavrin\.desktop$)')"
-autostart=$home/.config/autostart/tavrin.desktop
-if [ -e "$autostart" ]; then
-    check "the login entry is skipped without the program" grep -qxF "TryExec=$root/usr/bin/tavrin" "$autostart"
-fi
 echo "1 passed, 0 failed"
