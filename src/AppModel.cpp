@@ -74,8 +74,10 @@ void AppModel::tick() {
     publish(m_processes, std::move(classified));
     publish(m_groups, rollups);
     publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));
-    publish(m_mcpReport,
-            {.configured = m_mcpConfiguration.readConfigured(), .live = m_servers.detectLive(m_processes)});
+    const auto& configured = m_mcpConfiguration.readConfigured();
+    publish(m_mcpReport, {.configured = configured,
+                          .live = m_servers.detectLive(m_processes),
+                          .isUnknown = m_mcpConfiguration.isUnknown()});
 }
 
 void AppModel::appendHistory(const SystemSample& sample) {

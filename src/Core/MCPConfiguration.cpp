@@ -1,105 +1,83 @@
 #include "Core/MCPConfiguration.h"
 
+#include "Core/ServerToml.h"
+
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSet>
+#include <QStandardPaths>
 
 #include <algorithm>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 using MCPInspector::ConfiguredServer;
+using ServerDocument::Form;
 
-/// Parsing goes at some 100 MB/s: more than this would be felt as a stall of the whole program.
-constexpr qint64 largestFileBytes = 8 << 20;
+constexpr std::size_t beforeProjects = 3; ///< this many files come before the projects of the first
 
-QStringList argumentsOf(const QJsonObject& entry) {
-    QStringList arguments;
-    const QJsonArray array = entry["args"_L1].toArray();
-    for (const QJsonValue& value : array) {
-        if (!value.isString())
-            return {};
-        arguments.append(value.toString());
-    }
-    return arguments;
+QByteArray inHome(const QString& path) {
+    return QFile::encodeName(QDir::homePath() + u'/' + path);
+}
+
+QByteArray inConfigurationHome(const QString& path) {
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u'/' +
+                             path);
+}
+
+ServerFile::Read json(const QString& scope, const Form& form = {}) {
+    return [scope, form](std::streambuf& text) { return ServerDocument::read(text, form, scope); };
+}
+
+ServerFile::Read toml(const QString& scope) {
+    return [scope](std::streambuf& text) {
+        return ServerFile::Servers{.own = ServerToml::read(text, scope), .ofProjects = {}};
+    };
 }
 
 } // namespace
 
-QList<ConfiguredServer> MCPConfiguration::parse(const QByteArray& json, const QString& scope) {
-    const QJsonObject servers = QJsonDocument::fromJson(json).object()["mcpServers"_L1].toObject();
-    QList<ConfiguredServer> result;
-    for (auto member = servers.begin(); member != servers.end(); ++member) {
-        const QJsonObject entry = member.value().toObject();
-        result.append({.name = member.key(),
-                       .command = entry["command"_L1].toString(u"?"_s),
-                       .args = argumentsOf(entry),
-                       .scope = scope});
-    }
-    // An object's members are in order of their keys, but for keys that began with a byte order mark.
-    std::ranges::stable_sort(result, {}, &ConfiguredServer::name);
-    return result;
+MCPConfiguration::MCPConfiguration()
+    : m_files{{{inHome(u".claude.json"_s), json(u"user"_s, {.hasProjects = true})},
+               {inHome(u".claude/mcp.json"_s), json(u"user (alt)"_s)},
+               {"./.mcp.json", json(u"project (cwd)"_s)},
+               {inHome(u".cursor/mcp.json"_s), json(u"cursor"_s, {.hasComments = true})},
+               {inConfigurationHome(u"Code/User/mcp.json"_s),
+                json(u"VS Code"_s, {.member = "servers", .hasComments = true})},
+               {inHome(u".gemini/settings.json"_s), json(u"gemini"_s, {.hasComments = true})},
+               {inHome(u".codex/config.toml"_s), toml(u"codex"_s)}}} {
+    m_pool.setMaxThreadCount(1);
 }
 
-MCPConfiguration::Version MCPConfiguration::versionOf(const struct stat& status) {
-    return {.device = status.st_dev,
-            .inode = status.st_ino,
-            .sizeBytes = status.st_size,
-            .modifiedSeconds = status.st_mtim.tv_sec,
-            .modifiedNanoseconds = status.st_mtim.tv_nsec};
+const QList<ConfiguredServer>& MCPConfiguration::readConfigured() {
+    bool isChanged = false;
+    for (ServerFile& file : m_files)
+        isChanged |= file.look(m_pool);
+    if (isChanged)
+        mergeFiles();
+    return m_configured;
 }
 
-QByteArray MCPConfiguration::readFile(const QByteArray& path, Version& version) {
-    const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return {};
-    QByteArray content;
-    QFile file;
-    struct stat status {};
-    // Asked of the open file, because the path may lead elsewhere by now.
-    const bool isFile = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        close(descriptor);
-    } else if (isFile && status.st_size <= largestFileBytes) {
-        content = file.read(largestFileBytes);
-    }
-    version = versionOf(status);
-    return content;
+bool MCPConfiguration::isUnknown() const {
+    return std::ranges::any_of(m_files, &ServerFile::isUnknown);
 }
 
-const QList<ConfiguredServer>& MCPConfiguration::read(File& file, const QString& path, const QString& scope) {
-    const QByteArray encoded = QFile::encodeName(path);
-    struct stat status {};
-    if (stat(encoded.constData(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        file = {};
-        return file.servers;
-    }
-    if (versionOf(status) != file.version) {
-        file.version = {};
-        file.servers = parse(readFile(encoded, file.version), scope);
-    }
-    return file.servers;
-}
-
-QList<ConfiguredServer> MCPConfiguration::readConfigured() {
-    QList<ConfiguredServer> all =
-        read(m_files[0], QDir::homePath() + u"/.claude.json"_s, u"user"_s) +
-        read(m_files[1], QDir::homePath() + u"/.claude/mcp.json"_s, u"user (alt)"_s) +
-        read(m_files[2], u"./.mcp.json"_s, u"project (cwd)"_s);
+void MCPConfiguration::mergeFiles() {
+    m_configured.clear();
     QSet<QString> seen;
-    all.removeIf([&seen](const ConfiguredServer& server) {
-        const bool known = seen.contains(server.name);
-        seen.insert(server.name);
-        return known;
-    });
-    return all;
+    const auto add = [this, &seen](const QList<ConfiguredServer>& servers) {
+        for (const ConfiguredServer& server : servers) {
+            if (seen.contains(server.name))
+                continue;
+            seen.insert(server.name);
+            m_configured.append(server);
+        }
+    };
+    for (std::size_t i = 0; i < m_files.size(); ++i) {
+        if (i == beforeProjects)
+            add(m_files[0].servers().ofProjects);
+        add(m_files[i].servers().own);
+    }
 }

@@ -14,7 +14,7 @@ struct ConfiguredServer {
     QString name;
     QString command; ///< "?" where the entry has none
     QStringList args;
-    QString scope; ///< where it was found: "user", "user (alt)" or "project (cwd)"
+    QString scope; ///< where it was found, such as "user" or "project ~/src/app"
 
     bool operator==(const ConfiguredServer&) const = default;
 };
@@ -27,7 +27,7 @@ struct LiveServer {
     QString displayLabel;
     quint64 rssBytes = 0; ///< its launchers' included
     double idleSeconds = 0;
-    QString parentName; ///< its host, else what started it; "(init or gone)" where that is not in the list
+    QString parentName;    ///< its host, else what started it; "(init or gone)" where that is not in the list
     bool isOrphan = false; ///< no agent or editor above it, and nothing else that keeps it
     Instant startTime;
     QList<ProcessIdentity> launchers;
@@ -42,6 +42,7 @@ struct LiveServer {
 struct Report {
     QList<ConfiguredServer> configured;
     QList<LiveServer> live;
+    bool isUnknown = false; ///< there may be more configured: a file has not been read to its end yet
 
     int orphanCount() const;
     quint64 orphanBytes() const;

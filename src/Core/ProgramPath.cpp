@@ -1,7 +1,6 @@
 #include "Core/ProgramPath.h"
 
 #include <QDir>
-#include <QString>
 
 #include <array>
 
@@ -71,4 +70,9 @@ QStringView ProgramPath::withoutPrefix(QStringView path) {
     const qsizetype end = path.indexOf(u'/', libraries.size());
     const bool isArchitecture = end > 0 && path.first(end).contains(u"-linux-gnu");
     return isArchitecture ? path.sliced(end) : path;
+}
+
+QString ProgramPath::withTilde(const QString& folder) {
+    const QString home = QDir::homePath();
+    return isBelow(folder, home) ? u'~' + folder.sliced(home.size()) : folder;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 /// Parts of the text that says what a process runs: a path, a module or a package.
@@ -21,5 +22,8 @@ QStringView packageName(QStringView program);
 /// `path` without what says nothing of the program: the user's home folder and the folder of libraries of
 /// this architecture ("/usr/lib/x86_64-linux-gnu") are taken off its front, their slash stays.
 QStringView withoutPrefix(QStringView path);
+
+/// As a shell shows a folder: "~" for the user's home folder.
+QString withTilde(const QString& folder);
 
 } // namespace ProgramPath

@@ -3,10 +3,10 @@
 #include "Core/Formatters.h"
 #include "Core/KnownPrograms.h"
 #include "Core/LaunchedProgram.h"
+#include "Core/ProgramPath.h"
 #include "Platform/Clock.h"
 
 #include <QDateTime>
-#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -27,13 +27,6 @@ QString idleText(double seconds) {
 QString timeText(Instant instant) {
     const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(instant.time_since_epoch());
     return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(u"HH:mm"_s);
-}
-
-/// As a shell shows it: "~" for the home folder.
-QString shortened(const QString& folder) {
-    const QString home = QDir::homePath();
-    const bool isInHome = folder == home || folder.startsWith(home + u'/');
-    return isInHome ? u'~' + folder.sliced(home.size()) : folder;
 }
 
 /// The agent or editor itself where an interpreter runs it.
@@ -96,7 +89,8 @@ void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const P
     past.wasSeen = true;
     if (server.host) {
         if (past.host != *server.host)
-            past.hostFolder = shortened(QString::fromUtf8(m_table->workingFolder(server.host->pid)));
+            past.hostFolder =
+                ProgramPath::withTilde(QString::fromUtf8(m_table->workingFolder(server.host->pid)));
         past.host = *server.host;
         past.hostName = hostName(*byPid.value(server.host->pid));
         past.hostEnded.reset();

@@ -1,24 +1,20 @@
 #include "Core/MCPInspector.h"
 
 #include "Core/LaunchedProgram.h"
-#include "Core/MCPConfiguration.h"
 #include "Core/ServerWatch.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
-#include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
 #include <QDateTime>
-
-#include <fcntl.h>
-#include <sys/stat.h>
+#include <QDir>
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using MCPInspector::ConfiguredServer;
 using MCPInspector::LiveServer;
 
 /// What the sampler makes of an executable and its arguments, words apart by blanks.
@@ -38,21 +34,6 @@ ProcSample process(qint32 pid, const QString& name, const QString& arguments = {
 bool isServer(const QString& name, const QString& arguments, const QString& path = {}) {
     return MCPInspector::isMCPServerProcess(process(1, name, arguments, 0, 0, path));
 }
-
-/// A folder as the current one, for as long as it lives.
-struct WorkingFolder {
-    explicit WorkingFolder(const QString& folder) { QDir::setCurrent(folder); }
-    ~WorkingFolder() { QDir::setCurrent(before); }
-    QString before = QDir::currentPath();
-};
-
-struct MCPConfigurationTest : testing::Test {
-    TemporaryHome home;
-    WorkingFolder project{home.makeFolder(u"project"_s)};
-    MCPConfiguration configuration;
-
-    QStringList names() { return each(configuration.readConfigured(), &ConfiguredServer::name); }
-};
 
 } // namespace
 
@@ -283,61 +264,4 @@ TEST(MCPInspectorTest, TheLabelIsTheFirstTellingPiece) {
     EXPECT_EQ(label(u"npx  -y @upstash/context7-mcp mcp-server"_s), u"@upstash/context7-mcp"_s);
     EXPECT_EQ(label(u"a@b MCP-SERVER x-mcp"_s), u"x-mcp"_s);
     EXPECT_EQ(label(QString()), u"x-mcp"_s);
-}
-
-TEST_F(MCPConfigurationTest, TheFirstOfANameWinsAcrossTheThreeFiles) {
-    home.makeFile(u".claude.json"_s, R"({"x": 1, "mcpServers": {
-        "zeta": {"command": "npx", "args": ["-y", "pkg"], "env": {}}, "Beta": {}, "alpha": 7}})");
-    home.makeFile(
-        u".claude/mcp.json"_s,
-        R"({"mcpServers": {"zeta": {"command": "other"}, "two": {"args": ["a", 1], "command": 5}}})");
-    home.makeFile(u"project/.mcp.json"_s, R"({"mcpServers": {"two": {}, "three": {"command": "c"}}})");
-    EXPECT_EQ(configuration.readConfigured(),
-              (QList<ConfiguredServer>{{u"Beta"_s, u"?"_s, {}, u"user"_s},
-                                       {u"alpha"_s, u"?"_s, {}, u"user"_s},
-                                       {u"zeta"_s, u"npx"_s, {u"-y"_s, u"pkg"_s}, u"user"_s},
-                                       {u"two"_s, u"?"_s, {}, u"user (alt)"_s},
-                                       {u"three"_s, u"c"_s, {}, u"project (cwd)"_s}}));
-}
-
-TEST_F(MCPConfigurationTest, AnUnreadableFileHidesNoOther) {
-    home.makeFile(u"project/.mcp.json"_s, R"({"mcpServers": {"kept": {}}})");
-    for (const QByteArray content : {"", "{", "[]", "{}", "{\"mcpServers\": []}", "{\"mcpServers\": null}",
-                                     "{\"mcpServers\": {\"cut\": {}", "\xff\xfe\x00"}) {
-        home.makeFile(u".claude.json"_s, content);
-        EXPECT_EQ(names(), QStringList(u"kept"_s)) << content.constData();
-    }
-}
-
-TEST_F(MCPConfigurationTest, AnEditShowsAndAnUnchangedFileIsNotReadAgain) {
-    EXPECT_EQ(names(), QStringList());
-    const QString path = home.makeFile(u".claude.json"_s, R"({"mcpServers": {"one": {}}})");
-    EXPECT_EQ(names(), QStringList(u"one"_s));
-
-    struct stat before {};
-    ASSERT_EQ(stat(QFile::encodeName(path).constData(), &before), 0);
-    home.makeFile(u".claude.json"_s, R"({"mcpServers": {"two": {}}})");
-    const timespec times[] = {before.st_atim, before.st_mtim};
-    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
-    EXPECT_EQ(names(), QStringList(u"one"_s)); // to all appearance unchanged, and so not read
-
-    home.makeFile(u".claude.json"_s, R"({"mcpServers": {"three": {}}})");
-    EXPECT_EQ(names(), QStringList(u"three"_s));
-    ASSERT_TRUE(QFile::remove(path));
-    EXPECT_EQ(names(), QStringList());
-}
-
-TEST_F(MCPConfigurationTest, WhatIsNoOrdinaryFileIsNeverOpened) {
-    ASSERT_EQ(mkfifo(QFile::encodeName(home.path(u".claude.json"_s)).constData(), 0600), 0);
-    home.makeFolder(u".claude/mcp.json"_s);
-    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, home.path(u"project/.mcp.json"_s)));
-    EXPECT_EQ(names(), QStringList());
-}
-
-TEST_F(MCPConfigurationTest, AFileBeyondTheBoundIsNotRead) {
-    const QByteArray servers = R"({"mcpServers": {"one": {}}})";
-    home.makeFile(u".claude.json"_s, servers.leftJustified(8 << 20));
-    EXPECT_EQ(names(), QStringList(u"one"_s));
-    home.makeFile(u".claude.json"_s, servers.leftJustified(50 << 20));
-    EXPECT_EQ(names(), QStringList());
 }

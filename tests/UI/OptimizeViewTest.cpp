@@ -89,6 +89,25 @@ TEST_F(OptimizeViewTest, ServersAndTheirOrphans) {
     EXPECT_EQ(notice(), u"No orphan MCPs to kill"_s);
 }
 
+TEST_F(OptimizeViewTest, WhatIsConfiguredIsUnknownUntilItHasBeenRead) {
+    const QString nothing = u"No ~/.claude/mcp.json found — nothing configured globally."_s;
+    home.makeFile(u".claude.json"_s, QByteArray(R"({"mcpServers": {"git": {}}})").leftJustified(1 << 20));
+    show();
+    EXPECT_EQ(shownNames<StatBox>(view).value(0), u"Configured —"_s);
+    EXPECT_FALSE(showsText(view, nothing));
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        tick();
+        return shownNames<StatBox>(view).value(0) == u"Configured 1"_s;
+    }));
+    home.makeFile(u".claude.json"_s, "{}");
+    home.makeFile(u".codex/config.toml"_s, "[mcp_servers.git]\ncommand = 'uvx'\n");
+    tick();
+    EXPECT_FALSE(showsText(view, nothing));
+    EXPECT_TRUE(QFile::remove(home.path(u".codex/config.toml"_s)));
+    tick();
+    EXPECT_TRUE(showsText(view, nothing));
+}
+
 TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     show();
     press(view, u"Pressure nudge"_s);

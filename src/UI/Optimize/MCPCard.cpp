@@ -52,13 +52,15 @@ QLayout* MCPCard::makeFigures() {
 
 void MCPCard::refresh(const MCPInspector::Report& report) {
     const int orphans = report.orphanCount();
-    m_configured->set(QString::number(report.configured.size()), Role::purple);
+    const bool isUnknown = report.configured.isEmpty() && report.isUnknown;
+    m_configured->set(isUnknown ? QStringLiteral("—") : QString::number(report.configured.size()),
+                      Role::purple);
     m_running->set(QString::number(report.live.size()), Role::blue);
     m_orphans->set(QString::number(orphans), orphans > 0 ? Role::red : Role::secondaryText);
     m_orphanRAM->set(Formatters::bytes(report.orphanBytes()), Role::red);
     m_kill->setEnabled(orphans > 0);
     showServers(report.live);
-    m_nothing->setVisible(report.configured.isEmpty());
+    m_nothing->setVisible(report.configured.isEmpty() && !isUnknown);
 }
 
 void MCPCard::showServers(const QList<MCPInspector::LiveServer>& live) {

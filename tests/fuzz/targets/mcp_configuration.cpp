@@ -1,4 +1,4 @@
-#include "Core/MCPConfiguration.h"
+#include "Core/ServerDocument.h"
 #include "fuzz/Fuzz.h"
 
 #include <QJsonArray>
@@ -6,12 +6,19 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <sstream>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 using MCPInspector::ConfiguredServer;
+using ServerDocument::Servers;
+
+Servers read(const QByteArray& text) {
+    std::stringbuf buffer(text.toStdString());
+    return ServerDocument::read(buffer, {.hasProjects = true}, u"user"_s);
+}
 
 QByteArray written(const QList<ConfiguredServer>& servers) {
     QJsonObject members;
@@ -28,16 +35,16 @@ bool isWritable(const ConfiguredServer& server) {
 
 } // namespace
 
-/// The text of a configuration file.
+/// The text of a configuration file in JSON.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QList<ConfiguredServer> servers = MCPConfiguration::parse(Fuzz::bytes(data, size), u"user"_s);
-    bool onceEach = true;
-    for (qsizetype i = 0; i < servers.size(); ++i) {
-        Fuzz::require(servers[i].scope == u"user");
-        Fuzz::require(i == 0 || servers[i - 1].name <= servers[i].name);
-        onceEach = onceEach && (i == 0 || servers[i - 1].name != servers[i].name);
+    const Servers servers = read(Fuzz::bytes(data, size));
+    for (qsizetype i = 0; i < servers.own.size(); ++i) {
+        Fuzz::require(servers.own[i].scope == u"user");
+        Fuzz::require(i == 0 || servers.own[i - 1].name < servers.own[i].name);
     }
-    if (onceEach && std::all_of(servers.begin(), servers.end(), isWritable))
-        Fuzz::require(MCPConfiguration::parse(written(servers), u"user"_s) == servers);
+    for (const ConfiguredServer& server : servers.ofProjects)
+        Fuzz::require(server.scope.startsWith(u"project "));
+    if (std::all_of(servers.own.begin(), servers.own.end(), isWritable))
+        Fuzz::require(read(written(servers.own)).own == servers.own);
     return 0;
 }
