@@ -24,7 +24,8 @@ std::optional<QStringView> valueOf(const std::array<Row, size>& rows, QStringVie
     return found == rows.end() ? std::nullopt : std::optional(found->value);
 }
 
-/// Applications without a menu entry, by executable.
+/// Applications by executable. They go before the menu, whose names differ from one maker of packages, and
+/// one language, to the next: "Chromium Web Browser", "Visual Studio Code".
 constexpr std::array applications = {
     Row{u"chrome", u"Google Chrome"},
     Row{u"msedge", u"Microsoft Edge"},
@@ -50,7 +51,16 @@ constexpr std::array applications = {
     Row{u"thunderbird-bin", u"Thunderbird"},
     Row{u"electron", u"Electron"},
     Row{u"headless_shell", u"Chrome Headless Shell"},
+    Row{u"chrome-headless-shell", u"Chrome Headless Shell"},
 };
+
+QStringView knownApplication(QStringView executable) {
+    const QStringView file = ProgramPath::lastComponent(executable);
+    // As the archives unpack that tools for tests download ("chrome-linux", "chrome-linux64").
+    if (file == u"chrome" && executable.contains(u"/chrome-linux"))
+        return u"Chromium";
+    return valueOf(applications, file).value_or(QStringView());
+}
 
 /// Values of "--type=". A process whose end takes the application with it is in no table: "zygote", "broker",
 /// "crashpad-handler", "forkserver".
@@ -100,17 +110,18 @@ std::optional<QString> chromiumRole(const QStringList& arguments) {
     return role ? std::optional(role->toString()) : std::nullopt;
 }
 
-std::optional<QString> firefoxRole(const ProcessName::Facts& facts) {
-    if (!facts.arguments.contains("-contentproc"_L1))
+std::optional<QString> firefoxRole(const QStringList& arguments, const QByteArray& shortName) {
+    if (!arguments.contains("-contentproc"_L1))
         return std::nullopt;
-    const auto role = valueOf(firefoxRoles, facts.arguments.last());
+    const auto role = valueOf(firefoxRoles, arguments.last());
     if (!role)
         return std::nullopt;
-    const QStringView name = valueOf(firefoxTitles, QString::fromUtf8(facts.shortName)).value_or(*role);
+    const QStringView name = valueOf(firefoxTitles, QString::fromUtf8(shortName)).value_or(*role);
     return u" ("_s + name.toString() + u')';
 }
 
-/// Chromium overwrites the arguments of its children with one text, words apart by blanks.
+/// Chromium, and the fork server of Firefox, overwrite the arguments of a child with one text, words apart by
+/// blanks.
 QStringList splitTitle(const QStringList& arguments) {
     return arguments.size() == 1 ? arguments.first().split(u' ', Qt::SkipEmptyParts) : arguments;
 }
@@ -126,12 +137,14 @@ std::optional<QString> helperName(const ProcessName::Facts& facts,
         return std::nullopt;
     auto role = chromiumRole(words);
     if (!role)
-        role = firefoxRole(facts);
+        role = firefoxRole(words, facts.shortName);
     if (!role)
         return std::nullopt;
-    QString application = applicationName(executable);
+    QString application = knownApplication(executable).toString();
     if (application.isEmpty())
-        application = valueOf(applications, file).value_or(file).toString();
+        application = applicationName(executable);
+    if (application.isEmpty())
+        application = file.toString();
     return application + u" Helper"_s + *role;
 }
 

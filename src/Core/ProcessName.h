@@ -18,7 +18,7 @@ struct Facts {
 };
 
 /// The name in the menu of the application that the executable is of; empty when there is none. Asked only
-/// for the child processes of browsers and the like.
+/// for the child processes of browsers and the like that this file does not know itself.
 using ApplicationName = std::function<QString(const QString& executablePath)>;
 
 /// The short name where it belongs to the program, whole; otherwise the executable's last component. The

@@ -101,6 +101,14 @@ TEST(ProcessName, IsWhatAPersonWouldCallIt) {
          "/usr/share/code/code --type=utility --utility-sub-type=node.mojom.NodeService",
          "Code Helper (Plugin)"},
         {"cursor", "/opt/cursor/cursor", "cursor --type=utility", "Cursor Helper"},
+        {"chromium", "/usr/lib/chromium/chromium", "/usr/lib/chromium/chromium~--type=broker", "chromium"},
+        {"chromium", "/usr/lib/chromium/chromium", "/usr/lib/chromium/chromium~--type=renderer~--x",
+         "Chromium Helper (Renderer)"},
+        {"chrome", "/home/u/.cache/ms-playwright/chromium-1/chrome-linux/chrome", "chrome --type=utility",
+         "Chromium Helper"},
+        {"Web Content", "/usr/lib/firefox-esr/firefox-esr",
+         "/usr/lib/firefox-esr/firefox-esr~-contentproc~-appDir~/usr/lib/firefox-esr/browser~8~tab",
+         "Firefox Helper (Web Content)"},
         {"Menu Browser", "/usr/lib/menu/menu", "menu --type=renderer", "In The Menu Helper (Renderer)"},
         {"Isolated Web Co", "/usr/lib/firefox-esr/firefox-esr",
          "firefox-esr -contentproc -childID 3 {x} 41 tab", "Firefox Helper (Isolated Web Content)"},
@@ -110,6 +118,8 @@ TEST(ProcessName, IsWhatAPersonWouldCallIt) {
         {"node", "/home/u/.vscode-server/bin/1/node", "node /bootstrap-fork --type=extensionHost", "node"},
     };
     const auto applicationName = [](const QString& path) {
+        if (path == u"/usr/lib/chromium/chromium"_s)
+            return u"Chromium-Webbrowser"_s;
         return path == u"/usr/lib/menu/menu"_s ? u"In The Menu"_s : QString();
     };
     for (const auto& [shortName, path, arguments, name] : cases) {
