@@ -161,6 +161,8 @@ private:
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
     AutoOptimizer& autoOptimizer();
     std::optional<QString> applicationOf(const ProcSample& process) const;
+    QList<ProcSample> processesOf(const QString& application) const;
+    QList<ProcSample> inTerminalsOf(const QList<ProcSample>& processes) const;
     void signalChosen(const ProcSample& chosen, bool force);
     QList<ProcSample> orphansLookedAtAgain() const;
     int signalServer(const MCPInspector::LiveServer& server, bool force);

@@ -17,7 +17,10 @@ NukePreview AppModel::previewForName(const QString& name) const {
         named.append(process);
         applications.append(applicationOf(process));
     }
-    return NukePreview::make(name, named, applications);
+    NukePreview preview = NukePreview::make(name, named, applications);
+    if (preview.parentAppName)
+        preview.inTerminals = inTerminalsOf(processesOf(*preview.parentAppName));
+    return preview;
 }
 
 /// None for this program itself and for the processes of others, which no application of the user's owns.
@@ -39,13 +42,33 @@ std::optional<QString> AppModel::applicationOf(const QList<ProcSample>& processe
     return NukePreview::common(applications);
 }
 
-NukePreview AppModel::previewForApplication(const QString& application) const {
+QList<ProcSample> AppModel::processesOf(const QString& application) const {
     QList<ProcSample> owned;
     for (const ProcSample& process : m_processes) {
         if (applicationOf(process) == application)
             owned.append(process);
     }
-    return NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
+    return owned;
+}
+
+QList<ProcSample> AppModel::inTerminalsOf(const QList<ProcSample>& processes) const {
+    QList<qint32> pids;
+    for (const ProcSample& process : processes)
+        pids.append(process.pid);
+    QList<ProcSample> found;
+    for (const qint32 pid : m_platform.applications->inTerminalsOf(pids)) {
+        if (const ProcSample* sample = process(pid))
+            found.append(*sample);
+    }
+    return found;
+}
+
+NukePreview AppModel::previewForApplication(const QString& application) const {
+    const QList<ProcSample> owned = processesOf(application);
+    NukePreview preview =
+        NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
+    preview.inTerminals = inTerminalsOf(owned);
+    return preview;
 }
 
 QString AppModel::nuke(const NukePreview& preview) {

@@ -2,19 +2,45 @@
 
 #include "Core/Formatters.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qsizetype listedPids = 20;
+constexpr qsizetype listedNames = 10;
 
 QString pidList(const QList<qint32>& pids) {
     QStringList texts;
     for (const qint32 pid : pids.first(std::min(listedPids, pids.size())))
         texts.append(QString::number(pid));
     return texts.join(u", "_s) + (pids.size() > listedPids ? u"…"_s : QString());
+}
+
+/// "bash ×2, node", in the order of the list.
+QString nameList(const QList<ProcSample>& processes) {
+    QStringList names;
+    QHash<QString, int> counts;
+    for (const ProcSample& process : processes) {
+        if (counts[process.name]++ == 0)
+            names.append(process.name);
+    }
+    const bool isCut = names.size() > listedNames;
+    names = names.first(std::min(listedNames, names.size()));
+    for (QString& name : names) {
+        if (const int count = counts.value(name); count > 1)
+            name += u" ×%1"_s.arg(count);
+    }
+    return names.join(u", "_s) + (isCut ? u"…"_s : QString());
+}
+
+quint64 rssOf(const QList<ProcSample>& processes) {
+    return std::accumulate(processes.begin(), processes.end(), quint64{0},
+                           [](quint64 sum, const ProcSample& process) { return sum + process.rssBytes; });
 }
 
 } // namespace
@@ -61,10 +87,17 @@ QString NukePreview::dialogMessage() const {
     if (parentAppName) {
         return u"Tells "_s + *parentAppName + u" to quit cleanly — closes all "_s + count +
                u" child processes in one sweep, no per-tab pop-ups. Frees ≈"_s + Formatters::bytes(totalRSS) +
-               u'.';
+               u'.' + terminalsMessage();
     }
     return u"Sends SIGTERM to all "_s + count +
            u" PIDs. Use sparingly — unsaved work in those processes may be lost.\n\nPIDs: "_s + pidList(pids);
+}
+
+QString NukePreview::terminalsMessage() const {
+    if (inTerminals.isEmpty())
+        return {};
+    return u"\n\nWhat runs in its terminals ends too (≈"_s + Formatters::bytes(rssOf(inTerminals)) +
+           u"): "_s + nameList(inTerminals) + u'.';
 }
 
 QString NukePreview::quitButton() const {

@@ -10,6 +10,7 @@ struct NukePreview {
     QList<Instant> startTimes; ///< of each, which tells it from a later process under its id
     quint64 totalRSS = 0;
     std::optional<QString> parentAppName; ///< the application that owns all of them, when there is just one
+    QList<ProcSample> inTerminals; ///< of others, which run in the application's terminals and end with it
 
     /// The application that a process belongs to, for each of a list; what is missing at its end is none.
     using Applications = QList<std::optional<QString>>;
@@ -34,4 +35,7 @@ struct NukePreview {
     /// Outcome lines.
     QString quitOutcome(const QString& appName, bool succeeded) const;
     QString killOutcome(int killed) const;
+
+private:
+    QString terminalsMessage() const;
 };

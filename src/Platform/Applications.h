@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QtGlobal>
 
@@ -23,5 +24,9 @@ public:
     virtual std::optional<Application> ofProgram(const QString& executable) = 0;
     /// The application that a running process belongs to, so that it ends when the application is quit. Empty
     /// when it belongs to none, may not be read or is gone; also in doubt, as for what runs in a terminal.
+    /// Its name is the id where programs of several applications have the name in the menu.
     virtual std::optional<Application> ofProcess(qint32 pid) = 0;
+    /// What runs in the terminals of those processes, without being of their application, and ends with them:
+    /// shells and what was started there, but for what ignores the hang-up.
+    virtual QList<qint32> inTerminalsOf(const QList<qint32>& pids) = 0;
 };

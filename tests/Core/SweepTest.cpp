@@ -84,6 +84,23 @@ TEST_F(SweepTest, AnIdThatWentToAnotherProgramMeanwhileIsLeftAlone) {
     EXPECT_EQ(signalled(), QList<qint32>{2});
 }
 
+TEST_F(SweepTest, WhatATerminalTakesAlongIsNamed) {
+    add(1, "konsole", 1 << 20);
+    add(2, "bash", 1 << 20);
+    add(3, "bash", 1 << 20);
+    add(4, "node", 1 << 20);
+    tick();
+    fakes.applications->byProcess[1] = {.id = u"org.kde.konsole"_s, .name = u"Konsole"_s};
+    fakes.applications->inTerminals[1] = {2, 4, 3, 99};
+    const QString message = u"Tells Konsole to quit cleanly — closes all 1 child processes in one sweep, no "
+                            "per-tab pop-ups. Frees ≈1 MB.\n\n"
+                            "What runs in its terminals ends too (≈3 MB): bash ×2, node."_s;
+    EXPECT_EQ(model->previewForApplication(u"Konsole"_s).dialogMessage(), message);
+    EXPECT_EQ(model->previewForName(u"konsole"_s).dialogMessage(), message);
+    EXPECT_EQ(model->previewForName(u"konsole"_s).pids, QList<qint32>{1});
+    EXPECT_TRUE(model->previewForName(u"bash"_s).inTerminals.isEmpty());
+}
+
 TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
     EXPECT_EQ(QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, false)),

@@ -131,11 +131,18 @@ class FakeApplications : public Applications {
 public:
     QHash<QString, Application> byProgram;
     QHash<qint32, Application> byProcess;
+    QHash<qint32, QList<qint32>> inTerminals; ///< by the process that holds them
 
     std::optional<Application> ofProgram(const QString& executable) override {
         return answer(byProgram, executable);
     }
     std::optional<Application> ofProcess(qint32 pid) override { return answer(byProcess, pid); }
+    QList<qint32> inTerminalsOf(const QList<qint32>& pids) override {
+        QList<qint32> all;
+        for (const qint32 pid : pids)
+            all += inTerminals.value(pid);
+        return all;
+    }
 
 private:
     template <typename Key>

@@ -227,8 +227,16 @@ const DesktopEntries::Program* DesktopEntries::ofFile(const QString& file) {
     for (QString folder = folderOf(file); isPrivate(folder); folder = folderOf(folder)) {
         if (m_byFolder.contains(folder))
             return answer(m_byFolder, folder);
+        // As /usr/lib/chromium holds what the script /usr/bin/chromium starts, and its crash handler.
+        const QString main = folder + u'/' + fileName(folder);
+        if (const Program* script = ofScriptNamedLike(main); script && QFileInfo(main).isExecutable())
+            return script;
     }
-    // What a person built in the home folder is not what an installed script of that name starts.
+    return ofScriptNamedLike(file);
+}
+
+/// What a person built in the home folder is not what an installed script of that name starts.
+const DesktopEntries::Program* DesktopEntries::ofScriptNamedLike(const QString& file) const {
     const Program* script = isInterpreter(fileName(file)) ? nullptr : answer(m_byScriptName, fileName(file));
     return script && (!isInHome(file) || isInHome(script->file)) ? script : nullptr;
 }

@@ -29,8 +29,9 @@ public:
                             std::chrono::milliseconds timeBetweenLooks = std::chrono::seconds(3));
 
     /// The entry whose program that file is; else that of a program in the same private folder, which is no
-    /// folder that several programs share; else that of a script by the same file name, which starts it. The
-    /// file need not exist. Null where none or several could be meant. Valid until the next question.
+    /// folder that several programs share; else that of a script by the same file name, which starts it, or
+    /// by the name of a private folder and the program in it. The file need not exist. Null where none or
+    /// several could be meant. Valid until the next question.
     const Program* ofFile(const QString& file);
     /// The entry whose program is exactly that file.
     const Program* ofProgram(const QString& file);
@@ -61,6 +62,7 @@ private:
     void readFile(const QString& path, const QString& id);
     void index(const DesktopEntry& entry);
     bool hasChanged() const;
+    const Program* ofScriptNamedLike(const QString& file) const;
     QString mainIdOf(const DesktopEntry& entry) const;
 
     QStringList m_folders;

@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxApplications.h"
 
 #include "Platform/Linux/ApplicationUnit.h"
+#include "Platform/Linux/TerminalSessions.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -69,7 +70,7 @@ std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
     if (executable.isEmpty())
         return std::nullopt;
     if (const auto* program = m_entries.ofFile(executable))
-        return Application{program->entry.id, program->entry.name};
+        return toldApart(program->entry);
     if (DesktopEntries::isInterpreter(fileName(executable)))
         return ofScript(folder);
     const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup"_s).toStdString());
@@ -95,7 +96,12 @@ std::optional<Application> LinuxApplications::ofSnap(const QString& name, const 
 
 Application LinuxApplications::named(const QString& id) {
     const auto* entry = m_entries.withId(id);
-    return entry ? Application{entry->id, entry->name} : Application{id, id};
+    return entry ? toldApart(*entry) : Application{id, id};
+}
+
+Application LinuxApplications::toldApart(DesktopEntry entry) {
+    const bool isUnique = m_entries.idsOf(entry.name).size() < 2;
+    return {entry.id, isUnique ? entry.name : entry.id};
 }
 
 /// The interpreter's first argument that is no option, where a script is named by its whole path.
@@ -108,7 +114,7 @@ std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
         const QString script =
             argument.startsWith('/') ? QFileInfo(QFile::decodeName(argument)).canonicalFilePath() : QString();
         const auto* program = script.isEmpty() ? nullptr : m_entries.ofProgram(script);
-        return program ? std::optional(Application{program->entry.id, program->entry.name}) : std::nullopt;
+        return program ? std::optional(toldApart(program->entry)) : std::nullopt;
     }
     return std::nullopt;
 }
@@ -117,5 +123,9 @@ std::optional<Application> LinuxApplications::ofUnit(const QString& id, const QS
     const auto* program = m_entries.ofId(id);
     if (!program || fileName(program->file) != fileName(executable))
         return std::nullopt;
-    return Application{program->entry.id, program->entry.name};
+    return toldApart(program->entry);
+}
+
+QList<qint32> LinuxApplications::inTerminalsOf(const QList<qint32>& pids) {
+    return TerminalSessions::heldBy(pids, m_root);
 }

@@ -18,6 +18,7 @@ public:
     /// In this order: the sandbox (flatpak, snap), the program, the script that an interpreter was told to
     /// run, the entry that the process's unit names where that starts a program of the same file name.
     std::optional<Application> ofProcess(qint32 pid) override;
+    QList<qint32> inTerminalsOf(const QList<qint32>& pids) override;
     /// See DesktopEntries::idsOf.
     QStringList idsOf(const QString& text) { return m_entries.idsOf(text); }
 
@@ -27,6 +28,7 @@ private:
     std::optional<Application> ofUnit(const QString& id, const QString& executable);
     std::optional<Application> ofSnap(const QString& name, const QString& executable);
     Application named(const QString& id);
+    Application toldApart(DesktopEntry entry);
 
     DesktopEntries m_entries;
     QString m_root;

@@ -19,6 +19,8 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     // Numbered as in proc(5), where the parent is the fourth.
     enum {
         ppid = 4,
+        session = 6,
+        terminal = 7,
         flags = 9,
         utime = 14,
         stime = 15,
@@ -38,6 +40,8 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     return ProcStat{
         .name = QByteArray(name.data(), static_cast<qsizetype>(name.size())),
         .parentPid = static_cast<qint32>(field[ppid]),
+        .session = static_cast<qint32>(field[session]),
+        .terminal = static_cast<qint32>(field[terminal]),
         .flags = static_cast<quint32>(field[flags]),
         .cpuTicks = static_cast<quint64>(field[utime]) + static_cast<quint64>(field[stime]),
         .threads = static_cast<int>(std::clamp<qint64>(field[threads], 0, std::numeric_limits<int>::max())),

@@ -9,6 +9,8 @@
 struct ProcStat {
     QByteArray name; ///< as in `/proc/N/comm`
     qint32 parentPid = 0;
+    qint32 session = 0;   ///< the id of the process that leads it
+    qint32 terminal = 0;  ///< the controlling terminal's device number; 0 for none
     quint32 flags = 0;    ///< the kernel's PF_ bits
     quint64 cpuTicks = 0; ///< utime + stime, in clock ticks
     int threads = 0;
