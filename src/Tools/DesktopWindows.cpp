@@ -1,10 +1,9 @@
 #include "Tools/DesktopWindows.h"
 
-#include <unistd.h>
+#include <xcb/res.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
-#include <climits>
 #include <cstdlib>
 #include <cstring>
 
@@ -17,17 +16,6 @@ template <typename Reply> using Owned = std::unique_ptr<Reply, Free>;
 
 template <typename Reply> Owned<Reply> owned(Reply* reply) {
     return Owned<Reply>(reply);
-}
-
-std::string hostName() {
-    char name[HOST_NAME_MAX + 1] = {};
-    gethostname(name, HOST_NAME_MAX);
-    return name;
-}
-
-/// `text` up to its first NUL, from `start` on.
-std::string part(const std::string& text, size_t start) {
-    return start < text.size() ? std::string(text.c_str() + start) : std::string();
 }
 
 bool contains(const std::vector<std::uint32_t>& words, std::uint32_t word) {
@@ -92,14 +80,20 @@ std::vector<std::uint32_t> DesktopWindows::shownChildren() {
     return shown;
 }
 
-DesktopWindow DesktopWindows::describe(std::uint32_t id) {
-    const std::string names = property(id, "WM_CLASS");
-    DesktopWindow window{.id = id, .instance = part(names, 0), .className = {}, .pid = {}};
-    window.className = part(names, window.instance.size() + 1);
-    const auto pid = words(id, "_NET_WM_PID");
-    if (!pid.empty() && part(property(id, "WM_CLIENT_MACHINE"), 0) == hostName())
-        window.pid = static_cast<pid_t>(pid.front());
-    return window;
+/// The server has it from the kernel; what a client says of itself (_NET_WM_PID) may be any number.
+std::optional<pid_t> DesktopWindows::ownerOf(std::uint32_t window) {
+    const auto* extension = xcb_get_extension_data(m_connection, &xcb_res_id);
+    if (!extension || !extension->present) // a question to it would end the connection
+        return std::nullopt;
+    const xcb_res_client_id_spec_t question{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    const auto cookie = xcb_res_query_client_ids(m_connection, 1, &question);
+    const auto reply = owned(xcb_res_query_client_ids_reply(m_connection, cookie, nullptr));
+    if (!reply || reply->num_ids != 1)
+        return std::nullopt;
+    const auto* id = xcb_res_query_client_ids_ids_iterator(reply.get()).data;
+    if (xcb_res_client_id_value_value_length(id) != 1)
+        return std::nullopt;
+    return static_cast<pid_t>(*xcb_res_client_id_value_value(id));
 }
 
 std::vector<DesktopWindow> DesktopWindows::list() {
@@ -110,7 +104,7 @@ std::vector<DesktopWindow> DesktopWindows::list() {
     const auto manager = words(m_root, "_NET_SUPPORTING_WM_CHECK");
     const bool isManaged = !manager.empty() && words(manager.front(), "_NET_SUPPORTING_WM_CHECK") == manager;
     for (const auto id : isManaged ? words(m_root, "_NET_CLIENT_LIST") : shownChildren())
-        windows.push_back(describe(id));
+        windows.push_back({.id = id, .pid = ownerOf(id)});
     return windows;
 }
 
@@ -136,11 +130,6 @@ void DesktopWindows::close(std::uint32_t window) {
     else if (contains(words(window, "WM_PROTOCOLS"), atom("WM_DELETE_WINDOW")))
         send(window, XCB_EVENT_MASK_NO_EVENT, window, "WM_PROTOCOLS", atom("WM_DELETE_WINDOW"),
              XCB_CURRENT_TIME);
-}
-
-void DesktopWindows::cutOff(std::uint32_t window) {
-    xcb_kill_client(m_connection, window);
-    xcb_flush(m_connection);
 }
 
 } // namespace Tools

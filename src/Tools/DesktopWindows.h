@@ -16,10 +16,7 @@ namespace Tools {
 /// A window that a person sees as one.
 struct DesktopWindow {
     std::uint32_t id = 0;
-    std::string instance;  ///< WM_CLASS, first part
-    std::string className; ///< WM_CLASS, second part
-    std::optional<pid_t>
-        pid; ///< _NET_WM_PID: what the client says of itself; only of clients on this machine
+    std::optional<pid_t> pid; ///< of the client on this machine that shows it, as the X server knows it
 
     bool operator==(const DesktopWindow&) const = default;
 };
@@ -37,15 +34,13 @@ public:
     std::vector<DesktopWindow> list();
     /// Asks the window's program to close it; it may ask back, or refuse.
     void close(std::uint32_t window);
-    /// Cuts the program that shows the window off from the display, which ends most programs.
-    void cutOff(std::uint32_t window);
 
 private:
     std::uint32_t atom(const std::string& name);
     std::string property(std::uint32_t window, const std::string& name);
     std::vector<std::uint32_t> words(std::uint32_t window, const std::string& name);
     std::vector<std::uint32_t> shownChildren();
-    DesktopWindow describe(std::uint32_t id);
+    std::optional<pid_t> ownerOf(std::uint32_t window);
     void send(std::uint32_t target, std::uint32_t mask, std::uint32_t window, const std::string& type,
               std::uint32_t first, std::uint32_t second);
 

@@ -1,7 +1,8 @@
 #include "Tools/UserProcess.h"
 
+#include "Platform/Linux/ProcStat.h"
+
 #include <poll.h>
-#include <strings.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -27,10 +28,10 @@ std::string linkTarget(const std::string& link) {
     return target;
 }
 
-std::string firstLine(const std::string& file) {
-    std::string line;
-    std::getline(std::ifstream(file), line);
-    return line;
+std::string textOf(const std::string& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
 }
 
 /// The figure behind `key` in `status` (proc(5)); of several the first.
@@ -54,11 +55,6 @@ std::string_view lastComponent(std::string_view path) {
     return path.substr(path.rfind('/') + 1);
 }
 
-std::string_view outermostBundle(std::string_view path) {
-    const auto end = path.find(bundleEnding);
-    return end == std::string_view::npos ? std::string_view() : lastComponent(path.substr(0, end));
-}
-
 } // namespace
 
 namespace Tools {
@@ -70,16 +66,16 @@ UserProcess::UserProcess(pid_t pid, int descriptor)
 UserProcess::UserProcess(UserProcess&& other) noexcept
     : m_pid(other.m_pid)
     , m_parentPid(other.m_parentPid)
+    , m_startTicks(other.m_startTicks)
     , m_descriptor(std::exchange(other.m_descriptor, -1))
-    , m_executable(std::move(other.m_executable))
-    , m_command(std::move(other.m_command)) {}
+    , m_executable(std::move(other.m_executable)) {}
 
 UserProcess& UserProcess::operator=(UserProcess&& other) noexcept {
     std::swap(m_pid, other.m_pid);
     std::swap(m_parentPid, other.m_parentPid);
+    std::swap(m_startTicks, other.m_startTicks);
     std::swap(m_descriptor, other.m_descriptor);
     std::swap(m_executable, other.m_executable);
-    std::swap(m_command, other.m_command);
     return *this;
 }
 
@@ -97,22 +93,24 @@ std::optional<UserProcess> UserProcess::open(pid_t pid) {
     if (!isOwn(folder))
         return std::nullopt;
     process.m_executable = linkTarget(folder + "exe");
-    process.m_command = firstLine(folder + "comm");
-    process.m_parentPid = static_cast<pid_t>(statusFigure(folder, "PPid:"));
+    if (const auto stat = ProcStat::parse(textOf(folder + "stat"))) {
+        process.m_parentPid = stat->parentPid;
+        process.m_startTicks = stat->startTicks;
+    }
     // Alive after the reading, so that what was read is of the process that the descriptor holds.
     if (process.m_executable.empty() || process.hasEnded())
         return std::nullopt;
     return process;
 }
 
-bool UserProcess::belongsTo(std::string_view application) const {
-    const std::string bundle = '/' + std::string(application) + std::string(bundleEnding);
-    return m_executable.find(bundle) != std::string::npos;
+std::string_view UserProcess::programName() const {
+    return lastComponent(m_executable);
 }
 
-bool UserProcess::isCalled(std::string_view name) const {
-    return equalNames(m_command, name) || equalNames(lastComponent(m_executable), name) ||
-           equalNames(outermostBundle(m_executable), name);
+std::string_view UserProcess::bundle() const {
+    const std::string_view path = m_executable;
+    const auto end = path.find(bundleEnding);
+    return end == std::string_view::npos ? std::string_view() : lastComponent(path.substr(0, end));
 }
 
 bool UserProcess::hasEnded() const {
@@ -136,11 +134,6 @@ std::vector<UserProcess> userProcesses(const std::function<bool(const UserProces
             processes.push_back(std::move(*process));
     }
     return processes;
-}
-
-bool equalNames(std::string_view left, std::string_view right) {
-    return !left.empty() && left.size() == right.size() &&
-           strncasecmp(left.data(), right.data(), left.size()) == 0;
 }
 
 } // namespace Tools

@@ -22,13 +22,15 @@ public:
     pid_t pid() const { return m_pid; }
     /// As it was when the process was opened.
     pid_t parentPid() const { return m_parentPid; }
+    /// Since boot, in clock ticks.
+    unsigned long long startTicks() const { return m_startTicks; }
     /// The path of the program it runs.
     const std::string& executable() const { return m_executable; }
 
-    /// Whether it runs from the bundle NAME.app.
-    bool belongsTo(std::string_view application) const;
-    /// Whether its own name, its program's or its outermost bundle's is `name`, letter case aside.
-    bool isCalled(std::string_view name) const;
+    /// Its program's file name.
+    std::string_view programName() const;
+    /// The outermost bundle NAME.app that it runs from, without the ending; empty outside any.
+    std::string_view bundle() const;
 
     bool hasEnded() const;
     void signal(int number) const;
@@ -38,15 +40,12 @@ private:
 
     pid_t m_pid;
     pid_t m_parentPid = 0;
+    unsigned long long m_startTicks = 0;
     int m_descriptor;
     std::string m_executable;
-    std::string m_command; ///< proc(5), comm: 15 bytes at most
 };
 
 /// The processes of this user that `isWanted`.
 std::vector<UserProcess> userProcesses(const std::function<bool(const UserProcess&)>& isWanted);
-
-/// ASCII letters compare without case.
-bool equalNames(std::string_view left, std::string_view right);
 
 } // namespace Tools

@@ -1,3 +1,4 @@
+#include "Platform/Linux/LinuxApplications.h"
 #include "Tools/AppleScript.h"
 #include "Tools/Purge.h"
 #include "Tools/QuitApplication.h"
@@ -24,6 +25,8 @@ const char* complaint(QuitOutcome outcome) {
     switch (outcome) {
     case QuitOutcome::NotFound:
         return "application not found";
+    case QuitOutcome::Ambiguous:
+        return "several applications of that name are running";
     case QuitOutcome::StillRunning:
         return "application did not quit";
     case QuitOutcome::Quit:
@@ -50,7 +53,9 @@ int main(int argc, char** argv) {
     if (script->verb == AppleScript::Verb::Purge)
         return Tools::runAsAdministrator(purgeTool(), "/usr/bin/pkexec");
     const bool forced = script->verb == AppleScript::Verb::QuitWithoutSaving;
-    if (const char* text = complaint(Tools::quitApplication(script->application, forced))) {
+    LinuxApplications applications;
+    const QString name = QString::fromStdString(script->application);
+    if (const char* text = complaint(Tools::quitApplication(name, forced, applications))) {
         std::cerr << "osascript: " << text << '\n';
         return 1;
     }

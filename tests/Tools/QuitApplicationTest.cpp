@@ -1,5 +1,6 @@
 #include "Tools/QuitApplication.h"
 
+#include "Platform/Linux/LinuxApplications.h"
 #include "Tools/DesktopWindows.h"
 
 #include <QCoreApplication>
@@ -16,7 +17,6 @@
 #include <sys/prctl.h>
 
 #include <memory>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,9 +26,9 @@ namespace {
 using Tools::QuitOutcome;
 
 constexpr Tools::QuitPatience shortPatience{
-    .afterClosing = 5s, .beforeForce = 300ms, .afterEachSignal = 300ms};
+    .afterAsking = 5s, .beforeForce = 300ms, .withoutWindow = 300ms, .afterEachSignal = 300ms};
 constexpr Tools::QuitPatience noPatience{
-    .afterClosing = 300ms, .beforeForce = 300ms, .afterEachSignal = 300ms};
+    .afterAsking = 300ms, .beforeForce = 300ms, .withoutWindow = 5s, .afterEachSignal = 300ms};
 
 struct End {
     void operator()(QProcess* process) const {
@@ -88,26 +88,41 @@ protected:
     }
 
     /// Starts the test's windowed program, copied to `path`, and waits for its window to be listed.
-    Program show(const QString& path, const QString& name, const QString& manner,
-                 const QStringList& more = {}) {
+    Program show(const QString& path, const QString& manner, const QStringList& more = {}) {
         const auto program = install(path, QCoreApplication::applicationDirPath() + u"/window_app"_s);
         Program process;
         bool listed = false;
         // A window manager that is just starting may miss a window.
         for (int tries = 0; tries < 5 && !listed; ++tries) {
-            process = spawn(program, QStringList({name, manner}) + more);
-            listed = QTest::qWaitFor([&] { return isListed(name.toStdString()); }, 4000);
+            process = spawn(program, QStringList({u"Window"_s, manner}) + more);
+            listed = QTest::qWaitFor([&] { return hasWindow(*process); }, 4000);
         }
-        EXPECT_TRUE(listed) << qPrintable(name);
+        EXPECT_TRUE(listed) << qPrintable(path);
         return process;
     }
 
-    static bool isListed(const std::string& name) {
+    static bool hasWindow(const QProcess& process) {
         for (const auto& window : Tools::DesktopWindows().list()) {
-            if (window.className == name)
+            if (window.pid == process.processId())
                 return true;
         }
         return false;
+    }
+
+    /// Adds an application to the menu.
+    void list(const QString& id, const QString& name, const QString& program) {
+        QDir().mkpath(m_folder.filePath(u"data/applications"_s));
+        QFile entry(m_folder.filePath(u"data/applications/"_s + id + u".desktop"_s));
+        ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
+        entry.write(
+            u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2 %u\n"_s.arg(name, program).toUtf8());
+    }
+
+    QString data() const { return m_folder.filePath(u"data"_s); }
+
+    QuitOutcome quit(const QString& name, bool forced, const Tools::QuitPatience& patience) {
+        LinuxApplications applications{DesktopEntries({m_folder.filePath(u"data/applications"_s)})};
+        return Tools::quitApplication(name, forced, applications, patience);
     }
 
     /// A process without a window.
@@ -124,106 +139,122 @@ private:
 } // namespace
 
 TEST_P(QuitApplication, ClosesTheWindowsOfTheOneThatIsNamed) {
-    const auto byClass = show(u"one"_s, u"ByClass"_s, u"polite"_s);
-    const auto byProgram = show(u"ByProgram"_s, u"Two"_s, u"polite"_s);
-    const auto byBundle = show(u"ByBundle.app/Contents/three"_s, u"Three"_s, u"polite"_s);
-    const auto other = show(u"ByClasses.app/four"_s, u"ByClasses"_s, u"polite"_s);
+    const auto byBundle = show(u"ByBundle.app/Contents/one"_s, u"polite"_s);
+    const auto byEntry = show(u"two"_s, u"polite"_s);
+    const auto other = show(u"ByBundles.app/ByBundle"_s, u"polite"_s);
+    list(u"org.example.two"_s, u"By Entry"_s, byEntry->program());
     for (const auto& [name, process] :
-         {std::pair("byclass", byClass.get()), //
-          std::pair("byprogram", byProgram.get()), std::pair("ByBundle", byBundle.get())}) {
-        EXPECT_EQ(Tools::quitApplication(name, false, shortPatience), QuitOutcome::Quit) << name;
-        EXPECT_EQ(endOf(*process), 0) << name;
+         {std::pair(u"ByBundle"_s, byBundle.get()), std::pair(u"By Entry"_s, byEntry.get())}) {
+        EXPECT_EQ(quit(name, false, shortPatience), QuitOutcome::Quit) << qPrintable(name);
+        EXPECT_EQ(endOf(*process), 0) << qPrintable(name);
     }
     EXPECT_TRUE(isRunning(*other));
 }
 
 TEST_P(QuitApplication, LeavesOneThatRefusesUnlessItIsForced) {
-    const auto refusing = show(u"Notes.app/Contents/notes"_s, u"Writer"_s, u"stubborn"_s);
+    const auto refusing = show(u"Notes.app/Contents/notes"_s, u"stubborn"_s);
     const auto helper = sleeper(u"Notes.app/Contents/Helper.app/helper"_s);
-    const auto stranger = sleeper(u"Notes"_s + u"2.app/helper"_s);
+    const auto stranger = sleeper(u"Notes2.app/helper"_s);
+    const auto namesake = sleeper(u"Notes"_s);
 
-    EXPECT_EQ(Tools::quitApplication("Notes", false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_EQ(quit(u"Notes"_s, false, noPatience), QuitOutcome::StillRunning);
     EXPECT_TRUE(isRunning(*refusing) && isRunning(*helper));
 
-    EXPECT_EQ(Tools::quitApplication("Notes", true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Notes"_s, true, shortPatience), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*refusing), -SIGKILL);
     EXPECT_EQ(endOf(*helper), -SIGTERM);
-    EXPECT_TRUE(isRunning(*stranger));
+    EXPECT_TRUE(isRunning(*stranger) && isRunning(*namesake));
 }
 
-TEST_P(QuitApplication, NeverBelievesAWindowThatNamesAStranger) {
-    const auto stranger = sleeper(u"stranger"_s);
-    const auto claiming =
-        show(u"claimant"_s, u"Claiming"_s, u"stubborn"_s, {QString::number(stranger->processId())});
-    EXPECT_EQ(Tools::quitApplication("Claiming", true, shortPatience), QuitOutcome::Quit);
-    EXPECT_FALSE(isListed("Claiming"));
-    EXPECT_TRUE(isRunning(*stranger));
+TEST_P(QuitApplication, NeverBelievesWhatAWindowSaysOfItsProcess) {
+    const auto hidden = sleeper(u"Meant.app/meant"_s);
+    const auto claiming = show(u"claimant"_s, u"polite"_s, {QString::number(hidden->processId())});
+    EXPECT_EQ(quit(u"Meant"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(endOf(*hidden), -SIGTERM);
+    EXPECT_TRUE(isRunning(*claiming));
 }
 
-TEST_P(QuitApplication, LeavesAProgramThatGotTheIdOfAClosedWindow) {
-    const auto closing = show(u"Old.app/old"_s, u"Old"_s, u"polite"_s);
-    const auto helper = sleeper(u"Old.app/helper"_s); // for which it waits before it uses force
-    QuitOutcome outcome = QuitOutcome::NotFound;
-    std::thread quitting([&outcome] {
-        outcome = Tools::quitApplication("Old", true, {.beforeForce = 2s, .afterEachSignal = 1s});
-    });
-    EXPECT_EQ(endOf(*closing), 0);
-    const auto next = show(u"next"_s, u"Next"_s, u"polite"_s);
-    EXPECT_TRUE(isRunning(*helper)) << "too late for the test";
-    quitting.join();
-    EXPECT_EQ(outcome, QuitOutcome::Quit);
-    EXPECT_TRUE(isRunning(*next));
+TEST_P(QuitApplication, OneThatOnlyWentToTheTrayGetsASignal) {
+    const auto hiding = show(u"Chat.app/chat"_s, u"hiding"_s);
+    EXPECT_EQ(quit(u"Chat"_s, false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_FALSE(hasWindow(*hiding)) << "the test needs one that hides";
+    EXPECT_TRUE(isRunning(*hiding)) << "it may still be closing";
+    hiding->kill();
+    const auto again = show(u"Chat2.app/chat"_s, u"hiding"_s);
+    EXPECT_EQ(quit(u"Chat2"_s, false, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(endOf(*again), -SIGTERM);
+
+    const auto asking = show(u"Editor.app/editor"_s, u"stubborn"_s);
+    EXPECT_EQ(quit(u"Editor"_s, false, {.afterAsking = 600ms, .withoutWindow = 100ms}),
+              QuitOutcome::StillRunning);
+    EXPECT_TRUE(isRunning(*asking));
 }
 
 TEST_P(QuitApplication, ASignalEndsOneWithoutAWindowAndNoNamesake) {
     const auto hidden = sleeper(u"Hidden.app/hidden"_s);
-    EXPECT_EQ(Tools::quitApplication("Nowhere", false, noPatience), QuitOutcome::NotFound);
-    EXPECT_EQ(Tools::quitApplication("Nowhere", true, noPatience), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Nowhere"_s, false, noPatience), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Nowhere"_s, true, noPatience), QuitOutcome::NotFound);
     const auto namesake = sleeper(u"Hidden"_s); // is called like it, and nothing of it
-    EXPECT_EQ(Tools::quitApplication("Hidden", false, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Hidden"_s, false, shortPatience), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*hidden), -SIGTERM);
-    EXPECT_EQ(Tools::quitApplication("Hidden", true, shortPatience), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Hidden"_s, true, shortPatience), QuitOutcome::NotFound);
     EXPECT_TRUE(isRunning(*namesake));
+}
+
+TEST_P(QuitApplication, TheSignalIsForTheMainProcessNotForACrashHandler) {
+    const auto main = sleeper(u"Tree.app/main"_s);
+    QTest::qWait(50); // more than a tick of the kernel's clock
+    const auto handler = sleeper(u"Tree.app/handler"_s);
+    const auto second = spawn(main->program(), {u"60"_s});
+    EXPECT_EQ(quit(u"Tree"_s, false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_EQ(endOf(*main), -SIGTERM);
+    EXPECT_EQ(endOf(*second), -SIGTERM) << "another profile of the same application";
+    EXPECT_TRUE(isRunning(*handler));
 }
 
 TEST_P(QuitApplication, AMenuNameMeansTheProgramsOfItsEntryAlone) {
-    const QTemporaryDir data;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
-    const auto main = show(u"opt/notes/notes"_s, u"Writer"_s, u"polite"_s);
+    const auto main = show(u"opt/notes/notes"_s, u"polite"_s);
     const auto helper = sleeper(u"opt/notes/notes-helper"_s);
-    const auto namesake = show(u"elsewhere/notes"_s, u"Night Notes"_s, u"polite"_s);
-    QDir(data.path()).mkpath(u"applications"_s);
-    QFile entry(data.filePath(u"applications/org.example.Notes.desktop"_s));
-    ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
-    entry.write("[Desktop Entry]\nType=Application\nName=Night Notes\nExec=" +
-                QFile::encodeName(main->program()) + " %u\n");
-    entry.close();
-    EXPECT_EQ(Tools::quitApplication("Night Notes", true, shortPatience), QuitOutcome::Quit);
+    const auto namesake = show(u"elsewhere/notes"_s, u"polite"_s);
+    list(u"org.example.Notes"_s, u"Night Notes"_s, main->program());
+    EXPECT_EQ(quit(u"Night Notes"_s, true, shortPatience), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*main), 0);
     EXPECT_EQ(endOf(*helper), -SIGTERM);
     EXPECT_TRUE(isRunning(*namesake));
-    qunsetenv("XDG_DATA_HOME");
+}
+
+TEST_P(QuitApplication, OfTwoOfOneNameTheIdSaysWhich) {
+    const auto one = show(u"one"_s, u"polite"_s);
+    const auto two = show(u"two"_s, u"polite"_s);
+    list(u"org.example.one"_s, u"Notes"_s, one->program());
+    list(u"org.example.two"_s, u"Notes"_s, two->program());
+    EXPECT_EQ(quit(u"Notes"_s, true, noPatience), QuitOutcome::Ambiguous);
+    EXPECT_EQ(quit(u"org.example.one"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(endOf(*one), 0);
+    EXPECT_TRUE(isRunning(*two));
 }
 
 TEST_P(QuitApplication, IsWhatTheProgramDoes) {
-    const auto quit = [](const QString& script) {
+    const auto tell = [](const QString& script) {
         QProcess tool;
         tool.start(QCoreApplication::applicationDirPath() + u"/../libexec/tavrin/osascript"_s,
                    {u"-e"_s, script});
         tool.waitForFinished();
         return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
     };
-    const auto quoted = show(u"quoted"_s, u"Say \"hi\""_s, u"polite"_s);
-    EXPECT_EQ(quit(u"tell application \"Say \\\"hi\\\"\" to quit"_s), 0);
+    const auto quoted = show(u"Say \"hi\".app/say"_s, u"polite"_s);
+    EXPECT_EQ(tell(u"tell application \"Say \\\"hi\\\"\" to quit"_s), 0);
     EXPECT_EQ(endOf(*quoted), 0);
-    EXPECT_EQ(quit(u"tell application \"Say \\\"hi\\\"\" to quit"_s), 1);
+    EXPECT_EQ(tell(u"tell application \"Say \\\"hi\\\"\" to quit"_s), 1);
 
-    const auto refusing = show(u"refusing"_s, u"Refusing"_s, u"stubborn"_s);
-    EXPECT_EQ(quit(u"tell application \"Refusing\" to quit saving no"_s), 0);
-    EXPECT_FALSE(isListed("Refusing"));
+    const auto refusing = show(u"Refusing.app/refusing"_s, u"stubborn"_s);
+    EXPECT_EQ(tell(u"tell application \"Refusing\" to quit saving no"_s), 0);
+    EXPECT_EQ(endOf(*refusing), -SIGKILL);
 
-    const QString own = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    EXPECT_EQ(quit(u"tell application \"%1\" to quit saving no"_s.arg(own)), 1) << "its own parent";
+    list(u"parent"_s, u"Parent"_s, QCoreApplication::applicationFilePath());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(data()));
+    EXPECT_EQ(tell(u"tell application \"Parent\" to quit saving no"_s), 1) << "its own parent";
+    qunsetenv("XDG_DATA_HOME");
 }
 
 INSTANTIATE_TEST_SUITE_P(Desktop, QuitApplication, testing::Values("", "openbox"),
@@ -232,5 +263,6 @@ INSTANTIATE_TEST_SUITE_P(Desktop, QuitApplication, testing::Values("", "openbox"
 TEST(WithoutADisplay, NoWindowIsFound) {
     qputenv("DISPLAY", ":4294967295");
     EXPECT_TRUE(Tools::DesktopWindows().list().empty());
-    EXPECT_EQ(Tools::quitApplication("Nowhere", false), QuitOutcome::NotFound);
+    LinuxApplications applications;
+    EXPECT_EQ(Tools::quitApplication(u"Nowhere"_s, false, applications), QuitOutcome::NotFound);
 }

@@ -37,8 +37,8 @@ public:
         set("WM_PROTOCOLS", XCB_ATOM_ATOM, 32, 1, &closing);
     }
 
-    /// Shows the window until it is asked to close, or for good.
-    void run(bool isStubborn) {
+    /// Shows the window until it is asked to close, or runs for good.
+    void run(bool isStubborn, bool hides) {
         xcb_map_window(m_connection, m_id);
         xcb_flush(m_connection);
         while (auto* event = xcb_wait_for_event(m_connection)) {
@@ -47,6 +47,9 @@ public:
             if (type == XCB_MAP_NOTIFY) {
                 std::puts("shown");
                 std::fflush(stdout);
+            } else if (type == XCB_CLIENT_MESSAGE && hides) {
+                xcb_unmap_window(m_connection, m_id);
+                xcb_flush(m_connection);
             } else if (type == XCB_CLIENT_MESSAGE && !isStubborn) {
                 return;
             }
@@ -76,9 +79,9 @@ private:
 
 } // namespace
 
-/// An application with one window: window_app CLASS polite|stubborn [PID]. It says "shown" once it is; a
-/// stubborn one ignores the request to close, SIGTERM and the end of its display. PID is what it claims its
-/// process to be.
+/// An application with one window: window_app CLASS polite|hiding|stubborn [PID]. It says "shown" once it is;
+/// one that hides puts the window away when asked to close, as for the tray; a stubborn one ignores the
+/// request, SIGTERM and the end of its display. PID is what it claims its process to be.
 int main(int argc, char** argv) {
     if (argc < 3)
         return 2;
@@ -89,5 +92,5 @@ int main(int argc, char** argv) {
     Window window;
     window.describe(argv[1], argc > 3 ? static_cast<std::uint32_t>(std::atoi(argv[3]))
                                       : static_cast<std::uint32_t>(getpid()));
-    window.run(isStubborn);
+    window.run(isStubborn, std::string(argv[2]) == "hiding");
 }
