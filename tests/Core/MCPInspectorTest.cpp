@@ -94,6 +94,8 @@ TEST(MCPInspectorTest, EveryHostCountsUnderTheNamesItHasHere) {
         {"code-insiders", "code-insiders", "/usr/share/code-insiders/code-insiders"},
         {"codium", "codium", "/usr/share/codium/codium"},
         {"node", "node out/server-main.js", "/home/u/.vscode-server/cli/servers/x/server/node"},
+        {"node", "node out/server-main.js", "/home/u/.vscodium-server/bin/x/node"},
+        {"node", "node out/node/entry.js", "/usr/lib/code-server/lib/node"},
         {"cursor", "cursor", "/opt/cursor/cursor"},
         {"windsurf", "windsurf", "/usr/share/windsurf/windsurf"},
         {"trae", "trae", "/usr/share/trae/trae"},

@@ -47,5 +47,7 @@ TEST_F(ReliefTest, AChosenProcessIsTheOneThatWasShownThen) {
     EXPECT_TRUE(signalSender->sent().isEmpty());
     EXPECT_EQ(logged(), QStringList(u"forceKill pid=7 fail"_s));
     model->quitProcess(model->processes().first());
-    EXPECT_EQ(signalled(), QList<qint32>{7});
+    model->forceKillProcess(model->processes().first());
+    EXPECT_EQ(signalSender->sent(),
+              (QList<FakeSignals::Sent>{{7, Signal::terminate, 2}, {7, Signal::kill, 2}}));
 }
