@@ -16,10 +16,13 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <fcntl.h>
@@ -68,9 +71,17 @@ constexpr Part parts[] = {
 /// The machine's own /tmp is not what is measured.
 class BenchPlaces : public LinuxPlaces {
 public:
-    QStringList locate(const QString& path) const override {
+    QList<Place> locate(const QString& path) const override {
         return LinuxPlaces::locate(path == u"/tmp" ? u"~/tmp"_s : path);
     }
+};
+
+/// Nobody can make a file that changed its status long ago, so the scan takes place later.
+class BenchClock : public SystemClock {
+public:
+    static constexpr auto ahead = std::chrono::hours(24 * 400);
+
+    std::chrono::system_clock::time_point now() override { return SystemClock::now() + ahead; }
 };
 
 void makeHome(const std::string& home) {
@@ -82,31 +93,32 @@ void makeHome(const std::string& home) {
                 std::filesystem::create_directories(folder);
             const std::string path = folder + "/Screen file " + std::to_string(i);
             const int file = open(path.c_str(), O_CREAT | O_WRONLY, 0600);
-            const timespec longAgo[] = {{1000000000, 0}, {1000000000, 0}};
-            if (part.old)
-                futimens(file, longAgo);
+            if (std::string_view(part.folder) == "Desktop")
+                static_cast<void>(!write(file, "\x89PNG\r\n\x1a\n", 8));
+            constexpr std::chrono::seconds ahead = BenchClock::ahead;
+            const std::time_t written = part.old ? 1000000000 : std::time(nullptr) + ahead.count();
+            const timespec times[] = {{written, 0}, {written, 0}};
+            futimens(file, times);
             close(file);
         }
     }
 }
 
 /// One background job a target, its own commands one after another.
-QString script(const QList<CacheTarget>& measured, const QString& home) {
+QString script(const QList<CacheTarget>& measured) {
     const auto quoted = [](const QString& path) { return u"'"_s + path + u"'"_s; };
     QString text;
     for (const CacheTarget& target : measured) {
         QStringList commands;
-        if (const auto old = CleanupPlan::oldFiles(target.name)) {
-            const QString root = old->root == u"/tmp" ? u"/tmp"_s : old->root.mid(1);
-            QStringList arguments = old->findArguments(quoted(home + root));
-            if (!old->namePattern.isEmpty())
-                arguments.last() = quoted(arguments.last());
-            commands.append(u"/usr/bin/find "_s + arguments.join(u' ') + u" -print0"_s);
-        } else if (target.name == u"Docker") {
+        if (target.rule.measure == CleanupRule::Measure::containers)
             commands.append(u"/bin/sh -lc 'command -v docker >/dev/null 2>&1 && docker system df || true'"_s);
-        } else {
-            for (const CacheEntry& entry : target.details)
-                commands.append(u"/usr/bin/du -sk -x "_s + quoted(entry.path));
+        for (const ListedFolder& folder : target.listed) {
+            if (target.rule.measure == CleanupRule::Measure::folders)
+                commands.append(u"/usr/bin/du -sk -x "_s + quoted(folder.path));
+            else
+                commands.append(u"/usr/bin/find %1 -type f -mtime +%2 %3 -print0"_s.arg(
+                    quoted(folder.path), QString::number(target.rule.olderThanDays),
+                    target.rule.screenshotsOnly ? u"-name 'Screen*'"_s : QString()));
         }
         if (!commands.isEmpty())
             text += u"("_s + commands.join(u"; "_s) + u") >/dev/null &\n"_s;
@@ -125,14 +137,14 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QTemporaryDir home(QDir::currentPath() + u"/scan_bench-XXXXXX"_s);
     qputenv("HOME", QFile::encodeName(home.path()));
-    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         qunsetenv(variable);
     makeHome(home.path().toStdString());
 
     Platform platform;
     platform.tools = std::make_shared<LinuxToolRunner>();
     platform.places = std::make_shared<BenchPlaces>();
-    platform.clock = std::make_shared<SystemClock>();
+    platform.clock = std::make_shared<BenchClock>();
 
     QList<CacheTarget> measured;
     QString commands;
@@ -144,7 +156,7 @@ int main(int argc, char** argv) {
         measured = QCoro::waitFor(scanner.scan(CacheTarget::defaults()));
         const double scanned = static_cast<double>(timer.restart()) / 1000;
         if (round == 0)
-            commands = script(measured, home.path());
+            commands = script(measured);
         timer.restart();
         QProcess::execute(u"/bin/sh"_s, {u"-c"_s, commands});
         const double ran = static_cast<double>(timer.elapsed()) / 1000;

@@ -3,6 +3,7 @@
 #include "Core/AutoOptimizer.h"
 #include "Core/Cleaner.h"
 #include "Core/CleanupProgress.h"
+#include "Core/CleanupReport.h"
 #include "Core/FreeRAM.h"
 #include "Core/MCPConfiguration.h"
 #include "Core/MemoryTools.h"
@@ -20,6 +21,7 @@
 
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <utility>
 
 class Preferences;
@@ -52,6 +54,7 @@ public:
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
     /// Empty while nothing is being cleaned; cleans that run at the same time are counted together.
     const std::optional<CleanupProgress>& cleanProgress() const { return m_cleanProgress; }
+    const CleanupReport& cleanReport() const { return m_cleanReport; }
     bool isScanning() const { return m_scanProgress.has_value(); }
     bool isCleaning() const { return m_cleanProgress.has_value(); }
 
@@ -138,9 +141,13 @@ public:
     QCoro::Task<> rescanCaches();
     /// Cleans one target, logs it and measures again.
     QCoro::Task<> clean(CacheTarget target);
-    /// Cleans every target whose size is known and above 0, one after another, logs each and measures
-    /// again. How many were cleaned without a failure, and how many bytes those freed.
-    QCoro::Task<std::pair<int, quint64>> cleanAll();
+    /// Every target whose size is known and above 0: what "Clean All" is about, to be shown before.
+    QList<CacheTarget> targetsToClean() const;
+    /// Cleans these targets, one after another, logs each and measures again. How many were cleaned without a
+    /// failure, and how many bytes those freed.
+    QCoro::Task<std::pair<int, quint64>> cleanAll(QList<CacheTarget> targets);
+    /// Ends every clean that runs, and begins none of those that wait. Each that was running has failed.
+    void cancelCleaning();
 
 Q_SIGNALS:
     void objectWillChange();
@@ -158,7 +165,9 @@ private:
     void appendHistory(const SystemSample& sample);
     bool isPaused() const;
     void expectCleans(int count);
-    QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail);
+    void countCleans(int done);
+    void reportFailure(const CleanupFailure& failure);
+    QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail, std::stop_token stop);
     AutoOptimizer& autoOptimizer();
     std::optional<QString> applicationOf(const ProcSample& process) const;
     QList<ProcSample> processesOf(const QString& application) const;
@@ -180,7 +189,9 @@ private:
     QList<CacheTarget> m_cacheTargets = CacheTarget::defaults();
     std::optional<CleanupProgress> m_scanProgress;
     std::optional<CleanupProgress> m_cleanProgress;
+    CleanupReport m_cleanReport;
     int m_scansBegun = 0;
+    std::stop_source m_cleaning; ///< of all cleans that run
     QList<ActionLogEntry> m_actionLog;
     MCPInspector::Report m_mcpReport;
     bool m_autoOptimizeEnabled = false;

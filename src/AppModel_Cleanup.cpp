@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/CacheScanner.h"
+#include "Platform/Clock.h"
 
 #include <QPointer>
 
@@ -26,33 +27,56 @@ QCoro::Task<> AppModel::rescanCaches() {
 }
 
 void AppModel::expectCleans(int count) {
+    if (!m_cleanProgress)
+        publish(m_cleanReport, CleanupReport{});
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
     progress.total += count;
     if (progress.total > 0)
         publish(m_cleanProgress, std::optional(progress));
 }
 
-QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString logDetail) {
+void AppModel::countCleans(int done) {
+    CleanupProgress progress = *m_cleanProgress;
+    progress.done += done;
+    publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
+}
+
+QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString logDetail,
+                                                     std::stop_token stop) {
     const QPointer<AppModel> self(this);
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
 
-    auto cleaning = Cleaner::clean(target, m_platform.tools, m_platform.places);
+    auto cleaning =
+        Cleaner::clean(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop);
     const Cleaner::CleanResult result = co_await cleaning;
     if (!self)
         co_return result;
-    progress = *m_cleanProgress;
-    ++progress.done;
-    publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
+    if (!result.success)
+        reportFailure({target.name, result.reason});
+    countCleans(1);
     record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.success);
     co_return result;
+}
+
+void AppModel::reportFailure(const CleanupFailure& failure) {
+    CleanupReport report = m_cleanReport;
+    report.failures.append(failure);
+    publish(m_cleanReport, report);
+}
+
+void AppModel::cancelCleaning() {
+    CleanupReport report = m_cleanReport;
+    report.wasCancelled = isCleaning();
+    publish(m_cleanReport, report);
+    std::exchange(m_cleaning, std::stop_source()).request_stop();
 }
 
 QCoro::Task<> AppModel::clean(CacheTarget target) {
     const QPointer<AppModel> self(this);
     expectCleans(1);
-    auto cleaning = cleanOne(target, target.name);
+    auto cleaning = cleanOne(target, target.name, m_cleaning.get_token());
     co_await cleaning;
     if (!self)
         co_return;
@@ -60,15 +84,24 @@ QCoro::Task<> AppModel::clean(CacheTarget target) {
     co_await rescan;
 }
 
-QCoro::Task<std::pair<int, quint64>> AppModel::cleanAll() {
+QList<CacheTarget> AppModel::targetsToClean() const {
+    QList<CacheTarget> targets = m_cacheTargets;
+    targets.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
+    return targets;
+}
+
+QCoro::Task<std::pair<int, quint64>> AppModel::cleanAll(QList<CacheTarget> targets) {
     const QPointer<AppModel> self(this);
-    QList<CacheTarget> kept = m_cacheTargets;
-    kept.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
-    expectCleans(static_cast<int>(kept.size()));
+    expectCleans(static_cast<int>(targets.size()));
+    const std::stop_token stop = m_cleaning.get_token();
 
     std::pair<int, quint64> total(0, 0);
-    for (const CacheTarget& target : kept) {
-        auto cleaning = cleanOne(target, u"[batch] "_s + target.name);
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        if (stop.stop_requested()) {
+            countCleans(static_cast<int>(targets.size() - i));
+            break;
+        }
+        auto cleaning = cleanOne(targets[i], u"[batch] "_s + targets[i].name, stop);
         const Cleaner::CleanResult result = co_await cleaning;
         if (!self)
             co_return total;

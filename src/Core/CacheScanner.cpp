@@ -1,6 +1,8 @@
 #include "Core/CacheScanner.h"
 
 #include "Core/Cleaner.h"
+#include "Core/CleanupPlan.h"
+#include "Core/Formatters.h"
 #include "Platform/Clock.h"
 #include "Platform/Places.h"
 #include "Platform/Platform.h"
@@ -12,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -29,11 +30,42 @@ constexpr int filesPerBreath = 1000;
 const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
                              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
 
-/// By its bytes, for a file name need not be text. 0 when the file is gone.
-quint64 fileBytes(const QByteArray& path) {
-    std::error_code failure;
-    const auto size = std::filesystem::file_size(path.toStdString(), failure);
-    return failure ? 0 : size;
+// Of the volumes, those that no running container uses go. Since version 1.42 of its interface the engine
+// keeps those that were given a name.
+const auto volumesThatGo =
+    u"command -v docker >/dev/null 2>&1 && { unnamed=; "
+    "case \"$(docker version --format '{{.Server.APIVersion}}')\" in "
+    "1.4[2-9]|1.[5-9][0-9]) unnamed='--filter label=com.docker.volume.anonymous' ;; esac; "
+    "for volume in $(docker volume ls -q $unnamed); do "
+    "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
+    "done; } 2>/dev/null || true"_s;
+
+/// Puts the target's places that may be cleaned into words or into a list.
+QStringList openPlaces(CacheTarget& target, const Places& places) {
+    QStringList open;
+    target.notes.clear();
+    for (const Place& place : CleanupPlan::placesOf(target, places)) {
+        if (!QFileInfo::exists(place.path))
+            continue;
+        if (place.objection.isEmpty())
+            open.append(place.path);
+        else
+            target.notes.append(place.objection);
+    }
+    return open;
+}
+
+/// Takes what was found out about a folder; where that is nothing, the target says why.
+void take(CacheTarget& target, const ListedFolder& folder, const QString& complaint) {
+    if (folder.listing.isEmpty() && !complaint.isEmpty())
+        target.notes.append(u"%1 cannot be cleaned: %2."_s.arg(folder.path, complaint));
+    target.listed.append(folder);
+    target.sizeBytes += folder.sizeBytes;
+}
+
+bool holdsKeptFolder(const QString& folder) {
+    const QString kept = QFileInfo(CleanupPlan::keptFolder()).canonicalFilePath();
+    return !kept.isEmpty() && kept.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
 }
 
 QString trimmedBlanks(QStringView text) {
@@ -61,6 +93,7 @@ QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
         measurements.push_back(measure(target));
     for (auto& measurement : measurements)
         co_await measurement;
+    CleanupPlan::markShared(m_measured);
     std::ranges::stable_sort(m_measured, std::ranges::greater(), &CacheTarget::sizeBytes);
     co_return m_measured;
 }
@@ -76,92 +109,99 @@ QCoro::Task<> CacheScanner::measure(CacheTarget target) {
 }
 
 QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
-    if (target.name == u"Docker")
+    switch (target.rule.measure) {
+    case CleanupRule::Measure::containers:
         return scanDocker(target);
-    if (const auto old = CleanupPlan::oldFiles(target.name))
-        return scanOldFiles(target, *old);
+    case CleanupRule::Measure::oldFiles:
+        return scanOldFiles(target);
+    case CleanupRule::Measure::folders:
+        break;
+    }
     return scanFolders(target);
 }
 
+/// The record that no clean removes is left out.
+QCoro::Task<quint64> CacheScanner::measureFolder(QString folder) {
+    const quint64 all = co_await Cleaner::directoryBytes(folder, m_tools);
+    quint64 kept = 0;
+    if (holdsKeptFolder(folder))
+        kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
+    co_return all - std::min(all, kept);
+}
+
 QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
-    QList<CacheEntry> entries;
-    quint64 total = 0;
-    const QStringList folders = CleanupPlan::placesOf(target, *m_places);
+    target.listed.clear();
+    target.details.clear();
+    target.sizeBytes = 0;
+    const Instant now = m_clock->now();
+    const QStringList folders = openPlaces(target, *m_places);
     for (const QString& folder : folders) {
-        if (!QFileInfo::exists(folder))
-            continue;
-        const quint64 size = co_await Cleaner::directoryBytes(folder, m_tools);
-        entries.append({folder, size});
-        total += size;
+        const quint64 bytes = co_await measureFolder(folder);
+        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        take(target, {folder, bytes, listing.text}, listing.complaint);
+        target.details.append({folder, bytes});
     }
-    std::ranges::stable_sort(entries, std::ranges::greater(), &CacheEntry::sizeBytes);
-    target.sizeBytes = total;
-    target.details = entries;
+    std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
     target.lastScanned = m_clock->now();
     co_return target;
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, CleanupPlan::OldFiles which) {
-    const QString root = m_places->locate(which.root).value(0);
-    if (root.isEmpty() || !QFileInfo::exists(root)) {
+QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
+    const QStringList folders = openPlaces(target, *m_places);
+    if (folders.isEmpty() && target.notes.isEmpty()) {
         target.lastScanned = m_clock->now();
         co_return target;
     }
-    const QStringList arguments = which.findArguments(root) << u"-print0"_s;
-    auto find = runShell(u"/usr/bin/find"_s, arguments);
-    const QByteArray listing = co_await find;
-
-    QList<CacheEntry> entries;
-    quint64 total = 0;
+    target.listed.clear();
+    target.details.clear();
+    target.sizeBytes = 0;
+    const Instant now = m_clock->now();
     int sinceBreath = 0;
-    QByteArrayView rest(listing);
-    for (QByteArray path = takePath(rest); !path.isEmpty(); path = takePath(rest)) {
-        const quint64 size = fileBytes(path);
-        total += size;
-        if (entries.size() < keptEntries)
-            entries.append({QFile::decodeName(path), size});
-        if (++sinceBreath == filesPerBreath) { // the windows live on this thread too
-            sinceBreath = 0;
-            co_await QCoro::sleepFor(0ms);
+    for (const QString& folder : folders) {
+        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        ListedFolder listed{folder, 0, listing.text};
+        CleanupPlan::ListingReader reader(listed.listing);
+        while (const auto entry = reader.next()) {
+            listed.sizeBytes += entry->sizeBytes;
+            if (target.details.size() < keptEntries)
+                target.details.append({folder + u'/' + QFile::decodeName(entry->path), entry->sizeBytes});
+            if (++sinceBreath == filesPerBreath) { // the windows live on this thread too
+                sinceBreath = 0;
+                co_await QCoro::sleepFor(0ms);
+            }
         }
+        take(target, listed, listing.complaint);
     }
-    std::ranges::stable_sort(entries, std::ranges::greater(), &CacheEntry::sizeBytes);
-    target.sizeBytes = total;
-    target.details = entries;
+    std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
     target.lastScanned = m_clock->now();
     co_return target;
 }
 
 QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
-    auto shell = runShell(u"/bin/sh"_s, {u"-lc"_s, containerReport}, containerReportLimit);
-    const QByteArray report = co_await shell;
-
+    const QByteArray report = co_await askContainers(containerReport);
     target.sizeBytes = 0;
     target.details = parseContainerReport(report);
     for (const CacheEntry& entry : std::as_const(target.details))
         target.sizeBytes += entry.sizeBytes;
+    target.notes.clear();
+    target.volumes.clear();
+    if (const auto reclaimable = parseReclaimable(report)) {
+        target.notes.append(u"The tool calls %1 of it reclaimable."_s.arg(Formatters::bytes(*reclaimable)));
+        const QByteArray volumes = co_await askContainers(volumesThatGo);
+        target.volumes = parseVolumes(volumes);
+    }
     target.lastScanned = m_clock->now();
     co_return target;
 }
 
-QCoro::Task<QByteArray> CacheScanner::runShell(QString executable, QStringList arguments,
-                                               std::optional<std::chrono::milliseconds> limit) {
+QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
     ToolRequest request;
-    request.launchPath = executable;
-    request.arguments = arguments;
+    request.launchPath = u"/bin/sh"_s;
+    request.arguments = QStringList{u"-lc"_s, command};
     request.captureOutput = true;
-    request.terminateAfter = limit;
+    request.terminateAfter = containerReportLimit;
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;
-}
-
-QByteArray CacheScanner::takePath(QByteArrayView& listing) {
-    while (listing.startsWith('\0'))
-        listing = listing.sliced(1);
-    const qsizetype found = listing.indexOf('\0');
-    const QByteArray path = listing.first(found < 0 ? listing.size() : found).toByteArray();
-    listing = listing.sliced(path.size());
-    return path;
 }
 
 QList<CacheEntry> CacheScanner::parseContainerReport(const QByteArray& report) {
@@ -173,6 +213,26 @@ QList<CacheEntry> CacheScanner::parseContainerReport(const QByteArray& report) {
             entries.append({fields[0], parseSize(fields[1])});
     }
     return entries;
+}
+
+std::optional<quint64> CacheScanner::parseReclaimable(const QByteArray& report) {
+    std::optional<quint64> total;
+    const QStringList lines = QString::fromUtf8(report).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(u'\t');
+        if (fields.size() >= 3)
+            total = total.value_or(0) + parseSize(fields[2].section(u'(', 0, 0));
+    }
+    return total;
+}
+
+QStringList CacheScanner::parseVolumes(const QByteArray& report) {
+    QStringList volumes;
+    for (const QString& line : QString::fromUtf8(report).split(u'\n')) {
+        if (line.startsWith("volume\t"_L1))
+            volumes.append(line.section(u'\t', 1));
+    }
+    return volumes;
 }
 
 quint64 CacheScanner::parseSize(const QString& text) {

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "Core/CleanupPlan.h"
 #include "Core/CleanupProgress.h"
 #include "Core/Models.h"
 
-#include <QByteArrayView>
+#include <QByteArray>
 #include <QCoroTask>
 #include <QList>
 #include <QString>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -19,8 +17,8 @@ class Places;
 class ToolRunner;
 struct Platform;
 
-/// Measures cleanup targets with the tools of the system; it walks no folder itself. One scanner serves one
-/// scan and must outlive it.
+/// Measures cleanup targets and lists what of them goes, with the tools of the system and one of ours; it
+/// walks no folder itself. One scanner serves one scan and must outlive it.
 class CacheScanner {
 public:
     using Progress = std::function<void(const CleanupProgress&)>;
@@ -29,7 +27,7 @@ public:
     /// measured, empty at the end.
     explicit CacheScanner(const Platform& platform, Progress progress = {});
 
-    /// The same targets with `sizeBytes`, `details` and `lastScanned` filled in, largest first; of equal
+    /// The same targets with what a scan finds filled in, from `sizeBytes` on, largest first; of equal
     /// size, the one that was finished first. All are measured at once, each one's own paths one after
     /// another. A tool that fails counts as having found nothing.
     QCoro::Task<QList<CacheTarget>> scan(QList<CacheTarget> targets);
@@ -40,17 +38,20 @@ public:
     /// The kinds and sizes in a report of the container engine: lines of fields separated by TABs, the kind
     /// first and the size second. A line with fewer fields is left out.
     static QList<CacheEntry> parseContainerReport(const QByteArray& report);
-    /// Takes the next path off the front of a listing in which a NUL ends each; empty at the end.
-    static QByteArray takePath(QByteArrayView& listing);
+    /// What such a report calls reclaimable in its third field, "800MB (66%)" for example, added up. Nothing
+    /// for a report without.
+    static std::optional<quint64> parseReclaimable(const QByteArray& report);
+    /// The names in lines of "volume", TAB, NAME; whatever else the user's start files print is left out.
+    static QStringList parseVolumes(const QByteArray& report);
 
 private:
     QCoro::Task<> measure(CacheTarget target);
     QCoro::Task<CacheTarget> scanOne(CacheTarget target);
     QCoro::Task<CacheTarget> scanFolders(CacheTarget target);
-    QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target, CleanupPlan::OldFiles which);
+    QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target);
     QCoro::Task<CacheTarget> scanDocker(CacheTarget target);
-    QCoro::Task<QByteArray> runShell(QString executable, QStringList arguments,
-                                     std::optional<std::chrono::milliseconds> limit = {});
+    QCoro::Task<quint64> measureFolder(QString folder);
+    QCoro::Task<QByteArray> askContainers(QString command);
 
     std::shared_ptr<ToolRunner> m_tools;
     std::shared_ptr<Places> m_places;

@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+using Measure = CleanupRule::Measure;
+
 const QList<CacheTarget>& CacheTarget::defaults() {
     static const QList<CacheTarget> catalogue = {
         {.name = u"npm / pnpm / yarn"_s,
@@ -31,16 +33,30 @@ const QList<CacheTarget>& CacheTarget::defaults() {
          .paths = {u"~/Library/Caches/ms-playwright"_s}},
         {.name = u"User caches"_s, .symbol = u"tray"_s, .paths = {u"~/Library/Caches"_s}},
         {.name = u"User logs"_s, .symbol = u"scroll"_s, .paths = {u"~/Library/Logs"_s}},
-        {.name = u"Trash"_s, .symbol = u"trash"_s, .paths = {u"~/.Trash"_s}},
-        {.name = u"Old /tmp (>7d)"_s, .symbol = u"clock"_s, .paths = {u"/tmp"_s}},
-        {.name = u"Old Downloads (>30d)"_s, .symbol = u"arrow.down.circle"_s, .paths = {u"~/Downloads"_s}},
+        {.name = u"Trash"_s,
+         .symbol = u"trash"_s,
+         .paths = {u"~/.Trash"_s},
+         .rule = {.holdsUserFiles = true}},
+        {.name = u"Old /tmp (>7d)"_s,
+         .symbol = u"clock"_s,
+         .paths = {u"/tmp"_s},
+         .rule = {.measure = Measure::oldFiles, .olderThanDays = 7, .isShared = true}},
+        {.name = u"Old Downloads (>30d)"_s,
+         .symbol = u"arrow.down.circle"_s,
+         .paths = {u"~/Downloads"_s},
+         .rule = {.measure = Measure::oldFiles, .olderThanDays = 30, .holdsUserFiles = true}},
         {.name = u"Old Desktop screenshots (>30d)"_s,
          .symbol = u"camera.viewfinder"_s,
-         .paths = {u"~/Desktop"_s}},
+         .paths = {u"~/Desktop"_s},
+         .rule = {.measure = Measure::oldFiles,
+                  .olderThanDays = 30,
+                  .screenshotsOnly = true,
+                  .holdsUserFiles = true}},
         {.name = u"Docker"_s,
          .symbol = u"shippingbox.fill"_s,
          .paths = {},
-         .pruneCommand = u"docker system prune -af --volumes"_s},
+         .pruneCommand = u"docker system prune -af --volumes"_s,
+         .rule = {.measure = Measure::containers}},
     };
     return catalogue;
 }

@@ -6,83 +6,115 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString shellQuoted(const QString& text) {
-    QString inside = text;
-    inside.replace(u'\'', u"'\\''"_s);
-    return u'\'' + inside + u'\'';
+Cleaner::CleanResult cancelled() {
+    return {false, 0, u"cancelled"_s};
 }
 
-/// Everything inside, hidden entries too, but not the folder; "--" because an entry may begin with a dash.
-QString emptyingCommand(const QString& folder) {
-    const QString quoted = shellQuoted(folder);
-    return u"rm -rf -- "_s + quoted + u"/* "_s + quoted + u"/.[!.]*"_s;
+void fail(Cleaner::CleanResult& result, const QString& reason) {
+    result.success = false;
+    if (result.reason.isEmpty())
+        result.reason = reason;
 }
 
-QCoro::Task<Cleaner::CleanResult> emptyFolder(QString folder, std::shared_ptr<ToolRunner> tools,
-                                              std::shared_ptr<Places> places) {
+/// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
+const auto done = u"tavrin: done"_s;
+
+QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
+    ToolRequest request;
+    request.launchPath = u"/bin/sh"_s;
+    request.arguments = QStringList{u"-lc"_s, command + u" && echo '"_s + done + u'\''};
+    request.captureOutput = true;
+    request.terminateAfter = CleanupPlan::longest;
+    request.stop = stop;
+    const ToolResult result = co_await tools->run(request);
+    co_return result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+}
+
+QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
+                                               std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
     Cleaner::CleanResult result;
-    const QFileInfo info(folder);
-    if (!info.exists())
-        co_return result;
-    if (info.isSymLink() || places->reachesMount(folder)) {
-        result.success = false;
-        co_return result;
+    const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
+    quint64 before = 0;
+    if (isMeasured)
+        before = co_await Cleaner::directoryBytes(folder.path, tools, stop);
+    if (stop.stop_requested())
+        co_return cancelled();
+    ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
+    request.stop = stop;
+    const ToolResult removal = co_await tools->run(request);
+    if (!removal.succeeded())
+        result = {false, 0, stop.stop_requested() ? cancelled().reason : removal.complaint};
+    if (isMeasured) {
+        const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
+        result.freedBytes = before > after ? before - after : 0;
     }
-    const quint64 before = co_await Cleaner::directoryBytes(folder, tools);
-    auto emptying = Cleaner::runShell(u"/bin/sh"_s, {u"-lc"_s, emptyingCommand(folder)}, tools);
-    result.success = co_await emptying;
-    const quint64 after = co_await Cleaner::directoryBytes(folder, tools);
-    result.freedBytes = before > after ? before - after : 0;
-    co_return result;
-}
-
-QCoro::Task<Cleaner::CleanResult> deleteOldFiles(CleanupPlan::OldFiles which, QString folder,
-                                                 std::shared_ptr<ToolRunner> tools,
-                                                 std::shared_ptr<Places> places) {
-    Cleaner::CleanResult result;
-    if (places->reachesMount(folder)) {
-        result.success = false;
-        co_return result;
-    }
-    const QStringList arguments = which.findArguments(folder) << u"-delete"_s;
-    auto deleting = Cleaner::runShell(u"/usr/bin/find"_s, arguments, tools);
-    result.success = co_await deleting;
     co_return result;
 }
 
 } // namespace
 
+QCoro::Task<Cleaner::Listing> Cleaner::list(CleanupRule rule, QString folder, Instant now,
+                                            std::shared_ptr<ToolRunner> tools) {
+    const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
+    const ToolResult result = co_await tools->run(request);
+    Listing listing{result.output, result.complaint};
+    if (!result.succeeded())
+        listing.text.clear(); // a part of a listing is none
+    co_return listing;
+}
+
 QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,
-                                                 std::shared_ptr<Places> places) {
+                                                 std::shared_ptr<Places> places, Instant now,
+                                                 std::stop_token stop) {
     CleanResult result;
     if (target.pruneCommand) {
-        auto pruning = runShell(u"/bin/sh"_s, {u"-lc"_s, *target.pruneCommand}, tools);
-        result.success = co_await pruning;
+        result.success = co_await prune(*target.pruneCommand, tools, stop);
         result.freedBytes = target.sizeBytes;
+        if (!result.success && stop.stop_requested())
+            result.reason = cancelled().reason;
         co_return result;
     }
-    const auto old = CleanupPlan::oldFiles(target.name);
-    const QStringList folders = CleanupPlan::placesOf(target, *places);
-    for (const QString& folder : folders) {
-        auto step = old ? deleteOldFiles(*old, folder, tools, places) : emptyFolder(folder, tools, places);
-        const CleanResult one = co_await step;
-        result.success = result.success && one.success;
+    const QList<Place> found = CleanupPlan::placesOf(target, *places);
+    for (const Place& place : found) {
+        if (!QFileInfo::exists(place.path))
+            continue;
+        if (!place.objection.isEmpty() || stop.stop_requested()) {
+            fail(result, place.objection.isEmpty() ? cancelled().reason : place.objection);
+            continue;
+        }
+        const auto isPlace = [&](const ListedFolder& folder) { return folder.path == place.path; };
+        auto listed = std::ranges::find_if(target.listed, isPlace);
+        if (listed == target.listed.end() && target.lastScanned)
+            continue; // it came after the scan
+        if (listed == target.listed.end()) {
+            const Listing listing = co_await list(target.rule, place.path, now, tools);
+            target.listed.append({place.path, 0, listing.text});
+            listed = target.listed.end() - 1;
+        }
+        auto removal = removeListed(target.rule, *listed, now, tools, stop);
+        const CleanResult one = co_await removal;
+        if (!one.success)
+            fail(result, one.reason);
         result.freedBytes += one.freedBytes;
     }
     co_return result;
 }
 
-QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools) {
+QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
+                                             std::stop_token stop) {
     ToolRequest request;
     request.launchPath = u"/usr/bin/du"_s;
     request.arguments = {u"-sk"_s, u"-x"_s, path};
     request.captureOutput = true;
+    request.terminateAfter = CleanupPlan::longest;
+    request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     co_return reportedBytes(result.output);
 }
@@ -91,13 +123,4 @@ quint64 Cleaner::reportedBytes(const QByteArray& report) {
     constexpr quint64 largest = std::numeric_limits<quint64>::max() / 1024;
     const quint64 kib = report.simplified().split(' ').constFirst().toULongLong();
     return kib <= largest ? kib * 1024 : 0;
-}
-
-QCoro::Task<bool> Cleaner::runShell(QString executable, QStringList arguments,
-                                    std::shared_ptr<ToolRunner> tools) {
-    ToolRequest request;
-    request.launchPath = executable;
-    request.arguments = arguments;
-    const ToolResult result = co_await tools->run(request);
-    co_return result.succeeded();
 }

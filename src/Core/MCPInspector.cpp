@@ -171,7 +171,8 @@ LiveServer describe(const ProcSample& process, const QList<const ProcSample*>& l
                       .displayLabel = displayLabel(process),
                       .rssBytes = process.rssBytes,
                       .idleSeconds = process.idleSeconds,
-                      .parentName = parent ? parent->name : u"(%1 or gone)"_s.arg(Words::native().initProcess),
+                      .parentName =
+                          parent ? parent->name : u"(%1 or gone)"_s.arg(Words::native().initProcess),
                       .startTime = process.startTime};
     for (const ProcSample* launcher : launchers) {
         server.launchers.append(launcher->identity());

@@ -1,5 +1,6 @@
 #include "Core/RulesEngine.h"
 
+#include "Core/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/ProcessFilter.h"
 #include "Platform/Identity.h"
@@ -149,10 +150,9 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
     const auto limit = gigabytes(prefs.alertCachesBigGB());
     if (!prefs.alertCachesBigEnabled() || caches.isEmpty() || !limit)
         return std::nullopt;
-    quint64 total = 0;
+    const quint64 total = CleanupPlan::totalBytes(caches);
     QStringList big;
     for (const CacheTarget& target : caches) {
-        total += target.sizeBytes;
         if (target.sizeBytes > *limit / static_cast<quint64>(caches.size()))
             big.append(u"%1 (%2)"_s.arg(target.name, Formatters::bytes(target.sizeBytes)));
     }

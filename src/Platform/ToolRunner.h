@@ -7,12 +7,15 @@
 
 #include <chrono>
 #include <optional>
+#include <stop_token>
 
 struct ToolRequest {
     QString launchPath;
     QStringList arguments;
     bool captureOutput = false;
-    std::optional<std::chrono::milliseconds> terminateAfter;
+    std::optional<std::chrono::milliseconds> terminateAfter = {};
+    QByteArray input = {};     ///< what it can read, nothing unless given
+    std::stop_token stop = {}; ///< terminates it like `terminateAfter`, but when asked to
 };
 
 struct ToolResult {

@@ -2,18 +2,18 @@
 
 #include "support/Each.h"
 #include "support/FakePlatform.h"
+#include "support/Listing.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString docker = u"Docker"_s;
+using Measure = CleanupRule::Measure;
+
+constexpr CleanupRule oldFiles{.measure = Measure::oldFiles, .olderThanDays = 30};
 
 class CacheScannerTest : public testing::Test {
 protected:
@@ -54,69 +54,101 @@ TEST_F(CacheScannerTest, ParsesSizesAndNeverFaults) {
 }
 
 TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
-    answerEverythingWith("Welcome back!\n\nImages\t1.2GB\t800MB (66%)\nContainers\t0B\t0B\nVolumes\t3GB\n");
-    const CacheTarget target = scanned({.name = docker});
+    const CacheTarget docker{.name = u"Docker"_s, .rule = {.measure = Measure::containers}};
+    tools->answer = [](const ToolRequest& request) {
+        const bool asksForVolumes = request.arguments.last().contains(u"docker volume ls");
+        return ScriptedTools::exited(
+            0, asksForVolumes
+                   ? "Welcome back!\nvolume\tdata\nvolume\tb4f2\n"
+                   : "Welcome back!\n\nImages\t1.2GB\t800MB (66%)\nContainers\t0B\t0B\nVolumes\t3GB\n");
+    };
+    const CacheTarget target = scanned(docker);
     EXPECT_EQ(target.sizeBytes, 4200000000U);
     const QList<CacheEntry> expected = {
         {u"Images"_s, 1200000000}, {u"Containers"_s, 0}, {u"Volumes"_s, 3000000000}};
     EXPECT_EQ(target.details, expected);
+    EXPECT_EQ(target.notes, QStringList(u"The tool calls 762.9 MB of it reclaimable."_s));
+    EXPECT_EQ(target.volumes, QStringList({u"data"_s, u"b4f2"_s}));
     EXPECT_EQ(target.lastScanned, fakes.clock->wall);
-    EXPECT_EQ(tools->commandLines(),
-              QStringList(u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
-                          "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s));
-    EXPECT_EQ(tools->requests.first().terminateAfter, std::chrono::minutes(2));
+    EXPECT_EQ(tools->commandLines().first(),
+              u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
+              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s);
+    for (const ToolRequest& request : tools->requests)
+        EXPECT_EQ(request.terminateAfter, std::chrono::minutes(2));
 
     answerEverythingWith({});
-    EXPECT_EQ(scanned(target).sizeBytes, 0U) << "of a tool that is gone nothing is left from before";
-    EXPECT_TRUE(scanned(target).details.isEmpty());
+    const CacheTarget gone = scanned(target);
+    EXPECT_EQ(gone.sizeBytes, 0U) << "of a tool that is gone nothing is left from before";
+    EXPECT_TRUE(gone.details.isEmpty() && gone.notes.isEmpty() && gone.volumes.isEmpty());
 }
 
-TEST_F(CacheScannerTest, AsksForOldFilesByTheTargetsExactName) {
-    const QString root = home.makeFolder(u"old"_s);
-    for (const auto& path : {u"/tmp"_s, u"~/Downloads"_s, u"~/Desktop"_s})
-        places->elsewhere[path] = {root};
-    const std::pair<QString, QString> cases[] = {
-        {u"Old /tmp (>7d)"_s, u"/usr/bin/find %1 -type f -mtime +7 -print0"_s},
-        {u"Old Downloads (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -print0"_s},
-        {u"Old Desktop screenshots (>30d)"_s, u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -print0"_s},
-        {u"old downloads (>30d)"_s, u"/usr/bin/du -sk -x %1"_s},
+TEST_F(CacheScannerTest, GoesByTheRuleAndNeverByTheName) {
+    const QString folder = home.makeFolder(u"folder"_s);
+    const std::pair<CleanupRule, QStringList> cases[] = {
+        {{}, {u"/usr/bin/du"_s, u"cleanup"_s}},
+        {oldFiles, {u"cleanup"_s}},
+        {{.measure = Measure::containers}, {u"/bin/sh"_s}},
     };
-    for (const auto& [name, command] : cases) {
-        tools->requests.clear();
-        scanned({.name = name, .paths = {root}});
-        EXPECT_EQ(tools->commandLines(), QStringList(command.arg(root)));
+    for (const auto& [rule, programs] : cases) {
+        for (const auto& name : {u"Docker"_s, u"Old /tmp (>7d)"_s, u"x"_s}) {
+            tools->requests.clear();
+            scanned({.name = name, .paths = {folder}, .rule = rule});
+            EXPECT_EQ(each(tools->requests, &ToolRequest::launchPath), programs) << name.toStdString();
+        }
     }
 }
 
 TEST_F(CacheScannerTest, AddsUpAllOldFilesAndKeepsTheFirstHundred) {
-    places->elsewhere[u"~/Downloads"_s] = {home.path()};
-    QByteArray listing;
-    for (int i = 1; i <= 250; ++i)
-        listing += home.makeFile(u"file %1\nof many"_s.arg(i), QByteArray(i, 'x')).toUtf8() + '\0';
-    listing += home.path(u"vanished"_s).toUtf8() + '\0';
-    answerEverythingWith(listing);
+    const QString folder = home.makeFolder(u"folder"_s);
+    QList<std::pair<QByteArray, quint64>> files;
+    for (quint64 i = 1; i <= 2500; ++i)
+        files.append({"deep/caf\xe9 " + QByteArray::number(i) + "\nof many", i});
+    answerEverythingWith(listingOf(files));
 
-    const CacheTarget target = scanned({.name = u"Old Downloads (>30d)"_s});
-    EXPECT_EQ(target.sizeBytes, 250U * 251 / 2);
+    const CacheTarget target = scanned({.name = u"x"_s, .paths = {folder}, .rule = oldFiles});
+    EXPECT_EQ(target.sizeBytes, 2500U * 2501 / 2);
     ASSERT_EQ(target.details.size(), 100);
-    EXPECT_EQ(target.details.first(), (CacheEntry{home.path(u"file 100\nof many"_s), 100}));
-    EXPECT_EQ(target.details.last(), (CacheEntry{home.path(u"file 1\nof many"_s), 1}));
+    EXPECT_EQ(target.details.first(),
+              (CacheEntry{folder + u"/deep/"_s + QFile::decodeName("caf\xe9 100\nof many"), 100}));
+    EXPECT_EQ(target.details.last().sizeBytes, 1U);
+    EXPECT_EQ(target.listed, (QList<ListedFolder>{{folder, target.sizeBytes, listingOf(files)}}));
 }
 
-TEST_F(CacheScannerTest, MeasuresAnOldFileWhoseNameIsNoText) {
-    places->elsewhere[u"~/Downloads"_s] = {home.path()};
-    const QByteArray name = home.path().toUtf8() + "/caf\xe9";
-    std::ofstream(name.toStdString()) << "12345";
-    answerEverythingWith(name + '\0' + home.makeFile(u"plain"_s, "123").toUtf8() + '\0');
-    EXPECT_EQ(scanned({.name = u"Old Downloads (>30d)"_s}).sizeBytes, 8U);
-    std::filesystem::remove(name.toStdString()); // the temporary folder cannot
+TEST_F(CacheScannerTest, SaysWhyAFolderIsLeftAlone) {
+    const QString refused = home.makeFolder(u"refused"_s);
+    const QString unread = home.makeFolder(u"unread"_s);
+    places->objections[refused] = u"It is not a cache."_s;
+    places->objections[home.path(u"missing"_s)] = u"Nobody needs to know."_s;
+    tools->answer = [](const ToolRequest&) {
+        return ToolResult{.launched = true, .exitStatus = 1, .output = "1024 x", .complaint = u"No way"_s};
+    };
+    for (const CleanupRule& rule : {CleanupRule(), oldFiles}) {
+        const CacheTarget target =
+            scanned({.name = u"x"_s, .paths = {refused, home.path(u"missing"_s), unread}, .rule = rule});
+        EXPECT_EQ(target.notes,
+                  QStringList({u"It is not a cache."_s, unread + u" cannot be cleaned: No way."_s}));
+        EXPECT_EQ(each(target.listed, &ListedFolder::path), QStringList(unread));
+        EXPECT_EQ(target.listed.first().listing, QByteArray()) << "a part of a listing is none";
+    }
+}
+
+TEST_F(CacheScannerTest, LeavesTheRecordOutOfTheSize) {
+    const QString logs = home.makeFolder(u"Library/Logs"_s);
+    const QString record = home.makeFolder(u"Library/Logs/Tavrin"_s);
+    tools->answer = [=](const ToolRequest& request) {
+        return ScriptedTools::exited(0, request.arguments.last() == record ? "30 x" : "100 x");
+    };
+    EXPECT_EQ(scanned({.name = u"x"_s, .paths = {logs}}).sizeBytes, 70U * 1024);
 }
 
 TEST_F(CacheScannerTest, KeepsTheLastFiguresOfAnOldFileTargetWithoutItsFolder) {
     for (const QStringList& nowhere : {QStringList(), QStringList(home.path(u"missing"_s))}) {
         places->elsewhere[u"~/Downloads"_s] = nowhere;
-        const CacheTarget before{
-            .name = u"Old Downloads (>30d)"_s, .sizeBytes = 7, .details = {{u"/a"_s, 7}}};
+        const CacheTarget before{.name = u"x"_s,
+                                 .paths = {u"~/Downloads"_s},
+                                 .sizeBytes = 7,
+                                 .details = {{u"/a"_s, 7}},
+                                 .rule = oldFiles};
         const CacheTarget after = scanned(before);
         EXPECT_EQ(after.sizeBytes, 7U);
         EXPECT_EQ(after.details, before.details);
@@ -162,18 +194,20 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
     auto scan = scanner.scan(targets);
     EXPECT_EQ(tools->requests.size(), 4) << "one path of each target";
 
-    for (const auto& name : {u"largest"_s, u"equal two"_s, u"equal one"_s}) {
-        const qsizetype before = tools->requests.size();
-        EXPECT_TRUE(tools->release(home.path(name + u"/1"_s)));
-        EXPECT_EQ(tools->requests.size(), before + 1) << "the next path of the same target";
-        EXPECT_TRUE(tools->release(home.path(name + u"/2"_s)));
-    }
+    const auto finish = [&](const QString& name) {
+        for (const auto& folder : {u"/1"_s, u"/1"_s, u"/2"_s, u"/2"_s}) { // measured, then listed
+            const qsizetype before = tools->requests.size();
+            EXPECT_TRUE(tools->release(home.path(name + folder)));
+            EXPECT_LE(tools->requests.size(), before + 1) << "one tool of a target at a time";
+        }
+    };
+    for (const auto& name : {u"largest"_s, u"equal two"_s, u"equal one"_s})
+        finish(name);
     EXPECT_FALSE(scan.isReady());
     const QString hangs = u"hangs"_s;
     EXPECT_EQ(progress, (QList<CleanupProgress>{{hangs, 1, 4}, {hangs, 2, 4}, {hangs, 3, 4}}));
 
-    EXPECT_TRUE(tools->release(home.path(u"hangs/1"_s)));
-    EXPECT_TRUE(tools->release(home.path(u"hangs/2"_s)));
+    finish(hangs);
     EXPECT_EQ(progress.last(), (CleanupProgress{{}, 4, 4}));
     EXPECT_EQ(each(QCoro::waitFor(scan), &CacheTarget::name),
               QStringList({u"largest"_s, u"equal two"_s, u"equal one"_s, u"hangs"_s}));

@@ -1,7 +1,9 @@
 #include "Core/Cleaner.h"
 
 #include "Platform/Linux/LinuxPlaces.h"
+#include "support/Each.h"
 #include "support/FakePlaces.h"
+#include "support/Listing.h"
 #include "support/ScriptedTools.h"
 #include "support/TemporaryHome.h"
 
@@ -12,33 +14,46 @@ using Cleaner::CleanResult;
 
 namespace {
 
+constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
+const Instant now{std::chrono::seconds(1'700'000'000)};
+
 class CleanerTest : public testing::Test {
 protected:
     CleanResult clean(const CacheTarget& target) {
-        return QCoro::waitFor(Cleaner::clean(target, tools, places));
+        tools->requests.clear();
+        return QCoro::waitFor(Cleaner::clean(target, tools, places, now, stop.get_token()));
+    }
+    static CacheTarget scanned(const QStringList& folders, const CleanupRule& rule = {}) {
+        CacheTarget target{.name = u"x"_s, .paths = folders, .lastScanned = now, .rule = rule};
+        for (const QString& folder : folders)
+            target.listed.append({folder, 0, listingOf({{"entry of " + folder.toUtf8(), 1}})});
+        return target;
     }
 
-    /// `du` finds these one after another, in KiB; the shell and `find` exit with `status`.
+    /// `du` finds these one after another, in KiB; everything else exits with `status`.
     void script(const QByteArrayList& kilobytes, int status = 0) {
-        tools->requests.clear();
         tools->answer = [kilobytes, status, next = 0](const ToolRequest& request) mutable {
             if (request.launchPath != u"/usr/bin/du")
-                return ScriptedTools::exited(status);
+                return ScriptedTools::exited(status, "listed");
             return ScriptedTools::exited(0, kilobytes.value(next++) + "\tpath\n");
         };
     }
+    /// "PROGRAM FIRST-ARGUMENT" of each request.
+    QStringList steps() const {
+        return each(tools->requests, [](const ToolRequest& request) {
+            return request.launchPath + u' ' + request.arguments.first();
+        });
+    }
 
     TemporaryHome home;
+    std::stop_source stop;
     std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
 };
 
-TEST_F(CleanerTest, EmptiesAFolderBetweenTwoMeasurements) {
+TEST_F(CleanerTest, RemovesWhatWasListedBetweenTwoMeasurements) {
     const QString folder = home.makeFolder(u"it's a cache"_s);
-    const QString quoted = u"'"_s + home.path() + u"/it'\\''s a cache'"_s;
-    const QStringList commands = {u"/usr/bin/du -sk -x "_s + folder,
-                                  u"/bin/sh -lc rm -rf -- "_s + quoted + u"/* "_s + quoted + u"/.[!.]*"_s,
-                                  u"/usr/bin/du -sk -x "_s + folder};
+    const QStringList expected = {u"/usr/bin/du -sk"_s, u"cleanup remove"_s, u"/usr/bin/du -sk"_s};
     const std::tuple<QByteArrayList, int, CleanResult> cases[] = {
         {{"100", "4"}, 0, {true, 96 * 1024}},
         {{"100", "40"}, 1, {false, 60 * 1024}},
@@ -47,65 +62,93 @@ TEST_F(CleanerTest, EmptiesAFolderBetweenTwoMeasurements) {
     };
     for (const auto& [kilobytes, status, result] : cases) {
         script(kilobytes, status);
-        EXPECT_EQ(clean({.name = u"x"_s, .paths = {folder}}), result);
-        EXPECT_EQ(tools->commandLines(), commands);
+        EXPECT_EQ(clean(scanned({folder})), result);
+        EXPECT_EQ(steps(), expected);
+        EXPECT_EQ(tools->requests[1].input, listingOf({{"entry of " + folder.toUtf8(), 1}}));
+        EXPECT_EQ(tools->requests[1].arguments.last(), folder);
     }
+    script({});
+    EXPECT_EQ(clean(scanned({folder}, oldFiles)), (CleanResult{true, 0}));
+    EXPECT_EQ(steps(), QStringList(u"cleanup remove"_s)) << "of old files nothing is measured";
+}
+
+TEST_F(CleanerTest, ListsFirstWhatWasNeverScannedAndLeavesWhatCameAfterAScan) {
+    const QString folder = home.makeFolder(u"folder"_s);
+    script({});
+    EXPECT_TRUE(clean({.name = u"x"_s, .paths = {folder}, .rule = oldFiles}).success);
+    EXPECT_EQ(steps(), QStringList({u"cleanup list"_s, u"cleanup remove"_s}));
+    EXPECT_EQ(tools->requests.last().input, "listed");
+
+    CacheTarget target = scanned({folder});
+    target.paths.append(home.makeFolder(u"came later"_s));
+    EXPECT_TRUE(clean(target).success);
+    EXPECT_EQ(each(tools->requests, [](const ToolRequest& request) { return request.arguments.last(); }),
+              QStringList({folder, folder, folder}));
 }
 
 TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
-    for (const int status : {0, 127}) {
-        script({}, status);
-        const CacheTarget target{.name = u"Old Downloads (>30d)"_s,
-                                 .paths = {home.makeFolder(u"x"_s)},
-                                 .pruneCommand = u"brew cleanup -s"_s,
-                                 .sizeBytes = 77};
-        EXPECT_EQ(clean(target), (CleanResult{status == 0, 77}));
-        EXPECT_EQ(tools->commandLines(), QStringList(u"/bin/sh -lc brew cleanup -s"_s));
-    }
-}
-
-TEST_F(CleanerTest, DeletesOldFilesWithoutLookingFirst) {
-    const QString missing = home.path(u"missing"_s);
-    for (const int status : {0, 1}) {
-        script({}, status);
-        EXPECT_EQ(clean({.name = u"Old Desktop screenshots (>30d)"_s, .paths = {missing}}),
-                  (CleanResult{status == 0, 0}));
+    const CacheTarget target{.name = u"x"_s,
+                             .paths = {home.makeFolder(u"x"_s)},
+                             .pruneCommand = u"brew cleanup -s"_s,
+                             .sizeBytes = 77};
+    const std::tuple<int, QByteArray, bool> cases[] = {
+        {0, "Removing: 3 files\ntavrin: done\n", true},
+        {127, "tavrin: done\n", false},
+        {0, "", false}, // the user's start files ended the shell
+        {0, "Welcome back!\n", false},
+    };
+    for (const auto& [status, output, success] : cases) {
+        tools->answer = [&](const ToolRequest&) { return ScriptedTools::exited(status, output); };
+        EXPECT_EQ(clean(target), (CleanResult{success, 77})) << output.constData();
         EXPECT_EQ(tools->commandLines(),
-                  QStringList(u"/usr/bin/find %1 -type f -mtime +30 -name Screen* -delete"_s.arg(missing)));
+                  QStringList(u"/bin/sh -lc brew cleanup -s && echo 'tavrin: done'"_s));
+        EXPECT_TRUE(tools->requests.first().terminateAfter) << "or it could hang for ever";
     }
 }
 
-TEST_F(CleanerTest, LeavesAloneWhatWouldReachOutsideAndGoesOn) {
-    const QString outside = home.makeFolder(u"outside"_s);
-    const QString link = home.path(u"link"_s);
-    ASSERT_TRUE(QFile::link(outside, link));
-    const QString mounted = home.makeFolder(u"mounted"_s);
-    places->mountsInside = {mounted};
+TEST_F(CleanerTest, LeavesAloneWhatTheSystemObjectsToAndGoesOn) {
+    const QString refused = home.makeFolder(u"refused"_s);
+    places->objections[refused] = u"No."_s;
     const QString plain = home.makeFolder(u"plain"_s);
-
-    script({"8", "4"});
-    EXPECT_EQ(clean({.name = u"x"_s, .paths = {link, mounted, plain}}), (CleanResult{false, 4 * 1024}));
-    ASSERT_EQ(tools->requests.size(), 3);
-    EXPECT_EQ(tools->requests.first().arguments.last(), plain);
-
-    script({});
-    EXPECT_EQ(clean({.name = u"Old Downloads (>30d)"_s, .paths = {mounted}}), (CleanResult{false, 0}));
-    EXPECT_EQ(clean({.name = u"x"_s, .paths = {home.path(u"missing"_s)}}), (CleanResult{true, 0}));
+    for (const CleanupRule& rule : {CleanupRule(), oldFiles}) {
+        script({"8", "8"});
+        EXPECT_EQ(clean(scanned({refused, plain}, rule)), (CleanResult{false, 0, u"No."_s}));
+        for (const ToolRequest& request : tools->requests)
+            EXPECT_EQ(request.arguments.last(), plain);
+        EXPECT_FALSE(tools->requests.isEmpty());
+        EXPECT_EQ(clean(scanned({home.path(u"missing"_s)}, rule)), (CleanResult{true, 0}));
+        EXPECT_TRUE(tools->requests.isEmpty());
+    }
     EXPECT_EQ(clean({.name = u"x"_s}), (CleanResult{true, 0}));
+}
+
+TEST_F(CleanerTest, BeginsNothingMoreOnceStopped) {
+    const QStringList folders = {home.makeFolder(u"one"_s), home.makeFolder(u"two"_s)};
+    tools->answer = [&](const ToolRequest& request) {
+        if (request.launchPath == u"cleanup")
+            stop.request_stop();
+        return ScriptedTools::exited(0);
+    };
+    EXPECT_FALSE(clean(scanned(folders)).success);
+    EXPECT_EQ(steps(), QStringList({u"/usr/bin/du -sk"_s, u"cleanup remove"_s, u"/usr/bin/du -sk"_s}));
+    EXPECT_TRUE(tools->requests[1].stop.stop_requested());
+    EXPECT_FALSE(clean(scanned(folders)).success);
     EXPECT_TRUE(tools->requests.isEmpty());
 }
 
 TEST_F(CleanerTest, TouchesNothingOfAHomeThatIsNotSet) {
     for (const char* value : {"", "/", "relative"}) {
         qputenv("HOME", value);
-        tools->requests.clear();
-        for (const CacheTarget& target : CacheTarget::defaults())
-            EXPECT_TRUE(
-                QCoro::waitFor(Cleaner::clean(target, tools, std::make_shared<LinuxPlaces>("/dev/null")))
-                    .success);
-        EXPECT_EQ(tools->commandLines(), QStringList({u"/bin/sh -lc brew cleanup -s"_s,
-                                                      u"/usr/bin/find /tmp -type f -mtime +7 -delete"_s,
-                                                      u"/bin/sh -lc docker system prune -af --volumes"_s}));
+        QStringList reached;
+        for (const CacheTarget& target : CacheTarget::defaults()) {
+            tools->requests.clear();
+            const auto real = std::make_shared<LinuxPlaces>("/dev/null");
+            QCoro::waitFor(Cleaner::clean(target, tools, real, now));
+            for (const ToolRequest& request : tools->requests)
+                reached.append(request.arguments.last());
+        }
+        EXPECT_EQ(reached, QStringList({u"brew cleanup -s && echo 'tavrin: done'"_s, u"/tmp"_s, u"/tmp"_s,
+                                        u"docker system prune -af --volumes && echo 'tavrin: done'"_s}));
     }
 }
 

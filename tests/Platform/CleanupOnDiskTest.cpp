@@ -1,24 +1,14 @@
-#include "Core/CacheScanner.h"
-#include "Core/Cleaner.h"
 #include "Platform/Child.h"
-#include "Platform/Clock.h"
-#include "Platform/Linux/LinuxPlaces.h"
-#include "Platform/Linux/LinuxToolRunner.h"
-#include "Platform/Platform.h"
-#include "support/TemporaryHome.h"
+#include "Platform/CleanupFixture.h"
+#include "support/Each.h"
 
-#include <gtest/gtest.h>
+#include <QElapsedTimer>
+#include <QTimer>
 
-#include <QCoreApplication>
-#include <QProcess>
-
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <utility>
 
-#include <fcntl.h>
-#include <pwd.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,53 +16,46 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Cleaner::CleanResult;
 
-// The scanner and the cleaner with the system's own tools, on folders that these tests make.
-
 namespace {
 
 /// Root may do anything; where the tests run as root these tools run as nobody.
 class OrdinaryUsersTools : public LinuxToolRunner {
 public:
+    using LinuxToolRunner::LinuxToolRunner;
+
     QCoro::Task<ToolResult> run(ToolRequest request) override {
         if (geteuid() == 0) {
-            request.arguments =
-                QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s, request.launchPath} +
-                request.arguments;
+            request.arguments = QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s,
+                                            programFor(request.launchPath)} +
+                                request.arguments;
             request.launchPath = u"/usr/bin/setpriv"_s;
         }
         return LinuxToolRunner::run(request);
     }
 };
 
-class CleanupOnDisk : public testing::Test {
-protected:
-    CleanResult clean(const QString& path) { return clean(CacheTarget{.name = u"x"_s, .paths = {path}}); }
-    CleanResult clean(const CacheTarget& target) {
-        return QCoro::waitFor(Cleaner::clean(target, tools, places));
-    }
+/// Does something right before `du` runs, which is after the cleaner has looked at the path.
+class MeddlingTools : public LinuxToolRunner {
+public:
+    std::function<void()> meddle;
 
-    CacheTarget scanned(const CacheTarget& target) {
-        Platform platform;
-        platform.tools = tools;
-        platform.places = places;
-        platform.clock = std::make_shared<SystemClock>();
-        CacheScanner scanner(platform);
-        return QCoro::waitFor(scanner.scan({target})).value(0);
+    QCoro::Task<ToolResult> run(ToolRequest request) override {
+        if (request.launchPath == u"/usr/bin/du" && meddle)
+            std::exchange(meddle, {})();
+        return LinuxToolRunner::run(request);
     }
-
-    static QStringList entries(const QString& folder) {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    static void age(const QString& path, int days) {
-        using Files = std::filesystem::file_time_type::clock;
-        std::filesystem::last_write_time(path.toStdString(), Files::now() - days * 24h - 1h);
-    }
-
-    TemporaryHome home;
-    std::shared_ptr<ToolRunner> tools = std::make_shared<LinuxToolRunner>();
-    std::shared_ptr<Places> places = std::make_shared<LinuxPlaces>();
 };
+
+void rename(const QString& from, const QString& to) {
+    ASSERT_TRUE(QDir().rename(from, to));
+}
+
+void setMode(const QString& path, mode_t mode) {
+    ASSERT_EQ(chmod(path.toUtf8().constData(), mode), 0);
+}
+
+const QByteArray png = "\x89PNG\r\n\x1a\n a picture";
+const QByteArray webm = "\x1a\x45\xdf\xa3 a recording";
 
 TEST_F(CleanupOnDisk, EmptiesAFolderWhateverItsEntriesAreCalled) {
     const QString name = u"a \"cache\"; it's $HOME\n`x` *"_s;
@@ -101,60 +84,239 @@ TEST_F(CleanupOnDisk, EmptiesAFolderWhateverItsEntriesAreCalled) {
     EXPECT_EQ(clean(target), (CleanResult{true, 0})) << "an empty folder";
 }
 
+TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
+    const QString precious = home.makeFile(u"outside/cache/precious"_s);
+    const std::pair<const char*, std::function<void()>> swaps[] = {
+        {"a link in the place of the folder",
+         [&] {
+             rename(home.path(u"tool/cache"_s), home.path(u"tool/was"_s));
+             ASSERT_TRUE(QFile::link(home.path(u"outside/cache"_s), home.path(u"tool/cache"_s)));
+         }},
+        {"another folder in its place",
+         [&] {
+             rename(home.path(u"tool/cache"_s), home.path(u"tool/was"_s));
+             rename(home.path(u"outside/cache"_s), home.path(u"tool/cache"_s));
+         }},
+        {"a link above it",
+         [&] {
+             rename(home.path(u"tool"_s), home.path(u"was"_s));
+             ASSERT_TRUE(QFile::link(home.path(u"outside"_s), home.path(u"tool"_s)));
+         }},
+        {"a link in the folder",
+         [&] {
+             rename(home.path(u"tool/cache/precious"_s), home.path(u"tool/was"_s));
+             ASSERT_TRUE(QFile::link(home.path(u"outside/cache"_s), home.path(u"tool/cache/precious"_s)));
+         }},
+    };
+    for (const auto& [name, swap] : swaps) {
+        SCOPED_TRACE(name);
+        const auto meddling = std::make_shared<MeddlingTools>();
+        tools = meddling;
+        home.makeFile(u"outside/cache/precious"_s);
+        home.makeFile(u"tool/cache/precious"_s);
+        const CacheTarget cache = scanned({.name = u"x"_s, .paths = {home.path(u"tool/cache"_s)}});
+        meddling->meddle = swap;
+        const bool isInside = std::string_view(name).ends_with("in the folder");
+        EXPECT_EQ(clean(cache).success, isInside);
+        EXPECT_TRUE(QFileInfo::exists(precious) || QFileInfo::exists(home.path(u"tool/cache/precious"_s)));
+        for (const auto& left : {u"tool"_s, u"was"_s, u"outside"_s}) {
+            const QString path = home.path(left);
+            QFileInfo(path).isSymLink() ? QFile::remove(path) : QDir(path).removeRecursively();
+        }
+    }
+}
+
 TEST_F(CleanupOnDisk, LeavesALinkedFolderAlone) {
     const QString precious = home.makeFile(u"elsewhere/precious"_s);
     ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(u".npm"_s)));
-    EXPECT_EQ(clean(u"~/.npm"_s), (CleanResult{false, 0}));
-    EXPECT_TRUE(QFileInfo::exists(precious));
+    ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(u"Downloads"_s)));
+    for (const QString& name : {u"npm / pnpm / yarn"_s, u"Old Downloads (>30d)"_s}) {
+        const CacheTarget measured = scanned(target(name));
+        EXPECT_EQ(measured.sizeBytes, 0U);
+        ASSERT_EQ(measured.notes.size(), 1);
+        EXPECT_TRUE(measured.notes.first().endsWith(u" is left alone: it is a link."_s));
+        const CleanResult result = clean(measured);
+        EXPECT_FALSE(result.success);
+        EXPECT_EQ(result.freedBytes, 0U);
+        EXPECT_FALSE(result.reason.isEmpty());
+        EXPECT_TRUE(QFileInfo::exists(precious));
+    }
+}
 
-    home.makeFile(u"Ablage/old"_s);
-    age(home.path(u"Ablage/old"_s), 40);
-    ASSERT_TRUE(QFile::link(home.path(u"Ablage"_s), home.path(u"Downloads"_s)));
-    clean({.name = u"Old Downloads (>30d)"_s, .paths = {u"~/Downloads"_s}});
-    EXPECT_TRUE(QFileInfo::exists(home.path(u"Ablage/old"_s)));
+TEST_F(CleanupOnDisk, RemovesWhatWasConfirmedAndNothingElse) {
+    home.makeFile(u".npm/known/file"_s);
+    const CacheTarget measured = scanned(target(u"npm / pnpm / yarn"_s));
+    home.makeFile(u".npm/new"_s);
+    home.makeFile(u".yarn/cache/new"_s);
+    EXPECT_TRUE(clean(measured).success);
+    EXPECT_EQ(entries(home.path(u".npm"_s)), QStringList(u"new"_s));
+    EXPECT_EQ(entries(home.path(u".yarn/cache"_s)), QStringList(u"new"_s));
+}
+
+TEST_F(CleanupOnDisk, RefusesACacheHomeThatHoldsMoreThanCaches) {
+    const std::pair<QString, QString> cases[] = {
+        {u".local"_s, u".local/share/keyrings/login.keyring"_s},
+        {u".config"_s, u".config/program/settings"_s},
+        {u".local/share/program"_s, u".local/share/program/document"_s},
+        {u"."_s, u"pip/precious"_s},
+    };
+    for (const auto& [cacheHome, precious] : cases) {
+        SCOPED_TRACE(cacheHome.toStdString());
+        qputenv("XDG_CACHE_HOME", home.path(cacheHome).toUtf8());
+        home.makeFile(precious);
+        home.makeFile(cacheHome + u"/pip/wheel"_s);
+        for (const auto& name : {u"User caches"_s, u"Python (uv / pip)"_s}) {
+            const CacheTarget measured = scanned(target(name));
+            EXPECT_EQ(measured.sizeBytes, 0U);
+            ASSERT_FALSE(measured.notes.isEmpty());
+            EXPECT_TRUE(
+                measured.notes.first().contains(u"the folder of caches must have nothing to do with"_s));
+            EXPECT_FALSE(clean(measured).success);
+        }
+        EXPECT_TRUE(QFileInfo::exists(home.path(precious)));
+        EXPECT_TRUE(QFileInfo::exists(home.path(cacheHome + u"/pip/wheel"_s)));
+    }
+}
+
+TEST_F(CleanupOnDisk, StartFilesOfTheShellCannotFeignAClean) {
+    const QString proof = home.path(u"proof"_s);
+    const std::pair<const char*, bool> cases[] = {
+        {"set -f\n", true}, {"exit 0\n", false}, {"echo Welcome\n", true}};
+    for (const auto& [profile, runs] : cases) {
+        SCOPED_TRACE(profile);
+        home.makeFile(u".profile"_s, profile);
+        home.makeFile(u".npm/deep/file"_s);
+        EXPECT_TRUE(clean(u"~/.npm"_s).success);
+        EXPECT_TRUE(entries(home.path(u".npm"_s)).isEmpty());
+
+        QFile::remove(proof);
+        const CacheTarget pruned{.name = u"x"_s, .pruneCommand = u"touch '%1'"_s.arg(proof)};
+        EXPECT_EQ(clean(pruned).success, runs);
+        EXPECT_EQ(QFileInfo::exists(proof), runs);
+    }
+}
+
+TEST_F(CleanupOnDisk, StopsACommandThatDoesNotAnswer) {
+    std::stop_source stop;
+    const CacheTarget hangs{.name = u"x"_s, .pruneCommand = u"trap '' TERM; while :; do sleep 1; done"_s};
+    QTimer::singleShot(100ms, [&stop] { stop.request_stop(); });
+    QElapsedTimer time;
+    time.start();
+    EXPECT_FALSE(clean(hangs, stop.get_token()).success);
+    EXPECT_LT(time.elapsed(), 5000);
 }
 
 TEST_F(CleanupOnDisk, ReportsWhatMayNotBeDeletedAndDeletesTheRest) {
-    tools = std::make_shared<OrdinaryUsersTools>();
+    ASSERT_TRUE(QFile::copy(LinuxToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
+    tools = std::make_shared<OrdinaryUsersTools>(home.path());
     const QString cache = home.makeFolder(u"cache"_s);
     home.makeFile(u"cache/kept/file"_s);
     home.makeFile(u"cache/goes/file"_s);
     home.makeFile(u"second/file"_s);
-    for (const auto& below : {u""_s, u"cache"_s, u"cache/goes"_s, u"second"_s})
-        ASSERT_EQ(chmod(home.path(below).toUtf8().constData(), 0777), 0);
-    ASSERT_EQ(chmod(home.path(u"cache/kept"_s).toUtf8().constData(), 0555), 0);
+    for (const auto& below : {u""_s, u"cleanup"_s, u"cache"_s, u"cache/goes"_s, u"second"_s})
+        setMode(home.path(below), 0777);
+    setMode(home.path(u"cache/kept"_s), 0555);
 
     const CleanResult result = clean({.name = u"x"_s, .paths = {cache, home.path(u"second"_s)}});
     EXPECT_FALSE(result.success);
     EXPECT_EQ(entries(cache), QStringList(u"kept"_s));
     EXPECT_TRUE(entries(home.path(u"second"_s)).isEmpty()) << "the next path is cleaned all the same";
-    chmod(home.path(u"cache/kept"_s).toUtf8().constData(), 0755);
+
+    setMode(cache, 0); // not even to be looked at
+    EXPECT_FALSE(clean(scanned({.name = u"x"_s, .paths = {cache}})).success);
+    setMode(cache, 0755);
+    setMode(home.path(u"cache/kept"_s), 0755);
+}
+
+TEST_F(CleanupOnDisk, LeavesWhatIsSomebodyElsesInASharedFolderAndSucceeds) {
+    ASSERT_TRUE(QFile::copy(LinuxToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
+    tools = std::make_shared<OrdinaryUsersTools>(home.path());
+    const QString shared = home.makeFolder(u"shared"_s);
+    home.makeFile(u"shared/private/file"_s);
+    const QString own = home.makeFile(u"shared/own"_s);
+    const QString others = home.makeFile(u"shared/others"_s);
+    for (const auto& below : {u""_s, u"cleanup"_s, u"shared"_s})
+        setMode(home.path(below), 0777);
+    setMode(home.path(u"shared/private"_s), 0);
+    const bool hasOthers = geteuid() == 0;
+    if (hasOthers)
+        ASSERT_EQ(chown(own.toUtf8().constData(), 65534, 65534), 0);
+    else
+        ASSERT_TRUE(QFile::remove(others));
+
+    CacheTarget old = target(u"Old /tmp (>7d)"_s);
+    old.paths = {shared};
+    const CacheTarget measured = scanned(old);
+    EXPECT_EQ(each(measured.details, &CacheEntry::path), QStringList(own));
+    EXPECT_TRUE(clean(measured).success);
+    EXPECT_FALSE(QFileInfo::exists(own));
+    EXPECT_EQ(QFileInfo::exists(others), hasOthers);
+    setMode(home.path(u"shared/private"_s), 0755);
 }
 
 TEST_F(CleanupOnDisk, DeletesOnlyOldScreenshots) {
-    const std::tuple<QString, int, bool> files[] = {
-        {u"Screenshot 1.png"_s, 40, false},
-        {u"deep/Screen 2"_s, 32, false},
-        {u"Screenshot new.png"_s, 29, true},
-        {u"Screen edge"_s, 30, true},
-        {u"Letter"_s, 400, true},
-        {u"My Screen"_s, 400, true},
+    const std::tuple<QString, int, QByteArray, bool> files[] = {
+        {u"Desktop/Screenshot 1.png"_s, 40, png, false},
+        {u"Desktop/deep/Screen 2"_s, 31, webm, false},
+        {u"Pictures/Screenshots/Screenshot from 1999.png"_s, 40, png, false},
+        {u"Desktop/Screenshot new.png"_s, 29, png, true},
+        {u"Desktop/Screen edge"_s, 30, png, true},
+        {u"Desktop/Screenplay.txt"_s, 400, "FADE IN", true},
+        {u"Desktop/Screen nothing.png"_s, 400, "", true},
+        {u"Desktop/My Screen.png"_s, 390, png, true},
+        {u"Pictures/Screenshots/Family.png"_s, 390, png, true},
+        {u"Pictures/Screenshot elsewhere.png"_s, 390, png, true},
     };
-    for (const auto& [name, days, stays] : files)
-        age(home.makeFile(u"Desktop/"_s + name), days);
-    age(home.makeFolder(u"Desktop/Screen folder"_s), 400);
-    const CacheTarget target{.name = u"Old Desktop screenshots (>30d)"_s, .paths = {u"~/Desktop"_s}};
-    EXPECT_EQ(scanned(target).sizeBytes, 2U);
-    EXPECT_EQ(clean(target), (CleanResult{true, 0}));
-    for (const auto& [name, days, stays] : files)
-        EXPECT_EQ(QFileInfo::exists(home.path(u"Desktop/"_s + name)), stays) << name.toStdString();
+    for (const auto& [name, days, content, stays] : files)
+        age(home.makeFile(name, content), days);
+    home.makeFolder(u"Desktop/Screen folder"_s);
+    const CacheTarget measured = scanned(target(u"Old Desktop screenshots (>30d)"_s));
+    EXPECT_EQ(measured.sizeBytes, static_cast<quint64>(2 * png.size() + webm.size()));
+    EXPECT_EQ(clean(measured), (CleanResult{true, 0}));
+    for (const auto& [name, days, content, stays] : files)
+        EXPECT_EQ(QFileInfo::exists(home.path(name)), stays) << name.toStdString();
     EXPECT_TRUE(QFileInfo::exists(home.path(u"Desktop/Screen folder"_s)));
+}
+
+TEST_F(CleanupOnDisk, AnOldFileThatJustArrivedIsNotOld) {
+    clock = std::make_shared<SystemClock>();
+    age(home.makeFile(u"Downloads/unpacked a minute ago"_s), 400);
+    EXPECT_EQ(scanned(target(u"Old Downloads (>30d)"_s)).sizeBytes, 0U);
+
+    clock = std::make_shared<LaterClock>();
+    const CacheTarget measured = scanned(target(u"Old Downloads (>30d)"_s));
+    EXPECT_EQ(measured.sizeBytes, 1U);
+    age(home.path(u"Downloads/unpacked a minute ago"_s), 0); // and now it is not old any more
+    EXPECT_TRUE(clean(measured).success);
+    EXPECT_EQ(entries(home.path(u"Downloads"_s)).size(), 1);
+}
+
+TEST_F(CleanupOnDisk, EmptiesTheFoldersOfLogsButNotTheRecord) {
+    const std::pair<QString, bool> files[] = {
+        {u"Library/Logs/Tavrin/actions.log"_s, true},
+        {u"Library/Logs/other.log"_s, false},
+        {u".local/state/tool/logs/a"_s, false},
+        {u".local/state/tool/history"_s, true},
+        {u".config/Code/logs/a/b"_s, false},
+        {u".config/Code/User/settings.json"_s, true},
+        {u".npm/_logs/a"_s, false},
+        {u".npm/_cacache/a"_s, true},
+        {u".cache/JetBrains/Idea/log/a"_s, false},
+        {u".local/share/chat/logs/conversation"_s, true},
+    };
+    for (const auto& [path, stays] : files)
+        home.makeFile(path, QByteArray(5000, 'x'));
+    const CacheTarget measured = scanned(target(u"User logs"_s));
+    EXPECT_EQ(measured.details.size(), 5);
+    EXPECT_TRUE(clean(measured).success);
+    for (const auto& [path, stays] : files)
+        EXPECT_EQ(QFileInfo::exists(home.path(path)), stays) << path.toStdString();
 }
 
 TEST_F(CleanupOnDisk, EmptiesTheTrashOfLinux) {
     for (const auto& file : {u"files/old"_s, u"info/old.trashinfo"_s, u"keep"_s})
         home.makeFile(u".local/share/Trash/"_s + file);
-    const CacheTarget trash{.name = u"Trash"_s, .paths = {u"~/.Trash"_s}};
+    const CacheTarget trash = target(u"Trash"_s);
     EXPECT_EQ(scanned(trash).details.size(), 2);
     EXPECT_TRUE(clean(trash).success);
     EXPECT_TRUE(entries(home.path(u".local/share/Trash/files"_s)).isEmpty());
@@ -177,10 +339,10 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
     constexpr quint64 stable = 4 << 20;
     constexpr quint64 passing = 1 << 20; // more than what comes and goes ever takes
     const CacheTarget cache{.name = u"x"_s, .paths = {home.makeFolder(u"cache"_s)}};
-    const CacheTarget downloads{.name = u"Old Downloads (>30d)"_s, .paths = {u"~/Downloads"_s}};
+    const CacheTarget downloads = target(u"Old Downloads (>30d)"_s);
     home.makeFile(u"cache/stable/file"_s, QByteArray(stable, 'x'));
     age(home.makeFile(u"Downloads/old"_s, QByteArray(stable, 'x')), 40);
-    home.makeFile(u"Downloads/new"_s);
+    age(home.makeFile(u"Downloads/new"_s), 0);
     Child tenant("/bin/sh", {"sh", "-c", comeAndGo, "sh", home.path(u"cache"_s).toStdString(),
                              home.path(u"Downloads"_s).toStdString()});
     ASSERT_EQ(tenant.heard(), 'r');
@@ -209,116 +371,6 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
         age(home.path(u"Downloads/"_s + file), 40); // for which the tenant may have had no time
     EXPECT_TRUE(clean(downloads).success);
     EXPECT_EQ(entries(home.path(u"Downloads"_s)), QStringList(u"new"_s));
-}
-
-/// For caches that real tools have made in a home folder of their own; docs/testing.md tells how.
-TEST_F(CleanupOnDisk, DISABLED_MeasuresAndEmptiesCachesMadeByTools) {
-    const QString folder = qEnvironmentVariable("TAVRIN_CACHES_HOME");
-    const passwd* user = getpwuid(getuid());
-    ASSERT_TRUE(QFileInfo(folder).isDir());
-    ASSERT_NE(QFileInfo(folder).canonicalFilePath(),
-              QFileInfo(QFile::decodeName(user->pw_dir)).canonicalFilePath());
-    qputenv("HOME", folder.toUtf8());
-    for (const CacheTarget& target : CacheTarget::defaults().first(3)) {
-        const CacheTarget measured = scanned(target);
-        for (const CacheEntry& entry : measured.details) {
-            QProcess du;
-            du.start(u"du"_s, {u"-sk"_s, entry.path});
-            ASSERT_TRUE(du.waitForFinished());
-            EXPECT_EQ(entry.sizeBytes, du.readAll().split('\t').first().toULongLong() * 1024);
-        }
-        const CleanResult result = clean(target);
-        EXPECT_TRUE(result.success);
-        EXPECT_EQ(measured.sizeBytes - result.freedBytes, scanned(target).sizeBytes);
-        for (const CacheEntry& entry : measured.details)
-            EXPECT_TRUE(entries(entry.path).isEmpty()) << entry.path.toStdString();
-        std::printf("%s: %llu bytes, freed %llu\n", qPrintable(target.name), measured.sizeBytes,
-                    result.freedBytes);
-    }
-}
-
-QByteArray mountNamespace() {
-    return QFile::symLinkTarget(u"/proc/self/ns/mnt"_s).toUtf8();
-}
-
-/// Run by the test below in a mount namespace of its own, where /tmp is an empty disk of 1 MiB.
-class DISABLED_InPrivateMount : public CleanupOnDisk {
-protected:
-    void SetUp() override {
-        const QByteArray outside = qgetenv("TAVRIN_MOUNTS_OUTSIDE");
-        ASSERT_TRUE(!outside.isEmpty() && outside != mountNamespace())
-            << "would touch the machine's own files";
-        ASSERT_EQ(mount("tmpfs", "/tmp", "tmpfs", 0, "size=1m"), 0);
-    }
-    void TearDown() override { EXPECT_EQ(umount2("/tmp", MNT_DETACH), 0); }
-};
-
-TEST_F(DISABLED_InPrivateMount, LeavesAFolderWithAMountInsideAlone) {
-    const TemporaryHome ours;
-    const QString inside = ours.makeFolder(u".npm/disk"_s);
-    ours.makeFile(u".npm/file"_s);
-    ASSERT_EQ(mount("tmpfs", inside.toUtf8().constData(), "tmpfs", 0, nullptr), 0);
-    const QString precious = ours.makeFile(u".npm/disk/precious"_s);
-    const CacheTarget target{.name = u"x"_s, .paths = {u"~/.npm"_s}};
-    EXPECT_EQ(clean(target), (CleanResult{false, 0}));
-    EXPECT_TRUE(QFileInfo::exists(precious));
-    ASSERT_EQ(umount(inside.toUtf8().constData()), 0);
-    EXPECT_TRUE(clean(target).success);
-}
-
-TEST_F(DISABLED_InPrivateMount, CleansAFullDisk) {
-    const TemporaryHome ours;
-    ours.makeFolder(u".npm"_s);
-    std::ofstream fill(ours.path(u".npm/fill"_s).toStdString());
-    while (fill << std::string(4096, 'x') << std::flush) {
-    }
-    fill.close();
-    EXPECT_EQ(std::filesystem::space("/tmp").available, 0U);
-    const CleanResult result = clean({.name = u"x"_s, .paths = {u"~/.npm"_s}});
-    EXPECT_TRUE(result.success);
-    EXPECT_GT(result.freedBytes, 900U * 1024);
-}
-
-TEST_F(DISABLED_InPrivateMount, ReportsMoreEntriesThanTheShellCanPass) {
-    const TemporaryHome ours;
-    const std::string cache = ours.makeFolder(u".npm"_s).toStdString() + "/entry number ";
-    for (int i = 0; i < 200000; ++i)
-        close(open((cache + std::to_string(i)).c_str(), O_CREAT | O_WRONLY, 0600));
-    EXPECT_EQ(clean({.name = u"x"_s, .paths = {u"~/.npm"_s}}), (CleanResult{false, 0}));
-    EXPECT_EQ(QDir(ours.path(u".npm"_s)).entryList(QDir::Files).size(), 200000);
-}
-
-TEST_F(DISABLED_InPrivateMount, DeletesOnlyOldFilesOfTmp) {
-    places =
-        std::make_shared<LinuxPlaces>("/dev/null"); // mounts under the machine's own /tmp are still listed
-    for (const char* path : {"/tmp/new", "/tmp/old"})
-        std::ofstream(path) << "x";
-    std::filesystem::create_directory("/tmp/old folder");
-    const auto longAgo = std::filesystem::file_time_type::clock::now() - 24h * 9;
-    for (const char* path : {"/tmp/old", "/tmp/old folder"})
-        std::filesystem::last_write_time(path, longAgo);
-    EXPECT_TRUE(clean({.name = u"Old /tmp (>7d)"_s, .paths = {u"/tmp"_s}}).success);
-    EXPECT_EQ(QDir(u"/tmp"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList({u"new"_s, u"old folder"_s}));
-}
-
-TEST(CleanupInPrivateMount, LosesNothingOutsideATarget) {
-    QProcess probe;
-    probe.start(u"unshare"_s, {u"-rm"_s, u"true"_s});
-    if (!probe.waitForFinished() || probe.exitCode() != 0)
-        GTEST_SKIP() << "this machine allows no private mounts";
-    QProcess inside;
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"TAVRIN_MOUNTS_OUTSIDE"_s, QString::fromUtf8(mountNamespace()));
-    inside.setProcessEnvironment(environment);
-    inside.setProcessChannelMode(QProcess::MergedChannels);
-    inside.start(u"unshare"_s,
-                 {u"-rm"_s, QCoreApplication::applicationFilePath(), u"--gtest_also_run_disabled_tests"_s,
-                  u"--gtest_filter=DISABLED_InPrivateMount.*"_s});
-    ASSERT_TRUE(inside.waitForFinished(60000));
-    const QByteArray report = inside.readAll();
-    EXPECT_EQ(inside.exitCode(), 0) << report.toStdString();
-    EXPECT_TRUE(report.contains("Running 4 tests")) << report.toStdString();
 }
 
 } // namespace

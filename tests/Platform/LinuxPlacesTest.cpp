@@ -10,6 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QStringList paths(const QList<Place>& places) {
+    return each(places, &Place::path);
+}
+
 TEST(LinuxPlaces, NamesThePlaceOfLinuxWhereTheCataloguePathDoesNotExist) {
     QList<std::pair<QString, QStringList>> cases = {
         {u"~/Library/Caches"_s, {u".cache"_s}},
@@ -28,11 +32,11 @@ TEST(LinuxPlaces, NamesThePlaceOfLinuxWhereTheCataloguePathDoesNotExist) {
         home.makeFile(u".config/user-dirs.dirs"_s, "XDG_DOWNLOAD_DIR=\"$HOME/Geladenes\"\n"
                                                    "XDG_DESKTOP_DIR=\"$HOME/Arbeitsfläche\"\n");
         const QString asItStands = home.path(path.mid(2));
-        EXPECT_EQ(places.locate(path), QStringList(asItStands)) << "neither exists";
+        EXPECT_EQ(paths(places.locate(path)), QStringList(asItStands)) << "neither exists";
         const auto made = each(linuxPlaces, [&](const QString& place) { return home.makeFolder(place); });
-        EXPECT_EQ(places.locate(path), made);
+        EXPECT_EQ(paths(places.locate(path)), made);
         home.makeFolder(path.mid(2));
-        EXPECT_EQ(places.locate(path), QStringList(asItStands)) << "both exist";
+        EXPECT_EQ(paths(places.locate(path)), QStringList(asItStands)) << "both exist";
     }
 }
 
@@ -42,9 +46,9 @@ TEST(LinuxPlaces, FollowsTheXdgVariablesUnlessTheyAreRelative) {
     home.makeFolder(u".cache/pip"_s);
     home.makeFolder(u"fast/pip"_s);
     qputenv("XDG_CACHE_HOME", home.path(u"fast"_s).toUtf8());
-    EXPECT_EQ(places.locate(u"~/Library/Caches/pip"_s), QStringList(home.path(u"fast/pip"_s)));
+    EXPECT_EQ(paths(places.locate(u"~/Library/Caches/pip"_s)), QStringList(home.path(u"fast/pip"_s)));
     qputenv("XDG_CACHE_HOME", "fast");
-    EXPECT_EQ(places.locate(u"~/Library/Caches/pip"_s), QStringList(home.path(u".cache/pip"_s)));
+    EXPECT_EQ(paths(places.locate(u"~/Library/Caches/pip"_s)), QStringList(home.path(u".cache/pip"_s)));
 }
 
 TEST(LinuxPlaces, HasNoPlaceWithoutAHomeFolder) {
@@ -58,40 +62,72 @@ TEST(LinuxPlaces, HasNoPlaceWithoutAHomeFolder) {
     }
     qunsetenv("HOME");
     EXPECT_TRUE(places.locate(u"~/.npm"_s).isEmpty());
-    EXPECT_EQ(places.locate(u"/tmp"_s), QStringList(u"/tmp"_s));
+    EXPECT_EQ(paths(places.locate(u"/tmp"_s)), QStringList(u"/tmp"_s));
 }
 
-TEST(LinuxPlaces, NeverAnswersWithTheHomeFolderOrWhatHoldsIt) {
+TEST(LinuxPlaces, NeverAnswersWithTheHomeFolder) {
     TemporaryHome home;
     const LinuxPlaces places;
-    for (const QString& folder : {home.path(), home.path(u".."_s), u"/"_s}) {
-        SCOPED_TRACE(folder.toStdString());
-        qputenv("XDG_CACHE_HOME", folder.toUtf8());
-        EXPECT_TRUE(places.locate(u"~/Library/Caches"_s).isEmpty());
-    }
     home.makeFile(u".config/user-dirs.dirs"_s, "XDG_DOWNLOAD_DIR=\"$HOME/\"\n");
     EXPECT_TRUE(places.locate(u"~/Downloads"_s).isEmpty());
     ASSERT_TRUE(QFile::link(home.path(), home.path(u".npm"_s)));
     EXPECT_TRUE(places.locate(u"~/.npm"_s).isEmpty());
 }
 
-TEST(LinuxPlaces, SeesWritableMountsInside) {
-    TemporaryHome home;
-    const QString folder = home.makeFolder(u"the cache"_s);
-    const std::tuple<QString, QString, bool> cases[] = {
-        {folder + u"/inside"_s, u"rw,relatime"_s, true},   {folder + u"/deep/er"_s, u"rw"_s, true},
-        {folder + u"/image"_s, u"ro,nosuid"_s, false},     {folder, u"rw,relatime"_s, false},
-        {folder + u"2/inside"_s, u"rw,relatime"_s, false}, {u"/"_s, u"rw,relatime"_s, false},
+TEST(LinuxPlaces, ObjectsToACacheHomeThatIsMoreThanThat) {
+    const std::tuple<const char*, bool> cases[] = {
+        {".cache", false},
+        {"fast disk/caches", false},
+        {".config", true},
+        {".config/caches", true},
+        {".local", true},
+        {".local/share", true},
+        {".local/state/caches", true},
+        {"Documents", true},
+        {"Documents/caches", true},
+        {".", true},
+        {"..", true},
+        {"mount point", true},
+        {"mount point/caches", false},
     };
-    for (const auto& [mountPoint, options, reached] : cases) {
-        SCOPED_TRACE(mountPoint.toStdString());
-        const QString escaped = QString(mountPoint).replace(u' ', u"\\040"_s);
-        const QString line = u"36 35 98:0 /root %1 %2 master:1 - ext4 /dev/sdb1 rw\n"_s.arg(escaped, options);
-        const LinuxPlaces places(home.makeFile(u"mountinfo"_s, line.toUtf8()).toStdString());
-        EXPECT_EQ(places.reachesMount(folder), reached);
+    for (const auto& [cacheHome, refused] : cases) {
+        SCOPED_TRACE(cacheHome);
+        const TemporaryHome home;
+        const QString table =
+            u"36 35 98:0 /root %1/mount\\040point rw - ext4 /dev/sdb1 rw\n"_s.arg(home.path());
+        const LinuxPlaces places(home.makeFile(u"mountinfo"_s, table.toUtf8()).toStdString());
+        const QString folder = QDir::cleanPath(home.makeFolder(QString::fromUtf8(cacheHome)));
+        home.makeFolder(QString::fromUtf8(cacheHome) + u"/pip"_s);
+        qputenv("XDG_CACHE_HOME", folder.toUtf8());
+        for (const auto& path : {u"~/Library/Caches"_s, u"~/Library/Caches/pip"_s}) {
+            const QList<Place> found = places.locate(path);
+            ASSERT_EQ(found.size(), 1);
+            EXPECT_EQ(found[0].objection.startsWith(folder + u" is left alone: "_s), refused);
+            EXPECT_EQ(found[0].objection.isEmpty(), !refused);
+        }
     }
-    EXPECT_TRUE(LinuxPlaces("/no/such/table").reachesMount(folder));
-    EXPECT_FALSE(LinuxPlaces().reachesMount(folder));
+}
+
+TEST(LinuxPlaces, ObjectsToWhatHoldsTheSettings) {
+    const TemporaryHome home;
+    const LinuxPlaces places;
+    home.makeFolder(u".config"_s);
+    home.makeFolder(u"Library/Caches"_s);
+    EXPECT_TRUE(places.locate(u"~/Library/Caches"_s).first().objection.isEmpty());
+    qputenv("XDG_DATA_HOME", home.makeFolder(u"Library/Caches/data"_s).toUtf8());
+    EXPECT_FALSE(places.locate(u"~/Library/Caches"_s).first().objection.isEmpty());
+}
+
+TEST(LinuxPlaces, FindsFoldersOfLogsThatExist) {
+    const TemporaryHome home;
+    const LinuxPlaces places;
+    QStringList expected;
+    for (const auto& folder : {u"Library/Logs"_s, u".local/state/.tool/logs"_s, u".local/state/tool/log"_s,
+                               u".config/Code/logs"_s, u".cache/JetBrains/Idea1/log"_s, u".npm/_logs"_s})
+        expected.append(home.makeFolder(folder));
+    home.makeFolder(u".local/state/tool/history"_s);
+    home.makeFile(u".local/state/other/logs"_s);
+    EXPECT_EQ(paths(places.locate(u"~/Library/Logs"_s)), expected);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -108,6 +109,33 @@ TEST(ToolRunner, TerminatesWhatTakesTooLong) {
         EXPECT_TRUE(result.launched) << qPrintable(command);
         EXPECT_EQ(result.exitStatus, status) << qPrintable(command);
         EXPECT_GE(time.elapsed(), leastMs) << qPrintable(command);
+        EXPECT_LT(time.elapsed(), mostMs) << qPrintable(command);
+    }
+}
+
+TEST(ToolRunner, PassesOnWhatTheToolIsToRead) {
+    LinuxToolRunner runner;
+    const QByteArray much(1 << 20, '\0');
+    const auto fed = [&](const QString& path) {
+        return QCoro::waitFor(runner.run({.launchPath = path, .captureOutput = true, .input = much}));
+    };
+    EXPECT_EQ(fed(u"/bin/cat"_s).output, much);
+    EXPECT_TRUE(fed(u"/bin/true"_s).succeeded()) << "which reads nothing";
+    EXPECT_FALSE(fed(u"/nowhere/tool"_s).launched);
+}
+
+TEST(ToolRunner, EndsAToolWhenAskedToWhateverItHasStarted) {
+    const std::pair<QString, qint64> cases[] = {{u"sleep 60 & sleep 61"_s, 1000},
+                                                {u"trap '' TERM; sleep 60 & wait"_s, 3000}};
+    for (const auto& [command, mostMs] : cases) {
+        LinuxToolRunner runner;
+        std::stop_source stop;
+        QTimer::singleShot(100ms, [&] { stop.request_stop(); });
+        QElapsedTimer time;
+        time.start();
+        const ToolResult result = QCoro::waitFor(runner.run(
+            {.launchPath = u"/bin/sh"_s, .arguments = {u"-c"_s, command}, .stop = stop.get_token()}));
+        EXPECT_FALSE(result.succeeded()) << qPrintable(command);
         EXPECT_LT(time.elapsed(), mostMs) << qPrintable(command);
     }
 }

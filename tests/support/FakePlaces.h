@@ -3,14 +3,17 @@
 #include "Platform/Places.h"
 
 #include <QHash>
-#include <QSet>
 
 /// Every path is where it says, unless the test says otherwise.
 class FakePlaces : public Places {
 public:
     QHash<QString, QStringList> elsewhere;
-    QSet<QString> mountsInside;
+    QHash<QString, QString> objections; ///< by place
 
-    QStringList locate(const QString& path) const override { return elsewhere.value(path, {path}); }
-    bool reachesMount(const QString& folder) const override { return mountsInside.contains(folder); }
+    QList<Place> locate(const QString& path) const override {
+        QList<Place> places;
+        for (const QString& place : elsewhere.value(path, {path}))
+            places.append({place, objections.value(place)});
+        return places;
+    }
 };

@@ -8,7 +8,8 @@
 class TemporaryHome : public TemporaryFolder {
 public:
     TemporaryHome() {
-        for (const char* name : {"HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"}) {
+        for (const char* name :
+             {"HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) {
             m_before[name] = qgetenv(name);
             qunsetenv(name);
         }

@@ -11,9 +11,16 @@ public:
     /// `mountInfo`: a file in the form of /proc/PID/mountinfo, see proc(5).
     explicit LinuxPlaces(std::string mountInfo = "/proc/self/mountinfo");
 
-    QStringList locate(const QString& path) const override;
-    bool reachesMount(const QString& folder) const override;
+    QList<Place> locate(const QString& path) const override;
 
 private:
+    /// To emptying a folder in the home folder; empty where there is none.
+    QString objection(const QString& place, const QString& home) const;
+    /// To emptying anything in a cache home: a variable may name any folder, also one that holds other
+    /// things.
+    QString objectionToCacheHome(const QString& folder, const QString& home) const;
+    /// True as well when that cannot be found out.
+    bool isMountRoot(const QString& folder) const;
+
     std::string m_mountInfo;
 };

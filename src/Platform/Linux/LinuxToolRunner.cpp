@@ -61,11 +61,12 @@ void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
         _exit(1);
 }
 
-void configure(QProcess& process, bool captureOutput, bool captureErrors) {
-    process.setStandardInputFile(QProcess::nullDevice());
+void configure(QProcess& process, const ToolRequest& request, bool captureErrors) {
+    if (request.input.isEmpty())
+        process.setStandardInputFile(QProcess::nullDevice());
     if (!captureErrors)
         process.setStandardErrorFile(QProcess::nullDevice());
-    if (!captureOutput)
+    if (!request.captureOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
     constexpr int behindUs = 10;
     process.setChildProcessModifier(
@@ -73,32 +74,50 @@ void configure(QProcess& process, bool captureOutput, bool captureErrors) {
          descriptors = DescriptorLimit::atStart()] { prepareChild(parent, niceness, descriptors); });
 }
 
-/// Done once the process ended or could not be launched.
-QFuture<void> endOf(const QProcess& process) {
-    const auto promise = std::make_shared<QPromise<void>>();
-    promise->start();
-    QObject::connect(&process, &QProcess::stateChanged, [promise](QProcess::ProcessState state) {
-        if (state == QProcess::NotRunning)
-            promise->finish();
-    });
-    return promise->future();
+/// Even SIGKILL does not end a process that waits for a disk which never answers. Such a one is let go of.
+void release(QProcess* process) {
+    if (process->state() == QProcess::NotRunning) {
+        delete process;
+        return;
+    }
+    process->disconnect();
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, group = static_cast<pid_t>(process->processId())] {
+                         toolGroups().remove(group);
+                         process->deleteLater();
+                     });
 }
 
-void terminateLater(QProcess* process, std::chrono::milliseconds time) {
-    const auto signalGroup = [process](int signal) {
-        if (process->processId() > 0)
-            ::kill(-static_cast<pid_t>(process->processId()), signal);
-    };
-    QTimer::singleShot(time, process, [process, signalGroup] {
-        signalGroup(SIGTERM);
-        QTimer::singleShot(graceAfterTerminate, process, [signalGroup] { signalGroup(SIGKILL); });
+using End = std::shared_ptr<QPromise<void>>;
+
+/// Finished once the process ended or could not be launched.
+End endOf(const QProcess& process) {
+    auto end = std::make_shared<QPromise<void>>();
+    end->start();
+    QObject::connect(&process, &QProcess::stateChanged, [end](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            end->finish();
     });
+    return end;
+}
+
+void signalGroup(const QProcess* process, int signal) {
+    if (process->processId() > 0)
+        ::kill(-static_cast<pid_t>(process->processId()), signal);
+}
+
+/// Asks, then kills, then waits no longer.
+void terminate(QProcess* process, const End& end) {
+    signalGroup(process, SIGTERM);
+    QTimer::singleShot(graceAfterTerminate, process, [process] { signalGroup(process, SIGKILL); });
+    QTimer::singleShot(2 * graceAfterTerminate, process, [end] { end->finish(); });
 }
 
 ToolResult resultOf(QProcess& process, bool isOurs) {
     ToolResult result;
     result.launched = process.error() != QProcess::FailedToStart;
-    if (result.launched && process.exitStatus() == QProcess::NormalExit)
+    if (result.launched && process.state() == QProcess::NotRunning &&
+        process.exitStatus() == QProcess::NormalExit)
         result.exitStatus = process.exitCode();
     if (!isOurs)
         return result;
@@ -134,7 +153,7 @@ QString LinuxToolRunner::ownToolsFolder() {
 
 QString LinuxToolRunner::programFor(const QString& launchPath) const {
     for (const auto& lacking :
-         {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s}) {
+         {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s, u"cleanup"_s}) {
         if (launchPath == lacking)
             return QDir(m_toolsFolder).filePath(QFileInfo(lacking).fileName());
     }
@@ -144,21 +163,29 @@ QString LinuxToolRunner::programFor(const QString& launchPath) const {
 QCoro::Task<ToolResult> LinuxToolRunner::run(ToolRequest request) {
     const QString program = programFor(request.launchPath);
     const bool isOurs = program != request.launchPath;
-    QProcess process;
-    configure(process, request.captureOutput, isOurs);
-    QFuture<void> ended = endOf(process);
-    process.start(program, request.arguments);
-    const auto group = static_cast<pid_t>(process.processId());
+    const std::shared_ptr<QProcess> process(new QProcess, release);
+    configure(*process, request, isOurs);
+    const End end = endOf(*process);
+    QFuture<void> ended = end->future();
+    process->start(program, request.arguments);
+    const auto group = static_cast<pid_t>(process->processId());
     if (group > 0)
         toolGroups().add(group);
+    if (group > 0 && !request.input.isEmpty()) {
+        process->write(request.input);
+        process->closeWriteChannel();
+    }
+    const auto endIt = [tool = process.get(), end] { terminate(tool, end); };
     if (request.terminateAfter)
-        terminateLater(&process, *request.terminateAfter);
-    if (process.state() != QProcess::NotRunning) // a program without a name changes no state
+        QTimer::singleShot(*request.terminateAfter, process.get(), endIt);
+    const std::stop_callback whenStopped(request.stop, endIt);
+    if (process->state() != QProcess::NotRunning) // a program without a name changes no state
         co_await ended;
-    toolGroups().remove(group);
 
-    ToolResult result = resultOf(process, isOurs);
+    if (process->state() == QProcess::NotRunning)
+        toolGroups().remove(group);
+    ToolResult result = resultOf(*process, isOurs);
     if (request.captureOutput)
-        result.output = process.readAllStandardOutput();
+        result.output = process->readAllStandardOutput();
     co_return result;
 }

@@ -2,10 +2,11 @@
 
 #include "Platform/ToolRunner.h"
 
-/// Runs programs as children of low CPU and I/O priority, with nothing on their standard input. Output that
-/// nobody asked for, and all of standard error, is dropped. A child that outlives `terminateAfter`, counted
-/// from its launch, gets SIGTERM and, a second later, SIGKILL. When this program ends, its children end with
-/// it, and so do theirs. Needs a running event loop.
+/// Runs programs as children of low CPU and I/O priority. Output that nobody asked for is dropped, and so is
+/// standard error but for the first line of our own tools. A child that outlives `terminateAfter`, counted
+/// from its launch, or is stopped gets SIGTERM and, a second later, SIGKILL; after one more second it counts
+/// as crashed, come what may. When this program ends, its children end with it, and so do theirs. Needs a
+/// running event loop.
 class LinuxToolRunner : public ToolRunner {
 public:
     /// `toolsFolder` holds our own programs; tests name another one.

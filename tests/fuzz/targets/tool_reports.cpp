@@ -1,5 +1,7 @@
 #include "Core/CacheScanner.h"
 #include "Core/Cleaner.h"
+#include "Core/CleanupPlan.h"
+#include "Tools/CleanupListing.h"
 #include "fuzz/Fuzz.h"
 
 using namespace Qt::StringLiterals;
@@ -14,14 +16,23 @@ void containerReport(const QByteArray& report) {
 }
 
 void listing(const QByteArray& found) {
-    QByteArrayView rest(found);
-    QByteArrayList paths;
-    for (QByteArray path = CacheScanner::takePath(rest); !path.isEmpty(); path = CacheScanner::takePath(rest))
-        paths.append(path);
-    Fuzz::require(rest.isEmpty());
-    QByteArrayList expected = found.split('\0');
-    expected.removeAll(QByteArray());
-    Fuzz::require(paths == expected);
+    CleanupPlan::ListingReader reader(found);
+    qsizetype length = 0;
+    while (const auto entry = reader.next())
+        length += entry->path.size() + 3; // two blanks and the end
+    Fuzz::require(length <= found.size());
+
+    const auto parsed = Tools::CleanupListing::parse(found.toStdString());
+    if (!parsed)
+        return;
+    Fuzz::require(Tools::CleanupListing::parse(parsed->text()) == parsed);
+    const std::string text = parsed->text();
+    CleanupPlan::ListingReader both(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    for (const auto& entry : parsed->entries) {
+        const auto same = both.next();
+        Fuzz::require(same && same->path.toStdString() == entry.path && same->sizeBytes == entry.bytes);
+    }
+    Fuzz::require(!both.next());
 }
 
 void size(const QString& text) {

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Core/CacheScanner.h"
+#include "Core/Cleaner.h"
+#include "Platform/Clock.h"
+#include "Platform/Linux/LinuxPlaces.h"
+#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Platform.h"
+#include "support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+/// Nobody can say that a file changed its status long ago: for these tests it is 400 days later.
+class LaterClock : public SystemClock {
+public:
+    static constexpr auto ahead = std::chrono::hours(24 * 400);
+
+    Instant now() override { return SystemClock::now() + ahead; }
+};
+
+/// The scanner and the cleaner with the system's own tools, on folders that the test makes.
+class CleanupOnDisk : public testing::Test {
+protected:
+    Cleaner::CleanResult clean(const CacheTarget& target, std::stop_token stop = {}) {
+        return QCoro::waitFor(Cleaner::clean(target, tools, places, clock->now(), stop));
+    }
+    Cleaner::CleanResult clean(const QString& path) {
+        return clean(CacheTarget{.name = QStringLiteral("x"), .paths = {path}});
+    }
+
+    CacheTarget scanned(const CacheTarget& target) {
+        Platform platform;
+        platform.tools = tools;
+        platform.places = places;
+        platform.clock = clock;
+        CacheScanner scanner(platform);
+        return QCoro::waitFor(scanner.scan({target})).value(0);
+    }
+
+    /// The one of the catalogue.
+    static CacheTarget target(const QString& name) {
+        const QList<CacheTarget>& all = CacheTarget::defaults();
+        return *std::ranges::find(all, name, &CacheTarget::name);
+    }
+
+    static QStringList entries(const QString& folder) {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    /// As many days and an hour old, where the clock is.
+    void age(const QString& path, int days) {
+        const auto since = std::chrono::hours(24 * days + 1);
+        const auto written = std::chrono::file_clock::from_sys(clock->now() - since);
+        std::filesystem::last_write_time(path.toStdString(), written);
+    }
+
+    TemporaryHome home;
+    std::shared_ptr<Clock> clock = std::make_shared<LaterClock>();
+    std::shared_ptr<ToolRunner> tools = std::make_shared<LinuxToolRunner>();
+    std::shared_ptr<Places> places = std::make_shared<LinuxPlaces>();
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <utility>
+
+/// A listing of a folder as the program `cleanup` gives it: paths and sizes, the first one's inode being 1.
+inline QByteArray listingOf(const QList<std::pair<QByteArray, quint64>>& entries,
+                            const QByteArray& device = "64") {
+    QByteArray text = device + ":2" + '\0';
+    int inode = 0;
+    for (const auto& [path, bytes] : entries)
+        text += QByteArray::number(++inode) + ' ' + QByteArray::number(bytes) + ' ' + path + '\0';
+    return text;
+}
