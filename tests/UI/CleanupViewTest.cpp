@@ -2,6 +2,7 @@
 
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/ModelFixture.h"
@@ -30,7 +31,22 @@ struct CleanupViewTest : ModelFixture {
     }
     QStringList cards() { return shownNames<CacheCard>(*view); }
     QPointer<ConfirmDialog> dialog() { return window.findChild<ConfirmDialog*>(); }
+    void finish() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !model.isCleaning() && !model.isScanning(); }, 2000));
+        tick();
+    }
+    /// Makes the tools say so of every folder; `clean` answers a removal.
+    void answer(const QByteArray& listing, const ToolResult& clean = ScriptedTools::exited(0)) {
+        fakes.tools->answer = [=](const ToolRequest& request) {
+            if (request.launchPath == u"/usr/bin/du")
+                return ScriptedTools::exited(0, request.arguments.last().endsWith(u"_npx") ? "1024" : "2048");
+            return request.arguments.first() == u"remove" ? clean : ScriptedTools::exited(0, listing);
+        };
+    }
 };
+
+const QList<std::pair<QByteArray, quint64>> someFiles = {
+    {"a\x1b.iso", 9}, {"Trash/b.pdf", 8}, {"c", 7}, {"d", 6}, {"e", 5}};
 
 } // namespace
 
@@ -114,4 +130,119 @@ TEST_F(CleanupViewTest, TheGridReflowsWithTheWindow) {
     view->resize(400, 700);
     QCoreApplication::processEvents();
     EXPECT_EQ(columns(), 1);
+}
+
+TEST_F(CleanupViewTest, WhatWasConfirmedIsWhatIsCleaned) {
+    const QByteArray shown = listingOf({{"_cacache", 0}});
+    answer(shown);
+    rescan();
+    press(*view, u"Clean All"_s);
+    EXPECT_TRUE(shownNames<QWidget>(*dialog()).contains(u"npm / pnpm / yarn, 2 MB, “_cacache”"_s));
+    fakes.places->elsewhere[u"~/.cache/pip"_s] = {home.makeFolder(u"pip"_s)};
+    answer(listingOf({{"since then", 0}}));
+    QCoro::waitFor(model.rescanCaches());
+    EXPECT_EQ(model.targetsToClean().size(), 2);
+    press(*dialog(), u"Clean 2 MB"_s);
+    finish();
+    EXPECT_EQ(logged(), QStringList(u"clean [batch] npm / pnpm / yarn ok"_s));
+    for (const ToolRequest& request : std::as_const(fakes.tools->requests))
+        EXPECT_TRUE(request.arguments.first() != u"remove" || request.input == shown);
+}
+
+TEST_F(CleanupViewTest, ATotalCountsOnceWhatTargetsShare) {
+    fakes.places->elsewhere[u"~/.npm/_npx"_s] = {home.makeFolder(u".npm/_npx"_s)};
+    answer(listingOf({}));
+    rescan();
+    EXPECT_EQ(model.targetsToClean().size(), 2);
+    EXPECT_TRUE(showsText(*view, u"Reclaimable: 2 MB"_s));
+    press(*view, u"Clean All"_s);
+    EXPECT_TRUE(showsText(*dialog(), u"Some of them overlap; the total counts what they share once."_s));
+    EXPECT_TRUE(buttonNamed(*dialog(), u"Clean 2 MB"_s));
+}
+
+TEST_F(CleanupViewTest, ACleanCanBeCancelledAndSaysSo) {
+    rescan();
+    EXPECT_FALSE(buttonNamed(*view, u"Cancel cleaning"_s));
+    press(*view, u"Clean All"_s);
+    fakes.tools->held = true;
+    press(*dialog(), u"Clean 2 MB"_s);
+    tick();
+    EXPECT_TRUE(showsText(*view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
+    auto* cancel = buttonNamed(*view, u"Cancel cleaning"_s);
+    ASSERT_TRUE(cancel && cancel->focusPolicy() & Qt::TabFocus);
+    QTest::keyClick(cancel, Qt::Key_Space);
+    fakes.tools->held = false;
+    EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
+    finish();
+    EXPECT_TRUE(showsText(*view, u"• Cancelled: cleaned 0 of 1 targets, freed ~0 bytes"_s));
+    EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (cancelled)"_s));
+    EXPECT_FALSE(buttonNamed(*view, u"Cancel cleaning"_s));
+}
+
+TEST_F(CleanupViewTest, SaysWhySomethingIsLeft) {
+    const QString npm = home.path(u".npm"_s);
+    fakes.places->objections[npm] = u"~/.npm is left\talone."_s;
+    answer(listingOf({}));
+    rescan();
+    const auto cards = view->findChildren<CacheCard*>();
+    const auto card = std::ranges::find_if(
+        cards, [](const CacheCard* each) { return each->accessibleName().startsWith(u"npm /"_s); });
+    EXPECT_EQ((*card)->accessibleDescription(), u"~/.npm is left␉alone."_s);
+    (*card)->click();
+    EXPECT_TRUE(showsText(*window.findChild<CacheDetailDrawer*>(), u"~/.npm is left␉alone."_s));
+    delete window.findChild<CacheDetailDrawer*>();
+
+    fakes.places->objections.clear();
+    answer(listingOf({}), {.launched = true, .exitStatus = 1, .complaint = u"2 entries\n are left"_s});
+    rescan();
+    model.clean(model.targetsToClean().first());
+    finish();
+    EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (2 entries␊ are left)"_s));
+}
+
+TEST_F(CleanupViewTest, TheDrawerListsWhatGoesBesidesTheBreakdown) {
+    CacheTarget target{.name = u"x"_s, .symbol = {}, .listed = {{u"/x"_s, 0, listingOf(someFiles)}}};
+    const auto shown = [&](const QString& text) {
+        CacheDetailDrawer drawer(target, &window);
+        drawer.setAttribute(Qt::WA_DeleteOnClose, false);
+        drawer.show();
+        return showsText(drawer, text) || shownNames<QWidget>(drawer).contains(text);
+    };
+    EXPECT_TRUE(shown(u"b.pdf, 8 bytes"_s));
+    target.rule.measure = CleanupRule::Measure::oldFiles;
+    target.details = {{u"/x/b.pdf"_s, 8}};
+    EXPECT_TRUE(shown(u"and 4 more"_s));
+    target.listed.clear();
+    target.rule.measure = CleanupRule::Measure::containers;
+    target.volumes = {u"db"_s, u"web"_s};
+    EXPECT_TRUE(shown(u"Volumes that go, with all that is in them: 2"_s));
+    EXPECT_TRUE(shown(u"web"_s));
+}
+
+TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {
+    const QList<ListedFolder> listed{{u"/x"_s, 0, listingOf(someFiles)}};
+    const auto names = u"“a␛.iso”, “b.pdf”, “c” and 2 more"_s;
+    const CacheTarget caches{.name = u"A"_s, .symbol = {}, .sizeBytes = 1, .listed = listed};
+    const CacheTarget mine{
+        .name = u"B"_s, .symbol = {}, .sizeBytes = 1, .rule = {.holdsUserFiles = true}, .listed = listed};
+    const CacheTarget containers{.name = u"C"_s,
+                                 .symbol = {},
+                                 .pruneCommand = u"prune"_s,
+                                 .sizeBytes = 1,
+                                 .volumes = {QString(64, u'f'), u"db"_s},
+                                 .notes = {u"Some\n\nnote."_s}};
+    const auto rebuilt = u"Apps will rebuild caches as needed."_s;
+    const std::tuple<CacheTarget, QString, bool> cases[] = {
+        {caches, names, true},
+        {mine, u"These files of yours will be gone for good: "_s + names, false},
+        {containers, u"2 volumes, “ffffffffffffffffffff…fffffffffffffffffff” and “db”"_s, false},
+        {containers, u"\n\nSome␊␊note."_s, false},
+    };
+    for (const auto& [target, said, isRebuilt] : cases) {
+        const QString question = CleanupTexts::question(target);
+        EXPECT_TRUE(question.contains(said)) << qPrintable(question);
+        EXPECT_EQ(question.contains(rebuilt), isRebuilt) << qPrintable(question);
+    }
+    EXPECT_FALSE(CleanupTexts::questionAll({mine, containers}).contains(rebuilt));
+    EXPECT_TRUE(CleanupTexts::questionAll({caches, mine, containers}).contains(u"gone for good: B, C."_s));
 }

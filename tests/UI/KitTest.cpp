@@ -1,11 +1,13 @@
 #include "UI/Controls.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
+#include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
 #include "UI/Kit/Switch.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextDocument>
 
@@ -27,6 +29,25 @@ TEST(ConfirmDialogTest, EveryWayOutButItsOwnButtonIsTheSafeOne) {
         settle();
         EXPECT_TRUE(dialog.isNull());
     }
+}
+
+TEST(ConfirmDialogTest, ALongListIsScrolledByKeyboard) {
+    QPointer<ConfirmDialog> dialog = new ConfirmDialog(nullptr, u"Sure?"_s, u"One."_s);
+    auto* list = new SizeList(u"What goes"_s);
+    for (int i = 0; i < 40; ++i)
+        list->addRow({.name = u"<b>%1\n"_s.arg(i), .figure = u"1 KB"_s, .detail = u"small print"_s});
+    list->fit(ConfirmDialog::textWidth, 200);
+    dialog->addContent(list);
+    dialog->open();
+    EXPECT_EQ(list->size(), QSize(ConfirmDialog::textWidth, 200));
+    EXPECT_LE(dialog->height(), 400);
+    EXPECT_TRUE(shownNames<QWidget>(*list).contains(u"<b>7␊, 1 KB, small print"_s));
+    EXPECT_TRUE(list->focusPolicy() & Qt::TabFocus);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_GT(list->verticalScrollBar()->value(), 0);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST(PushButtonTest, AnEscapedAmpersandIsReadOnce) {

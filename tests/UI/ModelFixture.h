@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
+#include "support/Listing.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -56,8 +57,8 @@ struct ModelFixture : testing::Test {
         fakes.tools->answer = [isCleaned = false](const ToolRequest& request) mutable {
             if (request.launchPath == u"/usr/bin/du")
                 return ScriptedTools::exited(0, isCleaned ? "0 x" : "2048 x");
-            isCleaned |= request.arguments.last().contains(u"rm -rf");
-            return ScriptedTools::exited(0);
+            isCleaned |= request.arguments.first() == u"remove";
+            return ScriptedTools::exited(0, listingOf({}));
         };
     }
 

@@ -1,5 +1,6 @@
 #include "UI/Optimize/OptimizeView.h"
 
+#include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
@@ -147,7 +148,7 @@ TEST_F(OptimizeViewTest, TheSwitchRunsTheOptimizer) {
     EXPECT_FALSE(model.autoOptimizeEnabled());
 }
 
-TEST_F(OptimizeViewTest, CachesAreCleanedAtOnce) {
+TEST_F(OptimizeViewTest, CleanAllAsksOnceUnlessToldNotTo) {
     fillNpmFolder();
     show();
     EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
@@ -155,5 +156,32 @@ TEST_F(OptimizeViewTest, CachesAreCleanedAtOnce) {
     tick();
     EXPECT_TRUE(showsText(view, u"2 MB reclaimable across %1 targets"_s.arg(CacheTarget::defaults().size())));
     press(view, u"Clean All"_s);
+    ASSERT_TRUE(view.findChild<ConfirmDialog*>());
+    QTest::keyClick(view.findChild<ConfirmDialog*>(), Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(logged().isEmpty());
+    press(view, u"Clean All"_s);
+    press(*view.findChild<ConfirmDialog*>(), u"Clean 2 MB"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return notice() == u"Cleaned 1 targets, freed ~2 MB"_s; }, 2000));
+}
+
+TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
+    fillNpmFolder();
+    prefs.askBeforeCleaningAll.set(false);
+    show();
+    QCoro::waitFor(model.rescanCaches());
+    tick();
+    fakes.tools->held = true;
+    press(view, u"Clean All"_s);
+    tick();
+    EXPECT_FALSE(view.findChild<ConfirmDialog*>());
+    EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
+    EXPECT_TRUE(showsText(view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
+    press(view, u"Cancel cleaning"_s);
+    fakes.tools->held = false;
+    EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return notice().startsWith(u"Cancelled: cleaned 0 of 1"_s); }, 2000));
+    EXPECT_TRUE(notice().endsWith(u"Not finished: npm / pnpm / yarn (cancelled)"_s));
+    EXPECT_TRUE(buttonNamed(view, u"Clean All"_s)->isEnabled());
 }

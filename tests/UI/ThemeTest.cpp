@@ -1,5 +1,7 @@
 #include "UI/Kit/Theme.h"
 
+#include "UI/Kit/TextLabel.h"
+
 #include <QApplication>
 #include <QPalette>
 
@@ -53,4 +55,15 @@ TEST(Theme, StylesKeepTheirRatiosToTheDesktopsFont) {
     EXPECT_DOUBLE_EQ(body, QApplication::font().pointSizeF());
     EXPECT_NEAR(Theme::font(Theme::TextStyle::title).pointSizeF() / body, 22.0 / 13, 0.01);
     EXPECT_NEAR(Theme::font(Theme::TextStyle::caption).pointSizeF() / body, 10.0 / 13, 0.01);
+}
+
+TEST(Theme, ATintedLabelFollowsTheScheme) {
+    QWidget window;
+    auto* label = new TextLabel(Theme::TextStyle::body, {}, &window);
+    label->tinted(Role::red);
+    window.show();
+    for (const bool dark : {true, false}) {
+        Theme::apply(dark);
+        EXPECT_EQ(label->palette().color(QPalette::WindowText), Theme::color(Role::red)) << dark;
+    }
 }

@@ -4,6 +4,7 @@
 #include "Core/MessageCenter.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/FigureIcon.h"
 #include "UI/Kit/Switch.h"
@@ -147,11 +148,43 @@ private:
     QString m_folder;
 };
 
+QByteArray containerAnswer(const QString& command) {
+    if (command.contains(u"system df"))
+        return "Images\t12.4GB\t8.1GB (65%)\nContainers\t310MB\t290MB (93%)\n"
+               "Local Volumes\t4.2GB\t1.9GB (45%)\nBuild Cache\t6.8GB\t6.8GB\n";
+    return "volume\tshop_postgres-data\nvolume\tblog_uploads\n"
+           "volume\t8c1f0d3c5b7e4a60b1d2c3e4f5a6978890abcdef1234567890abcdef12345678\n";
+}
+
+QByteArray listingAnswer(const QStringList& arguments) {
+    constexpr quint64 MB = MiB;
+    if (arguments.contains(u"--screenshots"))
+        return listingOf({{"Screenshot from 2026-08-02 10-14-55.png", 3 * MB},
+                          {"Screencast from 2026-07-30 17-02-11.webm", 214 * MB}});
+    if (arguments.contains(u"--older-than"))
+        return listingOf({{"ubuntu-24.04-desktop-amd64.iso", 6114 * MB},
+                          {"Family holiday 2025 (all the clips, uncut, for grandmother).mov", 2300 * MB},
+                          {"taxes/2024/receipts.zip", 48 * MB},
+                          {"a\x1b[31m red\tname.pdf", 2 * MB},
+                          {"\xd8\xb5\xd9\x88\xd8\xb1\xd8\xa9.jpg", MB}});
+    if (arguments.last().contains(u"Trash"))
+        return listingOf({{"thesis-old-version.odt", 9 * MB}, {"backup-of-the-laptop", 18400 * MB}});
+    return listingOf({{"_cacache", 1890 * MB}, {"_npx", 210 * MB}, {"_logs", 3 * MB}, {"tmp", 4096}});
+}
+
 /// Du finds something in most caches; the deeper the catalogue, the less.
 void scriptCaches(Stage& stage) {
+    stage.fakes.places->objections[stage.home.path(u".pnpm-store"_s)] =
+        u"~/.local/share/pnpm is left alone: it is on another file system, which something else writes to."_s;
     stage.fakes.tools->answer = [](const ToolRequest& request) {
+        if (request.launchPath == u"/bin/sh")
+            return ScriptedTools::exited(0, containerAnswer(request.arguments.last()));
+        if (request.launchPath == u"cleanup" && request.arguments.first() == u"remove")
+            return ToolResult{.launched = true,
+                              .exitStatus = 1,
+                              .complaint = u"3 entries are left, _npx for one: Permission denied"_s};
         if (request.launchPath != u"/usr/bin/du")
-            return ScriptedTools::exited(0);
+            return ScriptedTools::exited(0, listingAnswer(request.arguments));
         const auto kib =
             (qHash(request.arguments.last(), 7) % 9000) * (qHash(request.arguments.last(), 3) % 400);
         return ScriptedTools::exited(0, QByteArray::number(static_cast<qulonglong>(kib)) + " x");
@@ -173,6 +206,46 @@ void addServers(Stage& stage) {
     }
 }
 
+void shootTarget(Camera& camera, MainWindow& window, const QString& target, const QString& suffix) {
+    for (CacheCard* card : window.findChildren<CacheCard*>()) {
+        if (card->accessibleName().startsWith(target))
+            card->click();
+    }
+    auto* drawer = window.findChild<CacheDetailDrawer*>();
+    camera.take(*drawer, u"cleanup-drawer"_s + suffix);
+    drawer->findChildren<PushButton*>().last()->click();
+    camera.take(*drawer->findChild<ConfirmDialog*>(), u"cleanup-confirm"_s + suffix);
+    delete drawer->findChild<ConfirmDialog*>();
+    drawer->reject();
+    settle();
+}
+
+/// The question, the run, and what is left of one that was cancelled.
+void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
+    const CleanupView& view = *window.findChild<CleanupView*>();
+    press(view, u"Clean All"_s);
+    auto* dialog = window.findChild<ConfirmDialog*>();
+    camera.take(*dialog, u"cleanup-confirm-all"_s);
+    stage.fakes.tools->held = true;
+    dialog->findChildren<PushButton*>().last()->click();
+    settle();
+    camera.take(window, u"cleanup-running"_s);
+    window.findChild<RootView*>()->select(RootView::Tab::optimize);
+    settle();
+    QScrollBar* scroll = window.findChild<OptimizeView*>()->verticalScrollBar();
+    scroll->setValue(scroll->maximum());
+    camera.take(window, u"optimize-cleaning"_s);
+    scroll->setValue(0);
+    window.findChild<RootView*>()->select(RootView::Tab::cleanup);
+    stage.model.cancelCleaning();
+    stage.fakes.tools->held = false;
+    for (const ToolRequest& request : QList<ToolRequest>(stage.fakes.tools->requests))
+        stage.fakes.tools->release(request.arguments.last());
+    QTest::qWaitFor([&stage] { return !stage.model.isCleaning() && !stage.model.isScanning(); });
+    stage.play(1, 24, 8.1);
+    camera.take(window, u"cleanup-cancelled"_s);
+}
+
 void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     auto* root = window.findChild<RootView*>();
     root->select(RootView::Tab::optimize);
@@ -189,11 +262,10 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     QCoro::waitFor(stage.model.rescanCaches());
     stage.play(90, 24, 8.1);
     camera.take(window, u"cleanup"_s);
-    window.findChildren<CacheCard*>().first()->click();
-    camera.take(*window.findChild<CacheDetailDrawer*>(), u"cleanup-drawer"_s);
-    window.findChild<CacheDetailDrawer*>()->findChildren<PushButton*>().last()->click();
-    camera.take(*window.findChild<ConfirmDialog*>(), u"cleanup-confirm"_s);
-    delete window.findChild<CacheDetailDrawer*>();
+    for (const auto& [target, name] : {std::pair(u"npm /"_s, u""_s), std::pair(u"Docker"_s, u"-docker"_s),
+                                       std::pair(u"Old Downloads"_s, u"-files"_s)})
+        shootTarget(camera, window, target, name);
+    shootCleanAll(camera, window, stage);
     root->select(RootView::Tab::processes);
     camera.take(window, u"processes"_s);
     auto* processes = window.findChild<ProcessesView*>();

@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/Symbols.h"
+#include "UI/Kit/ToolTip.h"
 
 #include <QPainter>
 
@@ -45,6 +46,9 @@ void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
     m_scanned = scanned;
     setAccessibleName(
         QStringLiteral("%1, %2, %3").arg(target.name, Formatters::bytes(target.sizeBytes), scanned));
+    const QString notes = Formatters::visible(target.notes.join(u' '));
+    setAccessibleDescription(notes);
+    setToolTip(plainToolTip(notes));
     update();
 }
 
@@ -83,6 +87,9 @@ void CacheCard::paintEvent(QPaintEvent*) {
                           Formatters::bytes(m_target.sizeBytes));
     painter.setFont(Theme::font(TextStyle::caption2));
     painter.setPen(Theme::color(Role::secondaryText));
+    if (!m_target.notes.isEmpty())
+        Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight,
+                             Formatters::visible(m_target.notes.first()));
     const double height = QFontMetricsF(painter.font()).height();
     Painting::drawTabular(painter, QRectF(area.left(), area.bottom() - height, area.width(), height),
                           Qt::AlignLeft, m_scanned);

@@ -1,17 +1,15 @@
 #include "UI/Cleanup/CacheDetailDrawer.h"
 
+#include "Core/CleanupPlan.h"
 #include "Core/Formatters.h"
-#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Kit/Divider.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/PushButton.h"
+#include "UI/Kit/SizeList.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
-#include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
-#include <QScrollArea>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -19,35 +17,29 @@ using Theme::TextStyle;
 namespace {
 
 constexpr QSize leastSize(460, 480);
-constexpr int rowHeight = 26;
+constexpr qsizetype mostNames = 20;
 
-/// A path and what it holds.
-class BreakdownRow : public QWidget {
-public:
-    explicit BreakdownRow(const CacheEntry& entry)
-        : m_path(Formatters::visible(entry.path))
-        , m_size(Formatters::bytes(entry.sizeBytes)) {
-        setFixedHeight(rowHeight);
-        setToolTip(plainToolTip(m_path));
-        setAccessibleName(QStringLiteral("%1, %2").arg(m_path, m_size));
+/// What goes besides what the breakdown shows.
+void addNames(SizeList& list, const CacheTarget& target) {
+    const CleanupPlan::Names names = CleanupPlan::namesOf(target, mostNames);
+    const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
+    const qsizetype shown = isInBreakdown ? target.details.size() : names.shown.size();
+    if (!isInBreakdown && shown > 0) {
+        list.addHeading(QStringLiteral("What goes"));
+        for (const CacheEntry& entry : names.shown)
+            list.addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
     }
+    if (names.count > shown)
+        list.addLine(QStringLiteral("and %1 more").arg(names.count - shown));
+}
 
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setFont(Theme::font(TextStyle::callout));
-        painter.setPen(Theme::color(Role::primaryText));
-        QRectF line = rect();
-        Painting::drawTabular(painter, line, Qt::AlignRight, m_size);
-        line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_size) - Theme::gridSpacing);
-        painter.setPen(Theme::color(Role::secondaryText));
-        Painting::drawElided(painter, line, Qt::ElideMiddle, m_path);
-    }
-
-private:
-    QString m_path;
-    QString m_size;
-};
+void addVolumes(SizeList& list, const CacheTarget& target) {
+    const qsizetype count = target.volumes.size();
+    list.addHeading(count == 0 ? QStringLiteral("No volumes go")
+                               : QStringLiteral("Volumes that go, with all that is in them: %1").arg(count));
+    for (const QString& volume : target.volumes)
+        list.addRow({.name = volume});
+}
 
 } // namespace
 
@@ -68,17 +60,11 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     column->setSpacing(12);
     column->addLayout(makeHeader());
     column->addWidget(size);
-    if (m_target.pruneCommand) {
-        auto* symbol = new SymbolView(14, Theme::iconSize);
-        symbol->set(QStringLiteral("terminal"), Role::secondaryText);
-        auto* command = (new TextLabel(TextStyle::caption))->secondary()->wrapped();
-        command->setPlainText(QStringLiteral("Will run: ") + *m_target.pruneCommand);
-        auto* row = new QHBoxLayout;
-        row->setSpacing(6);
-        row->addWidget(symbol);
-        row->addWidget(command, 1);
-        column->addLayout(row);
-    }
+    if (m_target.pruneCommand)
+        column->addLayout(
+            makeLine(QStringLiteral("terminal"), QStringLiteral("Will run: ") + *m_target.pruneCommand));
+    for (const QString& note : m_target.notes)
+        column->addLayout(makeLine(QStringLiteral("info.circle.fill"), note));
     column->addWidget(new Divider);
     auto* caption = (new TextLabel(TextStyle::caption))->secondary();
     caption->setPlainText(QStringLiteral("Breakdown"));
@@ -108,37 +94,34 @@ QLayout* CacheDetailDrawer::makeHeader() {
     return row;
 }
 
+QLayout* CacheDetailDrawer::makeLine(const QString& symbol, const QString& text) const {
+    auto* icon = new SymbolView(14, Theme::iconSize);
+    icon->set(symbol, Role::secondaryText);
+    auto* label = (new TextLabel(TextStyle::caption))->secondary()->wrapped();
+    label->setPlainText(text);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addWidget(icon);
+    row->addWidget(label, 1);
+    return row;
+}
+
 QWidget* CacheDetailDrawer::makeBreakdown() const {
-    auto* rows = new QWidget;
-    auto* column = new QVBoxLayout(rows);
-    column->setContentsMargins(0, 0, Theme::rowSpacing, 0);
-    column->setSpacing(0);
+    auto* list = new SizeList(QStringLiteral("Breakdown"));
     for (const CacheEntry& entry : m_target.details)
-        column->addWidget(new BreakdownRow(entry));
-    if (m_target.details.isEmpty()) {
-        auto* nothing = (new TextLabel(TextStyle::callout))->secondary();
-        nothing->setPlainText(m_target.lastScanned ? QStringLiteral("Nothing found.")
-                                                   : QStringLiteral("Rescan to see what it consists of."));
-        column->addWidget(nothing);
-    }
-    column->addStretch();
-    auto* area = new QScrollArea;
-    area->setWidget(rows);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(area);
-    return area;
+        list->addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
+    if (m_target.details.isEmpty())
+        list->addLine(m_target.lastScanned ? QStringLiteral("Nothing found.")
+                                           : QStringLiteral("Rescan to see what it consists of."));
+    addNames(*list, m_target);
+    if (m_target.rule.measure == CleanupRule::Measure::containers && !m_target.details.isEmpty())
+        addVolumes(*list, m_target);
+    return list;
 }
 
 void CacheDetailDrawer::confirm() {
-    auto* dialog =
-        new ConfirmDialog(this, QStringLiteral("Delete %1?").arg(m_target.name),
-                          QStringLiteral("Deleting cache files. Apps will rebuild caches as needed."));
-    auto* remove = dialog->addAction(QStringLiteral("Delete %1").arg(Formatters::bytes(m_target.sizeBytes)),
-                                     PushButton::Look::destructive);
-    connect(remove, &QPushButton::clicked, this, [this] {
+    CleanupConfirmation::ask(this, this, m_target, [this] {
         Q_EMIT cleanRequested(m_target);
         accept();
     });
-    dialog->open();
 }

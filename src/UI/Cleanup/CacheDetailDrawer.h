@@ -17,6 +17,7 @@ Q_SIGNALS:
 
 private:
     QLayout* makeHeader();
+    QLayout* makeLine(const QString& symbol, const QString& text) const;
     QWidget* makeBreakdown() const;
     void confirm();
 

@@ -1,13 +1,17 @@
 #include "UI/Cleanup/CleanupView.h"
 
 #include "AppModel.h"
+#include "Core/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Observe.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
-#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Cleanup/CleanupConfirmation.h"
+#include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/FlowGrid.h"
 #include "UI/Kit/OnScreen.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/Kit/TextLabel.h"
@@ -23,13 +27,6 @@ namespace {
 constexpr int leastCardWidth = 220;
 constexpr int cardGap = 12;
 
-QString progressText(const QString& doing, const CleanupProgress& progress) {
-    return QStringLiteral("%1 %2 (%3 of %4)")
-        .arg(doing, progress.target)
-        .arg(progress.done)
-        .arg(progress.total);
-}
-
 } // namespace
 
 CleanupView::CleanupView(AppModel& model, QWidget* parent)
@@ -42,7 +39,9 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_cleanAll(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
                                 QStringLiteral("trash.fill")))
     , m_spinner(new Spinner)
-    , m_progress((new TextLabel(TextStyle::caption))->secondary()) {
+    , m_progress((new TextLabel(TextStyle::caption))->secondary())
+    , m_unfinished(new ClampedLabel(1, TextStyle::caption))
+    , m_cancel(new PushButton(QStringLiteral("Cancel"))) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
@@ -52,6 +51,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     setAccessibleName(QStringLiteral("Cleanup"));
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.rescanCaches(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
+    connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelCleaning);
     observe(&m_model, this, [this] { refresh(); });
 }
 
@@ -82,14 +82,16 @@ QLayout* CleanupView::makeProgress() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(6);
-    for (QWidget* part : {static_cast<QWidget*>(m_spinner), static_cast<QWidget*>(m_progress)}) {
-        QSizePolicy policy = part->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        part->setSizePolicy(policy);
-        part->hide();
-    }
+    m_cancel->setSmall();
+    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    QSizePolicy policy = m_cancel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_cancel->setSizePolicy(policy);
+    m_unfinished->tinted(Theme::Role::red);
     row->addWidget(m_spinner);
     row->addWidget(m_progress, 1);
+    row->addWidget(m_unfinished, 1);
+    row->addWidget(m_cancel);
     return row;
 }
 
@@ -120,16 +122,14 @@ void CleanupView::refresh() {
         return;
     refreshCards();
     refreshProgress();
-    const quint64 total = totalBytes();
-    m_total->setPlainText(QStringLiteral("Reclaimable: ") + Formatters::bytes(total));
+    m_total->setPlainText(QStringLiteral("Reclaimable: ") +
+                          Formatters::bytes(CleanupPlan::totalBytes(m_model.cacheTargets())));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
-    QPalette green = palette();
-    green.setColor(QPalette::WindowText, Theme::color(Theme::Role::green));
-    m_result->setPalette(green);
+    m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
     m_rescan->setEnabled(!m_model.isScanning());
     m_cleanAll->setBusy(m_cleaningAll);
-    m_cleanAll->setEnabled(!m_cleaningAll && total > 0);
+    m_cleanAll->setEnabled(!m_cleaningAll && !m_model.isCleaning() && !m_model.targetsToClean().isEmpty());
 }
 
 void CleanupView::refreshCards() {
@@ -146,19 +146,19 @@ void CleanupView::refreshCards() {
 
 void CleanupView::refreshProgress() {
     const bool isBusy = m_model.isCleaning() || m_model.isScanning();
+    const QString unfinished = CleanupTexts::unfinished(m_model.cleanReport());
+    if (m_model.isCleaning())
+        m_progress->setPlainText(CleanupTexts::progress(
+            m_model.cleanReport().wasCancelled ? QStringLiteral("Cancelling") : QStringLiteral("Cleaning"),
+            *m_model.cleanProgress()));
+    else if (m_model.isScanning())
+        m_progress->setPlainText(
+            CleanupTexts::progress(QStringLiteral("Measuring"), *m_model.scanProgress()));
+    m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy);
-    if (m_model.isCleaning())
-        m_progress->setPlainText(progressText(QStringLiteral("Cleaning"), *m_model.cleanProgress()));
-    else if (m_model.isScanning())
-        m_progress->setPlainText(progressText(QStringLiteral("Measuring"), *m_model.scanProgress()));
-}
-
-quint64 CleanupView::totalBytes() const {
-    quint64 total = 0;
-    for (const CacheTarget& target : m_model.cacheTargets())
-        total += target.sizeBytes;
-    return total;
+    m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
+    m_cancel->setVisible(m_model.isCleaning());
 }
 
 void CleanupView::open(const CacheTarget& target) {
@@ -177,28 +177,23 @@ void CleanupView::open(const CacheTarget& target) {
 }
 
 void CleanupView::confirmCleanAll() {
-    auto* dialog = new ConfirmDialog(
-        window(), QStringLiteral("Clean all reclaimable caches?"),
-        QStringLiteral(
-            "Runs every cleanup with a size estimate above 0. Apps will rebuild caches as needed."));
-    auto* clean = dialog->addAction(QStringLiteral("Clean %1").arg(Formatters::bytes(totalBytes())),
-                                    PushButton::Look::destructive);
-    connect(clean, &QPushButton::clicked, this, &CleanupView::cleanAll);
-    dialog->open();
+    CleanupConfirmation::askAll(window(), this, m_model.targetsToClean(),
+                                [this](const QList<CacheTarget>& targets) { cleanAll(targets); });
 }
 
-void CleanupView::cleanAll() {
+void CleanupView::cleanAll(const QList<CacheTarget>& targets) {
     if (m_cleaningAll)
         return;
     m_cleaningAll = true;
     refresh();
-    m_model.cleanAll().then([self = QPointer<CleanupView>(this)](std::pair<int, quint64> cleaned) {
-        if (!self)
-            return;
-        self->m_cleaningAll = false;
-        self->m_lastCleanResult = QStringLiteral("Cleaned %1 targets, freed ~%2")
-                                      .arg(cleaned.first)
-                                      .arg(Formatters::bytes(cleaned.second));
-        self->refresh();
-    });
+    m_model.cleanAll(targets).then(
+        [self = QPointer<CleanupView>(this), asked = targets.size()](std::pair<int, quint64> cleaned) {
+            if (!self)
+                return;
+            const CleanupReport& report = self->m_model.cleanReport();
+            self->m_cleaningAll = false;
+            self->m_wasCancelled = report.wasCancelled;
+            self->m_lastCleanResult = CleanupTexts::outcome(asked, cleaned, report);
+            self->refresh();
+        });
 }

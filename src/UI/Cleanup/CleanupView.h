@@ -31,13 +31,13 @@ private:
     void refreshProgress();
     void open(const CacheTarget& target);
     void confirmCleanAll();
-    void cleanAll();
-    quint64 totalBytes() const;
+    void cleanAll(const QList<CacheTarget>& targets);
 
     AppModel& m_model;
     QString m_selected; ///< the target whose drawer is open
     bool m_cleaningAll = false;
     QString m_lastCleanResult;
+    bool m_wasCancelled = false; ///< what the result is about
 
     TextLabel* m_total;
     TextLabel* m_result;
@@ -45,6 +45,8 @@ private:
     PushButton* m_cleanAll;
     Spinner* m_spinner;
     TextLabel* m_progress;
+    TextLabel* m_unfinished;
+    PushButton* m_cancel;
     FlowGrid* m_grid = nullptr;
     QList<CacheCard*> m_cards;
 };

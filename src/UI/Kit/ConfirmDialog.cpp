@@ -9,7 +9,6 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int textWidth = 420;
 constexpr int mostHeadingLines = 4;
 constexpr int mostTextLines = 12;
 
@@ -17,6 +16,7 @@ constexpr int mostTextLines = 12;
 
 ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QString& text)
     : QDialog(parent)
+    , m_column(new QVBoxLayout(this))
     , m_buttons(new QHBoxLayout) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
@@ -26,21 +26,20 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     auto* heading = new ClampedLabel(mostHeadingLines, TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
     heading->setFixedWidth(textWidth);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
-    column->setSpacing(Theme::rowSpacing);
-    column->addWidget(heading);
+    m_column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
+                                 Theme::pagePadding);
+    m_column->setSpacing(Theme::rowSpacing);
+    m_column->addWidget(heading);
     for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
         auto* label = new ClampedLabel(mostTextLines, TextStyle::body);
         label->secondary();
         label->setPlainText(paragraph);
         label->setFixedWidth(textWidth);
-        column->addWidget(label);
+        m_column->addWidget(label);
     }
-    column->addSpacing(Theme::rowSpacing);
-    column->addLayout(m_buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    m_column->addSpacing(Theme::rowSpacing);
+    m_column->addLayout(m_buttons);
+    m_column->setSizeConstraint(QLayout::SetFixedSize);
 
     auto* cancel = new PushButton(QStringLiteral("Cancel"));
     cancel->setDefault(true);
@@ -56,4 +55,9 @@ PushButton* ConfirmDialog::addAction(const QString& text, PushButton::Look look)
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     m_buttons->insertWidget(m_buttons->count() - 1, button);
     return button;
+}
+
+void ConfirmDialog::addContent(QWidget* content) {
+    constexpr int below = 2; // the gap before the buttons, and they
+    m_column->insertWidget(m_column->count() - below, content);
 }

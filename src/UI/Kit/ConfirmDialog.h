@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class QHBoxLayout;
+class QVBoxLayout;
 
 /// Asks before something that cannot be undone. Escape, Return and closing it all mean Cancel; it is gone
 /// once it is answered. Show it with open().
@@ -16,7 +17,12 @@ public:
 
     /// One more answer, before Cancel. The dialog closes before the button's `clicked` reaches anyone else.
     PushButton* addAction(const QString& text, PushButton::Look look);
+    /// Between the text and the buttons; as wide as `textWidth`.
+    void addContent(QWidget* content);
+
+    static constexpr int textWidth = 420;
 
 private:
+    QVBoxLayout* m_column;
     QHBoxLayout* m_buttons;
 };

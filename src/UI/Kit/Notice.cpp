@@ -1,24 +1,29 @@
 #include "UI/Kit/Notice.h"
 
 #include "UI/Kit/Card.h"
+#include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/Symbols.h"
-#include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
 
 using Theme::Role;
 
+namespace {
+
+constexpr int mostLines = 2;
+
+} // namespace
+
 Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent)
     : QWidget(parent)
-    , m_text(new TextLabel(Theme::TextStyle::callout)) {
+    , m_text(new ClampedLabel(mostLines, Theme::TextStyle::callout)) {
     auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
     icon->set(symbol, Role::green);
     auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);
     connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
-    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     auto* card = new Card(this, Role::green);
     auto* row = new QHBoxLayout(card);

@@ -7,7 +7,7 @@
 
 class TextLabel;
 
-/// One line that tells the outcome of an action, with a button to dismiss it. Hidden until it has a text.
+/// A short text that tells the outcome of an action, with a button to dismiss it. Hidden until it has a text.
 class Notice : public QWidget {
     Q_OBJECT
 

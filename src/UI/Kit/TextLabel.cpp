@@ -24,7 +24,7 @@ TextLabel* TextLabel::tinted(Theme::Role role) {
 }
 
 void TextLabel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange && m_tint)
+    if (event->type() == QEvent::PaletteChange && m_tint)
         tinted(*m_tint);
     QLabel::changeEvent(event);
 }

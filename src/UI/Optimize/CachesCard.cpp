@@ -1,6 +1,9 @@
 #include "UI/Optimize/CachesCard.h"
 
+#include "AppModel.h"
+#include "Core/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -21,10 +24,14 @@ constexpr int chipGap = 24;
 
 CachesCard::CachesCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
+    , m_cancel(new PushButton(QStringLiteral("Cancel")))
     , m_clean(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
                              QStringLiteral("trash.fill"))) {
     m_clean->setTint(Role::red);
+    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    m_cancel->hide();
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
+    connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
     auto* row = new QHBoxLayout;
     row->setSpacing(chipGap);
     for (qsizetype i = 0; i < shownTargets; ++i) {
@@ -32,7 +39,11 @@ CachesCard::CachesCard(QWidget* parent)
         row->addWidget(m_chips.last().widget);
     }
     row->addStretch();
-    row->addWidget(m_clean);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Theme::rowSpacing);
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_clean);
+    row->addLayout(buttons);
     content()->addLayout(row);
 }
 
@@ -49,27 +60,34 @@ CachesCard::Chip CachesCard::makeChip() const {
     return chip;
 }
 
-void CachesCard::refresh(const QList<CacheTarget>& targets) {
-    quint64 total = 0;
-    for (const CacheTarget& target : targets)
-        total += target.sizeBytes;
-    setSubtitle(
-        QStringLiteral("%1 reclaimable across %2 targets").arg(Formatters::bytes(total)).arg(targets.size()));
-    QList<CacheTarget> largest = targets;
-    std::ranges::stable_sort(largest, std::ranges::greater(), &CacheTarget::sizeBytes);
+void CachesCard::refresh(const AppModel& model) {
+    const QList<CacheTarget>& targets = model.cacheTargets();
+    if (model.isCleaning())
+        setSubtitle(CleanupTexts::progress(model.cleanReport().wasCancelled ? QStringLiteral("Cancelling")
+                                                                            : QStringLiteral("Cleaning"),
+                                           *model.cleanProgress()));
+    else
+        setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")
+                        .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
+                        .arg(targets.size()));
+    refreshChips(targets);
+    m_cancel->setVisible(model.isCleaning());
+    m_clean->setEnabled(!m_cleaning && !model.isCleaning() && !model.targetsToClean().isEmpty());
+}
+
+void CachesCard::refreshChips(QList<CacheTarget> targets) {
+    std::ranges::stable_sort(targets, std::ranges::greater(), &CacheTarget::sizeBytes);
     for (qsizetype i = 0; i < m_chips.size(); ++i) {
-        const bool isUsed = i < largest.size();
+        const bool isUsed = i < targets.size();
         m_chips[i].widget->setVisible(isUsed);
         if (isUsed) {
-            m_chips[i].name->setPlainText(largest[i].name);
-            m_chips[i].size->setPlainText(Formatters::bytes(largest[i].sizeBytes));
+            m_chips[i].name->setPlainText(targets[i].name);
+            m_chips[i].size->setPlainText(Formatters::bytes(targets[i].sizeBytes));
         }
     }
-    m_clean->setEnabled(total > 0 && !m_cleaning);
 }
 
 void CachesCard::setCleaning(bool cleaning) {
     m_cleaning = cleaning;
     m_clean->setBusy(cleaning);
-    m_clean->setEnabled(!cleaning);
 }

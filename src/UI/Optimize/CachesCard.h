@@ -3,6 +3,7 @@
 #include "Core/Models.h"
 #include "UI/Optimize/OptimizeCard.h"
 
+class AppModel;
 class PushButton;
 
 /// The largest caches, and the button that cleans all of them.
@@ -12,11 +13,13 @@ class CachesCard : public OptimizeCard {
 public:
     explicit CachesCard(QWidget* parent = nullptr);
 
-    void refresh(const QList<CacheTarget>& targets);
+    void refresh(const AppModel& model);
+    /// Of a run that this page began, with the measuring after it.
     void setCleaning(bool cleaning);
 
 Q_SIGNALS:
     void cleanAllRequested();
+    void cancelRequested();
 
 private:
     struct Chip {
@@ -26,8 +29,10 @@ private:
     };
 
     Chip makeChip() const;
+    void refreshChips(QList<CacheTarget> targets);
 
     QList<Chip> m_chips;
+    PushButton* m_cancel;
     PushButton* m_clean;
     bool m_cleaning = false;
 };

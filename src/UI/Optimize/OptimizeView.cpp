@@ -1,9 +1,10 @@
 #include "UI/Optimize/OptimizeView.h"
 
 #include "AppModel.h"
-#include "Core/Formatters.h"
 #include "Core/Observe.h"
 #include "Preferences.h"
+#include "UI/Cleanup/CleanupConfirmation.h"
+#include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/SlimScrollBar.h"
@@ -65,7 +66,8 @@ void OptimizeView::connectCards() {
     connect(m_quickKills, &QuickKillsCard::killRequested, this, &OptimizeView::killPreset);
     connect(m_mcp, &MCPCard::killOrphansRequested, this, &OptimizeView::killOrphans);
     connect(m_mcp, &MCPCard::quitRequested, &m_model, &AppModel::quitServer);
-    connect(m_caches, &CachesCard::cleanAllRequested, this, &OptimizeView::cleanAll);
+    connect(m_caches, &CachesCard::cleanAllRequested, this, &OptimizeView::confirmCleanAll);
+    connect(m_caches, &CachesCard::cancelRequested, &m_model, &AppModel::cancelCleaning);
     connect(m_auto, &AutoOptimizeCard::switched, &m_model, &AppModel::setAutoOptimizeEnabled);
 }
 
@@ -84,7 +86,7 @@ void OptimizeView::refresh() {
         return;
     m_quickKills->refresh(m_model, m_preferences.quickKillPresets());
     m_mcp->refresh(m_model.mcpReport());
-    m_caches->refresh(m_model.cacheTargets());
+    m_caches->refresh(m_model);
     m_auto->refresh(m_model.autoOptimizeEnabled());
 }
 
@@ -134,15 +136,26 @@ void OptimizeView::killOrphans() {
                      : QStringLiteral("No orphan MCPs to kill"));
 }
 
-void OptimizeView::cleanAll() {
+void OptimizeView::confirmCleanAll() {
+    const QList<CacheTarget> targets = m_model.targetsToClean();
+    if (!m_preferences.askBeforeCleaningAll())
+        return cleanAll(targets);
+    CleanupConfirmation::askAll(window(), this, targets,
+                                [this](const QList<CacheTarget>& confirmed) { cleanAll(confirmed); });
+}
+
+void OptimizeView::cleanAll(const QList<CacheTarget>& targets) {
     m_caches->setCleaning(true);
-    m_model.cleanAll().then([self = QPointer<OptimizeView>(this)](std::pair<int, quint64> cleaned) {
-        if (!self)
-            return;
-        self->m_caches->setCleaning(false);
-        self->refresh();
-        self->toast(QStringLiteral("Cleaned %1 targets, freed ~%2")
-                        .arg(cleaned.first)
-                        .arg(Formatters::bytes(cleaned.second)));
-    });
+    m_model.cleanAll(targets).then(
+        [self = QPointer<OptimizeView>(this), asked = targets.size()](std::pair<int, quint64> cleaned) {
+            if (!self)
+                return;
+            const CleanupReport& report = self->m_model.cleanReport();
+            QStringList sentences{CleanupTexts::outcome(asked, cleaned, report)};
+            if (!report.failures.isEmpty())
+                sentences.append(CleanupTexts::unfinished(report));
+            self->m_caches->setCleaning(false);
+            self->refresh();
+            self->toast(sentences.join(QStringLiteral(" • ")));
+        });
 }

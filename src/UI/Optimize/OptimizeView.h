@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Models.h"
 #include "Core/QuickKillPreset.h"
 
 #include <QScrollArea>
@@ -33,7 +34,8 @@ private:
     void purge();
     void killPreset(const QuickKillPreset& preset);
     void killOrphans();
-    void cleanAll();
+    void confirmCleanAll();
+    void cleanAll(const QList<CacheTarget>& targets);
 
     AppModel& m_model;
     Preferences& m_preferences;

@@ -22,6 +22,12 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     addPicker<MenuBarFormat>(addSection(Words::native().statusArea), QStringLiteral("Display"),
                              {formats.begin(), formats.end()}, rawValue<MenuBarFormat>,
                              preferences.menuBarFormat);
+
+    auto* cleanup = addSection(QStringLiteral("Cleanup"));
+    addToggle(cleanup, QStringLiteral("Ask before cleaning everything"), preferences.askBeforeCleaningAll);
+    auto* note = (new TextLabel(Theme::TextStyle::caption))->secondary()->wrapped();
+    note->setPlainText(QStringLiteral("When off, “Clean All” in Optimize starts at once."));
+    cleanup->addNote(note);
 }
 
 void GeneralTab::applyLoginItem(bool enabled) {

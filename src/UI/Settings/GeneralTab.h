@@ -5,7 +5,7 @@
 class LoginItem;
 class TextLabel;
 
-/// What happens at start, and what the status item shows.
+/// What happens at start, what the status item shows, and what is asked first.
 class GeneralTab : public SettingsForm {
     Q_OBJECT
 

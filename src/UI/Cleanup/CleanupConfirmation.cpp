@@ -1,0 +1,52 @@
+#include "UI/Cleanup/CleanupConfirmation.h"
+
+#include "Core/CleanupPlan.h"
+#include "Core/Formatters.h"
+#include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/SizeList.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostListHeight = 300;
+
+SizeList* listOf(const QList<CacheTarget>& targets) {
+    auto* list = new SizeList(u"What goes"_s);
+    QStringList spoken;
+    for (const CacheTarget& target : targets) {
+        const SizeList::Row row{.name = target.name,
+                                .figure = Formatters::bytes(target.sizeBytes),
+                                .detail = CleanupTexts::whatGoes(target),
+                                .isGrave = CleanupTexts::takesUserFiles(target)};
+        list->addRow(row);
+        spoken.append(row.name + u", "_s + row.figure);
+    }
+    list->setAccessibleDescription(spoken.join(u"; "_s));
+    list->fit(ConfirmDialog::textWidth, mostListHeight);
+    return list;
+}
+
+} // namespace
+
+void CleanupConfirmation::ask(QWidget* parent, QObject* owner, const CacheTarget& target,
+                              const std::function<void()>& clean) {
+    auto* dialog =
+        new ConfirmDialog(parent, u"Delete %1?"_s.arg(target.name), CleanupTexts::question(target));
+    auto* remove = dialog->addAction(u"Delete %1"_s.arg(Formatters::bytes(target.sizeBytes)),
+                                     PushButton::Look::destructive);
+    QObject::connect(remove, &QPushButton::clicked, owner, clean);
+    dialog->open();
+}
+
+void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, const QList<CacheTarget>& targets,
+                                 const std::function<void(const QList<CacheTarget>&)>& clean) {
+    auto* dialog =
+        new ConfirmDialog(parent, u"Clean all reclaimable caches?"_s, CleanupTexts::questionAll(targets));
+    dialog->addContent(listOf(targets));
+    auto* button = dialog->addAction(u"Clean %1"_s.arg(Formatters::bytes(CleanupPlan::totalBytes(targets))),
+                                     PushButton::Look::destructive);
+    QObject::connect(button, &QPushButton::clicked, owner, [targets, clean] { clean(targets); });
+    dialog->open();
+}

@@ -1,0 +1,130 @@
+#include "UI/Kit/SizeList.h"
+
+#include "Core/Formatters.h"
+#include "UI/Kit/ClampedLabel.h"
+#include "UI/Kit/Painting.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ToolTip.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using Theme::Role;
+using Theme::TextStyle;
+
+namespace {
+
+constexpr int lineHeight = 26;
+constexpr int edge = 3; ///< room for the ring round the viewport
+constexpr int padding = 9;
+constexpr int mostDetailLines = 2;
+constexpr int detailGap = 5;
+
+class RowView : public QWidget {
+public:
+    explicit RowView(const SizeList::Row& row)
+        : m_name(Formatters::visible(row.name))
+        , m_figure(row.figure) {
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, lineHeight, 0, 0);
+        QStringList spoken{m_name};
+        if (!m_figure.isEmpty())
+            spoken.append(m_figure);
+        if (!row.detail.isEmpty()) {
+            auto* detail = new ClampedLabel(mostDetailLines, TextStyle::caption);
+            if (row.isGrave)
+                detail->tinted(Role::red);
+            else
+                detail->secondary();
+            detail->setPlainText(row.detail);
+            column->setContentsMargins(0, lineHeight - textOverlap, 0, detailGap);
+            column->addWidget(detail);
+            spoken.append(detail->text());
+        }
+        setToolTip(plainToolTip(m_name));
+        setAccessibleName(spoken.join(QStringLiteral(", ")));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setFont(Theme::font(TextStyle::callout));
+        painter.setPen(Theme::color(Role::primaryText));
+        QRectF line(0, 0, width(), lineHeight);
+        if (!m_figure.isEmpty()) {
+            Painting::drawTabular(painter, line, Qt::AlignRight, m_figure);
+            line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_figure) -
+                          Theme::gridSpacing);
+        }
+        Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
+    }
+
+private:
+    static constexpr int textOverlap = 4; ///< the line is higher than its text
+
+    QString m_name;
+    QString m_figure;
+};
+
+} // namespace
+
+SizeList::SizeList(const QString& accessibleName, QWidget* parent)
+    : QScrollArea(parent) {
+    auto* page = new QWidget;
+    m_rows = new QVBoxLayout(page);
+    m_rows->setContentsMargins(padding, padding / 2, padding, padding / 2);
+    m_rows->setSpacing(0);
+    m_rows->addStretch();
+    setWidget(page);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setViewportMargins(edge, edge, edge, edge);
+    // The card below shines through.
+    page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    SlimScrollBar::install(this);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(accessibleName);
+}
+
+void SizeList::addRow(const Row& row) {
+    m_rows->insertWidget(m_rows->count() - 1, new RowView(row));
+}
+
+void SizeList::addHeading(const QString& text) {
+    auto* heading = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();
+    heading->setPlainText(text);
+    heading->setContentsMargins(0, 0, 0, Theme::textGap);
+    if (m_rows->count() > 1)
+        m_rows->insertSpacing(m_rows->count() - 1, Theme::rowSpacing);
+    m_rows->insertWidget(m_rows->count() - 1, heading);
+}
+
+void SizeList::addLine(const QString& text) {
+    auto* line = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
+    line->setPlainText(text);
+    line->setMinimumHeight(lineHeight);
+    m_rows->insertWidget(m_rows->count() - 1, line);
+}
+
+void SizeList::fit(int width, int most) {
+    const int inner = width - 2 * edge - verticalScrollBar()->sizeHint().width();
+    const int needed = m_rows->hasHeightForWidth() ? m_rows->totalHeightForWidth(inner)
+                                                   : m_rows->totalMinimumSize().height();
+    setFixedSize(width, std::min(needed + 2 * edge, most));
+}
+
+bool SizeList::event(QEvent* event) {
+    const bool done = QScrollArea::event(event);
+    if (event->type() == QEvent::Paint) {
+        QPainter painter(this);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
+                           Theme::color(Role::cardBorder));
+        if (hasFocus())
+            Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+    }
+    return done;
+}
