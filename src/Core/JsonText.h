@@ -6,12 +6,12 @@
 #include <string>
 
 /// A JSON document on its way to a parser that holds one token at a time. What a string, a run of blanks or a
-/// number has beyond 1 MiB is left out, so that no document needs more memory than that. Half a surrogate
-/// pair, which other programs write where they cut a text, becomes U+FFFD. A broken document stays broken,
-/// but for what is left out of a string.
+/// number has beyond 128 KiB, the most that an argument of a program may have (execve(2)), is left out, so
+/// that no document needs more memory than that. Half a surrogate pair, which other programs write where they
+/// cut a text, becomes U+FFFD. A broken document stays broken, but for what is left out of a string.
 class JsonText : public std::streambuf {
 public:
-    static constexpr std::size_t mostTokenBytes = 1 << 20;
+    static constexpr std::size_t mostTokenBytes = 128 << 10;
 
     /// `source` has to outlive it.
     explicit JsonText(std::streambuf& source)

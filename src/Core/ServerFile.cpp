@@ -8,6 +8,7 @@
 #include <memory>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -80,6 +81,9 @@ void ServerFile::startReading(QThreadPool& pool) {
     pool.start([promise, path = m_path, read = m_read] {
         promise->addResult(readFile(path, read, [&promise] { return promise->isCanceled(); }));
         promise->finish();
+#ifdef __GLIBC__
+        malloc_trim(0); // else what a document with many servers needed stays with this thread
+#endif
     });
 }
 
