@@ -16,6 +16,7 @@ namespace {
 using MCPInspector::ConfiguredServer;
 
 constexpr std::size_t mostBytes = 8 << 20;
+constexpr std::size_t mostServers = 10'000;
 constexpr int mostDotsInLine = 256;
 
 /// Ends where a document goes past what the parser is to be given. The parser keeps the whole text and builds
@@ -98,7 +99,8 @@ QList<ConfiguredServer> ServerToml::read(std::streambuf& text, const QString& sc
     if (!document || limited.isRefused())
         return {};
     QList<ConfiguredServer> servers;
-    if (const toml::table* tables = document.table()["mcp_servers"].as_table()) {
+    const toml::table* tables = document.table()["mcp_servers"].as_table();
+    if (tables && tables->size() <= mostServers) {
         for (const auto& [name, value] : *tables)
             servers.append(serverOf(name.str(), value, scope));
     }

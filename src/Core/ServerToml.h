@@ -8,7 +8,8 @@
 namespace ServerToml {
 
 /// The tables [mcp_servers.NAME], in order of name. A document that is broken has none, and so has one of
-/// more than 8 MiB or with more nesting than anybody writes: 256 dots in a line, 16 values within each other.
+/// more than 8 MiB, with more than 10,000 servers or with more nesting than anybody writes: 256 dots in a
+/// line, 16 values within each other.
 QList<MCPInspector::ConfiguredServer> read(std::streambuf& text, const QString& scope);
 
 } // namespace ServerToml

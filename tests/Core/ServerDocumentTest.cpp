@@ -154,6 +154,10 @@ TEST(ServerTomlTest, ABrokenOrMonstrousDocumentHasNoServers) {
           valid + "x = " + repeated("{x=", 100'000), valid + "[x" + repeated(".x", 1'000'000) + "]\n",
           valid + repeated(deepLine, 100'000)})
         EXPECT_TRUE(readToml(text).isEmpty()) << text.substr(0, 60);
+    std::string crowd = "[mcp_servers]\n";
+    for (int i = 0; i <= 10'000; ++i)
+        crowd += "s" + std::to_string(i) + " = 1\n";
+    EXPECT_TRUE(readToml(crowd).isEmpty());
     std::string nested;
     for (int i = 0; i < 7; ++i)
         nested += "x" + repeated(".x", 200) + " = [\n{";
