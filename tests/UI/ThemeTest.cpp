@@ -64,6 +64,7 @@ TEST(Theme, ATintedLabelFollowsTheScheme) {
     window.show();
     for (const bool dark : {true, false}) {
         Theme::apply(dark);
+        QCoreApplication::processEvents();
         EXPECT_EQ(label->palette().color(QPalette::WindowText), Theme::color(Role::red)) << dark;
     }
 }
