@@ -10,7 +10,7 @@ namespace Tools {
 /// those can be told to quit. Nothing is started by asking.
 class SessionBus {
 public:
-    explicit SessionBus(const QDBusConnection& bus = QDBusConnection::sessionBus());
+    explicit SessionBus(const QDBusConnection& bus = running());
 
     /// The names, unique ones aside, that one of the processes has.
     QStringList namesOf(const QList<qint32>& pids);
@@ -18,6 +18,9 @@ public:
     bool activateQuit(const QString& name);
     /// The slot "quit" of a Qt or KDE application; false where it has none. It may end without asking.
     bool callQuit(const QString& name);
+
+    /// The bus of this session; one that is not connected where none runs. None is started for it.
+    static QDBusConnection running();
 
 private:
     QDBusConnection m_bus;

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Texts = std::initializer_list<const char*>;
+using Texts = QList<const char*>;
 
 template <typename E> void expectRawValues(const QString& expected) {
     QStringList raws;
@@ -44,12 +44,12 @@ QStringList withShorter(const char* text) {
     return {whole, whole.chopped(1), whole.sliced(1)};
 }
 
-bool holdsOne(const QString& text, Texts patterns) {
+bool holdsOne(const QString& text, const Texts& patterns) {
     return std::ranges::any_of(
         patterns, [&text](const char* pattern) { return text.contains(QLatin1String(pattern)); });
 }
 
-bool beginsWithOne(const QString& text, Texts patterns) {
+bool beginsWithOne(const QString& text, const Texts& patterns) {
     return std::ranges::any_of(
         patterns, [&text](const char* pattern) { return text.startsWith(QLatin1String(pattern)); });
 }

@@ -101,7 +101,7 @@ TEST(Cleanup, RefusesWhatItDoesNotUnderstand) {
           QStringList{u"list"_s, u"--force"_s, folder}})
         EXPECT_EQ(run(arguments).status, 2) << qPrintable(arguments.join(u' '));
     tree.makeFile(u"file"_s);
-    for (const QByteArray& input : {QByteArray(), QByteArray("file"), QByteArray("1:2\0003 4 file", 14)})
+    for (const QByteArray& input : {QByteArray(), QByteArray("file"), QByteArray("1:2\0003 4 file", 12)})
         EXPECT_EQ(run({u"remove"_s, folder}, input).status, 2) << input.constData();
     EXPECT_TRUE(QFileInfo::exists(tree.path(u"file"_s)));
 }
