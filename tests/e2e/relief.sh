@@ -80,9 +80,9 @@ main_window "$pid" >/dev/null || fail "the main window appears"
 
 # Free RAM: one ends when asked, one has to be killed.
 free_one() { # NAME PID OUTCOME-SHOWN OUTCOME-LOGGED
-    shows "$1 is offered" "$1, PID $2 • Claude Code & Agents, 4[0-9.]+ MB, idle .*"
+    shows "$1 is offered" "$1, PID $2 • Claude Code & Agents, [45][0-9.]+ MB, idle .*"
     press "$1, PID $2 • .*"
-    shows "it alone is ticked" "1 selected • 4[0-9.]+ MB targeted"
+    shows "it alone is ticked" "1 selected • [45][0-9.]+ MB targeted"
     shows "the button says so" "Kill 1 and free RAM"
     xdotool key Return
     shows "the sheet shows what became of it" "$1 \($2\) $3"
