@@ -35,6 +35,9 @@ protected:
         program("usr/bin/tweaks", "#!/usr/bin/python3\n");
         program("usr/bin/notes", "#!/bin/sh\nexec electron /usr/lib/notes/app.asar\n");
         program("usr/bin/music", "#!/bin/sh\nexec electron /usr/lib/music/app.asar\n");
+        program("srv/app/build/app", "\x7f"
+                                     "ELF");
+        entry("app", "App", "@/srv/app/build/app");
         entry("chromium", "Chromium Web Browser", "@/usr/bin/chromium %U");
         entry("firefox", "Firefox", "@/usr/lib/firefox/firefox %u");
         entry("org.mozilla.firefox", "Firefox", "flatpak run org.mozilla.firefox");
@@ -53,7 +56,7 @@ protected:
     }
 
     void entry(const char* id, const char* name, const char* exec) {
-        m_folder.makeFile(u"menu/"_s + QString::fromUtf8(id) + u".desktop"_s,
+        m_folder.makeFile(u"usr/share/applications/"_s + QString::fromUtf8(id) + u".desktop"_s,
                           u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2\n"_s
                               .arg(QString::fromUtf8(name), here(exec))
                               .toUtf8());
@@ -83,7 +86,7 @@ protected:
     }
 
     LinuxApplications applications() const {
-        return LinuxApplications(DesktopEntries({m_folder.path() + u"/menu"_s}),
+        return LinuxApplications(DesktopEntries({m_folder.path() + u"/usr/share/applications"_s}),
                                  m_folder.path() + u"/proc"_s);
     }
 
@@ -101,6 +104,8 @@ TEST_F(LinuxApplicationsTest, AProcessIsOfTheApplicationThatItsProgramSays) {
          "Chromium Web Browser"},
         {"its crash handler", "@/usr/lib/chromium/chrome_crashpad_handler", "handler", "/", "", "chromium",
          "Chromium Web Browser"},
+        {"one that was built", "@/srv/app/build/app", "app", "/", "", "app", "App"},
+        {"another beside it", "@/srv/app/build/tests", "tests", "/", "", "", ""},
         {"the script itself", "@/usr/bin/dash", "/bin/sh @/usr/bin/chromium", "/", "", "chromium",
          "Chromium Web Browser"},
         {"a browser of the system's", "@/usr/lib/firefox/firefox", "firefox", "/", "", "firefox", "firefox"},

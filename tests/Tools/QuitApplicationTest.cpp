@@ -111,17 +111,17 @@ protected:
 
     /// Adds an application to the menu.
     void list(const QString& id, const QString& name, const QString& program) {
-        QDir().mkpath(m_folder.filePath(u"data/applications"_s));
-        QFile entry(m_folder.filePath(u"data/applications/"_s + id + u".desktop"_s));
+        QDir().mkpath(m_folder.filePath(u"share/applications"_s));
+        QFile entry(m_folder.filePath(u"share/applications/"_s + id + u".desktop"_s));
         ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
         entry.write(
             u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2 %u\n"_s.arg(name, program).toUtf8());
     }
 
-    QString data() const { return m_folder.filePath(u"data"_s); }
+    QString data() const { return m_folder.filePath(u"share"_s); }
 
     QuitOutcome quit(const QString& name, bool forced, const Tools::QuitPatience& patience) {
-        LinuxApplications applications{DesktopEntries({m_folder.filePath(u"data/applications"_s)})};
+        LinuxApplications applications{DesktopEntries({m_folder.filePath(u"share/applications"_s)})};
         return Tools::quitApplication(name, forced, applications, patience);
     }
 

@@ -120,7 +120,7 @@ bool DesktopEntries::isInterpreter(QStringView name) {
                        [name](QStringView start) { return name.startsWith(start); });
 }
 
-bool DesktopEntries::isPrivate(const QString& folder) {
+bool DesktopEntries::isPrivate(const QString& folder) const {
     static constexpr std::array<QStringView, 10> shared = {
         u"bin", u"sbin", u"lib", u"lib64", u"libexec", u"games", u"share", u"local", u"opt", u"applications"};
     const QString name = fileName(folder);
@@ -130,9 +130,22 @@ bool DesktopEntries::isPrivate(const QString& folder) {
     const QStringList path = qEnvironmentVariable("PATH").split(u':');
     if (path.contains(folder) || folder == QDir::homePath())
         return false;
+    if (!isInHome(folder))
+        return isInstalled(folder);
     // Of a home folder only what programs keep in its hidden folders: the rest is the user's own work.
     const QString below = folder.mid(QDir::homePath().size() + 1);
-    return !isInHome(folder) || (below.startsWith(u'.') && below.contains(u'/'));
+    return below.startsWith(u'.') && below.contains(u'/');
+}
+
+/// Where packages put programs: beside the menu that they add entries to, or where vendors put them.
+/// Elsewhere, as where somebody builds programs, a folder may hold several that have nothing to do with each
+/// other.
+bool DesktopEntries::isInstalled(const QString& folder) const {
+    static const QString menu = u"/share/applications"_s;
+    return folder.startsWith("/opt/"_L1) ||
+           std::any_of(m_folders.begin(), m_folders.end(), [&folder](const QString& entries) {
+               return entries.endsWith(menu) && folder.startsWith(entries.chopped(menu.size()) + u'/');
+           });
 }
 
 bool DesktopEntries::hasChanged() const {

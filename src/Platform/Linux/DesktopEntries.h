@@ -45,8 +45,6 @@ public:
 
     /// Whether that is the file name of a program that only runs what it is told to.
     static bool isInterpreter(QStringView fileName);
-    /// Whether whatever lies in that folder belongs to one application.
-    static bool isPrivate(const QString& folder);
 
 private:
     struct Folder {
@@ -62,6 +60,9 @@ private:
     void readFile(const QString& path, const QString& id);
     void index(const DesktopEntry& entry);
     bool hasChanged() const;
+    /// Whether whatever lies in that folder belongs to one application.
+    bool isPrivate(const QString& folder) const;
+    bool isInstalled(const QString& folder) const;
     const Program* ofScriptNamedLike(const QString& file) const;
     QString mainIdOf(const DesktopEntry& entry) const;
 
