@@ -75,6 +75,7 @@ inline constexpr std::initializer_list<Row> programs = {
       u".positron-server",
       u".vscode-server",
       u".vscode-server-insiders",
+      u".vscodium-server",
       u".windsurf-server",
       u".zed_server",
       u"antigravity",

@@ -10,7 +10,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -82,12 +81,9 @@ bool tellsServer(const ProcSample& process) {
            !LaunchedProgram::isInterpreter(ProgramPath::lastComponent(process.executablePath));
 }
 
-/// Editors on a server and in a bundle run their parts by a program of a common name.
+/// An editor on a server and one in a bundle run their parts by a program of a common name.
 bool isPartOfEditor(const QString& path) {
-    static constexpr std::array<QStringView, 6> marks = {u"/.vscode-server",   u"/.cursor-server",
-                                                         u"/.windsurf-server", u"/.vscodium-server",
-                                                         u"/code-server/",     u"/jbr/bin/java"};
-    return std::ranges::any_of(marks, [&path](QStringView mark) { return path.contains(mark); });
+    return path.contains("/code-server/"_L1) || path.endsWith("/jbr/bin/java"_L1);
 }
 
 /// The parent by id. The processes of one list can only form a ring where it was read in several steps.

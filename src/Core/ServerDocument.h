@@ -16,8 +16,8 @@ struct Form {
 
 struct Servers {
     QList<MCPInspector::ConfiguredServer> own; ///< in order of name
-    QList<MCPInspector::ConfiguredServer>
-        ofProjects; ///< in order of folder, then name; scope "project FOLDER"
+    /// In order of folder, then name; their scope is "project FOLDER".
+    QList<MCPInspector::ConfiguredServer> ofProjects;
 
     bool operator==(const Servers&) const = default;
 };

@@ -10,8 +10,7 @@ using namespace Tools;
 
 namespace {
 
-constexpr int deepest = 4000; // every level holds a descriptor and a piece of the stack
-constexpr int rounds = 3;     // for a folder into which something is put meanwhile
+constexpr int rounds = 3; // for a folder into which something is put meanwhile
 
 /// In the order of how bad it is.
 enum class Outcome { gone, kept, left };
@@ -76,7 +75,7 @@ private:
             if (errno != ENOTEMPTY && errno != EEXIST)
                 return goneOrLeft();
             errno = ELOOP; // what a folder too deep to go into answers
-            const auto folder = depth < deepest ? parent.openBelow(name) : std::nullopt;
+            const auto folder = depth < deepestFolder ? parent.openBelow(name) : std::nullopt;
             if (!folder)
                 return goneOrLeft();
             outcome = removeContent(*folder, depth + 1);

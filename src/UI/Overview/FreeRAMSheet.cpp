@@ -61,9 +61,8 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
     explanation->setPlainText(
         QStringLiteral(
-            "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 "
-            "s "
-            "gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
+            "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after "
+            "2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
             .arg(Words::native().system));
 
     auto* thresholds = new QHBoxLayout;
