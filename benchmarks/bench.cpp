@@ -4,7 +4,7 @@
 
 #include "AppModel.h"
 #include "Children.h"
-#include "Core/Sampler.h"
+#include "Core/Sampling/Sampler.h"
 #include "KernelFloor.h"
 #include "Platform/ProcessTable.h"
 #include "Preferences.h"

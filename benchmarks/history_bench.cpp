@@ -1,7 +1,7 @@
 // What a long action log costs: to read, and to open and scroll in the History tab. Prints NAME VALUE lines;
 // times are medians in milliseconds, the memory is the most that this whole program held.
 
-#include "Core/ActionLogReader.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
 #include "UI/Kit/Theme.h"
 #include "UI/Settings/HistoryTab.h"

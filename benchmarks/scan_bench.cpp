@@ -2,11 +2,11 @@
 // script: what the scanner itself costs. Prints NAME VALUE lines. The home folder it scans is made in the
 // working folder and goes again at the end.
 
-#include "Core/CacheScanner.h"
+#include "Core/Cleanup/CacheScanner.h"
 #include "Platform/Clock.h"
-#include "Platform/Linux/LinuxPlaces.h"
-#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Platform.h"
+#include "Platform/Unix/UnixToolRunner.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -69,10 +69,10 @@ constexpr Part parts[] = {
 };
 
 /// The machine's own /tmp is not what is measured.
-class BenchPlaces : public LinuxPlaces {
+class BenchPlaces : public FreedesktopPlaces {
 public:
     QList<Place> locate(const QString& path) const override {
-        return LinuxPlaces::locate(path == u"/tmp" ? u"~/tmp"_s : path);
+        return FreedesktopPlaces::locate(path == u"/tmp" ? u"~/tmp"_s : path);
     }
 };
 
@@ -142,7 +142,7 @@ int main(int argc, char** argv) {
     makeHome(home.path().toStdString());
 
     Platform platform;
-    platform.tools = std::make_shared<LinuxToolRunner>();
+    platform.tools = std::make_shared<UnixToolRunner>();
     platform.places = std::make_shared<BenchPlaces>();
     platform.clock = std::make_shared<BenchClock>();
 

@@ -5,7 +5,7 @@
 
 #include "AppModel.h"
 #include "BusyMachine.h"
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "LongRun.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"

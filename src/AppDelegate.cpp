@@ -1,7 +1,7 @@
 #include "AppDelegate.h"
 
 #include "AppModel.h"
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "Core/Observe.h"
 #include "Platform/Desktop/DesktopApplication.h"
 #include "Platform/LoginItem.h"

@@ -1,6 +1,6 @@
 #include "AppModel.h"
 
-#include "Core/CacheScanner.h"
+#include "Core/Cleanup/CacheScanner.h"
 #include "Platform/Clock.h"
 
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "AppModel.h"
 
-#include "Core/ActionLogFile.h"
+#include "Core/ActionLog/ActionLogFile.h"
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
 

@@ -1,6 +1,6 @@
 #include "AppModel.h"
 
-#include "Core/ProcessFilter.h"
+#include "Core/Sampling/ProcessFilter.h"
 #include "Platform/Identity.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "AppModel.h"
 
-#include "Core/MemoryTools.h"
+#include "Core/Relief/MemoryTools.h"
 #include "Platform/Applications.h"
 #include "Platform/Identity.h"
 

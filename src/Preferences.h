@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Core/Models.h"
-#include "Core/QuickKillPreset.h"
 #include "Core/RawValue.h"
+#include "Core/Relief/QuickKillPreset.h"
+#include "Core/Sampling/ProcGroup.h"
 #include "Core/SettingsFile.h"
 
 #include <QByteArray>

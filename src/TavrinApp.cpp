@@ -2,7 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "Platform/Appearance.h"
 #include "Platform/LoginItem.h"
 #include "Platform/SingleInstance.h"

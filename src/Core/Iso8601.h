@@ -1,9 +1,10 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Instant.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <optional>
 
 /// Internet date-times in whole seconds, as the action log holds them. Written by hand because a log of a
 /// million lines is read at once.

@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace Tools {
 

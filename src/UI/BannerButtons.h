@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/MessageFeed.h"
+#include "Core/Announcements/MessageFeed.h"
 
 #include <QAbstractButton>
 

@@ -1,5 +1,6 @@
 #include "UI/MessageBanner.h"
 
+#include "Core/Alerts/Alert.h"
 #include "Core/Observe.h"
 #include "UI/BannerButtons.h"
 #include "UI/Kit/ClampedLabel.h"

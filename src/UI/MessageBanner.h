@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 
 #include <QWidget>
 

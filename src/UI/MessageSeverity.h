@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/MessageFeed.h"
+#include "Core/Announcements/MessageFeed.h"
 #include "UI/Kit/Theme.h"
 
 /// How the banner shows a message of each severity.

@@ -1,6 +1,6 @@
 #include "AppDelegate.h"
 
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "UI/Controls.h"
 #include "UI/FakeDesktop.h"
 #include "UI/Kit/Switch.h"

@@ -1,5 +1,5 @@
-#include "Core/ActionLogFile.h"
-#include "Core/ActionLogReader.h"
+#include "Core/ActionLog/ActionLogFile.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
 #include "support/Each.h"
 #include "support/Files.h"

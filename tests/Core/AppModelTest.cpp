@@ -1,6 +1,6 @@
 #include "Core/ReliefFixture.h"
 
-#include "Core/ActionLogReader.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Observe.h"
 
 #include <QCoreApplication>

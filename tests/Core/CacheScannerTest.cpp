@@ -1,4 +1,4 @@
-#include "Core/CacheScanner.h"
+#include "Core/Cleanup/CacheScanner.h"
 
 #include "support/Each.h"
 #include "support/FakePlatform.h"

@@ -1,6 +1,6 @@
-#include "Core/Cleaner.h"
+#include "Core/Cleanup/Cleaner.h"
 
-#include "Platform/Linux/LinuxPlaces.h"
+#include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "support/Each.h"
 #include "support/FakePlaces.h"
 #include "support/Listing.h"
@@ -142,7 +142,7 @@ TEST_F(CleanerTest, TouchesNothingOfAHomeThatIsNotSet) {
         QStringList reached;
         for (const CacheTarget& target : CacheTarget::defaults()) {
             tools->requests.clear();
-            const auto real = std::make_shared<LinuxPlaces>("/dev/null");
+            const auto real = std::make_shared<FreedesktopPlaces>("/dev/null");
             QCoro::waitFor(Cleaner::clean(target, tools, real, now));
             for (const ToolRequest& request : tools->requests)
                 reached.append(request.arguments.last());

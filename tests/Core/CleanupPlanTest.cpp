@@ -1,4 +1,4 @@
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CleanupPlan.h"
 
 #include "support/Each.h"
 #include "support/FakePlaces.h"

@@ -1,6 +1,6 @@
-#include "Core/FeedFetcher.h"
+#include "Core/Announcements/FeedFetcher.h"
 
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "LoopbackServer.h"
 #include "support/ScriptedFeed.h"
 #include "support/TemporarySettings.h"

@@ -1,7 +1,7 @@
 #include "Core/ReliefFixture.h"
 
-#include "Core/ActionLogReader.h"
-#include "Core/ProcessFilter.h"
+#include "Core/ActionLog/ActionLogReader.h"
+#include "Core/Sampling/ProcessFilter.h"
 
 #include <cmath>
 #include <limits>

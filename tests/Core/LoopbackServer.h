@@ -5,6 +5,8 @@
 #include <QSslServer>
 #include <QSslSocket>
 
+#include <QList>
+#include <QString>
 #include <functional>
 
 /// A certificate for 127.0.0.1 that nobody has signed but itself.

@@ -1,4 +1,4 @@
-#include "Core/MCPConfiguration.h"
+#include "Core/Mcp/MCPConfiguration.h"
 
 #include "support/Each.h"
 #include "support/TemporaryHome.h"

@@ -1,7 +1,7 @@
-#include "Core/MCPInspector.h"
+#include "Core/Mcp/MCPInspector.h"
 
-#include "Core/LaunchedProgram.h"
-#include "Core/ServerWatch.h"
+#include "Core/Mcp/ServerWatch.h"
+#include "Core/Sampling/LaunchedProgram.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
 

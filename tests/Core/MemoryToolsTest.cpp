@@ -1,4 +1,4 @@
-#include "Core/MemoryTools.h"
+#include "Core/Relief/MemoryTools.h"
 
 #include "support/ScriptedTools.h"
 

@@ -1,4 +1,4 @@
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 
 #include "support/Each.h"
 #include "support/ScriptedFeed.h"

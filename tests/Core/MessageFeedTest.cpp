@@ -1,4 +1,4 @@
-#include "Core/MessageFeed.h"
+#include "Core/Announcements/MessageFeed.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
-#include "Core/ProcessGrouper.h"
-#include "Core/LaunchedProgram.h"
-#include "Core/PatternMatcher.h"
+#include "Core/Grouping/ProcessGrouper.h"
+#include "Core/Grouping/GroupRollup.h"
+#include "Core/Grouping/PatternMatcher.h"
+#include "Core/Sampling/LaunchedProgram.h"
 #include "support/Each.h"
 
 #include <QDir>

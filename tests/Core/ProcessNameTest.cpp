@@ -1,5 +1,5 @@
-#include "Core/ProcessName.h"
-#include "Core/LaunchedProgram.h"
+#include "Core/Sampling/ProcessName.h"
+#include "Core/Sampling/LaunchedProgram.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Core/RulesEngine.h"
+#include "Core/Alerts/RulesEngine.h"
 
 #include "support/Each.h"
 #include "support/FakePlatform.h"

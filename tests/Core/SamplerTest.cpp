@@ -1,4 +1,4 @@
-#include "Core/Sampler.h"
+#include "Core/Sampling/Sampler.h"
 
 #include "support/FakePlatform.h"
 

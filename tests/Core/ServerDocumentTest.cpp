@@ -1,7 +1,7 @@
-#include "Core/ServerDocument.h"
+#include "Core/Mcp/ServerDocument.h"
 
-#include "Core/JsonText.h"
-#include "Core/ServerToml.h"
+#include "Core/Mcp/JsonText.h"
+#include "Core/Mcp/ServerToml.h"
 #include "support/Each.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Core/CacheScanner.h"
-#include "Core/Cleaner.h"
+#include "Core/Cleanup/CacheScanner.h"
+#include "Core/Cleanup/Cleaner.h"
 #include "Platform/Clock.h"
-#include "Platform/Linux/LinuxPlaces.h"
-#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Platform.h"
+#include "Platform/Unix/UnixToolRunner.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -59,6 +59,6 @@ protected:
 
     TemporaryHome home;
     std::shared_ptr<Clock> clock = std::make_shared<LaterClock>();
-    std::shared_ptr<ToolRunner> tools = std::make_shared<LinuxToolRunner>();
-    std::shared_ptr<Places> places = std::make_shared<LinuxPlaces>();
+    std::shared_ptr<ToolRunner> tools = std::make_shared<UnixToolRunner>();
+    std::shared_ptr<Places> places = std::make_shared<FreedesktopPlaces>();
 };

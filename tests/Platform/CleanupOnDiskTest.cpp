@@ -19,9 +19,9 @@ using Cleaner::CleanResult;
 namespace {
 
 /// Root may do anything; where the tests run as root these tools run as nobody.
-class OrdinaryUsersTools : public LinuxToolRunner {
+class OrdinaryUsersTools : public UnixToolRunner {
 public:
-    using LinuxToolRunner::LinuxToolRunner;
+    using UnixToolRunner::UnixToolRunner;
 
     QCoro::Task<ToolResult> run(ToolRequest request) override {
         if (geteuid() == 0) {
@@ -30,19 +30,19 @@ public:
                                 request.arguments;
             request.launchPath = u"/usr/bin/setpriv"_s;
         }
-        return LinuxToolRunner::run(request);
+        return UnixToolRunner::run(request);
     }
 };
 
 /// Does something right before `du` runs, which is after the cleaner has looked at the path.
-class MeddlingTools : public LinuxToolRunner {
+class MeddlingTools : public UnixToolRunner {
 public:
     std::function<void()> meddle;
 
     QCoro::Task<ToolResult> run(ToolRequest request) override {
         if (request.launchPath == u"/usr/bin/du" && meddle)
             std::exchange(meddle, {})();
-        return LinuxToolRunner::run(request);
+        return UnixToolRunner::run(request);
     }
 };
 
@@ -207,7 +207,7 @@ TEST_F(CleanupOnDisk, StopsACommandThatDoesNotAnswer) {
 }
 
 TEST_F(CleanupOnDisk, ReportsWhatMayNotBeDeletedAndDeletesTheRest) {
-    ASSERT_TRUE(QFile::copy(LinuxToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
+    ASSERT_TRUE(QFile::copy(UnixToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
     tools = std::make_shared<OrdinaryUsersTools>(home.path());
     const QString cache = home.makeFolder(u"cache"_s);
     home.makeFile(u"cache/kept/file"_s);
@@ -229,7 +229,7 @@ TEST_F(CleanupOnDisk, ReportsWhatMayNotBeDeletedAndDeletesTheRest) {
 }
 
 TEST_F(CleanupOnDisk, LeavesWhatIsSomebodyElsesInASharedFolderAndSucceeds) {
-    ASSERT_TRUE(QFile::copy(LinuxToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
+    ASSERT_TRUE(QFile::copy(UnixToolRunner().programFor(u"cleanup"_s), home.path(u"cleanup"_s)));
     tools = std::make_shared<OrdinaryUsersTools>(home.path());
     const QString shared = home.makeFolder(u"shared"_s);
     home.makeFile(u"shared/private/file"_s);

@@ -1,4 +1,4 @@
-#include "Platform/Linux/LinuxLoginItem.h"
+#include "Platform/Freedesktop/FreedesktopLoginItem.h"
 
 #include "support/Files.h"
 #include "support/TemporaryHome.h"
@@ -48,7 +48,7 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
          {u"plain"_s, u"two words"_s, u"it's \"quoted\""_s, u"100%u %% off"_s, u"back\\slash\\n"_s,
           u"$HOME `id` ~ & ; | < > * ? # ( )"_s, u"line\nand\ttab"_s, u"größe 測試"_s, u"a=b"_s}) {
         const QString program = makeProgram(folder + u"/tavrin"_s);
-        LinuxLoginItem item(program);
+        FreedesktopLoginItem item(program);
         EXPECT_EQ(item.registerItem(), std::nullopt) << qPrintable(folder);
         EXPECT_EQ(complaints(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
         EXPECT_EQ(complaints(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
@@ -61,7 +61,7 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
 }
 
 TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
-    LinuxLoginItem item(u"/usr/bin/tavrin"_s);
+    FreedesktopLoginItem item(u"/usr/bin/tavrin"_s);
     EXPECT_EQ(item.unregisterItem(), std::nullopt); // not even a folder
     EXPECT_EQ(item.registerItem(), std::nullopt);
     EXPECT_EQ(item.registerItem(), std::nullopt);
@@ -77,22 +77,22 @@ TEST_F(LoginItemTest, OnlyAnInstalledProgramTakesThePlaceOfOneThatIsGone) {
     const QString built = makeProgram(u"build/tavrin"_s);
     home.makeFile(u"build/CMakeCache.txt"_s);
     const QString installed = makeProgram(u"bin/tavrin"_s);
-    EXPECT_FALSE(LinuxLoginItem(built).isInstalled());
-    EXPECT_TRUE(LinuxLoginItem(installed).isInstalled());
-    LinuxLoginItem(installed).replaceGoneProgram();
+    EXPECT_FALSE(FreedesktopLoginItem(built).isInstalled());
+    EXPECT_TRUE(FreedesktopLoginItem(installed).isInstalled());
+    FreedesktopLoginItem(installed).replaceGoneProgram();
     EXPECT_FALSE(QFile::exists(entry)) << "nothing was registered";
     for (const auto& [before, program, after] :
          {std::tuple{gone, built, gone}, std::tuple{gone, installed, installed},
           std::tuple{other, installed, other}}) {
-        LinuxLoginItem(before).registerItem();
-        LinuxLoginItem(program).replaceGoneProgram();
-        EXPECT_EQ(contentOf(entry), LinuxLoginItem::entry(after)) << qPrintable(before + program);
+        FreedesktopLoginItem(before).registerItem();
+        FreedesktopLoginItem(program).replaceGoneProgram();
+        EXPECT_EQ(contentOf(entry), FreedesktopLoginItem::entry(after)) << qPrintable(before + program);
     }
 }
 
 TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
     qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
-    EXPECT_EQ(LinuxLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);
+    EXPECT_EQ(FreedesktopLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);
     EXPECT_TRUE(contentOf(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
                     .contains("\nExec=\"/usr/bin/tavrin\"\nTryExec=/usr/bin/tavrin\n"));
     EXPECT_FALSE(QFile::exists(entry));
@@ -117,7 +117,7 @@ TEST_F(LoginItemTest, SaysWhyItCannot) {
     };
     for (const auto& [obstacle, path, onRegister, onUnregister] : cases) {
         obstacle();
-        LinuxLoginItem item(path);
+        FreedesktopLoginItem item(path);
         const QString registering = item.registerItem().value_or(QString());
         EXPECT_TRUE(!registering.isEmpty() && registering.endsWith(onRegister)) << qPrintable(registering);
         const QString unregistering = item.unregisterItem().value_or(QString());
@@ -128,12 +128,12 @@ TEST_F(LoginItemTest, SaysWhyItCannot) {
 }
 
 TEST_F(LoginItemTest, AWriteThatFailsLeavesTheEntryThatWasThere) {
-    ASSERT_EQ(LinuxLoginItem(u"/old/tavrin"_s).registerItem(), std::nullopt);
+    ASSERT_EQ(FreedesktopLoginItem(u"/old/tavrin"_s).registerItem(), std::nullopt);
     const QByteArray before = contentOf(entry);
     QStringList reasons;
     for (const rlim_t room : {0, 20}) { // bytes that the disk still takes
         const FullDisk full(room);
-        reasons.append(LinuxLoginItem(u"/new/tavrin"_s).registerItem().value_or(QString()));
+        reasons.append(FreedesktopLoginItem(u"/new/tavrin"_s).registerItem().value_or(QString()));
     }
     EXPECT_TRUE(reasons[0].endsWith(u"tavrin.desktop: File too large"_s)) << qPrintable(reasons[0]);
     EXPECT_TRUE(reasons[1].contains(u"tavrin.desktop: "_s)) << qPrintable(reasons[1]);

@@ -1,4 +1,4 @@
-#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Unix/UnixToolRunner.h"
 
 #include "Platform/Child.h"
 #include "support/Files.h"
@@ -23,7 +23,7 @@ namespace {
 
 ToolResult run(const QString& launchPath, const QStringList& arguments,
                std::optional<std::chrono::milliseconds> terminateAfter = {}, bool captureOutput = true) {
-    LinuxToolRunner runner;
+    UnixToolRunner runner;
     return QCoro::waitFor(runner.run({.launchPath = launchPath,
                                       .arguments = arguments,
                                       .captureOutput = captureOutput,
@@ -114,7 +114,7 @@ TEST(ToolRunner, TerminatesWhatTakesTooLong) {
 }
 
 TEST(ToolRunner, PassesOnWhatTheToolIsToRead) {
-    LinuxToolRunner runner;
+    UnixToolRunner runner;
     const QByteArray much(1 << 20, '\0');
     const auto fed = [&](const QString& path) {
         return QCoro::waitFor(runner.run({.launchPath = path, .captureOutput = true, .input = much}));
@@ -128,7 +128,7 @@ TEST(ToolRunner, EndsAToolWhenAskedToWhateverItHasStarted) {
     const std::pair<QString, qint64> cases[] = {{u"sleep 60 & sleep 61"_s, 1000},
                                                 {u"trap '' TERM; sleep 60 & wait"_s, 3000}};
     for (const auto& [command, mostMs] : cases) {
-        LinuxToolRunner runner;
+        UnixToolRunner runner;
         std::stop_source stop;
         QTimer::singleShot(100ms, [&] { stop.request_stop(); });
         QElapsedTimer time;
@@ -168,7 +168,7 @@ TEST(ToolRunner, LeavesNoChildBehindAndIsNotHeldUpByOne) {
 }
 
 TEST(ToolRunner, AnswersForToolsThatLinuxLacks) {
-    const LinuxToolRunner runner(u"/own"_s);
+    const UnixToolRunner runner(u"/own"_s);
     for (const auto& path : {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s})
         EXPECT_EQ(runner.programFor(path), u"/own"_s + path.mid(path.lastIndexOf(u'/')));
     for (const auto& path : {u"/usr/bin/du"_s, u"/bin/sh"_s, u"/opt/bin/osascript"_s})
@@ -184,13 +184,13 @@ TEST(ToolRunner, HearsWhatToolsOfOurOwnComplainAbout) {
     for (const auto& [script, launched, status, complaint] : cases) {
         const QString tool = tree.makeFile(u"osascript"_s, QByteArray("#!/bin/sh\n") + script + '\n');
         QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        LinuxToolRunner runner(tree.path());
+        UnixToolRunner runner(tree.path());
         const ToolResult result = QCoro::waitFor(runner.run({.launchPath = u"/usr/bin/osascript"_s}));
         EXPECT_EQ(result.launched, launched) << script;
         EXPECT_EQ(result.exitStatus, status) << script;
         EXPECT_EQ(result.complaint, complaint) << script;
     }
-    LinuxToolRunner runner(tree.path());
+    UnixToolRunner runner(tree.path());
     const ToolResult missing = QCoro::waitFor(runner.run({.launchPath = u"/usr/sbin/purge"_s}));
     EXPECT_TRUE(missing.complaint.contains(u"No such file"_s)) << qPrintable(missing.complaint);
     EXPECT_EQ(run(u"/bin/sh"_s, {u"-c"_s, u"echo private >&2; exit 126"_s}).exitStatus, 126);

@@ -1,6 +1,6 @@
 #include "UI/MainWindow.h"
 
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "UI/ModelFixture.h"
 #include "UI/RootView.h"
 #include "support/ScriptedFeed.h"

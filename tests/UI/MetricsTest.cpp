@@ -1,4 +1,4 @@
-#include "Core/Models.h"
+#include "Core/Sampling/SystemSample.h"
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/Sparkline.h"
 

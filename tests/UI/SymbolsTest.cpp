@@ -1,6 +1,8 @@
 #include "UI/Kit/Symbols.h"
 
-#include "Core/Models.h"
+#include "Core/Alerts/Alert.h"
+#include "Core/Cleanup/CacheTarget.h"
+#include "Core/Sampling/ProcGroup.h"
 #include "UI/RootView.h"
 
 #include <QImage>

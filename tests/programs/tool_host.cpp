@@ -1,5 +1,5 @@
-#include "Platform/Linux/DescriptorLimit.h"
-#include "Platform/Linux/LinuxToolRunner.h"
+#include "Platform/Unix/DescriptorLimit.h"
+#include "Platform/Unix/UnixToolRunner.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -14,7 +14,7 @@ QCoro::Task<ToolResult> runShell(QString command) {
     request.launchPath = QStringLiteral("/bin/sh");
     request.arguments = QStringList({QStringLiteral("-c"), command});
     request.captureOutput = true;
-    LinuxToolRunner runner;
+    UnixToolRunner runner;
     const ToolResult result = co_await runner.run(request);
     co_return result;
 }
@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     if (argc != 3)
         return 2;
     if (std::string_view(argv[1]) == "where") {
-        std::puts(qPrintable(LinuxToolRunner().programFor(QString::fromLocal8Bit(argv[2]))));
+        std::puts(qPrintable(UnixToolRunner().programFor(QString::fromLocal8Bit(argv[2]))));
         return 0;
     }
     DescriptorLimit::raised();

@@ -1,7 +1,7 @@
 // Renders every screen in both schemes as OUTDIR/NAME-light.png and OUTDIR/NAME-dark.png, on the figures of
 // a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
 
-#include "Core/MessageCenter.h"
+#include "Core/Announcements/MessageCenter.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupView.h"

@@ -3,6 +3,7 @@
 #include "Platform/Places.h"
 
 #include <QHash>
+#include <QStringList>
 
 /// Every path is where it says, unless the test says otherwise.
 class FakePlaces : public Places {

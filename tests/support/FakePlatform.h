@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Instant.h"
 #include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Core/FeedSource.h"
-#include "Core/MessageFeed.h"
+#include "Core/Announcements/FeedSource.h"
+#include "Core/Announcements/MessageFeed.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Applications.h"
-#include "Platform/Linux/DesktopEntries.h"
+#include "Platform/Freedesktop/DesktopEntries.h"
 
 /// Applications by the desktop's entries and by what procfs says of a process.
 ///

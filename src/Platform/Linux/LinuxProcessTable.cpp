@@ -1,8 +1,8 @@
 #include "Platform/Linux/LinuxProcessTable.h"
 
 #include "Platform/Linux/ControlGroup.h"
-#include "Platform/Linux/DescriptorLimit.h"
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Unix/DescriptorLimit.h"
 
 #include <QHash>
 

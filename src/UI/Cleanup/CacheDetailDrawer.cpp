@@ -1,6 +1,6 @@
 #include "UI/Cleanup/CacheDetailDrawer.h"
 
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Kit/Divider.h"

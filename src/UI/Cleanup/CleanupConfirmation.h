@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Cleanup/CacheTarget.h"
 
 #include <functional>
 

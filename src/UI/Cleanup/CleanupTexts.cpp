@@ -1,6 +1,6 @@
 #include "UI/Cleanup/CleanupTexts.h"
 
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Core/CleanupProgress.h"
-#include "Core/CleanupReport.h"
-#include "Core/Models.h"
+#include "Core/Cleanup/CacheTarget.h"
+#include "Core/Cleanup/CleanupProgress.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "UI/Cleanup/CleanupView.h"
 
 #include "AppModel.h"
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Observe.h"
 #include "UI/Cleanup/CacheCard.h"

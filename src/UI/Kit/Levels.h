@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Sampling/SystemSample.h"
 #include "UI/Kit/Theme.h"
 
 /// The colours of the machine's figures, decided on unrounded values; the same on every screen.

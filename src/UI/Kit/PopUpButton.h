@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QString>
 
 /// A choice of one among a few, in the theme's looks. What it shows begins with a label of its own when one
 /// is given: "Sort: RAM".

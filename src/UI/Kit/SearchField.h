@@ -2,6 +2,8 @@
 
 #include "UI/Kit/TextField.h"
 
+#include <QString>
+
 /// A line to search by: a magnifier before it, a button that clears it, and Escape does the same.
 class SearchField : public TextField {
     Q_OBJECT

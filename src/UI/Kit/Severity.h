@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Alerts/Alert.h"
 #include "UI/Kit/Theme.h"
 
 /// The colour in which every view shows an alert of that severity.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSlider>
+#include <QString>
 
 class TextLabel;
 

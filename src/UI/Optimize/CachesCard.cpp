@@ -1,7 +1,7 @@
 #include "UI/Optimize/CachesCard.h"
 
 #include "AppModel.h"
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/PushButton.h"

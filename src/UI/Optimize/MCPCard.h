@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/MCPInspector.h"
+#include "Core/Mcp/MCPInspector.h"
 #include "UI/Optimize/OptimizeCard.h"
 
 class PushButton;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Core/Models.h"
-#include "Core/QuickKillPreset.h"
+#include "Core/Cleanup/CacheTarget.h"
+#include "Core/Relief/QuickKillPreset.h"
 
 #include <QScrollArea>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/QuickKillPreset.h"
+#include "Core/Relief/QuickKillPreset.h"
 
 #include <QAbstractButton>
 

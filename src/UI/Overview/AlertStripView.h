@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Alerts/Alert.h"
 #include "UI/Kit/Card.h"
 
 class PushButton;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/FreeRAM.h"
+#include "Core/Relief/FreeRAM.h"
 
 #include <QAbstractButton>
 

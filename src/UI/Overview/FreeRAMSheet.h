@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Core/FreeRAM.h"
+#include "Core/Instant.h"
+#include "Core/Relief/FreeRAM.h"
 #include "Platform/Clock.h"
 
 #include <QDialog>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Grouping/GroupRollup.h"
+#include "Core/Sampling/ProcSample.h"
 #include "UI/Kit/Card.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,4 @@
 #include "Core/Formatters.h"
-#include "Core/Models.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
 

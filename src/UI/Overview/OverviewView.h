@@ -1,9 +1,10 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Sampling/ProcSample.h"
 
 #include <QScrollArea>
 
+#include <QList>
 #include <optional>
 
 class AlertStripView;

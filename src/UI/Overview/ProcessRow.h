@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Sampling/ProcSample.h"
 #include "UI/Kit/Theme.h"
 
 #include <QWidget>

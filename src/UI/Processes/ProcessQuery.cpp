@@ -3,6 +3,7 @@
 #include <QCollator>
 #include <QHash>
 
+#include <QStringList>
 #include <algorithm>
 #include <functional>
 

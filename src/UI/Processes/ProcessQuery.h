@@ -1,7 +1,8 @@
 #pragma once
 
-#include "Core/Models.h"
+#include "Core/Sampling/ProcSample.h"
 
+#include <QList>
 #include <optional>
 
 enum class SortBy { ram, cpu, name, idle };

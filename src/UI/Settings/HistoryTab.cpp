@@ -1,7 +1,7 @@
 #include "UI/Settings/HistoryTab.h"
 
-#include "Core/ActionLogReader.h"
-#include "Core/Models.h"
+#include "Core/ActionLog/ActionLogEntry.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/LoggedAction.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "UI/Settings/LocalTimeText.h"
 
 #include <QAbstractTableModel>

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QRegularExpression>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
-#include "Core/ActionLogFile.h"
-#include "Core/ActionLogReader.h"
+#include "Core/ActionLog/ActionLogFile.h"
+#include "Core/ActionLog/ActionLogReader.h"
 #include "fuzz/Fuzz.h"
 
 #include <algorithm>

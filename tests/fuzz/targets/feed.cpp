@@ -1,5 +1,5 @@
-#include "Core/MessageCenter.h"
-#include "Core/MessageFeed.h"
+#include "Core/Announcements/MessageCenter.h"
+#include "Core/Announcements/MessageFeed.h"
 #include "fuzz/Fuzz.h"
 
 #include <QJsonArray>

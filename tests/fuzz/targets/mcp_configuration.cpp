@@ -1,4 +1,4 @@
-#include "Core/ServerDocument.h"
+#include "Core/Mcp/ServerDocument.h"
 #include "fuzz/Fuzz.h"
 
 #include <QJsonArray>

@@ -1,5 +1,5 @@
-#include "Core/LaunchedProgram.h"
-#include "Core/MCPInspector.h"
+#include "Core/Mcp/MCPInspector.h"
+#include "Core/Sampling/LaunchedProgram.h"
 #include "fuzz/Fuzz.h"
 
 #include <QRegularExpression>

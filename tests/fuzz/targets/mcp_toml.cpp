@@ -1,4 +1,4 @@
-#include "Core/ServerToml.h"
+#include "Core/Mcp/ServerToml.h"
 #include "fuzz/Fuzz.h"
 
 #include <sstream>

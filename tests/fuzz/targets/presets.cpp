@@ -1,4 +1,4 @@
-#include "Core/QuickKillPreset.h"
+#include "Core/Relief/QuickKillPreset.h"
 #include "fuzz/Fuzz.h"
 
 #include <algorithm>

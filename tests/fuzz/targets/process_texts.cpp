@@ -1,5 +1,5 @@
-#include "Core/ProcessGrouper.h"
-#include "Core/Sampler.h"
+#include "Core/Grouping/ProcessGrouper.h"
+#include "Core/Sampling/Sampler.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "fuzz/Fuzz.h"
 #include "support/FakePlatform.h"

@@ -1,4 +1,4 @@
-#include "Core/NukePreview.h"
+#include "Core/Relief/NukePreview.h"
 #include "Tools/AppleScript.h"
 #include "fuzz/Fuzz.h"
 

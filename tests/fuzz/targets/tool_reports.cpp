@@ -1,6 +1,6 @@
-#include "Core/CacheScanner.h"
-#include "Core/Cleaner.h"
-#include "Core/CleanupPlan.h"
+#include "Core/Cleanup/CacheScanner.h"
+#include "Core/Cleanup/Cleaner.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Tools/CleanupListing.h"
 #include "fuzz/Fuzz.h"
 

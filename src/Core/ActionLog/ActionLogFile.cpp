@@ -1,0 +1,45 @@
+#include "Core/ActionLog/ActionLogFile.h"
+
+#include "Core/Iso8601.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+/// A crash may have cut a line short, to which the next one must not be joined.
+bool endsInsideALine(QFile& file) {
+    char last = '\n';
+    return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
+}
+
+} // namespace
+
+QString Cleaner::actionLogPath() {
+    return QDir::homePath() + QStringLiteral("/Library/Logs/Tavrin/actions.log");
+}
+
+bool Cleaner::isActionLogObstructed() {
+    const QFileInfo place(actionLogPath());
+    return place.exists() && !place.isFile();
+}
+
+QByteArray Cleaner::actionLogLine(const ActionLogEntry& entry) {
+    return Iso8601::format(entry.timestamp) + '\t' + rawValue(entry.kind).toUtf8() + '\t' +
+           (entry.success ? "ok" : "fail") + '\t' + QByteArray::number(entry.freedBytes) + '\t' +
+           entry.detail.toUtf8() + '\n';
+}
+
+void Cleaner::appendActionLog(const ActionLogEntry& entry) {
+    QFile file(actionLogPath());
+    QDir().mkpath(QFileInfo(file).path());
+    if (isActionLogObstructed() ||
+        !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
+        return;
+    const qint64 end = file.size();
+    const QByteArray line = (endsInsideALine(file) ? "\n" : "") + actionLogLine(entry);
+    // What a full disk took of a line may end inside a character, and the whole file would be no text.
+    if (file.write(line) < line.size())
+        file.resize(end);
+}

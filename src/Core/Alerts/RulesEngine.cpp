@@ -1,0 +1,190 @@
+#include "Core/Alerts/RulesEngine.h"
+
+#include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Formatters.h"
+#include "Core/Sampling/ProcessFilter.h"
+#include "Platform/Identity.h"
+#include "Platform/Words.h"
+#include "Preferences.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Severity = Alert::Severity;
+
+constexpr double GiB = 1073741824.0;
+constexpr double heavySwapGB = 4.0;
+constexpr qsizetype namedCaches = 3;
+
+QString oneDecimal(double value) {
+    return Formatters::fixed(value, 1);
+}
+
+/// A threshold in bytes; empty for one that no byte count can express, which leaves its rule out.
+std::optional<quint64> gigabytes(double value) {
+    if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 34))
+        return std::nullopt;
+    return static_cast<quint64>(value * GiB);
+}
+
+std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& prefs) {
+    const double threshold = prefs.alertRAMLowFreeGB();
+    if (!prefs.alertRAMLowEnabled() || system.memTotalBytes == 0)
+        return std::nullopt;
+    const double free =
+        (static_cast<double>(system.memTotalBytes) - static_cast<double>(system.memUsedBytes)) / GiB;
+    if (free < threshold) {
+        return Alert{.id = u"ram_low"_s,
+                     .severity = Severity::danger,
+                     .title = u"Free RAM low"_s,
+                     .detail = u"Only %1 GB free — consider quitting top hogs or cleaning caches."_s.arg(
+                         oneDecimal(free)),
+                     .actionTarget = u"ram"_s};
+    }
+    if (free < 2 * threshold) {
+        return Alert{.id = u"ram_warn"_s,
+                     .severity = Severity::warn,
+                     .title = u"RAM getting tight"_s,
+                     .detail = u"%1 GB free."_s.arg(oneDecimal(free)),
+                     .actionTarget = u"ram"_s};
+    }
+    return std::nullopt;
+}
+
+/// The first of equals, as a stable sort would have it; null when there is none.
+template <typename Counts> const ProcSample* busiest(const QList<ProcSample>& processes, Counts counts) {
+    const ProcSample* top = nullptr;
+    for (const ProcSample& process : processes) {
+        if (counts(process) && (!top || process.cpuPercent > top->cpuPercent))
+            top = &process;
+    }
+    return top;
+}
+
+std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample>& processes,
+                              const Preferences& prefs, const Identity& identity) {
+    if (!prefs.alertCPUHotEnabled() || !(system.cpuPercent > prefs.alertCPUHotPercent()))
+        return std::nullopt;
+    const ProcessFilter maySignal(identity);
+    const ProcSample* target =
+        busiest(processes, [&](const ProcSample& process) { return maySignal.accepts(process); });
+    const ProcSample* named = target ? target : busiest(processes, [&](const ProcSample& process) {
+        return process.pid != identity.processId();
+    });
+    return Alert{.id = u"cpu_hot"_s,
+                 .severity = Severity::warn,
+                 .title = u"CPU saturated"_s,
+                 .detail = u"%1 total — top: %2"_s.arg(Formatters::percent(system.cpuPercent),
+                                                       named ? named->name : u"—"_s),
+                 .actionPid = target ? std::optional(target->pid) : std::nullopt};
+}
+
+Alert thermalAlert(ThermalState state) {
+    return {.id = u"thermal"_s,
+            .severity = Severity::danger,
+            .title = u"%1 is running hot (%2)"_s.arg(Words::native().computer, thermalLabel(state)),
+            .detail = u"%1 is throttling — reduce parallel agentic work or quit Docker/ollama."_s.arg(
+                Words::native().system)};
+}
+
+std::optional<Alert> swapAlert(const SystemSample& system) {
+    const double swap = static_cast<double>(system.swapUsedBytes) / GiB;
+    if (!(swap > heavySwapGB))
+        return std::nullopt;
+    return Alert{.id = u"swap_high"_s,
+                 .severity = Severity::warn,
+                 .title = u"Heavy swap usage"_s,
+                 .detail = u"%1 GB swapped — system will feel sluggish."_s.arg(oneDecimal(swap))};
+}
+
+Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
+    return {.id = u"idle_agent_%1"_s.arg(process.pid),
+            .severity = Severity::warn,
+            .title = u"Idle agent — "_s + process.name,
+            .detail = u"Idle %1 min, %2 RAM."_s.arg(Formatters::fixed(process.idleSeconds / 60, 0),
+                                                    Formatters::bytes(process.rssBytes)) +
+                      (maySignal ? u" Quit?"_s : QString()),
+            .actionPid = maySignal ? std::optional(process.pid) : std::nullopt};
+}
+
+QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs,
+                             const ProcessFilter& maySignal) {
+    const auto minimum = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
+    if (!prefs.alertIdleAgentEnabled() || !minimum)
+        return {};
+    const double minimumIdle = prefs.alertIdleAgentMinIdleMin() * 60;
+    QList<Alert> alerts;
+    for (const ProcSample& process : processes) {
+        const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minimumIdle &&
+                               process.rssBytes > *minimum;
+        if (qualifies)
+            alerts.append(idleAgentAlert(process, maySignal.accepts(process)));
+    }
+    return alerts;
+}
+
+std::optional<Alert> browserAlert(const SystemSample& system, const QList<GroupRollup>& groups,
+                                  const Preferences& prefs) {
+    const auto browsers = std::find_if(groups.begin(), groups.end(), [](const GroupRollup& rollup) {
+        return rollup.group == ProcGroup::browsers;
+    });
+    if (!prefs.alertBrowserHogEnabled() || browsers == groups.end() || system.memTotalBytes == 0)
+        return std::nullopt;
+    const double share =
+        static_cast<double>(browsers->rssBytes) / static_cast<double>(system.memTotalBytes) * 100;
+    if (!(prefs.alertBrowserHogPercentTotal() <= share))
+        return std::nullopt;
+    return Alert{.id = u"browser_hog"_s,
+                 .severity = Severity::info,
+                 .title = u"Browsers using "_s + Formatters::bytes(browsers->rssBytes),
+                 .detail = u"That's %1 of total RAM. Closing idle tabs frees the most memory fastest."_s.arg(
+                     Formatters::percent(share)),
+                 .actionTarget = u"browsers"_s};
+}
+
+std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Preferences& prefs) {
+    const auto limit = gigabytes(prefs.alertCachesBigGB());
+    if (!prefs.alertCachesBigEnabled() || caches.isEmpty() || !limit)
+        return std::nullopt;
+    const quint64 total = CleanupPlan::totalBytes(caches);
+    QStringList big;
+    for (const CacheTarget& target : caches) {
+        if (target.sizeBytes > *limit / static_cast<quint64>(caches.size()))
+            big.append(u"%1 (%2)"_s.arg(target.name, Formatters::bytes(target.sizeBytes)));
+    }
+    if (total <= *limit)
+        return std::nullopt;
+    return Alert{.id = u"caches_big"_s,
+                 .severity = Severity::info,
+                 .title = u"Caches reclaimable: "_s + Formatters::bytes(total),
+                 .detail = big.mid(0, namedCaches).join(u", "_s),
+                 .actionTarget = u"caches"_s};
+}
+
+} // namespace
+
+QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcSample>& processes,
+                                   const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
+                                   const Preferences& prefs) {
+    QList<Alert> alerts;
+    const auto add = [&alerts](const std::optional<Alert>& alert) {
+        if (alert)
+            alerts.append(*alert);
+    };
+    add(memoryAlert(system, prefs));
+    add(cpuAlert(system, processes, prefs, m_identity));
+    const bool hot =
+        system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
+    thermalHotStreak = hot ? thermalHotStreak + 1 : 0;
+    if (prefs.alertThermalEnabled() && thermalHotStreak >= thermalHotStreakThreshold)
+        add(thermalAlert(system.thermalState));
+    add(swapAlert(system));
+    alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity)));
+    add(browserAlert(system, groups, prefs));
+    add(cachesAlert(caches, prefs));
+    return alerts;
+}

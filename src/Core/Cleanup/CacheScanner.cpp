@@ -1,0 +1,256 @@
+#include "Core/Cleanup/CacheScanner.h"
+
+#include "Core/Cleanup/Cleaner.h"
+#include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Formatters.h"
+#include "Platform/Clock.h"
+#include "Platform/Places.h"
+#include "Platform/Platform.h"
+#include "Platform/ToolRunner.h"
+
+#include <QCoroTimer>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr qsizetype keptEntries = 100;
+// A stopped container daemon keeps its client waiting for ever.
+constexpr auto containerReportLimit = 2min;
+constexpr int filesPerBreath = 1000;
+
+const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
+                             "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
+
+// Of the volumes, those that no running container uses go. Since version 1.42 of its interface the engine
+// keeps those that were given a name.
+const auto volumesThatGo =
+    u"command -v docker >/dev/null 2>&1 && { unnamed=; "
+    "case \"$(docker version --format '{{.Server.APIVersion}}')\" in "
+    "1.4[2-9]|1.[5-9][0-9]) unnamed='--filter label=com.docker.volume.anonymous' ;; esac; "
+    "for volume in $(docker volume ls -q $unnamed); do "
+    "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
+    "done; } 2>/dev/null || true"_s;
+
+/// Puts the target's places that may be cleaned into words or into a list.
+QStringList openPlaces(CacheTarget& target, const Places& places) {
+    QStringList open;
+    target.notes.clear();
+    for (const Place& place : CleanupPlan::placesOf(target, places)) {
+        if (!QFileInfo::exists(place.path))
+            continue;
+        if (place.objection.isEmpty())
+            open.append(place.path);
+        else
+            target.notes.append(place.objection);
+    }
+    return open;
+}
+
+/// Takes what was found out about a folder; where that is nothing, the target says why.
+void take(CacheTarget& target, const ListedFolder& folder, const QString& complaint) {
+    if (folder.listing.isEmpty() && !complaint.isEmpty())
+        target.notes.append(u"%1 cannot be cleaned: %2."_s.arg(folder.path, complaint));
+    target.listed.append(folder);
+    target.sizeBytes += folder.sizeBytes;
+}
+
+bool holdsKeptFolder(const QString& folder) {
+    const QString kept = QFileInfo(CleanupPlan::keptFolder()).canonicalFilePath();
+    return !kept.isEmpty() && kept.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
+}
+
+QString trimmedBlanks(QStringView text) {
+    const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text.toString();
+}
+
+} // namespace
+
+CacheScanner::CacheScanner(const Platform& platform, Progress progress)
+    : m_tools(platform.tools)
+    , m_places(platform.places)
+    , m_clock(platform.clock)
+    , m_progress(std::move(progress)) {}
+
+QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
+    for (const CacheTarget& target : targets)
+        m_waiting.append(target.name);
+    std::vector<QCoro::Task<>> measurements;
+    for (const CacheTarget& target : targets)
+        measurements.push_back(measure(target));
+    for (auto& measurement : measurements)
+        co_await measurement;
+    CleanupPlan::markShared(m_measured);
+    std::ranges::stable_sort(m_measured, std::ranges::greater(), &CacheTarget::sizeBytes);
+    co_return m_measured;
+}
+
+QCoro::Task<> CacheScanner::measure(CacheTarget target) {
+    const CacheTarget measured = co_await scanOne(target);
+    m_measured.append(measured);
+    m_waiting.removeOne(measured.name);
+    if (m_progress) {
+        const int done = static_cast<int>(m_measured.size());
+        m_progress({m_waiting.value(0), done, done + static_cast<int>(m_waiting.size())});
+    }
+}
+
+QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
+    switch (target.rule.measure) {
+    case CleanupRule::Measure::containers:
+        return scanDocker(target);
+    case CleanupRule::Measure::oldFiles:
+        return scanOldFiles(target);
+    case CleanupRule::Measure::folders:
+        break;
+    }
+    return scanFolders(target);
+}
+
+/// The record that no clean removes is left out.
+QCoro::Task<quint64> CacheScanner::measureFolder(QString folder) {
+    const quint64 all = co_await Cleaner::directoryBytes(folder, m_tools);
+    quint64 kept = 0;
+    if (holdsKeptFolder(folder))
+        kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
+    co_return all - std::min(all, kept);
+}
+
+QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
+    target.listed.clear();
+    target.details.clear();
+    target.sizeBytes = 0;
+    const Instant now = m_clock->now();
+    const QStringList folders = openPlaces(target, *m_places);
+    for (const QString& folder : folders) {
+        const quint64 bytes = co_await measureFolder(folder);
+        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        take(target, {folder, bytes, listing.text}, listing.complaint);
+        target.details.append({folder, bytes});
+    }
+    std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
+    target.lastScanned = m_clock->now();
+    co_return target;
+}
+
+QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
+    const QStringList folders = openPlaces(target, *m_places);
+    if (folders.isEmpty() && target.notes.isEmpty()) {
+        target.lastScanned = m_clock->now();
+        co_return target;
+    }
+    target.listed.clear();
+    target.details.clear();
+    target.sizeBytes = 0;
+    const Instant now = m_clock->now();
+    int sinceBreath = 0;
+    for (const QString& folder : folders) {
+        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        ListedFolder listed{folder, 0, listing.text};
+        CleanupPlan::ListingReader reader(listed.listing);
+        while (const auto entry = reader.next()) {
+            listed.sizeBytes += entry->sizeBytes;
+            if (target.details.size() < keptEntries)
+                target.details.append({folder + u'/' + QFile::decodeName(entry->path), entry->sizeBytes});
+            if (++sinceBreath == filesPerBreath) { // the windows live on this thread too
+                sinceBreath = 0;
+                co_await QCoro::sleepFor(0ms);
+            }
+        }
+        take(target, listed, listing.complaint);
+    }
+    std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
+    target.lastScanned = m_clock->now();
+    co_return target;
+}
+
+QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
+    const QByteArray report = co_await askContainers(containerReport);
+    target.sizeBytes = 0;
+    target.details = parseContainerReport(report);
+    for (const CacheEntry& entry : std::as_const(target.details))
+        target.sizeBytes += entry.sizeBytes;
+    target.notes.clear();
+    target.volumes.clear();
+    if (const auto reclaimable = parseReclaimable(report)) {
+        target.notes.append(u"The tool calls %1 of it reclaimable."_s.arg(Formatters::bytes(*reclaimable)));
+        const QByteArray volumes = co_await askContainers(volumesThatGo);
+        target.volumes = parseVolumes(volumes);
+    }
+    target.lastScanned = m_clock->now();
+    co_return target;
+}
+
+QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
+    ToolRequest request;
+    request.launchPath = u"/bin/sh"_s;
+    request.arguments = QStringList{u"-lc"_s, command};
+    request.captureOutput = true;
+    request.terminateAfter = containerReportLimit;
+    const ToolResult result = co_await m_tools->run(request);
+    co_return result.output;
+}
+
+QList<CacheEntry> CacheScanner::parseContainerReport(const QByteArray& report) {
+    QList<CacheEntry> entries;
+    const QStringList lines = QString::fromUtf8(report).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(u'\t');
+        if (fields.size() >= 2)
+            entries.append({fields[0], parseSize(fields[1])});
+    }
+    return entries;
+}
+
+std::optional<quint64> CacheScanner::parseReclaimable(const QByteArray& report) {
+    std::optional<quint64> total;
+    const QStringList lines = QString::fromUtf8(report).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(u'\t');
+        if (fields.size() >= 3)
+            total = total.value_or(0) + parseSize(fields[2].section(u'(', 0, 0));
+    }
+    return total;
+}
+
+QStringList CacheScanner::parseVolumes(const QByteArray& report) {
+    QStringList volumes;
+    for (const QString& line : QString::fromUtf8(report).split(u'\n')) {
+        if (line.startsWith("volume\t"_L1))
+            volumes.append(line.section(u'\t', 1));
+    }
+    return volumes;
+}
+
+quint64 CacheScanner::parseSize(const QString& text) {
+    struct Unit {
+        QStringView suffix;
+        double bytes;
+    };
+    static constexpr std::array units = {Unit{u"TB", 1e12}, Unit{u"GB", 1e9}, Unit{u"MB", 1e6},
+                                         Unit{u"KB", 1e3}, Unit{u"B", 1}};
+    QString number = trimmedBlanks(text);
+    double multiplier = 1;
+    for (const Unit& unit : units) {
+        if (number.endsWith(unit.suffix)) {
+            number.chop(unit.suffix.size());
+            multiplier = unit.bytes;
+            break;
+        }
+    }
+    const double bytes = trimmedBlanks(number).toDouble() * multiplier;
+    return bytes > 0 && bytes < 0x1p64 ? static_cast<quint64>(bytes) : 0;
+}

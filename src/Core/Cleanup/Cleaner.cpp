@@ -1,0 +1,126 @@
+#include "Core/Cleanup/Cleaner.h"
+
+#include "Core/Cleanup/CleanupPlan.h"
+#include "Platform/Places.h"
+#include "Platform/ToolRunner.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Cleaner::CleanResult cancelled() {
+    return {false, 0, u"cancelled"_s};
+}
+
+void fail(Cleaner::CleanResult& result, const QString& reason) {
+    result.success = false;
+    if (result.reason.isEmpty())
+        result.reason = reason;
+}
+
+/// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
+const auto done = u"tavrin: done"_s;
+
+QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
+    ToolRequest request;
+    request.launchPath = u"/bin/sh"_s;
+    request.arguments = QStringList{u"-lc"_s, command + u" && echo '"_s + done + u'\''};
+    request.captureOutput = true;
+    request.terminateAfter = CleanupPlan::longest;
+    request.stop = stop;
+    const ToolResult result = co_await tools->run(request);
+    co_return result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+}
+
+QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
+                                               std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
+    Cleaner::CleanResult result;
+    const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
+    quint64 before = 0;
+    if (isMeasured)
+        before = co_await Cleaner::directoryBytes(folder.path, tools, stop);
+    if (stop.stop_requested())
+        co_return cancelled();
+    ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
+    request.stop = stop;
+    const ToolResult removal = co_await tools->run(request);
+    if (!removal.succeeded())
+        result = {false, 0, stop.stop_requested() ? cancelled().reason : removal.complaint};
+    if (isMeasured) {
+        const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
+        result.freedBytes = before > after ? before - after : 0;
+    }
+    co_return result;
+}
+
+} // namespace
+
+QCoro::Task<Cleaner::Listing> Cleaner::list(CleanupRule rule, QString folder, Instant now,
+                                            std::shared_ptr<ToolRunner> tools) {
+    const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
+    const ToolResult result = co_await tools->run(request);
+    Listing listing{result.output, result.complaint};
+    if (!result.succeeded())
+        listing.text.clear(); // a part of a listing is none
+    co_return listing;
+}
+
+QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,
+                                                 std::shared_ptr<Places> places, Instant now,
+                                                 std::stop_token stop) {
+    CleanResult result;
+    if (target.pruneCommand) {
+        result.success = co_await prune(*target.pruneCommand, tools, stop);
+        result.freedBytes = target.sizeBytes;
+        if (!result.success && stop.stop_requested())
+            result.reason = cancelled().reason;
+        co_return result;
+    }
+    const QList<Place> found = CleanupPlan::placesOf(target, *places);
+    for (const Place& place : found) {
+        if (!QFileInfo::exists(place.path))
+            continue;
+        if (!place.objection.isEmpty() || stop.stop_requested()) {
+            fail(result, place.objection.isEmpty() ? cancelled().reason : place.objection);
+            continue;
+        }
+        const auto isPlace = [&](const ListedFolder& folder) { return folder.path == place.path; };
+        auto listed = std::ranges::find_if(target.listed, isPlace);
+        if (listed == target.listed.end() && target.lastScanned)
+            continue; // it came after the scan
+        if (listed == target.listed.end()) {
+            const Listing listing = co_await list(target.rule, place.path, now, tools);
+            target.listed.append({place.path, 0, listing.text});
+            listed = target.listed.end() - 1;
+        }
+        auto removal = removeListed(target.rule, *listed, now, tools, stop);
+        const CleanResult one = co_await removal;
+        if (!one.success)
+            fail(result, one.reason);
+        result.freedBytes += one.freedBytes;
+    }
+    co_return result;
+}
+
+QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
+                                             std::stop_token stop) {
+    ToolRequest request;
+    request.launchPath = u"/usr/bin/du"_s;
+    request.arguments = {u"-sk"_s, u"-x"_s, path};
+    request.captureOutput = true;
+    request.terminateAfter = CleanupPlan::longest;
+    request.stop = stop;
+    const ToolResult result = co_await tools->run(request);
+    co_return reportedBytes(result.output);
+}
+
+quint64 Cleaner::reportedBytes(const QByteArray& report) {
+    constexpr quint64 largest = std::numeric_limits<quint64>::max() / 1024;
+    const quint64 kib = report.simplified().split(' ').constFirst().toULongLong();
+    return kib <= largest ? kib * 1024 : 0;
+}

@@ -1,0 +1,217 @@
+#include "Core/Cleanup/CleanupPlan.h"
+
+#include "Core/ActionLog/ActionLogFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Found {
+    Place place;
+    QString canonical; ///< empty when nothing exists there
+    bool isLink = false;
+};
+
+/// A link holds nothing itself: what lies behind it is counted where it really is.
+bool covers(const Found& outer, const Found& inner, bool outerIsEarlier) {
+    if (outer.canonical.isEmpty() || inner.canonical.isEmpty())
+        return outer.place.path == inner.place.path && outerIsEarlier;
+    if (outer.isLink && !inner.isLink)
+        return false;
+    if (outer.canonical == inner.canonical)
+        return outerIsEarlier || (inner.isLink && !outer.isLink);
+    return !outer.isLink && inner.canonical.startsWith(outer.canonical + u'/');
+}
+
+ToolRequest request(const QString& verb, const CleanupRule& rule, const QString& folder, Instant now) {
+    QStringList arguments{verb, u"--keep"_s, CleanupPlan::keptFolder()};
+    if (rule.measure == CleanupRule::Measure::oldFiles) {
+        const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch()).count();
+        arguments << u"--older-than"_s << QString::number(rule.olderThanDays) << u"--now"_s
+                  << QString::number(seconds);
+    }
+    if (rule.screenshotsOnly)
+        arguments << u"--screenshots"_s;
+    if (rule.isShared)
+        arguments << u"--shared"_s;
+    // Links above the folder were looked at; the program follows none that comes after.
+    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    const bool isLink = QFileInfo(folder).isSymLink();
+    arguments << (canonical.isEmpty() || isLink ? folder : canonical);
+    ToolRequest request;
+    request.launchPath = u"cleanup"_s;
+    request.arguments = arguments;
+    request.terminateAfter = CleanupPlan::longest;
+    return request;
+}
+
+QByteArray canonical(const ListedFolder& folder) {
+    const QString found = QFileInfo(folder.path).canonicalFilePath();
+    return QFile::encodeName(found.isEmpty() ? folder.path : found);
+}
+
+/// The bytes of what a target of old files has listed that `isElsewhere` has too.
+template <typename Test> quint64 listedBytes(const CacheTarget& target, const Test& isElsewhere) {
+    quint64 bytes = 0;
+    for (const ListedFolder& folder : target.listed) {
+        const QByteArray start = canonical(folder) + '/';
+        CleanupPlan::ListingReader reader(folder.listing);
+        while (const auto entry = reader.next())
+            bytes += isElsewhere(start + entry->path) ? entry->sizeBytes : 0;
+    }
+    return bytes;
+}
+
+struct Folder {
+    qsizetype target;
+    QByteArray path;
+    QByteArray device;
+    quint64 sizeBytes;
+};
+
+QByteArray deviceOf(const ListedFolder& folder) {
+    return folder.listing.left(folder.listing.indexOf(':'));
+}
+
+/// Folders that are emptied as a whole.
+QList<Folder> wholeFolders(const QList<CacheTarget>& targets) {
+    QList<Folder> folders;
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        if (targets[i].rule.measure != CleanupRule::Measure::folders)
+            continue;
+        for (const ListedFolder& folder : targets[i].listed) {
+            folders.append({i, canonical(folder), deviceOf(folder), folder.sizeBytes});
+        }
+    }
+    return folders;
+}
+
+/// `du` counts a folder with the one that holds it only where both are on one file system.
+bool holds(const Folder& outer, const Folder& inner) {
+    if (outer.target == inner.target || outer.device != inner.device)
+        return false;
+    return inner.path.startsWith(outer.path + '/') ||
+           (inner.path == outer.path && outer.target < inner.target);
+}
+
+} // namespace
+
+QList<Place> CleanupPlan::placesOf(const CacheTarget& target, const Places& places) {
+    QList<Found> found;
+    for (const QString& path : target.paths) {
+        for (const Place& place : places.locate(path)) {
+            const QFileInfo info(place.path);
+            found.append({place, info.canonicalFilePath(), info.isSymLink()});
+        }
+    }
+    QList<Place> once;
+    for (qsizetype i = 0; i < found.size(); ++i) {
+        bool covered = false;
+        for (qsizetype j = 0; j < found.size(); ++j)
+            covered = covered || (i != j && covers(found[j], found[i], j < i));
+        if (!covered)
+            once.append(found[i].place);
+    }
+    return once;
+}
+
+ToolRequest CleanupPlan::listRequest(const CleanupRule& rule, const QString& folder, Instant now) {
+    ToolRequest asked = request(u"list"_s, rule, folder, now);
+    asked.captureOutput = true;
+    return asked;
+}
+
+ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now) {
+    ToolRequest asked = request(u"remove"_s, rule, folder.path, now);
+    asked.input = folder.listing;
+    return asked;
+}
+
+QString CleanupPlan::keptFolder() {
+    return QFileInfo(Cleaner::actionLogPath()).path();
+}
+
+CleanupPlan::ListingReader::ListingReader(QByteArrayView listing)
+    : m_rest(listing) {
+    takeRecord(); // the folder itself
+}
+
+std::optional<QByteArrayView> CleanupPlan::ListingReader::takeRecord() {
+    const qsizetype end = m_rest.indexOf('\0');
+    if (end < 0)
+        return std::nullopt;
+    const QByteArrayView record = m_rest.first(end);
+    m_rest = m_rest.sliced(end + 1);
+    return record;
+}
+
+std::optional<CleanupPlan::Entry> CleanupPlan::ListingReader::next() {
+    const auto record = takeRecord();
+    const qsizetype first = record ? record->indexOf(' ') : -1;
+    const qsizetype second = first < 0 ? -1 : record->indexOf(' ', first + 1);
+    if (second < 0)
+        return std::nullopt;
+    bool isNumber = false;
+    const quint64 bytes = record->sliced(first + 1, second - first - 1).toULongLong(&isNumber);
+    return isNumber ? std::optional(Entry{bytes, record->sliced(second + 1).toByteArray()}) : std::nullopt;
+}
+
+CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype most) {
+    Names names;
+    QList<Entry> largest;
+    for (const ListedFolder& folder : target.listed) {
+        ListingReader reader(folder.listing);
+        while (const auto entry = reader.next()) {
+            if (entry->path.endsWith(
+                    ".trashinfo")) // where a file of the trash came from, no file of the user
+                continue;
+            ++names.count;
+            largest.append(*entry);
+            if (largest.size() > 2 * most) {
+                std::ranges::stable_sort(largest, std::ranges::greater(), &Entry::sizeBytes);
+                largest.resize(most);
+            }
+        }
+    }
+    std::ranges::stable_sort(largest, std::ranges::greater(), &Entry::sizeBytes);
+    for (const Entry& entry : largest.first(std::min(most, largest.size())))
+        names.shown.append(
+            {QFile::decodeName(entry.path.mid(entry.path.lastIndexOf('/') + 1)), entry.sizeBytes});
+    return names;
+}
+
+void CleanupPlan::markShared(QList<CacheTarget>& targets) {
+    const QList<Folder> folders = wholeFolders(targets);
+    QSet<QByteArray> listed; // by targets before, of old files
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        CacheTarget& target = targets[i];
+        target.sharedBytes = 0;
+        for (const Folder& inner : folders) {
+            const auto isOuter = [&](const Folder& outer) { return holds(outer, inner); };
+            if (inner.target == i && std::ranges::any_of(folders, isOuter))
+                target.sharedBytes += inner.sizeBytes;
+        }
+        if (target.rule.measure != CleanupRule::Measure::oldFiles)
+            continue;
+        target.sharedBytes += listedBytes(target, [&](const QByteArray& path) {
+            const auto holdsIt = [&](const Folder& folder) { return path.startsWith(folder.path + '/'); };
+            const bool isShared = listed.contains(path) || std::ranges::any_of(folders, holdsIt);
+            listed.insert(path);
+            return isShared;
+        });
+    }
+}
+
+quint64 CleanupPlan::totalBytes(const QList<CacheTarget>& targets) {
+    quint64 total = 0;
+    for (const CacheTarget& target : targets)
+        total += target.sizeBytes - std::min(target.sizeBytes, target.sharedBytes);
+    return total;
+}

@@ -1,0 +1,83 @@
+#include "Core/Grouping/KnownPrograms.h"
+
+#include "Core/Grouping/KnownProgramsTable.h"
+#include "Core/Sampling/ProgramPath.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using KnownPrograms::Program;
+namespace Table = KnownPrograms::Table;
+
+bool comesBefore(QStringView name, QStringView other) {
+    return name.compare(other, Qt::CaseInsensitive) < 0;
+}
+
+/// In order of name, to be searched by halves.
+const std::vector<Program>& programs() {
+    static const std::vector<Program> sorted = [] {
+        std::vector<Program> all;
+        for (const Table::Row& row : Table::programs) {
+            for (const char16_t* name : row.names)
+                all.push_back({.name = name, .group = row.group, .hostsServers = row.hostsServers});
+        }
+        std::ranges::stable_sort(all, comesBefore, &Program::name);
+        return all;
+    }();
+    return sorted;
+}
+
+/// A program's own data folder says whose helper lies in it.
+const Program* ofHiddenFolder(QStringView path) {
+    for (const QStringView folder : path.split(u'/', Qt::SkipEmptyParts)) {
+        const Program* known = folder.startsWith(u'.') ? KnownPrograms::find(folder) : nullptr;
+        if (known)
+            return known;
+    }
+    return nullptr;
+}
+
+/// `pattern` may have "*" at either end.
+bool fits(QStringView name, QStringView pattern) {
+    const bool openStart = pattern.startsWith(u'*');
+    const bool openEnd = pattern.endsWith(u'*');
+    const QStringView text = pattern.sliced(openStart).chopped(openEnd);
+    if (openStart && openEnd)
+        return name.contains(text, Qt::CaseInsensitive);
+    if (openStart)
+        return name.endsWith(text, Qt::CaseInsensitive);
+    if (openEnd)
+        return name.startsWith(text, Qt::CaseInsensitive);
+    return name.compare(text, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+const Program* KnownPrograms::find(QStringView name) {
+    const auto found = std::ranges::lower_bound(programs(), name, comesBefore, &Program::name);
+    return found != programs().end() && found->name.compare(name, Qt::CaseInsensitive) == 0 ? &*found
+                                                                                            : nullptr;
+}
+
+const Program* KnownPrograms::of(const ProcSample& process) {
+    for (const QStringView name :
+         {QStringView(process.name), ProgramPath::lastComponent(process.executablePath),
+          ProgramPath::scriptName(process.program), ProgramPath::packageName(process.program)}) {
+        if (const Program* known = find(name))
+            return known;
+    }
+    return ofHiddenFolder(process.executablePath);
+}
+
+bool KnownPrograms::onlySoundsLike(ProcGroup group, QStringView name) {
+    for (const Table::FalseFriends& row : Table::falseFriends) {
+        if (row.group != group)
+            continue;
+        return std::ranges::any_of(row.names, [name](QStringView pattern) { return fits(name, pattern); });
+    }
+    return false;
+}

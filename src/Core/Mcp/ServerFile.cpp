@@ -1,0 +1,108 @@
+#include "Core/Mcp/ServerFile.h"
+
+#include <QElapsedTimer>
+#include <QPromise>
+#include <QScopeGuard>
+#include <QThreadPool>
+
+#include <memory>
+
+#include <fcntl.h>
+#include <malloc.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr qint64 mostBytesAtOnce = 64 << 10;
+
+} // namespace
+
+ServerFile::ServerFile(QByteArray path, Read read)
+    : m_path(std::move(path))
+    , m_read(std::move(read)) {}
+
+ServerFile::~ServerFile() {
+    stopReading();
+}
+
+ServerFile::Version ServerFile::versionOf(const struct stat& status) {
+    return {.device = status.st_dev,
+            .inode = status.st_ino,
+            .sizeBytes = status.st_size,
+            .modifiedSeconds = status.st_mtim.tv_sec,
+            .modifiedNanoseconds = status.st_mtim.tv_nsec};
+}
+
+bool ServerFile::look(QThreadPool& pool) {
+    struct stat status {};
+    if (stat(m_path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return forget();
+    if (m_reading.isValid() && !m_reading.isFinished())
+        return false;
+    const bool isChanged = m_reading.isValid() && takeOver(m_reading.takeResult());
+    if (versionOf(status) == m_version)
+        return isChanged;
+    if (status.st_size <= mostBytesAtOnce)
+        return takeOver(readFile(m_path, m_read)) || isChanged;
+    if (m_rest.hasExpired())
+        startReading(pool);
+    return isChanged;
+}
+
+bool ServerFile::takeOver(Reading reading) {
+    // A large file that is written all the time must not keep a processor busy all the time.
+    m_rest.setRemainingTime(reading.duration);
+    if (reading.isTorn)
+        return false;
+    m_isUnknown = false;
+    m_version = reading.version;
+    if (reading.servers == m_servers)
+        return false;
+    m_servers = std::move(reading.servers);
+    return true;
+}
+
+bool ServerFile::forget() {
+    stopReading();
+    return takeOver({});
+}
+
+void ServerFile::stopReading() {
+    if (m_reading.isValid())
+        m_reading.cancel();
+    m_reading = {};
+}
+
+void ServerFile::startReading(QThreadPool& pool) {
+    const auto promise = std::make_shared<QPromise<Reading>>();
+    promise->start();
+    m_reading = promise->future();
+    pool.start([promise, path = m_path, read = m_read] {
+        promise->addResult(readFile(path, read, [&promise] { return promise->isCanceled(); }));
+        promise->finish();
+#ifdef __GLIBC__
+        malloc_trim(0); // else what a document with many servers needed stays with this thread
+#endif
+    });
+}
+
+ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& read,
+                                         const FileStream::IsUnwanted& isUnwanted) {
+    QElapsedTimer timer;
+    timer.start();
+    const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return {};
+    const auto closing = qScopeGuard([descriptor] { close(descriptor); });
+    // Asked of the open file, because the path may lead elsewhere by now.
+    struct stat before {};
+    struct stat after {};
+    if (fstat(descriptor, &before) != 0 || !S_ISREG(before.st_mode))
+        return {};
+    FileStream text(descriptor, isUnwanted);
+    Reading reading{.version = versionOf(before), .servers = read(text)};
+    reading.isTorn = fstat(descriptor, &after) != 0 || versionOf(after) != reading.version;
+    reading.duration = std::chrono::milliseconds(timer.elapsed());
+    return reading;
+}

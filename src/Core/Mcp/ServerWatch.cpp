@@ -1,0 +1,125 @@
+#include "Core/Mcp/ServerWatch.h"
+
+#include "Core/Formatters.h"
+#include "Core/Grouping/KnownPrograms.h"
+#include "Core/Sampling/LaunchedProgram.h"
+#include "Core/Sampling/ProgramPath.h"
+#include "Platform/Clock.h"
+
+#include <QDateTime>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using MCPInspector::LiveServer;
+
+constexpr double leastIdleSeconds = 60; ///< below it a server has only just answered
+
+QString idleText(double seconds) {
+    if (seconds < leastIdleSeconds)
+        return {};
+    const bool isHours = seconds >= 3600;
+    return u", no CPU for %1 %2"_s.arg(std::lround(seconds / (isHours ? 3600 : 60)))
+        .arg(isHours ? u"h"_s : u"min"_s);
+}
+
+QString timeText(Instant instant) {
+    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(instant.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(u"HH:mm"_s);
+}
+
+/// The agent or editor itself where an interpreter runs it.
+QString hostName(const ProcSample& host) {
+    const auto* known = KnownPrograms::of(host);
+    return known && LaunchedProgram::isInterpreter(host.name) ? known->name.toString() : host.name;
+}
+
+QString nameAndId(const QString& name, qint32 pid) {
+    return u"%1 (%2)"_s.arg(Formatters::visible(name)).arg(pid);
+}
+
+} // namespace
+
+ServerWatch::ServerWatch(std::shared_ptr<ProcessTable> table, std::shared_ptr<Clock> clock)
+    : m_table(std::move(table))
+    , m_clock(std::move(clock)) {}
+
+QList<LiveServer> ServerWatch::detectLive(const QList<ProcSample>& processes) {
+    for (Past& past : m_past)
+        past.wasSeen = false;
+    QList<LiveServer> live =
+        MCPInspector::detectLive(processes, [this](const ProcSample& process) { return keeperOf(process); });
+    QHash<qint32, const ProcSample*> byPid;
+    if (!live.isEmpty()) {
+        for (const ProcSample& process : processes)
+            byPid.insert(process.pid, &process);
+    }
+    for (LiveServer& server : live) {
+        remember(server, byPid);
+        server.reason = reasonFor(server, m_past[server.pid]);
+    }
+    m_past.removeIf([](const auto& entry) { return !entry->wasSeen; });
+    return live;
+}
+
+QList<LiveServer> ServerWatch::lookAt(const QList<ProcSample>& processes) const {
+    return MCPInspector::detectLive(
+        processes, [this](const ProcSample& process) { return m_table->keeper(process.pid); });
+}
+
+/// Begins anew where the id has passed on.
+ServerWatch::Past& ServerWatch::pastOf(const ProcessIdentity& server) {
+    Past& past = m_past[server.pid];
+    if (past.startTime != server.startTime)
+        past = {.startTime = server.startTime};
+    return past;
+}
+
+/// Asked once in a server's life.
+ProcessKeeper ServerWatch::keeperOf(const ProcSample& process) {
+    Past& past = pastOf(process.identity());
+    if (!past.keeper)
+        past.keeper = m_table->keeper(process.pid);
+    return *past.keeper;
+}
+
+void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const ProcSample*>& byPid) {
+    Past& past = pastOf(server.identity());
+    past.wasSeen = true;
+    if (server.host) {
+        if (past.host != *server.host)
+            past.hostFolder =
+                ProgramPath::withTilde(QString::fromUtf8(m_table->workingFolder(server.host->pid)));
+        past.host = *server.host;
+        past.hostName = hostName(*byPid.value(server.host->pid));
+        past.hostEnded.reset();
+        return;
+    }
+    const ProcSample* host = byPid.value(past.host.pid);
+    if (past.host.pid != 0 && !past.hostEnded && !(host && host->identity() == past.host))
+        past.hostEnded = m_clock->now();
+}
+
+QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const {
+    if (server.host) {
+        const QString place =
+            past.hostFolder.isEmpty() ? QString() : u" in "_s + Formatters::visible(past.hostFolder);
+        return u"in use by "_s + nameAndId(past.hostName, past.host.pid) + place;
+    }
+    if (!server.isOrphan) {
+        const QString keeper = Formatters::visible(QString::fromUtf8(server.keeper.name));
+        return server.keeper.kind == ProcessKeeper::Kind::container
+                   ? u"runs in the container "_s + keeper
+                   : u"run by the service manager as "_s + keeper;
+    }
+    QString reason = u"orphan: "_s;
+    if (past.hostEnded)
+        reason += u"its host %1 ended at %2"_s.arg(nameAndId(past.hostName, past.host.pid),
+                                                   timeText(*past.hostEnded));
+    else if (past.host.pid != 0)
+        reason += u"no longer below its host "_s + nameAndId(past.hostName, past.host.pid);
+    else
+        reason += u"no agent or editor above it"_s;
+    return reason + idleText(server.idleSeconds);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Core/Instant.h"
+#include "Core/Sampling/ProcGroup.h"
+
+#include <QString>
+
+/// One process for good: its id may pass on to another, its start does not.
+struct ProcessIdentity {
+    qint32 pid = 0;
+    Instant startTime;
+
+    bool operator==(const ProcessIdentity&) const = default;
+};
+
+/// One process in one sampling pass. Sizes are bytes; 100 % is one core.
+struct ProcSample {
+    qint32 pid = 0;
+    qint32 parentPid = 0; ///< 0 when unknown
+    quint32 uid = 0;      ///< effective user id, 0 when unknown
+    QString name;
+    QString executablePath; ///< empty when unreadable
+    QString arguments;      ///< joined by single spaces
+    double cpuPercent = 0;
+    quint64 rssBytes = 0;
+    quint64 virtualBytes = 0;
+    int threads = 0;
+    Instant startTime;
+    double idleSeconds = 0; ///< since it last used more than 0.5 % CPU
+    ProcGroup group = ProcGroup::other;
+    QString program; ///< what is run: the executable, or what an interpreter or launcher was told to run
+                     ///< (a script's path, a module, a package, an image)
+
+    ProcessIdentity identity() const { return {pid, startTime}; }
+    bool operator==(const ProcSample&) const = default;
+};

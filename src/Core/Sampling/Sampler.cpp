@@ -1,0 +1,287 @@
+#include "Core/Sampling/Sampler.h"
+
+#include "Core/Sampling/LaunchedProgram.h"
+#include "Core/Sampling/ProcessName.h"
+#include "Platform/Applications.h"
+#include "Platform/Clock.h"
+#include "Platform/Platform.h"
+#include "Platform/ProcessTable.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::size_t maximumPids = 4096;
+constexpr qsizetype partThatMayBeGone = 8; ///< one in so many, before their texts are dropped
+constexpr double busyPercent = 0.5;        ///< below it a process counts as idle
+constexpr quint32 passesBetweenLooks = 3;  ///< at the texts of a process that goes on running
+
+double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
+    return std::chrono::duration<double>(to - from).count();
+}
+
+ThermalState thermalState(int level) {
+    switch (level) {
+    case 1:
+        return ThermalState::fair;
+    case 2:
+        return ThermalState::serious;
+    case 3:
+        return ThermalState::critical;
+    default:
+        return ThermalState::nominal;
+    }
+}
+
+/// The arguments that are not empty.
+QStringList argumentsOf(const QByteArray& argumentArea) {
+    QStringList arguments;
+    for (const QByteArray& argument : argumentArea.split('\0')) {
+        if (!argument.isEmpty())
+            arguments.append(QString::fromUtf8(argument));
+    }
+    return arguments;
+}
+
+/// The arguments without the program's name; the name alone where there are none.
+QString procArgs(QStringList arguments) {
+    if (arguments.size() > 1)
+        arguments.removeFirst();
+    return arguments.join(u' ');
+}
+
+/// The difference of two counters that wrap at 2^32.
+double delta(quint32 current, quint32 previous) {
+    return static_cast<double>(quint32(current - previous));
+}
+
+} // namespace
+
+Sampler::Sampler(const Platform& platform)
+    : host(platform.host)
+    , table(platform.processes)
+    , clock(platform.clock)
+    , applications(platform.applications)
+    , pageSize(host->pageSize()) {}
+
+SystemSample Sampler::sample() {
+    SystemSample sample;
+    sample.id = QUuid::createUuid();
+    sample.timestamp = clock->now();
+    sample.cpuPercent = cpuLoad();
+    const MemoryPages memory = host->memoryPages().value_or(MemoryPages());
+    sample.memUsedBytes = (memory.active + memory.wired + memory.compressed) * pageSize;
+    sample.memWiredBytes = memory.wired * pageSize;
+    sample.memCompressedBytes = memory.compressed * pageSize;
+    sample.swapUsedBytes = host->swapUsedBytes().value_or(0);
+    const VolumeBlocks root = host->rootVolume().value_or(VolumeBlocks());
+    sample.diskFreeBytes = root.blocksAvailable * root.blockSize;
+    sample.diskTotalBytes = root.blocks * root.blockSize;
+    sample.thermalState = thermalState(host->thermalLevel());
+    sample.memTotalBytes = host->physicalMemoryBytes();
+    return sample;
+}
+
+double Sampler::cpuLoad() {
+    const auto ticks = host->cpuTicks();
+    if (!ticks)
+        return 0;
+    const auto previous = std::exchange(prevHostCPU, ticks);
+    if (!previous)
+        return 0;
+    const double busy = delta(ticks->user, previous->user) + delta(ticks->system, previous->system) +
+                        delta(ticks->nice, previous->nice);
+    const double total = busy + delta(ticks->idle, previous->idle);
+    return total > 0 ? busy / total * 100 : 0;
+}
+
+QList<ProcSample> Sampler::sampleProcesses() {
+    std::array<qint32, maximumPids> pids{};
+    const int listed = table->listAllPids(pids);
+    if (listed < 1)
+        return {};
+    const Instant now = clock->now();
+    const Uptime uptime = clock->uptime();
+    ++pass;
+
+    QList<ProcSample> result;
+    result.reserve(listed);
+    for (int i = 0; i < listed; ++i) {
+        const qint32 pid = pids[static_cast<std::size_t>(i)];
+        if (pid < 1)
+            continue;
+        auto entry = known.find(pid);
+        if (entry != known.end())
+            entry->prev.pass = pass;
+        const auto task = table->taskInfo(pid);
+        if (!task) {
+            if (entry != known.end())
+                left.insert(pid); // it waits to be reaped, its children have another parent
+            continue;
+        }
+        if (entry == known.end())
+            entry = known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now), .firstPass = pass});
+        entry->mayHaveChanged |= task->cpuTimeNs != entry->prev.totalNs;
+        if (isDue(pid, *entry))
+            refreshTexts(pid, *entry, now);
+        const double percent = cpuPercent(entry->prev, task->cpuTimeNs, uptime);
+        const StaticMeta& meta = entry->staticCache;
+        result.append({.pid = pid,
+                       .parentPid = meta.ppid,
+                       .uid = meta.uid,
+                       .name = meta.name,
+                       .executablePath = meta.path,
+                       .arguments = meta.args,
+                       .cpuPercent = percent,
+                       .rssBytes = task->residentBytes,
+                       .virtualBytes = task->virtualBytes,
+                       .threads = task->threads,
+                       .startTime = meta.startTime,
+                       .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
+                       .group = ProcGroup::other,
+                       .program = meta.program});
+    }
+    evictUnseen();
+    refreshParents(result);
+    return result;
+}
+
+/// A process that has not run has changed nothing of itself. One that has just come is looked at every time,
+/// because it may have been listed between its fork and its exec; the others take turns.
+bool Sampler::isDue(qint32 pid, const Known& process) const {
+    const bool isYoung = pass - process.firstPass <= passesBetweenLooks;
+    const bool hasItsTurn = (static_cast<quint32>(pid) + pass) % passesBetweenLooks == 0;
+    return process.mayHaveChanged && process.firstPass != pass && (isYoung || hasItsTurn);
+}
+
+void Sampler::refreshTexts(qint32 pid, Known& process, Instant now) {
+    process.mayHaveChanged = false;
+    const auto mark = table->textMark(pid);
+    if (!mark || *mark == process.staticCache.textMark)
+        return;
+    StaticMeta meta = lookUp(pid, now);
+    if (meta.startTicks == process.staticCache.startTicks) {
+        meta.startTime = process.staticCache.startTime;
+    } else {
+        left.insert(pid); // the id has passed on to another process
+        process.prev = {.pass = process.prev.pass};
+        process.firstPass = pass;
+    }
+    process.staticCache = meta;
+}
+
+/// The children of a process that left have another parent now.
+void Sampler::refreshParents(QList<ProcSample>& processes) {
+    if (left.isEmpty())
+        return;
+    for (ProcSample& process : processes) {
+        if (!left.contains(process.parentPid))
+            continue;
+        const auto info = table->kernelInfo(process.pid);
+        const auto entry = known.find(process.pid);
+        if (!info || entry == known.end() || info->startTicks != entry->staticCache.startTicks)
+            continue;
+        entry->staticCache.ppid = info->parentPid;
+        process.parentPid = info->parentPid;
+    }
+    left.clear();
+}
+
+std::optional<ProcSample> Sampler::lookAgain(const ProcSample& listed) const {
+    const auto entry = known.constFind(listed.pid);
+    const ProcessOrigin origin = table->origin(listed.pid);
+    if (entry == known.cend() || listed.startTime != entry->staticCache.startTime || !origin.kernelInfo ||
+        origin.kernelInfo->startTicks != entry->staticCache.startTicks)
+        return std::nullopt;
+    const StaticMeta meta = metaOf(listed.pid, origin, listed.startTime);
+    ProcSample again = listed;
+    again.name = meta.name;
+    again.executablePath = meta.path;
+    again.arguments = meta.args;
+    again.program = meta.program;
+    again.uid = meta.uid;
+    again.parentPid = meta.ppid;
+    return again;
+}
+
+bool Sampler::isReplaced(qint32 pid) const {
+    const auto listed = known.constFind(pid);
+    const auto running = table->kernelInfo(pid);
+    return listed != known.cend() && running && running->startTicks != listed->staticCache.startTicks;
+}
+
+/// Turns the process's cumulative time into a share of a core since its last reading, and remembers it.
+double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
+    const bool firstSight = cpu.sampledAt == Uptime();
+    const double elapsed = secondsBetween(cpu.sampledAt, now);
+    double percent = 0;
+    if (!firstSight && elapsed > 0 && totalNs >= cpu.totalNs)
+        percent = static_cast<double>(totalNs - cpu.totalNs) / 1e9 / elapsed * 100;
+    if (firstSight || percent > busyPercent)
+        cpu.lastNonZero = now;
+    cpu.totalNs = totalNs;
+    cpu.sampledAt = now;
+    cpu.pass = pass;
+    return percent;
+}
+
+/// Many processes of a machine are copies of each other: the same text then costs memory, and a pass a
+/// trip to it, once.
+QString Sampler::interned(const QString& text) {
+    return *texts.insert(text);
+}
+
+/// The texts of processes that went are dropped now and then, as looking for them costs a walk over all. They
+/// must not pile up: the arguments of a compiler are long, and a build starts thousands.
+void Sampler::evictUnseen() {
+    gone += known.removeIf([this](const auto& entry) {
+        if (entry->prev.pass == pass)
+            return false;
+        left.insert(entry.key());
+        return true;
+    });
+    if (gone * partThatMayBeGone <= known.size())
+        return;
+    texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
+    gone = 0;
+}
+
+Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
+    StaticMeta meta = metaOf(pid, table->origin(pid), now);
+    for (QString* text : {&meta.path, &meta.name, &meta.args, &meta.program})
+        *text = interned(*text);
+    return meta;
+}
+
+/// `now` is the start of a process whose own is not known.
+Sampler::StaticMeta Sampler::metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const {
+    const QStringList arguments = argumentsOf(origin.argumentArea);
+    StaticMeta meta;
+    meta.path = QString::fromUtf8(origin.executablePath);
+    const auto launched = LaunchedProgram::read(meta.path, arguments);
+    meta.program = launched.program;
+    meta.name = procName(pid, origin, arguments, launched.isScript ? launched.program : QString());
+    meta.args = procArgs(arguments);
+    meta.textMark = origin.textMark;
+    meta.startTime = now;
+    if (const auto& info = origin.kernelInfo) {
+        meta.uid = info->uid;
+        meta.ppid = info->parentPid;
+        meta.startTime = info->start;
+        meta.startTicks = info->startTicks;
+    }
+    return meta;
+}
+
+QString Sampler::procName(qint32 pid, const ProcessOrigin& origin, const QStringList& arguments,
+                          const QString& script) const {
+    const QString name = ProcessName::of({.shortName = origin.shortName,
+                                          .executablePath = QString::fromUtf8(origin.executablePath),
+                                          .arguments = arguments,
+                                          .script = script},
+                                         [this](const QString& executable) {
+                                             const auto application = applications->ofProgram(executable);
+                                             return application ? application->name : QString();
+                                         });
+    return name.isEmpty() ? QStringLiteral("pid %1").arg(pid) : name;
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Core/Sampling/ProcSample.h"
+#include "Core/Sampling/SystemSample.h"
+#include "Platform/HostStatistics.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <QStringList>
+#include <chrono>
+#include <memory>
+#include <optional>
+
+class Applications;
+class Clock;
+class ProcessTable;
+struct ProcessOrigin;
+struct Platform;
+
+/// Reads the machine and every process, and keeps the previous readings that turn counters into rates.
+/// Not thread-safe: it lives on the thread of the tick.
+class Sampler {
+public:
+    explicit Sampler(const Platform& platform);
+
+    /// One reading of the whole machine. A figure that the system refuses is 0. The first reading of a
+    /// sampler has no CPU load to report.
+    SystemSample sample();
+
+    /// One record per readable process, in the system's order, all in the group `other`. Empty when the
+    /// system's listing fails. A process that took another program, title or parent shows it within three
+    /// passes; its CPU and idle time go on.
+    QList<ProcSample> sampleProcesses();
+
+    /// A listed process as it is now: its texts, owner and parent are asked for anew, its figures are those
+    /// of the listing. Empty when it is gone or its id has come to mean another process.
+    std::optional<ProcSample> lookAgain(const ProcSample& listed) const;
+
+    /// Whether the id of a process of the last listing has come to mean another process since. Asks the
+    /// system; false for an id that was not listed or that nobody has.
+    bool isReplaced(qint32 pid) const;
+
+    /// How many processes the tables remember; level in the long run.
+    qsizetype rememberedProcesses() const { return known.size(); }
+    qsizetype rememberedTexts() const { return texts.size(); }
+
+private:
+    struct PrevCPU {
+        quint64 totalNs = 0;
+        std::chrono::steady_clock::time_point sampledAt; ///< the clock's epoch before the first reading
+        std::chrono::steady_clock::time_point lastNonZero;
+        quint32 pass = 0; ///< the last pass that listed the process
+    };
+    struct StaticMeta {
+        QString name;
+        QString path;
+        QString args;
+        QString program;
+        quint32 uid = 0;
+        qint32 ppid = 0;
+        Instant startTime;
+        quint64 startTicks = 0;
+        quint64 textMark = 0; ///< of the texts above, see ProcessTable
+    };
+    /// One entry, so that a pass looks a process up once.
+    struct Known {
+        PrevCPU prev;
+        StaticMeta staticCache;
+        quint32 firstPass = 0;
+        bool mayHaveChanged = false; ///< it has run since its texts were last compared
+    };
+    using Uptime = std::chrono::steady_clock::time_point;
+
+    double cpuLoad();
+    double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
+    StaticMeta lookUp(qint32 pid, Instant now);
+    StaticMeta metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const;
+    QString procName(qint32 pid, const ProcessOrigin& origin, const QStringList& arguments,
+                     const QString& script) const;
+    void refreshTexts(qint32 pid, Known& process, Instant now);
+    bool isDue(qint32 pid, const Known& process) const;
+    void refreshParents(QList<ProcSample>& processes);
+    QString interned(const QString& text);
+    void evictUnseen();
+
+    std::shared_ptr<HostStatistics> host;
+    std::shared_ptr<ProcessTable> table;
+    std::shared_ptr<Clock> clock;
+    std::shared_ptr<Applications> applications;
+    quint64 pageSize;
+    std::optional<CpuTicks> prevHostCPU;
+    QHash<qint32, Known> known; ///< by process id
+    QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it
+    qsizetype gone = 0;         ///< processes, since their texts were last dropped
+    QSet<qint32> left;          ///< ids that lost their process in this pass
+    quint32 pass = 0;
+};

@@ -1,0 +1,37 @@
+#include "Core/Sampling/SystemSample.h"
+
+QString thermalLabel(ThermalState state) {
+    switch (state) {
+    case ThermalState::nominal:
+        return QStringLiteral("Cool");
+    case ThermalState::fair:
+        return QStringLiteral("Warm");
+    case ThermalState::serious:
+        return QStringLiteral("Hot");
+    case ThermalState::critical:
+        return QStringLiteral("Critical");
+    }
+    return {};
+}
+
+const SystemSample& SystemSample::zero() {
+    static const SystemSample sample = [] {
+        SystemSample made;
+        made.id = QUuid::createUuid();
+        made.timestamp = std::chrono::system_clock::now();
+        return made;
+    }();
+    return sample;
+}
+
+double SystemSample::memUsedPercent() const {
+    return memTotalBytes == 0 ? 0
+                              : static_cast<double>(memUsedBytes) / static_cast<double>(memTotalBytes) * 100;
+}
+
+double SystemSample::diskUsedPercent() const {
+    if (diskTotalBytes == 0)
+        return 0;
+    const double used = static_cast<double>(diskTotalBytes) - static_cast<double>(diskFreeBytes);
+    return used / static_cast<double>(diskTotalBytes) * 100;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Core/Instant.h"
+#include "Core/RawValue.h"
+
+#include <QList>
+#include <QString>
+#include <QUuid>
+
+#include <array>
+
+enum class ThermalState { nominal, fair, serious, critical };
+
+template <>
+inline constexpr std::array rawValueTable<ThermalState> = {
+    RawValueRow<ThermalState>{ThermalState::nominal, u"nominal"},
+    RawValueRow<ThermalState>{ThermalState::fair, u"fair"},
+    RawValueRow<ThermalState>{ThermalState::serious, u"serious"},
+    RawValueRow<ThermalState>{ThermalState::critical, u"critical"},
+};
+
+/// The word shown to the user: "Cool", "Warm", "Hot" or "Critical".
+QString thermalLabel(ThermalState state);
+
+/// One reading of the whole machine.
+struct SystemSample {
+    QUuid id;
+    Instant timestamp;
+    double cpuPercent = 0;
+    QList<double> cpuPerCore;
+    quint64 memUsedBytes = 0; ///< active + wired + compressed
+    quint64 memTotalBytes = 0;
+    quint64 memWiredBytes = 0;
+    quint64 memCompressedBytes = 0;
+    quint64 swapUsedBytes = 0;
+    quint64 diskFreeBytes = 0; ///< on the root volume, to an ordinary user
+    quint64 diskTotalBytes = 0;
+    ThermalState thermalState = ThermalState::nominal;
+
+    bool operator==(const SystemSample&) const = default;
+
+    /// What is shown before the first real sample; the same value, `id` included, for the whole run.
+    static const SystemSample& zero();
+
+    double memUsedPercent() const;  ///< 0 when the total is 0
+    double diskUsedPercent() const; ///< 0 when the total is 0
+};

@@ -1,0 +1,12 @@
+#include "Platform/Desktop/Desktop.h"
+#include "Platform/Freedesktop/Desktop/FreedesktopDesktopApplication.h"
+#include "Platform/Freedesktop/Desktop/FreedesktopFloatingPanel.h"
+#include "Platform/Freedesktop/Desktop/FreedesktopPopover.h"
+#include "Platform/Freedesktop/Desktop/FreedesktopStatusItem.h"
+
+Desktop Desktop::native() {
+    return {.statusItem = std::make_shared<FreedesktopStatusItem>(),
+            .popover = std::make_shared<FreedesktopPopover>(),
+            .application = std::make_shared<FreedesktopDesktopApplication>(),
+            .makePanel = [] { return std::make_unique<FreedesktopFloatingPanel>(); }};
+}

@@ -1,0 +1,70 @@
+#include "Platform/Freedesktop/Desktop/FreedesktopDesktopApplication.h"
+
+#include "Platform/Freedesktop/Desktop/WaylandWindow.h"
+#include "Platform/Freedesktop/Desktop/X11Window.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How long a compositor may take to bring a window forward.
+constexpr auto patience = 500ms;
+
+/// A Wayland compositor may refuse to bring a window forward or to unminimize it. One that is opened anew it
+/// shows.
+void openAnewUnlessActive(QWidget* window) {
+    if (!window->isVisible() || window->isActiveWindow() || QApplication::activeModalWidget())
+        return;
+    window->hide();
+    window->show();
+}
+
+} // namespace
+
+FreedesktopDesktopApplication::FreedesktopDesktopApplication() {
+    qApp->installEventFilter(this);
+}
+
+QList<QWidget*> FreedesktopDesktopApplication::windows() const {
+    QList<QWidget*> result;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const bool everShown = window->testAttribute(Qt::WA_WState_ExplicitShowHide);
+        if (everShown && window->windowType() == Qt::Window)
+            result.append(window);
+    }
+    return result;
+}
+
+void FreedesktopDesktopApplication::bringForward(QWidget* window) {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    X11Window::activate(window);
+    if (WaylandWindow::isWayland())
+        QTimer::singleShot(patience, window, [window] { openAnewUnlessActive(window); });
+}
+
+void FreedesktopDesktopApplication::setActivationPolicy(ActivationPolicy policy) {
+    m_policy = policy;
+    for (QWidget* window : windows())
+        X11Window::setSkipTaskbar(window, policy == ActivationPolicy::accessory);
+}
+
+/// A window manager forgets a window's state when it is unmapped, so that it is told again.
+bool FreedesktopDesktopApplication::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && m_policy == ActivationPolicy::accessory) {
+        auto* window = qobject_cast<QWidget*>(watched);
+        if (window && window->windowType() == Qt::Window)
+            QMetaObject::invokeMethod(
+                window, [window] { X11Window::setSkipTaskbar(window, true); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}

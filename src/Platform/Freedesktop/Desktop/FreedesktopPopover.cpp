@@ -1,0 +1,121 @@
+#include "Platform/Freedesktop/Desktop/FreedesktopPopover.h"
+
+#include "Platform/Freedesktop/Desktop/WaylandWindow.h"
+#include "Platform/Freedesktop/Desktop/X11Window.h"
+
+#include <QCursor>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int gap = 4;
+constexpr int sameClickMs = 250;
+/// Where the keyboard follows the pointer, other windows have it while the pointer is on its way here.
+constexpr auto patience = 1s;
+
+constexpr Qt::WindowFlags popUp = Qt::Popup | Qt::FramelessWindowHint;
+constexpr Qt::WindowFlags smallWindow = Qt::Tool | Qt::FramelessWindowHint;
+
+} // namespace
+
+FreedesktopPopover::FreedesktopPopover(QObject* parent)
+    : Popover(parent) {
+    m_forsaken.setSingleShot(true);
+    connect(&m_forsaken, &QTimer::timeout, this, &FreedesktopPopover::close);
+}
+
+FreedesktopPopover::~FreedesktopPopover() {
+    delete m_window;
+}
+
+void FreedesktopPopover::setContent(QWidget* content, QSize size) {
+    delete m_window;
+    m_window = new QWidget(nullptr, popUp);
+    m_window->setWindowTitle(QGuiApplication::applicationDisplayName());
+    m_window->setAttribute(Qt::WA_QuitOnClose, false);
+    m_window->setFixedSize(size);
+    m_window->installEventFilter(this);
+    auto* frame = new QVBoxLayout(m_window);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(content);
+}
+
+void FreedesktopPopover::show(QRect anchor) {
+    const bool besideTray = anchor.isEmpty() && WaylandWindow::isWayland();
+    const bool cannotPopUp = besideTray || WaylandWindow::isXWayland();
+    const Qt::WindowFlags flags = cannotPopUp ? smallWindow : popUp;
+    if (m_window->windowFlags() != flags)
+        m_window->setWindowFlags(flags);
+    m_window->move(place(anchor));
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+    if (cannotPopUp)
+        X11Window::activate(m_window);
+    m_window->setFocus(); // no control of the content looks chosen before Tab picks one
+}
+
+void FreedesktopPopover::close() {
+    m_window->hide();
+}
+
+bool FreedesktopPopover::isShown() const {
+    return m_window->isVisible() || (m_sinceClosed.isValid() && m_sinceClosed.elapsed() < sameClickMs);
+}
+
+bool FreedesktopPopover::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_window)
+        filterOwnWindow(event);
+    return Popover::eventFilter(watched, event);
+}
+
+/// What the window system and Qt do for a pop-up is done here for the small window.
+void FreedesktopPopover::filterOwnWindow(QEvent* event) {
+    const bool isPopUp = m_window->windowType() == Qt::Popup;
+    switch (event->type()) {
+    case QEvent::Hide:
+        m_sinceClosed.start();
+        m_forsaken.stop();
+        break;
+    case QEvent::WindowActivate:
+        m_forsaken.stop();
+        break;
+    case QEvent::WindowDeactivate:
+        if (!isPopUp)
+            m_forsaken.start(patience);
+        break;
+    case QEvent::KeyPress:
+        if (!isPopUp && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
+            close();
+        break;
+    default:
+        break;
+    }
+}
+
+/// Below the anchor where there is room, else above it; always whole on the anchor's screen. A Wayland
+/// compositor alone knows where the room ends, and moves what goes beyond.
+QPoint FreedesktopPopover::place(QRect anchor) const {
+    if (anchor.isEmpty())
+        anchor = QRect(QCursor::pos(), QSize(1, 1));
+    const QSize size = m_window->size();
+    const QPoint below(anchor.center().x() - size.width() / 2, anchor.bottom() + 1 + gap);
+    if (WaylandWindow::isWayland())
+        return below;
+    const QScreen* screen = QGuiApplication::screenAt(anchor.center());
+    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const bool fits = below.y() + size.height() <= room.bottom();
+    const int y = fits ? below.y() : anchor.top() - gap - size.height();
+    return {std::clamp(below.x(), room.left() + gap,
+                       std::max(room.left() + gap, room.right() - size.width() - gap)),
+            std::clamp(y, room.top(), std::max(room.top(), room.bottom() - size.height()))};
+}

@@ -1,0 +1,61 @@
+#include "Platform/Freedesktop/FreedesktopAppearance.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+#include <utility>
+
+namespace {
+
+const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
+const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
+const auto interface = QStringLiteral("org.freedesktop.portal.Settings");
+const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
+const auto colorSchemeKey = QStringLiteral("color-scheme");
+
+/// `Read` wraps its answer in one variant more than the signal does.
+QVariant unwrapped(QVariant value) {
+    while (value.userType() == qMetaTypeId<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+} // namespace
+
+FreedesktopAppearance::FreedesktopAppearance(QObject* parent)
+    : Appearance(parent) {
+    auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return;
+    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    ask();
+}
+
+void FreedesktopAppearance::ask() {
+    auto message = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    message << appearanceGroup << colorSchemeKey;
+    auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        if (reply.isValid())
+            take(reply.value().variant());
+        watcher->deleteLater();
+    });
+}
+
+void FreedesktopAppearance::settingChanged(const QString& group, const QString& key,
+                                           const QDBusVariant& value) {
+    if (group == appearanceGroup && key == colorSchemeKey)
+        take(value.variant());
+}
+
+void FreedesktopAppearance::take(const QVariant& colorScheme) {
+    const uint scheme = unwrapped(colorScheme).toUInt(); // 1 dark, 2 light, anything else no preference
+    const auto dark = scheme == 1 ? std::optional(true) : scheme == 2 ? std::optional(false) : std::nullopt;
+    if (std::exchange(m_prefersDark, dark) != dark)
+        Q_EMIT changed();
+}

@@ -1,0 +1,155 @@
+#include "Platform/Freedesktop/FreedesktopLoginItem.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr qint64 largestEntry = 65536;
+
+QString autostartFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/autostart");
+}
+
+QString entryFile() {
+    return autostartFolder() + QStringLiteral("/tavrin.desktop");
+}
+
+QString failure(const QString& path, const QString& reason) {
+    return QStringLiteral("%1: %2").arg(path, reason);
+}
+
+QString failure(const QString& path, int error) {
+    return failure(path, QString::fromStdString(std::generic_category().message(error)));
+}
+
+/// One argument as the key Exec wants it: in quotes, with a backslash before what would end or expand there,
+/// and no field code.
+QString quoted(const QString& argument) {
+    QString result;
+    for (const QChar character : argument) {
+        if (QStringView(u"\"`$\\").contains(character))
+            result += u'\\';
+        if (character == u'%')
+            result += u'%';
+        result += character;
+    }
+    return u'"' + result + u'"';
+}
+
+/// A text as the value of any key: the file knows backslashes and line ends as escapes of its own.
+QByteArray value(QString text) {
+    return text.replace(u'\\', QStringLiteral("\\\\"))
+        .replace(u'\n', QStringLiteral("\\n"))
+        .replace(u'\r', QStringLiteral("\\r"))
+        .replace(u'\t', QStringLiteral("\\t"))
+        .toUtf8();
+}
+
+/// The opposite of `value`.
+QString textOf(const QByteArray& value) {
+    QString text;
+    bool isEscaped = false;
+    for (const QChar character : QString::fromUtf8(value)) {
+        const qsizetype escape = isEscaped ? QStringView(u"nrt").indexOf(character) : -1;
+        if (!isEscaped && character == u'\\') {
+            isEscaped = true;
+            continue;
+        }
+        text += escape < 0 ? character : QStringView(u"\n\r\t")[escape];
+        isEscaped = false;
+    }
+    return text;
+}
+
+/// What the key TryExec of the entry names; empty without an entry or such a key.
+QString registeredProgram() {
+    QFile file(entryFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    constexpr QByteArrayView key = "TryExec=";
+    for (const QByteArray& line : file.read(largestEntry).split('\n')) {
+        if (line.startsWith(key))
+            return textOf(line.mid(key.size()));
+    }
+    return {};
+}
+
+/// Desktops look for the program before they resolve "%%", and a name with "=" in it is not allowed there: a
+/// shell finds what is called so.
+QString command(const QString& program) {
+    if (!program.contains(u'%') && !program.contains(u'='))
+        return quoted(program);
+    return QStringLiteral("/bin/sh -c %1 %2").arg(quoted(QStringLiteral("exec \"$0\"")), quoted(program));
+}
+
+std::optional<QString> makeFolder(const QString& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
+    return error ? std::optional(failure(folder, error.value())) : std::nullopt;
+}
+
+} // namespace
+
+FreedesktopLoginItem::FreedesktopLoginItem(QString program)
+    : m_program(std::move(program)) {}
+
+QString FreedesktopLoginItem::runningProgram() {
+    return QCoreApplication::applicationFilePath();
+}
+
+QByteArray FreedesktopLoginItem::entry(const QString& program) {
+    return "[Desktop Entry]\n"
+           "Type=Application\n"
+           "Name=Tavrin\n"
+           "Comment=Watches memory and disk space and gives them back\n"
+           "Exec=" +
+           value(command(program)) + "\nTryExec=" + value(program) +
+           "\nIcon=tavrin\n"
+           "Terminal=false\n"
+           "StartupNotify=false\n";
+}
+
+std::optional<QString> FreedesktopLoginItem::registerItem() {
+    if (!QDir::isAbsolutePath(m_program))
+        return QStringLiteral("The program's own file cannot be found.");
+    if (const auto reason = makeFolder(autostartFolder()))
+        return reason;
+    QSaveFile file(entryFile());
+    const QByteArray text = entry(m_program);
+    // The commit alone would not notice that a full disk took only a part.
+    const bool saved =
+        file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit();
+    return saved ? std::nullopt : std::optional(failure(entryFile(), file.errorString()));
+}
+
+std::optional<QString> FreedesktopLoginItem::unregisterItem() {
+    const QByteArray entry = QFile::encodeName(entryFile());
+    const bool removed = unlink(entry.constData()) == 0;
+    const int reason = errno;
+    struct stat nothing; // a disk that is read-only refuses also to remove what is not there
+    const bool neverThere = lstat(entry.constData(), &nothing) != 0 && (errno == ENOENT || errno == ENOTDIR);
+    return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), reason));
+}
+
+bool FreedesktopLoginItem::isInstalled() const {
+    return !QFile::exists(QFileInfo(m_program).dir().filePath(QStringLiteral("CMakeCache.txt")));
+}
+
+void FreedesktopLoginItem::replaceGoneProgram() {
+    const QString registered = registeredProgram();
+    const bool isGone = QDir::isAbsolutePath(registered) && !QFile::exists(registered);
+    if (isGone && isInstalled())
+        registerItem();
+}

@@ -1,0 +1,240 @@
+#include "Platform/Freedesktop/FreedesktopPlaces.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <fstream>
+#include <optional>
+#include <sstream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Base { home, cacheHome, settingsHome, dataHome, stateHome, downloads, desktop, pictures };
+
+struct Row {
+    QStringView path;
+    Base base;
+    QStringView below;      ///< one part of it may be "*", for every folder there
+    bool isBesides = false; ///< it is a place also where the path itself exists
+};
+
+// What Linux keeps elsewhere. A path may have several rows: its places, in this order. Logs have no common
+// place, and a folder called "logs" may as well hold conversations: only folders of which it is known are
+// listed, and those in the state home, which is made for such things.
+constexpr Row elsewhere[] = {
+    {u"~/Library/Caches", Base::cacheHome, u""},
+    {u"~/Library/Caches/Homebrew", Base::cacheHome, u"Homebrew"},
+    {u"~/Library/Caches/Yarn", Base::cacheHome, u"yarn"},
+    {u"~/Library/Caches/ms-playwright", Base::cacheHome, u"ms-playwright"},
+    {u"~/Library/Caches/org.swift.swiftpm", Base::cacheHome, u"org.swift.swiftpm"},
+    {u"~/Library/Caches/pip", Base::cacheHome, u"pip"},
+    {u"~/Library/Caches/uv", Base::cacheHome, u"uv"},
+    {u"~/.pnpm-store", Base::dataHome, u"pnpm/store"},
+    {u"~/.Trash", Base::dataHome, u"Trash/files"},
+    {u"~/.Trash", Base::dataHome, u"Trash/info"},
+    {u"~/Downloads", Base::downloads, u""},
+    {u"~/Desktop", Base::desktop, u""},
+    {u"~/Desktop", Base::pictures, u"Screenshots", true},
+    {u"~/Library/Logs", Base::stateHome, u"*/logs", true},
+    {u"~/Library/Logs", Base::stateHome, u"*/log", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Code/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Code - OSS/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"VSCodium/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Cursor/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Windsurf/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Claude/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Slack/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"Postman/logs", true},
+    {u"~/Library/Logs", Base::settingsHome, u"obs-studio/logs", true},
+    {u"~/Library/Logs", Base::dataHome, u"xorg", true},
+    {u"~/Library/Logs", Base::dataHome, u"JetBrains/Toolbox/logs", true},
+    {u"~/Library/Logs", Base::dataHome, u"Steam/logs", true},
+    {u"~/Library/Logs", Base::cacheHome, u"JetBrains/*/log", true},
+    {u"~/Library/Logs", Base::home, u".npm/_logs", true},
+    {u"~/Library/Logs", Base::home, u".pm2/logs", true},
+    {u"~/Library/Logs", Base::home, u".codex/log", true},
+    {u"~/Library/Logs", Base::home, u".minikube/logs", true},
+    {u"~/Library/Logs", Base::home, u".docker/desktop/log", true},
+};
+
+/// Empty unless HOME is the absolute path of an existing folder other than the root.
+std::optional<QString> homeFolder() {
+    const QString home = qEnvironmentVariable("HOME");
+    const QString canonical = QFileInfo(home).canonicalFilePath();
+    if (!home.startsWith(u'/') || canonical.isEmpty() || canonical == u"/")
+        return std::nullopt;
+    return QDir::cleanPath(home);
+}
+
+/// A relative path in such a variable is invalid and to be ignored.
+QString xdgFolder(const char* variable, const QString& otherwise) {
+    const QString folder = qEnvironmentVariable(variable);
+    return folder.startsWith(u'/') ? QDir::cleanPath(folder) : otherwise;
+}
+
+QString folderOf(Base base, const QString& home) {
+    switch (base) {
+    case Base::home:
+        return home;
+    case Base::cacheHome:
+        return xdgFolder("XDG_CACHE_HOME", home + u"/.cache"_s);
+    case Base::settingsHome:
+        return xdgFolder("XDG_CONFIG_HOME", home + u"/.config"_s);
+    case Base::stateHome:
+        return xdgFolder("XDG_STATE_HOME", home + u"/.local/state"_s);
+    case Base::dataHome:
+        return xdgFolder("XDG_DATA_HOME", home + u"/.local/share"_s);
+    case Base::downloads:
+        return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    case Base::desktop:
+        return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    case Base::pictures:
+        return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    }
+    return {};
+}
+
+bool holds(const QString& outer, const QString& inner) {
+    return outer == inner || outer == u"/" || inner.startsWith(outer + u'/');
+}
+
+QString canonical(const QString& path) {
+    const QString found = QFileInfo(path).canonicalFilePath();
+    return found.isEmpty() ? QDir::cleanPath(path) : found;
+}
+
+/// A user folder that is switched off is configured as the home folder, and a variable may say anything:
+/// what holds the home folder is nobody's cache.
+bool holdsHome(const QString& place, const QString& home) {
+    return holds(canonical(place), canonical(home));
+}
+
+/// The folders of a pattern that exist.
+QStringList expanded(const QString& pattern) {
+    const qsizetype star = pattern.indexOf(u"/*/");
+    if (star < 0)
+        return QFileInfo::exists(pattern) ? QStringList(pattern) : QStringList();
+    QStringList found;
+    const QDir outer(pattern.first(star));
+    for (const QString& name : outer.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        const QString path = outer.filePath(name) + pattern.mid(star + 2);
+        if (QFileInfo(path).isDir())
+            found.append(path);
+    }
+    return found;
+}
+
+QString leftAlone(const QString& place, const QString& reason) {
+    return u"%1 is left alone: %2."_s.arg(place, reason);
+}
+
+/// What programs or the user keep for good.
+QStringList keptForGood(const QString& home) {
+    QStringList kept;
+    for (const Base base : {Base::settingsHome, Base::dataHome, Base::stateHome})
+        kept.append(folderOf(base, home));
+    return kept;
+}
+
+QStringList userFolders() {
+    QStringList folders;
+    for (const auto kind : {QStandardPaths::DocumentsLocation, QStandardPaths::DownloadLocation,
+                            QStandardPaths::DesktopLocation, QStandardPaths::PicturesLocation,
+                            QStandardPaths::MusicLocation, QStandardPaths::MoviesLocation})
+        folders.append(QStandardPaths::writableLocation(kind));
+    return folders;
+}
+
+/// Undoes the octal escapes of blanks and backslashes.
+QString unescaped(const std::string& field) {
+    QByteArray bytes;
+    for (std::size_t i = 0; i < field.size(); ++i) {
+        if (field[i] == '\\' && i + 3 < field.size()) {
+            bytes += static_cast<char>(QByteArray(field.data() + i + 1, 3).toInt(nullptr, 8));
+            i += 3;
+        } else {
+            bytes += field[i];
+        }
+    }
+    return QFile::decodeName(bytes);
+}
+
+} // namespace
+
+FreedesktopPlaces::FreedesktopPlaces(std::string mountInfo)
+    : m_mountInfo(std::move(mountInfo)) {}
+
+QList<Place> FreedesktopPlaces::locate(const QString& path) const {
+    if (path.startsWith(u'/'))
+        return {{path}};
+    const auto home = homeFolder();
+    if (!home || !path.startsWith(u"~/"))
+        return {};
+
+    const QString asItStands = *home + path.mid(1);
+    const bool stands = QFileInfo::exists(asItStands);
+    QList<Place> places;
+    if (stands)
+        places.append({asItStands, objection(asItStands, *home)});
+    const QString toCaches = objectionToCacheHome(folderOf(Base::cacheHome, *home), *home);
+    for (const Row& row : elsewhere) {
+        if (row.path != path || (stands && !row.isBesides))
+            continue;
+        const QString pattern = QDir::cleanPath(folderOf(row.base, *home) + u'/' + row.below.toString());
+        for (const QString& place : expanded(pattern)) {
+            const bool isCache = row.base == Base::cacheHome && !toCaches.isEmpty();
+            places.append({place, isCache ? toCaches : objection(place, *home)});
+        }
+    }
+    if (places.isEmpty())
+        return {{asItStands}};
+    const auto isNoPlace = [&](const Place& place) {
+        const bool isExplained = !toCaches.isEmpty() && place.objection == toCaches;
+        return holdsHome(place.path, *home) && !isExplained;
+    };
+    places.removeIf(isNoPlace);
+    return places;
+}
+
+QString FreedesktopPlaces::objection(const QString& place, const QString& home) const {
+    if (QFileInfo(place).isSymLink())
+        return leftAlone(place, u"it is a link"_s);
+    if (canonical(place) == canonical(folderOf(Base::cacheHome, home)))
+        return objectionToCacheHome(place, home);
+    for (const QString& kept : keptForGood(home)) {
+        if (holds(canonical(place), canonical(kept)))
+            return leftAlone(place, u"it holds more than that, in %1"_s.arg(kept));
+    }
+    return {};
+}
+
+QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QString& home) const {
+    const QString place = canonical(folder);
+    if (place == u"/tmp" || place == u"/var/tmp")
+        return leftAlone(folder, u"all programs share it"_s);
+    if (isMountRoot(place))
+        return leftAlone(folder, u"a whole file system is mounted there"_s);
+    for (const QString& kept : keptForGood(home) + userFolders()) {
+        const QString other = canonical(kept);
+        if (other != canonical(home) && (holds(place, other) || holds(other, place)))
+            return leftAlone(folder, u"the folder of caches must have nothing to do with %1"_s.arg(kept));
+    }
+    return {};
+}
+
+bool FreedesktopPlaces::isMountRoot(const QString& folder) const {
+    std::ifstream table(m_mountInfo);
+    if (!table)
+        return true;
+    for (std::string line; std::getline(table, line);) {
+        std::istringstream fields(line);
+        std::string id, parent, device, root, mountPoint;
+        fields >> id >> parent >> device >> root >> mountPoint;
+        if (unescaped(mountPoint) == folder)
+            return true;
+    }
+    return false;
+}

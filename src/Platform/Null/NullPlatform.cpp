@@ -1,0 +1,128 @@
+#include "Platform/Appearance.h"
+#include "Platform/Applications.h"
+#include "Platform/Clock.h"
+#include "Platform/HostStatistics.h"
+#include "Platform/Identity.h"
+#include "Platform/LoginItem.h"
+#include "Platform/Places.h"
+#include "Platform/Platform.h"
+#include "Platform/PowerMode.h"
+#include "Platform/ProcessTable.h"
+#include "Platform/Signals.h"
+#include "Platform/SingleInstance.h"
+#include "Platform/TerminationRequest.h"
+#include "Platform/ToolRunner.h"
+#include "Platform/Words.h"
+
+// A system that answers nothing. It shows what each question means where there is no answer.
+
+namespace {
+
+class NullHostStatistics : public HostStatistics {
+    quint64 pageSize() const override { return 0; }
+    std::optional<CpuTicks> cpuTicks() override { return {}; }
+    std::optional<MemoryPages> memoryPages() override { return {}; }
+    std::optional<quint64> swapUsedBytes() override { return {}; }
+    std::optional<VolumeBlocks> rootVolume() override { return {}; }
+    int thermalLevel() override { return 0; }
+    quint64 physicalMemoryBytes() override { return 0; }
+};
+
+class NullProcessTable : public ProcessTable {
+    int listAllPids(std::span<qint32>) override { return 0; }
+    std::optional<TaskInfo> taskInfo(qint32) override { return {}; }
+    ProcessOrigin origin(qint32) override { return {}; }
+    std::optional<KernelProcessInfo> kernelInfo(qint32) override { return {}; }
+    std::optional<quint64> textMark(qint32) override { return {}; }
+    QByteArray workingFolder(qint32) override { return {}; }
+    ProcessKeeper keeper(qint32) override { return {}; }
+};
+
+class NullPowerMode : public PowerMode {
+    bool isLowPowerModeEnabled() const override { return false; }
+};
+
+class NullIdentity : public Identity {
+    quint32 userId() const override { return 0; }
+    qint32 processId() const override { return 0; }
+};
+
+class NullToolRunner : public ToolRunner {
+    QCoro::Task<ToolResult> run(ToolRequest) override { co_return {}; }
+};
+
+class NullPlaces : public Places {
+    QList<Place> locate(const QString&) const override { return {}; }
+};
+
+class NullSignals : public Signals {
+    class Nobody : public ProcessHandle {
+        SignalResult send(Signal) override { return SignalResult::noSuchProcess; }
+    };
+
+    std::shared_ptr<ProcessHandle> hold(qint32) override { return std::make_shared<Nobody>(); }
+};
+
+class NullApplications : public Applications {
+    std::optional<Application> ofProgram(const QString&) override { return {}; }
+    std::optional<Application> ofProcess(qint32) override { return {}; }
+    QList<qint32> inTerminalsOf(const QList<qint32>&) override { return {}; }
+};
+
+class NullAppearance : public Appearance {
+    std::optional<bool> prefersDark() const override { return {}; }
+};
+
+class NullLoginItem : public LoginItem {
+    std::optional<QString> registerItem() override {
+        return QStringLiteral("Nothing can be started at login here.");
+    }
+    std::optional<QString> unregisterItem() override { return {}; }
+    bool isInstalled() const override { return false; }
+    void replaceGoneProgram() override {}
+};
+
+} // namespace
+
+void Platform::prepareProgram() {}
+
+Platform Platform::native() {
+    return {.host = std::make_shared<NullHostStatistics>(),
+            .processes = std::make_shared<NullProcessTable>(),
+            .power = std::make_shared<NullPowerMode>(),
+            .identity = std::make_shared<NullIdentity>(),
+            .clock = std::make_shared<SystemClock>(),
+            .tools = std::make_shared<NullToolRunner>(),
+            .places = std::make_shared<NullPlaces>(),
+            .signalSender = std::make_shared<NullSignals>(),
+            .applications = std::make_shared<NullApplications>()};
+}
+
+std::unique_ptr<Appearance> Platform::makeAppearance() {
+    return std::make_unique<NullAppearance>();
+}
+
+std::unique_ptr<LoginItem> Platform::makeLoginItem() {
+    return std::make_unique<NullLoginItem>();
+}
+
+const Words& Words::native() {
+    static const Words words = {.computer = QStringLiteral("Computer"),
+                                .system = QStringLiteral("System"),
+                                .initProcess = QStringLiteral("init"),
+                                .taskBar = QStringLiteral("task bar"),
+                                .statusArea = QStringLiteral("Status area"),
+                                .symbol = QStringLiteral("Symbol")};
+    return words;
+}
+
+SingleInstance::SingleInstance(const QString&, QObject* parent)
+    : QObject(parent)
+    , m_server(nullptr) {}
+
+bool SingleInstance::claim() {
+    return true;
+}
+
+TerminationRequest::TerminationRequest(QObject* parent)
+    : QObject(parent) {}

@@ -1,0 +1,191 @@
+#include "Platform/Unix/UnixToolRunner.h"
+
+#include "Platform/Unix/DescriptorLimit.h"
+
+#include <QCoreApplication>
+#include <QCoroFuture>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QPromise>
+#include <QSet>
+#include <QTimer>
+
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The process groups of the tools that run. A tool's own children are in its group, and none is to be left
+/// behind when this program ends: a shell that is told to end does not tell its children.
+class ToolGroups {
+public:
+    ~ToolGroups() {
+        for (const pid_t group : m_groups)
+            ::kill(-group, SIGKILL);
+    }
+    void add(pid_t group) { m_groups.insert(group); }
+    void remove(pid_t group) { m_groups.remove(group); }
+
+private:
+    QSet<pid_t> m_groups;
+};
+
+ToolGroups& toolGroups() {
+    static ToolGroups groups;
+    return groups;
+}
+
+constexpr std::chrono::seconds graceAfterTerminate{1};
+/// By which a tool of our own says that it found nothing here to work on, as a shell does of a program that
+/// it cannot start.
+constexpr int cannotStart = 126;
+
+/// In the child, before its program: only calls that are safe after a fork.
+void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
+    // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
+    constexpr int thisProcess = 1;
+    constexpr int bestEffort = 2;
+    constexpr int lowestLevel = 7;
+    setpgid(0, 0);
+    setpriority(PRIO_PROCESS, 0, niceness);
+    syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestLevel);
+    setrlimit(RLIMIT_NOFILE, &descriptors);
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (getppid() != parent) // it ended before the line above
+        _exit(1);
+}
+
+void configure(QProcess& process, const ToolRequest& request, bool captureErrors) {
+    if (request.input.isEmpty())
+        process.setStandardInputFile(QProcess::nullDevice());
+    if (!captureErrors)
+        process.setStandardErrorFile(QProcess::nullDevice());
+    if (!request.captureOutput)
+        process.setStandardOutputFile(QProcess::nullDevice());
+    constexpr int behindUs = 10;
+    process.setChildProcessModifier(
+        [parent = getpid(), niceness = getpriority(PRIO_PROCESS, 0) + behindUs,
+         descriptors = DescriptorLimit::atStart()] { prepareChild(parent, niceness, descriptors); });
+}
+
+/// Even SIGKILL does not end a process that waits for a disk which never answers. Such a one is let go of.
+void release(QProcess* process) {
+    if (process->state() == QProcess::NotRunning) {
+        delete process;
+        return;
+    }
+    process->disconnect();
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, group = static_cast<pid_t>(process->processId())] {
+                         toolGroups().remove(group);
+                         process->deleteLater();
+                     });
+}
+
+using End = std::shared_ptr<QPromise<void>>;
+
+/// Finished once the process ended or could not be launched.
+End endOf(const QProcess& process) {
+    auto end = std::make_shared<QPromise<void>>();
+    end->start();
+    QObject::connect(&process, &QProcess::stateChanged, [end](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            end->finish();
+    });
+    return end;
+}
+
+void signalGroup(const QProcess* process, int signal) {
+    if (process->processId() > 0)
+        ::kill(-static_cast<pid_t>(process->processId()), signal);
+}
+
+/// Asks, then kills, then waits no longer.
+void terminate(QProcess* process, const End& end) {
+    signalGroup(process, SIGTERM);
+    QTimer::singleShot(graceAfterTerminate, process, [process] { signalGroup(process, SIGKILL); });
+    QTimer::singleShot(2 * graceAfterTerminate, process, [end] { end->finish(); });
+}
+
+ToolResult resultOf(QProcess& process, bool isOurs) {
+    ToolResult result;
+    result.launched = process.error() != QProcess::FailedToStart;
+    if (result.launched && process.state() == QProcess::NotRunning &&
+        process.exitStatus() == QProcess::NormalExit)
+        result.exitStatus = process.exitCode();
+    if (!isOurs)
+        return result;
+    const QByteArray said = result.launched ? process.readAllStandardError() : process.errorString().toUtf8();
+    result.complaint = QString::fromUtf8(said.trimmed().split('\n').constFirst());
+    if (result.exitStatus == cannotStart) {
+        result.launched = false;
+        result.exitStatus = -1;
+    }
+    return result;
+}
+
+} // namespace
+
+UnixToolRunner::UnixToolRunner(QString toolsFolder)
+    : m_toolsFolder(std::move(toolsFolder)) {
+    struct sigaction ofChildren {};
+    sigaction(SIGCHLD, nullptr, &ofChildren);
+    // Inherited so from some window managers; the kernel would then tell nobody how a child ended.
+    if (ofChildren.sa_handler == SIG_IGN)
+        signal(SIGCHLD, SIG_DFL);
+}
+
+QString UnixToolRunner::ownToolsFolder() {
+    const QDir own(QCoreApplication::applicationDirPath());
+    for (const char* folder : {TAVRIN_TOOLS_FOLDERS}) {
+        const QString path = QDir::cleanPath(own.filePath(QString::fromUtf8(folder)));
+        if (QFileInfo(path).isDir())
+            return path;
+    }
+    return own.path();
+}
+
+QString UnixToolRunner::programFor(const QString& launchPath) const {
+    for (const auto& lacking :
+         {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s, u"cleanup"_s}) {
+        if (launchPath == lacking)
+            return QDir(m_toolsFolder).filePath(QFileInfo(lacking).fileName());
+    }
+    return launchPath;
+}
+
+QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
+    const QString program = programFor(request.launchPath);
+    const bool isOurs = program != request.launchPath;
+    const std::shared_ptr<QProcess> process(new QProcess, release);
+    configure(*process, request, isOurs);
+    const End end = endOf(*process);
+    QFuture<void> ended = end->future();
+    process->start(program, request.arguments);
+    const auto group = static_cast<pid_t>(process->processId());
+    if (group > 0)
+        toolGroups().add(group);
+    if (group > 0 && !request.input.isEmpty()) {
+        process->write(request.input);
+        process->closeWriteChannel();
+    }
+    const auto endIt = [tool = process.get(), end] { terminate(tool, end); };
+    if (request.terminateAfter)
+        QTimer::singleShot(*request.terminateAfter, process.get(), endIt);
+    const std::stop_callback whenStopped(request.stop, endIt);
+    if (process->state() != QProcess::NotRunning) // a program without a name changes no state
+        co_await ended;
+
+    if (process->state() == QProcess::NotRunning)
+        toolGroups().remove(group);
+    ToolResult result = resultOf(*process, isOurs);
+    if (request.captureOutput)
+        result.output = process->readAllStandardOutput();
+    co_return result;
+}

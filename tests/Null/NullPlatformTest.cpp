@@ -1,0 +1,52 @@
+#include "AppDelegate.h"
+#include "AppModel.h"
+#include "Core/Announcements/MessageCenter.h"
+#include "Platform/Desktop/Desktop.h"
+#include "Platform/LoginItem.h"
+#include "Platform/Platform.h"
+#include "Preferences.h"
+#include "UI/Controls.h"
+#include "UI/MainWindow.h"
+#include "UI/RootView.h"
+#include "support/ScriptedFeed.h"
+#include "support/TemporarySettings.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QSignalSpy>
+
+// Everything above the platform, on a system and a desktop that answer nothing.
+
+TEST(NullPlatform, TheProgramStartsTicksAndStaysUsable) {
+    TemporarySettings settings;
+    Preferences& preferences = settings.preferences;
+    preferences.pollIntervalSeconds.set(1);
+    AppModel model(Platform::native(), preferences);
+    MessageCenter messages(std::make_unique<ScriptedFeed>(), preferences.file());
+    AppDelegate program(model, preferences, messages, Desktop::native(), Platform::makeLoginItem());
+    program.applicationDidFinishLaunching();
+
+    MainWindow* window = nullptr;
+    for (QWidget* each : QApplication::topLevelWidgets()) {
+        if (auto* main = qobject_cast<MainWindow*>(each))
+            window = main;
+    }
+    ASSERT_TRUE(window && window->isVisible());
+    auto* sections = window->findChild<QListWidget*>();
+    for (int row = 0; row < sections->count(); ++row) {
+        sections->setCurrentRow(row);
+        EXPECT_FALSE(window->grab().isNull());
+    }
+    QSignalSpy ticks(&model, &AppModel::objectWillChange);
+    EXPECT_TRUE(ticks.wait(3000));
+    EXPECT_EQ(model.systemSample().memTotalBytes, 0U);
+    EXPECT_TRUE(model.processes().isEmpty());
+    EXPECT_EQ(model.groups().size(), 6);
+
+    auto nudge = model.nudgeMemory();
+    auto scan = model.rescanCaches();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return nudge.isReady() && scan.isReady(); }));
+    EXPECT_FALSE(model.actionLog().first().success);
+    EXPECT_FALSE(model.isScanning());
+    EXPECT_EQ(model.quickKill(QStringLiteral("node"), QStringLiteral("node"), 0, 0, false).matched, 0);
+}
