@@ -90,10 +90,9 @@ void BusyMachine::work() {
 /// Load and memory go up and down, and the alerts with them.
 void BusyMachine::swing() {
     const double load = 50 + 45 * std::sin(m_passes / 40.0);
-    fakes.host->ticks->user += static_cast<quint32>(load * 10);
-    fakes.host->ticks->idle += static_cast<quint32>((100 - load) * 10);
-    fakes.host->memory->active =
-        static_cast<quint64>((8 + 7 * std::sin(m_passes / 60.0)) * 1024) * MiB / 4096;
-    fakes.host->swap = static_cast<quint64>(m_passes % 500) * 16 * MiB;
+    fakes.host->ticks->user += static_cast<quint64>(load * 10);
+    fakes.host->ticks->idle += static_cast<quint64>((100 - load) * 10);
+    fakes.host->memory.activeBytes = static_cast<quint64>((8 + 7 * std::sin(m_passes / 60.0)) * 1024) * MiB;
+    fakes.host->memory.swapUsedBytes = static_cast<quint64>(m_passes % 500) * 16 * MiB;
     fakes.host->thermal = m_passes / 250 % 4;
 }

@@ -65,7 +65,7 @@ TEST_F(AppModelTest, LowPowerPauseFreshensTheSystemOnly) {
     fakes.power->lowPower = true;
     settings.preferences.pauseOnLowPower.set(true);
     fakes.processes->remove(1);
-    fakes.host->swap = 99;
+    fakes.host->memory.swapUsedBytes = 99;
     tick();
     EXPECT_EQ(model->systemSample().swapUsedBytes, 99U);
     EXPECT_EQ(model->systemHistory().size(), 2);
@@ -76,7 +76,7 @@ TEST_F(AppModelTest, LowPowerPauseFreshensTheSystemOnly) {
 }
 
 TEST_F(AppModelTest, AlertsFollowTheTick) {
-    fakes.host->physical = quint64(2) << 30;
+    fakes.host->memory.totalBytes = quint64(2) << 30;
     tick();
     ASSERT_EQ(model->alerts().size(), 1);
     EXPECT_EQ(model->alerts().first().id, QStringLiteral("ram_low"));

@@ -89,7 +89,9 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     add(41, "claude", 7 * MiB);
     tick();
     tools->answer = [this](const ToolRequest&) {
-        const auto give = [this] { fakes.host->memory->active -= 50; }; // which takes the kernel a while
+        const auto give = [this] {
+            fakes.host->memory.activeBytes -= 204800;
+        }; // which takes the kernel a while
         QMetaObject::invokeMethod(model.get(), give, Qt::QueuedConnection);
         return ScriptedTools::exited(0);
     };
@@ -97,7 +99,7 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     EXPECT_EQ(result.perPid, (QList<FreeRAMResult::Record>{{41, u"claude"_s, 7 * MiB, KillOutcome::forced},
                                                            {57, u"pid 57"_s, 0, KillOutcome::quit}}));
     EXPECT_TRUE(result.memoryPressureSignaled);
-    EXPECT_EQ(result.freedBytes, 50U * 4096);
+    EXPECT_EQ(result.freedBytes, 204800U);
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:forced,57:quit freed=204800 ok"_s));
     EXPECT_EQ(tools->commandLines(), QStringList(u"/usr/bin/memory_pressure -l warn"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 204800U);
@@ -107,7 +109,7 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
 TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
     tools->answer = [](const ToolRequest&) { return ToolResult(); };
     tick();
-    fakes.host->memory = MemoryPages{.active = 900, .wired = 30, .compressed = 20};
+    fakes.host->memory.activeBytes *= 2;
     const FreeRAMResult result = QCoro::waitFor(model->freeRAM({}));
     EXPECT_FALSE(result.memoryPressureSignaled);
     EXPECT_EQ(result.freedBytes, 0U);

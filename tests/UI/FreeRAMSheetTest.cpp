@@ -102,7 +102,7 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
     fakes.signalSender->start(102, {.terminate = SignalResult::other, .kill = SignalResult::other});
     open();
     fakes.tools->held = true;
-    fakes.host->memory = MemoryPages{.active = 100, .wired = 30, .compressed = 20};
+    fakes.host->memory.activeBytes /= 2;
     QTest::keyClick(sheet, Qt::Key_Return);
     EXPECT_FALSE(buttonNamed(*sheet, u"Killing…"_s)->isEnabled());
     QTest::keyClick(sheet, Qt::Key_Return);

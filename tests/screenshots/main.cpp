@@ -97,8 +97,8 @@ struct Stage : ModelFixture {
                           .info = KernelProcessInfo{.uid = fakes.identity->uid}});
             }
         }
-        fakes.host->physical = 16 * GiB;
-        fakes.host->root = VolumeBlocks{.blockSize = 4096, .blocks = 122 * MiB, .blocksAvailable = 21 * MiB};
+        fakes.host->memory = {.totalBytes = 16 * GiB};
+        fakes.host->root = VolumeSize{.totalBytes = 488 * GiB, .freeBytes = 84 * GiB};
     }
 
     /// `usedGB` at the end of a stretch of `ticks`, in which the load swings about `load` percent.
@@ -106,11 +106,10 @@ struct Stage : ModelFixture {
         for (int i = 0; i < ticks; ++i) {
             const double wave = load + 14 * std::sin(i / 7.0) + 6 * std::sin(i / 2.3);
             CpuTicks& counters = *fakes.host->ticks;
-            counters.user += static_cast<quint32>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
-            counters.idle += static_cast<quint32>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
+            counters.user += static_cast<quint64>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
+            counters.idle += static_cast<quint64>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
             const double used = usedGB - 1.5 * (ticks - i) / ticks + 0.15 * std::sin(i / 11.0);
-            fakes.host->memory = MemoryPages{
-                .active = static_cast<quint64>(used * double(GiB) / 4096), .wired = 0, .compressed = 0};
+            fakes.host->memory.activeBytes = static_cast<quint64>(used * double(GiB));
             fakes.clock->advance(2);
             for (FakeProcess& process : fakes.processes->processes)
                 process.task->cpuTimeNs += cpuTimePerTick[process.name];
@@ -298,7 +297,7 @@ void shootOverview(Camera& camera) {
     shootSections(camera, window, calm);
 
     Stage pressed;
-    pressed.fakes.host->swap = 5 * GiB;
+    pressed.fakes.host->memory.swapUsedBytes = 5 * GiB;
     pressed.fakes.host->thermal = 2;
     pressed.play(150, 92, 14.6);
     MainWindow busy(pressed.model, pressed.prefs, pressed.messages);
@@ -315,7 +314,7 @@ void shootFreeRAM(Camera& camera) {
     stage.model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     auto* sheet = new FreeRAMSheet(stage.model, nullptr);
     camera.take(*sheet, u"free-ram"_s);
-    stage.fakes.host->memory->active -= 900 * MiB / 4096;
+    stage.fakes.host->memory.activeBytes -= 900 * MiB;
     QTest::keyClick(sheet, Qt::Key_Return);
     QTest::qWait(50);
     camera.take(*sheet, u"free-ram-result"_s);
@@ -327,7 +326,7 @@ void shootFreeRAM(Camera& camera) {
 
 void shootPanels(Camera& camera) {
     Stage stage;
-    stage.fakes.host->swap = 5 * GiB;
+    stage.fakes.host->memory.swapUsedBytes = 5 * GiB;
     stage.play(150, 63, 13.1);
     WidgetWindow unused{Desktop()};
     MenuBarPanel panel(stage.model, unused);

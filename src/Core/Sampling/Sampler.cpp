@@ -50,9 +50,8 @@ QString procArgs(QStringList arguments) {
     return arguments.join(u' ');
 }
 
-/// The difference of two counters that wrap at 2^32.
-double delta(quint32 current, quint32 previous) {
-    return static_cast<double>(quint32(current - previous));
+quint64 busy(const CpuTicks& ticks) {
+    return ticks.user + ticks.system + ticks.nice;
 }
 
 } // namespace
@@ -61,24 +60,23 @@ Sampler::Sampler(const Platform& platform)
     : host(platform.host)
     , table(platform.processes)
     , clock(platform.clock)
-    , applications(platform.applications)
-    , pageSize(host->pageSize()) {}
+    , applications(platform.applications) {}
 
 SystemSample Sampler::sample() {
     SystemSample sample;
     sample.id = QUuid::createUuid();
     sample.timestamp = clock->now();
     sample.cpuPercent = cpuLoad();
-    const MemoryPages memory = host->memoryPages().value_or(MemoryPages());
-    sample.memUsedBytes = (memory.active + memory.wired + memory.compressed) * pageSize;
-    sample.memWiredBytes = memory.wired * pageSize;
-    sample.memCompressedBytes = memory.compressed * pageSize;
-    sample.swapUsedBytes = host->swapUsedBytes().value_or(0);
-    const VolumeBlocks root = host->rootVolume().value_or(VolumeBlocks());
-    sample.diskFreeBytes = root.blocksAvailable * root.blockSize;
-    sample.diskTotalBytes = root.blocks * root.blockSize;
+    const MemoryUse memory = host->memoryUse();
+    sample.memUsedBytes = memory.activeBytes + memory.wiredBytes + memory.compressedBytes;
+    sample.memWiredBytes = memory.wiredBytes;
+    sample.memCompressedBytes = memory.compressedBytes;
+    sample.memTotalBytes = memory.totalBytes;
+    sample.swapUsedBytes = memory.swapUsedBytes;
+    const VolumeSize root = host->rootVolume().value_or(VolumeSize());
+    sample.diskFreeBytes = root.freeBytes;
+    sample.diskTotalBytes = root.totalBytes;
     sample.thermalState = thermalState(host->thermalLevel());
-    sample.memTotalBytes = host->physicalMemoryBytes();
     return sample;
 }
 
@@ -89,10 +87,9 @@ double Sampler::cpuLoad() {
     const auto previous = std::exchange(prevHostCPU, ticks);
     if (!previous)
         return 0;
-    const double busy = delta(ticks->user, previous->user) + delta(ticks->system, previous->system) +
-                        delta(ticks->nice, previous->nice);
-    const double total = busy + delta(ticks->idle, previous->idle);
-    return total > 0 ? busy / total * 100 : 0;
+    const quint64 used = busy(*ticks) - busy(*previous);
+    const quint64 total = used + ticks->idle - previous->idle;
+    return total > 0 ? static_cast<double>(used) / static_cast<double>(total) * 100 : 0;
 }
 
 QList<ProcSample> Sampler::sampleProcesses() {

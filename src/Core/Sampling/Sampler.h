@@ -88,7 +88,6 @@ private:
     std::shared_ptr<ProcessTable> table;
     std::shared_ptr<Clock> clock;
     std::shared_ptr<Applications> applications;
-    quint64 pageSize;
     std::optional<CpuTicks> prevHostCPU;
     QHash<qint32, Known> known; ///< by process id
     QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it

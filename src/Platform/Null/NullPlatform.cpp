@@ -19,13 +19,10 @@
 namespace {
 
 class NullHostStatistics : public HostStatistics {
-    quint64 pageSize() const override { return 0; }
     std::optional<CpuTicks> cpuTicks() override { return {}; }
-    std::optional<MemoryPages> memoryPages() override { return {}; }
-    std::optional<quint64> swapUsedBytes() override { return {}; }
-    std::optional<VolumeBlocks> rootVolume() override { return {}; }
+    MemoryUse memoryUse() override { return {}; }
+    std::optional<VolumeSize> rootVolume() override { return {}; }
     int thermalLevel() override { return 0; }
-    quint64 physicalMemoryBytes() override { return 0; }
 };
 
 class NullProcessTable : public ProcessTable {
