@@ -59,7 +59,7 @@ struct AppDelegateTest : ModelFixture {
 TEST_F(AppDelegateTest, TheFirstLaunchRegistersOnceAndTheFlagComesFirst) {
     bool flagWhenAsked = false;
     loginItem->whenAsked = [&] { flagWhenAsked = didFirstLaunch(); };
-    loginItem->failure = u"no such folder"_s;
+    loginItem->outcome = Outcome::failure(u"no such folder"_s);
     launch();
     EXPECT_TRUE(flagWhenAsked);
     EXPECT_EQ(loginItem->requests, QStringList(u"register"_s));

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using FreeRAMTest = ReliefTest;
-using Result = SignalResult;
+using Reply = SignalResult;
 
 constexpr quint64 MiB = 1 << 20;
 
@@ -69,12 +69,12 @@ TEST_F(FreeRAMTest, EveryOutcome) {
     const std::pair<FakeSignals::Script, QString> rows[] = {
         {{.endsOnTerminate = true}, u"quit"_s},
         {{}, u"forced"_s},
-        {{.terminate = Result::notPermitted}, u"denied"_s},
-        {{.terminate = Result::other}, u"forced"_s},
-        {{.terminate = Result::other, .kill = Result::other}, u"ignored"_s},
-        {{.kill = Result::notPermitted}, u"denied"_s},
-        {{.kill = Result::noSuchProcess}, u"quit"_s},
-        {{.kill = Result::other, .probe = Result::other}, u"ignored"_s},
+        {{.terminate = Reply::notPermitted}, u"denied"_s},
+        {{.terminate = Reply::other}, u"forced"_s},
+        {{.terminate = Reply::other, .kill = Reply::other}, u"ignored"_s},
+        {{.kill = Reply::notPermitted}, u"denied"_s},
+        {{.kill = Reply::noSuchProcess}, u"quit"_s},
+        {{.kill = Reply::other, .probe = Reply::other}, u"ignored"_s},
     };
     QList<qint32> pids;
     for (const auto& [script, outcome] : rows) {

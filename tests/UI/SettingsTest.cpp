@@ -154,7 +154,7 @@ TEST_F(SettingsTest, TheRetentionLineFollowsBothPickers) {
 
 TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
     click(window, u"Start at login"_s);
-    loginItem.failure = u"<b>disk</b> full"_s;
+    loginItem.outcome = Outcome::failure(u"<b>disk</b> full"_s);
     click(window, u"Start at login"_s);
     EXPECT_TRUE(showsText(window, u"Couldn't register: <b>disk</b> full"_s));
     EXPECT_TRUE(prefs.startAtLogin());
@@ -167,7 +167,7 @@ TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
         another.show();
         EXPECT_FALSE(showsText(another, u"Couldn't unregister: <b>disk</b> full"_s));
     }
-    loginItem.failure.reset();
+    loginItem.outcome = Outcome::success();
     click(window, u"Start at login"_s);
     EXPECT_FALSE(showsText(window, u"Couldn't unregister: <b>disk</b> full"_s));
     EXPECT_EQ(loginItem.requests,

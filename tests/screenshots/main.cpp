@@ -433,7 +433,8 @@ void shootSettings(Camera& camera) {
         camera.take(window, u"settings-"_s + name);
     };
     shoot(SettingsScene::Tab::general, u"general"_s);
-    loginItem.failure = u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s;
+    loginItem.outcome =
+        Outcome::failure(u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s);
     window.findChild<GeneralTab*>()->findChild<Switch*>()->click();
     shoot(SettingsScene::Tab::general, u"general-error"_s);
     settings.preferences.pollIntervalSeconds.set(3);

@@ -60,13 +60,13 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
 
 } // namespace
 
-QCoro::Task<Cleaner::Listing> Cleaner::list(CleanupRule rule, QString folder, Instant now,
-                                            std::shared_ptr<ToolRunner> tools) {
+QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, Instant now,
+                                              std::shared_ptr<ToolRunner> tools) {
     const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
     const ToolResult result = co_await tools->run(request);
-    Listing listing{result.output, result.complaint};
-    if (!result.succeeded())
-        listing.text.clear(); // a part of a listing is none
+    Result<QByteArray> listing{Outcome::failure(result.complaint)};
+    if (result.succeeded()) // a part of a listing is none
+        listing = {Outcome::success(), result.output};
     co_return listing;
 }
 
@@ -94,8 +94,8 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared
         if (listed == target.listed.end() && target.lastScanned)
             continue; // it came after the scan
         if (listed == target.listed.end()) {
-            const Listing listing = co_await list(target.rule, place.path, now, tools);
-            target.listed.append({place.path, 0, listing.text});
+            const Result<QByteArray> listing = co_await list(target.rule, place.path, now, tools);
+            target.listed.append({place.path, 0, listing.value});
             listed = target.listed.end() - 1;
         }
         auto removal = removeListed(target.rule, *listed, now, tools, stop);

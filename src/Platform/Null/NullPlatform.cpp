@@ -71,10 +71,10 @@ class NullAppearance : public Appearance {
 };
 
 class NullLoginItem : public LoginItem {
-    std::optional<QString> registerItem() override {
-        return QStringLiteral("Nothing can be started at login here.");
+    Outcome registerItem() override {
+        return Outcome::failure(QStringLiteral("Nothing can be started at login here."));
     }
-    std::optional<QString> unregisterItem() override { return {}; }
+    Outcome unregisterItem() override { return Outcome::success(); }
     bool isInstalled() const override { return false; }
     void replaceGoneProgram() override {}
 };

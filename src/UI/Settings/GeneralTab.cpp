@@ -31,9 +31,9 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
 }
 
 void GeneralTab::applyLoginItem(bool enabled) {
-    const auto reason = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
-    m_loginError->setVisible(reason.has_value());
-    m_loginError->setPlainText(QStringLiteral("Couldn't %1: %2")
-                                   .arg(enabled ? QStringLiteral("register") : QStringLiteral("unregister"),
-                                        reason.value_or(QString())));
+    const Outcome outcome = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
+    m_loginError->setVisible(!outcome.done);
+    m_loginError->setPlainText(
+        QStringLiteral("Couldn't %1: %2")
+            .arg(enabled ? QStringLiteral("register") : QStringLiteral("unregister"), outcome.reason));
 }
