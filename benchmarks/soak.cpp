@@ -156,6 +156,7 @@ private:
             m_model.record(ActionLogEntry::Kind::quit, QStringLiteral("A process"), 0, true);
         m_feed->requests.clear();
         m_machine.fakes.tools->requests.clear();
+        m_machine.fakes.relief->requests.clear();
     }
 
     static QPushButton& defaultButton(const QWidget& sheet) {

@@ -12,12 +12,12 @@
 #include "Core/Mcp/ServerWatch.h"
 #include "Core/Relief/AutoOptimizer.h"
 #include "Core/Relief/FreeRAM.h"
-#include "Core/Relief/MemoryTools.h"
 #include "Core/Relief/NukePreview.h"
 #include "Core/Sampling/ProcSample.h"
 #include "Core/Sampling/Sampler.h"
 #include "Core/Sampling/SystemSample.h"
 #include "Platform/Platform.h"
+#include "Platform/Result.h"
 
 #include <QCoroTask>
 #include <QObject>
@@ -92,9 +92,9 @@ public:
     void quitServer(const MCPInspector::LiveServer& server);
 
     /// Asks the kernel to reclaim memory; on record. Whether the request could be made.
-    QCoro::Task<Cleaner::MemoryAnswer> nudgeMemory();
+    QCoro::Task<Outcome> nudgeMemory();
     /// Drops clean caches after the administrator's prompt; on record.
-    QCoro::Task<Cleaner::MemoryAnswer> purgeMemory();
+    QCoro::Task<Outcome> purgeMemory();
 
     /// Idle processes worth ending: at most 15, largest first. Idle time in minutes, size in MiB.
     QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;

@@ -2,6 +2,7 @@
 
 #include "Core/Sampling/ProcessFilter.h"
 #include "Platform/Identity.h"
+#include "Platform/Relief.h"
 #include "Platform/Signals.h"
 
 #include <QCoroTimer>
@@ -104,8 +105,8 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
         co_return result;
     runSecondPass(result.perPid, handles);
 
-    auto nudge = Cleaner::memoryPressure(m_platform.tools);
-    const Cleaner::MemoryAnswer nudged = co_await nudge;
+    auto nudge = m_platform.relief->reclaimMemory();
+    const Outcome nudged = co_await nudge;
     result.memoryPressureSignaled = nudged.done;
     if (!self)
         co_return result;

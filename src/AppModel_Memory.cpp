@@ -1,22 +1,24 @@
 #include "AppModel.h"
 
+#include "Platform/Relief.h"
+
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
 
-QCoro::Task<Cleaner::MemoryAnswer> AppModel::nudgeMemory() {
+QCoro::Task<Outcome> AppModel::nudgeMemory() {
     const QPointer<AppModel> self(this);
-    auto nudge = Cleaner::memoryPressure(m_platform.tools);
-    const Cleaner::MemoryAnswer nudged = co_await nudge;
+    auto nudge = m_platform.relief->reclaimMemory();
+    const Outcome nudged = co_await nudge;
     if (self)
         record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged.done);
     co_return nudged;
 }
 
-QCoro::Task<Cleaner::MemoryAnswer> AppModel::purgeMemory() {
+QCoro::Task<Outcome> AppModel::purgeMemory() {
     const QPointer<AppModel> self(this);
-    auto purge = Cleaner::deepPurge(m_platform.tools);
-    const Cleaner::MemoryAnswer purged = co_await purge;
+    auto purge = m_platform.relief->dropCaches();
+    const Outcome purged = co_await purge;
     if (self)
         record(ActionLogEntry::Kind::clean, u"sudo purge (admin)"_s, 0, purged.done);
     co_return purged;

@@ -75,6 +75,6 @@ void AppModel::setAutoOptimizeEnabled(bool enabled) {
 
 AutoOptimizer& AppModel::autoOptimizer() {
     if (!m_autoOptimizer)
-        m_autoOptimizer = std::make_unique<AutoOptimizer>(*this, m_platform.tools);
+        m_autoOptimizer = std::make_unique<AutoOptimizer>(*this, m_platform.relief);
     return *m_autoOptimizer;
 }

@@ -1,8 +1,8 @@
 #include "AppModel.h"
 
-#include "Core/Relief/MemoryTools.h"
 #include "Platform/Applications.h"
 #include "Platform/Identity.h"
+#include "Platform/Relief.h"
 
 #include <QPointer>
 
@@ -88,15 +88,15 @@ QString AppModel::nuke(const NukePreview& preview) {
 
 QCoro::Task<QString> AppModel::nukeGracefulApp(NukePreview preview, QString appName, bool force) {
     const QPointer<AppModel> self(this);
-    auto asking = Cleaner::runOsascript(m_platform.tools, NukePreview::quitScript(appName, force));
-    const bool succeeded = co_await asking;
-    QString outcome = preview.quitOutcome(appName, succeeded);
+    auto asking = m_platform.relief->quitApplication(appName, force);
+    const Outcome quit = co_await asking;
+    QString outcome = preview.quitOutcome(appName, quit.done);
     if (!self)
         co_return outcome;
     const auto kind = force ? ActionLogEntry::Kind::forceKill : ActionLogEntry::Kind::quit;
     const QString detail = u"[graceful quit] "_s + appName +
                            u" (%1 child PIDs targeted)"_s.arg(preview.pids.size()) +
                            (force ? u" — force"_s : QString());
-    record(kind, detail, 0, succeeded);
+    record(kind, detail, 0, quit.done);
     co_return outcome;
 }

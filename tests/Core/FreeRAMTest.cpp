@@ -88,12 +88,12 @@ TEST_F(FreeRAMTest, EveryOutcome) {
 TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     add(41, "claude", 7 * MiB);
     tick();
-    tools->answer = [this](const ToolRequest&) {
+    fakes.relief->answer = [this] {
         const auto give = [this] {
             fakes.host->memory.activeBytes -= 204800;
         }; // which takes the kernel a while
         QMetaObject::invokeMethod(model.get(), give, Qt::QueuedConnection);
-        return ScriptedTools::exited(0);
+        return Outcome::success();
     };
     const FreeRAMResult result = QCoro::waitFor(model->freeRAM({41, 57}));
     EXPECT_EQ(result.perPid, (QList<FreeRAMResult::Record>{{41, u"claude"_s, 7 * MiB, KillOutcome::forced},
@@ -101,13 +101,13 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     EXPECT_TRUE(result.memoryPressureSignaled);
     EXPECT_EQ(result.freedBytes, 204800U);
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:forced,57:quit freed=204800 ok"_s));
-    EXPECT_EQ(tools->commandLines(), QStringList(u"/usr/bin/memory_pressure -l warn"_s));
+    EXPECT_EQ(fakes.relief->requests, QStringList(u"reclaim memory"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 204800U);
     EXPECT_EQ(model->actionLog().first().timestamp, fakes.clock->wall);
 }
 
 TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
-    tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    fakes.relief->answer = [] { return Outcome(); };
     tick();
     fakes.host->memory.activeBytes *= 2;
     const FreeRAMResult result = QCoro::waitFor(model->freeRAM({}));
@@ -132,7 +132,7 @@ TEST_F(FreeRAMTest, AModelThatIsGoneEndsTheRun) {
     auto run = model->freeRAM({41});
     model.reset();
     EXPECT_EQ(outcomesOf(QCoro::waitFor(run)), QStringList(u"quit"_s));
-    EXPECT_TRUE(tools->requests.isEmpty());
+    EXPECT_TRUE(fakes.relief->requests.isEmpty());
 }
 
 TEST_F(FreeRAMTest, TheModelKeepsTheNewest200AndTheFileAll) {

@@ -53,11 +53,11 @@ TEST_F(OrphansTest, TheReportFollowsTheTick) {
 
 TEST_F(OrphansTest, SwitchingOnRunsAPassAtOnceInThreeLines) {
     EXPECT_FALSE(model->autoOptimizeEnabled());
-    tools->held = true;
+    fakes.relief->held = true;
     model->setAutoOptimizeEnabled(true);
     EXPECT_TRUE(model->autoOptimizeEnabled());
     EXPECT_EQ(logged(), QStringList(u"quit [orphan MCPs] killed=2/2 ok"_s)); // the others await the tool
-    EXPECT_TRUE(tools->release(u"warn"_s));
+    EXPECT_TRUE(fakes.relief->release());
     letLoopRun();
     EXPECT_EQ(logged(),
               (QStringList{u"clean [auto-optimize] orphans=2, pressure nudged ok"_s,
@@ -66,7 +66,7 @@ TEST_F(OrphansTest, SwitchingOnRunsAPassAtOnceInThreeLines) {
 }
 
 TEST_F(OrphansTest, OffStopsAndOnAgainRunsAnotherPass) {
-    tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    fakes.relief->answer = [] { return Outcome(); };
     model->setAutoOptimizeEnabled(true);
     model->setAutoOptimizeEnabled(false);
     EXPECT_FALSE(model->autoOptimizeEnabled());
@@ -78,7 +78,7 @@ TEST_F(OrphansTest, OffStopsAndOnAgainRunsAnotherPass) {
 }
 
 TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
-    AutoOptimizer optimizer(*model, tools);
+    AutoOptimizer optimizer(*model, fakes.relief);
     const auto* timer = optimizer.findChild<QTimer*>();
     ASSERT_NE(timer, nullptr);
     EXPECT_FALSE(timer->isActive());
@@ -90,10 +90,10 @@ TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
 }
 
 TEST_F(OrphansTest, APassEndsWithItsModel) {
-    tools->held = true;
+    fakes.relief->held = true;
     model->setAutoOptimizeEnabled(true);
     model.reset();
-    EXPECT_TRUE(tools->release(u"warn"_s));
+    EXPECT_TRUE(fakes.relief->release());
     letLoopRun();
     EXPECT_EQ(ActionLogReader::read().size(), 1); // the orphans, and nothing after the model went
 }

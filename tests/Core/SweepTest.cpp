@@ -42,8 +42,6 @@ TEST(NukePreviewTest, TextsForAnApplication) {
               "no per-tab pop-ups. Frees ≈1 GB."_s);
     EXPECT_EQ(preview.quitOutcome(u"Note"_s, false),
               u"Couldn't tell Note to quit (it may not be scriptable). Try the force variant."_s);
-    EXPECT_EQ(NukePreview::quitScript(u"The \"Best\" %1"_s, false),
-              u"tell application \"The \\\"Best\\\" %1\" to quit"_s);
 }
 
 TEST(NukePreviewTest, TextsForAnyOtherProcessesListTwentyIds) {
@@ -105,12 +103,10 @@ TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
     EXPECT_EQ(QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, false)),
               u"Note quit cleanly — 1 helpers closed (≈1 KB freed)"_s);
-    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    fakes.relief->answer = [] { return Outcome::failure(u"stayed"_s); };
     EXPECT_TRUE(
         QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, true)).startsWith(u"Couldn't tell Note"_s));
-    EXPECT_EQ(tools->commandLines(),
-              (QStringList{u"/usr/bin/osascript -e tell application \"Note\" to quit"_s,
-                           u"/usr/bin/osascript -e tell application \"Note\" to quit saving no"_s}));
+    EXPECT_EQ(fakes.relief->requests, (QStringList{u"quit Note"_s, u"force-quit Note"_s}));
     EXPECT_EQ(logged(), (QStringList{u"forceKill [graceful quit] Note (1 child PIDs targeted) — force fail"_s,
                                      u"quit [graceful quit] Note (1 child PIDs targeted) ok"_s}));
     EXPECT_TRUE(signalled().isEmpty());

@@ -3,7 +3,7 @@
 #include "Platform/Identity.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "Platform/Linux/LinuxSignals.h"
-#include "support/ScriptedTools.h"
+#include "support/FakeRelief.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -81,7 +81,7 @@ struct ReliefOnProcessesTest : testing::Test {
         QFile::setPermissions(home.path(), QFile::Permissions(0x7777));
         Platform platform = Platform::native();
         platform.processes = processes;
-        platform.tools = std::make_shared<ScriptedTools>();
+        platform.relief = std::make_shared<FakeRelief>();
         model = std::make_unique<AppModel>(platform, settings.preferences);
         model->setFreeRAMWaits({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
     }

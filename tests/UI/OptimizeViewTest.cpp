@@ -113,18 +113,16 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     show();
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"Sent memory_pressure -l warn"_s);
-    fakes.tools->held = true;
+    fakes.relief->held = true;
     press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
-    fakes.tools->answer = [](const ToolRequest&) {
-        return ToolResult{.launched = true, .exitStatus = 1, .complaint = u"no <agent>"_s};
-    };
-    EXPECT_TRUE(fakes.tools->release(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s));
+    fakes.relief->answer = [] { return Outcome::failure(u"no <agent>"_s); };
+    EXPECT_TRUE(fakes.relief->release());
     EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->toolTip().contains(u"no &lt;agent&gt;"_s));
-    fakes.tools->held = false;
-    fakes.tools->answer = [](const ToolRequest&) { return ToolResult{.complaint = u"no group"_s}; };
+    fakes.relief->held = false;
+    fakes.relief->answer = [] { return Outcome::failure(u"no group"_s); };
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"memory_pressure failed"_s);
     EXPECT_EQ(buttonNamed(view, u"Pressure nudge"_s)->accessibleDescription(), u"no group"_s);

@@ -248,7 +248,7 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
     EXPECT_EQ(notice(), u"Note quit cleanly — 2 helpers closed (≈120 MB freed)"_s);
     settle();
     pressIn(0, 2);
-    fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    fakes.relief->answer = [] { return Outcome(); };
     press(*dialog(), u"Force-quit Note (no save prompt)"_s);
     EXPECT_TRUE(notice().startsWith(u"Couldn't tell Note to quit"_s));
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());

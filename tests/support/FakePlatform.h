@@ -9,6 +9,7 @@
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
 #include "support/FakePlaces.h"
+#include "support/FakeRelief.h"
 #include "support/FakeSignals.h"
 #include "support/ScriptedTools.h"
 
@@ -160,6 +161,7 @@ struct FakePlatform {
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
     std::shared_ptr<FakeApplications> applications = std::make_shared<FakeApplications>();
+    std::shared_ptr<FakeRelief> relief = std::make_shared<FakeRelief>();
 
     Platform platform() const {
         return {.host = host,
@@ -170,6 +172,7 @@ struct FakePlatform {
                 .tools = tools,
                 .places = places,
                 .signalSender = signalSender,
-                .applications = applications};
+                .applications = applications,
+                .relief = relief};
     }
 };

@@ -1,6 +1,6 @@
 #include "Core/Relief/AutoOptimizer.h"
 
-#include "Core/Relief/MemoryTools.h"
+#include "Platform/Relief.h"
 
 #include <QPointer>
 
@@ -8,10 +8,10 @@
 
 using namespace Qt::StringLiterals;
 
-AutoOptimizer::AutoOptimizer(OptimizedModel& model, std::shared_ptr<ToolRunner> tools, QObject* parent)
+AutoOptimizer::AutoOptimizer(OptimizedModel& model, std::shared_ptr<Relief> relief, QObject* parent)
     : QObject(parent)
     , m_model(model)
-    , m_tools(std::move(tools)) {
+    , m_relief(std::move(relief)) {
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
 }
 
@@ -31,8 +31,8 @@ void AutoOptimizer::start() {
 QCoro::Task<> AutoOptimizer::tick() {
     const QPointer<AutoOptimizer> self(this);
     const int killed = m_model.killOrphanMCPs(false);
-    auto nudge = Cleaner::memoryPressure(m_tools);
-    const Cleaner::MemoryAnswer nudged = co_await nudge;
+    auto nudge = m_relief->reclaimMemory();
+    const Outcome nudged = co_await nudge;
     if (!self)
         co_return;
     m_model.record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged.done);

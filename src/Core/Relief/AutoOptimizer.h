@@ -8,7 +8,7 @@
 
 #include <memory>
 
-class ToolRunner;
+class Relief;
 
 /// What the optimizer asks of the model that owns it.
 class OptimizedModel {
@@ -27,7 +27,7 @@ class AutoOptimizer : public QObject {
 
 public:
     /// `model` owns the optimizer and so outlives it.
-    AutoOptimizer(OptimizedModel& model, std::shared_ptr<ToolRunner> tools, QObject* parent = nullptr);
+    AutoOptimizer(OptimizedModel& model, std::shared_ptr<Relief> relief, QObject* parent = nullptr);
 
     bool enabled() const { return m_timer.isActive(); }
     /// Enabling again starts the period anew and runs one more pass.
@@ -40,6 +40,6 @@ private:
     static constexpr double intervalMinutes = 30;
 
     OptimizedModel& m_model;
-    std::shared_ptr<ToolRunner> m_tools;
+    std::shared_ptr<Relief> m_relief;
     QTimer m_timer{this};
 };

@@ -113,11 +113,6 @@ QString NukePreview::killButton() const {
     return u"Kill "_s + QString::number(pids.size()) + u" (≈"_s + Formatters::bytes(totalRSS) + u')';
 }
 
-QString NukePreview::quitScript(const QString& appName, bool force) {
-    const QString escaped = QString(appName).replace(u'"', u"\\\""_s);
-    return u"tell application \""_s + escaped + (force ? u"\" to quit saving no"_s : u"\" to quit"_s);
-}
-
 QString NukePreview::quitOutcome(const QString& appName, bool succeeded) const {
     if (!succeeded)
         return u"Couldn't tell "_s + appName +

@@ -8,6 +8,7 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
+#include "Platform/Relief.h"
 #include "Platform/Signals.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
@@ -66,6 +67,12 @@ class NullApplications : public Applications {
     QList<qint32> inTerminalsOf(const QList<qint32>&) override { return {}; }
 };
 
+class NullRelief : public Relief {
+    QCoro::Task<Outcome> quitApplication(QString, bool) override { co_return {}; }
+    QCoro::Task<Outcome> reclaimMemory() override { co_return {}; }
+    QCoro::Task<Outcome> dropCaches() override { co_return {}; }
+};
+
 class NullAppearance : public Appearance {
     std::optional<bool> prefersDark() const override { return {}; }
 };
@@ -92,7 +99,8 @@ Platform Platform::native() {
             .tools = std::make_shared<NullToolRunner>(),
             .places = std::make_shared<NullPlaces>(),
             .signalSender = std::make_shared<NullSignals>(),
-            .applications = std::make_shared<NullApplications>()};
+            .applications = std::make_shared<NullApplications>(),
+            .relief = std::make_shared<NullRelief>()};
 }
 
 std::unique_ptr<Appearance> Platform::makeAppearance() {

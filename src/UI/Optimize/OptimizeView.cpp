@@ -103,7 +103,7 @@ void OptimizeView::placeNotice() {
 }
 
 void OptimizeView::nudge() {
-    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& nudged) {
+    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& nudged) {
         if (!self)
             return;
         self->m_memory->setNudgeFailure(nudged.reason);
@@ -114,7 +114,7 @@ void OptimizeView::nudge() {
 
 void OptimizeView::purge() {
     m_memory->setPurging(true);
-    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& purged) {
+    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& purged) {
         if (!self)
             return;
         self->m_memory->setPurging(false);
