@@ -1,5 +1,7 @@
 #include "Core/SettingsFile.h"
 
+#include "Platform/Log.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,6 +29,7 @@ void keepDamagedBeside(const QString& path) {
     const State state = stateOf(path);
     if (state == State::good)
         return;
+    qCWarning(Log::platform) << "the settings are damaged";
     QFile::remove(path + QStringLiteral(".damaged"));
     QFile::copy(path, path + QStringLiteral(".damaged"));
     if (state == State::unreadable)
@@ -100,10 +103,14 @@ std::optional<QByteArray> SettingsFile::bytes(const QString& key) const {
 
 void SettingsFile::store(const QString& key, const QVariant& value) {
     m_unsaved.insert(key, value);
-    if (!hasRoom())
+    if (!hasRoom()) {
+        qCWarning(Log::platform) << "the settings cannot be written";
         return;
+    }
     for (auto each = m_unsaved.cbegin(); each != m_unsaved.cend(); ++each)
         m_settings.setValue(each.key(), each.value());
     m_unsaved.clear();
     m_settings.sync();
+    if (m_settings.status() != QSettings::NoError)
+        qCWarning(Log::platform) << "the settings were not written:" << m_settings.status();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Platform/Relief.h"
+#include "support/Turn.h"
 
 #include <QStringList>
 
-#include <coroutine>
 #include <functional>
 
 /// Gives nothing back: it remembers what was asked for and answers from `answer`, at once or, while `held`,
@@ -30,18 +30,10 @@ public:
     }
 
 private:
-    struct Turn {
-        FakeRelief& relief;
-
-        bool await_ready() const noexcept { return false; }
-        void await_suspend(std::coroutine_handle<> waiter) { relief.m_waiting.append(waiter); }
-        void await_resume() const noexcept {}
-    };
-
     QCoro::Task<Outcome> ask(QString request) {
         requests.append(request);
         if (held) {
-            Turn turn{*this};
+            Turn turn{m_waiting};
             co_await turn;
         }
         co_return answer();

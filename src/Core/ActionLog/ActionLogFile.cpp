@@ -1,6 +1,7 @@
 #include "Core/ActionLog/ActionLogFile.h"
 
 #include "Core/Iso8601.h"
+#include "Platform/Log.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,11 +36,15 @@ void Cleaner::appendActionLog(const ActionLogEntry& entry) {
     QFile file(actionLogPath());
     QDir().mkpath(QFileInfo(file).path());
     if (isActionLogObstructed() ||
-        !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
+        !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
+        qCWarning(Log::platform) << "the log of actions cannot be written:" << file.errorString();
         return;
+    }
     const qint64 end = file.size();
     const QByteArray line = (endsInsideALine(file) ? "\n" : "") + actionLogLine(entry);
     // What a full disk took of a line may end inside a character, and the whole file would be no text.
-    if (file.write(line) < line.size())
+    if (file.write(line) < line.size()) {
+        qCWarning(Log::platform) << "the log of actions takes no more:" << file.errorString();
         file.resize(end);
+    }
 }

@@ -1,6 +1,7 @@
 #include "Core/Announcements/MessageCenter.h"
 
 #include "Core/Announcements/FeedFetcher.h"
+#include "Core/Log.h"
 #include "Core/SettingsFile.h"
 #include "Preferences.h"
 
@@ -66,8 +67,10 @@ QCoro::Task<> MessageCenter::refresh() {
     if (!body || !self)
         co_return;
     const std::optional<Feed> feed = Feed::decode(*body);
-    if (!feed)
+    if (!feed) {
+        qCWarning(Log::feed) << "not understood, of" << body->size() << "bytes";
         co_return;
+    }
     m_allMessages = feed->messages;
     recompute();
 }

@@ -1,6 +1,7 @@
 #include "Core/Cleanup/Cleaner.h"
 
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Log.h"
 #include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 
@@ -23,6 +24,11 @@ void fail(Cleaner::CleanResult& result, const QString& reason) {
         result.reason = reason;
 }
 
+void reportFailure(const char* step, const QString& what, const ToolResult& result) {
+    qCWarning(Log::cleanup) << step << "ended with status" << result.exitStatus;
+    qCDebug(Log::cleanup) << what << result.complaint;
+}
+
 /// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
 const auto done = u"tavrin: done"_s;
 
@@ -34,7 +40,10 @@ QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std:
     request.terminateAfter = CleanupPlan::longest;
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
-    co_return result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+    const bool isDone = result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+    if (!isDone)
+        reportFailure("a command", command, result);
+    co_return isDone;
 }
 
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
@@ -49,8 +58,10 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
     request.stop = stop;
     const ToolResult removal = co_await tools->run(request);
-    if (!removal.succeeded())
+    if (!removal.succeeded()) {
+        reportFailure("removing", folder.path, removal);
         result = {false, 0, stop.stop_requested() ? cancelled().reason : removal.complaint};
+    }
     if (isMeasured) {
         const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
         result.freedBytes = before > after ? before - after : 0;
@@ -67,6 +78,8 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
     Result<QByteArray> listing{Outcome::failure(result.complaint)};
     if (result.succeeded()) // a part of a listing is none
         listing = {Outcome::success(), result.output};
+    else
+        reportFailure("listing", folder, result);
     co_return listing;
 }
 

@@ -1,5 +1,6 @@
 #include "Core/Mcp/ServerDocument.h"
 
+#include "Core/Log.h"
 #include "Core/Mcp/JsonText.h"
 #include "Core/Sampling/ProgramPath.h"
 
@@ -205,5 +206,7 @@ ServerDocument::Servers ServerDocument::read(std::streambuf& text, const Form& f
     std::istream stream(&shortened);
     ServerReader reader(form);
     const bool isWhole = json::sax_parse(stream, &reader, json::input_format_t::json, true, form.hasComments);
+    if (!isWhole)
+        qCWarning(Log::mcp) << "a JSON document is not understood to its end";
     return isWhole ? reader.servers(scope) : Servers();
 }

@@ -1,5 +1,7 @@
 #include "Core/Mcp/ServerToml.h"
 
+#include "Core/Log.h"
+
 #include <algorithm>
 #include <array>
 #include <istream>
@@ -96,8 +98,10 @@ QList<ConfiguredServer> ServerToml::read(std::streambuf& text, const QString& sc
     TomlText limited(text);
     std::istream stream(&limited);
     const toml::parse_result document = toml::parse(stream);
-    if (!document || limited.isRefused())
+    if (!document || limited.isRefused()) {
+        qCWarning(Log::mcp) << "a TOML document is not understood";
         return {};
+    }
     QList<ConfiguredServer> servers;
     const toml::table* tables = document.table()["mcp_servers"].as_table();
     if (tables && tables->size() <= mostServers) {

@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopLoginItem.h"
 
+#include "Platform/Log.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -27,6 +29,8 @@ QString entryFile() {
 }
 
 Outcome failure(const QString& path, const QString& reason) {
+    qCWarning(Log::platform) << "the login item:" << reason;
+    qCDebug(Log::platform) << path;
     return Outcome::failure(QStringLiteral("%1: %2").arg(path, reason));
 }
 

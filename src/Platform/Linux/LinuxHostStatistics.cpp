@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxHostStatistics.h"
 
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Log.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,6 +55,8 @@ LinuxHostStatistics::LinuxHostStatistics(const QString& root)
     : m_stat(pathIn(root, QStringLiteral("proc/stat")))
     , m_meminfo(pathIn(root, QStringLiteral("proc/meminfo")))
     , m_zones(root + QStringLiteral("/sys")) {
+    if (!m_stat.isOpen() || !m_meminfo.isOpen())
+        qCWarning(Log::platform) << "no figures of load or of memory";
     const QDir block(root + QStringLiteral("/sys/block"));
     const auto devices = block.entryList({QStringLiteral("zram*")}, QDir::Dirs);
     for (const auto& device : devices)

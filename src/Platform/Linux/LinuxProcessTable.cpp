@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/ControlGroup.h"
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Log.h"
 #include "Platform/Unix/DescriptorLimit.h"
 
 #include <QHash>
@@ -93,6 +94,8 @@ bool LinuxProcessTable::hasNewPids() {
 /// Goes through the new rows and the kept processes side by side, both by rising id.
 void LinuxProcessTable::listAnew() {
     const auto rows = m_folder.rows();
+    if (rows.empty())
+        qCWarning(Log::platform) << "no process is listed";
     std::vector<Process> processes;
     processes.reserve(rows.size());
     m_listed.clear();

@@ -1,5 +1,6 @@
 #include "Platform/Linux/LinuxRelief.h"
 
+#include "Platform/Log.h"
 #include "Platform/ToolRunner.h"
 
 #include <utility>
@@ -20,6 +21,10 @@ ToolRequest scriptRequest(const QString& script) {
 QCoro::Task<Outcome> runTool(std::shared_ptr<ToolRunner> tools, ToolRequest request, DoneWhen when) {
     const ToolResult result = co_await tools->run(request);
     const bool done = when == DoneWhen::launched ? result.launched : result.succeeded();
+    if (!done) {
+        qCWarning(Log::relief) << "not done:" << request.launchPath << "status" << result.exitStatus;
+        qCDebug(Log::relief) << request.arguments << result.complaint;
+    }
     co_return done ? Outcome::success() : Outcome::failure(result.complaint);
 }
 

@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxSignals.h"
 
 #include "Platform/Linux/ProcStat.h"
+#include "Platform/Log.h"
 
 #include <cerrno>
 #include <csignal>
@@ -19,9 +20,11 @@ namespace {
 SignalResult resultOf(long status) {
     if (status == 0)
         return SignalResult::delivered;
-    if (errno == EPERM)
+    const int reason = errno;
+    qCInfo(Log::platform) << "a signal was not delivered:" << qt_error_string(reason);
+    if (reason == EPERM)
         return SignalResult::notPermitted;
-    return errno == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
+    return reason == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
 }
 
 class PidfdHandle : public ProcessHandle {

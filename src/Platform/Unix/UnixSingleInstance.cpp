@@ -1,5 +1,7 @@
 #include "Platform/SingleInstance.h"
 
+#include "Platform/Log.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalServer>
@@ -69,7 +71,8 @@ bool SingleInstance::claim() {
     if (askRunningOne())
         return false;
     QLocalServer::removeServer(m_socket);
-    m_server->listen(m_socket);
+    if (!m_server->listen(m_socket))
+        qCWarning(Log::platform) << "a second start will not be noticed:" << m_server->serverError();
     return true;
 }
 

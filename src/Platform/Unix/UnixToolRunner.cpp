@@ -1,5 +1,6 @@
 #include "Platform/Unix/UnixToolRunner.h"
 
+#include "Platform/Log.h"
 #include "Platform/Unix/DescriptorLimit.h"
 
 #include <QCoreApplication>
@@ -130,6 +131,14 @@ ToolResult resultOf(QProcess& process, bool isOurs) {
     return result;
 }
 
+void reportFailure(const QProcess& process, const ToolResult& result) {
+    if (result.launched)
+        qCInfo(Log::platform) << "a tool ended with status" << result.exitStatus;
+    else
+        qCWarning(Log::platform) << "a tool was not launched:" << process.error();
+    qCDebug(Log::platform) << process.program() << process.arguments() << result.complaint;
+}
+
 } // namespace
 
 UnixToolRunner::UnixToolRunner(QString toolsFolder)
@@ -185,6 +194,8 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     if (process->state() == QProcess::NotRunning)
         toolGroups().remove(group);
     ToolResult result = resultOf(*process, isOurs);
+    if (!result.succeeded())
+        reportFailure(*process, result);
     if (request.captureOutput)
         result.output = process->readAllStandardOutput();
     co_return result;
