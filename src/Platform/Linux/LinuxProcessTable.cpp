@@ -245,9 +245,7 @@ std::optional<quint64> LinuxProcessTable::cpuTimeNs(qint32 pid) const {
 }
 
 std::optional<ProcStat> LinuxProcessTable::readStat(qint32 pid) const {
-    const auto file = openFile(pid, "/stat");
-    std::array<char, 1024> room;
-    return ProcStat::parse(file.read(room));
+    return ProcStat::read(openFile(pid, "/stat"));
 }
 
 KernelFile LinuxProcessTable::openFile(qint32 pid, const char* name, int extraFlags) const {
@@ -299,7 +297,7 @@ std::optional<quint64> LinuxProcessTable::textMark(qint32 pid) {
 }
 
 QByteArray LinuxProcessTable::workingFolder(qint32 pid) {
-    return linkTarget(pid, "/cwd");
+    return KernelFile::linkTarget(m_folder.descriptor(), pathOf(pid, "/cwd").data());
 }
 
 ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
@@ -312,19 +310,8 @@ ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
     return keeper;
 }
 
-QByteArray LinuxProcessTable::linkTarget(qint32 pid, const char* name) const {
-    QByteArray target(4096, Qt::Uninitialized);
-    const auto length =
-        readlinkat(m_folder.descriptor(), pathOf(pid, name).data(), target.data(), target.size());
-    target.truncate(std::max<qsizetype>(length, 0));
-    return target;
-}
-
 QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
-    QByteArray target = linkTarget(pid, "/exe");
-    if (target.endsWith(" (deleted)"))
-        target.chop(sizeof(" (deleted)") - 1);
-    return target;
+    return KernelFile::programBehind(m_folder.descriptor(), pathOf(pid, "/exe").data());
 }
 
 /// A file of any length; empty when it cannot be read.
