@@ -53,10 +53,10 @@ QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString
     const Cleaner::CleanResult result = co_await cleaning;
     if (!self)
         co_return result;
-    if (!result.success)
+    if (!result.done)
         reportFailure({target.name, result.reason});
     countCleans(1);
-    record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.success);
+    record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);
     co_return result;
 }
 
@@ -105,7 +105,7 @@ QCoro::Task<std::pair<int, quint64>> AppModel::cleanAll(QList<CacheTarget> targe
         const Cleaner::CleanResult result = co_await cleaning;
         if (!self)
             co_return total;
-        if (result.success) {
+        if (result.done) {
             ++total.first;
             total.second += result.freedBytes;
         }

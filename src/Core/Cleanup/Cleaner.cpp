@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Cleaner::CleanResult cancelled() {
-    return {false, 0, u"cancelled"_s};
+    return {Outcome::failure(u"cancelled"_s)};
 }
 
 void fail(Cleaner::CleanResult& result, const QString& reason) {
-    result.success = false;
+    result.done = false;
     if (result.reason.isEmpty())
         result.reason = reason;
 }
@@ -48,7 +48,7 @@ QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std:
 
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
                                                std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
-    Cleaner::CleanResult result;
+    Cleaner::CleanResult result{Outcome::success()};
     const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
     quint64 before = 0;
     if (isMeasured)
@@ -60,7 +60,7 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     const ToolResult removal = co_await tools->run(request);
     if (!removal.succeeded()) {
         reportFailure("removing", folder.path, removal);
-        result = {false, 0, stop.stop_requested() ? cancelled().reason : removal.complaint};
+        fail(result, stop.stop_requested() ? cancelled().reason : removal.complaint);
     }
     if (isMeasured) {
         const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
@@ -86,11 +86,11 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
 QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,
                                                  std::shared_ptr<Places> places, Instant now,
                                                  std::stop_token stop) {
-    CleanResult result;
+    CleanResult result{Outcome::success()};
     if (target.pruneCommand) {
-        result.success = co_await prune(*target.pruneCommand, tools, stop);
+        result.done = co_await prune(*target.pruneCommand, tools, stop);
         result.freedBytes = target.sizeBytes;
-        if (!result.success && stop.stop_requested())
+        if (!result.done && stop.stop_requested())
             result.reason = cancelled().reason;
         co_return result;
     }
@@ -113,7 +113,7 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared
         }
         auto removal = removeListed(target.rule, *listed, now, tools, stop);
         const CleanResult one = co_await removal;
-        if (!one.success)
+        if (!one.done)
             fail(result, one.reason);
         result.freedBytes += one.freedBytes;
     }

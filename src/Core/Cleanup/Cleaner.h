@@ -17,10 +17,9 @@ class ToolRunner;
 /// age; or whatever a vendor's own command prunes.
 namespace Cleaner {
 
-struct CleanResult {
-    bool success = true; ///< every step that ran succeeded
-    quint64 freedBytes = 0;
-    QString reason = {}; ///< of the first failure, where it is known
+/// Done when every step that ran was, else the reason of the first that was not.
+struct CleanResult : Outcome {
+    quint64 freedBytes = 0; ///< also by a clean that was not done
 
     bool operator==(const CleanResult&) const = default;
 };
