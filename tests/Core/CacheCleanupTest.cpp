@@ -1,5 +1,8 @@
+#include "Core/Cleanup/CacheScanner.h"
 #include "Core/ReliefFixture.h"
 #include "support/Listing.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -123,6 +126,29 @@ TEST_F(CacheCleanupTest, AnOlderScanNeverReplacesANewerOne) {
     releaseAll();
     EXPECT_TRUE(older.isReady());
     EXPECT_EQ(cleanup.targets(), newest);
+}
+
+TEST_F(CacheCleanupTest, TheSamePlansFollowWhateverATargetIsCalled) {
+    QList<CacheTarget> targets = CacheTarget::defaults();
+    places->elsewhere[u"/tmp"_s] = {home.path(u"everybody's"_s)};
+    for (const QStringList& folders : places->elsewhere) {
+        for (const QString& folder : folders)
+            ASSERT_TRUE(QDir().mkpath(folder));
+    }
+    const auto plansOf = [&](CacheTarget target, const QString& name) {
+        target.name = name;
+        tools->requests.clear();
+        CacheScanner scanner(fakes.platform());
+        const CacheTarget scanned = QCoro::waitFor(scanner.scan({target})).first();
+        QCoro::waitFor(Cleaner::clean(scanned, tools, places, fakes.clock->wall));
+        return tools->commandLines();
+    };
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        const QStringList plans = plansOf(targets[i], targets[i].name);
+        EXPECT_GE(plans.size(), 2) << qPrintable(targets[i].name);
+        for (const QString& other : {u"x"_s, targets[(i + 1) % targets.size()].name, targets.last().name})
+            EXPECT_EQ(plansOf(targets[i], other), plans) << qPrintable(targets[i].name);
+    }
 }
 
 TEST_F(CacheCleanupTest, MayEndWhileToolsRun) {

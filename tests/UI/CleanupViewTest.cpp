@@ -245,6 +245,12 @@ TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {
         EXPECT_TRUE(question.contains(said)) << qPrintable(question);
         EXPECT_EQ(question.contains(rebuilt), isRebuilt) << qPrintable(question);
     }
+    for (const CacheTarget& target : CacheTarget::defaults()) {
+        CacheTarget renamed = target;
+        renamed.name = u"x"_s;
+        EXPECT_EQ(CleanupTexts::question(renamed), CleanupTexts::question(target));
+        EXPECT_EQ(CleanupTexts::whatGoes(renamed), CleanupTexts::whatGoes(target));
+    }
     EXPECT_FALSE(CleanupTexts::questionAll({mine, containers}).contains(rebuilt));
     EXPECT_TRUE(CleanupTexts::questionAll({caches, mine, containers}).contains(u"gone for good: B, C."_s));
 }
