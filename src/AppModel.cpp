@@ -33,7 +33,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     : Observable(parent)
     , m_platform(std::move(platform))
     , m_preferences(preferences)
-    , m_sampler(m_platform)
+    , m_sampler(m_platform, [this](const ProcSample& process) { return m_grouper.groupOf(process); })
     , m_rules(*m_platform.identity)
     , m_servers(m_platform.processes, m_platform.clock)
     , m_actionLog(m_platform.clock)
@@ -74,10 +74,10 @@ void AppModel::tick() {
     if (isPaused())
         return;
 
-    QList<ProcSample> classified = m_grouper.classify(m_sampler.sampleProcesses());
-    const QList<GroupRollup> rollups = GroupRollup::build(classified);
-    std::ranges::stable_sort(classified, std::ranges::greater(), &ProcSample::rssBytes);
-    publish(m_state.processes, std::move(classified));
+    QList<ProcSample> processes = m_sampler.sampleProcesses();
+    const QList<GroupRollup> rollups = GroupRollup::build(processes);
+    std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
+    publish(m_state.processes, std::move(processes));
     publish(m_state.groups, rollups);
     publish(m_state.alerts,
             m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(), m_preferences));
@@ -116,6 +116,10 @@ void AppModel::chooseGroup(const QList<ProcSample>& processes, std::optional<Pro
         programs.insert(ProcessGrouper::programKey(process));
     m_preferences.storeProgramGroups(programs, group);
     m_grouper.setChoices(m_preferences.programGroups());
-    publish(m_state.processes, m_grouper.classify(m_state.processes));
+    m_sampler.classifyAnew();
+    QList<ProcSample> regrouped = m_state.processes;
+    for (ProcSample& process : regrouped)
+        process.group = m_grouper.groupOf(process);
+    publish(m_state.processes, std::move(regrouped));
     publish(m_state.groups, GroupRollup::build(m_state.processes));
 }

@@ -73,8 +73,8 @@ private:
     Platform m_platform;
     Preferences& m_preferences;
     PublishedState m_state;
-    Sampler m_sampler;
     ProcessGrouper m_grouper;
+    Sampler m_sampler;
     RulesEngine m_rules;
     MCPConfiguration m_mcpConfiguration;
     ServerWatch m_servers;
