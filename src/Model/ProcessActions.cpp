@@ -1,8 +1,5 @@
 #include "Model/ProcessActions.h"
 
-#include "Core/ActionLog/ActionLog.h"
-#include "Model/PublishedState.h"
-
 using namespace Qt::StringLiterals;
 
 ProcessActions::ProcessActions(const Platform& platform, const PublishedState& state, const Sampler& sampler,

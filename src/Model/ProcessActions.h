@@ -1,22 +1,15 @@
 #pragma once
 
-#include "Core/Mcp/MCPInspector.h"
+#include "Core/ActionLog/ActionLog.h"
 #include "Core/Relief/AutoOptimizer.h"
 #include "Core/Relief/FreeRAM.h"
-#include "Core/Relief/MemoryTools.h"
 #include "Core/Relief/NukePreview.h"
 #include "Core/Relief/SignalGate.h"
+#include "Core/Sampling/Sampler.h"
+#include "Model/PublishedState.h"
 #include "Platform/Platform.h"
 
-#include <QCoroTask>
-#include <QObject>
-
-#include <optional>
-
-class ActionLog;
-class Sampler;
 class ServerWatch;
-struct PublishedState;
 
 /// What the user can have done to processes and to memory; all but `quitServer` is on record when it is done.
 class ProcessActions : public QObject, public SafeRelief {

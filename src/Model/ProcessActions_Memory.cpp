@@ -1,7 +1,5 @@
 #include "Model/ProcessActions.h"
 
-#include "Core/ActionLog/ActionLog.h"
-
 #include <QPointer>
 
 using namespace Qt::StringLiterals;

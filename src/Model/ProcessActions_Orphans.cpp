@@ -1,10 +1,7 @@
 #include "Model/ProcessActions.h"
 
-#include "Core/ActionLog/ActionLog.h"
 #include "Core/Mcp/ServerWatch.h"
 #include "Core/Sampling/ProcessFilter.h"
-#include "Core/Sampling/Sampler.h"
-#include "Model/PublishedState.h"
 #include "Platform/Identity.h"
 
 using namespace Qt::StringLiterals;

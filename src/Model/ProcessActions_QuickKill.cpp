@@ -1,9 +1,6 @@
 #include "Model/ProcessActions.h"
 
-#include "Core/ActionLog/ActionLog.h"
 #include "Core/Sampling/ProcessFilter.h"
-#include "Core/Sampling/Sampler.h"
-#include "Model/PublishedState.h"
 #include "Platform/Identity.h"
 
 using namespace Qt::StringLiterals;

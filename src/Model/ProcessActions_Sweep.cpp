@@ -1,8 +1,5 @@
 #include "Model/ProcessActions.h"
 
-#include "Core/ActionLog/ActionLog.h"
-#include "Core/Sampling/Sampler.h"
-#include "Model/PublishedState.h"
 #include "Platform/Applications.h"
 #include "Platform/Identity.h"
 
