@@ -132,12 +132,3 @@ TEST_F(FreeRAMTest, AModelThatIsGoneEndsTheRun) {
     EXPECT_EQ(outcomesOf(QCoro::waitFor(run)), QStringList(u"quit"_s));
     EXPECT_TRUE(tools->requests.isEmpty());
 }
-
-TEST_F(FreeRAMTest, TheModelKeepsTheNewest200AndTheFileAll) {
-    for (int i = 0; i < 203; ++i)
-        model->actionLog().record(ActionLogEntry::Kind::clean, QString::number(i), 0, true);
-    ASSERT_EQ(model->actionLog().entries().size(), 200);
-    EXPECT_EQ(model->actionLog().entries().first().detail, u"202"_s);
-    EXPECT_EQ(model->actionLog().entries().last().detail, u"3"_s);
-    EXPECT_EQ(ActionLogReader::read().size(), 203);
-}

@@ -19,7 +19,7 @@ void ActionLog::log(const ActionLogEntry& entry) {
     if (entries.size() > newestKept)
         entries.resize(newestKept);
     publish(m_entries, std::move(entries));
-    Cleaner::appendActionLog(entry);
+    ActionLogFile::append(entry);
 }
 
 void ActionLog::record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) {

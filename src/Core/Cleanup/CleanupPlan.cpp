@@ -156,7 +156,7 @@ ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milli
 }
 
 QString CleanupPlan::keptFolder() {
-    return QFileInfo(Cleaner::actionLogPath()).path();
+    return QFileInfo(ActionLogFile::path()).path();
 }
 
 CleanupPlan::ListingReader::ListingReader(QByteArrayView listing)
