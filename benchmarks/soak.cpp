@@ -48,7 +48,7 @@ public:
     explicit Visit(int ticks)
         : m_run(ticks, [this] { return tables(); }) {
         scriptCaches();
-        m_model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+        m_model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
         m_window.show();
         m_widget.show(m_model);
         m_desktop.popover->show({});
@@ -110,7 +110,7 @@ private:
 
     void useCleanup(int tick) {
         if (tick == 610)
-            m_model.rescanCaches();
+            m_model.cleanup().rescan();
         else if (tick == 640)
             only<CacheCard>(m_window).click();
         else if (tick == 680)
@@ -153,7 +153,7 @@ private:
             m_messages.refresh();
         }
         if (tick % 5 == 0)
-            m_model.record(ActionLogEntry::Kind::quit, QStringLiteral("A process"), 0, true);
+            m_model.actionLog().record(ActionLogEntry::Kind::quit, QStringLiteral("A process"), 0, true);
         m_feed->requests.clear();
         m_machine.fakes.tools->requests.clear();
         m_machine.fakes.relief->requests.clear();
@@ -178,7 +178,7 @@ private:
             {.name = "objects", .value = double(objects), .margin = 40},
             {.name = "history", .value = double(m_model.systemHistory().size())},
             {.name = "processes", .value = double(m_model.processes().size())},
-            {.name = "actions", .value = double(m_model.actionLog().size())},
+            {.name = "actions", .value = double(m_model.actionLog().entries().size())},
             {.name = "servers", .value = double(m_model.mcpReport().live.size()), .margin = 10},
             {.name = "alerts", .value = double(m_model.alerts().size()), .margin = 10},
             {.name = "table_rows", .value = double(rows.rowCount()), .margin = 50},

@@ -64,7 +64,7 @@ Preferences& Preferences::shared() {
 }
 
 Preferences::Preferences(const QString& iniFile, QObject* parent)
-    : QObject(parent)
+    : Observable(parent)
     , m_file(iniFile) {}
 
 int Preferences::historyRetentionSamples() const {

@@ -27,10 +27,10 @@ const QString nothingLeft = u"quit [orphan MCPs] killed=0/2 ok"_s;
 TEST_F(OrphansTest, OnlyTheUsersOrphansLargestFirst) {
     EXPECT_EQ(model->mcpReport().live.size(), 5);
     signalSender->end(1);
-    EXPECT_EQ(model->killOrphanMCPs(false), 1);
+    EXPECT_EQ(model->actions().killOrphanMCPs(false), 1);
     EXPECT_EQ(signalSender->sent(), (QList<FakeSignals::Sent>{{2, Signal::terminate, 1}}));
     signalSender->start(1);
-    EXPECT_EQ(model->killOrphanMCPs(true), 2);
+    EXPECT_EQ(model->actions().killOrphanMCPs(true), 2);
     EXPECT_EQ(signalSender->sent().mid(1),
               (QList<FakeSignals::Sent>{{2, Signal::kill, 1}, {1, Signal::kill, 2}}));
     EXPECT_EQ(logged(), (QStringList{u"forceKill [orphan MCPs] killed=2/2 ok"_s,
@@ -47,7 +47,7 @@ TEST_F(OrphansTest, TheReportFollowsTheTick) {
     fakes.power->lowPower = false;
     tick();
     EXPECT_EQ(model->mcpReport().orphanCount(), 2);
-    EXPECT_EQ(model->killOrphanMCPs(false), 0);
+    EXPECT_EQ(model->actions().killOrphanMCPs(false), 0);
     EXPECT_EQ(logged().first(), u"quit [orphan MCPs] killed=0/0 ok"_s);
 }
 
@@ -78,7 +78,7 @@ TEST_F(OrphansTest, OffStopsAndOnAgainRunsAnotherPass) {
 }
 
 TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
-    AutoOptimizer optimizer(*model, fakes.relief);
+    AutoOptimizer optimizer(model->actions(), model->actionLog());
     const auto* timer = optimizer.findChild<QTimer*>();
     ASSERT_NE(timer, nullptr);
     EXPECT_FALSE(timer->isActive());

@@ -191,6 +191,34 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
     EXPECT_EQ(pass(false)[0].parentPid, 1);
 }
 
+TEST_F(SamplerTest, AGroupIsFoundWithTheTextsAndKept) {
+    int asked = 0;
+    ProcGroup ofEditors = ProcGroup::ides;
+    Sampler grouping(fakes.platform(), [&](const ProcSample& process) {
+        ++asked;
+        return process.name == QStringLiteral("vim") ? ofEditors : ProcGroup::terminals;
+    });
+    fakes.processes->add(10, {.path = "/bin/sh", .name = "sh"});
+    const auto pass = [&] {
+        burn(10, 0.001);
+        fakes.clock->advance(2);
+        return grouping.sampleProcesses().value(0).group;
+    };
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(pass(), ProcGroup::terminals);
+    EXPECT_EQ(asked, 1);
+    fakes.processes->processes[10].path = "/bin/vim";
+    fakes.processes->processes[10].name = "vim";
+    for (int i = 0; i < 3; ++i)
+        pass();
+    EXPECT_EQ(pass(), ProcGroup::ides);
+    EXPECT_EQ(asked, 2);
+    ofEditors = ProcGroup::agents;
+    EXPECT_EQ(pass(), ProcGroup::ides);
+    grouping.classifyAnew();
+    EXPECT_EQ(pass(), ProcGroup::agents);
+}
+
 TEST_F(SamplerTest, ALookAgainSeesTheSameProcessOrNone) {
     fakes.processes->add(10, {.name = "sh", .info = KernelProcessInfo{.parentPid = 3, .startTicks = 5}});
     const ProcSample listed = only();

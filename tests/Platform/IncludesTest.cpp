@@ -53,9 +53,9 @@ QList<Include> includesOf(const SourceTree& tree) {
 /// The floor that a file stands on, counted from the ground; empty for a file that has no place.
 std::optional<int> floorOf(const QString& file) {
     static const QList<std::pair<QString, int>> floors = {
-        {u"Platform/"_s, 0},    {u"Tools/"_s, 0},     {u"Core/"_s, 1},
-        {u"Preferences."_s, 1}, {u"AppModel"_s, 2},   {u"UI/"_s, 3},
-        {u"main."_s, 4},        {u"TavrinApp."_s, 4}, {u"AppDelegate."_s, 4},
+        {u"Platform/"_s, 0},  {u"Tools/"_s, 0},       {u"Core/"_s, 1}, {u"Preferences."_s, 1},
+        {u"Model/"_s, 2},     {u"AppModel."_s, 2},    {u"UI/"_s, 3},   {u"main."_s, 4},
+        {u"TavrinApp."_s, 4}, {u"AppDelegate."_s, 4},
     };
     for (const auto& [start, floor] : floors) {
         if (file.startsWith(start))

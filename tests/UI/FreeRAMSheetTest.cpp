@@ -16,7 +16,7 @@ struct FreeRAMSheetTest : ModelFixture {
     QWidget window;
     QPointer<FreeRAMSheet> sheet;
 
-    FreeRAMSheetTest() { model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
+    FreeRAMSheetTest() { model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
     ~FreeRAMSheetTest() override { delete sheet; }
 
     /// Agents of 400, 401, ... MiB, idle for 20 minutes.

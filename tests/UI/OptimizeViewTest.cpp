@@ -150,7 +150,7 @@ TEST_F(OptimizeViewTest, CleanAllAsksOnceUnlessToldNotTo) {
     fillNpmFolder();
     show();
     EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
-    QCoro::waitFor(model.rescanCaches());
+    QCoro::waitFor(model.cleanup().rescan());
     tick();
     EXPECT_TRUE(showsText(view, u"2 MB reclaimable across %1 targets"_s.arg(CacheTarget::defaults().size())));
     press(view, u"Clean All"_s);
@@ -167,7 +167,7 @@ TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
     fillNpmFolder();
     prefs.askBeforeCleaningAll.set(false);
     show();
-    QCoro::waitFor(model.rescanCaches());
+    QCoro::waitFor(model.cleanup().rescan());
     tick();
     fakes.tools->held = true;
     press(view, u"Clean All"_s);

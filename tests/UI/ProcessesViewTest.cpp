@@ -278,6 +278,8 @@ TEST_F(ProcessesViewTest, ARowsMenuPutsItsProgramIntoAGroup) {
     EXPECT_EQ(choose(0, u"Docker && Containers"_s), u"As detected"_s);
     EXPECT_EQ(column(u"Group"_s), (QStringList{u"Docker & Containers"_s, u"Terminals"_s}));
     EXPECT_EQ(model.groups()[4].count, 1);
+    tick();
+    EXPECT_EQ(model.groups()[4].count, 1) << "it lasts";
     const AppModel again(fakes.platform(), prefs);
     EXPECT_EQ(again.chosenGroup(model.processes()[0]), ProcGroup::containers);
     EXPECT_EQ(choose(0, u"As detected"_s), u"Docker && Containers"_s);

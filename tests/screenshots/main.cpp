@@ -236,11 +236,12 @@ void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     camera.take(window, u"optimize-cleaning"_s);
     scroll->setValue(0);
     window.findChild<RootView*>()->select(RootView::Tab::cleanup);
-    stage.model.cancelCleaning();
+    stage.model.cleanup().cancel();
     stage.fakes.tools->held = false;
     for (const ToolRequest& request : QList<ToolRequest>(stage.fakes.tools->requests))
         stage.fakes.tools->release(request.arguments.last());
-    QTest::qWaitFor([&stage] { return !stage.model.isCleaning() && !stage.model.isScanning(); });
+    QTest::qWaitFor(
+        [&stage] { return !stage.model.cleanup().isCleaning() && !stage.model.cleanup().isScanning(); });
     stage.play(1, 24, 8.1);
     camera.take(window, u"cleanup-cancelled"_s);
 }
@@ -258,7 +259,7 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     }
     scriptCaches(stage);
     addServers(stage);
-    QCoro::waitFor(stage.model.rescanCaches());
+    QCoro::waitFor(stage.model.cleanup().rescan());
     stage.play(90, 24, 8.1);
     camera.take(window, u"cleanup"_s);
     for (const auto& [target, name] : {std::pair(u"npm /"_s, u""_s), std::pair(u"Docker"_s, u"-docker"_s),
@@ -311,7 +312,7 @@ void shootFreeRAM(Camera& camera) {
     stage.play(150, 24, 13.1);
     stage.fakes.clock->advance(1500);
     stage.play(1, 24, 13.1);
-    stage.model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+    stage.model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     auto* sheet = new FreeRAMSheet(stage.model, nullptr);
     camera.take(*sheet, u"free-ram"_s);
     stage.fakes.host->memory.activeBytes -= 900 * MiB;

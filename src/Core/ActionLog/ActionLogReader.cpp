@@ -103,7 +103,7 @@ QString LoggedAction::id() const {
 }
 
 QString ActionLogReader::path() {
-    return Cleaner::actionLogPath();
+    return ActionLogFile::path();
 }
 
 QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
@@ -116,7 +116,7 @@ QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
 
 QList<LoggedAction> ActionLogReader::read() {
     QFile file(path());
-    const bool isReadable = !Cleaner::isActionLogObstructed() && file.open(QIODevice::ReadOnly);
+    const bool isReadable = !ActionLogFile::isObstructed() && file.open(QIODevice::ReadOnly);
     return isReadable ? parse(file.readAll()) : QList<LoggedAction>();
 }
 
@@ -137,6 +137,6 @@ QString ActionLogReader::exportCSV() {
 
 void ActionLogReader::clear() {
     QFile file(path());
-    if (!Cleaner::isActionLogObstructed())
+    if (!ActionLogFile::isObstructed())
         file.open(QIODevice::WriteOnly | QIODevice::Truncate);
 }

@@ -38,7 +38,7 @@ MessageCenter& MessageCenter::shared() {
 
 MessageCenter::MessageCenter(std::unique_ptr<FeedSource> source, SettingsFile& settings, QUrl url,
                              QObject* parent)
-    : QObject(parent)
+    : Observable(parent)
     , m_feedURL(std::move(url))
     , m_settings(settings)
     , m_source(std::move(source)) {
@@ -83,8 +83,7 @@ void MessageCenter::recompute() {
         if (outranks && isEligible(message, version))
             chosen = &message;
     }
-    Q_EMIT objectWillChange();
-    m_currentMessage = chosen ? std::optional(*chosen) : std::nullopt;
+    publish(m_currentMessage, chosen ? std::optional(*chosen) : std::nullopt);
 }
 
 bool MessageCenter::isEligible(const Message& message, const QString& version) const {

@@ -195,11 +195,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
 }
 
 QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
-    ToolRequest request;
-    request.launchPath = u"/bin/sh"_s;
-    request.arguments = QStringList{u"-lc"_s, command};
-    request.captureOutput = true;
-    request.terminateAfter = containerReportLimit;
+    const ToolRequest request = CleanupPlan::shellRequest(command, containerReportLimit);
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;
 }

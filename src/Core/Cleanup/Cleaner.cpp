@@ -33,11 +33,8 @@ void reportFailure(const char* step, const QString& what, const ToolResult& resu
 const auto done = u"tavrin: done"_s;
 
 QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
-    ToolRequest request;
-    request.launchPath = u"/bin/sh"_s;
-    request.arguments = QStringList{u"-lc"_s, command + u" && echo '"_s + done + u'\''};
-    request.captureOutput = true;
-    request.terminateAfter = CleanupPlan::longest;
+    const QString reported = command + u" && echo '"_s + done + u'\'';
+    ToolRequest request = CleanupPlan::shellRequest(reported, CleanupPlan::longest);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     const bool isDone = result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
@@ -122,11 +119,7 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared
 
 QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
                                              std::stop_token stop) {
-    ToolRequest request;
-    request.launchPath = u"/usr/bin/du"_s;
-    request.arguments = {u"-sk"_s, u"-x"_s, path};
-    request.captureOutput = true;
-    request.terminateAfter = CleanupPlan::longest;
+    ToolRequest request = CleanupPlan::measureRequest(path);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     co_return reportedBytes(result.output);

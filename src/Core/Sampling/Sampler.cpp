@@ -56,11 +56,12 @@ quint64 busy(const CpuTicks& ticks) {
 
 } // namespace
 
-Sampler::Sampler(const Platform& platform)
+Sampler::Sampler(const Platform& platform, Classifier classifier)
     : host(platform.host)
     , table(platform.processes)
     , clock(platform.clock)
-    , applications(platform.applications) {}
+    , applications(platform.applications)
+    , classify(std::move(classifier)) {}
 
 SystemSample Sampler::sample() {
     SystemSample sample;
@@ -135,7 +136,7 @@ QList<ProcSample> Sampler::sampleProcesses() {
                        .threads = task->threads,
                        .startTime = meta.startTime,
                        .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
-                       .group = ProcGroup::other,
+                       .group = meta.group,
                        .program = meta.program});
     }
     evictUnseen();
@@ -247,7 +248,21 @@ Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
     StaticMeta meta = metaOf(pid, table->origin(pid), now);
     for (QString* text : {&meta.path, &meta.name, &meta.args, &meta.program})
         *text = interned(*text);
+    meta.group = groupOf(meta);
     return meta;
+}
+
+ProcGroup Sampler::groupOf(const StaticMeta& meta) const {
+    return classify ? classify({.name = meta.name,
+                                .executablePath = meta.path,
+                                .arguments = meta.args,
+                                .program = meta.program})
+                    : ProcGroup::other;
+}
+
+void Sampler::classifyAnew() {
+    for (Known& process : known)
+        process.staticCache.group = groupOf(process.staticCache);
 }
 
 /// `now` is the start of a process whose own is not known.

@@ -9,6 +9,7 @@
 
 #include <QStringList>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -22,16 +23,24 @@ struct Platform;
 /// Not thread-safe: it lives on the thread of the tick.
 class Sampler {
 public:
-    explicit Sampler(const Platform& platform);
+    /// Says which group a process belongs to by its name, path, arguments and program. It is asked when a
+    /// process is first seen and when one of these has changed.
+    using Classifier = std::function<ProcGroup(const ProcSample&)>;
+
+    /// Without a classifier every process is in the group `other`.
+    explicit Sampler(const Platform& platform, Classifier classifier = {});
 
     /// One reading of the whole machine. A figure that the system refuses is 0. The first reading of a
     /// sampler has no CPU load to report.
     SystemSample sample();
 
-    /// One record per readable process, in the system's order, all in the group `other`. Empty when the
-    /// system's listing fails. A process that took another program, title or parent shows it within three
-    /// passes; its CPU and idle time go on.
+    /// One record per readable process, in the system's order. Empty when the system's listing fails. A
+    /// process that took another program, title or parent shows it within three passes; its CPU and idle time
+    /// go on.
     QList<ProcSample> sampleProcesses();
+
+    /// Asks the classifier anew about every process of the passes to come.
+    void classifyAnew();
 
     /// A listed process as it is now: its texts, owner and parent are asked for anew, its figures are those
     /// of the listing. Empty when it is gone or its id has come to mean another process.
@@ -57,6 +66,7 @@ private:
         QString path;
         QString args;
         QString program;
+        ProcGroup group = ProcGroup::other;
         quint32 uid = 0;
         qint32 ppid = 0;
         Instant startTime;
@@ -75,6 +85,7 @@ private:
     double cpuLoad();
     double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
     StaticMeta lookUp(qint32 pid, Instant now);
+    ProcGroup groupOf(const StaticMeta& meta) const;
     StaticMeta metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const;
     QString procName(qint32 pid, const ProcessOrigin& origin, const QStringList& arguments,
                      const QString& script) const;
@@ -88,6 +99,7 @@ private:
     std::shared_ptr<ProcessTable> table;
     std::shared_ptr<Clock> clock;
     std::shared_ptr<Applications> applications;
+    Classifier classify;
     std::optional<CpuTicks> prevHostCPU;
     QHash<qint32, Known> known; ///< by process id
     QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it

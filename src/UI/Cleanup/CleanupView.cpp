@@ -49,9 +49,9 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     column->addLayout(makeProgress());
     column->addWidget(makeGrid(), 1);
     setAccessibleName(QStringLiteral("Cleanup"));
-    connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.rescanCaches(); });
+    connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
-    connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelCleaning);
+    connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
     observe(&m_model, this, [this] { refresh(); });
 }
 
@@ -120,20 +120,21 @@ void CleanupView::showEvent(QShowEvent* event) {
 void CleanupView::refresh() {
     if (!isOnScreen(this))
         return;
+    const CacheCleanup& cleanup = m_model.cleanup();
     refreshCards();
     refreshProgress();
     m_total->setPlainText(QStringLiteral("Reclaimable: ") +
-                          Formatters::bytes(CleanupPlan::totalBytes(m_model.cacheTargets())));
+                          Formatters::bytes(CleanupPlan::totalBytes(cleanup.targets())));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
-    m_rescan->setEnabled(!m_model.isScanning());
+    m_rescan->setEnabled(!cleanup.isScanning());
     m_cleanAll->setBusy(m_cleaningAll);
-    m_cleanAll->setEnabled(!m_cleaningAll && !m_model.isCleaning() && !m_model.targetsToClean().isEmpty());
+    m_cleanAll->setEnabled(!m_cleaningAll && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
 }
 
 void CleanupView::refreshCards() {
-    const QList<CacheTarget>& targets = m_model.cacheTargets();
+    const QList<CacheTarget>& targets = m_model.cleanup().targets();
     while (m_cards.size() < targets.size()) {
         auto* card = new CacheCard;
         m_grid->addWidget(card);
@@ -145,26 +146,27 @@ void CleanupView::refreshCards() {
 }
 
 void CleanupView::refreshProgress() {
-    const bool isBusy = m_model.isCleaning() || m_model.isScanning();
-    const QString unfinished = CleanupTexts::unfinished(m_model.cleanReport());
-    if (m_model.isCleaning())
+    const CacheCleanup& cleanup = m_model.cleanup();
+    const bool isBusy = cleanup.isCleaning() || cleanup.isScanning();
+    const QString unfinished = CleanupTexts::unfinished(cleanup.report());
+    if (cleanup.isCleaning())
         m_progress->setPlainText(CleanupTexts::progress(
-            m_model.cleanReport().wasCancelled ? QStringLiteral("Cancelling") : QStringLiteral("Cleaning"),
-            *m_model.cleanProgress()));
-    else if (m_model.isScanning())
+            cleanup.report().wasCancelled ? QStringLiteral("Cancelling") : QStringLiteral("Cleaning"),
+            *cleanup.cleanProgress()));
+    else if (cleanup.isScanning())
         m_progress->setPlainText(
-            CleanupTexts::progress(QStringLiteral("Measuring"), *m_model.scanProgress()));
+            CleanupTexts::progress(QStringLiteral("Measuring"), *cleanup.scanProgress()));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy);
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
-    m_cancel->setVisible(m_model.isCleaning());
+    m_cancel->setVisible(cleanup.isCleaning());
 }
 
 void CleanupView::open(const CacheTarget& target) {
     m_selected = target.name;
     auto* drawer = new CacheDetailDrawer(target, window());
-    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model, &AppModel::clean);
+    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model.cleanup(), &CacheCleanup::clean);
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();
@@ -177,7 +179,7 @@ void CleanupView::open(const CacheTarget& target) {
 }
 
 void CleanupView::confirmCleanAll() {
-    CleanupConfirmation::askAll(window(), this, m_model.targetsToClean(),
+    CleanupConfirmation::askAll(window(), this, m_model.cleanup().targetsToClean(),
                                 [this](const QList<CacheTarget>& targets) { cleanAll(targets); });
 }
 
@@ -186,11 +188,11 @@ void CleanupView::cleanAll(const QList<CacheTarget>& targets) {
         return;
     m_cleaningAll = true;
     refresh();
-    m_model.cleanAll(targets).then(
+    m_model.cleanup().cleanAll(targets).then(
         [self = QPointer<CleanupView>(this), asked = targets.size()](std::pair<int, quint64> cleaned) {
             if (!self)
                 return;
-            const CleanupReport& report = self->m_model.cleanReport();
+            const CleanupReport& report = self->m_model.cleanup().report();
             self->m_cleaningAll = false;
             self->m_wasCancelled = report.wasCancelled;
             self->m_lastCleanResult = CleanupTexts::outcome(asked, cleaned, report);

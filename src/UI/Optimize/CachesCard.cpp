@@ -1,6 +1,6 @@
 #include "UI/Optimize/CachesCard.h"
 
-#include "AppModel.h"
+#include "Core/Cleanup/CacheCleanup.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "UI/Cleanup/CleanupTexts.h"
@@ -60,19 +60,19 @@ CachesCard::Chip CachesCard::makeChip() const {
     return chip;
 }
 
-void CachesCard::refresh(const AppModel& model) {
-    const QList<CacheTarget>& targets = model.cacheTargets();
-    if (model.isCleaning())
-        setSubtitle(CleanupTexts::progress(model.cleanReport().wasCancelled ? QStringLiteral("Cancelling")
-                                                                            : QStringLiteral("Cleaning"),
-                                           *model.cleanProgress()));
+void CachesCard::refresh(const CacheCleanup& cleanup) {
+    const QList<CacheTarget>& targets = cleanup.targets();
+    if (cleanup.isCleaning())
+        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? QStringLiteral("Cancelling")
+                                                                         : QStringLiteral("Cleaning"),
+                                           *cleanup.cleanProgress()));
     else
         setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")
                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);
-    m_cancel->setVisible(model.isCleaning());
-    m_clean->setEnabled(!m_cleaning && !model.isCleaning() && !model.targetsToClean().isEmpty());
+    m_cancel->setVisible(cleanup.isCleaning());
+    m_clean->setEnabled(!m_cleaning && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
 }
 
 void CachesCard::refreshChips(QList<CacheTarget> targets) {

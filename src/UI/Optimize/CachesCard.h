@@ -3,7 +3,7 @@
 #include "Core/Cleanup/CacheTarget.h"
 #include "UI/Optimize/OptimizeCard.h"
 
-class AppModel;
+class CacheCleanup;
 class PushButton;
 
 /// The largest caches, and the button that cleans all of them.
@@ -13,7 +13,7 @@ class CachesCard : public OptimizeCard {
 public:
     explicit CachesCard(QWidget* parent = nullptr);
 
-    void refresh(const AppModel& model);
+    void refresh(const CacheCleanup& cleanup);
     /// Of a run that this page began, with the measuring after it.
     void setCleaning(bool cleaning);
 

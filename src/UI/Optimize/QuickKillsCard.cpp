@@ -1,6 +1,6 @@
 #include "UI/Optimize/QuickKillsCard.h"
 
-#include "AppModel.h"
+#include "Model/ProcessActions.h"
 #include "UI/Optimize/PresetTile.h"
 
 #include <QGridLayout>
@@ -22,7 +22,7 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
     content()->addLayout(m_grid);
 }
 
-void QuickKillsCard::refresh(const AppModel& model, const QList<QuickKillPreset>& presets) {
+void QuickKillsCard::refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets) {
     while (m_tiles.size() > presets.size())
         delete m_tiles.takeLast();
     while (m_tiles.size() < presets.size()) {
@@ -34,6 +34,7 @@ void QuickKillsCard::refresh(const AppModel& model, const QList<QuickKillPreset>
     }
     for (qsizetype i = 0; i < presets.size(); ++i) {
         const QuickKillPreset& preset = presets[i];
-        m_tiles[i]->set(preset, model.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
+        m_tiles[i]->set(preset,
+                        actions.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
     }
 }

@@ -3,8 +3,8 @@
 #include "Core/Relief/QuickKillPreset.h"
 #include "UI/Optimize/OptimizeCard.h"
 
-class AppModel;
 class PresetTile;
+class ProcessActions;
 class QGridLayout;
 
 /// One tile per preset, two abreast.
@@ -14,7 +14,7 @@ class QuickKillsCard : public OptimizeCard {
 public:
     explicit QuickKillsCard(QWidget* parent = nullptr);
 
-    void refresh(const AppModel& model, const QList<QuickKillPreset>& presets);
+    void refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets);
 
 Q_SIGNALS:
     void killRequested(const QuickKillPreset& preset);

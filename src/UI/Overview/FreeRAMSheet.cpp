@@ -133,13 +133,13 @@ QLayout* FreeRAMSheet::makeSelectionBar() {
 }
 
 void FreeRAMSheet::preselect() {
-    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
     for (const FreeRamPreview& candidate : m_candidates.mid(0, preselected))
         m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
 }
 
 void FreeRAMSheet::refresh() {
-    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
     forgetEnded();
     refreshRows();
     refreshButtons();
@@ -232,10 +232,12 @@ void FreeRAMSheet::start() {
     m_running = true;
     m_result->hide();
     refresh();
-    m_model.freeRAM(tickedPids()).then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
-        if (self)
-            self->finish(result);
-    });
+    m_model.actions()
+        .freeRAM(tickedPids())
+        .then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
+            if (self)
+                self->finish(result);
+        });
 }
 
 void FreeRAMSheet::finish(const FreeRAMResult& result) {

@@ -2,7 +2,6 @@
 
 #include "Core/Instant.h"
 #include "Core/Relief/FreeRAM.h"
-#include "Platform/Clock.h"
 
 #include <QDialog>
 #include <QHash>

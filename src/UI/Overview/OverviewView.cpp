@@ -83,8 +83,8 @@ QLayout* OverviewView::makeGroups() {
         auto* row = new GroupRow(group);
         row->hide();
         connect(row, &GroupRow::toggled, this, [this, group] { toggle(group); });
-        connect(row, &GroupRow::quitRequested, &m_model, &AppModel::quitProcess);
-        connect(row, &GroupRow::forceKillRequested, &m_model, &AppModel::forceKillProcess);
+        connect(row, &GroupRow::quitRequested, &m_model.actions(), &ProcessActions::quitProcess);
+        connect(row, &GroupRow::forceKillRequested, &m_model.actions(), &ProcessActions::forceKillProcess);
         column->addWidget(row);
         m_groupRows.append(row);
     }
@@ -138,7 +138,7 @@ void OverviewView::quitAlerted(qint32 pid) {
     ProcSample named;
     named.pid = pid;
     const ProcSample* process = m_model.process(pid);
-    m_model.quitProcess(process ? *process : named);
+    m_model.actions().quitProcess(process ? *process : named);
 }
 
 void OverviewView::toggle(ProcGroup group) {

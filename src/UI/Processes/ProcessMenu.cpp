@@ -37,12 +37,12 @@ void ProcessMenu::addButtons(QMenu& menu, const ProcessTableRow& row, bool isGro
 }
 
 void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {
-    const auto application = m_model.applicationOf(processesOf(row));
+    const auto application = m_model.actions().applicationOf(processesOf(row));
     if (!application)
         return;
     menu.addSeparator();
     menu.addAction(entryText(QStringLiteral("Quit %1…").arg(*application)), this, [this, application] {
-        const NukePreview preview = m_model.previewForApplication(*application);
+        const NukePreview preview = m_model.actions().previewForApplication(*application);
         if (preview.parentAppName) // it may have ended while the menu was open
             Q_EMIT quitRequested(preview);
     });

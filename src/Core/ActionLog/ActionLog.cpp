@@ -1,4 +1,4 @@
-#include "AppModel.h"
+#include "Core/ActionLog/ActionLog.h"
 
 #include "Core/ActionLog/ActionLogFile.h"
 #include "Core/Formatters.h"
@@ -10,18 +10,21 @@ constexpr qsizetype newestKept = 200;
 
 } // namespace
 
-void AppModel::log(const ActionLogEntry& entry) {
-    QList<ActionLogEntry> entries = m_actionLog;
+ActionLog::ActionLog(std::shared_ptr<Clock> clock)
+    : m_clock(std::move(clock)) {}
+
+void ActionLog::log(const ActionLogEntry& entry) {
+    QList<ActionLogEntry> entries = m_entries;
     entries.prepend(entry);
     if (entries.size() > newestKept)
         entries.resize(newestKept);
-    publish(m_actionLog, std::move(entries));
-    Cleaner::appendActionLog(entry);
+    publish(m_entries, std::move(entries));
+    ActionLogFile::append(entry);
 }
 
-void AppModel::record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) {
+void ActionLog::record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success) {
     log({.id = QUuid::createUuid(),
-         .timestamp = m_platform.clock->now(),
+         .timestamp = m_clock->now(),
          .kind = kind,
          .detail = Formatters::visible(detail), // a name from outside could forge a line
          .freedBytes = freedBytes,

@@ -1,5 +1,6 @@
-#include "AppModel.h"
+#include "Core/Cleanup/CacheCleanup.h"
 
+#include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheScanner.h"
 #include "Platform/Clock.h"
 
@@ -7,43 +8,47 @@
 
 using namespace Qt::StringLiterals;
 
-QCoro::Task<> AppModel::rescanCaches() {
-    const QPointer<AppModel> self(this);
+CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log)
+    : m_platform(platform)
+    , m_log(log) {}
+
+QCoro::Task<> CacheCleanup::rescan() {
+    const QPointer<CacheCleanup> self(this);
     const int scan = ++m_scansBegun;
-    const int total = static_cast<int>(m_cacheTargets.size());
-    const QString first = total > 0 ? m_cacheTargets.first().name : QString();
+    const int total = static_cast<int>(m_targets.size());
+    const QString first = total > 0 ? m_targets.first().name : QString();
     publish(m_scanProgress, std::optional(CleanupProgress{first, 0, total}));
 
     CacheScanner scanner(m_platform, [self, scan](const CleanupProgress& progress) {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
     });
-    auto scanning = scanner.scan(m_cacheTargets);
+    auto scanning = scanner.scan(m_targets);
     const QList<CacheTarget> measured = co_await scanning;
     if (!self || m_scansBegun != scan)
         co_return;
-    publish(m_cacheTargets, measured);
+    publish(m_targets, measured);
     publish(m_scanProgress, std::optional<CleanupProgress>());
 }
 
-void AppModel::expectCleans(int count) {
+void CacheCleanup::expectCleans(int count) {
     if (!m_cleanProgress)
-        publish(m_cleanReport, CleanupReport{});
+        publish(m_report, CleanupReport{});
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
     progress.total += count;
     if (progress.total > 0)
         publish(m_cleanProgress, std::optional(progress));
 }
 
-void AppModel::countCleans(int done) {
+void CacheCleanup::countCleans(int done) {
     CleanupProgress progress = *m_cleanProgress;
     progress.done += done;
     publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
 }
 
-QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString logDetail,
-                                                     std::stop_token stop) {
-    const QPointer<AppModel> self(this);
+QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(CacheTarget target, QString logDetail,
+                                                         std::stop_token stop) {
+    const QPointer<CacheCleanup> self(this);
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
@@ -56,42 +61,42 @@ QCoro::Task<Cleaner::CleanResult> AppModel::cleanOne(CacheTarget target, QString
     if (!result.done)
         reportFailure({target.name, result.reason});
     countCleans(1);
-    record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);
+    m_log.record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);
     co_return result;
 }
 
-void AppModel::reportFailure(const CleanupFailure& failure) {
-    CleanupReport report = m_cleanReport;
+void CacheCleanup::reportFailure(const CleanupFailure& failure) {
+    CleanupReport report = m_report;
     report.failures.append(failure);
-    publish(m_cleanReport, report);
+    publish(m_report, report);
 }
 
-void AppModel::cancelCleaning() {
-    CleanupReport report = m_cleanReport;
+void CacheCleanup::cancel() {
+    CleanupReport report = m_report;
     report.wasCancelled = isCleaning();
-    publish(m_cleanReport, report);
+    publish(m_report, report);
     std::exchange(m_cleaning, std::stop_source()).request_stop();
 }
 
-QCoro::Task<> AppModel::clean(CacheTarget target) {
-    const QPointer<AppModel> self(this);
+QCoro::Task<> CacheCleanup::clean(CacheTarget target) {
+    const QPointer<CacheCleanup> self(this);
     expectCleans(1);
     auto cleaning = cleanOne(target, target.name, m_cleaning.get_token());
     co_await cleaning;
     if (!self)
         co_return;
-    auto rescan = rescanCaches();
-    co_await rescan;
+    auto scanning = rescan();
+    co_await scanning;
 }
 
-QList<CacheTarget> AppModel::targetsToClean() const {
-    QList<CacheTarget> targets = m_cacheTargets;
+QList<CacheTarget> CacheCleanup::targetsToClean() const {
+    QList<CacheTarget> targets = m_targets;
     targets.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
     return targets;
 }
 
-QCoro::Task<std::pair<int, quint64>> AppModel::cleanAll(QList<CacheTarget> targets) {
-    const QPointer<AppModel> self(this);
+QCoro::Task<std::pair<int, quint64>> CacheCleanup::cleanAll(QList<CacheTarget> targets) {
+    const QPointer<CacheCleanup> self(this);
     expectCleans(static_cast<int>(targets.size()));
     const std::stop_token stop = m_cleaning.get_token();
 
@@ -110,7 +115,7 @@ QCoro::Task<std::pair<int, quint64>> AppModel::cleanAll(QList<CacheTarget> targe
             total.second += result.freedBytes;
         }
     }
-    auto rescan = rescanCaches();
-    co_await rescan;
+    auto scanning = rescan();
+    co_await scanning;
     co_return total;
 }

@@ -1,4 +1,4 @@
-#include "AppModel.h"
+#include "Model/ProcessActions.h"
 
 #include "Core/Sampling/ProcessFilter.h"
 #include "Platform/Identity.h"
@@ -68,10 +68,10 @@ bool isWorthOffering(const ProcSample& process) {
 
 } // namespace
 
-QList<FreeRamPreview> AppModel::freeRamCandidates(double minIdleMin, double minRSSMB) const {
+QList<FreeRamPreview> ProcessActions::freeRamCandidates(double minIdleMin, double minRSSMB) const {
     const ProcessFilter filter(*m_platform.identity, minIdleMin, minRSSMB);
     QList<FreeRamPreview> candidates;
-    for (const ProcSample& process : m_processes) {
+    for (const ProcSample& process : m_state.processes) {
         if (filter.accepts(process) && isWorthOffering(process)) {
             candidates.append({.pid = process.pid,
                                .name = process.name,
@@ -84,15 +84,15 @@ QList<FreeRamPreview> AppModel::freeRamCandidates(double minIdleMin, double minR
     return candidates.mid(0, mostCandidates);
 }
 
-QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
-    const QPointer<AppModel> self(this);
-    const quint64 usedBefore = m_systemSample.memUsedBytes;
+QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
+    const QPointer<ProcessActions> self(this);
+    const quint64 usedBefore = m_state.systemSample.memUsedBytes;
     FreeRAMResult result;
     Handles handles;
     for (const qint32 pid : pids)
-        handles.append(hold(pid));
+        handles.append(m_gate.hold(pid));
     for (qsizetype i = 0; i < pids.size(); ++i) {
-        const ProcSample* known = process(pids[i]);
+        const ProcSample* known = m_state.process(pids[i]);
         result.perPid.append({.pid = pids[i],
                               .name = known ? known->name : u"pid %1"_s.arg(pids[i]),
                               .before = known ? known->rssBytes : 0,
@@ -118,6 +118,6 @@ QCoro::Task<FreeRAMResult> AppModel::freeRAM(QList<qint32> pids) {
     const quint64 usedAfter = Sampler(m_platform).sample().memUsedBytes;
     result.freedBytes = usedBefore >= usedAfter ? usedBefore - usedAfter : 0;
     const QString detail = logDetail(result);
-    record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
+    m_log.record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
     co_return result;
 }

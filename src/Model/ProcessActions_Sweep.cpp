@@ -1,4 +1,4 @@
-#include "AppModel.h"
+#include "Model/ProcessActions.h"
 
 #include "Platform/Applications.h"
 #include "Platform/Identity.h"
@@ -8,10 +8,10 @@
 
 using namespace Qt::StringLiterals;
 
-NukePreview AppModel::previewForName(const QString& name) const {
+NukePreview ProcessActions::previewForName(const QString& name) const {
     QList<ProcSample> named;
     NukePreview::Applications applications;
-    for (const ProcSample& process : m_processes) {
+    for (const ProcSample& process : m_state.processes) {
         if (process.name != name || process.pid == m_platform.identity->processId())
             continue;
         named.append(process);
@@ -24,7 +24,7 @@ NukePreview AppModel::previewForName(const QString& name) const {
 }
 
 /// None for this program itself and for the processes of others, which no application of the user's owns.
-std::optional<QString> AppModel::applicationOf(const ProcSample& process) const {
+std::optional<QString> ProcessActions::applicationOf(const ProcSample& process) const {
     if (process.pid == m_platform.identity->processId() || process.uid != m_platform.identity->userId())
         return std::nullopt;
     if (const auto bundle = NukePreview::bundleOf(process.executablePath))
@@ -35,35 +35,35 @@ std::optional<QString> AppModel::applicationOf(const ProcSample& process) const 
                                                              : std::nullopt;
 }
 
-std::optional<QString> AppModel::applicationOf(const QList<ProcSample>& processes) const {
+std::optional<QString> ProcessActions::applicationOf(const QList<ProcSample>& processes) const {
     NukePreview::Applications applications;
     for (const ProcSample& process : processes)
         applications.append(applicationOf(process));
     return NukePreview::common(applications);
 }
 
-QList<ProcSample> AppModel::processesOf(const QString& application) const {
+QList<ProcSample> ProcessActions::processesOf(const QString& application) const {
     QList<ProcSample> owned;
-    for (const ProcSample& process : m_processes) {
+    for (const ProcSample& process : m_state.processes) {
         if (applicationOf(process) == application)
             owned.append(process);
     }
     return owned;
 }
 
-QList<ProcSample> AppModel::inTerminalsOf(const QList<ProcSample>& processes) const {
+QList<ProcSample> ProcessActions::inTerminalsOf(const QList<ProcSample>& processes) const {
     QList<qint32> pids;
     for (const ProcSample& process : processes)
         pids.append(process.pid);
     QList<ProcSample> found;
     for (const qint32 pid : m_platform.applications->inTerminalsOf(pids)) {
-        if (const ProcSample* sample = process(pid))
+        if (const ProcSample* sample = m_state.process(pid))
             found.append(*sample);
     }
     return found;
 }
 
-NukePreview AppModel::previewForApplication(const QString& application) const {
+NukePreview ProcessActions::previewForApplication(const QString& application) const {
     const QList<ProcSample> owned = processesOf(application);
     NukePreview preview =
         NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
@@ -71,23 +71,24 @@ NukePreview AppModel::previewForApplication(const QString& application) const {
     return preview;
 }
 
-QString AppModel::nuke(const NukePreview& preview) {
+QString ProcessActions::nuke(const NukePreview& preview) {
     // The preview may have been on show for long: an id that meanwhile means another process is left alone.
     QList<qint32> same;
     for (qsizetype i = 0; i < preview.pids.size(); ++i) {
-        const ProcSample* running = process(preview.pids[i]);
+        const ProcSample* running = m_state.process(preview.pids[i]);
         if (running && running->name == preview.name && running->startTime == preview.startTimes[i])
             same.append(running->pid);
     }
-    const int killed = signalAll(same, false);
-    record(ActionLogEntry::Kind::quit,
-           u"[nuke duplicates] "_s + preview.name + u" — %1/%2 PIDs"_s.arg(killed).arg(preview.pids.size()),
-           0, true);
+    const int killed = m_gate.signalAll(same, false);
+    m_log.record(ActionLogEntry::Kind::quit,
+                 u"[nuke duplicates] "_s + preview.name +
+                     u" — %1/%2 PIDs"_s.arg(killed).arg(preview.pids.size()),
+                 0, true);
     return preview.killOutcome(killed);
 }
 
-QCoro::Task<QString> AppModel::nukeGracefulApp(NukePreview preview, QString appName, bool force) {
-    const QPointer<AppModel> self(this);
+QCoro::Task<QString> ProcessActions::nukeGracefulApp(NukePreview preview, QString appName, bool force) {
+    const QPointer<ProcessActions> self(this);
     auto asking = m_platform.relief->quitApplication(appName, force);
     const Outcome quit = co_await asking;
     QString outcome = preview.quitOutcome(appName, quit.done);
@@ -97,6 +98,6 @@ QCoro::Task<QString> AppModel::nukeGracefulApp(NukePreview preview, QString appN
     const QString detail = u"[graceful quit] "_s + appName +
                            u" (%1 child PIDs targeted)"_s.arg(preview.pids.size()) +
                            (force ? u" — force"_s : QString());
-    record(kind, detail, 0, quit.done);
+    m_log.record(kind, detail, 0, quit.done);
     co_return outcome;
 }
