@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
+#include "UI/Kit/RowPool.h"
 
 #include <QWidget>
 
@@ -28,6 +29,7 @@ private:
     QWidget* makeGrid();
     void refresh();
     void refreshCards();
+    CacheCard* addCard();
     void refreshProgress();
     void open(const CacheTarget& target);
     void confirmCleanAll();
@@ -48,5 +50,5 @@ private:
     TextLabel* m_unfinished;
     PushButton* m_cancel;
     FlowGrid* m_grid = nullptr;
-    QList<CacheCard*> m_cards;
+    RowPool<CacheCard> m_cards{[this] { return addCard(); }};
 };

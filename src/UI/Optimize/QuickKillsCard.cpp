@@ -23,17 +23,16 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
 }
 
 void QuickKillsCard::refresh(const AppModel& model, const QList<QuickKillPreset>& presets) {
-    while (m_tiles.size() > presets.size())
-        delete m_tiles.takeLast();
-    while (m_tiles.size() < presets.size()) {
-        auto* tile = new PresetTile;
-        const int index = static_cast<int>(m_tiles.size());
-        m_grid->addWidget(tile, index / columns, index % columns);
-        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
-        m_tiles.append(tile);
-    }
-    for (qsizetype i = 0; i < presets.size(); ++i) {
+    m_tiles.show(presets.size(), [&](PresetTile& tile, qsizetype i) {
         const QuickKillPreset& preset = presets[i];
-        m_tiles[i]->set(preset, model.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
-    }
+        tile.set(preset, model.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
+    });
+}
+
+PresetTile* QuickKillsCard::addTile() {
+    auto* tile = new PresetTile;
+    connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
+    const int index = m_grid->count();
+    m_grid->addWidget(tile, index / columns, index % columns);
+    return tile;
 }

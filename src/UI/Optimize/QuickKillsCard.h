@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Relief/QuickKillPreset.h"
+#include "UI/Kit/RowPool.h"
 #include "UI/Optimize/OptimizeCard.h"
 
 class AppModel;
@@ -20,6 +21,8 @@ Q_SIGNALS:
     void killRequested(const QuickKillPreset& preset);
 
 private:
+    PresetTile* addTile();
+
     QGridLayout* m_grid;
-    QList<PresetTile*> m_tiles;
+    RowPool<PresetTile> m_tiles{[this] { return addTile(); }};
 };

@@ -3,6 +3,7 @@
 #include "Core/Instant.h"
 #include "Core/Relief/FreeRAM.h"
 #include "Platform/Clock.h"
+#include "UI/Kit/RowPool.h"
 
 #include <QDialog>
 #include <QHash>
@@ -32,6 +33,7 @@ private:
     void preselect();
     void refresh();
     void refreshRows();
+    CandidateRow* addRow();
     void refreshButtons();
     void forgetEnded();
     void toggle(qint32 pid);
@@ -52,7 +54,7 @@ private:
     LabeledSlider* m_minRSS;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
-    QList<CandidateRow*> m_rows;
+    RowPool<CandidateRow> m_rows{[this] { return addRow(); }};
     PushButton* m_selectAll;
     PushButton* m_clear;
     TextLabel* m_count;
