@@ -38,6 +38,11 @@ constexpr double shadowBlur = 8; // Qt's blur reaches half as far as it says
 WidgetView::WidgetView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
+    , m_groupRows([this] {
+        auto* row = new PanelRow(TextStyle::caption, groupSymbolWidth);
+        m_groupColumn->addWidget(row);
+        return row;
+    })
     , m_alertSection(makeAlert()) {
     setFixedWidth(cardWidth);
     auto* column = new QVBoxLayout(this);
@@ -101,12 +106,6 @@ QLayout* WidgetView::makeGroups() {
     m_groupColumn->addWidget(heading);
     m_groupRows.reserve(shownGroups); // the panel finds its place by the height before the first tick
     return m_groupColumn;
-}
-
-PanelRow* WidgetView::addGroupRow() {
-    auto* row = new PanelRow(TextStyle::caption, groupSymbolWidth);
-    m_groupColumn->addWidget(row);
-    return row;
 }
 
 QWidget* WidgetView::makeAlert() {

@@ -42,7 +42,6 @@ private:
     QLayout* makeHeader();
     QLayout* makeGrid();
     QLayout* makeGroups();
-    PanelRow* addGroupRow();
     QWidget* makeAlert();
     void refresh();
     void refreshGrid();
@@ -55,7 +54,7 @@ private:
     IconButton* m_hide;
     std::array<MiniTile*, 4> m_tiles{};
     QVBoxLayout* m_groupColumn = nullptr;
-    RowPool<PanelRow> m_groupRows{[this] { return addGroupRow(); }};
+    RowPool<PanelRow> m_groupRows;
     QWidget* m_alertSection;
     PanelRow* m_alert;
     TextLabel* m_more;

@@ -41,7 +41,13 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(QStringLiteral("Cancel"))) {
+    , m_cancel(new PushButton(QStringLiteral("Cancel")))
+    , m_cards([this] {
+        auto* card = new CacheCard;
+        connect(card, &CacheCard::opened, this, &CleanupView::open);
+        m_grid->addWidget(card);
+        return card;
+    }) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
@@ -132,13 +138,6 @@ void CleanupView::refreshCards() {
     m_cards.show(targets.size(), [this, &targets](CacheCard& card, qsizetype i) {
         card.set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
     });
-}
-
-CacheCard* CleanupView::addCard() {
-    auto* card = new CacheCard;
-    connect(card, &CacheCard::opened, this, &CleanupView::open);
-    m_grid->addWidget(card);
-    return card;
 }
 
 void CleanupView::refreshProgress() {

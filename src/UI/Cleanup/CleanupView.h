@@ -29,7 +29,6 @@ private:
     QWidget* makeGrid();
     void refresh();
     void refreshCards();
-    CacheCard* addCard();
     void refreshProgress();
     void open(const CacheTarget& target);
     void confirmCleanAll();
@@ -50,5 +49,5 @@ private:
     TextLabel* m_unfinished;
     PushButton* m_cancel;
     FlowGrid* m_grid = nullptr;
-    RowPool<CacheCard> m_cards{[this] { return addCard(); }};
+    RowPool<CacheCard> m_cards;
 };

@@ -47,6 +47,11 @@ private:
 CachesCard::CachesCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
     , m_chipRow(new QHBoxLayout)
+    , m_chips([this] {
+        auto* chip = new CacheChip;
+        m_chipRow->addWidget(chip);
+        return chip;
+    })
     , m_cancel(new PushButton(QStringLiteral("Cancel")))
     , m_clean(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
                              QStringLiteral("trash.fill"))) {
@@ -66,12 +71,6 @@ CachesCard::CachesCard(QWidget* parent)
     buttons->addWidget(m_clean);
     row->addLayout(buttons);
     content()->addLayout(row);
-}
-
-CacheChip* CachesCard::addChip() {
-    auto* chip = new CacheChip;
-    m_chipRow->addWidget(chip);
-    return chip;
 }
 
 void CachesCard::refresh(const AppModel& model) {

@@ -25,11 +25,10 @@ Q_SIGNALS:
     void cancelRequested();
 
 private:
-    CacheChip* addChip();
     void refreshChips(QList<CacheTarget> targets);
 
     QHBoxLayout* m_chipRow;
-    RowPool<CacheChip> m_chips{[this] { return addChip(); }};
+    RowPool<CacheChip> m_chips;
     PushButton* m_cancel;
     PushButton* m_clean;
     bool m_cleaning = false;

@@ -21,7 +21,13 @@ MCPCard::MCPCard(QWidget* parent)
     , m_orphanRAM(new StatBox(QStringLiteral("Orphan RAM")))
     , m_kill(new PushButton(QStringLiteral("Kill orphans"), PushButton::Look::prominent,
                             QStringLiteral("scissors")))
-    , m_servers(new QWidget) {
+    , m_servers(new QWidget)
+    , m_rows([this] {
+        auto* row = new ServerRow;
+        connect(row, &ServerRow::quitRequested, this, &MCPCard::quitRequested);
+        m_rowsLayout->addWidget(row);
+        return row;
+    }) {
     content()->addLayout(makeFigures());
 
     auto* heading = (new TextLabel(TextStyle::caption))->secondary();
@@ -62,11 +68,4 @@ void MCPCard::refresh(const MCPInspector::Report& report) {
     m_rows.show(report.live.size(), [&report](ServerRow& row, qsizetype i) { row.set(report.live[i]); });
     m_servers->setVisible(!report.live.isEmpty());
     m_nothing->setVisible(report.configured.isEmpty() && !isUnknown);
-}
-
-ServerRow* MCPCard::addRow() {
-    auto* row = new ServerRow;
-    connect(row, &ServerRow::quitRequested, this, &MCPCard::quitRequested);
-    m_rowsLayout->addWidget(row);
-    return row;
 }

@@ -23,7 +23,6 @@ Q_SIGNALS:
 
 private:
     QLayout* makeFigures();
-    ServerRow* addRow();
 
     StatBox* m_configured;
     StatBox* m_running;
@@ -32,6 +31,6 @@ private:
     PushButton* m_kill;
     QWidget* m_servers;
     QVBoxLayout* m_rowsLayout;
-    RowPool<ServerRow> m_rows{[this] { return addRow(); }};
+    RowPool<ServerRow> m_rows;
     TextLabel* m_nothing;
 };

@@ -15,7 +15,14 @@ constexpr int tileGap = 10;
 QuickKillsCard::QuickKillsCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Quick Kills"), QStringLiteral("Preset purges for common RAM hogs"),
                    QStringLiteral("xmark.circle"), Theme::Role::red, parent)
-    , m_grid(new QGridLayout) {
+    , m_grid(new QGridLayout)
+    , m_tiles([this] {
+        auto* tile = new PresetTile;
+        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
+        const int index = m_grid->count();
+        m_grid->addWidget(tile, index / columns, index % columns);
+        return tile;
+    }) {
     m_grid->setSpacing(tileGap);
     for (int column = 0; column < columns; ++column)
         m_grid->setColumnStretch(column, 1);
@@ -27,12 +34,4 @@ void QuickKillsCard::refresh(const AppModel& model, const QList<QuickKillPreset>
         const QuickKillPreset& preset = presets[i];
         tile.set(preset, model.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
     });
-}
-
-PresetTile* QuickKillsCard::addTile() {
-    auto* tile = new PresetTile;
-    connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
-    const int index = m_grid->count();
-    m_grid->addWidget(tile, index / columns, index % columns);
-    return tile;
 }

@@ -21,8 +21,6 @@ Q_SIGNALS:
     void killRequested(const QuickKillPreset& preset);
 
 private:
-    PresetTile* addTile();
-
     QGridLayout* m_grid;
-    RowPool<PresetTile> m_tiles{[this] { return addTile(); }};
+    RowPool<PresetTile> m_tiles;
 };

@@ -66,7 +66,13 @@ void AlertCard::set(const Alert& alert) {
 AlertStripView::AlertStripView(QWidget* parent)
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
-    , m_healthy(makeHealthyCard()) {
+    , m_healthy(makeHealthyCard())
+    , m_cards([this] {
+        auto* card = new AlertCard;
+        connect(card, &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
+        m_column->addWidget(card);
+        return card;
+    }) {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(m_healthy);
@@ -75,11 +81,4 @@ AlertStripView::AlertStripView(QWidget* parent)
 void AlertStripView::set(const QList<Alert>& alerts) {
     m_healthy->setVisible(alerts.isEmpty());
     m_cards.show(alerts.size(), [&alerts](AlertCard& card, qsizetype i) { card.set(alerts[i]); });
-}
-
-AlertCard* AlertStripView::addCard() {
-    auto* card = new AlertCard;
-    connect(card, &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
-    m_column->addWidget(card);
-    return card;
 }

@@ -43,9 +43,7 @@ Q_SIGNALS:
     void quitRequested(qint32 pid);
 
 private:
-    AlertCard* addCard();
-
     QVBoxLayout* m_column;
     QWidget* m_healthy; ///< shown while nothing is wrong
-    RowPool<AlertCard> m_cards{[this] { return addCard(); }};
+    RowPool<AlertCard> m_cards;
 };

@@ -40,6 +40,12 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM: "), QStringLiteral(" MB"), {50, 2000, 50},
                                  initialMinRSS, sliderWidth))
     , m_stack(new QStackedWidget)
+    , m_rows([this] {
+        auto* row = new CandidateRow;
+        connect(row, &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
+        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, row);
+        return row;
+    })
     , m_selectAll(new PushButton(QStringLiteral("Select all")))
     , m_clear(new PushButton(QStringLiteral("Clear")))
     , m_count(new TextLabel(TextStyle::callout))
@@ -151,13 +157,6 @@ void FreeRAMSheet::refreshRows() {
         row.set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
     });
     m_stack->setCurrentIndex(m_candidates.isEmpty() ? 1 : 0);
-}
-
-CandidateRow* FreeRAMSheet::addRow() {
-    auto* row = new CandidateRow;
-    connect(row, &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
-    m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, row);
-    return row;
 }
 
 void FreeRAMSheet::refreshButtons() {

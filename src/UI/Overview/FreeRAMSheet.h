@@ -33,7 +33,6 @@ private:
     void preselect();
     void refresh();
     void refreshRows();
-    CandidateRow* addRow();
     void refreshButtons();
     void forgetEnded();
     void toggle(qint32 pid);
@@ -54,7 +53,7 @@ private:
     LabeledSlider* m_minRSS;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
-    RowPool<CandidateRow> m_rows{[this] { return addRow(); }};
+    RowPool<CandidateRow> m_rows;
     PushButton* m_selectAll;
     PushButton* m_clear;
     TextLabel* m_count;

@@ -124,6 +124,13 @@ GroupRow::GroupRow(ProcGroup group, QWidget* parent)
     : Card(parent)
     , m_header(new GroupHeader(group))
     , m_body(new QWidget)
+    , m_rows([this] {
+        auto* row = new ProcessRow;
+        connect(row, &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
+        connect(row, &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
+        m_rowsLayout->addWidget(row);
+        return row;
+    })
     , m_overflow((new TextLabel(TextStyle::caption))->secondary()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -158,12 +165,4 @@ void GroupRow::showMembers(const QList<ProcSample>& members) {
     const qsizetype hidden = members.size() - shown;
     m_overflow->setPlainText(QStringLiteral("… +%1 more in Processes tab").arg(hidden));
     m_overflow->setVisible(hidden > 0);
-}
-
-ProcessRow* GroupRow::addRow() {
-    auto* row = new ProcessRow;
-    connect(row, &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
-    connect(row, &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
-    m_rowsLayout->addWidget(row);
-    return row;
 }

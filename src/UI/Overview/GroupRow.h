@@ -32,12 +32,11 @@ Q_SIGNALS:
 
 private:
     void showMembers(const QList<ProcSample>& members);
-    ProcessRow* addRow();
 
     GroupHeader* m_header;
     QVBoxLayout* m_rowsLayout;
     QWidget* m_body;
-    RowPool<ProcessRow> m_rows{[this] { return addRow(); }};
+    RowPool<ProcessRow> m_rows;
     TextLabel* m_overflow;
 };
 
