@@ -108,7 +108,7 @@ void SettingsFile::store(const QString& key, const QVariant& value) {
         return;
     }
     for (auto each = m_unsaved.cbegin(); each != m_unsaved.cend(); ++each)
-        m_settings.setValue(each.key(), each.value());
+        each->isValid() ? m_settings.setValue(each.key(), *each) : m_settings.remove(each.key());
     m_unsaved.clear();
     m_settings.sync();
     if (m_settings.status() != QSettings::NoError)

@@ -4,6 +4,7 @@
 #include "Core/Observe.h"
 #include "UI/BannerButtons.h"
 #include "UI/Kit/ClampedLabel.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/Theme.h"
 #include "UI/MessageSeverity.h"
@@ -64,16 +65,12 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     row->addWidget(m_action, 0, Qt::AlignTop);
     row->addWidget(dismiss, 0, Qt::AlignTop);
 
-    // Another message may come while a button is held down: what was pressed for counts.
-    for (QAbstractButton* button :
-         {static_cast<QAbstractButton*>(m_action), static_cast<QAbstractButton*>(dismiss)})
-        connect(button, &QAbstractButton::pressed, this, [this] { m_pressed = m_message; });
-    connect(m_action, &QAbstractButton::clicked, this, [this] {
-        if (const auto link = actionOf(m_pressed))
+    actOnPressed(m_action, m_message, [this](const Message& message) {
+        if (const auto link = actionOf(message))
             m_open(*link);
     });
-    connect(dismiss, &QAbstractButton::clicked, this, [this] {
-        m_center.dismiss(m_pressed);
+    actOnPressed(dismiss, m_message, [this](const Message& message) {
+        m_center.dismiss(message);
         refresh();
     });
     observe(&m_center, this, [this] { refresh(); });

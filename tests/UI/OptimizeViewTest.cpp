@@ -5,6 +5,7 @@
 #include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Optimize/PresetTile.h"
+#include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Optimize/ServerRow.h"
 #include "UI/Optimize/StatBox.h"
 
@@ -21,7 +22,11 @@ struct OptimizeViewTest : ModelFixture {
         tick();
     }
     QString notice() { return shownName<Notice>(view); }
-    QList<PresetTile*> tiles() { return view.findChildren<PresetTile*>(); }
+    QList<PresetTile*> tiles() {
+        QList<PresetTile*> shown = view.findChildren<PresetTile*>();
+        shown.removeIf([this](const PresetTile* tile) { return !tile->isVisibleTo(&view); });
+        return shown;
+    }
     void usePreset(const QString& name, const QString& pattern) {
         QuickKillPreset preset = QuickKillPreset::blank();
         preset.name = name;
@@ -47,6 +52,9 @@ TEST_F(OptimizeViewTest, TilesCountWhatAPressWouldSignal) {
     EXPECT_EQ(tiles().size(), 6);
     usePreset(u"Work"_s, u"WORKER"_s);
     ASSERT_EQ(tiles().size(), 1);
+    QuickKillsCard fresh;
+    fresh.refresh(model, prefs.quickKillPresets());
+    EXPECT_EQ(view.findChild<QuickKillsCard*>()->sizeHint(), fresh.sizeHint()) << "hidden tiles take room";
     EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 2 matching"_s);
     addProcesses(1, "worker", 1);
     tick();

@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
 
@@ -29,8 +30,7 @@ CacheCard::CacheCard(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(this, &CacheCard::pressed, this, [this] { m_pressed = m_target; });
-    connect(this, &CacheCard::clicked, this, [this] { Q_EMIT opened(m_pressed); });
+    actOnPressed(this, m_target, [this](const auto& target) { Q_EMIT opened(target); });
 }
 
 QSize CacheCard::sizeHint() const {

@@ -12,7 +12,7 @@
 #include "UI/Kit/FlowGrid.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -41,7 +41,13 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(QStringLiteral("Cancel"))) {
+    , m_cancel(new PushButton(QStringLiteral("Cancel")))
+    , m_cards([this] {
+        auto* card = new CacheCard;
+        connect(card, &CacheCard::opened, this, &CleanupView::open);
+        m_grid->addWidget(card);
+        return card;
+    }) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
@@ -96,19 +102,14 @@ QLayout* CleanupView::makeProgress() {
 }
 
 QWidget* CleanupView::makeGrid() {
-    auto* page = new QWidget;
-    auto* frame = new QVBoxLayout(page);
-    frame->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding - Theme::scrollBarRoom,
-                              Theme::pagePadding);
-    m_grid = new FlowGrid(leastCardWidth, cardGap);
-    frame->addLayout(m_grid);
-    frame->addStretch();
+    QMargins margins = Theme::pageMargins;
+    margins.setTop(0);
     auto* area = new QScrollArea;
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    auto* column = makeScrollingPage(area, margins, 0);
+    m_grid = new FlowGrid(leastCardWidth, cardGap);
+    column->addLayout(m_grid);
+    column->addStretch();
     area->setFocusPolicy(Qt::NoFocus);
-    SlimScrollBar::install(area);
     return area;
 }
 
@@ -135,14 +136,9 @@ void CleanupView::refresh() {
 
 void CleanupView::refreshCards() {
     const QList<CacheTarget>& targets = m_model.cleanup().targets();
-    while (m_cards.size() < targets.size()) {
-        auto* card = new CacheCard;
-        m_grid->addWidget(card);
-        connect(card, &CacheCard::opened, this, &CleanupView::open);
-        m_cards.append(card);
-    }
-    for (qsizetype i = 0; i < targets.size(); ++i)
-        m_cards[i]->set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
+    m_cards.show(targets.size(), [this, &targets](CacheCard& card, qsizetype i) {
+        card.set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
+    });
 }
 
 void CleanupView::refreshProgress() {

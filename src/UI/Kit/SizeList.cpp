@@ -3,11 +3,12 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Painting.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/ToolTip.h"
 
 #include <QEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -72,20 +73,13 @@ private:
 } // namespace
 
 SizeList::SizeList(const QString& accessibleName, QWidget* parent)
-    : QScrollArea(parent) {
-    auto* page = new QWidget;
-    m_rows = new QVBoxLayout(page);
-    m_rows->setContentsMargins(padding, padding / 2, padding, padding / 2);
-    m_rows->setSpacing(0);
+    : QScrollArea(parent)
+    , m_rows(makeScrollingPage(this, {padding, padding / 2, padding, padding / 2}, 0)) {
     m_rows->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
     setViewportMargins(edge, edge, edge, edge);
     // The card below shines through.
-    page->setAutoFillBackground(false);
+    widget()->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    SlimScrollBar::install(this);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(accessibleName);
 }

@@ -22,8 +22,36 @@ constexpr int chipGap = 24;
 
 } // namespace
 
+/// The name of a target over its size.
+class CacheChip : public QWidget {
+public:
+    CacheChip() {
+        m_size->setForegroundRole(QPalette::Link); // the theme's blue, in both schemes
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(Theme::textGap);
+        column->addWidget(m_name);
+        column->addWidget(m_size);
+    }
+
+    void set(const CacheTarget& target) {
+        m_name->setPlainText(target.name);
+        m_size->setPlainText(Formatters::bytes(target.sizeBytes));
+    }
+
+private:
+    TextLabel* m_name = new TextLabel(TextStyle::caption);
+    TextLabel* m_size = new TextLabel(TextStyle::caption, QFont::DemiBold);
+};
+
 CachesCard::CachesCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
+    , m_chipRow(new QHBoxLayout)
+    , m_chips([this] {
+        auto* chip = new CacheChip;
+        m_chipRow->addWidget(chip);
+        return chip;
+    })
     , m_cancel(new PushButton(QStringLiteral("Cancel")))
     , m_clean(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
                              QStringLiteral("trash.fill"))) {
@@ -33,11 +61,9 @@ CachesCard::CachesCard(QWidget* parent)
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
     connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
     auto* row = new QHBoxLayout;
-    row->setSpacing(chipGap);
-    for (qsizetype i = 0; i < shownTargets; ++i) {
-        m_chips.append(makeChip());
-        row->addWidget(m_chips.last().widget);
-    }
+    for (QHBoxLayout* each : {row, m_chipRow})
+        each->setSpacing(chipGap);
+    row->addLayout(m_chipRow);
     row->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::rowSpacing);
@@ -47,24 +73,11 @@ CachesCard::CachesCard(QWidget* parent)
     content()->addLayout(row);
 }
 
-CachesCard::Chip CachesCard::makeChip() const {
-    Chip chip{.widget = new QWidget,
-              .name = new TextLabel(TextStyle::caption),
-              .size = new TextLabel(TextStyle::caption, QFont::DemiBold)};
-    chip.size->setForegroundRole(QPalette::Link); // the theme's blue, in both schemes
-    auto* column = new QVBoxLayout(chip.widget);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::textGap);
-    column->addWidget(chip.name);
-    column->addWidget(chip.size);
-    return chip;
-}
-
 void CachesCard::refresh(const CacheCleanup& cleanup) {
     const QList<CacheTarget>& targets = cleanup.targets();
     if (cleanup.isCleaning())
         setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? QStringLiteral("Cancelling")
-                                                                         : QStringLiteral("Cleaning"),
+                                                                            : QStringLiteral("Cleaning"),
                                            *cleanup.cleanProgress()));
     else
         setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")
@@ -77,14 +90,8 @@ void CachesCard::refresh(const CacheCleanup& cleanup) {
 
 void CachesCard::refreshChips(QList<CacheTarget> targets) {
     std::ranges::stable_sort(targets, std::ranges::greater(), &CacheTarget::sizeBytes);
-    for (qsizetype i = 0; i < m_chips.size(); ++i) {
-        const bool isUsed = i < targets.size();
-        m_chips[i].widget->setVisible(isUsed);
-        if (isUsed) {
-            m_chips[i].name->setPlainText(targets[i].name);
-            m_chips[i].size->setPlainText(Formatters::bytes(targets[i].sizeBytes));
-        }
-    }
+    m_chips.show(std::min(targets.size(), shownTargets),
+                 [&targets](CacheChip& chip, qsizetype i) { chip.set(targets[i]); });
 }
 
 void CachesCard::setCleaning(bool cleaning) {

@@ -7,7 +7,7 @@
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Theme.h"
 #include "UI/Optimize/AutoOptimizeCard.h"
 #include "UI/Optimize/CachesCard.h"
@@ -39,18 +39,11 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     , m_mcp(new MCPCard)
     , m_caches(new CachesCard)
     , m_auto(new AutoOptimizeCard) {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pageMargins);
-    column->setSpacing(cardGap);
+    auto* column = makeScrollingPage(this, Theme::pageMargins, cardGap);
     const QList<QWidget*> parts = {m_memory, m_quickKills, m_mcp, m_caches, m_auto};
     for (QWidget* part : parts)
         column->addWidget(part);
     column->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(this);
     m_notice->raise();
     setAccessibleName(QStringLiteral("Optimize"));
     connectCards();

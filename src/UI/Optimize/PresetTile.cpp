@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
 
@@ -26,8 +27,7 @@ PresetTile::PresetTile(QWidget* parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-    connect(this, &PresetTile::pressed, this, [this] { m_pressed = m_preset; });
-    connect(this, &PresetTile::clicked, this, [this] { Q_EMIT killRequested(m_pressed); });
+    actOnPressed(this, m_preset, [this](const auto& preset) { Q_EMIT killRequested(preset); });
 }
 
 QSize PresetTile::sizeHint() const {

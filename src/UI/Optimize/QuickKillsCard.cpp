@@ -15,7 +15,14 @@ constexpr int tileGap = 10;
 QuickKillsCard::QuickKillsCard(QWidget* parent)
     : OptimizeCard(QStringLiteral("Quick Kills"), QStringLiteral("Preset purges for common RAM hogs"),
                    QStringLiteral("xmark.circle"), Theme::Role::red, parent)
-    , m_grid(new QGridLayout) {
+    , m_grid(new QGridLayout)
+    , m_tiles([this] {
+        auto* tile = new PresetTile;
+        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
+        const int index = m_grid->count();
+        m_grid->addWidget(tile, index / columns, index % columns);
+        return tile;
+    }) {
     m_grid->setSpacing(tileGap);
     for (int column = 0; column < columns; ++column)
         m_grid->setColumnStretch(column, 1);
@@ -23,18 +30,8 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
 }
 
 void QuickKillsCard::refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets) {
-    while (m_tiles.size() > presets.size())
-        delete m_tiles.takeLast();
-    while (m_tiles.size() < presets.size()) {
-        auto* tile = new PresetTile;
-        const int index = static_cast<int>(m_tiles.size());
-        m_grid->addWidget(tile, index / columns, index % columns);
-        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
-        m_tiles.append(tile);
-    }
-    for (qsizetype i = 0; i < presets.size(); ++i) {
+    m_tiles.show(presets.size(), [&](PresetTile& tile, qsizetype i) {
         const QuickKillPreset& preset = presets[i];
-        m_tiles[i]->set(preset,
-                        actions.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
-    }
+        tile.set(preset, actions.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
+    });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Relief/QuickKillPreset.h"
+#include "UI/Kit/RowPool.h"
 #include "UI/Optimize/OptimizeCard.h"
 
 class PresetTile;
@@ -21,5 +22,5 @@ Q_SIGNALS:
 
 private:
     QGridLayout* m_grid;
-    QList<PresetTile*> m_tiles;
+    RowPool<PresetTile> m_tiles;
 };

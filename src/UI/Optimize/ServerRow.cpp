@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
 
@@ -33,8 +34,7 @@ ServerRow::ServerRow(QWidget* parent)
     setFixedHeight(rowHeight);
     auto* quit = new IconButton(QStringLiteral("stop.circle"), QStringLiteral("Quit"));
     m_buttonWidth = quit->width();
-    connect(quit, &IconButton::pressed, this, [this] { m_pressed = m_server; });
-    connect(quit, &IconButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressed); });
+    actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();

@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/Symbols.h"
 
 #include <QPainter>
@@ -30,8 +31,7 @@ CandidateRow::CandidateRow(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-    connect(this, &CandidateRow::pressed, this, [this] { m_pressedPid = m_candidate.pid; });
-    connect(this, &CandidateRow::clicked, this, [this] { Q_EMIT ticked(m_pressedPid); });
+    actOnPressed(this, m_candidate.pid, [this](qint32 pid) { Q_EMIT ticked(pid); });
 }
 
 QSize CandidateRow::sizeHint() const {

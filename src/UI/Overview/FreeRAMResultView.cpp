@@ -1,7 +1,7 @@
 #include "UI/Overview/FreeRAMResultView.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -88,7 +88,8 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     : Card(parent, Role::green)
     , m_freed(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_nudged((new TextLabel(TextStyle::caption))->secondary())
-    , m_area(new QScrollArea) {
+    , m_area(new QScrollArea)
+    , m_rowsLayout(makeScrollingPage(m_area, {}, 0)) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
     m_nudged->setPlainText(QStringLiteral("• memory_pressure nudged"));
@@ -99,17 +100,9 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     head->addWidget(m_nudged);
     head->addStretch();
 
-    auto* rows = new QWidget;
-    m_rowsLayout = new QVBoxLayout(rows);
-    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowsLayout->setSpacing(0);
-    m_area->setWidget(rows);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->viewport()->setAutoFillBackground(false);
-    rows->setAutoFillBackground(false);
-    SlimScrollBar::install(m_area);
+    m_area->widget()->setAutoFillBackground(false);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, 10, Theme::cardPadding, 10);

@@ -7,8 +7,8 @@
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/CandidateRow.h"
 #include "UI/Overview/FreeRAMResultView.h"
@@ -40,6 +40,12 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM: "), QStringLiteral(" MB"), {50, 2000, 50},
                                  initialMinRSS, sliderWidth))
     , m_stack(new QStackedWidget)
+    , m_rows([this] {
+        auto* row = new CandidateRow;
+        connect(row, &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
+        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, row);
+        return row;
+    })
     , m_selectAll(new PushButton(QStringLiteral("Select all")))
     , m_clear(new PushButton(QStringLiteral("Clear")))
     , m_count(new TextLabel(TextStyle::callout))
@@ -101,18 +107,11 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
 }
 
 QWidget* FreeRAMSheet::makeList() {
-    auto* rows = new QWidget;
-    m_rowsLayout = new QVBoxLayout(rows);
-    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowsLayout->setSpacing(0);
-    m_rowsLayout->addStretch();
     auto* area = new QScrollArea;
-    area->setWidget(rows);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    m_rowsLayout = makeScrollingPage(area, {}, 0);
+    m_rowsLayout->addStretch();
     area->setFocusPolicy(Qt::NoFocus);
     area->setAccessibleName(QStringLiteral("Processes"));
-    SlimScrollBar::install(area);
     m_stack->addWidget(area);
     m_stack->addWidget(new EmptyState(
         QStringLiteral("checkmark.circle"), QStringLiteral("No idle hogs above your thresholds"),
@@ -154,17 +153,9 @@ void FreeRAMSheet::forgetEnded() {
 }
 
 void FreeRAMSheet::refreshRows() {
-    while (m_rows.size() < m_candidates.size()) {
-        m_rows.append(new CandidateRow);
-        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, m_rows.last());
-        connect(m_rows.last(), &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
-    }
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        const bool isUsed = i < m_candidates.size();
-        if (isUsed)
-            m_rows[i]->set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
-        m_rows[i]->setVisible(isUsed);
-    }
+    m_rows.show(m_candidates.size(), [this](CandidateRow& row, qsizetype i) {
+        row.set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
+    });
     m_stack->setCurrentIndex(m_candidates.isEmpty() ? 1 : 0);
 }
 

@@ -124,6 +124,13 @@ GroupRow::GroupRow(ProcGroup group, QWidget* parent)
     : Card(parent)
     , m_header(new GroupHeader(group))
     , m_body(new QWidget)
+    , m_rows([this] {
+        auto* row = new ProcessRow;
+        connect(row, &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
+        connect(row, &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
+        m_rowsLayout->addWidget(row);
+        return row;
+    })
     , m_overflow((new TextLabel(TextStyle::caption))->secondary()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -154,21 +161,8 @@ void GroupRow::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded,
 
 void GroupRow::showMembers(const QList<ProcSample>& members) {
     const qsizetype shown = std::min(members.size(), shownMembers);
-    while (m_rows.size() < shown) {
-        m_rows.append(new ProcessRow);
-        m_rowsLayout->addWidget(m_rows.last());
-        connect(m_rows.last(), &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
-        connect(m_rows.last(), &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
-    }
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (i < shown)
-            m_rows[i]->set(members[i]);
-        m_rows[i]->setVisible(i < shown);
-    }
-    showOverflow(members.size() - shown);
-}
-
-void GroupRow::showOverflow(qsizetype hidden) {
+    m_rows.show(shown, [&members](ProcessRow& row, qsizetype i) { row.set(members[i]); });
+    const qsizetype hidden = members.size() - shown;
     m_overflow->setPlainText(QStringLiteral("… +%1 more in Processes tab").arg(hidden));
     m_overflow->setVisible(hidden > 0);
 }

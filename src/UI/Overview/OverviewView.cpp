@@ -4,7 +4,7 @@
 #include "Core/Observe.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -30,20 +30,12 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     : QScrollArea(parent)
     , m_model(model)
     , m_alerts(new AlertStripView) {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pageMargins);
-    column->setSpacing(Theme::pageSpacing);
+    auto* column = makeScrollingPage(this, Theme::pageMargins, Theme::pageSpacing);
     column->addLayout(makeHeader());
     column->addWidget(m_alerts);
     column->addLayout(makeTiles());
     column->addLayout(makeGroups());
     column->addStretch();
-
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(this);
     setAccessibleName(QStringLiteral("Overview"));
 
     connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);

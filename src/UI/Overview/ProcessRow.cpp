@@ -3,10 +3,13 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <functional>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -39,8 +42,7 @@ ProcessRow::ProcessRow(QWidget* parent)
 IconButton* ProcessRow::addButton(const QString& symbol, const QString& help, Role tint,
                                   void (ProcessRow::*request)(const ProcSample&)) {
     auto* button = new IconButton(symbol, help, tint);
-    connect(button, &IconButton::pressed, this, [this] { m_pressed = m_process; });
-    connect(button, &IconButton::clicked, this, [this, request] { Q_EMIT(this->*request)(m_pressed); });
+    actOnPressed(button, m_process, std::bind_front(request, this));
     return button;
 }
 

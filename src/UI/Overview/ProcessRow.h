@@ -29,7 +29,6 @@ private:
                           void (ProcessRow::*request)(const ProcSample&));
 
     ProcSample m_process;
-    ProcSample m_pressed;
     QString m_name;
     QString m_cpu;
     QString m_memory;

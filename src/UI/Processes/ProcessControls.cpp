@@ -5,26 +5,13 @@
 #include "UI/Kit/Slider.h"
 #include "UI/Kit/Switch.h"
 #include "UI/Kit/Theme.h"
+#include "UI/Processes/ProcessColumns.h"
 
 #include <QHBoxLayout>
 
 namespace {
 
 constexpr int sliderWidth = 140;
-
-QString labelOf(SortBy sort) {
-    switch (sort) {
-    case SortBy::ram:
-        return QStringLiteral("RAM");
-    case SortBy::cpu:
-        return QStringLiteral("CPU");
-    case SortBy::name:
-        return QStringLiteral("Name");
-    case SortBy::idle:
-        return QStringLiteral("Idle");
-    }
-    return {};
-}
 
 } // namespace
 
@@ -39,8 +26,11 @@ ProcessControls::ProcessControls(QWidget* parent)
     m_group->addItem(QStringLiteral("All"));
     for (const ProcGroup group : allCases<ProcGroup>())
         m_group->addItem(rawValue(group));
-    for (const SortBy sort : allCases<SortBy>())
-        m_sort->addItem(labelOf(sort));
+    for (const ProcessColumn* column : ProcessColumns::sortable()) {
+        const QStringView label = column->order.label.isEmpty() ? column->title : column->order.label;
+        m_sort->addItem(label.toString(), column->id.toString());
+    }
+    setSort(ProcessQuery().sortBy);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
@@ -70,7 +60,7 @@ ProcessQuery ProcessControls::query() const {
     query.search = m_search->text();
     if (m_group->currentIndex() > 0)
         query.groupFilter = static_cast<ProcGroup>(m_group->currentIndex() - 1);
-    query.sortBy = static_cast<SortBy>(m_sort->currentIndex());
+    query.sortBy = m_sort->currentData().toString();
     query.minRSSMB = m_minRSS->value();
     return query;
 }
@@ -79,8 +69,8 @@ bool ProcessControls::groupsDuplicates() const {
     return m_fold->isChecked();
 }
 
-void ProcessControls::setSort(SortBy sort) {
-    m_sort->setCurrentIndex(static_cast<int>(sort));
+void ProcessControls::setSort(const QString& column) {
+    m_sort->setCurrentIndex(m_sort->findData(column));
 }
 
 void ProcessControls::focusSearch() {

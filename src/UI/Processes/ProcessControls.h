@@ -18,7 +18,7 @@ public:
 
     ProcessQuery query() const;
     bool groupsDuplicates() const;
-    void setSort(SortBy sort);
+    void setSort(const QString& column);
     void focusSearch();
 
 Q_SIGNALS:

@@ -17,12 +17,11 @@ using Theme::TextStyle;
 
 namespace {
 
-using Column = ProcessTableModel::Column;
+using Kind = ProcessColumn::Kind;
 
 constexpr int padding = 8;
-constexpr int buttonSide = 26;
+constexpr int buttonSide = ProcessColumn::buttonSide;
 constexpr int buttonSymbol = 17;
-constexpr int mostButtons = 3;
 constexpr int badgeHeight = 14;
 constexpr int badgePadding = 5;
 
@@ -121,31 +120,25 @@ QString ProcessRowDelegate::helpOf(RowAction action, const ProcessTableRow& row,
         .arg(Formatters::visible(row.first.name));
 }
 
-int ProcessRowDelegate::actionsWidth() {
-    return mostButtons * buttonSide + padding;
-}
-
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
     TableView::paintGround(*painter, option);
     const ProcessTableModel& model = modelOf(index);
-    const Column column = model.column(index.column());
-    if (column == Column::actions) {
+    const ProcessColumn& column = model.columnOf(index);
+    if (column.kind == Kind::actions) {
         paintButtons(*painter, option, index);
         return;
     }
     const QString text = index.data(Qt::DisplayRole).toString();
     const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
     painter->setFont(Theme::font(TextStyle::callout));
-    painter->setPen(Theme::color(column == Column::name || column == Column::ram || column == Column::cpu
-                                     ? Role::primaryText
-                                     : Role::secondaryText));
-    if (column == Column::name)
+    painter->setPen(Theme::color(column.role));
+    if (column.kind == Kind::name)
         paintName(*painter, area, model, model.row(index.row()), text);
-    else if (column == Column::group)
-        Painting::drawElided(*painter, area, Qt::ElideRight, text);
-    else
+    else if (column.isFigure())
         Painting::drawTabular(*painter, area, Qt::AlignRight, text);
+    else
+        Painting::drawElided(*painter, area, Qt::ElideRight, text);
 }
 
 QSize ProcessRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -163,7 +156,7 @@ bool ProcessRowDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const Q
         return false;
     const ProcessTableModel& model = modelOf(index);
     m_pressed.reset();
-    if (model.column(index.column()) != Column::actions)
+    if (model.columnOf(index).kind != Kind::actions)
         return false;
     const ProcessTableRow& row = model.row(index.row());
     int position = 0;
@@ -187,11 +180,10 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         return false;
     const ProcessTableModel& model = modelOf(index);
     const ProcessTableRow& row = model.row(index.row());
-    QString text;
-    if (model.column(index.column()) == Column::name)
-        text = Formatters::visible(row.first.executablePath);
+    const ProcessColumn& column = model.columnOf(index);
+    QString text = column.toolTip ? column.toolTip(row) : QString();
     int position = 0;
-    if (model.column(index.column()) == Column::actions) {
+    if (column.kind == Kind::actions) {
         for (const RowAction action : actionsOf(row, model.isGrouped())) {
             if (buttonRect(option.rect, position++).contains(event->pos()))
                 text = helpOf(action, row, model.isGrouped());

@@ -4,6 +4,7 @@
 #include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Settings/LocalTimeText.h"
 
 #include <QAbstractItemView>
 #include <QFontDatabase>

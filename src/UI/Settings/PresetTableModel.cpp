@@ -1,6 +1,7 @@
 #include "UI/Settings/PresetTableModel.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/TableColumn.h"
 #include "UI/Kit/ToolTip.h"
 
 #include <cmath>
@@ -9,64 +10,38 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Column = PresetTableModel::Column;
-
-QString titleOf(int column) {
-    switch (column) {
-    case Column::symbol:
-        return u"Symbol"_s;
-    case Column::name:
-        return u"Name"_s;
-    case Column::pattern:
-        return u"Pattern"_s;
-    case Column::idle:
-        return u"Idle≥"_s;
-    case Column::ram:
-        return u"RAM≥"_s;
-    case Column::force:
-        return u"Force"_s;
-    default:
-        return {};
-    }
-}
-
 QString whole(double value) {
     return QString::number(std::trunc(value), 'f', 0);
 }
 
-QString textOf(const QuickKillPreset& preset, int column) {
-    switch (column) {
-    case Column::symbol:
-        return preset.symbol;
-    case Column::name:
-        return Formatters::visible(preset.name);
-    case Column::pattern:
-        return Formatters::visible(preset.pattern);
-    case Column::idle:
-        return whole(preset.minIdleMinutes) + u'm';
-    case Column::ram:
-        return whole(preset.minRSSMB) + u"MB"_s;
-    case Column::force:
-        return preset.force ? u"bolt.fill"_s : u"minus"_s;
-    default:
-        return {};
-    }
-}
-
-/// What the drawings say.
-QString spokenText(const QuickKillPreset& preset, int column) {
-    if (column == Column::force)
-        return preset.force ? u"Force"_s : u"No force"_s;
-    return textOf(preset, column);
-}
-
-Qt::Alignment alignmentOf(int column) {
-    if (column == Column::idle || column == Column::ram)
-        return Qt::AlignRight | Qt::AlignVCenter;
-    return Qt::AlignLeft | Qt::AlignVCenter;
-}
-
 } // namespace
+
+const PresetColumn& PresetTableModel::column(int index) {
+    static constexpr PresetColumn table[columns] = {
+        // in the order of Column
+        {.title = u"Symbol",
+         .width = 56,
+         .text = [](const QuickKillPreset& preset) { return preset.symbol; }},
+        {.title = u"Name",
+         .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.name); }},
+        {.title = u"Pattern",
+         .width = 114,
+         .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.pattern); }},
+        {.title = u"Idle≥",
+         .width = 50,
+         .alignment = Qt::AlignRight,
+         .text = [](const QuickKillPreset& preset) { return whole(preset.minIdleMinutes) + u'm'; }},
+        {.title = u"RAM≥",
+         .width = 66,
+         .alignment = Qt::AlignRight,
+         .text = [](const QuickKillPreset& preset) { return whole(preset.minRSSMB) + u"MB"_s; }},
+        {.title = u"Force",
+         .width = 48,
+         .text = [](const QuickKillPreset& preset) { return preset.force ? u"bolt.fill"_s : u"minus"_s; }},
+        {.width = 62}, // the buttons
+    };
+    return table[index];
+}
 
 void PresetTableModel::setPresets(const QList<QuickKillPreset>& presets) {
     beginResetModel();
@@ -84,26 +59,14 @@ int PresetTableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant PresetTableModel::data(const QModelIndex& index, int role) const {
     const QuickKillPreset& preset = m_presets[index.row()];
-    switch (role) {
-    case Qt::DisplayRole:
-        return textOf(preset, index.column());
-    case Qt::AccessibleTextRole:
-        return spokenText(preset, index.column());
-    case Qt::ToolTipRole:
-        return plainToolTip(textOf(preset, index.column()));
-    case Qt::TextAlignmentRole:
-        return QVariant::fromValue(alignmentOf(index.column()));
-    default:
-        return {};
-    }
+    const QVariant text = cellData(column(index.column()), preset, Qt::DisplayRole);
+    if (role == Qt::AccessibleTextRole) // what the drawings say
+        return index.column() != Column::force ? text : preset.force ? u"Force"_s : u"No force"_s;
+    if (role == Qt::ToolTipRole)
+        return plainToolTip(text.toString());
+    return cellData(column(index.column()), preset, role);
 }
 
 QVariant PresetTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::DisplayRole)
-        return titleOf(section);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(alignmentOf(section));
-    return {};
+    return orientation == Qt::Horizontal ? headData(column(section), role) : QVariant();
 }

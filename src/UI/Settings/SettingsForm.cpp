@@ -4,25 +4,18 @@
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PopUpButton.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Switch.h"
 #include "UI/Kit/Theme.h"
 
 #include <QVBoxLayout>
 
 SettingsForm::SettingsForm(Preferences& preferences, const QString& name, QWidget* parent)
-    : QScrollArea(parent) {
-    auto* page = new QWidget;
-    m_column = new QVBoxLayout(page);
-    m_column->setContentsMargins(Theme::pageMargins);
-    m_column->setSpacing(Theme::gridSpacing);
+    : QScrollArea(parent)
+    , m_column(makeScrollingPage(this, Theme::pageMargins, Theme::gridSpacing)) {
     m_column->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(name);
-    SlimScrollBar::install(this);
     observe(&preferences, this, [this] {
         if (isOnScreen(this))
             refresh();
