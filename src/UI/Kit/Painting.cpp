@@ -51,6 +51,11 @@ void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor
     painter.restore();
 }
 
+void drawCard(QPainter& painter, const QRectF& area, double radius) {
+    drawCard(painter, area, radius, Theme::color(Theme::Role::cardFill),
+             Theme::color(Theme::Role::cardBorder));
+}
+
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -11,7 +11,11 @@ class QPainter;
 namespace Painting {
 
 /// A rounded rectangle with a border of one point inside its edge.
-void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill, const QColor& border);
+void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill,
+              const QColor& border = Qt::transparent);
+
+/// The theme's card.
+void drawCard(QPainter& painter, const QRectF& area, double radius = Theme::cardRadius);
 
 /// The ring round a control that has the keyboard.
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius);

@@ -63,7 +63,6 @@ PresetTable::PresetTable(QWidget* parent)
     , m_rows(new PresetTableModel(this)) {
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
-    header()->setSectionsMovable(false);
     constexpr std::array widths = {56, 0, 114, 50, 66, 48, 62};
     for (int column = 0; column < PresetTableModel::columns; ++column) {
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
