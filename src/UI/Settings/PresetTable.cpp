@@ -119,8 +119,7 @@ void PresetTable::paintEvent(QPaintEvent* event) {
     if (m_rows->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
     painter.drawText(viewport()->rect(), Qt::AlignCenter, accessibleDescription());
 }
 
