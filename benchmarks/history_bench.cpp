@@ -3,10 +3,10 @@
 
 #include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Settings/HistoryTab.h"
 #include "UI/Settings/HistoryTableView.h"
 #include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,9 +1,9 @@
 // What the Processes section costs on the main thread for one tick with 4,000 rows, beyond the tick itself.
 
 #include "AppModel.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 #include "support/FakePlatform.h"
 #include "support/TemporarySettings.h"
 

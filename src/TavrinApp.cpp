@@ -8,8 +8,8 @@
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
-#include "UI/Kit/ThemeFollower.h"
 #include "UI/Style/Style.h"
+#include "UI/Style/ThemeFollower.h"
 
 #include <QIcon>
 

@@ -1,10 +1,10 @@
 #include "UI/BannerButtons.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MessageSeverity.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 #include "UI/Cleanup/CacheCard.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 #include <QWidget>

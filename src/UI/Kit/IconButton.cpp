@@ -1,7 +1,7 @@
 #include "UI/Kit/IconButton.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 

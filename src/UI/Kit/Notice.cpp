@@ -2,9 +2,9 @@
 
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "UI/Kit/PanelRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 

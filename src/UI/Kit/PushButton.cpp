@@ -1,8 +1,8 @@
 #include "UI/Kit/PushButton.h"
 
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/Spinner.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 

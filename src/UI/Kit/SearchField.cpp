@@ -1,7 +1,7 @@
 #include "UI/Kit/SearchField.h"
 
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

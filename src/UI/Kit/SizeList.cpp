@@ -2,9 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QEvent>
 #include <QPainter>

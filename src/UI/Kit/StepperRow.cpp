@@ -1,6 +1,6 @@
 #include "UI/Kit/StepperRow.h"
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "UI/Kit/TableView.h"
 
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

@@ -8,13 +8,13 @@
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Optimize/AutoOptimizeCard.h"
 #include "UI/Optimize/CachesCard.h"
 #include "UI/Optimize/MCPCard.h"
 #include "UI/Optimize/MemoryCard.h"
 #include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Overview/FreeRAMSheet.h"
+#include "UI/Style/Theme.h"
 
 #include <QPointer>
 #include <QVBoxLayout>

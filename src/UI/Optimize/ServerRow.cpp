@@ -2,9 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>

@@ -1,8 +1,7 @@
 #include "UI/Overview/CandidateRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 

@@ -2,8 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>

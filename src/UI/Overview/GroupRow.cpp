@@ -1,10 +1,10 @@
 #include "UI/Overview/GroupRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/ProcessRow.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "UI/Overview/MetricTile.h"
 
-#include "UI/Kit/Painting.h"
 #include "UI/Overview/Sparkline.h"
+#include "UI/Style/Painting.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -2,8 +2,8 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

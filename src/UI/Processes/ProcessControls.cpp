@@ -3,7 +3,7 @@
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

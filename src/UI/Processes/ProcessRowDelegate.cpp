@@ -1,10 +1,10 @@
 #include "UI/Processes/ProcessRowDelegate.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

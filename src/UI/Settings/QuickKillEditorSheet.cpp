@@ -4,7 +4,7 @@
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/StepperRow.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QCheckBox>

@@ -5,7 +5,7 @@
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>

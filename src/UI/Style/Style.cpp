@@ -1,7 +1,7 @@
 #include "UI/Style/Style.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QFileDialog>
 #include <QPainter>

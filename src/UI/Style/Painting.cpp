@@ -1,4 +1,4 @@
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QAbstractButton>
 #include <QFontMetricsF>
