@@ -10,8 +10,6 @@
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/FakeDesktop.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBar.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -19,6 +17,8 @@
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 #include "UI/Widget.h"
 #include "support/FakeLoginItem.h"
 #include "support/ScriptedFeed.h"
@@ -26,6 +26,7 @@
 #include "support/TemporarySettings.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -96,7 +97,7 @@ private:
         if (tick == 20 || tick == 80)
             m_window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::other))->click();
         if (tick == 400 || tick == 500)
-            only<Switch>(only<ProcessesView>(m_window)).click(); // one row a name, and back
+            only<QCheckBox>(only<ProcessesView>(m_window)).click(); // one row a name, and back
     }
 
     void useFreeRAM(int tick) {
@@ -206,7 +207,7 @@ private:
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     QApplication::setQuitOnLastWindowClosed(false);
     Theme::apply(false);
     const int ticks = argc > 1 ? std::atoi(argv[1]) : 20'000;

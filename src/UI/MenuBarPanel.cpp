@@ -7,9 +7,9 @@
 #include "UI/Kit/FigureColumn.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/OnScreen.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PanelRow.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Painting.h"
 #include "UI/Widget.h"
 
 #include <QHBoxLayout>

@@ -5,9 +5,9 @@
 #include "UI/BannerButtons.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/MessageSeverity.h"
+#include "UI/Style/Theme.h"
 
 #include <QAccessible>
 #include <QDesktopServices>

@@ -7,11 +7,11 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Kit/OnScreen.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PanelRow.h"
 #include "UI/Kit/Severity.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Painting.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QGridLayout>

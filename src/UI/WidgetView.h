@@ -1,7 +1,7 @@
 #pragma once
 
 #include "UI/Kit/RowPool.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QWidget>
 

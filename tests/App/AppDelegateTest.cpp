@@ -3,7 +3,6 @@
 #include "Core/Announcements/MessageCenter.h"
 #include "UI/Controls.h"
 #include "UI/FakeDesktop.h"
-#include "UI/Kit/Switch.h"
 #include "UI/MainWindow.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/SettingsScene.h"

@@ -104,8 +104,8 @@ TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     EXPECT_EQ(QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, false)),
               u"Note quit cleanly — 1 helpers closed (≈1 KB freed)"_s);
     fakes.relief->answer = [] { return Outcome::failure(u"stayed"_s); };
-    EXPECT_TRUE(
-        QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, true)).startsWith(u"Couldn't tell Note"_s));
+    EXPECT_TRUE(QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, true))
+                    .startsWith(u"Couldn't tell Note"_s));
     EXPECT_EQ(fakes.relief->requests, (QStringList{u"quit Note"_s, u"force-quit Note"_s}));
     EXPECT_EQ(logged(), (QStringList{u"forceKill [graceful quit] Note (1 child PIDs targeted) — force fail"_s,
                                      u"quit [graceful quit] Note (1 child PIDs targeted) ok"_s}));

@@ -2,12 +2,13 @@
 
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
-#include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Optimize/ServerRow.h"
 #include "UI/Optimize/StatBox.h"
+
+#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -143,7 +144,7 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
 
 TEST_F(OptimizeViewTest, TheSwitchRunsTheOptimizer) {
     show();
-    auto* toggle = view.findChild<Switch*>();
+    auto* toggle = view.findChild<QCheckBox*>();
     EXPECT_TRUE(showsText(view, u"Off"_s));
     QTest::mouseClick(toggle, Qt::LeftButton);
     QCoreApplication::processEvents();

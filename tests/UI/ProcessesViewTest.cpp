@@ -5,11 +5,11 @@
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Processes/ProcessTableView.h"
 
 #include <QAbstractItemModelTester>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -52,7 +52,7 @@ struct ProcessesViewTest : ModelFixture {
     QPointer<ConfirmDialog> dialog() { return view.findChild<ConfirmDialog*>(); }
     QString notice() { return shownName<Notice>(view); }
     void foldDuplicates() {
-        QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+        QTest::mouseClick(view.findChild<QCheckBox*>(), Qt::LeftButton, {}, QPoint(10, 10));
     }
     /// What another table has from the settings.
     QList<int> widthsOfAnother() {

@@ -1,3 +1,5 @@
+#include "UI/Style/Style.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 
@@ -9,7 +11,7 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

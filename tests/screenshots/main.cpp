@@ -7,9 +7,6 @@
 #include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/FigureIcon.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
 #include "UI/MessageBanner.h"
@@ -26,6 +23,9 @@
 #include "UI/Settings/PresetTable.h"
 #include "UI/Settings/QuickKillEditorSheet.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakeLoginItem.h"
@@ -34,6 +34,7 @@
 #include <QCoroTask>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QEnterEvent>
 #include <QFileDialog>
@@ -271,9 +272,9 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     auto* processes = window.findChild<ProcessesView*>();
     auto* table = processes->findChild<QTreeView*>();
     table->setCurrentIndex(table->model()->index(3, 0));
-    processes->findChild<Switch*>()->click();
+    processes->findChild<QCheckBox*>()->click();
     camera.take(window, u"processes-grouped"_s);
-    processes->findChild<Switch*>()->click();
+    processes->findChild<QCheckBox*>()->click();
     root->select(RootView::Tab::optimize);
     stage.play(1, 24, 8.1);
     camera.take(window, u"optimize"_s);
@@ -436,7 +437,7 @@ void shootSettings(Camera& camera) {
     shoot(SettingsScene::Tab::general, u"general"_s);
     loginItem.outcome =
         Outcome::failure(u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s);
-    window.findChild<GeneralTab*>()->findChild<Switch*>()->click();
+    window.findChild<GeneralTab*>()->findChild<QCheckBox*>()->click();
     shoot(SettingsScene::Tab::general, u"general-error"_s);
     settings.preferences.pollIntervalSeconds.set(3);
     shoot(SettingsScene::Tab::sampling, u"sampling"_s);
@@ -514,7 +515,7 @@ void shootSheets(Camera& camera) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new Style);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
         std::fprintf(stderr, "usage: tavrin_screenshots OUTDIR\n");
         return 2;

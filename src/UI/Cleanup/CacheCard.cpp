@@ -1,10 +1,10 @@
 #include "UI/Cleanup/CacheCard.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -28,7 +28,6 @@ QString scannedText(const std::optional<Instant>& scanned, Instant now) {
 CacheCard::CacheCard(QWidget* parent)
     : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     actOnPressed(this, m_target, [this](const auto& target) { Q_EMIT opened(target); });
 }
@@ -57,13 +56,8 @@ void CacheCard::paintEvent(QPaintEvent*) {
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
                        m_isSelected ? Theme::color(Role::accent, 0.6) : Theme::color(Role::cardBorder));
     if (m_isSelected)
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::accent, 0.12),
-                           Qt::transparent);
-    if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), Theme::cardRadius,
-                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.6), Qt::transparent);
-    if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::accent, 0.12));
+    Painting::drawFeedback(painter, *this, Theme::cardRadius, 0.6);
 
     const QRectF area = QRectF(rect()).adjusted(Theme::cardPadding, Theme::cardPadding, -Theme::cardPadding,
                                                 -Theme::cardPadding);
@@ -74,8 +68,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
         top += height + lineGap;
         return line;
     };
-    painter.setFont(Theme::font(TextStyle::body, QFont::Medium));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     QRectF line = takeLine(painter.font());
     Symbols::draw(painter, m_target.symbol, Theme::color(Role::accent),
                   QRectF(line.left(), line.top(), Theme::iconSize, line.height()), Theme::iconSize);
@@ -85,8 +78,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
     painter.setFont(Theme::font(TextStyle::title2, QFont::DemiBold));
     Painting::drawTabular(painter, takeLine(painter.font()), Qt::AlignLeft,
                           Formatters::bytes(m_target.sizeBytes));
-    painter.setFont(Theme::font(TextStyle::caption2));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
     if (!m_target.notes.isEmpty())
         Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight,
                              Formatters::visible(m_target.notes.first()));

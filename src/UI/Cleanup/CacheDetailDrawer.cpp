@@ -6,7 +6,7 @@
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/SizeList.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "UI/Kit/EmptyState.h"
 
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QVBoxLayout>

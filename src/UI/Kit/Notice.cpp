@@ -2,9 +2,9 @@
 
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -45,7 +45,7 @@ Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidge
 /// The card's ground is translucent, and a notice may lie over other things.
 void Notice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill), Qt::transparent);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill));
 }
 
 void Notice::show(const QString& text) {

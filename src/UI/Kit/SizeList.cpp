@@ -2,9 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/ScrollingPage.h"
+#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -52,8 +53,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setFont(Theme::font(TextStyle::callout));
-        painter.setPen(Theme::color(Role::primaryText));
+        Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
         QRectF line(0, 0, width(), lineHeight);
         if (!m_figure.isEmpty()) {
             Painting::drawTabular(painter, line, Qt::AlignRight, m_figure);
@@ -115,8 +115,7 @@ bool SizeList::event(QEvent* event) {
     const bool done = QScrollArea::event(event);
     if (event->type() == QEvent::Paint) {
         QPainter painter(this);
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
-                           Theme::color(Role::cardBorder));
+        Painting::drawCard(painter, rect());
         if (hasFocus())
             Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
     }

@@ -13,13 +13,11 @@ public:
     explicit Slider(QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    double knobCentre() const;
     void takeTo(double x);
 };
 

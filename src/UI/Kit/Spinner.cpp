@@ -1,6 +1,6 @@
 #include "UI/Kit/Spinner.h"
 
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "UI/Kit/Stepper.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -25,16 +25,13 @@ public:
         : m_symbol(std::move(symbol)) {
         setFixedSize(buttonWidth, Theme::smallControlHeight);
         setFocusPolicy(Qt::NoFocus);
-        setAttribute(Qt::WA_Hover);
         setAutoRepeat(true);
     }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        if (isEnabled() && (underMouse() || isDown()))
-            Painting::drawCard(painter, rect(), Theme::controlRadius,
-                               Theme::color(Role::hoverFill, isDown() ? 1.6 : 0.9), Qt::transparent);
+        Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.9, 1.6);
         Symbols::draw(painter, m_symbol, Theme::color(Role::primaryText, isEnabled() ? 1 : disabledOpacity),
                       rect(), symbolSize);
     }

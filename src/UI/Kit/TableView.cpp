@@ -1,12 +1,12 @@
 #include "UI/Kit/TableView.h"
 
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/TableHeader.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -15,9 +15,15 @@
 
 using Theme::Role;
 
+namespace {
+
+constexpr int headerHeight = 28;
+constexpr int leastSection = 40;
+
+} // namespace
+
 TableView::TableView(const QString& name, QWidget* parent)
     : QTreeView(parent) {
-    setHeader(new TableHeader(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setIndentation(0);
@@ -30,6 +36,9 @@ TableView::TableView(const QString& name, QWidget* parent)
     setAccessibleName(name);
     SlimScrollBar::install(this);
     header()->setStretchLastSection(false);
+    header()->setSectionsMovable(false);
+    header()->setFixedHeight(headerHeight);
+    header()->setMinimumSectionSize(leastSection);
     QPalette clear = palette(); // the delegate draws the ground of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(clear);

@@ -77,7 +77,7 @@ void CachesCard::refresh(const CacheCleanup& cleanup) {
     const QList<CacheTarget>& targets = cleanup.targets();
     if (cleanup.isCleaning())
         setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? QStringLiteral("Cancelling")
-                                                                            : QStringLiteral("Cleaning"),
+                                                                         : QStringLiteral("Cleaning"),
                                            *cleanup.cleanProgress()));
     else
         setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")

@@ -8,13 +8,14 @@
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Optimize/AutoOptimizeCard.h"
 #include "UI/Optimize/CachesCard.h"
 #include "UI/Optimize/MCPCard.h"
 #include "UI/Optimize/MemoryCard.h"
 #include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Overview/FreeRAMSheet.h"
+#include "UI/Style/Theme.h"
 
 #include <QPointer>
 #include <QVBoxLayout>
@@ -96,27 +97,25 @@ void OptimizeView::placeNotice() {
 }
 
 void OptimizeView::nudge() {
-    m_model.actions().nudgeMemory().then(
-        [self = QPointer<OptimizeView>(this)](const Outcome& nudged) {
-            if (!self)
-                return;
-            self->m_memory->setNudgeFailure(nudged.reason);
-            self->toast(nudged.done ? QStringLiteral("Sent memory_pressure -l warn")
-                                    : QStringLiteral("memory_pressure failed"));
-        });
+    m_model.actions().nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& nudged) {
+        if (!self)
+            return;
+        self->m_memory->setNudgeFailure(nudged.reason);
+        self->toast(nudged.done ? QStringLiteral("Sent memory_pressure -l warn")
+                                : QStringLiteral("memory_pressure failed"));
+    });
 }
 
 void OptimizeView::purge() {
     m_memory->setPurging(true);
-    m_model.actions().purgeMemory().then(
-        [self = QPointer<OptimizeView>(this)](const Outcome& purged) {
-            if (!self)
-                return;
-            self->m_memory->setPurging(false);
-            self->m_memory->setPurgeFailure(purged.reason);
-            self->toast(purged.done ? QStringLiteral("Inactive memory purged")
-                                    : QStringLiteral("Purge cancelled or failed"));
-        });
+    m_model.actions().purgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& purged) {
+        if (!self)
+            return;
+        self->m_memory->setPurging(false);
+        self->m_memory->setPurgeFailure(purged.reason);
+        self->toast(purged.done ? QStringLiteral("Inactive memory purged")
+                                : QStringLiteral("Purge cancelled or failed"));
+    });
 }
 
 void OptimizeView::killPreset(const QuickKillPreset& preset) {

@@ -1,6 +1,6 @@
 #include "UI/Optimize/StatBox.h"
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 
@@ -46,7 +46,7 @@ QSize StatBox::sizeHint() const {
 
 void StatBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1), Qt::transparent);
+    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1));
     QRectF area = QRectF(rect()).adjusted(padding, padding, -padding, -padding);
     const double labelHeight = QFontMetricsF(labelFont()).height();
     painter.setFont(labelFont());

@@ -3,7 +3,7 @@
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/Severity.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>

@@ -2,8 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -57,20 +59,17 @@ protected:
         Symbols::draw(painter, m_look.symbol, Theme::color(m_look.role),
                       QRectF(0, 0, Theme::iconColumn, height()), 14);
         line.setLeft(Theme::iconColumn + 4);
-        painter.setFont(Theme::font(TextStyle::caption, QFont::Medium));
-        painter.setPen(Theme::color(m_look.role));
+        Painting::setTextStyle(painter, TextStyle::caption, m_look.role, QFont::Medium);
         const double outcomeWidth = QFontMetricsF(painter.font()).horizontalAdvance(m_look.text);
         Painting::drawElided(painter, QRectF(line.right() - outcomeWidth - 1, 0, outcomeWidth + 1, height()),
                              Qt::ElideRight, m_look.text);
-        painter.setFont(Theme::font(TextStyle::caption));
-        painter.setPen(Theme::color(Role::primaryText));
+        Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
         const QFontMetricsF metrics(painter.font());
         const double idWidth = metrics.horizontalAdvance(m_id) + Theme::rowSpacing;
         line.setRight(line.right() - outcomeWidth - Theme::rowSpacing - idWidth);
         const QString name = metrics.elidedText(m_name, Qt::ElideMiddle, line.width());
         Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
-        painter.setFont(Theme::font(TextStyle::caption2));
-        painter.setPen(Theme::color(Role::secondaryText));
+        Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
         line.setLeft(line.left() + metrics.horizontalAdvance(name) + 6);
         line.setRight(line.left() + idWidth);
         Painting::drawTabular(painter, line, Qt::AlignLeft, m_id);

@@ -1,10 +1,10 @@
 #include "UI/Overview/GroupRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/ProcessRow.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -35,7 +35,6 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
     describe();
 }
 
@@ -76,8 +75,7 @@ void GroupHeader::keyPressEvent(QKeyEvent* event) {
 void GroupHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (underMouse())
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill),
-                           Qt::transparent);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill));
 
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     const auto secondary = Theme::color(Role::secondaryText);
@@ -90,8 +88,7 @@ void GroupHeader::paintEvent(QPaintEvent*) {
     const auto cpu = QStringLiteral("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
     Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth, columnGap), Qt::AlignRight, cpu);
 
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth, columnGap), Qt::AlignRight,
                           Formatters::bytes(m_rollup.rssBytes));
 
@@ -110,13 +107,11 @@ void GroupHeader::paintLabel(QPainter& painter, QRectF area) {
 
     area.setLeft(icon.right() + Theme::rowSpacing);
     const QString label = rawValue(m_rollup.group);
-    painter.setFont(Theme::font(TextStyle::body, QFont::Medium));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     Painting::drawElided(painter, area, Qt::ElideRight, label);
 
     area.setLeft(area.left() + QFontMetricsF(painter.font()).horizontalAdvance(label) + 6);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, area, Qt::AlignLeft, QStringLiteral("(%1)").arg(m_rollup.count));
 }
 

@@ -2,9 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -67,8 +67,7 @@ void ProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     Painting::takeRight(line, m_buttonsWidth);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, memoryWidth), Qt::AlignRight, m_memory);
     Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth), Qt::AlignRight, m_cpu);
 
@@ -76,7 +75,6 @@ void ProcessRow::paintEvent(QPaintEvent*) {
     Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_process.pid));
 
     line.setLeft(line.left() + pidWidth);
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
 }

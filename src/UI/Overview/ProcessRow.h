@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Sampling/ProcSample.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QWidget>
 

@@ -3,10 +3,10 @@
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Processes/ProcessColumns.h"
+#include "UI/Style/Theme.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 
 namespace {
@@ -22,7 +22,7 @@ ProcessControls::ProcessControls(QWidget* parent)
     , m_sort(new PopUpButton(QStringLiteral("Sort")))
     , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM "), QStringLiteral(" MB"), {0, 500, 10},
                                  ProcessQuery().minRSSMB, sliderWidth))
-    , m_fold(new Switch(QStringLiteral("Group duplicates"))) {
+    , m_fold(new QCheckBox(QStringLiteral("Group duplicates"))) {
     m_group->addItem(QStringLiteral("All"));
     for (const ProcGroup group : allCases<ProcGroup>())
         m_group->addItem(rawValue(group));
@@ -52,7 +52,7 @@ ProcessControls::ProcessControls(QWidget* parent)
     connect(m_group, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
     connect(m_sort, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
     connect(m_minRSS, &LabeledSlider::valueChanged, this, &ProcessControls::changed);
-    connect(m_fold, &Switch::toggled, this, &ProcessControls::changed);
+    connect(m_fold, &QCheckBox::toggled, this, &ProcessControls::changed);
 }
 
 ProcessQuery ProcessControls::query() const {

@@ -1,10 +1,10 @@
 #include "UI/Processes/ProcessRowDelegate.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -75,11 +75,7 @@ QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, qsizetype
     const double left = std::min(area.left() + nameWidth + padding, area.right() - width);
     const QRectF badge(left, area.center().y() - badgeHeight / 2.0, width, badgeHeight);
     painter.save();
-    Painting::drawCard(painter, badge, badgeHeight / 2.0, Theme::tileColor(Role::orange, 0.85),
-                       Qt::transparent);
-    painter.setFont(font);
-    painter.setPen(Qt::white);
-    Painting::drawTabular(painter, badge, Qt::AlignHCenter, text);
+    Painting::drawBadge(painter, badge, Role::orange, font, text);
     painter.restore();
     area.setRight(left - padding / 2.0);
     return area;

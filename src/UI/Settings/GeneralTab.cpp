@@ -3,8 +3,9 @@
 #include "Platform/LoginItem.h"
 #include "Platform/Words.h"
 #include "UI/Kit/FormSection.h"
-#include "UI/Kit/Switch.h"
 #include "UI/Kit/TextLabel.h"
+
+#include <QCheckBox>
 
 GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
     : SettingsForm(preferences, QStringLiteral("General"), parent)
@@ -16,7 +17,7 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     m_loginError->hide();
     addToggle(startup, QStringLiteral("Show floating widget on launch"), preferences.showWidgetOnLaunch);
     addToggle(startup, QStringLiteral("Show in %1").arg(Words::native().taskBar), preferences.showInDock);
-    connect(startAtLogin, &Switch::toggled, this, &GeneralTab::applyLoginItem);
+    connect(startAtLogin, &QCheckBox::toggled, this, &GeneralTab::applyLoginItem);
 
     const auto formats = allCases<MenuBarFormat>();
     addPicker<MenuBarFormat>(addSection(Words::native().statusArea), QStringLiteral("Display"),

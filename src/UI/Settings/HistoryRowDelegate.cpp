@@ -1,10 +1,10 @@
 #include "UI/Settings/HistoryRowDelegate.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/Settings/LocalTimeText.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractItemView>
 #include <QFontDatabase>

@@ -2,9 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Settings/PresetTableModel.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -118,8 +118,7 @@ void PresetTable::paintEvent(QPaintEvent* event) {
     if (m_rows->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
     painter.drawText(viewport()->rect(), Qt::AlignCenter, accessibleDescription());
 }
 

@@ -1,7 +1,7 @@
 #include "UI/Settings/TabButton.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -28,7 +28,6 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
     setCheckable(true);
     setAutoExclusive(true);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -40,8 +39,7 @@ void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (isChecked() || underMouse() || isDown())
         Painting::drawCard(painter, rect(), Theme::controlRadius,
-                           isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill),
-                           Qt::transparent);
+                           isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill));
     // A ring only for those who move by keyboard: the window opens with the focus here.
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);

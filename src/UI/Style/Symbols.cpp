@@ -1,4 +1,4 @@
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Symbols.h"
 
 #include <QDir>
 #include <QFile>
@@ -59,22 +59,3 @@ void draw(QPainter& painter, const QString& name, const QColor& tint, const QRec
 }
 
 } // namespace Symbols
-
-SymbolView::SymbolView(int size, int width, QWidget* parent)
-    : QWidget(parent)
-    , m_size(size) {
-    setFixedSize(width, size);
-}
-
-void SymbolView::set(const QString& name, Theme::Role role) {
-    if (m_name == name && m_role == role)
-        return;
-    m_name = name;
-    m_role = role;
-    update();
-}
-
-void SymbolView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Symbols::draw(painter, m_name, Theme::color(m_role), rect(), m_size);
-}

@@ -1,5 +1,6 @@
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
+#include <QAbstractButton>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -51,6 +52,11 @@ void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor
     painter.restore();
 }
 
+void drawCard(QPainter& painter, const QRectF& area, double radius) {
+    drawCard(painter, area, radius, Theme::color(Theme::Role::cardFill),
+             Theme::color(Theme::Role::cardBorder));
+}
+
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -58,6 +64,29 @@ void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
     painter.restore();
+}
+
+void drawFeedback(QPainter& painter, const QAbstractButton& button, double radius, double pointed,
+                  double held) {
+    if (button.isEnabled() && (button.underMouse() || button.isDown()))
+        drawCard(painter, button.rect(), radius,
+                 Theme::color(Theme::Role::hoverFill, button.isDown() ? held : pointed));
+    if (button.hasFocus())
+        drawFocusRing(painter, button.rect(), radius);
+}
+
+void drawBadge(QPainter& painter, const QRectF& area, Theme::Role role, const QFont& font,
+               const QString& text) {
+    drawCard(painter, area, area.height() / 2, Theme::tileColor(role, 0.85));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    drawTabular(painter, area, Qt::AlignHCenter, text);
+}
+
+void setTextStyle(QPainter& painter, Theme::TextStyle style, Theme::Role role,
+                  std::optional<QFont::Weight> weight) {
+    painter.setFont(Theme::font(style, weight));
+    painter.setPen(Theme::color(role));
 }
 
 double tabularWidth(const QFont& font, const QString& text) {

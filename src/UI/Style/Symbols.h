@@ -1,11 +1,9 @@
 #pragma once
 
-#include "UI/Kit/Theme.h"
-
+#include <QColor>
 #include <QPixmap>
 #include <QRectF>
-#include <QString>
-#include <QWidget>
+#include <QStringList>
 
 class QPainter;
 
@@ -22,21 +20,3 @@ QPixmap pixmap(const QString& name, const QColor& tint, int size, double deviceP
 void draw(QPainter& painter, const QString& name, const QColor& tint, const QRectF& area, int size);
 
 } // namespace Symbols
-
-/// A symbol that stands by itself in a layout.
-class SymbolView : public QWidget {
-    Q_OBJECT
-
-public:
-    SymbolView(int size, int width, QWidget* parent = nullptr);
-
-    void set(const QString& name, Theme::Role role);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QString m_name;
-    Theme::Role m_role = Theme::Role::secondaryText;
-    int m_size;
-};

@@ -49,6 +49,7 @@ inline constexpr int textGap = 2;
 inline constexpr double tileRadius = 12;
 inline constexpr double cardRadius = 10;
 inline constexpr double controlRadius = 7;
+inline constexpr double disabledOpacity = 0.45; ///< of a control's text and fill
 inline constexpr int controlHeight = 28;
 inline constexpr int smallControlHeight = 24;
 inline constexpr int iconColumn = 24;

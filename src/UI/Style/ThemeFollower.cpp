@@ -1,7 +1,7 @@
-#include "UI/Kit/ThemeFollower.h"
+#include "UI/Style/ThemeFollower.h"
 
 #include "Platform/Appearance.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QApplication>
 #include <QPalette>
