@@ -8,7 +8,7 @@ namespace {
 constexpr qsizetype processCount = 1000;
 constexpr qsizetype steadyCount = 200; ///< the first ones, which stay
 constexpr int startsPerPass = 400;
-constexpr qint32 largestPid = 32767;
+constexpr qint32 maxPid = 32767;
 constexpr quint64 MiB = 1 << 20;
 
 constexpr std::array steadyNames = {"claude",   "code",   "firefox-esr", "chrome", "dockerd",
@@ -35,7 +35,7 @@ void BusyMachine::pass() {
 
 qint32 BusyMachine::nextFreePid() {
     do
-        m_pid = m_pid == largestPid ? 300 : m_pid + 1;
+        m_pid = m_pid == maxPid ? 300 : m_pid + 1;
     while (fakes.processes->processes.contains(m_pid));
     return m_pid;
 }

@@ -12,14 +12,14 @@
 namespace {
 
 /// Whatever is stored, the program neither spins nor overflows the timer.
-constexpr double shortestIntervalSeconds = 0.1;
-constexpr double longestIntervalSeconds = 86400;
+constexpr double minIntervalSeconds = 0.1;
+constexpr double maxIntervalSeconds = 86400;
 constexpr double intervalTolerance = 0.01;
 
 double effectiveInterval(double stored) {
     if (!std::isfinite(stored))
-        return shortestIntervalSeconds;
-    return std::clamp(stored, shortestIntervalSeconds, longestIntervalSeconds);
+        return minIntervalSeconds;
+    return std::clamp(stored, minIntervalSeconds, maxIntervalSeconds);
 }
 
 } // namespace

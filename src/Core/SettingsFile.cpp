@@ -60,11 +60,11 @@ QVariant SettingsFile::value(const QString& key) const {
 /// only where more than the whole has just fitted.
 bool SettingsFile::hasRoom() const {
     constexpr qsizetype slack = 4096;
-    constexpr qsizetype mostEscaped = 4; // a byte can take four
+    constexpr qsizetype maxEscaped = 4; // a byte can take four
     const QFileInfo file(path());
     qsizetype size = file.size() + slack;
     for (const QVariant& each : m_unsaved)
-        size += mostEscaped * each.toByteArray().size();
+        size += maxEscaped * each.toByteArray().size();
     QDir().mkpath(file.path());
     QTemporaryFile trial(path() + QStringLiteral(".XXXXXX"));
     return trial.open() && trial.write(QByteArray(size, 'x')) == size && trial.flush();

@@ -18,7 +18,7 @@ namespace {
 using Record = FreeRAMResult::Record;
 using Handles = QList<std::shared_ptr<ProcessHandle>>;
 
-constexpr qsizetype mostCandidates = 15;
+constexpr qsizetype maxCandidates = 15;
 /// A process of no known group is offered only when it is really large: a decimal gigabyte.
 constexpr quint64 largeUnknownBytes = 1'000'000'000;
 
@@ -81,7 +81,7 @@ QList<FreeRamPreview> ProcessActions::freeRamCandidates(double minIdleMin, doubl
         }
     }
     std::ranges::stable_sort(candidates, std::ranges::greater(), &FreeRamPreview::rssBytes);
-    return candidates.mid(0, mostCandidates);
+    return candidates.mid(0, maxCandidates);
 }
 
 QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {

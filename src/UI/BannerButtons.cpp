@@ -15,7 +15,7 @@ using Theme::Role;
 namespace {
 
 constexpr int capsulePadding = 12;
-constexpr int widestCapsule = 240;
+constexpr int maxCapsuleWidth = 240;
 constexpr int dismissSide = 20;
 constexpr int crossSize = 18; // of which the cross fills half
 
@@ -41,7 +41,7 @@ void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Sever
 
 QSize ActionCapsule::sizeHint() const {
     const int wanted = fontMetrics().horizontalAdvance(m_caption) + 2 * capsulePadding;
-    return {std::min(wanted, widestCapsule), height()};
+    return {std::min(wanted, maxCapsuleWidth), height()};
 }
 
 void ActionCapsule::paintEvent(QPaintEvent*) {

@@ -23,13 +23,13 @@ constexpr int itemSpacing = 12;
 constexpr QMargins padding(14, 10, 14, 10);
 /// Brings the title's first line to the middle of the symbol.
 constexpr int titleDrop = 2;
-constexpr int mostTitleLines = 2;
-constexpr int mostBodyLines = 3;
+constexpr int maxTitleLines = 2;
+constexpr int maxBodyLines = 3;
 /// More can not be seen anyway, and laying out a megabyte would be felt.
-constexpr qsizetype longestText = 2000;
+constexpr qsizetype maxTextLength = 2000;
 
 QString shortened(const QString& text) {
-    return text.size() > longestText ? text.left(longestText) + u'…' : text;
+    return text.size() > maxTextLength ? text.left(maxTextLength) + u'…' : text;
 }
 
 /// Empty unless the message has both a caption that can be seen and a link that may be followed.
@@ -45,8 +45,8 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     , m_center(center)
     , m_open(std::move(open))
     , m_symbol(new SymbolView(Theme::iconSize, symbolFrame))
-    , m_title(new ClampedLabel(mostTitleLines, TextStyle::headline))
-    , m_body(new ClampedLabel(mostBodyLines, TextStyle::callout))
+    , m_title(new ClampedLabel(maxTitleLines, TextStyle::headline))
+    , m_body(new ClampedLabel(maxBodyLines, TextStyle::callout))
     , m_action(new ActionCapsule) {
     m_symbol->setFixedHeight(symbolFrame);
     m_body->secondary();

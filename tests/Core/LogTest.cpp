@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 using namespace Qt::StringLiterals;
@@ -65,8 +66,8 @@ void failEverywhere(const TemporaryHome& home) {
     SettingsFile(home.makeFile(u"file"_s) + u"/below.ini"_s).store(u"key"_s, home.path());
     QCoro::waitFor(LinuxRelief(tools).quitApplication(home.path(), false));
     QCoro::waitFor(Cleaner::list({}, home.path(), {}, tools));
-    std::stringbuf broken("[" + home.path().toStdString());
-    ServerToml::read(broken, home.path());
+    std::stringbuf twice("x = 1\nx = '" + home.path().toStdString() + "'\n");
+    ServerToml::read(twice, home.path());
     auto feed = std::make_unique<ScriptedFeed>();
     feed->answer = home.path().toUtf8();
     MessageCenter center(std::move(feed), settings.preferences.file());

@@ -42,14 +42,14 @@ public:
     }
 
     /// A server that `parent` started, waited for until it is as large.
-    qint32 childOf(qint32 parent, quint64 leastBytes) {
+    qint32 childOf(qint32 parent, quint64 minBytes) {
         qint32 child = 0;
         const auto isThere = [&] {
             const int count = LinuxProcessTable::listAllPids(m_everything);
             for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
                 const auto info = kernelInfo(pid);
                 if (info && info->parentPid == parent && origin(pid).argumentArea.contains("mcp-server") &&
-                    taskInfo(pid).value_or(TaskInfo()).residentBytes >= leastBytes)
+                    taskInfo(pid).value_or(TaskInfo()).residentBytes >= minBytes)
                     child = pid;
             }
             return child > 0;

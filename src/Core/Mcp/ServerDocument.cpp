@@ -17,7 +17,7 @@ namespace {
 using MCPInspector::ConfiguredServer;
 using nlohmann::json;
 
-constexpr std::size_t mostKeptBytes = 8 << 20;
+constexpr std::size_t maxKeptBytes = 8 << 20;
 constexpr std::size_t bytesOfServer = 256; ///< beside its texts, about
 
 using ServersByName = std::map<QString, ConfiguredServer>;
@@ -180,7 +180,7 @@ bool ServerReader::takeScalar() {
 
 bool ServerReader::keep(std::size_t bytes) {
     m_keptBytes += bytes;
-    return m_keptBytes <= mostKeptBytes;
+    return m_keptBytes <= maxKeptBytes;
 }
 
 ServerDocument::Servers ServerReader::servers(const QString& scope) const {

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr qint64 mostBytesAtOnce = 64 << 10;
+constexpr qint64 maxBytesAtOnce = 64 << 10;
 
 } // namespace
 
@@ -46,7 +46,7 @@ bool ServerFile::look(QThreadPool& pool) {
     const bool isChanged = m_reading.isValid() && takeOver(m_reading.takeResult());
     if (versionOf(status) == m_version)
         return isChanged;
-    if (status.st_size <= mostBytesAtOnce)
+    if (status.st_size <= maxBytesAtOnce)
         return takeOver(readFile(m_path, m_read)) || isChanged;
     if (m_rest.hasExpired())
         startReading(pool);

@@ -14,10 +14,10 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-constexpr double leastIdleSeconds = 60; ///< below it a server has only just answered
+constexpr double minIdleSeconds = 60; ///< below it a server has only just answered
 
 QString idleText(double seconds) {
-    if (seconds < leastIdleSeconds)
+    if (seconds < minIdleSeconds)
         return {};
     const bool isHours = seconds >= 3600;
     return u", no CPU for %1 %2"_s.arg(std::lround(seconds / (isHours ? 3600 : 60)))

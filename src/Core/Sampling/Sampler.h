@@ -51,8 +51,8 @@ public:
     bool isReplaced(qint32 pid) const;
 
     /// How many processes the tables remember; level in the long run.
-    qsizetype rememberedProcesses() const { return known.size(); }
-    qsizetype rememberedTexts() const { return texts.size(); }
+    qsizetype rememberedProcesses() const { return m_known.size(); }
+    qsizetype rememberedTexts() const { return m_texts.size(); }
 
 private:
     struct PrevCPU {
@@ -95,15 +95,15 @@ private:
     QString interned(const QString& text);
     void evictUnseen();
 
-    std::shared_ptr<HostStatistics> host;
-    std::shared_ptr<ProcessTable> table;
-    std::shared_ptr<Clock> clock;
-    std::shared_ptr<Applications> applications;
-    Classifier classify;
-    std::optional<CpuTicks> prevHostCPU;
-    QHash<qint32, Known> known; ///< by process id
-    QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it
-    qsizetype gone = 0;         ///< processes, since their texts were last dropped
-    QSet<qint32> left;          ///< ids that lost their process in this pass
-    quint32 pass = 0;
+    std::shared_ptr<HostStatistics> m_host;
+    std::shared_ptr<ProcessTable> m_table;
+    std::shared_ptr<Clock> m_clock;
+    std::shared_ptr<Applications> m_applications;
+    Classifier m_classify;
+    std::optional<CpuTicks> m_prevHostCPU;
+    QHash<qint32, Known> m_known; ///< by process id
+    QSet<QString> m_texts;        ///< names, paths and arguments, each stored once for all that have it
+    qsizetype m_gone = 0;         ///< processes, since their texts were last dropped
+    QSet<qint32> m_left;          ///< ids that lost their process in this pass
+    quint32 m_pass = 0;
 };

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr qint64 largestEntry = 65536;
+constexpr qint64 maxEntryBytes = 65536;
 
 QString autostartFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -83,7 +83,7 @@ QString registeredProgram() {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     constexpr QByteArrayView key = "TryExec=";
-    for (const QByteArray& line : file.read(largestEntry).split('\n')) {
+    for (const QByteArray& line : file.read(maxEntryBytes).split('\n')) {
         if (line.startsWith(key))
             return textOf(line.mid(key.size()));
     }

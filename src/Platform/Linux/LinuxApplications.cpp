@@ -15,12 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = 16 * 1024;
+constexpr qint64 maxBytes = 16 * 1024;
 
 /// Empty where it cannot be read. A file of procfs, or one of a sandbox, which may be anything.
 QByteArray textOf(const QString& path) {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
 }
 
 QString fileName(const QString& path) {

@@ -22,8 +22,8 @@ namespace {
 constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone takes 30 at once
 constexpr qsizetype markedBytes = 4096;
 // Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
-constexpr int mostRepeats = 15;
-constexpr qsizetype mostArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
+constexpr int maxRepeats = 15;
+constexpr qsizetype maxArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
 
 /// As clock_getcpuclockid(3) makes it, without its call to ask whether the process exists.
 clockid_t cpuClockOf(qint32 pid) {
@@ -68,7 +68,7 @@ LinuxProcessTable::LinuxProcessTable(const std::string& root)
     , m_tickNs(1'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK))) {}
 
 int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
-    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < mostRepeats;
+    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < maxRepeats;
     m_repeats = unchanged ? m_repeats + 1 : 0;
     if (!unchanged) {
         listAnew();
@@ -319,7 +319,7 @@ QByteArray LinuxProcessTable::wholeFile(qint32 pid, const char* name) const {
     const auto file = openFile(pid, name);
     QByteArray area(4096, Qt::Uninitialized);
     qsizetype filled = 0;
-    while (filled < mostArguments) {
+    while (filled < maxArguments) {
         const auto length = pread(file.descriptor(), area.data() + filled, area.size() - filled, filled);
         if (length < 0 && errno == EINTR)
             continue;

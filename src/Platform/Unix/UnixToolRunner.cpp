@@ -52,10 +52,10 @@ void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
     // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
     constexpr int thisProcess = 1;
     constexpr int bestEffort = 2;
-    constexpr int lowestLevel = 7;
+    constexpr int lowestPriority = 7;
     setpgid(0, 0);
     setpriority(PRIO_PROCESS, 0, niceness);
-    syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestLevel);
+    syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestPriority);
     setrlimit(RLIMIT_NOFILE, &descriptors);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != parent) // it ended before the line above

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostListHeight = 300;
+constexpr int maxListHeight = 300;
 
 SizeList* listOf(const QList<CacheTarget>& targets) {
     auto* list = new SizeList(u"What goes"_s);
@@ -24,7 +24,7 @@ SizeList* listOf(const QList<CacheTarget>& targets) {
         spoken.append(row.name + u", "_s + row.figure);
     }
     list->setAccessibleDescription(spoken.join(u"; "_s));
-    list->fit(ConfirmDialog::textWidth, mostListHeight);
+    list->fit(ConfirmDialog::textWidth, maxListHeight);
     return list;
 }
 

@@ -24,7 +24,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int leastCardWidth = 220;
+constexpr int minCardWidth = 220;
 constexpr int cardGap = 12;
 
 } // namespace
@@ -106,7 +106,7 @@ QWidget* CleanupView::makeGrid() {
     margins.setTop(0);
     auto* area = new QScrollArea;
     auto* column = makeScrollingPage(area, margins, 0);
-    m_grid = new FlowGrid(leastCardWidth, cardGap);
+    m_grid = new FlowGrid(minCardWidth, cardGap);
     column->addLayout(m_grid);
     column->addStretch();
     area->setFocusPolicy(Qt::NoFocus);

@@ -7,14 +7,14 @@
 
 namespace {
 
-constexpr int leastHeight = 120;
+constexpr int minHeight = 120;
 constexpr int symbolSize = 30;
 
 } // namespace
 
 EmptyState::EmptyState(const QString& symbol, const QString& headline, const QString& text, QWidget* parent)
     : QWidget(parent) {
-    setMinimumHeight(leastHeight);
+    setMinimumHeight(minHeight);
     auto* icon = new SymbolView(symbolSize, symbolSize);
     icon->set(symbol, Theme::Role::secondaryText);
     auto* title = new TextLabel(Theme::TextStyle::headline);

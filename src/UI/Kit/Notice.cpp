@@ -13,13 +13,13 @@ using Theme::Role;
 
 namespace {
 
-constexpr int mostLines = 2;
+constexpr int maxLines = 2;
 
 } // namespace
 
 Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent)
     : QWidget(parent)
-    , m_text(new ClampedLabel(mostLines, Theme::TextStyle::callout)) {
+    , m_text(new ClampedLabel(maxLines, Theme::TextStyle::callout)) {
     auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
     icon->set(symbol, Role::green);
     auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);

@@ -22,7 +22,7 @@ namespace {
 constexpr int lineHeight = 26;
 constexpr int edge = 3; ///< room for the ring round the viewport
 constexpr int padding = 9;
-constexpr int mostDetailLines = 2;
+constexpr int maxDetailLines = 2;
 constexpr int detailGap = 5;
 
 class RowView : public QWidget {
@@ -36,7 +36,7 @@ public:
         if (!m_figure.isEmpty())
             spoken.append(m_figure);
         if (!row.detail.isEmpty()) {
-            auto* detail = new ClampedLabel(mostDetailLines, TextStyle::caption);
+            auto* detail = new ClampedLabel(maxDetailLines, TextStyle::caption);
             if (row.isGrave)
                 detail->tinted(Role::red);
             else

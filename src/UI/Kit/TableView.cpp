@@ -18,7 +18,7 @@ using Theme::Role;
 namespace {
 
 constexpr int headerHeight = 28;
-constexpr int leastSection = 40;
+constexpr int minSection = 40;
 
 } // namespace
 
@@ -38,7 +38,7 @@ TableView::TableView(const QString& name, QWidget* parent)
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setFixedHeight(headerHeight);
-    header()->setMinimumSectionSize(leastSection);
+    header()->setMinimumSectionSize(minSection);
     QPalette clear = palette(); // the delegate draws the ground of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(clear);

@@ -9,7 +9,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int padding = 10;
-constexpr int leastWidth = 92;
+constexpr int minWidth = 92;
 constexpr double letterSpacing = 0.5;
 
 QFont labelFont() {
@@ -41,7 +41,7 @@ void StatBox::set(const QString& value, Theme::Role role) {
 
 QSize StatBox::sizeHint() const {
     const int heights = QFontMetrics(labelFont()).height() + QFontMetrics(valueFont()).height();
-    return {leastWidth, heights + Theme::textGap + 2 * padding};
+    return {minWidth, heights + Theme::textGap + 2 * padding};
 }
 
 void StatBox::paintEvent(QPaintEvent*) {

@@ -18,7 +18,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int rowHeight = 22;
-constexpr int mostRowsShown = 5;
+constexpr int maxRowsShown = 5;
 
 struct Look {
     QString symbol;
@@ -119,7 +119,7 @@ void FreeRAMResultView::set(const FreeRAMResult& result) {
         m_rows.append(new OutcomeRow(record));
         m_rowsLayout->addWidget(m_rows.last());
     }
-    const auto shown = std::min<qsizetype>(m_rows.size(), mostRowsShown);
+    const auto shown = std::min<qsizetype>(m_rows.size(), maxRowsShown);
     m_area->setFixedHeight(static_cast<int>(shown) * rowHeight);
     m_area->setVisible(!m_rows.isEmpty());
 }

@@ -18,11 +18,11 @@ bool matches(const ProcSample& process, const QString& search) {
 } // namespace
 
 QList<ProcSample> ProcessQuery::filteredAndSorted(const QList<ProcSample>& processes) const {
-    const quint64 leastBytes = static_cast<quint64>(minRSSMB) << 20;
+    const quint64 minBytes = static_cast<quint64>(minRSSMB) << 20;
     QList<ProcSample> result;
     result.reserve(processes.size());
     for (const ProcSample& process : processes) {
-        if (process.rssBytes >= leastBytes && (!groupFilter || groupFilter == process.group) &&
+        if (process.rssBytes >= minBytes && (!groupFilter || groupFilter == process.group) &&
             matches(process, search))
             result.append(process);
     }

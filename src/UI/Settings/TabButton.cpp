@@ -11,7 +11,7 @@ using Theme::Role;
 
 namespace {
 
-constexpr int leastWidth = 72;
+constexpr int minWidth = 72;
 constexpr int padding = 10;
 constexpr int tabHeight = 50;
 constexpr int symbolSize = 20;
@@ -32,7 +32,7 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
 }
 
 QSize TabButton::sizeHint() const {
-    return {std::max(leastWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
+    return {std::max(minWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {

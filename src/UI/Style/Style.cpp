@@ -19,7 +19,7 @@ constexpr int switchGap = 8;
 constexpr int fieldPadding = 6;
 constexpr int sliderTrackHeight = 4;
 constexpr int thumbInset = 3;
-constexpr int shortestThumb = 36;
+constexpr int minThumbLength = 36;
 constexpr int sectionPadding = 8;
 constexpr int chevronSize = 10;
 
@@ -132,8 +132,8 @@ QRect scrollBarPart(const QStyleOptionSlider& slider, QStyle::SubControl part) {
     const QRect bar = slider.rect;
     const qint64 whole = qint64(slider.maximum) - slider.minimum + slider.pageStep;
     const int length =
-        whole > 0 ? qBound(shortestThumb, static_cast<int>(bar.height() * qint64(slider.pageStep) / whole),
-                           qMax(shortestThumb, bar.height()))
+        whole > 0 ? qBound(minThumbLength, static_cast<int>(bar.height() * qint64(slider.pageStep) / whole),
+                           qMax(minThumbLength, bar.height()))
                   : bar.height();
     const int start = QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, slider.sliderPosition,
                                                       bar.height() - length);
@@ -222,7 +222,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     if (type == CT_LineEdit && isOurs(widget))
         return {contents.width() + 2 * fieldPadding, Theme::controlHeight};
     if (type == CT_ScrollBar && slimBar(qstyleoption_cast<const QStyleOptionComplex*>(option), widget))
-        return {Theme::scrollBarRoom, 3 * shortestThumb};
+        return {Theme::scrollBarRoom, 3 * minThumbLength};
     return QProxyStyle::sizeFromContents(type, option, contents, widget);
 }
 
