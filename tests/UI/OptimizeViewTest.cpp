@@ -54,7 +54,7 @@ TEST_F(OptimizeViewTest, TilesCountWhatAPressWouldSignal) {
     usePreset(u"Work"_s, u"WORKER"_s);
     ASSERT_EQ(tiles().size(), 1);
     QuickKillsCard fresh;
-    fresh.refresh(model, prefs.quickKillPresets());
+    fresh.refresh(model.actions(), prefs.quickKillPresets());
     EXPECT_EQ(view.findChild<QuickKillsCard*>()->sizeHint(), fresh.sizeHint()) << "hidden tiles take room";
     EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 2 matching"_s);
     addProcesses(1, "worker", 1);
