@@ -70,6 +70,8 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     , m_alertRows([this] { return addRow(m_alertColumn, TextStyle::caption); }) {
     for (QVBoxLayout* rows : {m_processColumn, m_alertColumn})
         rows->setSpacing(0);
+    m_processRows.reserve(shownProcesses);
+    m_alertRows.reserve(shownAlerts);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, 10, padding, padding);
     column->setSpacing(spacing);

@@ -104,7 +104,7 @@ QLayout* WidgetView::makeGroups() {
     m_groupColumn = new QVBoxLayout;
     m_groupColumn->setSpacing(0);
     m_groupColumn->addWidget(heading);
-    m_groupRows.reserve(shownGroups); // the panel finds its place by the height before the first tick
+    m_groupRows.reserve(shownGroups); // the panel is placed by its height before the first tick
     return m_groupColumn;
 }
 

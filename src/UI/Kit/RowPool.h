@@ -11,7 +11,8 @@ public:
     explicit RowPool(std::function<Row*()> make)
         : m_make(std::move(make)) {}
 
-    /// Makes sure of that many rows, where their room counts before there is something to show.
+    /// Makes sure of that many rows, where their room, or their place before widgets that are made later,
+    /// counts before there is something to show.
     void reserve(qsizetype count) {
         while (m_rows.size() < count)
             m_rows.append(m_make());

@@ -63,6 +63,7 @@ CachesCard::CachesCard(QWidget* parent)
     auto* row = new QHBoxLayout;
     for (QHBoxLayout* each : {row, m_chipRow})
         each->setSpacing(chipGap);
+    m_chips.reserve(shownTargets);
     row->addLayout(m_chipRow);
     row->addStretch();
     auto* buttons = new QHBoxLayout;
