@@ -13,6 +13,8 @@ namespace {
 using KnownPrograms::Program;
 namespace Table = KnownPrograms::Table;
 
+constexpr QStringView separator = u", ";
+
 bool comesBefore(QStringView name, QStringView other) {
     return name.compare(other, Qt::CaseInsensitive) < 0;
 }
@@ -22,7 +24,7 @@ const std::vector<Program>& programs() {
     static const std::vector<Program> sorted = [] {
         std::vector<Program> all;
         for (const Table::Row& row : Table::programs) {
-            for (const char16_t* name : row.names)
+            for (const QStringView name : row.names.split(separator))
                 all.push_back({.name = name, .group = row.group, .hostsServers = row.hostsServers});
         }
         std::ranges::stable_sort(all, comesBefore, &Program::name);
@@ -77,7 +79,10 @@ bool KnownPrograms::onlySoundsLike(ProcGroup group, QStringView name) {
     for (const Table::FalseFriends& row : Table::falseFriends) {
         if (row.group != group)
             continue;
-        return std::ranges::any_of(row.names, [name](QStringView pattern) { return fits(name, pattern); });
+        for (const QStringView pattern : row.names.tokenize(separator)) {
+            if (fits(name, pattern))
+                return true;
+        }
     }
     return false;
 }
