@@ -29,6 +29,8 @@ Metric cpu(const SystemSample& sample, const QList<SystemSample>& history);
 Metric memory(const SystemSample& sample, const QList<SystemSample>& history);
 Metric disk(const SystemSample& sample);
 Metric thermal(const SystemSample& sample);
+/// Returns those of the dashboard, in order.
+QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history);
 } // namespace Metrics
 
 /// One tile of the dashboard: a title, a big figure, a second line and a sparkline.

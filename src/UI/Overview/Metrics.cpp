@@ -53,4 +53,8 @@ Metric thermal(const SystemSample& sample) {
             .history = {}};
 }
 
+QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history) {
+    return {cpu(sample, history), memory(sample, history), disk(sample), thermal(sample)};
+}
+
 } // namespace Metrics

@@ -60,9 +60,9 @@ QLayout* OverviewView::makeHeader() {
 QLayout* OverviewView::makeTiles() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::gridSpacing);
-    for (MetricTile** tile : {&m_cpu, &m_memory, &m_disk, &m_thermal}) {
-        *tile = new MetricTile;
-        row->addWidget(*tile, 1);
+    for (qsizetype i = 0; i < Metrics::all({}, {}).size(); ++i) {
+        m_tiles.append(new MetricTile);
+        row->addWidget(m_tiles.last(), 1);
     }
     return row;
 }
@@ -97,12 +97,9 @@ void OverviewView::refresh() {
 }
 
 void OverviewView::refreshTiles() {
-    const SystemSample& sample = m_model.systemSample();
-    const QList<SystemSample>& history = m_model.systemHistory();
-    m_cpu->set(Metrics::cpu(sample, history));
-    m_memory->set(Metrics::memory(sample, history));
-    m_disk->set(Metrics::disk(sample));
-    m_thermal->set(Metrics::thermal(sample));
+    const QList<Metric> metrics = Metrics::all(m_model.systemSample(), m_model.systemHistory());
+    for (qsizetype i = 0; i < metrics.size(); ++i)
+        m_tiles[i]->set(metrics[i]);
 }
 
 void OverviewView::refreshGroups() {

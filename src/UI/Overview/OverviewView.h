@@ -39,10 +39,7 @@ private:
 
     AppModel& m_model;
     AlertStripView* m_alerts;
-    MetricTile* m_cpu;
-    MetricTile* m_memory;
-    MetricTile* m_disk;
-    MetricTile* m_thermal;
+    QList<MetricTile*> m_tiles;   ///< in the order of Metrics::all
     QList<GroupRow*> m_groupRows; ///< in group order
     std::optional<ProcGroup> m_expanded;
 };
