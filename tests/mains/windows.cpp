@@ -1,3 +1,5 @@
+#include "Core/Translations.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 
@@ -9,6 +11,7 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QApplication app(argc, argv);
+    Translations::install();
     QApplication::setStyle(QStringLiteral("Fusion"));
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
