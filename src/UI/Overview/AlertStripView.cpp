@@ -22,7 +22,7 @@ QWidget* makeHealthyCard() {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Theme::Role::green);
     auto* text = (new TextLabel(TextStyle::body))->secondary();
-    text->setPlainText(QStringLiteral("System looks healthy."));
+    text->setPlainText(AlertStripView::tr("System looks healthy."));
     auto* card = new Card;
     auto* row = cardLayout(card);
     row->addWidget(symbol);
@@ -38,7 +38,7 @@ AlertCard::AlertCard(QWidget* parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
     , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
-    , m_quit(new PushButton(QStringLiteral("Quit"), PushButton::Look::prominent)) {
+    , m_quit(new PushButton(tr("Quit"), PushButton::Look::prominent)) {
     m_quit->setSmall();
     connect(m_quit, &QPushButton::pressed, this, [this] { m_pressedPid = m_actionPid; });
     connect(m_quit, &QPushButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressedPid); });
