@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>CleanupTexts</name>
+    <message numerus="yes">
+        <source>%n volume(s), %1</source>
+        <translation>
+            <numerusform>%n volume, %1</numerusform>
+            <numerusform>%n volumes, %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Formatters</name>
     <message numerus="yes">
         <source>%n year(s) ago</source>
@@ -57,6 +67,16 @@
         <translation>
             <numerusform>%n byte</numerusform>
             <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>WidgetView</name>
+    <message numerus="yes">
+        <source>+ %n more alert(s)</source>
+        <translation>
+            <numerusform>+ %n more alert</numerusform>
+            <numerusform>+ %n more alerts</numerusform>
         </translation>
     </message>
 </context>

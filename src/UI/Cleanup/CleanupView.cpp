@@ -34,21 +34,19 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_total((new TextLabel(TextStyle::callout))->secondary())
     , m_result(new TextLabel(TextStyle::callout))
-    , m_rescan(new PushButton(QStringLiteral("Rescan"), PushButton::Look::normal,
-                              QStringLiteral("arrow.clockwise")))
-    , m_cleanAll(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
-                                QStringLiteral("trash.fill")))
+    , m_rescan(new PushButton(tr("Rescan"), PushButton::Look::normal, QStringLiteral("arrow.clockwise")))
+    , m_cleanAll(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill")))
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(QStringLiteral("Cancel"))) {
+    , m_cancel(new PushButton(tr("Cancel"))) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
     column->addLayout(makeHeader());
     column->addLayout(makeProgress());
     column->addWidget(makeGrid(), 1);
-    setAccessibleName(QStringLiteral("Cleanup"));
+    setAccessibleName(tr("Cleanup"));
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.rescanCaches(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
     connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelCleaning);
@@ -57,7 +55,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
 
 QLayout* CleanupView::makeHeader() {
     auto* title = new TextLabel(TextStyle::title3, QFont::Bold);
-    title->setPlainText(QStringLiteral("Cleanup targets"));
+    title->setPlainText(tr("Cleanup targets"));
     m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* line = new QHBoxLayout;
     line->setSpacing(6);
@@ -83,7 +81,7 @@ QLayout* CleanupView::makeProgress() {
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(6);
     m_cancel->setSmall();
-    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Cancel cleaning"));
     QSizePolicy policy = m_cancel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_cancel->setSizePolicy(policy);
@@ -122,8 +120,8 @@ void CleanupView::refresh() {
         return;
     refreshCards();
     refreshProgress();
-    m_total->setPlainText(QStringLiteral("Reclaimable: ") +
-                          Formatters::bytes(CleanupPlan::totalBytes(m_model.cacheTargets())));
+    m_total->setPlainText(
+        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(m_model.cacheTargets()))));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
@@ -148,12 +146,13 @@ void CleanupView::refreshProgress() {
     const bool isBusy = m_model.isCleaning() || m_model.isScanning();
     const QString unfinished = CleanupTexts::unfinished(m_model.cleanReport());
     if (m_model.isCleaning())
-        m_progress->setPlainText(CleanupTexts::progress(
-            m_model.cleanReport().wasCancelled ? QStringLiteral("Cancelling") : QStringLiteral("Cleaning"),
-            *m_model.cleanProgress()));
+        m_progress->setPlainText(CleanupTexts::progress(m_model.cleanReport().wasCancelled
+                                                            ? tr("Cancelling %1 (%2 of %3)")
+                                                            : tr("Cleaning %1 (%2 of %3)"),
+                                                        *m_model.cleanProgress()));
     else if (m_model.isScanning())
         m_progress->setPlainText(
-            CleanupTexts::progress(QStringLiteral("Measuring"), *m_model.scanProgress()));
+            CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *m_model.scanProgress()));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy);

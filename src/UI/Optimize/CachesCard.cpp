@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
@@ -23,12 +24,11 @@ constexpr int chipGap = 24;
 } // namespace
 
 CachesCard::CachesCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
-    , m_cancel(new PushButton(QStringLiteral("Cancel")))
-    , m_clean(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
-                             QStringLiteral("trash.fill"))) {
+    : OptimizeCard(tr("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
+    , m_cancel(new PushButton(tr("Cancel")))
+    , m_clean(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill"))) {
     m_clean->setTint(Role::red);
-    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Cancel cleaning"));
     m_cancel->hide();
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
     connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
@@ -63,11 +63,11 @@ CachesCard::Chip CachesCard::makeChip() const {
 void CachesCard::refresh(const AppModel& model) {
     const QList<CacheTarget>& targets = model.cacheTargets();
     if (model.isCleaning())
-        setSubtitle(CleanupTexts::progress(model.cleanReport().wasCancelled ? QStringLiteral("Cancelling")
-                                                                            : QStringLiteral("Cleaning"),
+        setSubtitle(CleanupTexts::progress(model.cleanReport().wasCancelled ? tr("Cancelling %1 (%2 of %3)")
+                                                                            : tr("Cleaning %1 (%2 of %3)"),
                                            *model.cleanProgress()));
     else
-        setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")
+        setSubtitle(tr("%1 reclaimable across %2 targets")
                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);
@@ -81,7 +81,7 @@ void CachesCard::refreshChips(QList<CacheTarget> targets) {
         const bool isUsed = i < targets.size();
         m_chips[i].widget->setVisible(isUsed);
         if (isUsed) {
-            m_chips[i].name->setPlainText(targets[i].name);
+            m_chips[i].name->setPlainText(Translations::of(targets[i].name));
             m_chips[i].size->setPlainText(Formatters::bytes(targets[i].sizeBytes));
         }
     }
