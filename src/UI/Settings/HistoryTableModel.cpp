@@ -34,15 +34,15 @@ IsLess lessBy(Column column) {
 QString titleOf(Column column) {
     switch (column) {
     case Column::time:
-        return u"Time"_s;
+        return HistoryTableModel::tr("Time");
     case Column::kind:
-        return u"Kind"_s;
+        return HistoryTableModel::tr("Kind");
     case Column::detail:
-        return u"Detail"_s;
+        return HistoryTableModel::tr("Detail");
     case Column::freed:
-        return u"Freed"_s;
+        return HistoryTableModel::tr("Freed");
     case Column::ok:
-        return u"OK"_s;
+        return HistoryTableModel::tr("OK");
     }
     return {};
 }
@@ -142,7 +142,7 @@ QVariant HistoryTableModel::data(const QModelIndex& index, int role) const {
     case Column::freed:
         return Formatters::bytes(action.freedBytes);
     case Column::ok: // shown as a symbol; said and copied as a word
-        return action.success ? u"OK"_s : u"Failed"_s;
+        return action.success ? tr("OK") : tr("Failed");
     }
     return {};
 }

@@ -14,17 +14,17 @@ using Column = PresetTableModel::Column;
 QString titleOf(int column) {
     switch (column) {
     case Column::symbol:
-        return u"Symbol"_s;
+        return PresetTableModel::tr("Symbol");
     case Column::name:
-        return u"Name"_s;
+        return PresetTableModel::tr("Name");
     case Column::pattern:
-        return u"Pattern"_s;
+        return PresetTableModel::tr("Pattern");
     case Column::idle:
-        return u"Idle≥"_s;
+        return PresetTableModel::tr("Idle≥");
     case Column::ram:
-        return u"RAM≥"_s;
+        return PresetTableModel::tr("RAM≥");
     case Column::force:
-        return u"Force"_s;
+        return PresetTableModel::tr("Force");
     default:
         return {};
     }
@@ -43,9 +43,9 @@ QString textOf(const QuickKillPreset& preset, int column) {
     case Column::pattern:
         return Formatters::visible(preset.pattern);
     case Column::idle:
-        return whole(preset.minIdleMinutes) + u'm';
+        return PresetTableModel::tr("%1m").arg(whole(preset.minIdleMinutes));
     case Column::ram:
-        return whole(preset.minRSSMB) + u"MB"_s;
+        return PresetTableModel::tr("%1MB").arg(whole(preset.minRSSMB));
     case Column::force:
         return preset.force ? u"bolt.fill"_s : u"minus"_s;
     default:
@@ -56,7 +56,7 @@ QString textOf(const QuickKillPreset& preset, int column) {
 /// What the drawings say.
 QString spokenText(const QuickKillPreset& preset, int column) {
     if (column == Column::force)
-        return preset.force ? u"Force"_s : u"No force"_s;
+        return preset.force ? PresetTableModel::tr("Force") : PresetTableModel::tr("No force");
     return textOf(preset, column);
 }
 
