@@ -123,7 +123,7 @@ QByteArray FreedesktopLoginItem::entry(const QString& program) {
 
 std::optional<QString> FreedesktopLoginItem::registerItem() {
     if (!QDir::isAbsolutePath(m_program))
-        return QStringLiteral("The program's own file cannot be found.");
+        return QCoreApplication::translate("FreedesktopLoginItem", "The program's own file cannot be found.");
     if (const auto reason = makeFolder(autostartFolder()))
         return reason;
     QSaveFile file(entryFile());
