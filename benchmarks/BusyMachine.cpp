@@ -8,7 +8,7 @@ namespace {
 constexpr qsizetype processCount = 1000;
 constexpr qsizetype steadyCount = 200; ///< the first ones, which stay
 constexpr int startsPerPass = 400;
-constexpr qint32 largestPid = 32767;
+constexpr qint32 maxPid = 32767;
 constexpr quint64 MiB = 1 << 20;
 
 constexpr std::array steadyNames = {"claude",   "code",   "firefox-esr", "chrome", "dockerd",
@@ -35,7 +35,7 @@ void BusyMachine::pass() {
 
 qint32 BusyMachine::nextFreePid() {
     do
-        m_pid = m_pid == largestPid ? 300 : m_pid + 1;
+        m_pid = m_pid == maxPid ? 300 : m_pid + 1;
     while (fakes.processes->processes.contains(m_pid));
     return m_pid;
 }
@@ -90,10 +90,9 @@ void BusyMachine::work() {
 /// Load and memory go up and down, and the alerts with them.
 void BusyMachine::swing() {
     const double load = 50 + 45 * std::sin(m_passes / 40.0);
-    fakes.host->ticks->user += static_cast<quint32>(load * 10);
-    fakes.host->ticks->idle += static_cast<quint32>((100 - load) * 10);
-    fakes.host->memory->active =
-        static_cast<quint64>((8 + 7 * std::sin(m_passes / 60.0)) * 1024) * MiB / 4096;
-    fakes.host->swap = static_cast<quint64>(m_passes % 500) * 16 * MiB;
+    fakes.host->ticks->user += static_cast<quint64>(load * 10);
+    fakes.host->ticks->idle += static_cast<quint64>((100 - load) * 10);
+    fakes.host->memory.activeBytes = static_cast<quint64>((8 + 7 * std::sin(m_passes / 60.0)) * 1024) * MiB;
+    fakes.host->memory.swapUsedBytes = static_cast<quint64>(m_passes % 500) * 16 * MiB;
     fakes.host->thermal = m_passes / 250 % 4;
 }

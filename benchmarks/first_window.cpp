@@ -16,8 +16,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr auto patience = std::chrono::seconds(20);
-constexpr int leastWidth = 400; ///< what is smaller is a tray item or a helper of the toolkit
-constexpr int leastHeight = 300;
+constexpr int minWidth = 400; ///< what is smaller is a tray item or a helper of the toolkit
+constexpr int minHeight = 300;
 
 struct Free {
     void operator()(void* memory) const { std::free(memory); }
@@ -26,7 +26,7 @@ struct Free {
 bool isLarge(xcb_connection_t* connection, xcb_window_t window) {
     const std::unique_ptr<xcb_get_geometry_reply_t, Free> geometry(
         xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-    return geometry && geometry->width >= leastWidth && geometry->height >= leastHeight;
+    return geometry && geometry->width >= minWidth && geometry->height >= minHeight;
 }
 
 /// Whether a large window of the display was mapped in time. With a window manager that is its frame, which

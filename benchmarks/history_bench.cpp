@@ -3,9 +3,10 @@
 
 #include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Settings/HistoryTab.h"
 #include "UI/Settings/HistoryTableView.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 
 #include <QApplication>
 #include <QDir>
@@ -116,7 +117,7 @@ int main(int argc, char** argv) {
     std::printf("history_read_1000000_mb %.1f\n", peakMegabytes());
     measureReading(100'000);
     const QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     Theme::apply(false);
     measureTab(100'000);
     return 0;

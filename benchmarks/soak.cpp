@@ -10,8 +10,6 @@
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/FakeDesktop.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBar.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -19,6 +17,8 @@
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 #include "UI/Widget.h"
 #include "support/FakeLoginItem.h"
 #include "support/ScriptedFeed.h"
@@ -26,6 +26,7 @@
 #include "support/TemporarySettings.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -48,7 +49,7 @@ public:
     explicit Visit(int ticks)
         : m_run(ticks, [this] { return tables(); }) {
         scriptCaches();
-        m_model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+        m_model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
         m_window.show();
         m_widget.show(m_model);
         m_desktop.popover->show({});
@@ -96,7 +97,7 @@ private:
         if (tick == 20 || tick == 80)
             m_window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::other))->click();
         if (tick == 400 || tick == 500)
-            only<Switch>(only<ProcessesView>(m_window)).click(); // one row a name, and back
+            only<QCheckBox>(only<ProcessesView>(m_window)).click(); // one row a name, and back
     }
 
     void useFreeRAM(int tick) {
@@ -110,7 +111,7 @@ private:
 
     void useCleanup(int tick) {
         if (tick == 610)
-            m_model.rescanCaches();
+            m_model.cleanup().rescan();
         else if (tick == 640)
             only<CacheCard>(m_window).click();
         else if (tick == 680)
@@ -153,9 +154,10 @@ private:
             m_messages.refresh();
         }
         if (tick % 5 == 0)
-            m_model.record(ActionLogEntry::Kind::quit, QStringLiteral("A process"), 0, true);
+            m_model.actionLog().record(ActionLogEntry::Kind::quit, QStringLiteral("A process"), 0, true);
         m_feed->requests.clear();
         m_machine.fakes.tools->requests.clear();
+        m_machine.fakes.relief->requests.clear();
     }
 
     static QPushButton& defaultButton(const QWidget& sheet) {
@@ -177,7 +179,7 @@ private:
             {.name = "objects", .value = double(objects), .margin = 40},
             {.name = "history", .value = double(m_model.systemHistory().size())},
             {.name = "processes", .value = double(m_model.processes().size())},
-            {.name = "actions", .value = double(m_model.actionLog().size())},
+            {.name = "actions", .value = double(m_model.actionLog().entries().size())},
             {.name = "servers", .value = double(m_model.mcpReport().live.size()), .margin = 10},
             {.name = "alerts", .value = double(m_model.alerts().size()), .margin = 10},
             {.name = "table_rows", .value = double(rows.rowCount()), .margin = 50},
@@ -205,7 +207,7 @@ private:
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     QApplication::setQuitOnLastWindowClosed(false);
     Theme::apply(false);
     const int ticks = argc > 1 ? std::atoi(argv[1]) : 20'000;

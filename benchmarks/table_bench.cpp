@@ -1,8 +1,9 @@
 // What the Processes section costs on the main thread for one tick with 4,000 rows, beyond the tick itself.
 
 #include "AppModel.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Processes/ProcessesView.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Theme.h"
 #include "support/FakePlatform.h"
 #include "support/TemporarySettings.h"
 
@@ -54,7 +55,7 @@ double median(FakePlatform& fakes, AppModel& model) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     Theme::apply(false);
     FakePlatform fakes;
     for (int i = 0; i < rows; ++i) {

@@ -30,14 +30,14 @@ void AppDelegate::applicationDidFinishLaunching() {
     openMainWindow(); // before all else: its frame is drawn while the rest is made
     m_model.start();
     m_messages.start();
-    menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
-    QObject::connect(menuBar.get(), &MenuBarController::settingsRequested, menuBar.get(),
+    m_menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
+    QObject::connect(m_menuBar.get(), &MenuBarController::settingsRequested, m_menuBar.get(),
                      [this] { openSettings(); });
     applyActivationPolicy();
     if (m_preferences.showWidgetOnLaunch())
         m_widget.show(m_model);
     registerLoginItemIfFirstLaunch();
-    observe(&m_preferences, menuBar.get(), [this] { applyActivationPolicy(); });
+    observe(&m_preferences, m_menuBar.get(), [this] { applyActivationPolicy(); });
 }
 
 void AppDelegate::openMainWindow() {

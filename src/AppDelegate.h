@@ -41,5 +41,5 @@ private:
     WidgetWindow m_widget;
     std::unique_ptr<MainWindow> m_mainWindow;
     QPointer<SettingsScene> m_settings;
-    std::unique_ptr<MenuBarController> menuBar;
+    std::unique_ptr<MenuBarController> m_menuBar;
 };

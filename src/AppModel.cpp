@@ -12,14 +12,14 @@
 namespace {
 
 /// Whatever is stored, the program neither spins nor overflows the timer.
-constexpr double shortestIntervalSeconds = 0.1;
-constexpr double longestIntervalSeconds = 86400;
+constexpr double minIntervalSeconds = 0.1;
+constexpr double maxIntervalSeconds = 86400;
 constexpr double intervalTolerance = 0.01;
 
 double effectiveInterval(double stored) {
     if (!std::isfinite(stored))
-        return shortestIntervalSeconds;
-    return std::clamp(stored, shortestIntervalSeconds, longestIntervalSeconds);
+        return minIntervalSeconds;
+    return std::clamp(stored, minIntervalSeconds, maxIntervalSeconds);
 }
 
 } // namespace
@@ -30,12 +30,18 @@ AppModel& AppModel::shared() {
 }
 
 AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
-    : QObject(parent)
+    : Observable(parent)
     , m_platform(std::move(platform))
     , m_preferences(preferences)
-    , m_sampler(m_platform)
+    , m_sampler(m_platform, [this](const ProcSample& process) { return m_grouper.groupOf(process); })
     , m_rules(*m_platform.identity)
-    , m_servers(m_platform.processes, m_platform.clock) {
+    , m_servers(m_platform.processes, m_platform.clock)
+    , m_actionLog(m_platform.clock)
+    , m_cleanup(m_platform, m_actionLog)
+    , m_actions(m_platform, m_state, m_sampler, m_servers, m_actionLog)
+    , m_optimizer(m_actions, m_actionLog) {
+    connect(&m_actionLog, &Observable::objectWillChange, this, &Observable::objectWillChange);
+    connect(&m_cleanup, &Observable::objectWillChange, this, &Observable::objectWillChange);
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
     m_grouper.setChoices(m_preferences.programGroups());
 }
@@ -63,31 +69,57 @@ void AppModel::followPollInterval() {
 
 void AppModel::tick() {
     const SystemSample sample = m_sampler.sample();
-    publish(m_systemSample, sample);
+    publish(m_state.systemSample, sample);
     appendHistory(sample);
     if (isPaused())
         return;
 
-    QList<ProcSample> classified = m_grouper.classify(m_sampler.sampleProcesses());
-    const QList<GroupRollup> rollups = GroupRollup::build(classified);
-    std::ranges::stable_sort(classified, std::ranges::greater(), &ProcSample::rssBytes);
-    publish(m_processes, std::move(classified));
-    publish(m_groups, rollups);
-    publish(m_alerts, m_rules.evaluate(sample, m_processes, rollups, m_cacheTargets, m_preferences));
+    QList<ProcSample> processes = m_sampler.sampleProcesses();
+    const QList<GroupRollup> rollups = GroupRollup::build(processes);
+    std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
+    publish(m_state.processes, std::move(processes));
+    publish(m_state.groups, rollups);
+    publish(m_state.alerts,
+            m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(), m_preferences));
     const auto& configured = m_mcpConfiguration.readConfigured();
-    publish(m_mcpReport, {.configured = configured,
-                          .live = m_servers.detectLive(m_processes),
-                          .isUnknown = m_mcpConfiguration.isUnknown()});
+    publish(m_state.mcpReport, {.configured = configured,
+                                .live = m_servers.detectLive(m_state.processes),
+                                .isUnknown = m_mcpConfiguration.isUnknown()});
 }
 
 void AppModel::appendHistory(const SystemSample& sample) {
     Q_EMIT objectWillChange();
-    m_systemHistory.append(sample);
-    const qsizetype surplus = m_systemHistory.size() - m_preferences.historyRetentionSamples();
+    m_state.systemHistory.append(sample);
+    const qsizetype surplus = m_state.systemHistory.size() - m_preferences.historyRetentionSamples();
     if (surplus > 0)
-        m_systemHistory.remove(0, surplus);
+        m_state.systemHistory.remove(0, surplus);
 }
 
 bool AppModel::isPaused() const {
     return m_preferences.pauseOnLowPower() && m_platform.power->isLowPowerModeEnabled();
+}
+
+void AppModel::setAutoOptimizeEnabled(bool enabled) {
+    Q_EMIT objectWillChange();
+    m_optimizer.setEnabled(enabled);
+}
+
+std::optional<ProcGroup> AppModel::chosenGroup(const ProcSample& process) const {
+    const auto choices = m_preferences.programGroups();
+    const auto found = choices.constFind(ProcessGrouper::programKey(process));
+    return found == choices.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+void AppModel::chooseGroup(const QList<ProcSample>& processes, std::optional<ProcGroup> group) {
+    QSet<QString> programs;
+    for (const ProcSample& process : processes)
+        programs.insert(ProcessGrouper::programKey(process));
+    m_preferences.storeProgramGroups(programs, group);
+    m_grouper.setChoices(m_preferences.programGroups());
+    m_sampler.classifyAnew();
+    QList<ProcSample> regrouped = m_state.processes;
+    for (ProcSample& process : regrouped)
+        process.group = m_grouper.groupOf(process);
+    publish(m_state.processes, std::move(regrouped));
+    publish(m_state.groups, GroupRollup::build(m_state.processes));
 }

@@ -64,13 +64,13 @@ Preferences& Preferences::shared() {
 }
 
 Preferences::Preferences(const QString& iniFile, QObject* parent)
-    : QObject(parent)
+    : Observable(parent)
     , m_file(iniFile) {}
 
 int Preferences::historyRetentionSamples() const {
-    constexpr double shortestInterval = 0.5;
+    constexpr double minInterval = 0.5;
     constexpr int fewest = 60;
-    const double interval = std::max(shortestInterval, pollIntervalSeconds());
+    const double interval = std::max(minInterval, pollIntervalSeconds());
     return std::max(fewest, static_cast<int>(spanSeconds(historyRetention()) / interval));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Observable.h"
 #include "Core/RawValue.h"
 #include "Core/Relief/QuickKillPreset.h"
 #include "Core/Sampling/ProcGroup.h"
@@ -7,7 +8,6 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QObject>
 #include <QSet>
 
 #include <array>
@@ -57,7 +57,7 @@ private:
 };
 
 /// The one store of user settings.
-class Preferences : public QObject {
+class Preferences : public Observable {
     Q_OBJECT
 
 public:
@@ -107,10 +107,6 @@ public:
     /// The file behind the properties, for keys that are none of them.
     SettingsFile& file() { return m_file; }
     const SettingsFile& file() const { return m_file; }
-
-Q_SIGNALS:
-    /// Before any property changes.
-    void objectWillChange();
 
 private:
     SettingsFile m_file;

@@ -9,10 +9,10 @@
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
-#include "UI/Kit/ThemeFollower.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/ThemeFollower.h"
 
 #include <QIcon>
-#include <QStyleFactory>
 
 namespace {
 
@@ -33,7 +33,7 @@ TavrinApp::TavrinApp(int& argc, char** argv)
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
     setDesktopFileName(QStringLiteral("tavrin"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
-    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    setStyle(new Style);
     setQuitOnLastWindowClosed(false);
     new ThemeFollower(Platform::makeAppearance(), this);
 }

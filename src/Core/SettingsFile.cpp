@@ -1,5 +1,7 @@
 #include "Core/SettingsFile.h"
 
+#include "Platform/Log.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,6 +29,7 @@ void keepDamagedBeside(const QString& path) {
     const State state = stateOf(path);
     if (state == State::good)
         return;
+    qCWarning(Log::platform) << "the settings are damaged";
     QFile::remove(path + QStringLiteral(".damaged"));
     QFile::copy(path, path + QStringLiteral(".damaged"));
     if (state == State::unreadable)
@@ -57,11 +60,11 @@ QVariant SettingsFile::value(const QString& key) const {
 /// only where more than the whole has just fitted.
 bool SettingsFile::hasRoom() const {
     constexpr qsizetype slack = 4096;
-    constexpr qsizetype mostEscaped = 4; // a byte can take four
+    constexpr qsizetype maxEscaped = 4; // a byte can take four
     const QFileInfo file(path());
     qsizetype size = file.size() + slack;
     for (const QVariant& each : m_unsaved)
-        size += mostEscaped * each.toByteArray().size();
+        size += maxEscaped * each.toByteArray().size();
     QDir().mkpath(file.path());
     QTemporaryFile trial(path() + QStringLiteral(".XXXXXX"));
     return trial.open() && trial.write(QByteArray(size, 'x')) == size && trial.flush();
@@ -100,10 +103,14 @@ std::optional<QByteArray> SettingsFile::bytes(const QString& key) const {
 
 void SettingsFile::store(const QString& key, const QVariant& value) {
     m_unsaved.insert(key, value);
-    if (!hasRoom())
+    if (!hasRoom()) {
+        qCWarning(Log::platform) << "the settings cannot be written";
         return;
+    }
     for (auto each = m_unsaved.cbegin(); each != m_unsaved.cend(); ++each)
-        m_settings.setValue(each.key(), each.value());
+        each->isValid() ? m_settings.setValue(each.key(), *each) : m_settings.remove(each.key());
     m_unsaved.clear();
     m_settings.sync();
+    if (m_settings.status() != QSettings::NoError)
+        qCWarning(Log::platform) << "the settings were not written:" << m_settings.status();
 }

@@ -24,6 +24,7 @@ public:
     std::optional<QString> text(const QString& key) const;
     std::optional<QByteArray> bytes(const QString& key) const;
 
+    /// An invalid value takes the key away.
     void store(const QString& key, const QVariant& value);
 
 private:

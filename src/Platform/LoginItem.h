@@ -1,19 +1,16 @@
 #pragma once
 
-#include <QString>
-
-#include <optional>
+#include "Platform/Result.h"
 
 /// The program's place among those that start when the user logs in.
 class LoginItem {
 public:
     virtual ~LoginItem() = default;
 
-    /// Starts the program that is running now at every later login. Empty when that was settled, else the
-    /// reason why not, as a text for the user. Again is fine.
-    virtual std::optional<QString> registerItem() = 0;
+    /// Starts the program that is running now at every later login. Again is fine.
+    virtual Outcome registerItem() = 0;
     /// The opposite. Not being registered is no failure.
-    virtual std::optional<QString> unregisterItem() = 0;
+    virtual Outcome unregisterItem() = 0;
 
     /// Whether the running program is where it will stay: false for one that lies where it was built.
     virtual bool isInstalled() const = 0;

@@ -11,6 +11,7 @@ class LoginItem;
 class Places;
 class PowerMode;
 class ProcessTable;
+class Relief;
 class Signals;
 class ToolRunner;
 
@@ -25,6 +26,7 @@ struct Platform {
     std::shared_ptr<Places> places;
     std::shared_ptr<Signals> signalSender;
     std::shared_ptr<Applications> applications;
+    std::shared_ptr<Relief> relief;
 
     /// What has to be done before the program's first thread starts.
     static void prepareProgram();

@@ -12,7 +12,7 @@ std::uint64_t bytesOf(const struct stat& entry) {
 std::uint64_t bytesBelow(const Folder& parent, const std::string& name, const struct stat& entry, int depth) {
     constexpr std::uint64_t unit = 512; // of st_blocks, see stat(2)
     std::uint64_t bytes = static_cast<std::uint64_t>(entry.st_blocks) * unit;
-    if (!S_ISDIR(entry.st_mode) || depth >= deepestFolder)
+    if (!S_ISDIR(entry.st_mode) || depth >= maxFolderDepth)
         return bytes;
     const auto folder = parent.openBelow(name);
     const auto names = folder ? folder->names() : std::nullopt;
@@ -34,7 +34,7 @@ void addOldFiles(const Folder& folder, const std::string& path, const CleanupSco
             continue;
         if (scope.takesOldFile(folder, name, *entry)) {
             listing.entries.push_back({entry->st_ino, bytesOf(*entry), path + name});
-        } else if (S_ISDIR(entry->st_mode) && depth < deepestFolder) {
+        } else if (S_ISDIR(entry->st_mode) && depth < maxFolderDepth) {
             if (const auto inner = folder.openBelow(name))
                 addOldFiles(*inner, path + name + '/', scope, depth + 1, listing);
         }

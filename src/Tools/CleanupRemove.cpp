@@ -75,7 +75,7 @@ private:
             if (errno != ENOTEMPTY && errno != EEXIST)
                 return goneOrLeft();
             errno = ELOOP; // what a folder too deep to go into answers
-            const auto folder = depth < deepestFolder ? parent.openBelow(name) : std::nullopt;
+            const auto folder = depth < maxFolderDepth ? parent.openBelow(name) : std::nullopt;
             if (!folder)
                 return goneOrLeft();
             outcome = removeContent(*folder, depth + 1);

@@ -46,9 +46,9 @@ std::uint32_t DesktopWindows::atom(const std::string& name) {
 }
 
 std::string DesktopWindows::property(std::uint32_t window, const std::string& name) {
-    constexpr std::uint32_t mostWords = 1 << 16;
+    constexpr std::uint32_t maxWords = 1 << 16;
     const auto cookie =
-        xcb_get_property(m_connection, 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, mostWords);
+        xcb_get_property(m_connection, 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, maxWords);
     const auto reply = owned(xcb_get_property_reply(m_connection, cookie, nullptr));
     if (!reply)
         return {};

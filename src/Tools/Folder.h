@@ -9,7 +9,7 @@
 namespace Tools {
 
 /// So many folders within each other are gone into, because each holds a descriptor and a piece of the stack.
-constexpr int deepestFolder = 4000;
+constexpr int maxFolderDepth = 4000;
 
 /// A folder held by a descriptor. Whatever is done in it is done in that very folder, wherever its name leads
 /// to by then. Links are never followed, and no other file system is entered.

@@ -90,7 +90,7 @@ std::optional<std::string> Tools::reclaimableGroup(const std::string& procFolder
 }
 
 std::uint64_t Tools::reclaimTarget(std::uint64_t currentBytes, const ReclaimBudget& budget) {
-    return std::min(budget.mostBytes, currentBytes / budget.partOfCurrent);
+    return std::min(budget.maxBytes, currentBytes / budget.partOfCurrent);
 }
 
 int Tools::reclaimInSteps(std::uint64_t bytes, std::uint64_t stepBytes,

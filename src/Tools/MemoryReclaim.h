@@ -14,7 +14,7 @@ namespace Tools {
 
 /// How much is asked for, and for how long.
 struct ReclaimBudget {
-    std::uint64_t mostBytes = std::uint64_t(1) << 30;
+    std::uint64_t maxBytes = std::uint64_t(1) << 30;
     std::uint64_t partOfCurrent = 10; ///< one part in so many of what the group holds
     std::uint64_t stepBytes = std::uint64_t(32) << 20;
     std::chrono::milliseconds time{1200};

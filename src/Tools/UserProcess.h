@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Linux/Pidfd.h"
+
 #include <sys/types.h>
 
 #include <functional>
@@ -10,15 +12,11 @@
 
 namespace Tools {
 
-/// A process of this user, held by a descriptor (pidfd) so that its id can never come to mean another one.
+/// A process of this user, and no other that has its id by now.
 class UserProcess {
 public:
     /// Nothing for a process that is gone, is another user's or does not show its executable.
     static std::optional<UserProcess> open(pid_t pid);
-    UserProcess(UserProcess&& other) noexcept;
-    UserProcess& operator=(UserProcess&& other) noexcept;
-    ~UserProcess();
-
     pid_t pid() const { return m_pid; }
     /// As it was when the process was opened.
     pid_t parentPid() const { return m_parentPid; }
@@ -32,16 +30,16 @@ public:
     /// The outermost bundle NAME.app that it runs from, without the ending; empty outside any.
     std::string_view bundle() const;
 
-    bool hasEnded() const;
-    void signal(int number) const;
+    bool hasEnded() const { return m_handle.hasEnded(); }
+    void signal(int number) const { m_handle.send(number); }
 
 private:
-    UserProcess(pid_t pid, int descriptor);
+    explicit UserProcess(pid_t pid);
 
     pid_t m_pid;
     pid_t m_parentPid = 0;
     unsigned long long m_startTicks = 0;
-    int m_descriptor;
+    Pidfd m_handle;
     std::string m_executable;
 };
 

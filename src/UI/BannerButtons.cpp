@@ -1,10 +1,10 @@
 #include "UI/BannerButtons.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MessageSeverity.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
 
 #include <QPainter>
 
@@ -15,7 +15,7 @@ using Theme::Role;
 namespace {
 
 constexpr int capsulePadding = 12;
-constexpr int widestCapsule = 240;
+constexpr int maxCapsuleWidth = 240;
 constexpr int dismissSide = 20;
 constexpr int crossSize = 18; // of which the cross fills half
 
@@ -27,7 +27,6 @@ ActionCapsule::ActionCapsule(QWidget* parent)
     setFixedHeight(Theme::smallControlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
 }
 
 void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Severity severity) {
@@ -42,7 +41,7 @@ void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Sever
 
 QSize ActionCapsule::sizeHint() const {
     const int wanted = fontMetrics().horizontalAdvance(m_caption) + 2 * capsulePadding;
-    return {std::min(wanted, widestCapsule), height()};
+    return {std::min(wanted, maxCapsuleWidth), height()};
 }
 
 void ActionCapsule::paintEvent(QPaintEvent*) {
@@ -50,15 +49,11 @@ void ActionCapsule::paintEvent(QPaintEvent*) {
     const double radius = height() / 2.0;
     Painting::drawCard(painter, rect(), radius, MessageSeverity::buttonFill(m_severity),
                        MessageSeverity::buttonOutline(m_severity));
-    if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), radius, Theme::color(Role::hoverFill, isDown() ? 2 : 1),
-                           Qt::transparent);
+    Painting::drawFeedback(painter, *this, radius, 1, 2);
     painter.setFont(font());
     painter.setPen(MessageSeverity::actionLabelColor(m_severity));
     Painting::drawElided(painter, QRectF(rect()).adjusted(capsulePadding, 0, -capsulePadding + 1, 0),
                          Qt::ElideRight, m_caption);
-    if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), radius);
 }
 
 DismissButton::DismissButton(QWidget* parent)
@@ -67,15 +62,14 @@ DismissButton::DismissButton(QWidget* parent)
     setAccessibleName(toolTip());
     setFixedSize(dismissSide, dismissSide);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
 }
 
 void DismissButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const double radius = height() / 2.0;
     if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), radius, Theme::color(Role::secondaryText, isDown() ? 0.28 : 0.18),
-                           Qt::transparent);
+        Painting::drawCard(painter, rect(), radius,
+                           Theme::color(Role::secondaryText, isDown() ? 0.28 : 0.18));
     Symbols::draw(painter, QStringLiteral("xmark"), Theme::color(Role::secondaryText), rect(), crossSize);
     if (hasFocus())
         Painting::drawFocusRing(painter, rect(), radius);

@@ -6,9 +6,10 @@
 #include "Platform/Desktop/StatusItem.h"
 #include "UI/AppMenu.h"
 #include "UI/Kit/FigureIcon.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/MainWindowFinder.h"
 #include "UI/MenuBarPanel.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
 
 #include <QApplication>
 

@@ -7,13 +7,15 @@
 #include "UI/Kit/FigureColumn.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/OnScreen.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PanelRow.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Painting.h"
 #include "UI/Widget.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -28,6 +30,12 @@ TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
     label->setPlainText(text);
     return label;
+}
+
+PanelRow* addRow(QVBoxLayout* column, TextStyle style) {
+    auto* row = new PanelRow(style, symbolWidth);
+    column->addWidget(row);
+    return row;
 }
 
 PanelRow::Content contentOf(const ProcSample& process) {
@@ -55,7 +63,15 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     : QWidget(parent)
     , m_model(model)
     , m_widget(widget)
-    , m_alertSection(new QWidget) {
+    , m_processColumn(new QVBoxLayout)
+    , m_processRows([this] { return addRow(m_processColumn, TextStyle::callout); })
+    , m_alertSection(new QWidget)
+    , m_alertColumn(new QVBoxLayout)
+    , m_alertRows([this] { return addRow(m_alertColumn, TextStyle::caption); }) {
+    for (QVBoxLayout* rows : {m_processColumn, m_alertColumn})
+        rows->setSpacing(0);
+    m_processRows.reserve(shownProcesses);
+    m_alertRows.reserve(shownAlerts);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, 10, padding, padding);
     column->setSpacing(spacing);
@@ -64,26 +80,14 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addLayout(makeStatistics());
     column->addWidget(new Divider);
     column->addWidget(caption(tr("Top 5 by RAM")));
-    auto* processes = new QVBoxLayout;
-    processes->setSpacing(0);
-    for (qsizetype i = 0; i < shownProcesses; ++i) {
-        m_processRows.append(new PanelRow(TextStyle::callout, symbolWidth));
-        processes->addWidget(m_processRows.last());
-    }
-    column->addLayout(processes);
+    column->addLayout(m_processColumn);
 
     auto* alerts = new QVBoxLayout(m_alertSection);
     alerts->setContentsMargins(0, 0, 0, 0);
     alerts->setSpacing(spacing);
     alerts->addWidget(new Divider);
     alerts->addWidget(caption(tr("Alerts")));
-    auto* alertRows = new QVBoxLayout;
-    alertRows->setSpacing(0);
-    for (qsizetype i = 0; i < shownAlerts; ++i) {
-        m_alertRows.append(new PanelRow(TextStyle::caption, symbolWidth));
-        alertRows->addWidget(m_alertRows.last());
-    }
-    alerts->addLayout(alertRows);
+    alerts->addLayout(m_alertColumn);
     column->addWidget(m_alertSection);
     column->addStretch();
 
@@ -142,13 +146,15 @@ void MenuBarPanel::refreshStatistics() {
 
 void MenuBarPanel::refreshProcesses() {
     const QList<ProcSample>& processes = m_model.processes();
-    PanelRow::setAll(m_processRows, processes.size(), [&](qsizetype i) { return contentOf(processes[i]); });
+    m_processRows.show(std::min(processes.size(), shownProcesses),
+                       [&processes](PanelRow& row, qsizetype i) { row.set(contentOf(processes[i])); });
 }
 
 void MenuBarPanel::refreshAlerts() {
     const QList<Alert>& alerts = m_model.alerts();
     m_alertSection->setVisible(!alerts.isEmpty());
-    PanelRow::setAll(m_alertRows, alerts.size(), [&](qsizetype i) { return contentOf(alerts[i]); });
+    m_alertRows.show(std::min(alerts.size(), shownAlerts),
+                     [&alerts](PanelRow& row, qsizetype i) { row.set(contentOf(alerts[i])); });
 }
 
 void MenuBarPanel::paintEvent(QPaintEvent*) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/Kit/RowPool.h"
+
 #include <QWidget>
 
 #include <array>
@@ -7,6 +9,7 @@
 class AppModel;
 class FigureColumn;
 class PanelRow;
+class QVBoxLayout;
 class WidgetWindow;
 
 /// The content of the status item's popover: the machine at a glance, the five largest processes, up to
@@ -38,7 +41,9 @@ private:
     AppModel& m_model;
     WidgetWindow& m_widget;
     std::array<FigureColumn*, 4> m_statistics{};
-    QList<PanelRow*> m_processRows;
+    QVBoxLayout* m_processColumn;
+    RowPool<PanelRow> m_processRows;
     QWidget* m_alertSection;
-    QList<PanelRow*> m_alertRows;
+    QVBoxLayout* m_alertColumn;
+    RowPool<PanelRow> m_alertRows;
 };

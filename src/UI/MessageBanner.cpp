@@ -4,9 +4,10 @@
 #include "Core/Observe.h"
 #include "UI/BannerButtons.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Kit/Pressed.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/MessageSeverity.h"
+#include "UI/Style/Theme.h"
 
 #include <QAccessible>
 #include <QDesktopServices>
@@ -22,13 +23,13 @@ constexpr int itemSpacing = 12;
 constexpr QMargins padding(14, 10, 14, 10);
 /// Brings the title's first line to the middle of the symbol.
 constexpr int titleDrop = 2;
-constexpr int mostTitleLines = 2;
-constexpr int mostBodyLines = 3;
+constexpr int maxTitleLines = 2;
+constexpr int maxBodyLines = 3;
 /// More can not be seen anyway, and laying out a megabyte would be felt.
-constexpr qsizetype longestText = 2000;
+constexpr qsizetype maxTextLength = 2000;
 
 QString shortened(const QString& text) {
-    return text.size() > longestText ? text.left(longestText) + u'…' : text;
+    return text.size() > maxTextLength ? text.left(maxTextLength) + u'…' : text;
 }
 
 /// Empty unless the message has both a caption that can be seen and a link that may be followed.
@@ -44,8 +45,8 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     , m_center(center)
     , m_open(std::move(open))
     , m_symbol(new SymbolView(Theme::iconSize, symbolFrame))
-    , m_title(new ClampedLabel(mostTitleLines, TextStyle::headline))
-    , m_body(new ClampedLabel(mostBodyLines, TextStyle::callout))
+    , m_title(new ClampedLabel(maxTitleLines, TextStyle::headline))
+    , m_body(new ClampedLabel(maxBodyLines, TextStyle::callout))
     , m_action(new ActionCapsule) {
     m_symbol->setFixedHeight(symbolFrame);
     m_body->secondary();
@@ -64,16 +65,12 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     row->addWidget(m_action, 0, Qt::AlignTop);
     row->addWidget(dismiss, 0, Qt::AlignTop);
 
-    // Another message may come while a button is held down: what was pressed for counts.
-    for (QAbstractButton* button :
-         {static_cast<QAbstractButton*>(m_action), static_cast<QAbstractButton*>(dismiss)})
-        connect(button, &QAbstractButton::pressed, this, [this] { m_pressed = m_message; });
-    connect(m_action, &QAbstractButton::clicked, this, [this] {
-        if (const auto link = actionOf(m_pressed))
+    actOnPressed(m_action, m_message, [this](const Message& message) {
+        if (const auto link = actionOf(message))
             m_open(*link);
     });
-    connect(dismiss, &QAbstractButton::clicked, this, [this] {
-        m_center.dismiss(m_pressed);
+    actOnPressed(dismiss, m_message, [this](const Message& message) {
+        m_center.dismiss(message);
         refresh();
     });
     observe(&m_center, this, [this] { refresh(); });

@@ -32,7 +32,6 @@ private:
     MessageCenter& m_center;
     OpenLink m_open;
     MessageCenter::Message m_message; ///< the one on show
-    MessageCenter::Message m_pressed; ///< the one that a button was pressed for
     SymbolView* m_symbol;
     ClampedLabel* m_title;
     ClampedLabel* m_body;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Announcements/MessageFeed.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 /// How the banner shows a message of each severity.
 namespace MessageSeverity {

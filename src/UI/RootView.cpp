@@ -6,11 +6,11 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/SidebarDelegate.h"
 #include "UI/Kit/TextLabel.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MessageBanner.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
 #include "UI/Processes/ProcessesView.h"
+#include "UI/Style/Theme.h"
 
 #include <QEvent>
 #include <QListWidget>

@@ -8,11 +8,11 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Kit/OnScreen.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PanelRow.h"
 #include "UI/Kit/Severity.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Painting.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QGridLayout>
@@ -39,6 +39,11 @@ constexpr double shadowBlur = 8; // Qt's blur reaches half as far as it says
 WidgetView::WidgetView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
+    , m_groupRows([this] {
+        auto* row = new PanelRow(TextStyle::caption, groupSymbolWidth);
+        m_groupColumn->addWidget(row);
+        return row;
+    })
     , m_alertSection(makeAlert()) {
     setFixedWidth(cardWidth);
     auto* column = new QVBoxLayout(this);
@@ -95,14 +100,11 @@ QLayout* WidgetView::makeGrid() {
 QLayout* WidgetView::makeGroups() {
     auto* heading = (new TextLabel(TextStyle::caption2))->secondary();
     heading->setPlainText(tr("Groups (RAM)"));
-    auto* column = new QVBoxLayout;
-    column->setSpacing(0);
-    column->addWidget(heading);
-    for (qsizetype i = 0; i < shownGroups; ++i) {
-        m_groupRows.append(new PanelRow(TextStyle::caption, groupSymbolWidth));
-        column->addWidget(m_groupRows.last());
-    }
-    return column;
+    m_groupColumn = new QVBoxLayout;
+    m_groupColumn->setSpacing(0);
+    m_groupColumn->addWidget(heading);
+    m_groupRows.reserve(shownGroups); // the panel is placed by its height before the first tick
+    return m_groupColumn;
 }
 
 QWidget* WidgetView::makeAlert() {
@@ -156,12 +158,12 @@ void WidgetView::refreshGrid() {
 void WidgetView::refreshGroups() {
     QList<GroupRollup> groups = m_model.groups();
     std::ranges::stable_sort(groups, std::ranges::greater(), &GroupRollup::rssBytes);
-    PanelRow::setAll(m_groupRows, groups.size(), [&groups](qsizetype i) {
-        return PanelRow::Content{.symbol = groupSymbol(groups[i].group),
-                                 .tint = Role::secondaryText,
-                                 .text = Translations::of(groups[i].group),
-                                 .textRole = Role::primaryText,
-                                 .figure = Formatters::bytes(groups[i].rssBytes)};
+    m_groupRows.show(std::min(groups.size(), shownGroups), [&groups](PanelRow& row, qsizetype i) {
+        row.set({.symbol = groupSymbol(groups[i].group),
+                 .tint = Role::secondaryText,
+                 .text = Translations::of(groups[i].group),
+                 .textRole = Role::primaryText,
+                 .figure = Formatters::bytes(groups[i].rssBytes)});
     });
 }
 

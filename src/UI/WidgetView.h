@@ -1,6 +1,7 @@
 #pragma once
 
-#include "UI/Kit/Theme.h"
+#include "UI/Kit/RowPool.h"
+#include "UI/Style/Theme.h"
 
 #include <QWidget>
 
@@ -12,6 +13,7 @@ class MiniTile;
 class PanelRow;
 class TextLabel;
 class QGraphicsDropShadowEffect;
+class QVBoxLayout;
 
 /// The card of the floating widget.
 class WidgetView : public QWidget {
@@ -51,7 +53,8 @@ private:
     IconButton* m_open;
     IconButton* m_hide;
     std::array<MiniTile*, 4> m_tiles{};
-    QList<PanelRow*> m_groupRows;
+    QVBoxLayout* m_groupColumn = nullptr;
+    RowPool<PanelRow> m_groupRows;
     QWidget* m_alertSection;
     PanelRow* m_alert;
     TextLabel* m_more;

@@ -3,7 +3,6 @@
 #include "Core/Announcements/MessageCenter.h"
 #include "UI/Controls.h"
 #include "UI/FakeDesktop.h"
-#include "UI/Kit/Switch.h"
 #include "UI/MainWindow.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/SettingsScene.h"
@@ -59,7 +58,7 @@ struct AppDelegateTest : ModelFixture {
 TEST_F(AppDelegateTest, TheFirstLaunchRegistersOnceAndTheFlagComesFirst) {
     bool flagWhenAsked = false;
     loginItem->whenAsked = [&] { flagWhenAsked = didFirstLaunch(); };
-    loginItem->failure = u"no such folder"_s;
+    loginItem->outcome = Outcome::failure(u"no such folder"_s);
     launch();
     EXPECT_TRUE(flagWhenAsked);
     EXPECT_EQ(loginItem->requests, QStringList(u"register"_s));

@@ -1,12 +1,15 @@
+#include "Core/ActionLog/ActionLog.h"
 #include "Core/ActionLog/ActionLogFile.h"
 #include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
 #include "support/Each.h"
+#include "support/FakePlatform.h"
 #include "support/Files.h"
 #include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -57,13 +60,27 @@ TEST(Iso8601Test, AcceptsOnlyWholeSecondsInStrictForm) {
         EXPECT_FALSE(Iso8601::parse(text)) << text.data();
 }
 
+TEST_F(ActionLogTest, TheNewest200AreKeptAndTheFileHasAll) {
+    ActionLog log(std::make_shared<FakeClock>());
+    int announced = 0;
+    QObject::connect(&log, &ActionLog::objectWillChange, &log,
+                     [&] { EXPECT_EQ(log.entries().size(), std::min(announced++, 200)); });
+    for (int i = 0; i < 203; ++i)
+        log.record(ActionLogEntry::Kind::clean, QString::number(i), 0, true);
+    EXPECT_EQ(announced, 203);
+    ASSERT_EQ(log.entries().size(), 200);
+    EXPECT_EQ(log.entries().first().detail, u"202"_s);
+    EXPECT_EQ(log.entries().last().detail, u"3"_s);
+    EXPECT_EQ(ActionLogReader::read().size(), 203);
+}
+
 TEST_F(ActionLogTest, EachActionIsOneLineAndReadsBack) {
-    Cleaner::appendActionLog(entry(u"Xcode DerivedData"_s));
+    ActionLogFile::append(entry(u"Xcode DerivedData"_s));
     ActionLogEntry failed = entry(u"two\ttabs “quoted”"_s, 1'794'839'024);
     failed.kind = ActionLogEntry::Kind::forceKill;
     failed.success = false;
     failed.freedBytes = 18446744073709551615ULL;
-    Cleaner::appendActionLog(failed);
+    ActionLogFile::append(failed);
     EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\t1048576\tXcode DerivedData\n"
                          "2026-11-16T14:23:44Z\tforceKill\tfail\t18446744073709551615\ttwo\ttabs “quoted”\n");
     const QList<LoggedAction> read = ActionLogReader::read();
@@ -109,22 +126,22 @@ TEST_F(ActionLogTest, AFileThatIsNoTextHasNoActions) {
 
 TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
     home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, "2026-11-16T14:23:43Z\tclean\tok");
-    Cleaner::appendActionLog(entry(u"one"_s));
-    Cleaner::appendActionLog(entry(u"two"_s));
+    ActionLogFile::append(entry(u"one"_s));
+    ActionLogFile::append(entry(u"two"_s));
     EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\n"
                          "2026-11-16T14:23:43Z\tclean\tok\t1048576\tone\n"
                          "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\n");
 }
 
 TEST_F(ActionLogTest, ALineThatDoesNotFitLeavesTheFileAsItWas) {
-    Cleaner::appendActionLog(entry(u"one"_s));
+    ActionLogFile::append(entry(u"one"_s));
     const QByteArray before = written();
     rlimit limit{};
     getrlimit(RLIMIT_FSIZE, &limit);
     const auto onFull = std::signal(SIGXFSZ, SIG_IGN); // stands in for a full disk
     const rlimit full{.rlim_cur = static_cast<rlim_t>(before.size()) + 40, .rlim_max = limit.rlim_max};
     setrlimit(RLIMIT_FSIZE, &full);
-    Cleaner::appendActionLog(entry(u"“two”"_s));
+    ActionLogFile::append(entry(u"“two”"_s));
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, onFull);
     EXPECT_EQ(written(), before);
@@ -153,20 +170,20 @@ TEST_F(ActionLogTest, NewestFirstAndEqualSecondsInFileOrder) {
 
 TEST_F(ActionLogTest, ExportQuotesTheDetailAlone) {
     EXPECT_EQ(ActionLogReader::exportCSV(), u"timestamp,kind,success,freed_bytes,detail\n"_s);
-    Cleaner::appendActionLog(entry(u"say \"hi\", then go"_s));
+    ActionLogFile::append(entry(u"say \"hi\", then go"_s));
     EXPECT_EQ(ActionLogReader::exportCSV(),
               u"timestamp,kind,success,freed_bytes,detail\n"
               "2026-11-16T14:23:43Z,clean,true,1048576,\"say \"\"hi\"\", then go\"\n"_s);
 }
 
 TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatAppendsGoOn) {
-    Cleaner::appendActionLog(entry(u"one"_s));
+    ActionLogFile::append(entry(u"one"_s));
     QFile other(file);
     ASSERT_TRUE(other.open(QIODevice::WriteOnly | QIODevice::Append));
     ActionLogReader::clear();
     EXPECT_EQ(written(), "");
     EXPECT_TRUE(ActionLogReader::read().isEmpty());
-    Cleaner::appendActionLog(entry(u"two"_s));
+    ActionLogFile::append(entry(u"two"_s));
     other.write("from another writer\n");
     other.close();
     EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\nfrom another writer\n");
@@ -175,11 +192,11 @@ TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatAppendsGoOn) {
 TEST_F(ActionLogTest, APipeOrFolderInItsPlaceNeitherStallsNorCrashes) {
     home.makeFolder(u"Library/Logs/Tavrin"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
-    Cleaner::appendActionLog(entry(u"lost"_s));
+    ActionLogFile::append(entry(u"lost"_s));
     ActionLogReader::clear();
     EXPECT_TRUE(ActionLogReader::read().isEmpty());
     ASSERT_TRUE(QFile::remove(file));
     home.makeFolder(u"Library/Logs/Tavrin/actions.log"_s);
-    Cleaner::appendActionLog(entry(u"lost"_s));
+    ActionLogFile::append(entry(u"lost"_s));
     EXPECT_TRUE(ActionLogReader::read().isEmpty());
 }

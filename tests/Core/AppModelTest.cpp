@@ -33,7 +33,7 @@ TEST_F(AppModelTest, StartTicksOnceAndPublishesSortedAndGrouped) {
     ASSERT_EQ(model->groups().size(), 6);
     EXPECT_EQ(model->groups()[0].rssBytes, 500U);
     EXPECT_EQ(model->systemHistory().size(), 1);
-    EXPECT_EQ(model->cacheTargets().size(), 15);
+    EXPECT_EQ(model->cleanup().targets().size(), 15);
     EXPECT_EQ(model->timerInterval(), 2);
 }
 
@@ -65,7 +65,7 @@ TEST_F(AppModelTest, LowPowerPauseFreshensTheSystemOnly) {
     fakes.power->lowPower = true;
     settings.preferences.pauseOnLowPower.set(true);
     fakes.processes->remove(1);
-    fakes.host->swap = 99;
+    fakes.host->memory.swapUsedBytes = 99;
     tick();
     EXPECT_EQ(model->systemSample().swapUsedBytes, 99U);
     EXPECT_EQ(model->systemHistory().size(), 2);
@@ -76,7 +76,7 @@ TEST_F(AppModelTest, LowPowerPauseFreshensTheSystemOnly) {
 }
 
 TEST_F(AppModelTest, AlertsFollowTheTick) {
-    fakes.host->physical = quint64(2) << 30;
+    fakes.host->memory.totalBytes = quint64(2) << 30;
     tick();
     ASSERT_EQ(model->alerts().size(), 1);
     EXPECT_EQ(model->alerts().first().id, QStringLiteral("ram_low"));
@@ -103,13 +103,13 @@ TEST_F(AppModelTest, EachPeriodEndsWithATick) {
 }
 
 TEST_F(AppModelTest, ARunTakesTheTimesThatTheUserIsTold) {
-    const AppModel::FreeRAMWaits waits;
+    const ProcessActions::FreeRAMWaits waits;
     EXPECT_EQ(waits.beforeSecondPass, std::chrono::seconds(2));
     EXPECT_EQ(waits.beforeMeasuring, std::chrono::milliseconds(1500));
 }
 
 TEST_F(AppModelTest, NoNameForgesALineOfTheLog) {
-    model->quickKill(u"x"_s, u"a\nb\tc"_s, 0, 0, false);
+    model->actions().quickKill(u"x"_s, u"a\nb\tc"_s, 0, 0, false);
     EXPECT_EQ(logged(), QStringList(u"quit [quickKill] a\u240ab\u2409c — matched=0 killed=0 ok"_s));
     EXPECT_EQ(ActionLogReader::read().size(), 1);
 }

@@ -55,10 +55,10 @@ TEST_F(CleanerTest, RemovesWhatWasListedBetweenTwoMeasurements) {
     const QString folder = home.makeFolder(u"it's a cache"_s);
     const QStringList expected = {u"/usr/bin/du -sk"_s, u"cleanup remove"_s, u"/usr/bin/du -sk"_s};
     const std::tuple<QByteArrayList, int, CleanResult> cases[] = {
-        {{"100", "4"}, 0, {true, 96 * 1024}},
-        {{"100", "40"}, 1, {false, 60 * 1024}},
-        {{"4", "100"}, 0, {true, 0}},
-        {{"", ""}, 0, {true, 0}},
+        {{"100", "4"}, 0, {{true}, 96 * 1024}},
+        {{"100", "40"}, 1, {{false}, 60 * 1024}},
+        {{"4", "100"}, 0, {{true}, 0}},
+        {{"", ""}, 0, {{true}, 0}},
     };
     for (const auto& [kilobytes, status, result] : cases) {
         script(kilobytes, status);
@@ -68,20 +68,20 @@ TEST_F(CleanerTest, RemovesWhatWasListedBetweenTwoMeasurements) {
         EXPECT_EQ(tools->requests[1].arguments.last(), folder);
     }
     script({});
-    EXPECT_EQ(clean(scanned({folder}, oldFiles)), (CleanResult{true, 0}));
+    EXPECT_EQ(clean(scanned({folder}, oldFiles)), (CleanResult{Outcome::success(), 0}));
     EXPECT_EQ(steps(), QStringList(u"cleanup remove"_s)) << "of old files nothing is measured";
 }
 
 TEST_F(CleanerTest, ListsFirstWhatWasNeverScannedAndLeavesWhatCameAfterAScan) {
     const QString folder = home.makeFolder(u"folder"_s);
     script({});
-    EXPECT_TRUE(clean({.name = u"x"_s, .paths = {folder}, .rule = oldFiles}).success);
+    EXPECT_TRUE(clean({.name = u"x"_s, .paths = {folder}, .rule = oldFiles}).done);
     EXPECT_EQ(steps(), QStringList({u"cleanup list"_s, u"cleanup remove"_s}));
     EXPECT_EQ(tools->requests.last().input, "listed");
 
     CacheTarget target = scanned({folder});
     target.paths.append(home.makeFolder(u"came later"_s));
-    EXPECT_TRUE(clean(target).success);
+    EXPECT_TRUE(clean(target).done);
     EXPECT_EQ(each(tools->requests, [](const ToolRequest& request) { return request.arguments.last(); }),
               QStringList({folder, folder, folder}));
 }
@@ -99,7 +99,7 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
     };
     for (const auto& [status, output, success] : cases) {
         tools->answer = [&](const ToolRequest&) { return ScriptedTools::exited(status, output); };
-        EXPECT_EQ(clean(target), (CleanResult{success, 77})) << output.constData();
+        EXPECT_EQ(clean(target), (CleanResult{{success}, 77})) << output.constData();
         EXPECT_EQ(tools->commandLines(),
                   QStringList(u"/bin/sh -lc brew cleanup -s && echo 'tavrin: done'"_s));
         EXPECT_TRUE(tools->requests.first().terminateAfter) << "or it could hang for ever";
@@ -112,14 +112,14 @@ TEST_F(CleanerTest, LeavesAloneWhatTheSystemObjectsToAndGoesOn) {
     const QString plain = home.makeFolder(u"plain"_s);
     for (const CleanupRule& rule : {CleanupRule(), oldFiles}) {
         script({"8", "8"});
-        EXPECT_EQ(clean(scanned({refused, plain}, rule)), (CleanResult{false, 0, u"No."_s}));
+        EXPECT_EQ(clean(scanned({refused, plain}, rule)), (CleanResult{Outcome::failure(u"No."_s), 0}));
         for (const ToolRequest& request : tools->requests)
             EXPECT_EQ(request.arguments.last(), plain);
         EXPECT_FALSE(tools->requests.isEmpty());
-        EXPECT_EQ(clean(scanned({home.path(u"missing"_s)}, rule)), (CleanResult{true, 0}));
+        EXPECT_EQ(clean(scanned({home.path(u"missing"_s)}, rule)), (CleanResult{Outcome::success(), 0}));
         EXPECT_TRUE(tools->requests.isEmpty());
     }
-    EXPECT_EQ(clean({.name = u"x"_s}), (CleanResult{true, 0}));
+    EXPECT_EQ(clean({.name = u"x"_s}), (CleanResult{Outcome::success(), 0}));
 }
 
 TEST_F(CleanerTest, BeginsNothingMoreOnceStopped) {
@@ -129,10 +129,10 @@ TEST_F(CleanerTest, BeginsNothingMoreOnceStopped) {
             stop.request_stop();
         return ScriptedTools::exited(0);
     };
-    EXPECT_FALSE(clean(scanned(folders)).success);
+    EXPECT_FALSE(clean(scanned(folders)).done);
     EXPECT_EQ(steps(), QStringList({u"/usr/bin/du -sk"_s, u"cleanup remove"_s, u"/usr/bin/du -sk"_s}));
     EXPECT_TRUE(tools->requests[1].stop.stop_requested());
-    EXPECT_FALSE(clean(scanned(folders)).success);
+    EXPECT_FALSE(clean(scanned(folders)).done);
     EXPECT_TRUE(tools->requests.isEmpty());
 }
 

@@ -35,9 +35,7 @@ template <typename E> void expectRawValues(const QString& expected) {
 }
 
 ProcGroup groupOf(const QString& name, const QString& path = {}, const QString& arguments = {}) {
-    return ProcessGrouper()
-        .classify({{.name = name, .executablePath = path, .arguments = arguments}})[0]
-        .group;
+    return ProcessGrouper().groupOf({.name = name, .executablePath = path, .arguments = arguments});
 }
 
 /// The text, and what is left of it without its last and its first letter: a pattern that lost a letter still

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using FreeRAMTest = ReliefTest;
-using Result = SignalResult;
+using Reply = SignalResult;
 
 constexpr quint64 MiB = 1 << 20;
 
@@ -36,9 +36,9 @@ TEST_F(FreeRAMTest, CandidatesAreTheUsersIdleKnownOrHugeProcesses) {
     tick();
     fakes.clock->advance(900);
     tick();
-    EXPECT_EQ(pidsOf(model->freeRamCandidates(15, 500)), (QList<qint32>{6, 1, 2}));
-    EXPECT_EQ(pidsOf(model->freeRamCandidates(15.01, 500)), QList<qint32>());
-    const FreeRamPreview last = model->freeRamCandidates(0, 500).last();
+    EXPECT_EQ(pidsOf(model->actions().freeRamCandidates(15, 500)), (QList<qint32>{6, 1, 2}));
+    EXPECT_EQ(pidsOf(model->actions().freeRamCandidates(15.01, 500)), QList<qint32>());
+    const FreeRamPreview last = model->actions().freeRamCandidates(0, 500).last();
     EXPECT_EQ(last, (FreeRamPreview{2, u"claude"_s, 500 * MiB, 900, ProcGroup::agents}));
 }
 
@@ -46,7 +46,7 @@ TEST_F(FreeRAMTest, FifteenLargestCandidates) {
     for (qint32 pid = 1; pid <= 20; ++pid)
         add(pid, "claude", static_cast<quint64>(pid) * MiB);
     tick();
-    const QList<qint32> pids = pidsOf(model->freeRamCandidates(0, 0));
+    const QList<qint32> pids = pidsOf(model->actions().freeRamCandidates(0, 0));
     ASSERT_EQ(pids.size(), 15);
     EXPECT_EQ(pids.first(), 20);
     EXPECT_EQ(pids.last(), 6);
@@ -58,9 +58,9 @@ TEST_F(FreeRAMTest, NoThresholdIsTooWild) {
     const double nan = std::nan("");
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double size : {nan, infinity, -infinity, -1.0, -1e300, std::ldexp(1.0, 44), 1e300})
-        EXPECT_TRUE(model->freeRamCandidates(0, size).isEmpty()) << size;
-    EXPECT_TRUE(model->freeRamCandidates(nan, 0).isEmpty());
-    EXPECT_EQ(model->freeRamCandidates(0, std::ldexp(1.0, 44) - 1).size(), 1);
+        EXPECT_TRUE(model->actions().freeRamCandidates(0, size).isEmpty()) << size;
+    EXPECT_TRUE(model->actions().freeRamCandidates(nan, 0).isEmpty());
+    EXPECT_EQ(model->actions().freeRamCandidates(0, std::ldexp(1.0, 44) - 1).size(), 1);
     EXPECT_EQ(ProcessFilter::bytesFromMiB(1.9), MiB);
     EXPECT_EQ(ProcessFilter::bytesFromMiB(-0.5), 0U);
 }
@@ -69,46 +69,48 @@ TEST_F(FreeRAMTest, EveryOutcome) {
     const std::pair<FakeSignals::Script, QString> rows[] = {
         {{.endsOnTerminate = true}, u"quit"_s},
         {{}, u"forced"_s},
-        {{.terminate = Result::notPermitted}, u"denied"_s},
-        {{.terminate = Result::other}, u"forced"_s},
-        {{.terminate = Result::other, .kill = Result::other}, u"ignored"_s},
-        {{.kill = Result::notPermitted}, u"denied"_s},
-        {{.kill = Result::noSuchProcess}, u"quit"_s},
-        {{.kill = Result::other, .probe = Result::other}, u"ignored"_s},
+        {{.terminate = Reply::notPermitted}, u"denied"_s},
+        {{.terminate = Reply::other}, u"forced"_s},
+        {{.terminate = Reply::other, .kill = Reply::other}, u"ignored"_s},
+        {{.kill = Reply::notPermitted}, u"denied"_s},
+        {{.kill = Reply::noSuchProcess}, u"quit"_s},
+        {{.kill = Reply::other, .probe = Reply::other}, u"ignored"_s},
     };
     QList<qint32> pids;
     for (const auto& [script, outcome] : rows) {
         pids.append(static_cast<qint32>(100 + pids.size()));
         signalSender->start(pids.last(), script);
     }
-    EXPECT_EQ(outcomesOf(QCoro::waitFor(model->freeRAM(pids))),
+    EXPECT_EQ(outcomesOf(QCoro::waitFor(model->actions().freeRAM(pids))),
               each(rows, [](const auto& row) { return row.second; }));
 }
 
 TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     add(41, "claude", 7 * MiB);
     tick();
-    tools->answer = [this](const ToolRequest&) {
-        const auto give = [this] { fakes.host->memory->active -= 50; }; // which takes the kernel a while
+    fakes.relief->answer = [this] {
+        const auto give = [this] {
+            fakes.host->memory.activeBytes -= 204800;
+        }; // which takes the kernel a while
         QMetaObject::invokeMethod(model.get(), give, Qt::QueuedConnection);
-        return ScriptedTools::exited(0);
+        return Outcome::success();
     };
-    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({41, 57}));
+    const FreeRAMResult result = QCoro::waitFor(model->actions().freeRAM({41, 57}));
     EXPECT_EQ(result.perPid, (QList<FreeRAMResult::Record>{{41, u"claude"_s, 7 * MiB, KillOutcome::forced},
                                                            {57, u"pid 57"_s, 0, KillOutcome::quit}}));
     EXPECT_TRUE(result.memoryPressureSignaled);
-    EXPECT_EQ(result.freedBytes, 50U * 4096);
+    EXPECT_EQ(result.freedBytes, 204800U);
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:forced,57:quit freed=204800 ok"_s));
-    EXPECT_EQ(tools->commandLines(), QStringList(u"/usr/bin/memory_pressure -l warn"_s));
+    EXPECT_EQ(fakes.relief->requests, QStringList(u"reclaim memory"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 204800U);
-    EXPECT_EQ(model->actionLog().first().timestamp, fakes.clock->wall);
+    EXPECT_EQ(model->actionLog().entries().first().timestamp, fakes.clock->wall);
 }
 
 TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
-    tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    fakes.relief->answer = [] { return Outcome(); };
     tick();
-    fakes.host->memory = MemoryPages{.active = 900, .wired = 30, .compressed = 20};
-    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({}));
+    fakes.host->memory.activeBytes *= 2;
+    const FreeRAMResult result = QCoro::waitFor(model->actions().freeRAM({}));
     EXPECT_FALSE(result.memoryPressureSignaled);
     EXPECT_EQ(result.freedBytes, 0U);
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM]  freed=0 ok"_s));
@@ -116,7 +118,7 @@ TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
 
 TEST_F(FreeRAMTest, AnIdTakenByAnotherProcessMeanwhileIsLeftAlone) {
     signalSender->start(41);
-    auto run = model->freeRAM({41, 42});
+    auto run = model->actions().freeRAM({41, 42});
     signalSender->end(41);
     signalSender->start(41); // during the wait: another process with that id
     signalSender->start(42); // nobody had this one when the run began
@@ -127,17 +129,8 @@ TEST_F(FreeRAMTest, AnIdTakenByAnotherProcessMeanwhileIsLeftAlone) {
 
 TEST_F(FreeRAMTest, AModelThatIsGoneEndsTheRun) {
     signalSender->start(41);
-    auto run = model->freeRAM({41});
+    auto run = model->actions().freeRAM({41});
     model.reset();
     EXPECT_EQ(outcomesOf(QCoro::waitFor(run)), QStringList(u"quit"_s));
-    EXPECT_TRUE(tools->requests.isEmpty());
-}
-
-TEST_F(FreeRAMTest, TheModelKeepsTheNewest200AndTheFileAll) {
-    for (int i = 0; i < 203; ++i)
-        model->record(ActionLogEntry::Kind::clean, QString::number(i), 0, true);
-    ASSERT_EQ(model->actionLog().size(), 200);
-    EXPECT_EQ(model->actionLog().first().detail, u"202"_s);
-    EXPECT_EQ(model->actionLog().last().detail, u"3"_s);
-    EXPECT_EQ(ActionLogReader::read().size(), 203);
+    EXPECT_TRUE(fakes.relief->requests.isEmpty());
 }

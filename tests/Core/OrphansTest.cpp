@@ -27,10 +27,10 @@ const QString nothingLeft = u"quit [orphan MCPs] killed=0/2 ok"_s;
 TEST_F(OrphansTest, OnlyTheUsersOrphansLargestFirst) {
     EXPECT_EQ(model->mcpReport().live.size(), 5);
     signalSender->end(1);
-    EXPECT_EQ(model->killOrphanMCPs(false), 1);
+    EXPECT_EQ(model->actions().killOrphanMCPs(false), 1);
     EXPECT_EQ(signalSender->sent(), (QList<FakeSignals::Sent>{{2, Signal::terminate, 1}}));
     signalSender->start(1);
-    EXPECT_EQ(model->killOrphanMCPs(true), 2);
+    EXPECT_EQ(model->actions().killOrphanMCPs(true), 2);
     EXPECT_EQ(signalSender->sent().mid(1),
               (QList<FakeSignals::Sent>{{2, Signal::kill, 1}, {1, Signal::kill, 2}}));
     EXPECT_EQ(logged(), (QStringList{u"forceKill [orphan MCPs] killed=2/2 ok"_s,
@@ -47,17 +47,17 @@ TEST_F(OrphansTest, TheReportFollowsTheTick) {
     fakes.power->lowPower = false;
     tick();
     EXPECT_EQ(model->mcpReport().orphanCount(), 2);
-    EXPECT_EQ(model->killOrphanMCPs(false), 0);
+    EXPECT_EQ(model->actions().killOrphanMCPs(false), 0);
     EXPECT_EQ(logged().first(), u"quit [orphan MCPs] killed=0/0 ok"_s);
 }
 
 TEST_F(OrphansTest, SwitchingOnRunsAPassAtOnceInThreeLines) {
     EXPECT_FALSE(model->autoOptimizeEnabled());
-    tools->held = true;
+    fakes.relief->held = true;
     model->setAutoOptimizeEnabled(true);
     EXPECT_TRUE(model->autoOptimizeEnabled());
     EXPECT_EQ(logged(), QStringList(u"quit [orphan MCPs] killed=2/2 ok"_s)); // the others await the tool
-    EXPECT_TRUE(tools->release(u"warn"_s));
+    EXPECT_TRUE(fakes.relief->release());
     letLoopRun();
     EXPECT_EQ(logged(),
               (QStringList{u"clean [auto-optimize] orphans=2, pressure nudged ok"_s,
@@ -66,7 +66,7 @@ TEST_F(OrphansTest, SwitchingOnRunsAPassAtOnceInThreeLines) {
 }
 
 TEST_F(OrphansTest, OffStopsAndOnAgainRunsAnotherPass) {
-    tools->answer = [](const ToolRequest&) { return ToolResult(); };
+    fakes.relief->answer = [] { return Outcome(); };
     model->setAutoOptimizeEnabled(true);
     model->setAutoOptimizeEnabled(false);
     EXPECT_FALSE(model->autoOptimizeEnabled());
@@ -78,7 +78,7 @@ TEST_F(OrphansTest, OffStopsAndOnAgainRunsAnotherPass) {
 }
 
 TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
-    AutoOptimizer optimizer(*model, tools);
+    AutoOptimizer optimizer(model->actions(), model->actionLog());
     const auto* timer = optimizer.findChild<QTimer*>();
     ASSERT_NE(timer, nullptr);
     EXPECT_FALSE(timer->isActive());
@@ -90,10 +90,10 @@ TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
 }
 
 TEST_F(OrphansTest, APassEndsWithItsModel) {
-    tools->held = true;
+    fakes.relief->held = true;
     model->setAutoOptimizeEnabled(true);
     model.reset();
-    EXPECT_TRUE(tools->release(u"warn"_s));
+    EXPECT_TRUE(fakes.relief->release());
     letLoopRun();
     EXPECT_EQ(ActionLogReader::read().size(), 1); // the orphans, and nothing after the model went
 }

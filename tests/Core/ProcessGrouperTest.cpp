@@ -2,7 +2,6 @@
 #include "Core/Grouping/GroupRollup.h"
 #include "Core/Grouping/PatternMatcher.h"
 #include "Core/Sampling/LaunchedProgram.h"
-#include "support/Each.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,18 +40,11 @@ TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
         {"\u212Aitty", "", "", terminals}, // the Kelvin sign is an upper-case k
         {"", "", "", other},
     };
-    const auto processes = each(cases, [](const auto& row) {
-        const auto& [name, path, arguments, group] = row;
-        return ProcSample{.name = QString::fromUtf8(name),
-                          .executablePath = QString::fromUtf8(path),
-                          .arguments = QString::fromUtf8(arguments)};
-    });
-    const auto classified = ProcessGrouper().classify(processes);
-    ASSERT_EQ(classified.size(), processes.size());
-    for (qsizetype i = 0; i < classified.size(); ++i) {
-        EXPECT_EQ(rawValue(classified[i].group), rawValue(std::get<3>(cases[i])))
-            << std::get<0>(cases[i]) << i;
-        EXPECT_EQ(classified[i].name, processes[i].name);
+    for (const auto& [name, path, arguments, group] : cases) {
+        const ProcSample process{.name = QString::fromUtf8(name),
+                                 .executablePath = QString::fromUtf8(path),
+                                 .arguments = QString::fromUtf8(arguments)};
+        EXPECT_EQ(rawValue(ProcessGrouper().groupOf(process)), rawValue(group)) << name;
     }
 }
 
@@ -75,9 +67,8 @@ TEST(ProcessGrouper, GroupsTheProgramsOfRealMachines) {
                                  .executablePath = cells[2],
                                  .arguments = cells[3].section(u' ', 1),
                                  .program = launched.program};
-        const auto classified = ProcessGrouper().classify({process});
-        EXPECT_EQ(groups[static_cast<int>(classified[0].group)].toStdString(), cells[0].toStdString())
-            << line.constData();
+        const ProcGroup group = ProcessGrouper().groupOf(process);
+        EXPECT_EQ(groups[static_cast<int>(group)].toStdString(), cells[0].toStdString()) << line.constData();
         ++count;
     }
     EXPECT_GE(count, 200);

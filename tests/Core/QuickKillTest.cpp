@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using QuickKillTest = ReliefTest;
-using Counts = AppModel::QuickKillResult;
+using Counts = ProcessActions::QuickKillResult;
 
 constexpr quint64 MiB = 1 << 20;
 
@@ -25,10 +25,10 @@ TEST_F(QuickKillTest, MatchesNamePathAndArgumentsInAnyCase) {
     add(5, "other", 1);
     add(fakes.identity->pid, "chrome", 1);
     tick();
-    EXPECT_EQ(model->previewMatches(u"chrome"_s, 0, 0), 3);
-    EXPECT_EQ(model->previewMatches(QString(), 0, 0), 0);
+    EXPECT_EQ(model->actions().previewMatches(u"chrome"_s, 0, 0), 3);
+    EXPECT_EQ(model->actions().previewMatches(QString(), 0, 0), 0);
     EXPECT_TRUE(signalled().isEmpty());
-    EXPECT_EQ(model->quickKill(u"chrome"_s, u"Browsers"_s, 0, 0, true), (Counts{3, 3}));
+    EXPECT_EQ(model->actions().quickKill(u"chrome"_s, u"Browsers"_s, 0, 0, true), (Counts{3, 3}));
     EXPECT_EQ(signalled(), (QList<qint32>{1, 2, 3}));
     EXPECT_EQ(signalSender->sent().first().signal, Signal::kill);
     EXPECT_EQ(logged(), QStringList(u"forceKill [quickKill] Browsers — matched=3 killed=3 ok"_s));
@@ -39,25 +39,25 @@ TEST_F(QuickKillTest, ThresholdsAreInclusive) {
     tick();
     fakes.clock->advance(899);
     tick();
-    EXPECT_EQ(model->previewMatches(u"ollama"_s, 15, 200), 0);
+    EXPECT_EQ(model->actions().previewMatches(u"ollama"_s, 15, 200), 0);
     fakes.clock->advance(1);
     tick();
-    EXPECT_EQ(model->previewMatches(u"ollama"_s, 15, 200.9), 1);
-    EXPECT_EQ(model->previewMatches(u"ollama"_s, 15, 201), 0);
-    EXPECT_EQ(model->previewMatches(u"ollama"_s, 15, std::nan("")), 0);
+    EXPECT_EQ(model->actions().previewMatches(u"ollama"_s, 15, 200.9), 1);
+    EXPECT_EQ(model->actions().previewMatches(u"ollama"_s, 15, 201), 0);
+    EXPECT_EQ(model->actions().previewMatches(u"ollama"_s, 15, std::nan("")), 0);
 }
 
 TEST_F(QuickKillTest, SuccessIsADeliveredSignalOrNothingToDo) {
-    EXPECT_EQ(model->quickKill(u"x"_s, u"None"_s, 0, 0, false), (Counts{0, 0}));
+    EXPECT_EQ(model->actions().quickKill(u"x"_s, u"None"_s, 0, 0, false), (Counts{0, 0}));
     add(1, "match", 1);
     add(2, "match", 1);
     for (const qint32 pid : {1, 2})
         signalSender->start(pid, {.terminate = SignalResult::notPermitted});
     tick();
-    EXPECT_EQ(model->quickKill(u"match"_s, u"Denied"_s, 0, 0, false), (Counts{2, 0}));
+    EXPECT_EQ(model->actions().quickKill(u"match"_s, u"Denied"_s, 0, 0, false), (Counts{2, 0}));
     signalSender->end(1);
     signalSender->start(2);
-    EXPECT_EQ(model->quickKill(u"match"_s, u"Half"_s, 0, 0, false), (Counts{2, 1}));
+    EXPECT_EQ(model->actions().quickKill(u"match"_s, u"Half"_s, 0, 0, false), (Counts{2, 1}));
     EXPECT_EQ(logged(), (QStringList{u"quit [quickKill] Half — matched=2 killed=1 ok"_s,
                                      u"quit [quickKill] Denied — matched=2 killed=0 fail"_s,
                                      u"quit [quickKill] None — matched=0 killed=0 ok"_s}));

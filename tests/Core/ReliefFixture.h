@@ -21,7 +21,7 @@ struct ReliefTest : testing::Test {
 
     ReliefTest() {
         model = std::make_unique<AppModel>(fakes.platform(), settings.preferences);
-        model->setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+        model->actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     }
 
     /// A process of the user's, unless it says otherwise, that the system lists and signals reach.
@@ -40,7 +40,7 @@ struct ReliefTest : testing::Test {
     }
     /// "KIND DETAIL ok", newest first.
     QStringList logged() const {
-        return each(model->actionLog(), [](const ActionLogEntry& entry) {
+        return each(model->actionLog().entries(), [](const ActionLogEntry& entry) {
             return rawValue(entry.kind) + u' ' + entry.detail +
                    QLatin1String(entry.success ? " ok" : " fail");
         });

@@ -24,28 +24,29 @@ struct SamplerTest : testing::Test {
 
 TEST_F(SamplerTest, FirstSampleHasFiguresButNoLoad) {
     fakes.host->ticks = CpuTicks{.user = 500, .system = 1, .idle = 1, .nice = 0};
-    fakes.host->swap = 7;
+    fakes.host->memory.swapUsedBytes = 7;
     const SystemSample sample = sampler.sample();
     EXPECT_EQ(sample.cpuPercent, 0);
     EXPECT_TRUE(sample.cpuPerCore.isEmpty());
-    EXPECT_EQ(sample.memTotalBytes, fakes.host->physical);
-    EXPECT_EQ(sample.memUsedBytes, 250U * 4096);
-    EXPECT_EQ(sample.memWiredBytes, 30U * 4096);
-    EXPECT_EQ(sample.memCompressedBytes, 20U * 4096);
+    EXPECT_EQ(sample.memTotalBytes, fakes.host->memory.totalBytes);
+    EXPECT_EQ(sample.memUsedBytes, 1000U << 10);
+    EXPECT_EQ(sample.memWiredBytes, 120U << 10);
+    EXPECT_EQ(sample.memCompressedBytes, 80U << 10);
     EXPECT_EQ(sample.swapUsedBytes, 7U);
-    EXPECT_EQ(sample.diskFreeBytes, 400U * 4096);
-    EXPECT_EQ(sample.diskTotalBytes, 1000U * 4096);
+    EXPECT_EQ(sample.diskFreeBytes, 1600U << 10);
+    EXPECT_EQ(sample.diskTotalBytes, 4000U << 10);
     EXPECT_NE(sample.id, sampler.sample().id);
 }
 
 TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
-    constexpr quint32 nearWrap = 0xFFFFFFFAU;
+    constexpr quint64 large = 0xFFFFFFFAU; // the next reading needs more than 32 bits
     const std::pair<std::optional<CpuTicks>, double> steps[] = {
-        {CpuTicks{.user = nearWrap, .system = 0, .idle = 100, .nice = 0}, 0},
-        {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 62.5}, // 12 + 6 + 12 of 48, over the wrap
-        {CpuTicks{.user = 6, .system = 6, .idle = 118, .nice = 12}, 0},    // nothing moved
+        {CpuTicks{.user = large, .system = 0, .idle = 100, .nice = 0}, 0},
+        {CpuTicks{.user = large + 12, .system = 6, .idle = 118, .nice = 12}, 62.5}, // 12 + 6 + 12 of 48
+        {CpuTicks{.user = large + 12, .system = 6, .idle = 118, .nice = 12}, 0},    // nothing moved
         {std::nullopt, 0},
-        {CpuTicks{.user = 16, .system = 6, .idle = 128, .nice = 12}, 50}, // since the last good reading
+        {CpuTicks{.user = large + 22, .system = 6, .idle = 128, .nice = 12},
+         50}, // since the last good reading
     };
     for (const auto& [ticks, load] : steps) {
         fakes.host->ticks = ticks;
@@ -55,8 +56,7 @@ TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
 
 TEST_F(SamplerTest, RefusedFiguresAreZeroAndLeaveTheOthersAlone) {
     fakes.host->root.reset();
-    fakes.host->memory.reset();
-    fakes.host->swap.reset();
+    fakes.host->memory = {.totalBytes = fakes.host->memory.totalBytes};
     fakes.host->thermal = 7;
     const SystemSample sample = sampler.sample();
     EXPECT_EQ(sample.diskFreeBytes + sample.diskTotalBytes + sample.memUsedBytes + sample.swapUsedBytes, 0U);
@@ -189,6 +189,34 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
     for (const qint32 pid : {20, 21, 22})
         fakes.processes->processes[pid].info->parentPid = 1;
     EXPECT_EQ(pass(false)[0].parentPid, 1);
+}
+
+TEST_F(SamplerTest, AGroupIsFoundWithTheTextsAndKept) {
+    int asked = 0;
+    ProcGroup ofEditors = ProcGroup::ides;
+    Sampler grouping(fakes.platform(), [&](const ProcSample& process) {
+        ++asked;
+        return process.name == QStringLiteral("vim") ? ofEditors : ProcGroup::terminals;
+    });
+    fakes.processes->add(10, {.path = "/bin/sh", .name = "sh"});
+    const auto pass = [&] {
+        burn(10, 0.001);
+        fakes.clock->advance(2);
+        return grouping.sampleProcesses().value(0).group;
+    };
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(pass(), ProcGroup::terminals);
+    EXPECT_EQ(asked, 1);
+    fakes.processes->processes[10].path = "/bin/vim";
+    fakes.processes->processes[10].name = "vim";
+    for (int i = 0; i < 3; ++i)
+        pass();
+    EXPECT_EQ(pass(), ProcGroup::ides);
+    EXPECT_EQ(asked, 2);
+    ofEditors = ProcGroup::agents;
+    EXPECT_EQ(pass(), ProcGroup::ides);
+    grouping.classifyAnew();
+    EXPECT_EQ(pass(), ProcGroup::agents);
 }
 
 TEST_F(SamplerTest, ALookAgainSeesTheSameProcessOrNone) {

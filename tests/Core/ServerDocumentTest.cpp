@@ -103,7 +103,7 @@ TEST(ServerDocumentTest, ABrokenDocumentHasNoServers) {
 }
 
 TEST(ServerDocumentTest, WhatIsDeepOrLongHidesNoServer) {
-    const int beyond = 2 * static_cast<int>(JsonText::mostTokenBytes);
+    const int beyond = 2 * static_cast<int>(JsonText::maxTokenBytes);
     for (const std::string& content :
          {repeated("[", 1'000'000) + repeated("]", 1'000'000),
           repeated(R"({"args":)", 200'000) + "1" + repeated("}", 200'000), '"' + repeated("x", beyond) + '"',
@@ -117,7 +117,7 @@ TEST(ServerDocumentTest, WhatIsDeepOrLongHidesNoServer) {
     JsonText shortened(text);
     std::stringstream passedOn;
     passedOn << &shortened;
-    EXPECT_EQ(passedOn.str(), '"' + repeated("x", JsonText::mostTokenBytes) + "\",2");
+    EXPECT_EQ(passedOn.str(), '"' + repeated("x", JsonText::maxTokenBytes) + "\",2");
 }
 
 TEST(ServerDocumentTest, HalfASurrogatePairIsReplaced) {
@@ -143,16 +143,15 @@ TEST(ServerTomlTest, ReadsTheTablesOfServers) {
 
 TEST(ServerTomlTest, ABrokenOrMonstrousDocumentHasNoServers) {
     const std::string valid = "[mcp_servers.a]\ncommand = 'x'\n";
-    const int mostBytes = 8 << 20;
+    const int maxBytes = 8 << 20;
     EXPECT_EQ(readToml(valid).size(), 1);
-    EXPECT_EQ(readToml(valid + '#' + repeated("x", mostBytes - static_cast<int>(valid.size()) - 1)).size(),
-              1);
+    EXPECT_EQ(readToml(valid + '#' + repeated("x", maxBytes - static_cast<int>(valid.size()) - 1)).size(), 1);
     const std::string deepLine = "x" + repeated(".x", 200) + " = [{";
     for (const std::string& text :
-         {std::string("mcp_servers = 1"), std::string("mcp_servers = []"), valid + "x", valid + "x = '\xff'",
-          valid + valid, valid + '#' + repeated("x", mostBytes), valid + "x = " + repeated("[", 100'000),
-          valid + "x = " + repeated("{x=", 100'000), valid + "[x" + repeated(".x", 1'000'000) + "]\n",
-          valid + repeated(deepLine, 100'000)})
+         {std::string("mcp_servers = 1"), std::string("mcp_servers = []"), valid + "x", std::string("[/"),
+          valid + "x = '\xff'", valid + valid, valid + '#' + repeated("x", maxBytes),
+          valid + "x = " + repeated("[", 100'000), valid + "x = " + repeated("{x=", 100'000),
+          valid + "[x" + repeated(".x", 1'000'000) + "]\n", valid + repeated(deepLine, 100'000)})
         EXPECT_TRUE(readToml(text).isEmpty()) << text.substr(0, 60);
     std::string crowd = "[mcp_servers]\n";
     for (int i = 0; i <= 10'000; ++i)

@@ -8,13 +8,13 @@ using namespace Qt::StringLiterals;
 TEST_F(ReliefTest, NoActionReachesAProcessThatTookTheIdSinceTheLastTick) {
     using Action = std::function<void()>;
     const QList<std::pair<const char*, Action>> actions = {
-        {"quit", [this] { model->quitProcess(model->processes().first()); }},
-        {"force kill", [this] { model->forceKillProcess(model->processes().first()); }},
-        {"quit server", [this] { model->quitServer(model->mcpReport().live.first()); }},
-        {"kill orphans", [this] { model->killOrphanMCPs(true); }},
-        {"quick kill", [this] { model->quickKill(u"mcp-server"_s, {}, 0, 0, false); }},
-        {"sweep", [this] { model->nuke(model->previewForName(u"mcp-server"_s)); }},
-        {"free RAM", [this] { QCoro::waitFor(model->freeRAM({7})); }},
+        {"quit", [this] { model->actions().quitProcess(model->processes().first()); }},
+        {"force kill", [this] { model->actions().forceKillProcess(model->processes().first()); }},
+        {"quit server", [this] { model->actions().quitServer(model->mcpReport().live.first()); }},
+        {"kill orphans", [this] { model->actions().killOrphanMCPs(true); }},
+        {"quick kill", [this] { model->actions().quickKill(u"mcp-server"_s, {}, 0, 0, false); }},
+        {"sweep", [this] { model->actions().nuke(model->actions().previewForName(u"mcp-server"_s)); }},
+        {"free RAM", [this] { QCoro::waitFor(model->actions().freeRAM({7})); }},
     };
     add(7, "mcp-server", 1, {.uid = 1000, .startTicks = 100});
     tick();
@@ -43,11 +43,11 @@ TEST_F(ReliefTest, AChosenProcessIsTheOneThatWasShownThen) {
     tick();
     add(7, "second", 1, {.start = start + std::chrono::seconds(5), .uid = 1000});
     tick();
-    model->forceKillProcess(chosen);
+    model->actions().forceKillProcess(chosen);
     EXPECT_TRUE(signalSender->sent().isEmpty());
     EXPECT_EQ(logged(), QStringList(u"forceKill pid=7 fail"_s));
-    model->quitProcess(model->processes().first());
-    model->forceKillProcess(model->processes().first());
+    model->actions().quitProcess(model->processes().first());
+    model->actions().forceKillProcess(model->processes().first());
     EXPECT_EQ(signalSender->sent(),
               (QList<FakeSignals::Sent>{{7, Signal::terminate, 2}, {7, Signal::kill, 2}}));
 }

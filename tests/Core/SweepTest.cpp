@@ -42,8 +42,6 @@ TEST(NukePreviewTest, TextsForAnApplication) {
               "no per-tab pop-ups. Frees ≈1 GB."_s);
     EXPECT_EQ(preview.quitOutcome(u"Note"_s, false),
               u"Couldn't tell Note to quit (it may not be scriptable). Try the force variant."_s);
-    EXPECT_EQ(NukePreview::quitScript(u"The \"Best\" %1"_s, false),
-              u"tell application \"The \\\"Best\\\" %1\" to quit"_s);
 }
 
 TEST(NukePreviewTest, TextsForAnyOtherProcessesListTwentyIds) {
@@ -64,10 +62,10 @@ TEST_F(SweepTest, SignalsEveryProcessOfTheNameButNeverTavrin) {
     add(fakes.identity->pid, "bash", 5);
     signalSender->start(2, {.terminate = SignalResult::notPermitted});
     tick();
-    const NukePreview preview = model->previewForName(u"bash"_s);
+    const NukePreview preview = model->actions().previewForName(u"bash"_s);
     EXPECT_EQ(preview.pids, (QList<qint32>{1, 2, 3}));
     EXPECT_EQ(preview.totalRSS, 60U);
-    EXPECT_EQ(model->nuke(preview), u"Killed 2/3 “bash” processes (≈60 bytes targeted)"_s);
+    EXPECT_EQ(model->actions().nuke(preview), u"Killed 2/3 “bash” processes (≈60 bytes targeted)"_s);
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] bash — 2/3 PIDs ok"_s));
 }
 
@@ -75,12 +73,12 @@ TEST_F(SweepTest, AnIdThatWentToAnotherProgramMeanwhileIsLeftAlone) {
     add(1, "bash", 30);
     add(2, "bash", 20);
     tick();
-    const NukePreview preview = model->previewForName(u"bash"_s);
+    const NukePreview preview = model->actions().previewForName(u"bash"_s);
     fakes.processes->remove(1);
     tick();
     add(1, "editor", 30);
     tick();
-    EXPECT_EQ(model->nuke(preview), u"Killed 1/2 “bash” processes (≈50 bytes targeted)"_s);
+    EXPECT_EQ(model->actions().nuke(preview), u"Killed 1/2 “bash” processes (≈50 bytes targeted)"_s);
     EXPECT_EQ(signalled(), QList<qint32>{2});
 }
 
@@ -95,22 +93,20 @@ TEST_F(SweepTest, WhatATerminalTakesAlongIsNamed) {
     const QString message = u"Tells Konsole to quit cleanly — closes all 1 child processes in one sweep, no "
                             "per-tab pop-ups. Frees ≈1 MB.\n\n"
                             "What runs in its terminals ends too (≈3 MB): bash ×2, node."_s;
-    EXPECT_EQ(model->previewForApplication(u"Konsole"_s).dialogMessage(), message);
-    EXPECT_EQ(model->previewForName(u"konsole"_s).dialogMessage(), message);
-    EXPECT_EQ(model->previewForName(u"konsole"_s).pids, QList<qint32>{1});
-    EXPECT_TRUE(model->previewForName(u"bash"_s).inTerminals.isEmpty());
+    EXPECT_EQ(model->actions().previewForApplication(u"Konsole"_s).dialogMessage(), message);
+    EXPECT_EQ(model->actions().previewForName(u"konsole"_s).dialogMessage(), message);
+    EXPECT_EQ(model->actions().previewForName(u"konsole"_s).pids, QList<qint32>{1});
+    EXPECT_TRUE(model->actions().previewForName(u"bash"_s).inTerminals.isEmpty());
 }
 
 TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
-    EXPECT_EQ(QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, false)),
+    EXPECT_EQ(QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, false)),
               u"Note quit cleanly — 1 helpers closed (≈1 KB freed)"_s);
-    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
-    EXPECT_TRUE(
-        QCoro::waitFor(model->nukeGracefulApp(preview, u"Note"_s, true)).startsWith(u"Couldn't tell Note"_s));
-    EXPECT_EQ(tools->commandLines(),
-              (QStringList{u"/usr/bin/osascript -e tell application \"Note\" to quit"_s,
-                           u"/usr/bin/osascript -e tell application \"Note\" to quit saving no"_s}));
+    fakes.relief->answer = [] { return Outcome::failure(u"stayed"_s); };
+    EXPECT_TRUE(QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, true))
+                    .startsWith(u"Couldn't tell Note"_s));
+    EXPECT_EQ(fakes.relief->requests, (QStringList{u"quit Note"_s, u"force-quit Note"_s}));
     EXPECT_EQ(logged(), (QStringList{u"forceKill [graceful quit] Note (1 child PIDs targeted) — force fail"_s,
                                      u"quit [graceful quit] Note (1 child PIDs targeted) ok"_s}));
     EXPECT_TRUE(signalled().isEmpty());

@@ -43,10 +43,11 @@ TEST(NullPlatform, TheProgramStartsTicksAndStaysUsable) {
     EXPECT_TRUE(model.processes().isEmpty());
     EXPECT_EQ(model.groups().size(), 6);
 
-    auto nudge = model.nudgeMemory();
-    auto scan = model.rescanCaches();
+    auto nudge = model.actions().nudgeMemory();
+    auto scan = model.cleanup().rescan();
     EXPECT_TRUE(QTest::qWaitFor([&] { return nudge.isReady() && scan.isReady(); }));
-    EXPECT_FALSE(model.actionLog().first().success);
-    EXPECT_FALSE(model.isScanning());
-    EXPECT_EQ(model.quickKill(QStringLiteral("node"), QStringLiteral("node"), 0, 0, false).matched, 0);
+    EXPECT_FALSE(model.actionLog().entries().first().success);
+    EXPECT_FALSE(model.cleanup().isScanning());
+    EXPECT_EQ(model.actions().quickKill(QStringLiteral("node"), QStringLiteral("node"), 0, 0, false).matched,
+              0);
 }

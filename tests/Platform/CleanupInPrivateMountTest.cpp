@@ -42,11 +42,11 @@ TEST_F(InPrivateMount, StaysOnTheDiskOfTheFolder) {
     ASSERT_EQ(mount("tmpfs", inside.toUtf8().constData(), "tmpfs", 0, nullptr), 0);
     const QString precious = ours.makeFile(u".npm/disk/precious"_s);
     const CacheTarget npm = scanned(target(u"npm / pnpm / yarn"_s));
-    EXPECT_FALSE(clean(npm).success) << "something is left";
+    EXPECT_FALSE(clean(npm).done) << "something is left";
     EXPECT_TRUE(QFileInfo::exists(precious));
     EXPECT_EQ(entries(ours.path(u".npm"_s)), QStringList(u"disk"_s));
     ASSERT_EQ(umount(inside.toUtf8().constData()), 0);
-    EXPECT_TRUE(clean(u"~/.npm"_s).success);
+    EXPECT_TRUE(clean(u"~/.npm"_s).done);
     EXPECT_TRUE(entries(ours.path(u".npm"_s)).isEmpty());
 }
 
@@ -61,7 +61,7 @@ TEST_F(InPrivateMount, RefusesACacheHomeThatIsTmpOrADisk) {
         std::ofstream((folder + u"/precious"_s).toStdString()) << "x";
         const CacheTarget caches = scanned(target(u"User caches"_s));
         EXPECT_EQ(caches.notes, QStringList(u"%1 is left alone: %2."_s.arg(folder, reason)));
-        EXPECT_FALSE(clean(caches).success);
+        EXPECT_FALSE(clean(caches).done);
         EXPECT_TRUE(QFileInfo::exists(folder + u"/precious"_s));
     }
     EXPECT_EQ(umount(disk.toUtf8().constData()), 0);
@@ -76,7 +76,7 @@ TEST_F(InPrivateMount, CleansAFullDisk) {
     fill.close();
     EXPECT_EQ(std::filesystem::space("/tmp").available, 0U);
     const CleanResult result = clean(u"~/.npm"_s);
-    EXPECT_TRUE(result.success);
+    EXPECT_TRUE(result.done);
     EXPECT_GT(result.freedBytes, 900U * 1024);
 }
 
@@ -85,7 +85,7 @@ TEST_F(InPrivateMount, EmptiesAFolderOfMoreEntriesThanAShellCanPass) {
     const std::string cache = ours.makeFolder(u".npm"_s).toStdString() + "/entry number ";
     for (int i = 0; i < 200000; ++i)
         close(open((cache + std::to_string(i)).c_str(), O_CREAT | O_WRONLY, 0600));
-    EXPECT_TRUE(clean(scanned(target(u"npm / pnpm / yarn"_s))).success);
+    EXPECT_TRUE(clean(scanned(target(u"npm / pnpm / yarn"_s))).done);
     EXPECT_TRUE(entries(ours.path(u".npm"_s)).isEmpty());
 }
 
@@ -121,7 +121,7 @@ TEST_F(InPrivateMount, LeavesInTmpWhatProgramsWorkWith) {
 
     const CacheTarget tmp = scanned(target(u"Old /tmp (>7d)"_s));
     EXPECT_EQ(tmp.sizeBytes, 4U);
-    EXPECT_TRUE(clean(tmp).success);
+    EXPECT_TRUE(clean(tmp).done);
     for (const auto& [path, stays] : files)
         EXPECT_EQ(std::filesystem::exists(path), stays) << path;
     EXPECT_TRUE(std::filesystem::exists("/tmp/old folder/.X11-unix"));

@@ -74,14 +74,14 @@ TEST_F(CleanupOnDisk, EmptiesAFolderWhateverItsEntriesAreCalled) {
     const CacheTarget target{.name = u"x"_s, .paths = {cache}};
     const quint64 size = scanned(target).sizeBytes;
     const CleanResult result = clean(target);
-    EXPECT_TRUE(result.success);
+    EXPECT_TRUE(result.done);
     EXPECT_EQ(entries(cache), QStringList(u"..stays"_s));
     EXPECT_EQ(result.freedBytes, size - scanned(target).sizeBytes);
     EXPECT_GE(result.freedBytes, 8U * 4096);
     EXPECT_TRUE(QFileInfo::exists(outside));
 
     ASSERT_TRUE(QFile::remove(cache + u"/..stays"_s));
-    EXPECT_EQ(clean(target), (CleanResult{true, 0})) << "an empty folder";
+    EXPECT_EQ(clean(target), (CleanResult{Outcome::success(), 0})) << "an empty folder";
 }
 
 TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
@@ -117,7 +117,7 @@ TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
         const CacheTarget cache = scanned({.name = u"x"_s, .paths = {home.path(u"tool/cache"_s)}});
         meddling->meddle = swap;
         const bool isInside = std::string_view(name).ends_with("in the folder");
-        EXPECT_EQ(clean(cache).success, isInside);
+        EXPECT_EQ(clean(cache).done, isInside);
         EXPECT_TRUE(QFileInfo::exists(precious) || QFileInfo::exists(home.path(u"tool/cache/precious"_s)));
         for (const auto& left : {u"tool"_s, u"was"_s, u"outside"_s}) {
             const QString path = home.path(left);
@@ -136,7 +136,7 @@ TEST_F(CleanupOnDisk, LeavesALinkedFolderAlone) {
         ASSERT_EQ(measured.notes.size(), 1);
         EXPECT_TRUE(measured.notes.first().endsWith(u" is left alone: it is a link."_s));
         const CleanResult result = clean(measured);
-        EXPECT_FALSE(result.success);
+        EXPECT_FALSE(result.done);
         EXPECT_EQ(result.freedBytes, 0U);
         EXPECT_FALSE(result.reason.isEmpty());
         EXPECT_TRUE(QFileInfo::exists(precious));
@@ -148,7 +148,7 @@ TEST_F(CleanupOnDisk, RemovesWhatWasConfirmedAndNothingElse) {
     const CacheTarget measured = scanned(target(u"npm / pnpm / yarn"_s));
     home.makeFile(u".npm/new"_s);
     home.makeFile(u".yarn/cache/new"_s);
-    EXPECT_TRUE(clean(measured).success);
+    EXPECT_TRUE(clean(measured).done);
     EXPECT_EQ(entries(home.path(u".npm"_s)), QStringList(u"new"_s));
     EXPECT_EQ(entries(home.path(u".yarn/cache"_s)), QStringList(u"new"_s));
 }
@@ -171,7 +171,7 @@ TEST_F(CleanupOnDisk, RefusesACacheHomeThatHoldsMoreThanCaches) {
             ASSERT_FALSE(measured.notes.isEmpty());
             EXPECT_TRUE(
                 measured.notes.first().contains(u"the folder of caches must have nothing to do with"_s));
-            EXPECT_FALSE(clean(measured).success);
+            EXPECT_FALSE(clean(measured).done);
         }
         EXPECT_TRUE(QFileInfo::exists(home.path(precious)));
         EXPECT_TRUE(QFileInfo::exists(home.path(cacheHome + u"/pip/wheel"_s)));
@@ -186,12 +186,12 @@ TEST_F(CleanupOnDisk, StartFilesOfTheShellCannotFeignAClean) {
         SCOPED_TRACE(profile);
         home.makeFile(u".profile"_s, profile);
         home.makeFile(u".npm/deep/file"_s);
-        EXPECT_TRUE(clean(u"~/.npm"_s).success);
+        EXPECT_TRUE(clean(u"~/.npm"_s).done);
         EXPECT_TRUE(entries(home.path(u".npm"_s)).isEmpty());
 
         QFile::remove(proof);
         const CacheTarget pruned{.name = u"x"_s, .pruneCommand = u"touch '%1'"_s.arg(proof)};
-        EXPECT_EQ(clean(pruned).success, runs);
+        EXPECT_EQ(clean(pruned).done, runs);
         EXPECT_EQ(QFileInfo::exists(proof), runs);
     }
 }
@@ -202,7 +202,7 @@ TEST_F(CleanupOnDisk, StopsACommandThatDoesNotAnswer) {
     QTimer::singleShot(100ms, [&stop] { stop.request_stop(); });
     QElapsedTimer time;
     time.start();
-    EXPECT_FALSE(clean(hangs, stop.get_token()).success);
+    EXPECT_FALSE(clean(hangs, stop.get_token()).done);
     EXPECT_LT(time.elapsed(), 5000);
 }
 
@@ -218,12 +218,12 @@ TEST_F(CleanupOnDisk, ReportsWhatMayNotBeDeletedAndDeletesTheRest) {
     setMode(home.path(u"cache/kept"_s), 0555);
 
     const CleanResult result = clean({.name = u"x"_s, .paths = {cache, home.path(u"second"_s)}});
-    EXPECT_FALSE(result.success);
+    EXPECT_FALSE(result.done);
     EXPECT_EQ(entries(cache), QStringList(u"kept"_s));
     EXPECT_TRUE(entries(home.path(u"second"_s)).isEmpty()) << "the next path is cleaned all the same";
 
     setMode(cache, 0); // not even to be looked at
-    EXPECT_FALSE(clean(scanned({.name = u"x"_s, .paths = {cache}})).success);
+    EXPECT_FALSE(clean(scanned({.name = u"x"_s, .paths = {cache}})).done);
     setMode(cache, 0755);
     setMode(home.path(u"cache/kept"_s), 0755);
 }
@@ -248,7 +248,7 @@ TEST_F(CleanupOnDisk, LeavesWhatIsSomebodyElsesInASharedFolderAndSucceeds) {
     old.paths = {shared};
     const CacheTarget measured = scanned(old);
     EXPECT_EQ(each(measured.details, &CacheEntry::path), QStringList(own));
-    EXPECT_TRUE(clean(measured).success);
+    EXPECT_TRUE(clean(measured).done);
     EXPECT_FALSE(QFileInfo::exists(own));
     EXPECT_EQ(QFileInfo::exists(others), hasOthers);
     setMode(home.path(u"shared/private"_s), 0755);
@@ -272,7 +272,7 @@ TEST_F(CleanupOnDisk, DeletesOnlyOldScreenshots) {
     home.makeFolder(u"Desktop/Screen folder"_s);
     const CacheTarget measured = scanned(target(u"Old Desktop screenshots (>30d)"_s));
     EXPECT_EQ(measured.sizeBytes, static_cast<quint64>(2 * png.size() + webm.size()));
-    EXPECT_EQ(clean(measured), (CleanResult{true, 0}));
+    EXPECT_EQ(clean(measured), (CleanResult{Outcome::success(), 0}));
     for (const auto& [name, days, content, stays] : files)
         EXPECT_EQ(QFileInfo::exists(home.path(name)), stays) << name.toStdString();
     EXPECT_TRUE(QFileInfo::exists(home.path(u"Desktop/Screen folder"_s)));
@@ -287,7 +287,7 @@ TEST_F(CleanupOnDisk, AnOldFileThatJustArrivedIsNotOld) {
     const CacheTarget measured = scanned(target(u"Old Downloads (>30d)"_s));
     EXPECT_EQ(measured.sizeBytes, 1U);
     age(home.path(u"Downloads/unpacked a minute ago"_s), 0); // and now it is not old any more
-    EXPECT_TRUE(clean(measured).success);
+    EXPECT_TRUE(clean(measured).done);
     EXPECT_EQ(entries(home.path(u"Downloads"_s)).size(), 1);
 }
 
@@ -308,7 +308,7 @@ TEST_F(CleanupOnDisk, EmptiesTheFoldersOfLogsButNotTheRecord) {
         home.makeFile(path, QByteArray(5000, 'x'));
     const CacheTarget measured = scanned(target(u"User logs"_s));
     EXPECT_EQ(measured.details.size(), 5);
-    EXPECT_TRUE(clean(measured).success);
+    EXPECT_TRUE(clean(measured).done);
     for (const auto& [path, stays] : files)
         EXPECT_EQ(QFileInfo::exists(home.path(path)), stays) << path.toStdString();
 }
@@ -318,7 +318,7 @@ TEST_F(CleanupOnDisk, EmptiesTheTrashOfLinux) {
         home.makeFile(u".local/share/Trash/"_s + file);
     const CacheTarget trash = target(u"Trash"_s);
     EXPECT_EQ(scanned(trash).details.size(), 2);
-    EXPECT_TRUE(clean(trash).success);
+    EXPECT_TRUE(clean(trash).done);
     EXPECT_TRUE(entries(home.path(u".local/share/Trash/files"_s)).isEmpty());
     EXPECT_TRUE(entries(home.path(u".local/share/Trash/info"_s)).isEmpty());
     EXPECT_EQ(entries(home.path(u".local/share/Trash"_s)).size(), 3);
@@ -365,11 +365,11 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
     EXPECT_TRUE(QFileInfo::exists(home.path(u"Downloads/new"_s)));
 
     tenant.end();
-    EXPECT_TRUE(clean(cache).success);
+    EXPECT_TRUE(clean(cache).done);
     EXPECT_TRUE(entries(home.path(u"cache"_s)).isEmpty());
     for (const QString& file : entries(home.path(u"Downloads"_s)).filter(u"passing"_s))
         age(home.path(u"Downloads/"_s + file), 40); // for which the tenant may have had no time
-    EXPECT_TRUE(clean(downloads).success);
+    EXPECT_TRUE(clean(downloads).done);
     EXPECT_EQ(entries(home.path(u"Downloads"_s)), QStringList(u"new"_s));
 }
 

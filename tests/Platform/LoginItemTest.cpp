@@ -49,7 +49,7 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
           u"$HOME `id` ~ & ; | < > * ? # ( )"_s, u"line\nand\ttab"_s, u"größe 測試"_s, u"a=b"_s}) {
         const QString program = makeProgram(folder + u"/tavrin"_s);
         FreedesktopLoginItem item(program);
-        EXPECT_EQ(item.registerItem(), std::nullopt) << qPrintable(folder);
+        EXPECT_EQ(item.registerItem(), Outcome::success()) << qPrintable(folder);
         EXPECT_EQ(complaints(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
         EXPECT_EQ(complaints(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
         const QString started = home.path(u"started"_s);
@@ -62,12 +62,12 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
 
 TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
     FreedesktopLoginItem item(u"/usr/bin/tavrin"_s);
-    EXPECT_EQ(item.unregisterItem(), std::nullopt); // not even a folder
-    EXPECT_EQ(item.registerItem(), std::nullopt);
-    EXPECT_EQ(item.registerItem(), std::nullopt);
+    EXPECT_EQ(item.unregisterItem(), Outcome::success()); // not even a folder
+    EXPECT_EQ(item.registerItem(), Outcome::success());
+    EXPECT_EQ(item.registerItem(), Outcome::success());
     home.makeFile(u".config/autostart/other.desktop"_s);
-    EXPECT_EQ(item.unregisterItem(), std::nullopt);
-    EXPECT_EQ(item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(item.unregisterItem(), Outcome::success());
+    EXPECT_EQ(item.unregisterItem(), Outcome::success());
     EXPECT_EQ(autostartFolder(), QStringList(u"other.desktop"_s));
 }
 
@@ -92,7 +92,7 @@ TEST_F(LoginItemTest, OnlyAnInstalledProgramTakesThePlaceOfOneThatIsGone) {
 
 TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
     qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
-    EXPECT_EQ(FreedesktopLoginItem(u"/usr/bin/tavrin"_s).registerItem(), std::nullopt);
+    EXPECT_EQ(FreedesktopLoginItem(u"/usr/bin/tavrin"_s).registerItem(), Outcome::success());
     EXPECT_TRUE(contentOf(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
                     .contains("\nExec=\"/usr/bin/tavrin\"\nTryExec=/usr/bin/tavrin\n"));
     EXPECT_FALSE(QFile::exists(entry));
@@ -118,22 +118,23 @@ TEST_F(LoginItemTest, SaysWhyItCannot) {
     for (const auto& [obstacle, path, onRegister, onUnregister] : cases) {
         obstacle();
         FreedesktopLoginItem item(path);
-        const QString registering = item.registerItem().value_or(QString());
-        EXPECT_TRUE(!registering.isEmpty() && registering.endsWith(onRegister)) << qPrintable(registering);
-        const QString unregistering = item.unregisterItem().value_or(QString());
-        EXPECT_TRUE(unregistering.endsWith(onUnregister)) << qPrintable(unregistering);
-        EXPECT_EQ(unregistering.isEmpty(), onUnregister.isEmpty());
+        const Outcome registering = item.registerItem();
+        EXPECT_FALSE(registering.done);
+        EXPECT_TRUE(registering.reason.endsWith(onRegister)) << qPrintable(registering.reason);
+        const Outcome unregistering = item.unregisterItem();
+        EXPECT_TRUE(unregistering.reason.endsWith(onUnregister)) << qPrintable(unregistering.reason);
+        EXPECT_EQ(unregistering.done, onUnregister.isEmpty());
         QDir(home.path(u".config"_s)).removeRecursively();
     }
 }
 
 TEST_F(LoginItemTest, AWriteThatFailsLeavesTheEntryThatWasThere) {
-    ASSERT_EQ(FreedesktopLoginItem(u"/old/tavrin"_s).registerItem(), std::nullopt);
+    ASSERT_EQ(FreedesktopLoginItem(u"/old/tavrin"_s).registerItem(), Outcome::success());
     const QByteArray before = contentOf(entry);
     QStringList reasons;
     for (const rlim_t room : {0, 20}) { // bytes that the disk still takes
         const FullDisk full(room);
-        reasons.append(FreedesktopLoginItem(u"/new/tavrin"_s).registerItem().value_or(QString()));
+        reasons.append(FreedesktopLoginItem(u"/new/tavrin"_s).registerItem().reason);
     }
     EXPECT_TRUE(reasons[0].endsWith(u"tavrin.desktop: File too large"_s)) << qPrintable(reasons[0]);
     EXPECT_TRUE(reasons[1].contains(u"tavrin.desktop: "_s)) << qPrintable(reasons[1]);

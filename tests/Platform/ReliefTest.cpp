@@ -3,7 +3,7 @@
 #include "Platform/Identity.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "Platform/Linux/LinuxSignals.h"
-#include "support/ScriptedTools.h"
+#include "support/FakeRelief.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -42,14 +42,14 @@ public:
     }
 
     /// A server that `parent` started, waited for until it is as large.
-    qint32 childOf(qint32 parent, quint64 leastBytes) {
+    qint32 childOf(qint32 parent, quint64 minBytes) {
         qint32 child = 0;
         const auto isThere = [&] {
             const int count = LinuxProcessTable::listAllPids(m_everything);
             for (const qint32 pid : std::span(m_everything).first(static_cast<std::size_t>(count))) {
                 const auto info = kernelInfo(pid);
                 if (info && info->parentPid == parent && origin(pid).argumentArea.contains("mcp-server") &&
-                    taskInfo(pid).value_or(TaskInfo()).residentBytes >= leastBytes)
+                    taskInfo(pid).value_or(TaskInfo()).residentBytes >= minBytes)
                     child = pid;
             }
             return child > 0;
@@ -81,9 +81,9 @@ struct ReliefOnProcessesTest : testing::Test {
         QFile::setPermissions(home.path(), QFile::Permissions(0x7777));
         Platform platform = Platform::native();
         platform.processes = processes;
-        platform.tools = std::make_shared<ScriptedTools>();
+        platform.relief = std::make_shared<FakeRelief>();
         model = std::make_unique<AppModel>(platform, settings.preferences);
-        model->setFreeRAMWaits({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
+        model->actions().setFreeRAMWaits({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
     }
     void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
 };
@@ -117,7 +117,8 @@ TEST_F(ReliefOnProcessesTest, OneEndsWhenAskedOneIsKilledOneIsGone) {
     ASSERT_EQ(stubborn.heard(), 'r');
     processes->pids = {polite.pid(), stubborn.pid()};
     tick();
-    const FreeRAMResult result = QCoro::waitFor(model->freeRAM({polite.pid(), stubborn.pid(), gonePid}));
+    const FreeRAMResult result =
+        QCoro::waitFor(model->actions().freeRAM({polite.pid(), stubborn.pid(), gonePid}));
     ASSERT_EQ(result.perPid.size(), 3);
     EXPECT_EQ(endedBy(polite.pid()), SIGTERM);
     EXPECT_EQ(result.perPid[0].outcome, KillOutcome::quit); // although nobody has reaped it yet
@@ -137,14 +138,15 @@ TEST_F(ReliefOnProcessesTest, AnotherUsersProcessIsDeniedAndNeverChosenByRule) {
     tick();
     ASSERT_EQ(model->processes().size(), 1);
     const QString name = model->processes().first().name;
-    EXPECT_EQ(model->previewMatches(name, 0, 0), 1);
+    EXPECT_EQ(model->actions().previewMatches(name, 0, 0), 1);
     {
         const AsNobody switched;
         ASSERT_TRUE(switched.isSwitched);
-        const FreeRAMResult result = QCoro::waitFor(model->freeRAM({child.pid()}));
+        const FreeRAMResult result = QCoro::waitFor(model->actions().freeRAM({child.pid()}));
         EXPECT_EQ(result.perPid[0].outcome, KillOutcome::denied);
-        EXPECT_EQ(model->previewMatches(name, 0, 0), 0);
-        EXPECT_EQ(model->quickKill(name, u"all"_s, 0, 0, true), (AppModel::QuickKillResult{0, 0}));
+        EXPECT_EQ(model->actions().previewMatches(name, 0, 0), 0);
+        EXPECT_EQ(model->actions().quickKill(name, u"all"_s, 0, 0, true),
+                  (ProcessActions::QuickKillResult{0, 0}));
         EXPECT_EQ(LinuxSignals().hold(child.pid())->send(Signal::terminate), SignalResult::notPermitted);
     }
     EXPECT_EQ(LinuxSignals().hold(child.pid())->send(Signal::probe), SignalResult::delivered);
@@ -188,9 +190,9 @@ TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKi
     EXPECT_TRUE(live.first().isOrphan);
     EXPECT_EQ(live.first().parentName, u"(init or gone)"_s);
     EXPECT_EQ(model->mcpReport().orphanBytes(), model->processes().first().rssBytes);
-    EXPECT_EQ(model->killOrphanMCPs(false), 1);
+    EXPECT_EQ(model->actions().killOrphanMCPs(false), 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !processes->taskInfo(hosted); }));
-    EXPECT_EQ(model->actionLog().first().detail, u"[orphan MCPs] killed=1/1"_s);
+    EXPECT_EQ(model->actionLog().entries().first().detail, u"[orphan MCPs] killed=1/1"_s);
     EXPECT_TRUE(processes->taskInfo(orphan)); // not on the list, and so left alone
 }
 

@@ -102,14 +102,14 @@ TEST(ToolRunner, TerminatesWhatTakesTooLong) {
         {u"trap 'exit 5' TERM; while :; do sleep 0.05; done"_s, 5, 200, 1100},
         {u"trap '' TERM; exec sleep 60"_s, -1, 1200, 4000},
         {u"exit 4"_s, 4, 0, 200}};
-    for (const auto& [command, status, leastMs, mostMs] : cases) {
+    for (const auto& [command, status, minMs, maxMs] : cases) {
         QElapsedTimer time;
         time.start();
         const ToolResult result = runShell(command, 200ms);
         EXPECT_TRUE(result.launched) << qPrintable(command);
         EXPECT_EQ(result.exitStatus, status) << qPrintable(command);
-        EXPECT_GE(time.elapsed(), leastMs) << qPrintable(command);
-        EXPECT_LT(time.elapsed(), mostMs) << qPrintable(command);
+        EXPECT_GE(time.elapsed(), minMs) << qPrintable(command);
+        EXPECT_LT(time.elapsed(), maxMs) << qPrintable(command);
     }
 }
 
@@ -127,7 +127,7 @@ TEST(ToolRunner, PassesOnWhatTheToolIsToRead) {
 TEST(ToolRunner, EndsAToolWhenAskedToWhateverItHasStarted) {
     const std::pair<QString, qint64> cases[] = {{u"sleep 60 & sleep 61"_s, 1000},
                                                 {u"trap '' TERM; sleep 60 & wait"_s, 3000}};
-    for (const auto& [command, mostMs] : cases) {
+    for (const auto& [command, maxMs] : cases) {
         UnixToolRunner runner;
         std::stop_source stop;
         QTimer::singleShot(100ms, [&] { stop.request_stop(); });
@@ -136,7 +136,7 @@ TEST(ToolRunner, EndsAToolWhenAskedToWhateverItHasStarted) {
         const ToolResult result = QCoro::waitFor(runner.run(
             {.launchPath = u"/bin/sh"_s, .arguments = {u"-c"_s, command}, .stop = stop.get_token()}));
         EXPECT_FALSE(result.succeeded()) << qPrintable(command);
-        EXPECT_LT(time.elapsed(), mostMs) << qPrintable(command);
+        EXPECT_LT(time.elapsed(), maxMs) << qPrintable(command);
     }
 }
 

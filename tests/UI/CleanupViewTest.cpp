@@ -26,13 +26,14 @@ struct CleanupViewTest : ModelFixture {
     }
     void rescan() {
         press(*view, u"Rescan"_s);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !model.isScanning(); }, 2000));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !model.cleanup().isScanning(); }, 2000));
         tick();
     }
     QStringList cards() { return shownNames<CacheCard>(*view); }
     QPointer<ConfirmDialog> dialog() { return window.findChild<ConfirmDialog*>(); }
     void finish() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !model.isCleaning() && !model.isScanning(); }, 2000));
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] { return !model.cleanup().isCleaning() && !model.cleanup().isScanning(); }, 2000));
         tick();
     }
     /// Makes the tools say so of every folder; `clean` answers a removal.
@@ -63,7 +64,7 @@ TEST_F(CleanupViewTest, ScanningShowsHowFarItIs) {
     tick();
     EXPECT_FALSE(buttonNamed(*view, u"Rescan"_s)->isEnabled());
     EXPECT_FALSE(shownNames<Spinner>(*view).isEmpty());
-    while (model.isScanning()) {
+    while (model.cleanup().isScanning()) {
         fakes.tools->held = false; // whatever follows is answered at once
         for (const ToolRequest& request : QList<ToolRequest>(fakes.tools->requests))
             fakes.tools->release(request.arguments.last());
@@ -93,7 +94,8 @@ TEST_F(CleanupViewTest, TheDrawerCleansOnlyAfterAsking) {
     press(*drawer, u"Clean 2 MB"_s);
     EXPECT_EQ(dialog()->windowTitle(), u"Delete npm / pnpm / yarn?"_s);
     press(*dialog(), u"Delete 2 MB"_s);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !model.isCleaning() && !model.isScanning(); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return !model.cleanup().isCleaning() && !model.cleanup().isScanning(); }, 2000));
     settle();
     EXPECT_FALSE(drawer);
     EXPECT_EQ(logged(), QStringList(u"clean npm / pnpm / yarn ok"_s));
@@ -140,8 +142,8 @@ TEST_F(CleanupViewTest, WhatWasConfirmedIsWhatIsCleaned) {
     EXPECT_TRUE(shownNames<QWidget>(*dialog()).contains(u"npm / pnpm / yarn, 2 MB, “_cacache”"_s));
     fakes.places->elsewhere[u"~/.cache/pip"_s] = {home.makeFolder(u"pip"_s)};
     answer(listingOf({{"since then", 0}}));
-    QCoro::waitFor(model.rescanCaches());
-    EXPECT_EQ(model.targetsToClean().size(), 2);
+    QCoro::waitFor(model.cleanup().rescan());
+    EXPECT_EQ(model.cleanup().targetsToClean().size(), 2);
     press(*dialog(), u"Clean 2 MB"_s);
     finish();
     EXPECT_EQ(logged(), QStringList(u"clean [batch] npm / pnpm / yarn ok"_s));
@@ -153,7 +155,7 @@ TEST_F(CleanupViewTest, ATotalCountsOnceWhatTargetsShare) {
     fakes.places->elsewhere[u"~/.npm/_npx"_s] = {home.makeFolder(u".npm/_npx"_s)};
     answer(listingOf({}));
     rescan();
-    EXPECT_EQ(model.targetsToClean().size(), 2);
+    EXPECT_EQ(model.cleanup().targetsToClean().size(), 2);
     EXPECT_TRUE(showsText(*view, u"Reclaimable: 2 MB"_s));
     press(*view, u"Clean All"_s);
     EXPECT_TRUE(showsText(*dialog(), u"Some of them overlap; the total counts what they share once."_s));
@@ -195,7 +197,7 @@ TEST_F(CleanupViewTest, SaysWhySomethingIsLeft) {
     fakes.places->objections.clear();
     answer(listingOf({}), {.launched = true, .exitStatus = 1, .complaint = u"2 entries\n are left"_s});
     rescan();
-    model.clean(model.targetsToClean().first());
+    model.cleanup().clean(model.cleanup().targetsToClean().first());
     finish();
     EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (2 entries␊ are left)"_s));
 }
@@ -242,6 +244,12 @@ TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {
         const QString question = CleanupTexts::question(target);
         EXPECT_TRUE(question.contains(said)) << qPrintable(question);
         EXPECT_EQ(question.contains(rebuilt), isRebuilt) << qPrintable(question);
+    }
+    for (const CacheTarget& target : CacheTarget::defaults()) {
+        CacheTarget renamed = target;
+        renamed.name = u"x"_s;
+        EXPECT_EQ(CleanupTexts::question(renamed), CleanupTexts::question(target));
+        EXPECT_EQ(CleanupTexts::whatGoes(renamed), CleanupTexts::whatGoes(target));
     }
     EXPECT_FALSE(CleanupTexts::questionAll({mine, containers}).contains(rebuilt));
     EXPECT_TRUE(CleanupTexts::questionAll({caches, mine, containers}).contains(u"gone for good: B, C."_s));

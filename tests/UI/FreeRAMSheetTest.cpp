@@ -16,7 +16,7 @@ struct FreeRAMSheetTest : ModelFixture {
     QWidget window;
     QPointer<FreeRAMSheet> sheet;
 
-    FreeRAMSheetTest() { model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
+    FreeRAMSheetTest() { model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
     ~FreeRAMSheetTest() override { delete sheet; }
 
     /// Agents of 400, 401, ... MiB, idle for 20 minutes.
@@ -101,12 +101,12 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
     fakes.signalSender->start(101, {.terminate = SignalResult::notPermitted});
     fakes.signalSender->start(102, {.terminate = SignalResult::other, .kill = SignalResult::other});
     open();
-    fakes.tools->held = true;
-    fakes.host->memory = MemoryPages{.active = 100, .wired = 30, .compressed = 20};
+    fakes.relief->held = true;
+    fakes.host->memory.activeBytes /= 2;
     QTest::keyClick(sheet, Qt::Key_Return);
     EXPECT_FALSE(buttonNamed(*sheet, u"Killing…"_s)->isEnabled());
     QTest::keyClick(sheet, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.tools->release(u"warn"_s); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.relief->release(); }, 1000));
     EXPECT_TRUE(QTest::qWaitFor([this] { return showsText(*sheet, u"Freed ~400 KB"_s); }, 1000));
     EXPECT_TRUE(showsText(*sheet, u"• memory_pressure nudged"_s));
     QStringList outcomes = shownNames<QWidget>(*sheet).filter(u"claude ("_s);
@@ -123,10 +123,10 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
 TEST_F(FreeRAMSheetTest, ClosedDuringARunItLeavesTheRunToFinish) {
     addIdle(1);
     open();
-    fakes.tools->held = true;
+    fakes.relief->held = true;
     QTest::keyClick(sheet, Qt::Key_Return);
     delete sheet;
-    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.tools->release(u"warn"_s); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.relief->release(); }, 1000));
     EXPECT_TRUE(QTest::qWaitFor([this] { return logged().size() == 1; }, 1000));
 }
 

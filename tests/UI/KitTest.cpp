@@ -3,7 +3,6 @@
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Switch.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 

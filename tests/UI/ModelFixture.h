@@ -41,7 +41,7 @@ struct ModelFixture : testing::Test {
 
     /// "KIND DETAIL ok", newest first.
     QStringList logged() const {
-        return each(model.actionLog(), [](const ActionLogEntry& entry) {
+        return each(model.actionLog().entries(), [](const ActionLogEntry& entry) {
             return rawValue(entry.kind) + u' ' + entry.detail +
                    QLatin1String(entry.success ? " ok" : " fail");
         });

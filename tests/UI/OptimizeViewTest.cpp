@@ -2,11 +2,13 @@
 
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
-#include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Optimize/PresetTile.h"
+#include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Optimize/ServerRow.h"
 #include "UI/Optimize/StatBox.h"
+
+#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +23,11 @@ struct OptimizeViewTest : ModelFixture {
         tick();
     }
     QString notice() { return shownName<Notice>(view); }
-    QList<PresetTile*> tiles() { return view.findChildren<PresetTile*>(); }
+    QList<PresetTile*> tiles() {
+        QList<PresetTile*> shown = view.findChildren<PresetTile*>();
+        shown.removeIf([this](const PresetTile* tile) { return !tile->isVisibleTo(&view); });
+        return shown;
+    }
     void usePreset(const QString& name, const QString& pattern) {
         QuickKillPreset preset = QuickKillPreset::blank();
         preset.name = name;
@@ -47,6 +53,9 @@ TEST_F(OptimizeViewTest, TilesCountWhatAPressWouldSignal) {
     EXPECT_EQ(tiles().size(), 6);
     usePreset(u"Work"_s, u"WORKER"_s);
     ASSERT_EQ(tiles().size(), 1);
+    QuickKillsCard fresh;
+    fresh.refresh(model.actions(), prefs.quickKillPresets());
+    EXPECT_EQ(view.findChild<QuickKillsCard*>()->sizeHint(), fresh.sizeHint()) << "hidden tiles take room";
     EXPECT_EQ(tiles()[0]->accessibleName(), u"Work, pattern: WORKER, 2 matching"_s);
     addProcesses(1, "worker", 1);
     tick();
@@ -113,18 +122,16 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     show();
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"Sent memory_pressure -l warn"_s);
-    fakes.tools->held = true;
+    fakes.relief->held = true;
     press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
-    fakes.tools->answer = [](const ToolRequest&) {
-        return ToolResult{.launched = true, .exitStatus = 1, .complaint = u"no <agent>"_s};
-    };
-    EXPECT_TRUE(fakes.tools->release(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s));
+    fakes.relief->answer = [] { return Outcome::failure(u"no <agent>"_s); };
+    EXPECT_TRUE(fakes.relief->release());
     EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->toolTip().contains(u"no &lt;agent&gt;"_s));
-    fakes.tools->held = false;
-    fakes.tools->answer = [](const ToolRequest&) { return ToolResult{.complaint = u"no group"_s}; };
+    fakes.relief->held = false;
+    fakes.relief->answer = [] { return Outcome::failure(u"no group"_s); };
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"memory_pressure failed"_s);
     EXPECT_EQ(buttonNamed(view, u"Pressure nudge"_s)->accessibleDescription(), u"no group"_s);
@@ -137,7 +144,7 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
 
 TEST_F(OptimizeViewTest, TheSwitchRunsTheOptimizer) {
     show();
-    auto* toggle = view.findChild<Switch*>();
+    auto* toggle = view.findChild<QCheckBox*>();
     EXPECT_TRUE(showsText(view, u"Off"_s));
     QTest::mouseClick(toggle, Qt::LeftButton);
     QCoreApplication::processEvents();
@@ -152,7 +159,7 @@ TEST_F(OptimizeViewTest, CleanAllAsksOnceUnlessToldNotTo) {
     fillNpmFolder();
     show();
     EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
-    QCoro::waitFor(model.rescanCaches());
+    QCoro::waitFor(model.cleanup().rescan());
     tick();
     EXPECT_TRUE(showsText(view, u"2 MB reclaimable across %1 targets"_s.arg(CacheTarget::defaults().size())));
     press(view, u"Clean All"_s);
@@ -169,7 +176,7 @@ TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
     fillNpmFolder();
     prefs.askBeforeCleaningAll.set(false);
     show();
-    QCoro::waitFor(model.rescanCaches());
+    QCoro::waitFor(model.cleanup().rescan());
     tick();
     fakes.tools->held = true;
     press(view, u"Clean All"_s);

@@ -28,7 +28,7 @@ struct OverviewViewTest : ModelFixture {
 } // namespace
 
 TEST_F(OverviewViewTest, FiguresCanBeReadByAccessibleName) {
-    fakes.host->physical = 1000 * 4096;
+    fakes.host->memory.totalBytes = 1000 * 4096;
     addProcesses(2, "chrome", quint64(512) << 20);
     show();
     EXPECT_EQ(shownNames<MetricTile>(view),
@@ -78,13 +78,13 @@ TEST_F(OverviewViewTest, NamesFromOutsideArePlainText) {
 TEST_F(OverviewViewTest, AlertsReplaceTheHealthyCardAndBack) {
     show();
     EXPECT_TRUE(shows(QStringLiteral("System looks healthy.")));
-    fakes.host->physical = quint64(1) << 30;
-    fakes.host->swap = quint64(5) << 30;
+    fakes.host->memory.totalBytes = quint64(1) << 30;
+    fakes.host->memory.swapUsedBytes = quint64(5) << 30;
     tick();
     EXPECT_FALSE(shows(QStringLiteral("System looks healthy.")));
     EXPECT_EQ(shownNames<AlertCard>(view).size(), 2);
     EXPECT_TRUE(shows(QStringLiteral("Free RAM low")));
-    fakes.host->physical = quint64(16) << 30;
+    fakes.host->memory.totalBytes = quint64(16) << 30;
     tick();
     EXPECT_EQ(shownNames<AlertCard>(view),
               QStringList{QStringLiteral("Heavy swap usage. 5.0 GB swapped — system will feel sluggish.")});

@@ -5,11 +5,11 @@
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Processes/ProcessTableView.h"
 
 #include <QAbstractItemModelTester>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -52,7 +52,16 @@ struct ProcessesViewTest : ModelFixture {
     QPointer<ConfirmDialog> dialog() { return view.findChild<ConfirmDialog*>(); }
     QString notice() { return shownName<Notice>(view); }
     void foldDuplicates() {
-        QTest::mouseClick(view.findChild<Switch*>(), Qt::LeftButton, {}, QPoint(10, 10));
+        QTest::mouseClick(view.findChild<QCheckBox*>(), Qt::LeftButton, {}, QPoint(10, 10));
+    }
+    /// What another table has from the settings.
+    QList<int> widthsOfAnother() {
+        const ProcessesView another(model, prefs);
+        const QHeaderView* head = another.findChild<ProcessTableView*>()->header();
+        QList<int> widths;
+        for (int section = 0; section < head->count(); ++section)
+            widths.append(head->sectionSize(section));
+        return widths;
     }
     void type(const QString& text) {
         auto* field = view.findChild<SearchField*>();
@@ -248,7 +257,7 @@ TEST_F(ProcessesViewTest, AnApplicationIsToldToQuit) {
     EXPECT_EQ(notice(), u"Note quit cleanly — 2 helpers closed (≈120 MB freed)"_s);
     settle();
     pressIn(0, 2);
-    fakes.tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(1); };
+    fakes.relief->answer = [] { return Outcome(); };
     press(*dialog(), u"Force-quit Note (no save prompt)"_s);
     EXPECT_TRUE(notice().startsWith(u"Couldn't tell Note to quit"_s));
     EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
@@ -278,6 +287,8 @@ TEST_F(ProcessesViewTest, ARowsMenuPutsItsProgramIntoAGroup) {
     EXPECT_EQ(choose(0, u"Docker && Containers"_s), u"As detected"_s);
     EXPECT_EQ(column(u"Group"_s), (QStringList{u"Docker & Containers"_s, u"Terminals"_s}));
     EXPECT_EQ(model.groups()[4].count, 1);
+    tick();
+    EXPECT_EQ(model.groups()[4].count, 1) << "it lasts";
     const AppModel again(fakes.platform(), prefs);
     EXPECT_EQ(again.chosenGroup(model.processes()[0]), ProcGroup::containers);
     EXPECT_EQ(choose(0, u"As detected"_s), u"Docker && Containers"_s);
@@ -290,13 +301,26 @@ TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {
     show();
     view.resize(1300, 700);
     QCoreApplication::processEvents();
-    EXPECT_FALSE(prefs.file().text(u"ui.processes.widths"_s)) << "nobody has moved a column";
+    EXPECT_FALSE(prefs.file().text(u"ui.processes.columns"_s)) << "nobody has moved a column";
     table->header()->resizeSection(1, 99);
-    const auto isStored = [this] {
-        return ProcessesView(model, prefs).findChild<ProcessTableView*>()->header()->sectionSize(1) == 99;
-    };
-    EXPECT_TRUE(QTest::qWaitFor(isStored, 3000));
-    prefs.file().store(u"ui.processes.widths"_s, u"-5 99999999 x"_s);
-    const ProcessesView again(model, prefs);
-    EXPECT_EQ(again.findChild<ProcessTableView*>()->header()->sectionSize(1), 156);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return widthsOfAnother()[1] == 99; }, 3000));
+    prefs.file().store(u"ui.processes.columns"_s,
+                       u"idle=70 group=-5 cpu=99999999 ram=x pid =gone=80 pid=81"_s);
+    EXPECT_EQ(widthsOfAnother().mid(1), (QList<int>{156, 81, 62, 84, 62, 70, 86}));
+}
+
+TEST_F(ProcessesViewTest, WidthsByPositionAreTakenOverOnce) {
+    const QString flat = u"ui.processes.columns"_s;
+    const QString old = u"ui.processes.widths"_s;
+    prefs.file().store(old, u"410 140 x 99999 90 -1 70"_s);
+    prefs.file().store(u"ui.processes.groupedWidths"_s, u"500 130 63 85 64 100"_s);
+    EXPECT_EQ(widthsOfAnother().mid(1), (QList<int>{140, 62, 62, 90, 62, 70, 86}));
+    for (const QString& dropped : {old, u"ui.processes.groupedWidths"_s})
+        EXPECT_FALSE(Preferences(prefs.file().path()).file().text(dropped));
+    EXPECT_EQ(prefs.file().text(u"ui.processes.groupedColumns"_s)->section(u' ', 1),
+              u"group=130 cpu=63 ram=85 procs=64 actions=100"_s);
+    prefs.file().store(flat, u"pid=77"_s);
+    prefs.file().store(old, u"410 140"_s); // what an older version left behind goes, whatever it was
+    EXPECT_EQ(widthsOfAnother().mid(1), (QList<int>{156, 77, 62, 84, 62, 62, 86}));
+    EXPECT_FALSE(prefs.file().text(old));
 }

@@ -2,14 +2,13 @@
 
 #include "UI/Controls.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/TextField.h"
 #include "UI/ModelFixture.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Settings/PresetTable.h"
 #include "UI/Settings/QuickKillEditorSheet.h"
 
+#include <QLineEdit>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -40,7 +39,7 @@ struct QuickKillsTabTest : ModelFixture {
     QStringList names() const { return column(1); }
     QuickKillEditorSheet* editor() { return tab.findChild<QuickKillEditorSheet*>(); }
     void type(const QString& field, const QString& text) {
-        auto* line = control<TextField>(*editor(), field);
+        auto* line = control<QLineEdit>(*editor(), field);
         line->selectAll();
         QTest::keyClicks(line, text);
         if (text.isEmpty())
@@ -117,7 +116,7 @@ TEST_F(QuickKillsTabTest, EditingKeepsPlaceAndIdAndCancelLeavesAlone) {
     store(before);
     key(1, Qt::Key_Return);
     ASSERT_TRUE(editor());
-    EXPECT_EQ(control<TextField>(*editor(), u"Name"_s)->text(), u"Two"_s);
+    EXPECT_EQ(control<QLineEdit>(*editor(), u"Name"_s)->text(), u"Two"_s);
     type(u"Name"_s, u"Deux"_s);
     QTest::keyClick(editor(), Qt::Key_Escape);
     settle();

@@ -1,11 +1,12 @@
 #include "UI/Settings/SettingsScene.h"
 
 #include "UI/Controls.h"
-#include "UI/Kit/Switch.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/TabButton.h"
 #include "support/FakeLoginItem.h"
 #include "support/Files.h"
+
+#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +25,7 @@ struct SettingsTest : testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
     QByteArray stored() const { return contentOf(settings.path); }
-    bool isOn(const QString& toggle) { return control<Switch>(window, toggle)->isChecked(); }
+    bool isOn(const QString& toggle) { return control<QCheckBox>(window, toggle)->isChecked(); }
     QString chosen(const QString& picker) { return control<QComboBox>(window, picker)->currentText(); }
 };
 
@@ -41,7 +42,7 @@ TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
     quickKills->setFocus();
     QTest::keyClick(quickKills, Qt::Key_Left);
     EXPECT_EQ(window.tab(), Tab::alerts);
-    EXPECT_TRUE(control<Switch>(window, u"CPU saturation"_s));
+    EXPECT_TRUE(control<QCheckBox>(window, u"CPU saturation"_s));
     QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(window.tab(), Tab::sampling);
     QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
@@ -96,7 +97,7 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
     QStringList shown;
     for (const Tab tab : {Tab::general, Tab::sampling, Tab::alerts}) {
         again.select(tab);
-        for (const auto* toggle : again.findChildren<Switch*>()) {
+        for (const auto* toggle : again.findChildren<QCheckBox*>()) {
             if (toggle->isVisibleTo(&again) && toggle->isChecked())
                 shown.append(toggle->text());
         }
@@ -154,7 +155,7 @@ TEST_F(SettingsTest, TheRetentionLineFollowsBothPickers) {
 
 TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
     click(window, u"Start at login"_s);
-    loginItem.failure = u"<b>disk</b> full"_s;
+    loginItem.outcome = Outcome::failure(u"<b>disk</b> full"_s);
     click(window, u"Start at login"_s);
     EXPECT_TRUE(showsText(window, u"Couldn't register: <b>disk</b> full"_s));
     EXPECT_TRUE(prefs.startAtLogin());
@@ -167,7 +168,7 @@ TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
         another.show();
         EXPECT_FALSE(showsText(another, u"Couldn't unregister: <b>disk</b> full"_s));
     }
-    loginItem.failure.reset();
+    loginItem.outcome = Outcome::success();
     click(window, u"Start at login"_s);
     EXPECT_FALSE(showsText(window, u"Couldn't unregister: <b>disk</b> full"_s));
     EXPECT_EQ(loginItem.requests,

@@ -1,4 +1,4 @@
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Symbols.h"
 
 #include "Core/Alerts/Alert.h"
 #include "Core/Cleanup/CacheTarget.h"

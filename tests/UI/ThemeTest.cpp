@@ -1,4 +1,4 @@
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include "UI/Kit/TextLabel.h"
 

@@ -1,4 +1,5 @@
 #include "Core/Translations.h"
+#include "UI/Style/Style.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -12,7 +13,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QApplication app(argc, argv);
     Translations::install();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -8,9 +8,6 @@
 #include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/FigureIcon.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/Theme.h"
 #include "UI/MainWindow.h"
 #include "UI/MenuBarPanel.h"
 #include "UI/MessageBanner.h"
@@ -27,6 +24,9 @@
 #include "UI/Settings/PresetTable.h"
 #include "UI/Settings/QuickKillEditorSheet.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/Style/Style.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
 #include "UI/Widget.h"
 #include "UI/WidgetView.h"
 #include "support/FakeLoginItem.h"
@@ -35,6 +35,7 @@
 #include <QCoroTask>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QEnterEvent>
 #include <QFileDialog>
@@ -98,8 +99,8 @@ struct Stage : ModelFixture {
                           .info = KernelProcessInfo{.uid = fakes.identity->uid}});
             }
         }
-        fakes.host->physical = 16 * GiB;
-        fakes.host->root = VolumeBlocks{.blockSize = 4096, .blocks = 122 * MiB, .blocksAvailable = 21 * MiB};
+        fakes.host->memory = {.totalBytes = 16 * GiB};
+        fakes.host->root = VolumeSize{.totalBytes = 488 * GiB, .freeBytes = 84 * GiB};
     }
 
     /// `usedGB` at the end of a stretch of `ticks`, in which the load swings about `load` percent.
@@ -107,11 +108,10 @@ struct Stage : ModelFixture {
         for (int i = 0; i < ticks; ++i) {
             const double wave = load + 14 * std::sin(i / 7.0) + 6 * std::sin(i / 2.3);
             CpuTicks& counters = *fakes.host->ticks;
-            counters.user += static_cast<quint32>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
-            counters.idle += static_cast<quint32>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
+            counters.user += static_cast<quint64>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
+            counters.idle += static_cast<quint64>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
             const double used = usedGB - 1.5 * (ticks - i) / ticks + 0.15 * std::sin(i / 11.0);
-            fakes.host->memory = MemoryPages{
-                .active = static_cast<quint64>(used * double(GiB) / 4096), .wired = 0, .compressed = 0};
+            fakes.host->memory.activeBytes = static_cast<quint64>(used * double(GiB));
             fakes.clock->advance(2);
             for (FakeProcess& process : fakes.processes->processes)
                 process.task->cpuTimeNs += cpuTimePerTick[process.name];
@@ -238,11 +238,12 @@ void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     camera.take(window, u"optimize-cleaning"_s);
     scroll->setValue(0);
     window.findChild<RootView*>()->select(RootView::Tab::cleanup);
-    stage.model.cancelCleaning();
+    stage.model.cleanup().cancel();
     stage.fakes.tools->held = false;
     for (const ToolRequest& request : QList<ToolRequest>(stage.fakes.tools->requests))
         stage.fakes.tools->release(request.arguments.last());
-    QTest::qWaitFor([&stage] { return !stage.model.isCleaning() && !stage.model.isScanning(); });
+    QTest::qWaitFor(
+        [&stage] { return !stage.model.cleanup().isCleaning() && !stage.model.cleanup().isScanning(); });
     stage.play(1, 24, 8.1);
     camera.take(window, u"cleanup-cancelled"_s);
 }
@@ -260,7 +261,7 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     }
     scriptCaches(stage);
     addServers(stage);
-    QCoro::waitFor(stage.model.rescanCaches());
+    QCoro::waitFor(stage.model.cleanup().rescan());
     stage.play(90, 24, 8.1);
     camera.take(window, u"cleanup"_s);
     for (const auto& [target, name] : {std::pair(u"npm /"_s, u""_s), std::pair(u"Docker"_s, u"-docker"_s),
@@ -272,9 +273,9 @@ void shootSections(Camera& camera, MainWindow& window, Stage& stage) {
     auto* processes = window.findChild<ProcessesView*>();
     auto* table = processes->findChild<QTreeView*>();
     table->setCurrentIndex(table->model()->index(3, 0));
-    processes->findChild<Switch*>()->click();
+    processes->findChild<QCheckBox*>()->click();
     camera.take(window, u"processes-grouped"_s);
-    processes->findChild<Switch*>()->click();
+    processes->findChild<QCheckBox*>()->click();
     root->select(RootView::Tab::optimize);
     stage.play(1, 24, 8.1);
     camera.take(window, u"optimize"_s);
@@ -299,7 +300,7 @@ void shootOverview(Camera& camera) {
     shootSections(camera, window, calm);
 
     Stage pressed;
-    pressed.fakes.host->swap = 5 * GiB;
+    pressed.fakes.host->memory.swapUsedBytes = 5 * GiB;
     pressed.fakes.host->thermal = 2;
     pressed.play(150, 92, 14.6);
     MainWindow busy(pressed.model, pressed.prefs, pressed.messages);
@@ -313,10 +314,10 @@ void shootFreeRAM(Camera& camera) {
     stage.play(150, 24, 13.1);
     stage.fakes.clock->advance(1500);
     stage.play(1, 24, 13.1);
-    stage.model.setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+    stage.model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
     auto* sheet = new FreeRAMSheet(stage.model, nullptr);
     camera.take(*sheet, u"free-ram"_s);
-    stage.fakes.host->memory->active -= 900 * MiB / 4096;
+    stage.fakes.host->memory.activeBytes -= 900 * MiB;
     QTest::keyClick(sheet, Qt::Key_Return);
     QTest::qWait(50);
     camera.take(*sheet, u"free-ram-result"_s);
@@ -328,7 +329,7 @@ void shootFreeRAM(Camera& camera) {
 
 void shootPanels(Camera& camera) {
     Stage stage;
-    stage.fakes.host->swap = 5 * GiB;
+    stage.fakes.host->memory.swapUsedBytes = 5 * GiB;
     stage.play(150, 63, 13.1);
     WidgetWindow unused{Desktop()};
     MenuBarPanel panel(stage.model, unused);
@@ -435,8 +436,9 @@ void shootSettings(Camera& camera) {
         camera.take(window, u"settings-"_s + name);
     };
     shoot(SettingsScene::Tab::general, u"general"_s);
-    loginItem.failure = u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s;
-    window.findChild<GeneralTab*>()->findChild<Switch*>()->click();
+    loginItem.outcome =
+        Outcome::failure(u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s);
+    window.findChild<GeneralTab*>()->findChild<QCheckBox*>()->click();
     shoot(SettingsScene::Tab::general, u"general-error"_s);
     settings.preferences.pollIntervalSeconds.set(3);
     shoot(SettingsScene::Tab::sampling, u"sampling"_s);
@@ -515,7 +517,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     Translations::install();
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new Style);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
         std::fprintf(stderr, "usage: tavrin_screenshots OUTDIR\n");
         return 2;

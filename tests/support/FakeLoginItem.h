@@ -10,20 +10,20 @@
 class FakeLoginItem : public LoginItem {
 public:
     QStringList requests; ///< "register" and "unregister"
-    std::optional<QString> failure;
+    Outcome outcome = Outcome::success();
     bool installed = true;
     std::function<void()> whenAsked = [] {};
 
-    std::optional<QString> registerItem() override { return ask(QStringLiteral("register")); }
-    std::optional<QString> unregisterItem() override { return ask(QStringLiteral("unregister")); }
+    Outcome registerItem() override { return ask(QStringLiteral("register")); }
+    Outcome unregisterItem() override { return ask(QStringLiteral("unregister")); }
 
     bool isInstalled() const override { return installed; }
     void replaceGoneProgram() override { requests.append(QStringLiteral("replace")); }
 
 private:
-    std::optional<QString> ask(const QString& request) {
+    Outcome ask(const QString& request) {
         requests.append(request);
         whenAsked();
-        return failure;
+        return outcome;
     }
 };

@@ -9,6 +9,7 @@
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
 #include "support/FakePlaces.h"
+#include "support/FakeRelief.h"
 #include "support/FakeSignals.h"
 #include "support/ScriptedTools.h"
 
@@ -36,20 +37,17 @@ public:
 class FakeHostStatistics : public HostStatistics {
 public:
     std::optional<CpuTicks> ticks = CpuTicks{};
-    std::optional<MemoryPages> memory = MemoryPages{.active = 200, .wired = 30, .compressed = 20};
-    std::optional<quint64> swap = 0;
-    std::optional<VolumeBlocks> root =
-        VolumeBlocks{.blockSize = 4096, .blocks = 1000, .blocksAvailable = 400};
+    MemoryUse memory = {.activeBytes = 800 << 10,
+                        .wiredBytes = 120 << 10,
+                        .compressedBytes = 80 << 10,
+                        .totalBytes = quint64(16) << 30};
+    std::optional<VolumeSize> root = VolumeSize{.totalBytes = 4000 << 10, .freeBytes = 1600 << 10};
     int thermal = 0;
-    quint64 physical = quint64(16) << 30;
 
-    quint64 pageSize() const override { return 4096; }
     std::optional<CpuTicks> cpuTicks() override { return ticks; }
-    std::optional<MemoryPages> memoryPages() override { return memory; }
-    std::optional<quint64> swapUsedBytes() override { return swap; }
-    std::optional<VolumeBlocks> rootVolume() override { return root; }
+    MemoryUse memoryUse() override { return memory; }
+    std::optional<VolumeSize> rootVolume() override { return root; }
     int thermalLevel() override { return thermal; }
-    quint64 physicalMemoryBytes() override { return physical; }
 };
 
 struct FakeProcess {
@@ -163,6 +161,7 @@ struct FakePlatform {
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
     std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
     std::shared_ptr<FakeApplications> applications = std::make_shared<FakeApplications>();
+    std::shared_ptr<FakeRelief> relief = std::make_shared<FakeRelief>();
 
     Platform platform() const {
         return {.host = host,
@@ -173,6 +172,7 @@ struct FakePlatform {
                 .tools = tools,
                 .places = places,
                 .signalSender = signalSender,
-                .applications = applications};
+                .applications = applications,
+                .relief = relief};
     }
 };

@@ -2,13 +2,12 @@
 
 #include "Core/Announcements/FeedSource.h"
 #include "Core/Announcements/MessageFeed.h"
+#include "support/Turn.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
-
-#include <coroutine>
 
 /// A feed that answers what the test says: at once or, while `held`, when the test lets a request go.
 class ScriptedFeed : public FeedSource {
@@ -20,7 +19,7 @@ public:
     QCoro::Task<std::optional<QByteArray>> fetch(QUrl url) override {
         requests.append(url);
         if (held) {
-            Turn turn{*this};
+            Turn turn{m_waiting};
             co_await turn;
         }
         co_return answer;
@@ -30,14 +29,6 @@ public:
     void release(qsizetype index) { m_waiting.takeAt(index).resume(); }
 
 private:
-    struct Turn {
-        ScriptedFeed& feed;
-
-        bool await_ready() const noexcept { return false; }
-        void await_suspend(std::coroutine_handle<> waiter) { feed.m_waiting.append(waiter); }
-        void await_resume() const noexcept {}
-    };
-
     QList<std::coroutine_handle<>> m_waiting;
 };
 

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "Platform/ToolRunner.h"
+#include "support/Turn.h"
 
-#include <QList>
-
-#include <coroutine>
 #include <functional>
 #include <utility>
 
@@ -21,7 +19,8 @@ public:
     QCoro::Task<ToolResult> run(ToolRequest request) override {
         requests.append(request);
         if (held) {
-            Turn turn{*this, requests.size() - 1};
+            m_held.append(requests.size() - 1);
+            Turn turn{m_waiting};
             co_await turn;
         }
         co_return answer(request);
@@ -29,9 +28,10 @@ public:
 
     /// Lets the held request go whose arguments contain `argument`; false when there is none.
     bool release(const QString& argument) {
-        for (qsizetype i = 0; i < m_waiting.size(); ++i) {
-            if (requests[m_waiting[i].first].arguments.contains(argument)) {
-                m_waiting.takeAt(i).second.resume();
+        for (qsizetype i = 0; i < m_held.size(); ++i) {
+            if (requests[m_held[i]].arguments.contains(argument)) {
+                m_held.removeAt(i);
+                m_waiting.takeAt(i).resume();
                 return true;
             }
         }
@@ -47,14 +47,6 @@ public:
     }
 
 private:
-    struct Turn {
-        ScriptedTools& tools;
-        qsizetype request;
-
-        bool await_ready() const noexcept { return false; }
-        void await_suspend(std::coroutine_handle<> waiter) { tools.m_waiting.append({request, waiter}); }
-        void await_resume() const noexcept {}
-    };
-
-    QList<std::pair<qsizetype, std::coroutine_handle<>>> m_waiting;
+    QList<qsizetype> m_held; ///< requests, each at the place of its coroutine in `m_waiting`
+    QList<std::coroutine_handle<>> m_waiting;
 };

@@ -1,6 +1,7 @@
 #include "Core/ActionLog/ActionLogFile.h"
 
 #include "Core/Iso8601.h"
+#include "Platform/Log.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,30 +17,33 @@ bool endsInsideALine(QFile& file) {
 
 } // namespace
 
-QString Cleaner::actionLogPath() {
+QString ActionLogFile::path() {
     return QDir::homePath() + QStringLiteral("/Library/Logs/Tavrin/actions.log");
 }
 
-bool Cleaner::isActionLogObstructed() {
-    const QFileInfo place(actionLogPath());
+bool ActionLogFile::isObstructed() {
+    const QFileInfo place(path());
     return place.exists() && !place.isFile();
 }
 
-QByteArray Cleaner::actionLogLine(const ActionLogEntry& entry) {
+QByteArray ActionLogFile::lineOf(const ActionLogEntry& entry) {
     return Iso8601::format(entry.timestamp) + '\t' + rawValue(entry.kind).toUtf8() + '\t' +
            (entry.success ? "ok" : "fail") + '\t' + QByteArray::number(entry.freedBytes) + '\t' +
            entry.detail.toUtf8() + '\n';
 }
 
-void Cleaner::appendActionLog(const ActionLogEntry& entry) {
-    QFile file(actionLogPath());
+void ActionLogFile::append(const ActionLogEntry& entry) {
+    QFile file(path());
     QDir().mkpath(QFileInfo(file).path());
-    if (isActionLogObstructed() ||
-        !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
+    if (isObstructed() || !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
+        qCWarning(Log::platform) << "the log of actions cannot be written:" << file.errorString();
         return;
+    }
     const qint64 end = file.size();
-    const QByteArray line = (endsInsideALine(file) ? "\n" : "") + actionLogLine(entry);
+    const QByteArray line = (endsInsideALine(file) ? "\n" : "") + lineOf(entry);
     // What a full disk took of a line may end inside a character, and the whole file would be no text.
-    if (file.write(line) < line.size())
+    if (file.write(line) < line.size()) {
+        qCWarning(Log::platform) << "the log of actions takes no more:" << file.errorString();
         file.resize(end);
+    }
 }

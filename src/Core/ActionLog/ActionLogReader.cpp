@@ -16,7 +16,7 @@ namespace {
 
 constexpr qsizetype fieldsBeforeDetail = 4;
 /// A time, three fields and a detail of one character each, and what separates them.
-constexpr qsizetype shortestLine = 29;
+constexpr qsizetype minLineLength = 29;
 
 /// Cuts the next field off the front of `line`; TABs in a row count as one separator. Empty when no TAB
 /// ends a field, and so nothing can follow it.
@@ -83,7 +83,7 @@ std::optional<LoggedAction> parseLine(QByteArrayView line) {
 
 QList<LoggedAction> linesOf(const QByteArray& bytes) {
     QList<LoggedAction> actions;
-    actions.reserve(std::min(bytes.count('\n') + 1, bytes.size() / shortestLine + 1));
+    actions.reserve(std::min(bytes.count('\n') + 1, bytes.size() / minLineLength + 1));
     const QByteArrayView text(bytes);
     for (qsizetype begin = 0; begin < text.size();) {
         const qsizetype found = text.indexOf('\n', begin);
@@ -103,7 +103,7 @@ QString LoggedAction::id() const {
 }
 
 QString ActionLogReader::path() {
-    return Cleaner::actionLogPath();
+    return ActionLogFile::path();
 }
 
 QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
@@ -116,7 +116,7 @@ QList<LoggedAction> ActionLogReader::parse(const QByteArray& bytes) {
 
 QList<LoggedAction> ActionLogReader::read() {
     QFile file(path());
-    const bool isReadable = !Cleaner::isActionLogObstructed() && file.open(QIODevice::ReadOnly);
+    const bool isReadable = !ActionLogFile::isObstructed() && file.open(QIODevice::ReadOnly);
     return isReadable ? parse(file.readAll()) : QList<LoggedAction>();
 }
 
@@ -137,6 +137,6 @@ QString ActionLogReader::exportCSV() {
 
 void ActionLogReader::clear() {
     QFile file(path());
-    if (!Cleaner::isActionLogObstructed())
+    if (!ActionLogFile::isObstructed())
         file.open(QIODevice::WriteOnly | QIODevice::Truncate);
 }

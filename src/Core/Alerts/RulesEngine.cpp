@@ -195,8 +195,8 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     add(cpuAlert(system, processes, prefs, m_identity));
     const bool hot =
         system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
-    thermalHotStreak = hot ? thermalHotStreak + 1 : 0;
-    if (prefs.alertThermalEnabled() && thermalHotStreak >= thermalHotStreakThreshold)
+    m_thermalHotStreak = hot ? m_thermalHotStreak + 1 : 0;
+    if (prefs.alertThermalEnabled() && m_thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));
     add(swapAlert(system));
     alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity)));

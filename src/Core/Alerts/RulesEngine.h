@@ -25,6 +25,6 @@ public:
 private:
     const Identity& m_identity;
     /// Consecutive evaluations in a serious or critical thermal state, and from how many on it is an alert.
-    int thermalHotStreak = 0;
+    int m_thermalHotStreak = 0;
     static constexpr int thermalHotStreakThreshold = 30;
 };

@@ -1,5 +1,7 @@
 #include "Core/Announcements/FeedFetcher.h"
 
+#include "Core/Log.h"
+
 #include <QCoroFuture>
 #include <QCoroNetworkReply>
 
@@ -113,8 +115,11 @@ QCoro::Task<std::optional<QByteArray>> FeedFetcher::fetch(QUrl url) {
     connect(this, &FeedFetcher::abandoned, reply, &QNetworkReply::abort);
     QTimer::singleShot(std::chrono::milliseconds(deadline.remainingTime()), reply, &QNetworkReply::abort);
     co_await reply;
-    if (!isSuccess(*reply))
+    if (!isSuccess(*reply)) {
+        qCWarning(Log::feed) << "not fetched:" << reply->error()
+                             << reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         co_return std::nullopt;
+    }
     collect(*reply, *body, limits.bodyBytes);
     if (body->size() > limits.bodyBytes)
         co_return std::nullopt;

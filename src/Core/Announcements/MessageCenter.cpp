@@ -1,6 +1,7 @@
 #include "Core/Announcements/MessageCenter.h"
 
 #include "Core/Announcements/FeedFetcher.h"
+#include "Core/Log.h"
 #include "Core/SettingsFile.h"
 #include "Preferences.h"
 
@@ -37,7 +38,7 @@ MessageCenter& MessageCenter::shared() {
 
 MessageCenter::MessageCenter(std::unique_ptr<FeedSource> source, SettingsFile& settings, QUrl url,
                              QObject* parent)
-    : QObject(parent)
+    : Observable(parent)
     , m_feedURL(std::move(url))
     , m_settings(settings)
     , m_source(std::move(source)) {
@@ -66,8 +67,10 @@ QCoro::Task<> MessageCenter::refresh() {
     if (!body || !self)
         co_return;
     const std::optional<Feed> feed = Feed::decode(*body);
-    if (!feed)
+    if (!feed) {
+        qCWarning(Log::feed) << "not understood, of" << body->size() << "bytes";
         co_return;
+    }
     m_allMessages = feed->messages;
     recompute();
 }
@@ -80,8 +83,7 @@ void MessageCenter::recompute() {
         if (outranks && isEligible(message, version))
             chosen = &message;
     }
-    Q_EMIT objectWillChange();
-    m_currentMessage = chosen ? std::optional(*chosen) : std::nullopt;
+    publish(m_currentMessage, chosen ? std::optional(*chosen) : std::nullopt);
 }
 
 bool MessageCenter::isEligible(const Message& message, const QString& version) const {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Core/Announcements/MessageFeed.h"
+#include "Core/Observable.h"
 
 #include <QCoroTask>
-#include <QObject>
 #include <QTimer>
 #include <QUrl>
 
@@ -14,9 +14,8 @@ class FeedSource;
 class SettingsFile;
 
 /// Fetches the maker's announcements and publishes the one to show. A failure of any kind is silent: what was
-/// known stays, and the next poll tries again. `objectWillChange` is emitted before each change lands; views
-/// use `observe`.
-class MessageCenter : public QObject {
+/// known stays, and the next poll tries again.
+class MessageCenter : public Observable {
     Q_OBJECT
 
 public:
@@ -57,9 +56,6 @@ public:
     static QString appVersion();
     /// -1, 0 or 1, number by number between the dots. What is no number counts as -1, what is missing as 0.
     static int compareVersions(const QString& a, const QString& b);
-
-Q_SIGNALS:
-    void objectWillChange();
 
 private:
     bool isEligible(const Message& message, const QString& version) const;

@@ -57,10 +57,10 @@ QStringList openPlaces(CacheTarget& target, const Places& places) {
 }
 
 /// Takes what was found out about a folder; where that is nothing, the target says why.
-void take(CacheTarget& target, const ListedFolder& folder, const QString& complaint) {
-    if (folder.listing.isEmpty() && !complaint.isEmpty())
+void take(CacheTarget& target, const ListedFolder& folder, const QString& reason) {
+    if (folder.listing.isEmpty() && !reason.isEmpty())
         target.notes.append(QCoreApplication::translate("CacheScanner", "%1 cannot be cleaned: %2.")
-                                .arg(folder.path, complaint));
+                                .arg(folder.path, reason));
     target.listed.append(folder);
     target.sizeBytes += folder.sizeBytes;
 }
@@ -139,8 +139,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
     const QStringList folders = openPlaces(target, *m_places);
     for (const QString& folder : folders) {
         const quint64 bytes = co_await measureFolder(folder);
-        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
-        take(target, {folder, bytes, listing.text}, listing.complaint);
+        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        take(target, {folder, bytes, listing.value}, listing.reason);
         target.details.append({folder, bytes});
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
@@ -160,8 +160,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
     const Instant now = m_clock->now();
     int sinceBreath = 0;
     for (const QString& folder : folders) {
-        const Cleaner::Listing listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
-        ListedFolder listed{folder, 0, listing.text};
+        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        ListedFolder listed{folder, 0, listing.value};
         CleanupPlan::ListingReader reader(listed.listing);
         while (const auto entry = reader.next()) {
             listed.sizeBytes += entry->sizeBytes;
@@ -172,7 +172,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
                 co_await QCoro::sleepFor(0ms);
             }
         }
-        take(target, listed, listing.complaint);
+        take(target, listed, listing.reason);
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
     target.lastScanned = m_clock->now();
@@ -199,11 +199,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
 }
 
 QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
-    ToolRequest request;
-    request.launchPath = u"/bin/sh"_s;
-    request.arguments = QStringList{u"-lc"_s, command};
-    request.captureOutput = true;
-    request.terminateAfter = containerReportLimit;
+    const ToolRequest request = CleanupPlan::shellRequest(command, containerReportLimit);
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;
 }

@@ -1,9 +1,11 @@
 #include "Core/Cleanup/Cleaner.h"
 
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Log.h"
 #include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -14,32 +16,37 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Cleaner::CleanResult cancelled() {
-    return {false, 0, u"cancelled"_s};
+    return {Outcome::failure(QCoreApplication::translate("Cleaner", "cancelled"))};
 }
 
 void fail(Cleaner::CleanResult& result, const QString& reason) {
-    result.success = false;
+    result.done = false;
     if (result.reason.isEmpty())
         result.reason = reason;
+}
+
+void reportFailure(const char* step, const QString& what, const ToolResult& result) {
+    qCWarning(Log::cleanup) << step << "ended with status" << result.exitStatus;
+    qCDebug(Log::cleanup) << what << result.complaint;
 }
 
 /// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
 const auto done = u"tavrin: done"_s;
 
 QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
-    ToolRequest request;
-    request.launchPath = u"/bin/sh"_s;
-    request.arguments = QStringList{u"-lc"_s, command + u" && echo '"_s + done + u'\''};
-    request.captureOutput = true;
-    request.terminateAfter = CleanupPlan::longest;
+    const QString reported = command + u" && echo '"_s + done + u'\'';
+    ToolRequest request = CleanupPlan::shellRequest(reported, CleanupPlan::longest);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
-    co_return result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+    const bool isDone = result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
+    if (!isDone)
+        reportFailure("a command", command, result);
+    co_return isDone;
 }
 
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
                                                std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
-    Cleaner::CleanResult result;
+    Cleaner::CleanResult result{Outcome::success()};
     const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
     quint64 before = 0;
     if (isMeasured)
@@ -49,8 +56,10 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
     request.stop = stop;
     const ToolResult removal = co_await tools->run(request);
-    if (!removal.succeeded())
-        result = {false, 0, stop.stop_requested() ? cancelled().reason : removal.complaint};
+    if (!removal.succeeded()) {
+        reportFailure("removing", folder.path, removal);
+        fail(result, stop.stop_requested() ? cancelled().reason : removal.complaint);
+    }
     if (isMeasured) {
         const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
         result.freedBytes = before > after ? before - after : 0;
@@ -60,24 +69,26 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
 
 } // namespace
 
-QCoro::Task<Cleaner::Listing> Cleaner::list(CleanupRule rule, QString folder, Instant now,
-                                            std::shared_ptr<ToolRunner> tools) {
+QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, Instant now,
+                                              std::shared_ptr<ToolRunner> tools) {
     const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
     const ToolResult result = co_await tools->run(request);
-    Listing listing{result.output, result.complaint};
-    if (!result.succeeded())
-        listing.text.clear(); // a part of a listing is none
+    Result<QByteArray> listing{Outcome::failure(result.complaint)};
+    if (result.succeeded()) // a part of a listing is none
+        listing = {Outcome::success(), result.output};
+    else
+        reportFailure("listing", folder, result);
     co_return listing;
 }
 
 QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,
                                                  std::shared_ptr<Places> places, Instant now,
                                                  std::stop_token stop) {
-    CleanResult result;
+    CleanResult result{Outcome::success()};
     if (target.pruneCommand) {
-        result.success = co_await prune(*target.pruneCommand, tools, stop);
+        result.done = co_await prune(*target.pruneCommand, tools, stop);
         result.freedBytes = target.sizeBytes;
-        if (!result.success && stop.stop_requested())
+        if (!result.done && stop.stop_requested())
             result.reason = cancelled().reason;
         co_return result;
     }
@@ -94,13 +105,13 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared
         if (listed == target.listed.end() && target.lastScanned)
             continue; // it came after the scan
         if (listed == target.listed.end()) {
-            const Listing listing = co_await list(target.rule, place.path, now, tools);
-            target.listed.append({place.path, 0, listing.text});
+            const Result<QByteArray> listing = co_await list(target.rule, place.path, now, tools);
+            target.listed.append({place.path, 0, listing.value});
             listed = target.listed.end() - 1;
         }
         auto removal = removeListed(target.rule, *listed, now, tools, stop);
         const CleanResult one = co_await removal;
-        if (!one.success)
+        if (!one.done)
             fail(result, one.reason);
         result.freedBytes += one.freedBytes;
     }
@@ -109,11 +120,7 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared
 
 QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
                                              std::stop_token stop) {
-    ToolRequest request;
-    request.launchPath = u"/usr/bin/du"_s;
-    request.arguments = {u"-sk"_s, u"-x"_s, path};
-    request.captureOutput = true;
-    request.terminateAfter = CleanupPlan::longest;
+    ToolRequest request = CleanupPlan::measureRequest(path);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     co_return reportedBytes(result.output);

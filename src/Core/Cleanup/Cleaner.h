@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
+#include "Platform/Result.h"
 
 #include <QCoroTask>
 #include <QString>
@@ -16,21 +17,16 @@ class ToolRunner;
 /// age; or whatever a vendor's own command prunes.
 namespace Cleaner {
 
-struct CleanResult {
-    bool success = true; ///< every step that ran succeeded
-    quint64 freedBytes = 0;
-    QString reason = {}; ///< of the first failure, where it is known
+/// Done when every step that ran was, else the reason of the first that was not.
+struct CleanResult : Outcome {
+    quint64 freedBytes = 0; ///< also by a clean that was not done
 
     bool operator==(const CleanResult&) const = default;
 };
 
-struct Listing {
-    QByteArray text;   ///< empty when it cannot be found out, as for a link
-    QString complaint; ///< why not, where that is known
-};
-
-/// What of a folder goes by the rule.
-QCoro::Task<Listing> list(CleanupRule rule, QString folder, Instant now, std::shared_ptr<ToolRunner> tools);
+/// What of a folder goes by the rule. Not done when it cannot be found out, as for a link.
+QCoro::Task<Result<QByteArray>> list(CleanupRule rule, QString folder, Instant now,
+                                     std::shared_ptr<ToolRunner> tools);
 
 /// Cleans one target: removes what its scan has listed, no less and no more, from the very folders that were
 /// listed; a target that was never scanned is listed first. A folder that is gone is skipped; one that fails

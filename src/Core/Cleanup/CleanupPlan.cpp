@@ -30,6 +30,13 @@ bool covers(const Found& outer, const Found& inner, bool outerIsEarlier) {
     return !outer.isLink && inner.canonical.startsWith(outer.canonical + u'/');
 }
 
+/// Links above the folder are looked through once, here; no tool follows one that comes after.
+QString rootOf(const QString& folder) {
+    const QFileInfo info(folder);
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() || info.isSymLink() ? folder : canonical;
+}
+
 ToolRequest request(const QString& verb, const CleanupRule& rule, const QString& folder, Instant now) {
     QStringList arguments{verb, u"--keep"_s, CleanupPlan::keptFolder()};
     if (rule.measure == CleanupRule::Measure::oldFiles) {
@@ -41,10 +48,7 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
         arguments << u"--screenshots"_s;
     if (rule.isShared)
         arguments << u"--shared"_s;
-    // Links above the folder were looked at; the program follows none that comes after.
-    const QString canonical = QFileInfo(folder).canonicalFilePath();
-    const bool isLink = QFileInfo(folder).isSymLink();
-    arguments << (canonical.isEmpty() || isLink ? folder : canonical);
+    arguments << rootOf(folder);
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
     request.arguments = arguments;
@@ -52,16 +56,15 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
     return request;
 }
 
-QByteArray canonical(const ListedFolder& folder) {
-    const QString found = QFileInfo(folder.path).canonicalFilePath();
-    return QFile::encodeName(found.isEmpty() ? folder.path : found);
+QByteArray rootOf(const ListedFolder& folder) {
+    return QFile::encodeName(rootOf(folder.path));
 }
 
 /// The bytes of what a target of old files has listed that `isElsewhere` has too.
 template <typename Test> quint64 listedBytes(const CacheTarget& target, const Test& isElsewhere) {
     quint64 bytes = 0;
     for (const ListedFolder& folder : target.listed) {
-        const QByteArray start = canonical(folder) + '/';
+        const QByteArray start = rootOf(folder) + '/';
         CleanupPlan::ListingReader reader(folder.listing);
         while (const auto entry = reader.next())
             bytes += isElsewhere(start + entry->path) ? entry->sizeBytes : 0;
@@ -87,14 +90,14 @@ QList<Folder> wholeFolders(const QList<CacheTarget>& targets) {
         if (targets[i].rule.measure != CleanupRule::Measure::folders)
             continue;
         for (const ListedFolder& folder : targets[i].listed) {
-            folders.append({i, canonical(folder), deviceOf(folder), folder.sizeBytes});
+            folders.append({i, rootOf(folder), deviceOf(folder), folder.sizeBytes});
         }
     }
     return folders;
 }
 
 /// `du` counts a folder with the one that holds it only where both are on one file system.
-bool holds(const Folder& outer, const Folder& inner) {
+bool contains(const Folder& outer, const Folder& inner) {
     if (outer.target == inner.target || outer.device != inner.device)
         return false;
     return inner.path.startsWith(outer.path + '/') ||
@@ -122,6 +125,15 @@ QList<Place> CleanupPlan::placesOf(const CacheTarget& target, const Places& plac
     return once;
 }
 
+ToolRequest CleanupPlan::measureRequest(const QString& folder) {
+    ToolRequest asked;
+    asked.launchPath = u"/usr/bin/du"_s;
+    asked.arguments = {u"-sk"_s, u"-x"_s, rootOf(folder)};
+    asked.captureOutput = true;
+    asked.terminateAfter = longest;
+    return asked;
+}
+
 ToolRequest CleanupPlan::listRequest(const CleanupRule& rule, const QString& folder, Instant now) {
     ToolRequest asked = request(u"list"_s, rule, folder, now);
     asked.captureOutput = true;
@@ -134,8 +146,17 @@ ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFold
     return asked;
 }
 
+ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milliseconds limit) {
+    ToolRequest asked;
+    asked.launchPath = u"/bin/sh"_s;
+    asked.arguments = QStringList{u"-lc"_s, command};
+    asked.captureOutput = true;
+    asked.terminateAfter = limit;
+    return asked;
+}
+
 QString CleanupPlan::keptFolder() {
-    return QFileInfo(Cleaner::actionLogPath()).path();
+    return QFileInfo(ActionLogFile::path()).path();
 }
 
 CleanupPlan::ListingReader::ListingReader(QByteArrayView listing)
@@ -194,15 +215,15 @@ void CleanupPlan::markShared(QList<CacheTarget>& targets) {
         CacheTarget& target = targets[i];
         target.sharedBytes = 0;
         for (const Folder& inner : folders) {
-            const auto isOuter = [&](const Folder& outer) { return holds(outer, inner); };
+            const auto isOuter = [&](const Folder& outer) { return contains(outer, inner); };
             if (inner.target == i && std::ranges::any_of(folders, isOuter))
                 target.sharedBytes += inner.sizeBytes;
         }
         if (target.rule.measure != CleanupRule::Measure::oldFiles)
             continue;
         target.sharedBytes += listedBytes(target, [&](const QByteArray& path) {
-            const auto holdsIt = [&](const Folder& folder) { return path.startsWith(folder.path + '/'); };
-            const bool isShared = listed.contains(path) || std::ranges::any_of(folders, holdsIt);
+            const auto containsIt = [&](const Folder& folder) { return path.startsWith(folder.path + '/'); };
+            const bool isShared = listed.contains(path) || std::ranges::any_of(folders, containsIt);
             listed.insert(path);
             return isShared;
         });

@@ -20,10 +20,14 @@ constexpr std::chrono::minutes longest{30};
 /// already listed, or into one, is left out. A place need not exist.
 QList<Place> placesOf(const CacheTarget& target, const Places& places);
 
+/// Asks for the size of `folder` with everything below it on its file system.
+ToolRequest measureRequest(const QString& folder);
 /// Asks what of `folder` goes by the rule at that time.
 ToolRequest listRequest(const CleanupRule& rule, const QString& folder, Instant now);
 /// Asks to remove what a listing holds, from the folder that was listed and no other.
 ToolRequest removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
+/// Asks the user's own shell, which finds the tools of vendors where the user put them.
+ToolRequest shellRequest(const QString& command, std::chrono::milliseconds limit);
 
 /// The folder of the action log, which no clean removes.
 QString keptFolder();

@@ -155,10 +155,6 @@ ProcGroup groupByRules(const ProcSample& process) {
                                                                       : ProcGroup::other;
 }
 
-bool isSame(const QString& one, const QString& other) {
-    return one.constData() == other.constData() || one == other;
-}
-
 /// A script called so is told from others by its folder only.
 bool isCommonScriptName(QStringView name) {
     constexpr std::array<QStringView, 11> names = {u"__main__", u"app",    u"cli",    u"dist",
@@ -176,11 +172,6 @@ QString executableKey(const ProcSample& process) {
 
 } // namespace
 
-bool ProcessGrouper::Judged::isOf(const ProcSample& process) const {
-    return isSame(name, process.name) && isSame(path, process.executablePath) &&
-           isSame(arguments, process.arguments) && isSame(program, process.program);
-}
-
 QString ProcessGrouper::programKey(const ProcSample& process) {
     if (process.program.isEmpty() || process.program == process.executablePath)
         return executableKey(process);
@@ -191,34 +182,7 @@ QString ProcessGrouper::programKey(const ProcSample& process) {
     return isCommonScriptName(script) ? process.program : script.toString();
 }
 
-void ProcessGrouper::setChoices(Choices choices) {
-    m_choices = std::move(choices);
-    m_judged.clear();
-}
-
-QList<ProcSample> ProcessGrouper::classify(QList<ProcSample> processes) {
-    for (ProcSample& process : processes) {
-        Judged& judged = m_judged[process.pid];
-        if (judged.name.isNull() || !judged.isOf(process))
-            judged = {.name = process.name,
-                      .path = process.executablePath,
-                      .arguments = process.arguments,
-                      .program = process.program,
-                      .group = groupFor(process)};
-        process.group = judged.group;
-    }
-    forgetTheGone(processes.size());
-    return processes;
-}
-
-/// Whose id is not listed any more is of no use, but costs nothing either before there are many.
-void ProcessGrouper::forgetTheGone(qsizetype living) {
-    constexpr qsizetype spare = 256;
-    if (m_judged.size() > 2 * living + spare)
-        m_judged.clear();
-}
-
-ProcGroup ProcessGrouper::groupFor(const ProcSample& process) const {
+ProcGroup ProcessGrouper::groupOf(const ProcSample& process) const {
     if (!m_choices.isEmpty()) {
         const auto chosen = m_choices.constFind(programKey(process));
         if (chosen != m_choices.constEnd())

@@ -53,7 +53,7 @@ void JsonText::take(char byte) {
     m_runBytes = run == m_run && run != Run::none ? m_runBytes + 1 : 0;
     m_run = run;
     m_isInString = byte == '"';
-    if (m_runBytes < mostTokenBytes)
+    if (m_runBytes < maxTokenBytes)
         m_passedOn += byte == '\0' ? '\1' : byte; // the parser would take NUL for the end
 }
 
@@ -80,7 +80,7 @@ void JsonText::takeInString(char byte) {
 void JsonText::takeCharacter(char byte) {
     endHalf();
     const bool isWithinCharacter = (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-    m_isSkipping |= m_runBytes > mostTokenBytes && !isWithinCharacter;
+    m_isSkipping |= m_runBytes > maxTokenBytes && !isWithinCharacter;
     if (!m_isSkipping)
         m_passedOn += byte;
 }
@@ -101,7 +101,7 @@ void JsonText::takeEscape() {
         else
             m_passedOn += m_escape;
     }
-    m_isSkipping = m_runBytes > mostTokenBytes;
+    m_isSkipping = m_runBytes > maxTokenBytes;
 }
 
 void JsonText::endHalf() {

@@ -11,7 +11,7 @@
 /// cut a text, becomes U+FFFD. A broken document stays broken, but for what is left out of a string.
 class JsonText : public std::streambuf {
 public:
-    static constexpr std::size_t mostTokenBytes = 128 << 10;
+    static constexpr std::size_t maxTokenBytes = 128 << 10;
 
     /// `source` has to outlive it.
     explicit JsonText(std::streambuf& source)

@@ -103,7 +103,7 @@ public:
     /// The nearest ancestor that `isWanted`; null when there is none.
     template <typename Wanted> const ProcSample* above(const ProcSample& process, Wanted isWanted) const {
         const ProcSample* ancestor = parent(process);
-        for (int step = 0; ancestor && step < mostSteps; ++step, ancestor = parent(*ancestor)) {
+        for (int step = 0; ancestor && step < maxSteps; ++step, ancestor = parent(*ancestor)) {
             if (isWanted(*ancestor))
                 return ancestor;
         }
@@ -111,7 +111,7 @@ public:
     }
 
 private:
-    static constexpr int mostSteps = 256;
+    static constexpr int maxSteps = 256;
 
     QHash<qint32, const ProcSample*> m_byPid;
     QHash<qint32, int> m_children;

@@ -1,5 +1,6 @@
 #include "Core/Mcp/ServerDocument.h"
 
+#include "Core/Log.h"
 #include "Core/Mcp/JsonText.h"
 #include "Core/Sampling/ProgramPath.h"
 
@@ -16,7 +17,7 @@ namespace {
 using MCPInspector::ConfiguredServer;
 using nlohmann::json;
 
-constexpr std::size_t mostKeptBytes = 8 << 20;
+constexpr std::size_t maxKeptBytes = 8 << 20;
 constexpr std::size_t bytesOfServer = 256; ///< beside its texts, about
 
 using ServersByName = std::map<QString, ConfiguredServer>;
@@ -179,7 +180,7 @@ bool ServerReader::takeScalar() {
 
 bool ServerReader::keep(std::size_t bytes) {
     m_keptBytes += bytes;
-    return m_keptBytes <= mostKeptBytes;
+    return m_keptBytes <= maxKeptBytes;
 }
 
 ServerDocument::Servers ServerReader::servers(const QString& scope) const {
@@ -205,5 +206,7 @@ ServerDocument::Servers ServerDocument::read(std::streambuf& text, const Form& f
     std::istream stream(&shortened);
     ServerReader reader(form);
     const bool isWhole = json::sax_parse(stream, &reader, json::input_format_t::json, true, form.hasComments);
+    if (!isWhole)
+        qCWarning(Log::mcp) << "a JSON document is not understood to its end";
     return isWhole ? reader.servers(scope) : Servers();
 }

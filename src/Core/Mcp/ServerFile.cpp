@@ -1,10 +1,13 @@
 #include "Core/Mcp/ServerFile.h"
 
+#include "Core/Log.h"
+
 #include <QElapsedTimer>
 #include <QPromise>
 #include <QScopeGuard>
 #include <QThreadPool>
 
+#include <cerrno>
 #include <memory>
 
 #include <fcntl.h>
@@ -14,7 +17,7 @@
 
 namespace {
 
-constexpr qint64 mostBytesAtOnce = 64 << 10;
+constexpr qint64 maxBytesAtOnce = 64 << 10;
 
 } // namespace
 
@@ -43,7 +46,7 @@ bool ServerFile::look(QThreadPool& pool) {
     const bool isChanged = m_reading.isValid() && takeOver(m_reading.takeResult());
     if (versionOf(status) == m_version)
         return isChanged;
-    if (status.st_size <= mostBytesAtOnce)
+    if (status.st_size <= maxBytesAtOnce)
         return takeOver(readFile(m_path, m_read)) || isChanged;
     if (m_rest.hasExpired())
         startReading(pool);
@@ -92,8 +95,11 @@ ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& rea
     QElapsedTimer timer;
     timer.start();
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
+    if (descriptor < 0) {
+        qCWarning(Log::mcp) << "a configuration cannot be read:" << qt_error_string(errno);
+        qCDebug(Log::mcp) << path;
         return {};
+    }
     const auto closing = qScopeGuard([descriptor] { close(descriptor); });
     // Asked of the open file, because the path may lead elsewhere by now.
     struct stat before {};

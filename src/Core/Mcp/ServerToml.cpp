@@ -1,9 +1,15 @@
 #include "Core/Mcp/ServerToml.h"
 
+#include "Core/Log.h"
+
 #include <algorithm>
 #include <array>
 #include <istream>
 
+// An assertion of the parser's own would end the program for some broken documents, and a build without assertions
+// would compile as if they held. The parser reports such a document as an error all the same.
+#undef NDEBUG
+#define TOML_ASSERT(expr) static_assert(true)
 #define TOML_EXCEPTIONS 0
 #define TOML_ENABLE_FORMATTERS 0
 #define TOML_MAX_NESTED_VALUES 16
@@ -15,9 +21,9 @@ namespace {
 
 using MCPInspector::ConfiguredServer;
 
-constexpr std::size_t mostBytes = 8 << 20;
-constexpr std::size_t mostServers = 10'000;
-constexpr int mostDotsInLine = 256;
+constexpr std::size_t maxBytes = 8 << 20;
+constexpr std::size_t maxServers = 10'000;
+constexpr int maxDotsInLine = 256;
 
 /// Ends where a document goes past what the parser is to be given. The parser keeps the whole text and builds
 /// a table for each dot of a key, which are taken down by recursion.
@@ -34,7 +40,7 @@ protected:
         if (count <= 0)
             return traits_type::eof();
         m_bytes += static_cast<std::size_t>(count);
-        m_isRefused = m_bytes > mostBytes || !std::all_of(m_block.begin(), m_block.begin() + count,
+        m_isRefused = m_bytes > maxBytes || !std::all_of(m_block.begin(), m_block.begin() + count,
                                                           [this](char byte) { return isTakenIn(byte); });
         if (m_isRefused)
             return traits_type::eof();
@@ -54,7 +60,7 @@ protected:
 private:
     bool isTakenIn(char byte) {
         m_dots = byte == '\n' ? 0 : m_dots + (byte == '.');
-        return m_dots <= mostDotsInLine;
+        return m_dots <= maxDotsInLine;
     }
 
     std::streambuf& m_source;
@@ -96,11 +102,13 @@ QList<ConfiguredServer> ServerToml::read(std::streambuf& text, const QString& sc
     TomlText limited(text);
     std::istream stream(&limited);
     const toml::parse_result document = toml::parse(stream);
-    if (!document || limited.isRefused())
+    if (!document || limited.isRefused()) {
+        qCWarning(Log::mcp) << "a TOML document is not understood";
         return {};
+    }
     QList<ConfiguredServer> servers;
     const toml::table* tables = document.table()["mcp_servers"].as_table();
-    if (tables && tables->size() <= mostServers) {
+    if (tables && tables->size() <= maxServers) {
         for (const auto& [name, value] : *tables)
             servers.append(serverOf(name.str(), value, scope));
     }

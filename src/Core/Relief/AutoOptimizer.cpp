@@ -1,17 +1,15 @@
 #include "Core/Relief/AutoOptimizer.h"
 
-#include "Core/Relief/MemoryTools.h"
+#include "Core/ActionLog/ActionLog.h"
 
 #include <QPointer>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
-AutoOptimizer::AutoOptimizer(OptimizedModel& model, std::shared_ptr<ToolRunner> tools, QObject* parent)
+AutoOptimizer::AutoOptimizer(SafeRelief& relief, ActionLog& log, QObject* parent)
     : QObject(parent)
-    , m_model(model)
-    , m_tools(std::move(tools)) {
+    , m_relief(relief)
+    , m_log(log) {
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
 }
 
@@ -30,12 +28,10 @@ void AutoOptimizer::start() {
 
 QCoro::Task<> AutoOptimizer::tick() {
     const QPointer<AutoOptimizer> self(this);
-    const int killed = m_model.killOrphanMCPs(false);
-    auto nudge = Cleaner::memoryPressure(m_tools);
-    const Cleaner::MemoryAnswer nudged = co_await nudge;
-    if (!self)
-        co_return;
-    m_model.record(ActionLogEntry::Kind::clean, u"memory_pressure -l warn"_s, 0, nudged.done);
-    m_model.record(ActionLogEntry::Kind::clean, u"[auto-optimize] orphans=%1, pressure nudged"_s.arg(killed),
-                   0, true);
+    const int killed = m_relief.killOrphanMCPs(false);
+    auto nudge = m_relief.nudgeMemory();
+    co_await nudge;
+    if (self)
+        m_log.record(ActionLogEntry::Kind::clean,
+                     u"[auto-optimize] orphans=%1, pressure nudged"_s.arg(killed), 0, true);
 }

@@ -1,24 +1,22 @@
 #pragma once
 
-#include "Core/ActionLog/ActionLogEntry.h"
+#include "Platform/Result.h"
 
 #include <QCoroTask>
 #include <QObject>
 #include <QTimer>
 
-#include <memory>
+class ActionLog;
 
-class ToolRunner;
-
-/// What the optimizer asks of the model that owns it.
-class OptimizedModel {
+/// The relief actions that may be repeated without asking; each is on record when it is done.
+class SafeRelief {
 public:
-    virtual ~OptimizedModel() = default;
+    virtual ~SafeRelief() = default;
 
-    /// How many orphan MCP servers were signalled; on record when it returns.
+    /// How many orphan MCP servers were signalled.
     virtual int killOrphanMCPs(bool force) = 0;
-    virtual void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes,
-                        bool success) = 0;
+    /// Asks the system to reclaim memory.
+    virtual QCoro::Task<Outcome> nudgeMemory() = 0;
 };
 
 /// Repeats the safe relief actions while it is enabled: once at once, then every 30 minutes.
@@ -26,8 +24,8 @@ class AutoOptimizer : public QObject {
     Q_OBJECT
 
 public:
-    /// `model` owns the optimizer and so outlives it.
-    AutoOptimizer(OptimizedModel& model, std::shared_ptr<ToolRunner> tools, QObject* parent = nullptr);
+    /// Both outlive the optimizer.
+    AutoOptimizer(SafeRelief& relief, ActionLog& log, QObject* parent = nullptr);
 
     bool enabled() const { return m_timer.isActive(); }
     /// Enabling again starts the period anew and runs one more pass.
@@ -39,7 +37,7 @@ private:
 
     static constexpr double intervalMinutes = 30;
 
-    OptimizedModel& m_model;
-    std::shared_ptr<ToolRunner> m_tools;
+    SafeRelief& m_relief;
+    ActionLog& m_log;
     QTimer m_timer{this};
 };

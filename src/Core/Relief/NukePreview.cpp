@@ -123,11 +123,6 @@ QString NukePreview::killButton() const {
         .arg(QString::number(pids.size()), Formatters::bytes(totalRSS));
 }
 
-QString NukePreview::quitScript(const QString& appName, bool force) {
-    const QString escaped = QString(appName).replace(u'"', u"\\\""_s);
-    return u"tell application \""_s + escaped + (force ? u"\" to quit saving no"_s : u"\" to quit"_s);
-}
-
 QString NukePreview::quitOutcome(const QString& appName, bool succeeded) const {
     if (!succeeded)
         return QCoreApplication::translate(

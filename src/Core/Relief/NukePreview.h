@@ -33,8 +33,6 @@ struct NukePreview {
     QString forceQuitButton() const;
     QString killButton() const;
 
-    /// The line of the script language that asks `appName` to quit.
-    static QString quitScript(const QString& appName, bool force);
     /// Outcome lines.
     QString quitOutcome(const QString& appName, bool succeeded) const;
     QString killOutcome(int killed) const;

@@ -90,7 +90,7 @@ const Program* programNamed(QStringView fileName) {
     return found == programs.end() ? nullptr : &*found;
 }
 
-constexpr int deepestNesting = 4;
+constexpr int maxNesting = 4;
 
 Reading readCommand(const QString& executable, Words arguments, int depth);
 
@@ -126,7 +126,7 @@ Reading readScript(const Program& program, Words words, int depth) {
         return readScript(program, words.subspan(1), depth);
     // A package runner is itself a script.
     const Program* inner = programNamed(ProgramPath::lastComponent(words.front()));
-    if (inner && inner->reader == Reader::package && depth < deepestNesting)
+    if (inner && inner->reader == Reader::package && depth < maxNesting)
         return readCommand(words.front(), words, depth + 1);
     return {.program = words.front(), .isScript = true};
 }
@@ -215,7 +215,7 @@ Reading readCommand(const QString& executable, Words arguments, int depth) {
     const QStringView file = ProgramPath::lastComponent(executable);
     const Words words = arguments.empty() ? arguments : arguments.subspan(1);
     const Reading itself{.program = executable};
-    if (depth > deepestNesting)
+    if (depth > maxNesting)
         return itself;
     Reading reading;
     if (file == u"uv") {

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestShortName = 15; // bytes, TASK_COMM_LEN without its NUL (proc(5), comm)
+constexpr qsizetype maxShortNameLength = 15; // bytes, TASK_COMM_LEN without its NUL (proc(5), comm)
 
 struct Row {
     QStringView key;
@@ -176,7 +176,7 @@ QString ProcessName::of(const Facts& facts, const ApplicationName& applicationNa
     for (const QStringView whole :
          {executable, ProgramPath::lastComponent(facts.script), firstArgument(facts.arguments)}) {
         if (isBeginning(facts.shortName, whole))
-            return facts.shortName.size() >= longestShortName ? whole.toString()
+            return facts.shortName.size() >= maxShortNameLength ? whole.toString()
                                                               : QString::fromUtf8(facts.shortName);
     }
     return executable.isEmpty() ? QString::fromUtf8(facts.shortName) : executable.toString();

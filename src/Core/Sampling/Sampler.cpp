@@ -50,59 +50,57 @@ QString procArgs(QStringList arguments) {
     return arguments.join(u' ');
 }
 
-/// The difference of two counters that wrap at 2^32.
-double delta(quint32 current, quint32 previous) {
-    return static_cast<double>(quint32(current - previous));
+quint64 busy(const CpuTicks& ticks) {
+    return ticks.user + ticks.system + ticks.nice;
 }
 
 } // namespace
 
-Sampler::Sampler(const Platform& platform)
-    : host(platform.host)
-    , table(platform.processes)
-    , clock(platform.clock)
-    , applications(platform.applications)
-    , pageSize(host->pageSize()) {}
+Sampler::Sampler(const Platform& platform, Classifier classifier)
+    : m_host(platform.host)
+    , m_table(platform.processes)
+    , m_clock(platform.clock)
+    , m_applications(platform.applications)
+    , m_classify(std::move(classifier)) {}
 
 SystemSample Sampler::sample() {
     SystemSample sample;
     sample.id = QUuid::createUuid();
-    sample.timestamp = clock->now();
+    sample.timestamp = m_clock->now();
     sample.cpuPercent = cpuLoad();
-    const MemoryPages memory = host->memoryPages().value_or(MemoryPages());
-    sample.memUsedBytes = (memory.active + memory.wired + memory.compressed) * pageSize;
-    sample.memWiredBytes = memory.wired * pageSize;
-    sample.memCompressedBytes = memory.compressed * pageSize;
-    sample.swapUsedBytes = host->swapUsedBytes().value_or(0);
-    const VolumeBlocks root = host->rootVolume().value_or(VolumeBlocks());
-    sample.diskFreeBytes = root.blocksAvailable * root.blockSize;
-    sample.diskTotalBytes = root.blocks * root.blockSize;
-    sample.thermalState = thermalState(host->thermalLevel());
-    sample.memTotalBytes = host->physicalMemoryBytes();
+    const MemoryUse memory = m_host->memoryUse();
+    sample.memUsedBytes = memory.activeBytes + memory.wiredBytes + memory.compressedBytes;
+    sample.memWiredBytes = memory.wiredBytes;
+    sample.memCompressedBytes = memory.compressedBytes;
+    sample.memTotalBytes = memory.totalBytes;
+    sample.swapUsedBytes = memory.swapUsedBytes;
+    const VolumeSize root = m_host->rootVolume().value_or(VolumeSize());
+    sample.diskFreeBytes = root.freeBytes;
+    sample.diskTotalBytes = root.totalBytes;
+    sample.thermalState = thermalState(m_host->thermalLevel());
     return sample;
 }
 
 double Sampler::cpuLoad() {
-    const auto ticks = host->cpuTicks();
+    const auto ticks = m_host->cpuTicks();
     if (!ticks)
         return 0;
-    const auto previous = std::exchange(prevHostCPU, ticks);
+    const auto previous = std::exchange(m_prevHostCPU, ticks);
     if (!previous)
         return 0;
-    const double busy = delta(ticks->user, previous->user) + delta(ticks->system, previous->system) +
-                        delta(ticks->nice, previous->nice);
-    const double total = busy + delta(ticks->idle, previous->idle);
-    return total > 0 ? busy / total * 100 : 0;
+    const quint64 used = busy(*ticks) - busy(*previous);
+    const quint64 total = used + ticks->idle - previous->idle;
+    return total > 0 ? static_cast<double>(used) / static_cast<double>(total) * 100 : 0;
 }
 
 QList<ProcSample> Sampler::sampleProcesses() {
     std::array<qint32, maximumPids> pids{};
-    const int listed = table->listAllPids(pids);
+    const int listed = m_table->listAllPids(pids);
     if (listed < 1)
         return {};
-    const Instant now = clock->now();
-    const Uptime uptime = clock->uptime();
-    ++pass;
+    const Instant now = m_clock->now();
+    const Uptime uptime = m_clock->uptime();
+    ++m_pass;
 
     QList<ProcSample> result;
     result.reserve(listed);
@@ -110,17 +108,17 @@ QList<ProcSample> Sampler::sampleProcesses() {
         const qint32 pid = pids[static_cast<std::size_t>(i)];
         if (pid < 1)
             continue;
-        auto entry = known.find(pid);
-        if (entry != known.end())
-            entry->prev.pass = pass;
-        const auto task = table->taskInfo(pid);
+        auto entry = m_known.find(pid);
+        if (entry != m_known.end())
+            entry->prev.pass = m_pass;
+        const auto task = m_table->taskInfo(pid);
         if (!task) {
-            if (entry != known.end())
-                left.insert(pid); // it waits to be reaped, its children have another parent
+            if (entry != m_known.end())
+                m_left.insert(pid); // it waits to be reaped, its children have another parent
             continue;
         }
-        if (entry == known.end())
-            entry = known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now), .firstPass = pass});
+        if (entry == m_known.end())
+            entry = m_known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now), .firstPass = m_pass});
         entry->mayHaveChanged |= task->cpuTimeNs != entry->prev.totalNs;
         if (isDue(pid, *entry))
             refreshTexts(pid, *entry, now);
@@ -138,7 +136,7 @@ QList<ProcSample> Sampler::sampleProcesses() {
                        .threads = task->threads,
                        .startTime = meta.startTime,
                        .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
-                       .group = ProcGroup::other,
+                       .group = meta.group,
                        .program = meta.program});
     }
     evictUnseen();
@@ -149,48 +147,48 @@ QList<ProcSample> Sampler::sampleProcesses() {
 /// A process that has not run has changed nothing of itself. One that has just come is looked at every time,
 /// because it may have been listed between its fork and its exec; the others take turns.
 bool Sampler::isDue(qint32 pid, const Known& process) const {
-    const bool isYoung = pass - process.firstPass <= passesBetweenLooks;
-    const bool hasItsTurn = (static_cast<quint32>(pid) + pass) % passesBetweenLooks == 0;
-    return process.mayHaveChanged && process.firstPass != pass && (isYoung || hasItsTurn);
+    const bool isYoung = m_pass - process.firstPass <= passesBetweenLooks;
+    const bool hasItsTurn = (static_cast<quint32>(pid) + m_pass) % passesBetweenLooks == 0;
+    return process.mayHaveChanged && process.firstPass != m_pass && (isYoung || hasItsTurn);
 }
 
 void Sampler::refreshTexts(qint32 pid, Known& process, Instant now) {
     process.mayHaveChanged = false;
-    const auto mark = table->textMark(pid);
+    const auto mark = m_table->textMark(pid);
     if (!mark || *mark == process.staticCache.textMark)
         return;
     StaticMeta meta = lookUp(pid, now);
     if (meta.startTicks == process.staticCache.startTicks) {
         meta.startTime = process.staticCache.startTime;
     } else {
-        left.insert(pid); // the id has passed on to another process
+        m_left.insert(pid); // the id has passed on to another process
         process.prev = {.pass = process.prev.pass};
-        process.firstPass = pass;
+        process.firstPass = m_pass;
     }
     process.staticCache = meta;
 }
 
 /// The children of a process that left have another parent now.
 void Sampler::refreshParents(QList<ProcSample>& processes) {
-    if (left.isEmpty())
+    if (m_left.isEmpty())
         return;
     for (ProcSample& process : processes) {
-        if (!left.contains(process.parentPid))
+        if (!m_left.contains(process.parentPid))
             continue;
-        const auto info = table->kernelInfo(process.pid);
-        const auto entry = known.find(process.pid);
-        if (!info || entry == known.end() || info->startTicks != entry->staticCache.startTicks)
+        const auto info = m_table->kernelInfo(process.pid);
+        const auto entry = m_known.find(process.pid);
+        if (!info || entry == m_known.end() || info->startTicks != entry->staticCache.startTicks)
             continue;
         entry->staticCache.ppid = info->parentPid;
         process.parentPid = info->parentPid;
     }
-    left.clear();
+    m_left.clear();
 }
 
 std::optional<ProcSample> Sampler::lookAgain(const ProcSample& listed) const {
-    const auto entry = known.constFind(listed.pid);
-    const ProcessOrigin origin = table->origin(listed.pid);
-    if (entry == known.cend() || listed.startTime != entry->staticCache.startTime || !origin.kernelInfo ||
+    const auto entry = m_known.constFind(listed.pid);
+    const ProcessOrigin origin = m_table->origin(listed.pid);
+    if (entry == m_known.cend() || listed.startTime != entry->staticCache.startTime || !origin.kernelInfo ||
         origin.kernelInfo->startTicks != entry->staticCache.startTicks)
         return std::nullopt;
     const StaticMeta meta = metaOf(listed.pid, origin, listed.startTime);
@@ -205,9 +203,9 @@ std::optional<ProcSample> Sampler::lookAgain(const ProcSample& listed) const {
 }
 
 bool Sampler::isReplaced(qint32 pid) const {
-    const auto listed = known.constFind(pid);
-    const auto running = table->kernelInfo(pid);
-    return listed != known.cend() && running && running->startTicks != listed->staticCache.startTicks;
+    const auto listed = m_known.constFind(pid);
+    const auto running = m_table->kernelInfo(pid);
+    return listed != m_known.cend() && running && running->startTicks != listed->staticCache.startTicks;
 }
 
 /// Turns the process's cumulative time into a share of a core since its last reading, and remembers it.
@@ -221,36 +219,50 @@ double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
         cpu.lastNonZero = now;
     cpu.totalNs = totalNs;
     cpu.sampledAt = now;
-    cpu.pass = pass;
+    cpu.pass = m_pass;
     return percent;
 }
 
 /// Many processes of a machine are copies of each other: the same text then costs memory, and a pass a
 /// trip to it, once.
 QString Sampler::interned(const QString& text) {
-    return *texts.insert(text);
+    return *m_texts.insert(text);
 }
 
 /// The texts of processes that went are dropped now and then, as looking for them costs a walk over all. They
 /// must not pile up: the arguments of a compiler are long, and a build starts thousands.
 void Sampler::evictUnseen() {
-    gone += known.removeIf([this](const auto& entry) {
-        if (entry->prev.pass == pass)
+    m_gone += m_known.removeIf([this](const auto& entry) {
+        if (entry->prev.pass == m_pass)
             return false;
-        left.insert(entry.key());
+        m_left.insert(entry.key());
         return true;
     });
-    if (gone * partThatMayBeGone <= known.size())
+    if (m_gone * partThatMayBeGone <= m_known.size())
         return;
-    texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
-    gone = 0;
+    m_texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
+    m_gone = 0;
 }
 
 Sampler::StaticMeta Sampler::lookUp(qint32 pid, Instant now) {
-    StaticMeta meta = metaOf(pid, table->origin(pid), now);
+    StaticMeta meta = metaOf(pid, m_table->origin(pid), now);
     for (QString* text : {&meta.path, &meta.name, &meta.args, &meta.program})
         *text = interned(*text);
+    meta.group = groupOf(meta);
     return meta;
+}
+
+ProcGroup Sampler::groupOf(const StaticMeta& meta) const {
+    return m_classify ? m_classify({.name = meta.name,
+                                    .executablePath = meta.path,
+                                    .arguments = meta.args,
+                                    .program = meta.program})
+                      : ProcGroup::other;
+}
+
+void Sampler::classifyAnew() {
+    for (Known& process : m_known)
+        process.staticCache.group = groupOf(process.staticCache);
 }
 
 /// `now` is the start of a process whose own is not known.
@@ -280,7 +292,7 @@ QString Sampler::procName(qint32 pid, const ProcessOrigin& origin, const QString
                                           .arguments = arguments,
                                           .script = script},
                                          [this](const QString& executable) {
-                                             const auto application = applications->ofProgram(executable);
+                                             const auto application = m_applications->ofProgram(executable);
                                              return application ? application->name : QString();
                                          });
     return name.isEmpty() ? QStringLiteral("pid %1").arg(pid) : name;

@@ -9,6 +9,7 @@
 
 #include <QStringList>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -22,16 +23,24 @@ struct Platform;
 /// Not thread-safe: it lives on the thread of the tick.
 class Sampler {
 public:
-    explicit Sampler(const Platform& platform);
+    /// Says which group a process belongs to by its name, path, arguments and program. It is asked when a
+    /// process is first seen and when one of these has changed.
+    using Classifier = std::function<ProcGroup(const ProcSample&)>;
+
+    /// Without a classifier every process is in the group `other`.
+    explicit Sampler(const Platform& platform, Classifier classifier = {});
 
     /// One reading of the whole machine. A figure that the system refuses is 0. The first reading of a
     /// sampler has no CPU load to report.
     SystemSample sample();
 
-    /// One record per readable process, in the system's order, all in the group `other`. Empty when the
-    /// system's listing fails. A process that took another program, title or parent shows it within three
-    /// passes; its CPU and idle time go on.
+    /// One record per readable process, in the system's order. Empty when the system's listing fails. A
+    /// process that took another program, title or parent shows it within three passes; its CPU and idle time
+    /// go on.
     QList<ProcSample> sampleProcesses();
+
+    /// Asks the classifier anew about every process of the passes to come.
+    void classifyAnew();
 
     /// A listed process as it is now: its texts, owner and parent are asked for anew, its figures are those
     /// of the listing. Empty when it is gone or its id has come to mean another process.
@@ -42,8 +51,8 @@ public:
     bool isReplaced(qint32 pid) const;
 
     /// How many processes the tables remember; level in the long run.
-    qsizetype rememberedProcesses() const { return known.size(); }
-    qsizetype rememberedTexts() const { return texts.size(); }
+    qsizetype rememberedProcesses() const { return m_known.size(); }
+    qsizetype rememberedTexts() const { return m_texts.size(); }
 
 private:
     struct PrevCPU {
@@ -57,6 +66,7 @@ private:
         QString path;
         QString args;
         QString program;
+        ProcGroup group = ProcGroup::other;
         quint32 uid = 0;
         qint32 ppid = 0;
         Instant startTime;
@@ -75,6 +85,7 @@ private:
     double cpuLoad();
     double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
     StaticMeta lookUp(qint32 pid, Instant now);
+    ProcGroup groupOf(const StaticMeta& meta) const;
     StaticMeta metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const;
     QString procName(qint32 pid, const ProcessOrigin& origin, const QStringList& arguments,
                      const QString& script) const;
@@ -84,15 +95,15 @@ private:
     QString interned(const QString& text);
     void evictUnseen();
 
-    std::shared_ptr<HostStatistics> host;
-    std::shared_ptr<ProcessTable> table;
-    std::shared_ptr<Clock> clock;
-    std::shared_ptr<Applications> applications;
-    quint64 pageSize;
-    std::optional<CpuTicks> prevHostCPU;
-    QHash<qint32, Known> known; ///< by process id
-    QSet<QString> texts;        ///< names, paths and arguments, each stored once for all that have it
-    qsizetype gone = 0;         ///< processes, since their texts were last dropped
-    QSet<qint32> left;          ///< ids that lost their process in this pass
-    quint32 pass = 0;
+    std::shared_ptr<HostStatistics> m_host;
+    std::shared_ptr<ProcessTable> m_table;
+    std::shared_ptr<Clock> m_clock;
+    std::shared_ptr<Applications> m_applications;
+    Classifier m_classify;
+    std::optional<CpuTicks> m_prevHostCPU;
+    QHash<qint32, Known> m_known; ///< by process id
+    QSet<QString> m_texts;        ///< names, paths and arguments, each stored once for all that have it
+    qsizetype m_gone = 0;         ///< processes, since their texts were last dropped
+    QSet<qint32> m_left;          ///< ids that lost their process in this pass
+    quint32 m_pass = 0;
 };

@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostFileBytes = 256 * 1024;
-constexpr qsizetype mostEntries = 5000;
-constexpr qsizetype mostFolders = 500;
-constexpr int mostDepth = 4;
+constexpr qint64 maxFileBytes = 256 * 1024;
+constexpr qsizetype maxEntries = 5000;
+constexpr qsizetype maxFolders = 500;
+constexpr int maxDepth = 4;
 
 QString fileName(const QString& path) {
     return path.sliced(path.lastIndexOf(u'/') + 1);
@@ -181,7 +181,7 @@ void DesktopEntries::read() {
 
 void DesktopEntries::readFolder(const QString& root, const QString& below, int depth) {
     const QString path = root + below;
-    if (m_read.size() >= mostFolders)
+    if (m_read.size() >= maxFolders)
         return;
     m_read.append({path, QFileInfo(path).lastModified()});
     const QDir folder(path);
@@ -189,7 +189,7 @@ void DesktopEntries::readFolder(const QString& root, const QString& below, int d
         QString id = (below + u'/' + file.chopped(8)).sliced(1);
         readFile(folder.filePath(file), id.replace(u'/', u'-'));
     }
-    if (depth == mostDepth)
+    if (depth == maxDepth)
         return;
     for (const QString& inner : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks))
         readFolder(root, below + u'/' + inner, depth + 1);
@@ -197,13 +197,13 @@ void DesktopEntries::readFolder(const QString& root, const QString& below, int d
 
 /// The first file of an id counts, also where it only takes the entry away.
 void DesktopEntries::readFile(const QString& path, const QString& id) {
-    if (m_byId.contains(id) || m_byId.size() >= mostEntries)
+    if (m_byId.contains(id) || m_byId.size() >= maxEntries)
         return;
     QFile file(path);
-    if (file.size() > mostFileBytes || !file.open(QIODevice::ReadOnly))
+    if (file.size() > maxFileBytes || !file.open(QIODevice::ReadOnly))
         return;
     DesktopEntry entry =
-        DesktopEntry::parse(file.read(mostFileBytes), messageLocale()).value_or(DesktopEntry());
+        DesktopEntry::parse(file.read(maxFileBytes), messageLocale()).value_or(DesktopEntry());
     entry.id = id;
     if (!entry.tryProgram.isEmpty() && resolved(entry.tryProgram).isEmpty())
         entry.isListed = false;

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostNameCharacters = 200;
+constexpr qsizetype maxNameCharacters = 200;
 
 /// The keys of the group of the entry itself; the first of a key counts.
 using Keys = QHash<QByteArray, QString>;
@@ -127,7 +127,7 @@ QStringList DesktopEntry::arguments(const QString& exec) {
 
 std::optional<DesktopEntry> DesktopEntry::parse(QByteArrayView text, const QString& locale) {
     const Keys keys = keysOf(text);
-    const QString name = localized(keys, "Name", locale).simplified().left(mostNameCharacters);
+    const QString name = localized(keys, "Name", locale).simplified().left(maxNameCharacters);
     if (keys.value("Type") != u"Application" || name.isEmpty())
         return std::nullopt;
     DesktopEntry entry{.id = {},

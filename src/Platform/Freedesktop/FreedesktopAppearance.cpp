@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopAppearance.h"
 
+#include "Platform/Log.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -28,8 +30,10 @@ QVariant unwrapped(QVariant value) {
 FreedesktopAppearance::FreedesktopAppearance(QObject* parent)
     : Appearance(parent) {
     auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    if (!bus.isConnected()) {
+        qCInfo(Log::platform) << "no session bus:" << bus.lastError().name();
         return;
+    }
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     ask();
@@ -43,6 +47,8 @@ void FreedesktopAppearance::ask() {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         if (reply.isValid())
             take(reply.value().variant());
+        else
+            qCInfo(Log::platform) << "the desktop portal does not answer:" << reply.error().name();
         watcher->deleteLater();
     });
 }

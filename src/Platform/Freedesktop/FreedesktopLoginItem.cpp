@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopLoginItem.h"
 
+#include "Platform/Log.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -15,7 +17,7 @@
 
 namespace {
 
-constexpr qint64 largestEntry = 65536;
+constexpr qint64 maxEntryBytes = 65536;
 
 QString autostartFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -26,11 +28,13 @@ QString entryFile() {
     return autostartFolder() + QStringLiteral("/tavrin.desktop");
 }
 
-QString failure(const QString& path, const QString& reason) {
-    return QStringLiteral("%1: %2").arg(path, reason);
+Outcome failure(const QString& path, const QString& reason) {
+    qCWarning(Log::platform) << "the login item:" << reason;
+    qCDebug(Log::platform) << path;
+    return Outcome::failure(QStringLiteral("%1: %2").arg(path, reason));
 }
 
-QString failure(const QString& path, int error) {
+Outcome failure(const QString& path, int error) {
     return failure(path, QString::fromStdString(std::generic_category().message(error)));
 }
 
@@ -79,7 +83,7 @@ QString registeredProgram() {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     constexpr QByteArrayView key = "TryExec=";
-    for (const QByteArray& line : file.read(largestEntry).split('\n')) {
+    for (const QByteArray& line : file.read(maxEntryBytes).split('\n')) {
         if (line.startsWith(key))
             return textOf(line.mid(key.size()));
     }
@@ -94,10 +98,10 @@ QString command(const QString& program) {
     return QStringLiteral("/bin/sh -c %1 %2").arg(quoted(QStringLiteral("exec \"$0\"")), quoted(program));
 }
 
-std::optional<QString> makeFolder(const QString& folder) {
+Outcome makeFolder(const QString& folder) {
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
-    return error ? std::optional(failure(folder, error.value())) : std::nullopt;
+    return error ? failure(folder, error.value()) : Outcome::success();
 }
 
 } // namespace
@@ -121,26 +125,27 @@ QByteArray FreedesktopLoginItem::entry(const QString& program) {
            "StartupNotify=false\n";
 }
 
-std::optional<QString> FreedesktopLoginItem::registerItem() {
+Outcome FreedesktopLoginItem::registerItem() {
     if (!QDir::isAbsolutePath(m_program))
-        return QCoreApplication::translate("FreedesktopLoginItem", "The program's own file cannot be found.");
-    if (const auto reason = makeFolder(autostartFolder()))
-        return reason;
+        return Outcome::failure(
+            QCoreApplication::translate("FreedesktopLoginItem", "The program's own file cannot be found."));
+    if (const Outcome made = makeFolder(autostartFolder()); !made.done)
+        return made;
     QSaveFile file(entryFile());
     const QByteArray text = entry(m_program);
     // The commit alone would not notice that a full disk took only a part.
     const bool saved =
         file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit();
-    return saved ? std::nullopt : std::optional(failure(entryFile(), file.errorString()));
+    return saved ? Outcome::success() : failure(entryFile(), file.errorString());
 }
 
-std::optional<QString> FreedesktopLoginItem::unregisterItem() {
+Outcome FreedesktopLoginItem::unregisterItem() {
     const QByteArray entry = QFile::encodeName(entryFile());
     const bool removed = unlink(entry.constData()) == 0;
     const int reason = errno;
     struct stat nothing; // a disk that is read-only refuses also to remove what is not there
     const bool neverThere = lstat(entry.constData(), &nothing) != 0 && (errno == ENOENT || errno == ENOTDIR);
-    return removed || neverThere ? std::nullopt : std::optional(failure(entryFile(), reason));
+    return removed || neverThere ? Outcome::success() : failure(entryFile(), reason);
 }
 
 bool FreedesktopLoginItem::isInstalled() const {

@@ -10,8 +10,8 @@ public:
     /// `program` is the absolute path of what to start; the running program unless a test says otherwise.
     explicit FreedesktopLoginItem(QString program = runningProgram());
 
-    std::optional<QString> registerItem() override;
-    std::optional<QString> unregisterItem() override;
+    Outcome registerItem() override;
+    Outcome unregisterItem() override;
     bool isInstalled() const override;
     void replaceGoneProgram() override;
 

@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <utility>
 
 KernelFile::KernelFile(int directory, const char* path, int extraFlags)
@@ -31,4 +33,19 @@ std::string_view KernelFile::read(std::span<char> room) const {
         length = pread(m_descriptor, room.data(), room.size(), 0);
     while (length < 0 && errno == EINTR);
     return {room.data(), length > 0 ? static_cast<size_t>(length) : 0};
+}
+
+QByteArray KernelFile::linkTarget(int directory, const char* path) {
+    QByteArray target(PATH_MAX, Qt::Uninitialized);
+    const auto length = readlinkat(directory, path, target.data(), target.size());
+    target.truncate(std::max<qsizetype>(length, 0));
+    return target;
+}
+
+QByteArray KernelFile::programBehind(int directory, const char* path) {
+    QByteArray target = linkTarget(directory, path);
+    constexpr QByteArrayView replaced = " (deleted)";
+    if (target.endsWith(replaced))
+        target.chop(replaced.size());
+    return target;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,6 +27,12 @@ public:
     /// The text as it is now, no more than `room` holds. Empty when it could not be read, with errno set:
     /// ESRCH for a process that is gone.
     std::string_view read(std::span<char> room) const;
+
+    /// What the link at `path`, relative as above, points to; empty when that may not be read.
+    static QByteArray linkTarget(int directory, const char* path);
+    /// The same of the `exe` of a process, without the kernel's mark of a program that was replaced on disk,
+    /// as an update does.
+    static QByteArray programBehind(int directory, const char* path);
 
 private:
     int m_descriptor = -1;

@@ -1,36 +1,26 @@
 #include "Platform/Linux/LinuxApplications.h"
 
 #include "Platform/Linux/ApplicationUnit.h"
+#include "Platform/Linux/KernelFile.h"
 #include "Platform/Linux/TerminalSessions.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <unistd.h>
+#include <fcntl.h>
 
-#include <climits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = 16 * 1024;
+constexpr qint64 maxBytes = 16 * 1024;
 
 /// Empty where it cannot be read. A file of procfs, or one of a sandbox, which may be anything.
 QByteArray textOf(const QString& path) {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
-}
-
-/// What a link of procfs points to, without the mark of a program that was replaced on disk.
-QString targetOf(const QString& link) {
-    char room[PATH_MAX];
-    const auto length = readlink(QFile::encodeName(link).constData(), room, sizeof room);
-    QByteArray target(room, std::max<qsizetype>(length, 0));
-    if (target.endsWith(" (deleted)"))
-        target.chop(10);
-    return QFile::decodeName(target);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
 }
 
 QString fileName(const QString& path) {
@@ -64,7 +54,8 @@ std::optional<Application> LinuxApplications::ofProgram(const QString& executabl
 
 std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
     const QString folder = m_root + u'/' + QString::number(pid);
-    const QString executable = targetOf(folder + u"/exe"_s);
+    const QString executable = QFile::decodeName(
+        KernelFile::programBehind(AT_FDCWD, QFile::encodeName(folder + u"/exe"_s).constData()));
     if (auto application = ofSandbox(folder, executable))
         return application;
     if (executable.isEmpty())

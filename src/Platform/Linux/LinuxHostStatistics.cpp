@@ -1,12 +1,12 @@
 #include "Platform/Linux/LinuxHostStatistics.h"
 
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Log.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <sys/statvfs.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -17,39 +17,46 @@ namespace {
 
 constexpr quint64 kib = 1024;
 
-using MeminfoRoom = std::array<char, 8192>;
-
 std::string pathIn(const QString& root, const QString& path) {
     return QFile::encodeName(root + u'/' + path).toStdString();
 }
 
 /// A count may step back: a little where the kernel adds up its CPUs anew (proc(5)), far where a container
-/// was moved or has fewer CPUs now. To a reader of counters that wrap, such a step would look like 2^32
-/// ticks.
+/// was moved or has fewer CPUs now.
 void addForwardSteps(CpuTicks& sum, const CpuTicks& last, const CpuTicks& now) {
-    for (const auto kind : {&CpuTicks::user, &CpuTicks::system, &CpuTicks::idle, &CpuTicks::nice}) {
-        const quint32 step = now.*kind - last.*kind;
-        sum.*kind += static_cast<qint32>(step) < 0 ? 0 : step;
-    }
+    for (const auto kind : {&CpuTicks::user, &CpuTicks::system, &CpuTicks::idle, &CpuTicks::nice})
+        sum.*kind += now.*kind - std::min(last.*kind, now.*kind);
+}
+
+quint64 bytesOf(std::string_view meminfo, std::string_view key) {
+    return numberOf(meminfo, key).value_or(0) * kib;
+}
+
+/// What of a total is not free. 0 unless both are known.
+quint64 usedBytes(std::string_view meminfo, std::string_view total, std::string_view free) {
+    const auto freeKib = numberOf(meminfo, free);
+    const quint64 bytes = bytesOf(meminfo, total);
+    return freeKib ? bytes - std::min(*freeKib * kib, bytes) : 0;
 }
 
 /// Memory of the kernel's own or locked by programs: nothing of it can be paged out. The lines do not
 /// overlap.
-quint64 unpageableKib(std::string_view meminfo) {
+quint64 unpageableBytes(std::string_view meminfo) {
     quint64 sum = 0;
     for (const auto* key :
          {"Unevictable:", "SUnreclaim:", "KernelStack:", "PageTables:", "SecPageTables:", "Percpu:"})
-        sum += numberOf(meminfo, key).value_or(0);
+        sum += bytesOf(meminfo, key);
     return sum;
 }
 
 } // namespace
 
 LinuxHostStatistics::LinuxHostStatistics(const QString& root)
-    : m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE)))
-    , m_stat(pathIn(root, QStringLiteral("proc/stat")))
+    : m_stat(pathIn(root, QStringLiteral("proc/stat")))
     , m_meminfo(pathIn(root, QStringLiteral("proc/meminfo")))
     , m_zones(root + QStringLiteral("/sys")) {
+    if (!m_stat.isOpen() || !m_meminfo.isOpen())
+        qCWarning(Log::platform) << "no figures of load or of memory";
     const QDir block(root + QStringLiteral("/sys/block"));
     const auto devices = block.entryList({QStringLiteral("zram*")}, QDir::Dirs);
     for (const auto& device : devices)
@@ -74,11 +81,10 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
             return std::nullopt;
         ticks[column] = count.value_or(0); // kernels of old end the line earlier
     }
-    const CpuTicks now = {
-        .user = static_cast<quint32>(ticks[user]),
-        .system = static_cast<quint32>(ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal]),
-        .idle = static_cast<quint32>(ticks[idle] + ticks[iowait]),
-        .nice = static_cast<quint32>(ticks[nice])};
+    const CpuTicks now = {.user = ticks[user],
+                          .system = ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal],
+                          .idle = ticks[idle] + ticks[iowait],
+                          .nice = ticks[nice]};
     if (!m_ticks)
         m_ticks = m_lastTicks = now;
     addForwardSteps(*m_ticks, m_lastTicks, now);
@@ -86,20 +92,17 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
     return m_ticks;
 }
 
-std::optional<MemoryPages> LinuxHostStatistics::memoryPages() {
-    MeminfoRoom room;
+MemoryUse LinuxHostStatistics::memoryUse() {
+    std::array<char, 8192> room;
     const auto meminfo = m_meminfo.read(room);
-    const auto total = numberOf(meminfo, "MemTotal:");
-    const auto available = numberOf(meminfo, "MemAvailable:");
-    if (!total || !available)
-        return std::nullopt;
-
-    const auto pages = [this](quint64 bytes) { return bytes / m_pageSize; };
-    const auto used = pages((*total - std::min(*available, *total)) * kib);
-    const auto wired = std::min(pages(unpageableKib(meminfo) * kib), used);
-    const auto zswapBytes = numberOf(meminfo, "Zswap:").value_or(0) * kib;
-    const auto compressed = std::min(pages(zswapBytes + zramBytes()), used - wired);
-    return MemoryPages{.active = used - wired - compressed, .wired = wired, .compressed = compressed};
+    const auto used = usedBytes(meminfo, "MemTotal:", "MemAvailable:");
+    const auto wired = std::min(unpageableBytes(meminfo), used);
+    const auto compressed = std::min(bytesOf(meminfo, "Zswap:") + zramBytes(), used - wired);
+    return {.activeBytes = used - wired - compressed,
+            .wiredBytes = wired,
+            .compressedBytes = compressed,
+            .swapUsedBytes = usedBytes(meminfo, "SwapTotal:", "SwapFree:"),
+            .totalBytes = bytesOf(meminfo, "MemTotal:")};
 }
 
 quint64 LinuxHostStatistics::zramBytes() const {
@@ -115,25 +118,10 @@ quint64 LinuxHostStatistics::zramBytes() const {
     return sum;
 }
 
-std::optional<quint64> LinuxHostStatistics::swapUsedBytes() {
-    MeminfoRoom room;
-    const auto meminfo = m_meminfo.read(room);
-    const auto total = numberOf(meminfo, "SwapTotal:");
-    const auto free = numberOf(meminfo, "SwapFree:");
-    if (!total || !free)
-        return std::nullopt;
-    return (*total - std::min(*free, *total)) * kib;
-}
-
-std::optional<VolumeBlocks> LinuxHostStatistics::rootVolume() {
+std::optional<VolumeSize> LinuxHostStatistics::rootVolume() {
     struct statvfs volume;
     if (statvfs("/", &volume) != 0)
         return std::nullopt;
-    return VolumeBlocks{
-        .blockSize = volume.f_frsize, .blocks = volume.f_blocks, .blocksAvailable = volume.f_bavail};
-}
-
-quint64 LinuxHostStatistics::physicalMemoryBytes() {
-    MeminfoRoom room;
-    return numberOf(m_meminfo.read(room), "MemTotal:").value_or(0) * kib;
+    return VolumeSize{.totalBytes = volume.f_blocks * volume.f_frsize,
+                      .freeBytes = volume.f_bavail * volume.f_frsize};
 }

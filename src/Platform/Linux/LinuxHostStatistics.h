@@ -14,23 +14,18 @@ public:
     /// `root` is the folder that holds `proc` and `sys`. The volume is always that of "/".
     explicit LinuxHostStatistics(const QString& root = QStringLiteral("/"));
 
-    quint64 pageSize() const override { return m_pageSize; }
     /// First line of `/proc/stat`. irq, softirq and steal count as system, iowait as idle; guest is part
     /// of user already.
     std::optional<CpuTicks> cpuTicks() override;
-    /// `/proc/meminfo`. The three counts sum to MemTotal - MemAvailable.
-    std::optional<MemoryPages> memoryPages() override;
-    /// `/proc/meminfo`: SwapTotal - SwapFree.
-    std::optional<quint64> swapUsedBytes() override;
-    std::optional<VolumeBlocks> rootVolume() override;
+    /// `/proc/meminfo`. Active, wired and compressed sum to MemTotal - MemAvailable; the total is MemTotal,
+    /// what is left to the kernel of the memory built in.
+    MemoryUse memoryUse() override;
+    std::optional<VolumeSize> rootVolume() override;
     int thermalLevel() override { return m_zones.level(); }
-    /// `/proc/meminfo`: MemTotal, what is left to the kernel of the memory built in. 0 when unreadable.
-    quint64 physicalMemoryBytes() override;
 
 private:
     quint64 zramBytes() const;
 
-    quint64 m_pageSize;
     KernelFile m_stat;
     KernelFile m_meminfo;
     std::vector<KernelFile> m_zram;

@@ -6,6 +6,7 @@
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxProcessTable.h"
+#include "Platform/Linux/LinuxRelief.h"
 #include "Platform/Linux/LinuxSignals.h"
 #include "Platform/Platform.h"
 #include "Platform/Unix/DescriptorLimit.h"
@@ -17,15 +18,17 @@ void Platform::prepareProgram() {
 }
 
 Platform Platform::native() {
+    const auto tools = std::make_shared<UnixToolRunner>();
     return {.host = std::make_shared<LinuxHostStatistics>(),
             .processes = std::make_shared<LinuxProcessTable>(),
             .power = std::make_shared<LinuxPowerMode>(),
             .identity = std::make_shared<UnixIdentity>(),
             .clock = std::make_shared<SystemClock>(),
-            .tools = std::make_shared<UnixToolRunner>(),
+            .tools = tools,
             .places = std::make_shared<FreedesktopPlaces>(),
             .signalSender = std::make_shared<LinuxSignals>(),
-            .applications = std::make_shared<LinuxApplications>()};
+            .applications = std::make_shared<LinuxApplications>(),
+            .relief = std::make_shared<LinuxRelief>(tools)};
 }
 
 std::unique_ptr<Appearance> Platform::makeAppearance() {

@@ -1,5 +1,7 @@
 #include "Platform/Linux/LinuxPowerMode.h"
 
+#include "Platform/Log.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -45,6 +47,8 @@ LinuxPowerMode::LinuxPowerMode(const QDBusConnection& bus, const QString& root, 
     }
     if (m_bus.isConnected())
         followDaemon();
+    else
+        qCInfo(Log::platform) << "no system bus:" << m_bus.lastError().name();
 }
 
 void LinuxPowerMode::followDaemon() {
@@ -78,11 +82,13 @@ void LinuxPowerMode::askNext(int name) {
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, name] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        if (reply.isValid())
-            m_daemonSaves = reply.value().variant().toString() == QStringLiteral("power-saver");
-        else
-            askNext(name + 1);
         watcher->deleteLater();
+        if (reply.isValid()) {
+            m_daemonSaves = reply.value().variant().toString() == QStringLiteral("power-saver");
+            return;
+        }
+        qCInfo(Log::platform) << daemonNames()[name].service << "does not answer:" << reply.error().name();
+        askNext(name + 1);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/ControlGroup.h"
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Log.h"
 #include "Platform/Unix/DescriptorLimit.h"
 
 #include <QHash>
@@ -21,8 +22,8 @@ namespace {
 constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone takes 30 at once
 constexpr qsizetype markedBytes = 4096;
 // Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
-constexpr int mostRepeats = 15;
-constexpr qsizetype mostArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
+constexpr int maxRepeats = 15;
+constexpr qsizetype maxArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
 
 /// As clock_getcpuclockid(3) makes it, without its call to ask whether the process exists.
 clockid_t cpuClockOf(qint32 pid) {
@@ -67,7 +68,7 @@ LinuxProcessTable::LinuxProcessTable(const std::string& root)
     , m_tickNs(1'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK))) {}
 
 int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
-    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < mostRepeats;
+    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < maxRepeats;
     m_repeats = unchanged ? m_repeats + 1 : 0;
     if (!unchanged) {
         listAnew();
@@ -93,6 +94,8 @@ bool LinuxProcessTable::hasNewPids() {
 /// Goes through the new rows and the kept processes side by side, both by rising id.
 void LinuxProcessTable::listAnew() {
     const auto rows = m_folder.rows();
+    if (rows.empty())
+        qCWarning(Log::platform) << "no process is listed";
     std::vector<Process> processes;
     processes.reserve(rows.size());
     m_listed.clear();
@@ -242,9 +245,7 @@ std::optional<quint64> LinuxProcessTable::cpuTimeNs(qint32 pid) const {
 }
 
 std::optional<ProcStat> LinuxProcessTable::readStat(qint32 pid) const {
-    const auto file = openFile(pid, "/stat");
-    std::array<char, 1024> room;
-    return ProcStat::parse(file.read(room));
+    return ProcStat::read(openFile(pid, "/stat"));
 }
 
 KernelFile LinuxProcessTable::openFile(qint32 pid, const char* name, int extraFlags) const {
@@ -296,7 +297,7 @@ std::optional<quint64> LinuxProcessTable::textMark(qint32 pid) {
 }
 
 QByteArray LinuxProcessTable::workingFolder(qint32 pid) {
-    return linkTarget(pid, "/cwd");
+    return KernelFile::linkTarget(m_folder.descriptor(), pathOf(pid, "/cwd").data());
 }
 
 ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
@@ -309,19 +310,8 @@ ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
     return keeper;
 }
 
-QByteArray LinuxProcessTable::linkTarget(qint32 pid, const char* name) const {
-    QByteArray target(4096, Qt::Uninitialized);
-    const auto length =
-        readlinkat(m_folder.descriptor(), pathOf(pid, name).data(), target.data(), target.size());
-    target.truncate(std::max<qsizetype>(length, 0));
-    return target;
-}
-
 QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
-    QByteArray target = linkTarget(pid, "/exe");
-    if (target.endsWith(" (deleted)"))
-        target.chop(sizeof(" (deleted)") - 1);
-    return target;
+    return KernelFile::programBehind(m_folder.descriptor(), pathOf(pid, "/exe").data());
 }
 
 /// A file of any length; empty when it cannot be read.
@@ -329,7 +319,7 @@ QByteArray LinuxProcessTable::wholeFile(qint32 pid, const char* name) const {
     const auto file = openFile(pid, name);
     QByteArray area(4096, Qt::Uninitialized);
     qsizetype filled = 0;
-    while (filled < mostArguments) {
+    while (filled < maxArguments) {
         const auto length = pread(file.descriptor(), area.data() + filled, area.size() - filled, filled);
         if (length < 0 && errno == EINTR)
             continue;

@@ -78,7 +78,6 @@ private:
     std::optional<TaskInfo> fromStat(qint32 pid) const;
     std::optional<quint64> cpuTimeNs(qint32 pid) const;
     std::optional<ProcStat> readStat(qint32 pid) const;
-    QByteArray linkTarget(qint32 pid, const char* name) const;
     QByteArray executablePath(qint32 pid) const;
     QByteArray wholeFile(qint32 pid, const char* name) const;
     bool keepTexts(Process& process);

@@ -1,17 +1,14 @@
 #include "Platform/Linux/LinuxSignals.h"
 
+#include "Platform/Linux/Pidfd.h"
 #include "Platform/Linux/ProcStat.h"
+#include "Platform/Log.h"
 
 #include <cerrno>
 #include <csignal>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
-
-#include <poll.h>
-#include <sys/syscall.h>
-#include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -19,42 +16,30 @@ namespace {
 SignalResult resultOf(long status) {
     if (status == 0)
         return SignalResult::delivered;
-    if (errno == EPERM)
+    const int reason = errno;
+    qCInfo(Log::platform) << "a signal was not delivered:" << qt_error_string(reason);
+    if (reason == EPERM)
         return SignalResult::notPermitted;
-    return errno == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
+    return reason == ESRCH ? SignalResult::noSuchProcess : SignalResult::other;
 }
 
 class PidfdHandle : public ProcessHandle {
 public:
-    explicit PidfdHandle(int descriptor)
-        : m_descriptor(descriptor) {}
-    ~PidfdHandle() override { close(m_descriptor); }
-    PidfdHandle(const PidfdHandle&) = delete;
-    PidfdHandle& operator=(const PidfdHandle&) = delete;
+    explicit PidfdHandle(Pidfd process)
+        : m_process(std::move(process)) {}
 
     SignalResult send(Signal signal) override {
-        if (hasEnded())
-            return SignalResult::noSuchProcess;
-        const long status =
-            syscall(SYS_pidfd_send_signal, m_descriptor, static_cast<int>(signal), nullptr, 0);
-        return resultOf(status);
+        return m_process.hasEnded() ? SignalResult::noSuchProcess
+                                    : resultOf(m_process.send(static_cast<int>(signal)));
     }
 
 private:
-    /// The kernel still delivers signals to a process that ended but was not asked about by its parent.
-    bool hasEnded() const {
-        pollfd ended{.fd = m_descriptor, .events = POLLIN, .revents = 0};
-        return poll(&ended, 1, 0) > 0;
-    }
-
-    int m_descriptor;
+    Pidfd m_process;
 };
 
 /// Since boot, in clock ticks; empty when nobody has the id.
 std::optional<quint64> startOf(qint32 pid) {
-    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    const auto stat = ProcStat::parse(text);
+    const auto stat = ProcStat::read(KernelFile("/proc/" + std::to_string(pid) + "/stat"));
     return stat ? std::optional(stat->startTicks) : std::nullopt;
 }
 
@@ -98,10 +83,10 @@ bool meansUnsupported(int error) {
 std::shared_ptr<ProcessHandle> LinuxSignals::hold(qint32 pid) {
     if (pid < 1)
         return std::make_shared<NoProcess>(SignalResult::noSuchProcess);
-    const long descriptor = syscall(SYS_pidfd_open, pid, 0);
-    if (descriptor >= 0)
-        return std::make_shared<PidfdHandle>(static_cast<int>(descriptor));
+    Pidfd process(pid);
+    if (process.isOpen())
+        return std::make_shared<PidfdHandle>(std::move(process));
     if (meansUnsupported(errno))
         return std::make_shared<PidHandle>(pid);
-    return std::make_shared<NoProcess>(resultOf(descriptor));
+    return std::make_shared<NoProcess>(resultOf(-1));
 }

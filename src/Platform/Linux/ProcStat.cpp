@@ -49,3 +49,8 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
         .virtualBytes = static_cast<quint64>(field[vsize]),
         .residentPages = static_cast<quint64>(field[rss])};
 }
+
+std::optional<ProcStat> ProcStat::read(const KernelFile& file) {
+    std::array<char, 1024> room;
+    return parse(file.read(room));
+}

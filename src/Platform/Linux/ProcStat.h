@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Linux/KernelFile.h"
+
 #include <QByteArray>
 
 #include <optional>
@@ -23,4 +25,6 @@ struct ProcStat {
 
     /// Empty when the text is not such a line, or is cut short.
     static std::optional<ProcStat> parse(std::string_view text);
+    /// The same of such a file.
+    static std::optional<ProcStat> read(const KernelFile& file);
 };

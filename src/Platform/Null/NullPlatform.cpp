@@ -8,6 +8,7 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessTable.h"
+#include "Platform/Relief.h"
 #include "Platform/Signals.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
@@ -21,13 +22,10 @@
 namespace {
 
 class NullHostStatistics : public HostStatistics {
-    quint64 pageSize() const override { return 0; }
     std::optional<CpuTicks> cpuTicks() override { return {}; }
-    std::optional<MemoryPages> memoryPages() override { return {}; }
-    std::optional<quint64> swapUsedBytes() override { return {}; }
-    std::optional<VolumeBlocks> rootVolume() override { return {}; }
+    MemoryUse memoryUse() override { return {}; }
+    std::optional<VolumeSize> rootVolume() override { return {}; }
     int thermalLevel() override { return 0; }
-    quint64 physicalMemoryBytes() override { return 0; }
 };
 
 class NullProcessTable : public ProcessTable {
@@ -71,15 +69,22 @@ class NullApplications : public Applications {
     QList<qint32> inTerminalsOf(const QList<qint32>&) override { return {}; }
 };
 
+class NullRelief : public Relief {
+    QCoro::Task<Outcome> quitApplication(QString, bool) override { co_return {}; }
+    QCoro::Task<Outcome> reclaimMemory() override { co_return {}; }
+    QCoro::Task<Outcome> dropCaches() override { co_return {}; }
+};
+
 class NullAppearance : public Appearance {
     std::optional<bool> prefersDark() const override { return {}; }
 };
 
 class NullLoginItem : public LoginItem {
-    std::optional<QString> registerItem() override {
-        return QCoreApplication::translate("NullPlatform", "Nothing can be started at login here.");
+    Outcome registerItem() override {
+        return Outcome::failure(
+            QCoreApplication::translate("NullPlatform", "Nothing can be started at login here."));
     }
-    std::optional<QString> unregisterItem() override { return {}; }
+    Outcome unregisterItem() override { return Outcome::success(); }
     bool isInstalled() const override { return false; }
     void replaceGoneProgram() override {}
 };
@@ -97,7 +102,8 @@ Platform Platform::native() {
             .tools = std::make_shared<NullToolRunner>(),
             .places = std::make_shared<NullPlaces>(),
             .signalSender = std::make_shared<NullSignals>(),
-            .applications = std::make_shared<NullApplications>()};
+            .applications = std::make_shared<NullApplications>(),
+            .relief = std::make_shared<NullRelief>()};
 }
 
 std::unique_ptr<Appearance> Platform::makeAppearance() {

@@ -1,5 +1,7 @@
 #include "Platform/SingleInstance.h"
 
+#include "Platform/Log.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalServer>
@@ -12,7 +14,7 @@
 namespace {
 
 constexpr int answerMs = 1000;
-constexpr qint64 longestToken = 1024;
+constexpr qint64 maxTokenBytes = 1024;
 
 /// What a Wayland launcher gives the program that it starts: the right to take the keyboard, once. Qt looks
 /// for it when a window is to come forward. It was given for the second start, but the first one's window is
@@ -55,7 +57,7 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
 }
 
 void SingleInstance::hearOut(QLocalSocket* caller) {
-    const QByteArray token = caller->read(longestToken);
+    const QByteArray token = caller->read(maxTokenBytes);
     if (!token.isEmpty())
         qputenv(activationToken, token);
     Q_EMIT startedAgain();
@@ -69,7 +71,8 @@ bool SingleInstance::claim() {
     if (askRunningOne())
         return false;
     QLocalServer::removeServer(m_socket);
-    m_server->listen(m_socket);
+    if (!m_server->listen(m_socket))
+        qCWarning(Log::platform) << "a second start will not be noticed:" << m_server->serverError();
     return true;
 }
 

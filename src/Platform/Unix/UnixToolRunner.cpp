@@ -1,5 +1,6 @@
 #include "Platform/Unix/UnixToolRunner.h"
 
+#include "Platform/Log.h"
 #include "Platform/Unix/DescriptorLimit.h"
 
 #include <QCoreApplication>
@@ -51,10 +52,10 @@ void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
     // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
     constexpr int thisProcess = 1;
     constexpr int bestEffort = 2;
-    constexpr int lowestLevel = 7;
+    constexpr int lowestPriority = 7;
     setpgid(0, 0);
     setpriority(PRIO_PROCESS, 0, niceness);
-    syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestLevel);
+    syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestPriority);
     setrlimit(RLIMIT_NOFILE, &descriptors);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != parent) // it ended before the line above
@@ -130,6 +131,14 @@ ToolResult resultOf(QProcess& process, bool isOurs) {
     return result;
 }
 
+void reportFailure(const QProcess& process, const ToolResult& result) {
+    if (result.launched)
+        qCInfo(Log::platform) << "a tool ended with status" << result.exitStatus;
+    else
+        qCWarning(Log::platform) << "a tool was not launched:" << process.error();
+    qCDebug(Log::platform) << process.program() << process.arguments() << result.complaint;
+}
+
 } // namespace
 
 UnixToolRunner::UnixToolRunner(QString toolsFolder)
@@ -185,6 +194,8 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     if (process->state() == QProcess::NotRunning)
         toolGroups().remove(group);
     ToolResult result = resultOf(*process, isOurs);
+    if (!result.succeeded())
+        reportFailure(*process, result);
     if (request.captureOutput)
         result.output = process->readAllStandardOutput();
     co_return result;

@@ -2,9 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -13,7 +14,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int leastHeight = 110;
+constexpr int minHeight = 110;
 constexpr int lineGap = 6;
 
 QString scannedText(const std::optional<Instant>& scanned, Instant now) {
@@ -28,14 +29,12 @@ QString scannedText(const std::optional<Instant>& scanned, Instant now) {
 CacheCard::CacheCard(QWidget* parent)
     : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(this, &CacheCard::pressed, this, [this] { m_pressed = m_target; });
-    connect(this, &CacheCard::clicked, this, [this] { Q_EMIT opened(m_pressed); });
+    actOnPressed(this, m_target, [this](const auto& target) { Q_EMIT opened(target); });
 }
 
 QSize CacheCard::sizeHint() const {
-    return {220, leastHeight};
+    return {220, minHeight};
 }
 
 void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
@@ -58,13 +57,8 @@ void CacheCard::paintEvent(QPaintEvent*) {
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
                        m_isSelected ? Theme::color(Role::accent, 0.6) : Theme::color(Role::cardBorder));
     if (m_isSelected)
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::accent, 0.12),
-                           Qt::transparent);
-    if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), Theme::cardRadius,
-                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.6), Qt::transparent);
-    if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::accent, 0.12));
+    Painting::drawFeedback(painter, *this, Theme::cardRadius, 0.6);
 
     const QRectF area = QRectF(rect()).adjusted(Theme::cardPadding, Theme::cardPadding, -Theme::cardPadding,
                                                 -Theme::cardPadding);
@@ -75,8 +69,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
         top += height + lineGap;
         return line;
     };
-    painter.setFont(Theme::font(TextStyle::body, QFont::Medium));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     QRectF line = takeLine(painter.font());
     Symbols::draw(painter, m_target.symbol, Theme::color(Role::accent),
                   QRectF(line.left(), line.top(), Theme::iconSize, line.height()), Theme::iconSize);
@@ -86,8 +79,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
     painter.setFont(Theme::font(TextStyle::title2, QFont::DemiBold));
     Painting::drawTabular(painter, takeLine(painter.font()), Qt::AlignLeft,
                           Formatters::bytes(m_target.sizeBytes));
-    painter.setFont(Theme::font(TextStyle::caption2));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
     if (!m_target.notes.isEmpty())
         Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight,
                              Formatters::visible(m_target.notes.first()));

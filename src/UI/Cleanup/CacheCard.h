@@ -24,7 +24,6 @@ protected:
 
 private:
     CacheTarget m_target;
-    CacheTarget m_pressed;
     QString m_scanned;
     bool m_isSelected = false;
 };

@@ -7,7 +7,7 @@
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/SizeList.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>
@@ -17,12 +17,12 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr QSize leastSize(460, 480);
-constexpr qsizetype mostNames = 20;
+constexpr QSize minSize(460, 480);
+constexpr qsizetype maxNames = 20;
 
 /// What goes besides what the breakdown shows.
 void addNames(SizeList& list, const CacheTarget& target) {
-    const CleanupPlan::Names names = CleanupPlan::namesOf(target, mostNames);
+    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxNames);
     const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
     const qsizetype shown = isInBreakdown ? target.details.size() : names.shown.size();
     if (!isInBreakdown && shown > 0) {
@@ -51,7 +51,7 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(Translations::of(m_target.name));
-    setMinimumSize(leastSize);
+    setMinimumSize(minSize);
 
     auto* size = new TextLabel(TextStyle::title, QFont::Bold);
     size->setPlainText(tr("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));

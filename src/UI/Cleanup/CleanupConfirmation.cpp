@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostListHeight = 300;
+constexpr int maxListHeight = 300;
 
 SizeList* listOf(const QList<CacheTarget>& targets) {
     auto* list = new SizeList(QCoreApplication::translate("CleanupConfirmation", "What goes"));
@@ -27,7 +27,7 @@ SizeList* listOf(const QList<CacheTarget>& targets) {
         spoken.append(row.name + u", "_s + row.figure);
     }
     list->setAccessibleDescription(spoken.join(u"; "_s));
-    list->fit(ConfirmDialog::textWidth, mostListHeight);
+    list->fit(ConfirmDialog::textWidth, maxListHeight);
     return list;
 }
 

@@ -13,21 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostNames = 3;
-constexpr qsizetype longestName = 40;
+constexpr qsizetype maxNames = 3;
+constexpr qsizetype maxNameLength = 40;
 const auto paragraph = u"\n\n"_s;
 
 QString quoted(const QString& name) {
     QString text = Formatters::visible(name);
-    if (text.size() > longestName)
-        text = text.first(longestName / 2) + u'…' + text.last(longestName / 2 - 1);
+    if (text.size() > maxNameLength)
+        text = text.first(maxNameLength / 2) + u'…' + text.last(maxNameLength / 2 - 1);
     return u"“%1”"_s.arg(text);
 }
 
 /// "“a”, “b” and 12 more": the first few of so many.
 QString listed(const QStringList& names, qsizetype count) {
     QStringList items;
-    for (const QString& name : names.first(std::min(mostNames, names.size())))
+    for (const QString& name : names.first(std::min(maxNames, names.size())))
         items.append(quoted(name));
     if (items.isEmpty())
         return {};
@@ -40,7 +40,7 @@ QString listed(const QStringList& names, qsizetype count) {
 }
 
 QString namesOf(const CacheTarget& target) {
-    const CleanupPlan::Names names = CleanupPlan::namesOf(target, mostNames);
+    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxNames);
     QStringList shown;
     for (const CacheEntry& entry : names.shown)
         shown.append(entry.path);

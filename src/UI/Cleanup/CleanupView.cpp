@@ -12,7 +12,7 @@
 #include "UI/Kit/FlowGrid.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -24,7 +24,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int leastCardWidth = 220;
+constexpr int minCardWidth = 220;
 constexpr int cardGap = 12;
 
 } // namespace
@@ -39,7 +39,13 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(tr("Cancel"))) {
+    , m_cancel(new PushButton(tr("Cancel")))
+    , m_cards([this] {
+        auto* card = new CacheCard;
+        connect(card, &CacheCard::opened, this, &CleanupView::open);
+        m_grid->addWidget(card);
+        return card;
+    }) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
@@ -47,9 +53,9 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     column->addLayout(makeProgress());
     column->addWidget(makeGrid(), 1);
     setAccessibleName(tr("Cleanup"));
-    connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.rescanCaches(); });
+    connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
-    connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelCleaning);
+    connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
     observe(&m_model, this, [this] { refresh(); });
 }
 
@@ -94,19 +100,14 @@ QLayout* CleanupView::makeProgress() {
 }
 
 QWidget* CleanupView::makeGrid() {
-    auto* page = new QWidget;
-    auto* frame = new QVBoxLayout(page);
-    frame->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding - Theme::scrollBarRoom,
-                              Theme::pagePadding);
-    m_grid = new FlowGrid(leastCardWidth, cardGap);
-    frame->addLayout(m_grid);
-    frame->addStretch();
+    QMargins margins = Theme::pageMargins;
+    margins.setTop(0);
     auto* area = new QScrollArea;
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    auto* column = makeScrollingPage(area, margins, 0);
+    m_grid = new FlowGrid(minCardWidth, cardGap);
+    column->addLayout(m_grid);
+    column->addStretch();
     area->setFocusPolicy(Qt::NoFocus);
-    SlimScrollBar::install(area);
     return area;
 }
 
@@ -118,52 +119,48 @@ void CleanupView::showEvent(QShowEvent* event) {
 void CleanupView::refresh() {
     if (!isOnScreen(this))
         return;
+    const CacheCleanup& cleanup = m_model.cleanup();
     refreshCards();
     refreshProgress();
     m_total->setPlainText(
-        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(m_model.cacheTargets()))));
+        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(cleanup.targets()))));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
-    m_rescan->setEnabled(!m_model.isScanning());
+    m_rescan->setEnabled(!cleanup.isScanning());
     m_cleanAll->setBusy(m_cleaningAll);
-    m_cleanAll->setEnabled(!m_cleaningAll && !m_model.isCleaning() && !m_model.targetsToClean().isEmpty());
+    m_cleanAll->setEnabled(!m_cleaningAll && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
 }
 
 void CleanupView::refreshCards() {
-    const QList<CacheTarget>& targets = m_model.cacheTargets();
-    while (m_cards.size() < targets.size()) {
-        auto* card = new CacheCard;
-        m_grid->addWidget(card);
-        connect(card, &CacheCard::opened, this, &CleanupView::open);
-        m_cards.append(card);
-    }
-    for (qsizetype i = 0; i < targets.size(); ++i)
-        m_cards[i]->set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
+    const QList<CacheTarget>& targets = m_model.cleanup().targets();
+    m_cards.show(targets.size(), [this, &targets](CacheCard& card, qsizetype i) {
+        card.set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
+    });
 }
 
 void CleanupView::refreshProgress() {
-    const bool isBusy = m_model.isCleaning() || m_model.isScanning();
-    const QString unfinished = CleanupTexts::unfinished(m_model.cleanReport());
-    if (m_model.isCleaning())
-        m_progress->setPlainText(CleanupTexts::progress(m_model.cleanReport().wasCancelled
-                                                            ? tr("Cancelling %1 (%2 of %3)")
-                                                            : tr("Cleaning %1 (%2 of %3)"),
-                                                        *m_model.cleanProgress()));
-    else if (m_model.isScanning())
+    const CacheCleanup& cleanup = m_model.cleanup();
+    const bool isBusy = cleanup.isCleaning() || cleanup.isScanning();
+    const QString unfinished = CleanupTexts::unfinished(cleanup.report());
+    if (cleanup.isCleaning())
+        m_progress->setPlainText(CleanupTexts::progress(
+            cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)") : tr("Cleaning %1 (%2 of %3)"),
+            *cleanup.cleanProgress()));
+    else if (cleanup.isScanning())
         m_progress->setPlainText(
-            CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *m_model.scanProgress()));
+            CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *cleanup.scanProgress()));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy);
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
-    m_cancel->setVisible(m_model.isCleaning());
+    m_cancel->setVisible(cleanup.isCleaning());
 }
 
 void CleanupView::open(const CacheTarget& target) {
     m_selected = target.name;
     auto* drawer = new CacheDetailDrawer(target, window());
-    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model, &AppModel::clean);
+    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model.cleanup(), &CacheCleanup::clean);
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();
@@ -176,7 +173,7 @@ void CleanupView::open(const CacheTarget& target) {
 }
 
 void CleanupView::confirmCleanAll() {
-    CleanupConfirmation::askAll(window(), this, m_model.targetsToClean(),
+    CleanupConfirmation::askAll(window(), this, m_model.cleanup().targetsToClean(),
                                 [this](const QList<CacheTarget>& targets) { cleanAll(targets); });
 }
 
@@ -185,11 +182,11 @@ void CleanupView::cleanAll(const QList<CacheTarget>& targets) {
         return;
     m_cleaningAll = true;
     refresh();
-    m_model.cleanAll(targets).then(
+    m_model.cleanup().cleanAll(targets).then(
         [self = QPointer<CleanupView>(this), asked = targets.size()](std::pair<int, quint64> cleaned) {
             if (!self)
                 return;
-            const CleanupReport& report = self->m_model.cleanReport();
+            const CleanupReport& report = self->m_model.cleanup().report();
             self->m_cleaningAll = false;
             self->m_wasCancelled = report.wasCancelled;
             self->m_lastCleanResult = CleanupTexts::outcome(asked, cleaned, report);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
+#include "UI/Kit/RowPool.h"
 
 #include <QWidget>
 
@@ -48,5 +49,5 @@ private:
     TextLabel* m_unfinished;
     PushButton* m_cancel;
     FlowGrid* m_grid = nullptr;
-    QList<CacheCard*> m_cards;
+    RowPool<CacheCard> m_cards;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -28,8 +28,7 @@ protected:
             Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(*m_tint, 0.08),
                                Theme::color(*m_tint, 0.35));
         else
-            Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Theme::Role::cardFill),
-                               Theme::color(Theme::Role::cardBorder));
+            Painting::drawCard(painter, rect());
     }
 
 private:

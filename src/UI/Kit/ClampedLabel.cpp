@@ -15,10 +15,10 @@ constexpr int comfortableWidth = 320;
 
 } // namespace
 
-ClampedLabel::ClampedLabel(int mostLines, Theme::TextStyle style, std::optional<QFont::Weight> weight,
+ClampedLabel::ClampedLabel(int maxLines, Theme::TextStyle style, std::optional<QFont::Weight> weight,
                            QWidget* parent)
     : TextLabel(style, weight, parent)
-    , m_mostLines(mostLines) {
+    , m_mostLines(maxLines) {
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);

@@ -8,7 +8,7 @@ class ClampedLabel : public TextLabel {
     Q_OBJECT
 
 public:
-    ClampedLabel(int mostLines, Theme::TextStyle style, std::optional<QFont::Weight> weight = std::nullopt,
+    ClampedLabel(int maxLines, Theme::TextStyle style, std::optional<QFont::Weight> weight = std::nullopt,
                  QWidget* parent = nullptr);
 
     QSize sizeHint() const override;

@@ -9,8 +9,8 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int mostHeadingLines = 4;
-constexpr int mostTextLines = 12;
+constexpr int maxHeadingLines = 4;
+constexpr int maxTextLines = 12;
 
 } // namespace
 
@@ -23,7 +23,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     setWindowTitle(Formatters::visible(title));
     setAccessibleDescription(Formatters::visible(text));
 
-    auto* heading = new ClampedLabel(mostHeadingLines, TextStyle::title3, QFont::Bold);
+    auto* heading = new ClampedLabel(maxHeadingLines, TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
     heading->setFixedWidth(textWidth);
     m_column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
@@ -31,7 +31,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(heading);
     for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
-        auto* label = new ClampedLabel(mostTextLines, TextStyle::body);
+        auto* label = new ClampedLabel(maxTextLines, TextStyle::body);
         label->secondary();
         label->setPlainText(paragraph);
         label->setFixedWidth(textWidth);
@@ -41,7 +41,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     m_column->addLayout(m_buttons);
     m_column->setSizeConstraint(QLayout::SetFixedSize);
 
-    auto* cancel = new PushButton(QStringLiteral("Cancel"));
+    auto* cancel = new PushButton(tr("Cancel"));
     cancel->setDefault(true);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     m_buttons->addStretch();

@@ -1,20 +1,20 @@
 #include "UI/Kit/EmptyState.h"
 
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int leastHeight = 120;
+constexpr int minHeight = 120;
 constexpr int symbolSize = 30;
 
 } // namespace
 
 EmptyState::EmptyState(const QString& symbol, const QString& headline, const QString& text, QWidget* parent)
     : QWidget(parent) {
-    setMinimumHeight(leastHeight);
+    setMinimumHeight(minHeight);
     auto* icon = new SymbolView(symbolSize, symbolSize);
     icon->set(symbol, Theme::Role::secondaryText);
     auto* title = new TextLabel(Theme::TextStyle::headline);

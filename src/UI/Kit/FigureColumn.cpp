@@ -1,6 +1,6 @@
 #include "UI/Kit/FigureColumn.h"
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 

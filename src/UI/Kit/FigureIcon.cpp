@@ -1,6 +1,6 @@
 #include "UI/Kit/FigureIcon.h"
 
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Symbols.h"
 
 #include <QApplication>
 #include <QIconEngine>

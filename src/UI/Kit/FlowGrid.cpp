@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-FlowGrid::FlowGrid(int leastItemWidth, int spacing, QWidget* parent)
+FlowGrid::FlowGrid(int minItemWidth, int spacing, QWidget* parent)
     : QLayout(parent)
-    , m_leastItemWidth(leastItemWidth) {
+    , m_leastItemWidth(minItemWidth) {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(spacing);
 }

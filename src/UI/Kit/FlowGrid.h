@@ -9,7 +9,7 @@ class FlowGrid : public QLayout {
     Q_OBJECT
 
 public:
-    FlowGrid(int leastItemWidth, int spacing, QWidget* parent = nullptr);
+    FlowGrid(int minItemWidth, int spacing, QWidget* parent = nullptr);
     ~FlowGrid() override;
 
     void addItem(QLayoutItem* item) override;

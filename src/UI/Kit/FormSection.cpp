@@ -11,7 +11,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int cellPadding = 7;
-constexpr int leastRowHeight = 24;
+constexpr int minRowHeight = 24;
 
 } // namespace
 
@@ -54,7 +54,7 @@ void FormSection::addRow(QWidget* row) {
 void FormSection::addRow(const QString& label, QWidget* control, QWidget* illustration) {
     auto* text = new TextLabel(TextStyle::body);
     text->setPlainText(label);
-    text->setMinimumHeight(leastRowHeight);
+    text->setMinimumHeight(minRowHeight);
     control->setAccessibleName(label);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);

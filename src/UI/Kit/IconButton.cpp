@@ -1,7 +1,7 @@
 #include "UI/Kit/IconButton.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -13,14 +13,6 @@ constexpr int side = 26;
 constexpr int symbolSize = 18;
 constexpr int textPadding = 8;
 
-void drawBackground(QPainter& painter, const QAbstractButton& button) {
-    if (button.isDown() || button.underMouse())
-        Painting::drawCard(painter, button.rect(), Theme::controlRadius, Theme::color(Role::hoverFill),
-                           Qt::transparent);
-    if (button.hasFocus())
-        Painting::drawFocusRing(painter, button.rect(), Theme::controlRadius);
-}
-
 } // namespace
 
 IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* parent)
@@ -31,7 +23,6 @@ IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* 
     setAccessibleName(help);
     setFixedSize(side, side);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
 }
 
 QSize IconButton::sizeHint() const {
@@ -40,7 +31,7 @@ QSize IconButton::sizeHint() const {
 
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawBackground(painter, *this);
+    Painting::drawFeedback(painter, *this, Theme::controlRadius);
     const QColor tint = Theme::color(m_tint, isEnabled() ? 1 : 0.4);
     Symbols::draw(painter, m_symbol, tint, rect(), symbolSize);
 }
@@ -50,7 +41,6 @@ TextButton::TextButton(const QString& text, QWidget* parent)
     setText(text);
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -60,7 +50,7 @@ QSize TextButton::sizeHint() const {
 
 void TextButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawBackground(painter, *this);
+    Painting::drawFeedback(painter, *this, Theme::controlRadius);
     painter.setPen(Theme::color(Role::accent));
     painter.drawText(rect(), Qt::AlignCenter, text());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Sampling/SystemSample.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 /// The colours of the machine's figures, decided on unrounded values; the same on every screen.
 namespace Levels {

@@ -2,9 +2,9 @@
 
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -13,16 +13,16 @@ using Theme::Role;
 
 namespace {
 
-constexpr int mostLines = 2;
+constexpr int maxLines = 2;
 
 } // namespace
 
 Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent)
     : QWidget(parent)
-    , m_text(new ClampedLabel(mostLines, Theme::TextStyle::callout)) {
+    , m_text(new ClampedLabel(maxLines, Theme::TextStyle::callout)) {
     auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
     icon->set(symbol, Role::green);
-    auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);
+    auto* dismiss = new PushButton(tr("Dismiss"), PushButton::Look::borderless);
     connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
 
     auto* card = new Card(this, Role::green);
@@ -45,7 +45,7 @@ Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidge
 /// The card's ground is translucent, and a notice may lie over other things.
 void Notice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill), Qt::transparent);
+    Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill));
 }
 
 void Notice::show(const QString& text) {

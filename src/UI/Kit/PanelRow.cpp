@@ -1,8 +1,8 @@
 #include "UI/Kit/PanelRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -44,13 +44,11 @@ void PanelRow::paintEvent(QPaintEvent*) {
     Symbols::draw(painter, m_content.symbol, Theme::color(m_content.tint), symbol, m_symbolWidth);
     line.setLeft(symbol.right() + gap);
 
-    painter.setFont(Theme::font(Theme::TextStyle::caption));
-    painter.setPen(Theme::color(Theme::Role::secondaryText));
+    Painting::setTextStyle(painter, Theme::TextStyle::caption, Theme::Role::secondaryText);
     Painting::drawTabular(painter, line, Qt::AlignRight, m_content.figure);
     if (!m_content.figure.isEmpty())
         line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_content.figure) - gap);
 
-    painter.setFont(Theme::font(m_style));
-    painter.setPen(Theme::color(m_content.textRole));
+    Painting::setTextStyle(painter, m_style, m_content.textRole);
     Painting::drawElided(painter, line, Qt::ElideMiddle, m_content.text);
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
-#include <QList>
 #include <QWidget>
 
 /// One line of a small panel: a symbol, a text, and a figure at the trailing end.
@@ -24,16 +23,6 @@ public:
     PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent = nullptr);
 
     void set(const Content& content);
-
-    /// Shows one row for each of `count` contents, as far as there are rows, and hides the others.
-    template <typename MakeContent>
-    static void setAll(const QList<PanelRow*>& rows, qsizetype count, MakeContent makeContent) {
-        for (qsizetype i = 0; i < rows.size(); ++i) {
-            if (i < count)
-                rows[i]->set(makeContent(i));
-            rows[i]->setVisible(i < count);
-        }
-    }
 
     QSize sizeHint() const override;
 

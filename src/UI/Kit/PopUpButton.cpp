@@ -1,7 +1,7 @@
 #include "UI/Kit/PopUpButton.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -23,7 +23,6 @@ PopUpButton::PopUpButton(const QString& label, QWidget* parent)
     setFont(Theme::font(Theme::TextStyle::body));
     setFixedHeight(Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAttribute(Qt::WA_Hover);
     setAccessibleName(label);
 }
 
@@ -37,12 +36,10 @@ QSize PopUpButton::sizeHint() const {
 
 void PopUpButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::cardFill),
-                       Theme::color(Role::cardBorder));
+    Painting::drawCard(painter, rect(), Theme::controlRadius);
     if (isEnabled() && underMouse())
-        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, 0.7),
-                           Qt::transparent);
-    const double opacity = isEnabled() ? 1 : 0.45;
+        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, 0.7));
+    const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
     Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::secondaryText, opacity),
                   QRectF(line.right() - chevronSize, 0, chevronSize, height()), chevronSize);

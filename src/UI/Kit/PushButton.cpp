@@ -1,10 +1,9 @@
 #include "UI/Kit/PushButton.h"
 
-#include "UI/Kit/Painting.h"
 #include "UI/Kit/Spinner.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
-#include <QEvent>
 #include <QPainter>
 
 using Theme::Role;
@@ -15,7 +14,6 @@ constexpr int symbolSize = 15;
 constexpr int symbolGap = 6;
 constexpr int padding = 12;
 constexpr int smallPadding = 10;
-constexpr double disabledOpacity = 0.45;
 
 } // namespace
 
@@ -27,7 +25,6 @@ PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* 
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
     setFixedHeight(Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAttribute(Qt::WA_Hover);
     setAutoDefault(false);
     m_spinner->hide();
 }
@@ -71,18 +68,12 @@ void PushButton::resizeEvent(QResizeEvent* event) {
     placeSpinner();
 }
 
-void PushButton::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange)
-        update();
-    QPushButton::changeEvent(event);
-}
-
 void PushButton::placeSpinner() {
     m_spinner->move((width() - contentWidth()) / 2, (height() - m_spinner->height()) / 2);
 }
 
 QColor PushButton::textColor() const {
-    const double opacity = isEnabled() ? 1 : disabledOpacity;
+    const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     if (m_look == Look::prominent && isEnabled())
         return Qt::white;
     if (m_look == Look::destructive)
@@ -93,19 +84,18 @@ QColor PushButton::textColor() const {
 }
 
 void PushButton::drawGround(QPainter& painter) const {
-    const bool isLit = isEnabled() && (underMouse() || isDown());
     if (m_look == Look::prominent && isEnabled()) {
         const QColor fill = Theme::tileColor(m_tint);
         Painting::drawCard(painter, rect(), Theme::controlRadius,
-                           isDown() ? fill.darker(125) : (isLit ? fill.darker(110) : fill), Qt::transparent);
+                           isDown() ? fill.darker(125) : (underMouse() ? fill.darker(110) : fill));
+        if (hasFocus()) // the ring's own colour would drown in the fill
+            Painting::drawCard(painter, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
+                               Qt::transparent, QColor(255, 255, 255, 190));
         return;
     }
     if (m_look != Look::borderless)
-        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::cardFill),
-                           Theme::color(Role::cardBorder));
-    if (isLit)
-        Painting::drawCard(painter, rect(), Theme::controlRadius,
-                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.7), Qt::transparent);
+        Painting::drawCard(painter, rect(), Theme::controlRadius);
+    Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.7);
 }
 
 void PushButton::paintEvent(QPaintEvent*) {
@@ -122,11 +112,4 @@ void PushButton::paintEvent(QPaintEvent*) {
         area.setLeft(lead.right() + symbolGap);
     }
     Painting::drawTabular(painter, area, Qt::AlignLeft, caption());
-    if (!hasFocus())
-        return;
-    if (m_look == Look::prominent && isEnabled()) // the ring's own colour would drown in the fill
-        Painting::drawCard(painter, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
-                           Qt::transparent, QColor(255, 255, 255, 190));
-    else
-        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
 }

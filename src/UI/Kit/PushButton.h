@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QPushButton>
 
@@ -34,7 +34,6 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     /// What can be read on it: in its text an ampersand is written twice.

@@ -1,7 +1,7 @@
 #include "UI/Kit/SearchField.h"
 
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -11,19 +11,20 @@ using Theme::Role;
 
 namespace {
 
-constexpr int leadRoom = 24;
-constexpr int trailRoom = 26;
+constexpr int leadLeft = 6;
+constexpr int leadRoom = 18;
+constexpr int trailRoom = 20;
 constexpr int symbolSize = 14;
 
 } // namespace
 
 SearchField::SearchField(const QString& prompt, QWidget* parent)
-    : TextField(parent) {
+    : QLineEdit(parent) {
     setTextMargins(leadRoom, 0, trailRoom, 0);
     setPlaceholderText(prompt);
     setAccessibleName(prompt);
 
-    auto* button = new IconButton(QStringLiteral("xmark.circle.fill"), QStringLiteral("Clear search"));
+    auto* button = new IconButton(QStringLiteral("xmark.circle.fill"), tr("Clear search"));
     button->setFocusPolicy(Qt::NoFocus);
     button->setCursor(Qt::ArrowCursor);
     button->hide();
@@ -40,10 +41,12 @@ void SearchField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !text().isEmpty())
         clear();
     else
-        TextField::keyPressEvent(event);
+        QLineEdit::keyPressEvent(event);
 }
 
-void SearchField::drawLead(QPainter& painter) {
+void SearchField::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
     Symbols::draw(painter, QStringLiteral("magnifyingglass"), Theme::color(Role::secondaryText),
-                  QRectF(6, 0, leadRoom - 6, height()), symbolSize);
+                  QRectF(leadLeft, 0, leadRoom, height()), symbolSize);
 }

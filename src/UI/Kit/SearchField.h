@@ -1,17 +1,17 @@
 #pragma once
 
-#include "UI/Kit/TextField.h"
+#include <QLineEdit>
 
 #include <QString>
 
 /// A line to search by: a magnifier before it, a button that clears it, and Escape does the same.
-class SearchField : public TextField {
+class SearchField : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit SearchField(const QString& prompt, QWidget* parent = nullptr);
 
 protected:
-    void drawLead(QPainter& painter) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

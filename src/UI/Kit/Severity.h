@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Alerts/Alert.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 /// The colour in which every view shows an alert of that severity.
 constexpr Theme::Role severityRole(Alert::Severity severity) {

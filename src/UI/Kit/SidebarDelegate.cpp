@@ -1,7 +1,7 @@
 #include "UI/Kit/SidebarDelegate.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -25,7 +25,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
                             const QModelIndex& index) const {
     const bool selected = option.state & QStyle::State_Selected;
     const QRectF row = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
-    Painting::drawCard(*painter, row, Theme::controlRadius, rowFill(option.state), Qt::transparent);
+    Painting::drawCard(*painter, row, Theme::controlRadius, rowFill(option.state));
     if (selected && option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange)
         Painting::drawFocusRing(*painter, row, Theme::controlRadius);
 
@@ -35,8 +35,8 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     Symbols::draw(*painter, index.data(symbolRole).toString(), tint, icon, Theme::iconSize);
 
     line.setLeft(icon.right() + 8);
-    painter->setFont(Theme::font(TextStyle::body, selected ? QFont::DemiBold : QFont::Normal));
-    painter->setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(*painter, TextStyle::body, Role::primaryText,
+                           selected ? QFont::DemiBold : QFont::Normal);
     Painting::drawElided(*painter, line, Qt::ElideRight, index.data(Qt::DisplayRole).toString());
 }
 

@@ -2,12 +2,14 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
-#include "UI/Kit/Painting.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,7 +22,7 @@ namespace {
 constexpr int lineHeight = 26;
 constexpr int edge = 3; ///< room for the ring round the viewport
 constexpr int padding = 9;
-constexpr int mostDetailLines = 2;
+constexpr int maxDetailLines = 2;
 constexpr int detailGap = 5;
 
 class RowView : public QWidget {
@@ -34,7 +36,7 @@ public:
         if (!m_figure.isEmpty())
             spoken.append(m_figure);
         if (!row.detail.isEmpty()) {
-            auto* detail = new ClampedLabel(mostDetailLines, TextStyle::caption);
+            auto* detail = new ClampedLabel(maxDetailLines, TextStyle::caption);
             if (row.isGrave)
                 detail->tinted(Role::red);
             else
@@ -51,8 +53,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setFont(Theme::font(TextStyle::callout));
-        painter.setPen(Theme::color(Role::primaryText));
+        Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
         QRectF line(0, 0, width(), lineHeight);
         if (!m_figure.isEmpty()) {
             Painting::drawTabular(painter, line, Qt::AlignRight, m_figure);
@@ -72,20 +73,13 @@ private:
 } // namespace
 
 SizeList::SizeList(const QString& accessibleName, QWidget* parent)
-    : QScrollArea(parent) {
-    auto* page = new QWidget;
-    m_rows = new QVBoxLayout(page);
-    m_rows->setContentsMargins(padding, padding / 2, padding, padding / 2);
-    m_rows->setSpacing(0);
+    : QScrollArea(parent)
+    , m_rows(makeScrollingPage(this, {padding, padding / 2, padding, padding / 2}, 0)) {
     m_rows->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
     setViewportMargins(edge, edge, edge, edge);
     // The card below shines through.
-    page->setAutoFillBackground(false);
+    widget()->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    SlimScrollBar::install(this);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(accessibleName);
 }
@@ -121,8 +115,7 @@ bool SizeList::event(QEvent* event) {
     const bool done = QScrollArea::event(event);
     if (event->type() == QEvent::Paint) {
         QPainter painter(this);
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
-                           Theme::color(Role::cardBorder));
+        Painting::drawCard(painter, rect());
         if (hasFocus())
             Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
     }

@@ -13,13 +13,11 @@ public:
     explicit Slider(QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    double knobCentre() const;
     void takeTo(double x);
 };
 
@@ -34,9 +32,8 @@ public:
         int step;
     };
 
-    /// The line is `before`, the value and `after`.
-    LabeledSlider(QString before, QString after, Range range, double value, int width,
-                  QWidget* parent = nullptr);
+    /// The line is `text` with the value in place of its %1.
+    LabeledSlider(QString text, Range range, double value, int width, QWidget* parent = nullptr);
 
     double value() const;
 
@@ -46,8 +43,7 @@ Q_SIGNALS:
 private:
     void showValue();
 
-    QString m_before;
-    QString m_after;
+    QString m_text;
     int m_step;
     TextLabel* m_label;
     Slider* m_slider;

@@ -1,21 +1,14 @@
 #pragma once
 
-#include <QScrollBar>
+#include <QAbstractScrollArea>
 
-class QAbstractScrollArea;
+namespace SlimScrollBar {
 
-/// A vertical scroll bar without arrows. It keeps its room when there is nothing to scroll, so that a page
+/// Gives the area a vertical bar alone. It keeps its room when there is nothing to scroll, so that a page
 /// does not move sideways when its content grows.
-class SlimScrollBar : public QScrollBar {
-    Q_OBJECT
+inline void install(QAbstractScrollArea* area) {
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
 
-public:
-    /// Gives the area such a bar, and no horizontal one.
-    static void install(QAbstractScrollArea* area);
-
-    QSize sizeHint() const override;
-
-protected:
-    explicit SlimScrollBar(QWidget* parent);
-    void paintEvent(QPaintEvent* event) override;
-};
+} // namespace SlimScrollBar

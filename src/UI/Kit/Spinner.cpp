@@ -1,6 +1,6 @@
 #include "UI/Kit/Spinner.h"
 
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QPainter>
 
@@ -17,7 +17,7 @@ Spinner::Spinner(QWidget* parent)
     : QWidget(parent) {
     setFixedSize(side, side);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAccessibleName(QStringLiteral("In progress"));
+    setAccessibleName(tr("In progress"));
 }
 
 void Spinner::showEvent(QShowEvent*) {

@@ -1,7 +1,7 @@
 #include "UI/Kit/Stepper.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -25,16 +25,13 @@ public:
         : m_symbol(std::move(symbol)) {
         setFixedSize(buttonWidth, Theme::smallControlHeight);
         setFocusPolicy(Qt::NoFocus);
-        setAttribute(Qt::WA_Hover);
         setAutoRepeat(true);
     }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        if (isEnabled() && (underMouse() || isDown()))
-            Painting::drawCard(painter, rect(), Theme::controlRadius,
-                               Theme::color(Role::hoverFill, isDown() ? 1.6 : 0.9), Qt::transparent);
+        Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.9, 1.6);
         Symbols::draw(painter, m_symbol, Theme::color(Role::primaryText, isEnabled() ? 1 : disabledOpacity),
                       rect(), symbolSize);
     }
@@ -68,8 +65,8 @@ QAbstractButton* Stepper::addButton(const QString& symbol, double by) {
 
 void Stepper::setName(const QString& name) {
     setAccessibleName(name);
-    m_less->setAccessibleName(QStringLiteral("Less: ") + name);
-    m_more->setAccessibleName(QStringLiteral("More: ") + name);
+    m_less->setAccessibleName(tr("Less: %1").arg(name));
+    m_more->setAccessibleName(tr("More: %1").arg(name));
 }
 
 void Stepper::setValue(double value) {

@@ -1,8 +1,7 @@
 #include "UI/Kit/StepperRow.h"
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -13,7 +12,6 @@ using Theme::Role;
 namespace {
 
 constexpr int gap = 10;
-constexpr double disabledOpacity = 0.45;
 
 } // namespace
 
@@ -56,15 +54,9 @@ QSize StepperRow::sizeHint() const {
     return {240, Theme::smallControlHeight};
 }
 
-void StepperRow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange)
-        update();
-    QWidget::changeEvent(event);
-}
-
 void StepperRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const double opacity = isEnabled() ? 1 : disabledOpacity;
+    const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     QRectF line = rect();
     line.setRight(m_stepper->x() - gap);
     painter.setFont(font());

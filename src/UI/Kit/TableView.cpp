@@ -1,12 +1,12 @@
 #include "UI/Kit/TableView.h"
 
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/TableHeader.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -15,9 +15,15 @@
 
 using Theme::Role;
 
+namespace {
+
+constexpr int headerHeight = 28;
+constexpr int minSection = 40;
+
+} // namespace
+
 TableView::TableView(const QString& name, QWidget* parent)
     : QTreeView(parent) {
-    setHeader(new TableHeader(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setIndentation(0);
@@ -30,6 +36,9 @@ TableView::TableView(const QString& name, QWidget* parent)
     setAccessibleName(name);
     SlimScrollBar::install(this);
     header()->setStretchLastSection(false);
+    header()->setSectionsMovable(false);
+    header()->setFixedHeight(headerHeight);
+    header()->setMinimumSectionSize(minSection);
     QPalette clear = palette(); // the delegate draws the ground of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(clear);
@@ -58,7 +67,7 @@ void TableView::contextMenuEvent(QContextMenuEvent* event) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, index);
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Copy"), this, &TableView::copySelection);
+    menu->addAction(tr("Copy"), this, &TableView::copySelection);
     menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QLabel>
 

@@ -1,16 +1,16 @@
 #include "UI/Optimize/AutoOptimizeCard.h"
 
-#include "UI/Kit/Switch.h"
 #include "UI/Kit/TextLabel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 
 AutoOptimizeCard::AutoOptimizeCard(QWidget* parent)
     : OptimizeCard(tr("Auto-Optimize"), tr("Every 30 min: kill orphan MCPs + send memory pressure"),
                    QStringLiteral("clock.arrow.circlepath"), Theme::Role::indigo, parent)
-    , m_switch(new Switch(tr("Enabled")))
+    , m_switch(new QCheckBox(tr("Enabled")))
     , m_state((new TextLabel(Theme::TextStyle::caption))->secondary()) {
-    connect(m_switch, &Switch::clicked, this, &AutoOptimizeCard::switched);
+    connect(m_switch, &QCheckBox::clicked, this, &AutoOptimizeCard::switched);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(m_switch);

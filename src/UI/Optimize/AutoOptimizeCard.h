@@ -2,7 +2,7 @@
 
 #include "UI/Optimize/OptimizeCard.h"
 
-class Switch;
+class QCheckBox;
 
 /// The switch of the periodic optimizer.
 class AutoOptimizeCard : public OptimizeCard {
@@ -17,6 +17,6 @@ Q_SIGNALS:
     void switched(bool enabled);
 
 private:
-    Switch* m_switch;
+    QCheckBox* m_switch;
     TextLabel* m_state;
 };

@@ -1,6 +1,6 @@
 #include "UI/Optimize/CachesCard.h"
 
-#include "AppModel.h"
+#include "Core/Cleanup/CacheCleanup.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
@@ -23,8 +23,36 @@ constexpr int chipGap = 24;
 
 } // namespace
 
+/// The name of a target over its size.
+class CacheChip : public QWidget {
+public:
+    CacheChip() {
+        m_size->setForegroundRole(QPalette::Link); // the theme's blue, in both schemes
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(Theme::textGap);
+        column->addWidget(m_name);
+        column->addWidget(m_size);
+    }
+
+    void set(const CacheTarget& target) {
+        m_name->setPlainText(Translations::of(target.name));
+        m_size->setPlainText(Formatters::bytes(target.sizeBytes));
+    }
+
+private:
+    TextLabel* m_name = new TextLabel(TextStyle::caption);
+    TextLabel* m_size = new TextLabel(TextStyle::caption, QFont::DemiBold);
+};
+
 CachesCard::CachesCard(QWidget* parent)
     : OptimizeCard(tr("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
+    , m_chipRow(new QHBoxLayout)
+    , m_chips([this] {
+        auto* chip = new CacheChip;
+        m_chipRow->addWidget(chip);
+        return chip;
+    })
     , m_cancel(new PushButton(tr("Cancel")))
     , m_clean(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill"))) {
     m_clean->setTint(Role::red);
@@ -33,11 +61,10 @@ CachesCard::CachesCard(QWidget* parent)
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
     connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
     auto* row = new QHBoxLayout;
-    row->setSpacing(chipGap);
-    for (qsizetype i = 0; i < shownTargets; ++i) {
-        m_chips.append(makeChip());
-        row->addWidget(m_chips.last().widget);
-    }
+    for (QHBoxLayout* each : {row, m_chipRow})
+        each->setSpacing(chipGap);
+    m_chips.reserve(shownTargets);
+    row->addLayout(m_chipRow);
     row->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::rowSpacing);
@@ -47,44 +74,25 @@ CachesCard::CachesCard(QWidget* parent)
     content()->addLayout(row);
 }
 
-CachesCard::Chip CachesCard::makeChip() const {
-    Chip chip{.widget = new QWidget,
-              .name = new TextLabel(TextStyle::caption),
-              .size = new TextLabel(TextStyle::caption, QFont::DemiBold)};
-    chip.size->setForegroundRole(QPalette::Link); // the theme's blue, in both schemes
-    auto* column = new QVBoxLayout(chip.widget);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::textGap);
-    column->addWidget(chip.name);
-    column->addWidget(chip.size);
-    return chip;
-}
-
-void CachesCard::refresh(const AppModel& model) {
-    const QList<CacheTarget>& targets = model.cacheTargets();
-    if (model.isCleaning())
-        setSubtitle(CleanupTexts::progress(model.cleanReport().wasCancelled ? tr("Cancelling %1 (%2 of %3)")
-                                                                            : tr("Cleaning %1 (%2 of %3)"),
-                                           *model.cleanProgress()));
+void CachesCard::refresh(const CacheCleanup& cleanup) {
+    const QList<CacheTarget>& targets = cleanup.targets();
+    if (cleanup.isCleaning())
+        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)")
+                                                                         : tr("Cleaning %1 (%2 of %3)"),
+                                           *cleanup.cleanProgress()));
     else
         setSubtitle(tr("%1 reclaimable across %2 targets")
                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);
-    m_cancel->setVisible(model.isCleaning());
-    m_clean->setEnabled(!m_cleaning && !model.isCleaning() && !model.targetsToClean().isEmpty());
+    m_cancel->setVisible(cleanup.isCleaning());
+    m_clean->setEnabled(!m_cleaning && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
 }
 
 void CachesCard::refreshChips(QList<CacheTarget> targets) {
     std::ranges::stable_sort(targets, std::ranges::greater(), &CacheTarget::sizeBytes);
-    for (qsizetype i = 0; i < m_chips.size(); ++i) {
-        const bool isUsed = i < targets.size();
-        m_chips[i].widget->setVisible(isUsed);
-        if (isUsed) {
-            m_chips[i].name->setPlainText(Translations::of(targets[i].name));
-            m_chips[i].size->setPlainText(Formatters::bytes(targets[i].sizeBytes));
-        }
-    }
+    m_chips.show(std::min(targets.size(), shownTargets),
+                 [&targets](CacheChip& chip, qsizetype i) { chip.set(targets[i]); });
 }
 
 void CachesCard::setCleaning(bool cleaning) {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
+#include "UI/Kit/RowPool.h"
 #include "UI/Optimize/OptimizeCard.h"
 
-class AppModel;
+class CacheCleanup;
+class CacheChip;
 class PushButton;
+class QHBoxLayout;
 
 /// The largest caches, and the button that cleans all of them.
 class CachesCard : public OptimizeCard {
@@ -13,7 +16,7 @@ class CachesCard : public OptimizeCard {
 public:
     explicit CachesCard(QWidget* parent = nullptr);
 
-    void refresh(const AppModel& model);
+    void refresh(const CacheCleanup& cleanup);
     /// Of a run that this page began, with the measuring after it.
     void setCleaning(bool cleaning);
 
@@ -22,16 +25,10 @@ Q_SIGNALS:
     void cancelRequested();
 
 private:
-    struct Chip {
-        QWidget* widget;
-        TextLabel* name;
-        TextLabel* size;
-    };
-
-    Chip makeChip() const;
     void refreshChips(QList<CacheTarget> targets);
 
-    QList<Chip> m_chips;
+    QHBoxLayout* m_chipRow;
+    RowPool<CacheChip> m_chips;
     PushButton* m_cancel;
     PushButton* m_clean;
     bool m_cleaning = false;

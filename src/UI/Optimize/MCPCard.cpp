@@ -20,7 +20,13 @@ MCPCard::MCPCard(QWidget* parent)
     , m_orphans(new StatBox(tr("Orphans")))
     , m_orphanRAM(new StatBox(tr("Orphan RAM")))
     , m_kill(new PushButton(tr("Kill orphans"), PushButton::Look::prominent, QStringLiteral("scissors")))
-    , m_servers(new QWidget) {
+    , m_servers(new QWidget)
+    , m_rows([this] {
+        auto* row = new ServerRow;
+        connect(row, &ServerRow::quitRequested, this, &MCPCard::quitRequested);
+        m_rowsLayout->addWidget(row);
+        return row;
+    }) {
     content()->addLayout(makeFigures());
 
     auto* heading = (new TextLabel(TextStyle::caption))->secondary();
@@ -58,20 +64,7 @@ void MCPCard::refresh(const MCPInspector::Report& report) {
     m_orphans->set(QString::number(orphans), orphans > 0 ? Role::red : Role::secondaryText);
     m_orphanRAM->set(Formatters::bytes(report.orphanBytes()), Role::red);
     m_kill->setEnabled(orphans > 0);
-    showServers(report.live);
+    m_rows.show(report.live.size(), [&report](ServerRow& row, qsizetype i) { row.set(report.live[i]); });
+    m_servers->setVisible(!report.live.isEmpty());
     m_nothing->setVisible(report.configured.isEmpty() && !isUnknown);
-}
-
-void MCPCard::showServers(const QList<MCPInspector::LiveServer>& live) {
-    while (m_rows.size() < live.size()) {
-        m_rows.append(new ServerRow);
-        m_rowsLayout->addWidget(m_rows.last());
-        connect(m_rows.last(), &ServerRow::quitRequested, this, &MCPCard::quitRequested);
-    }
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (i < live.size())
-            m_rows[i]->set(live[i]);
-        m_rows[i]->setVisible(i < live.size());
-    }
-    m_servers->setVisible(!live.isEmpty());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Mcp/MCPInspector.h"
+#include "UI/Kit/RowPool.h"
 #include "UI/Optimize/OptimizeCard.h"
 
 class PushButton;
@@ -22,7 +23,6 @@ Q_SIGNALS:
 
 private:
     QLayout* makeFigures();
-    void showServers(const QList<MCPInspector::LiveServer>& live);
 
     StatBox* m_configured;
     StatBox* m_running;
@@ -31,6 +31,6 @@ private:
     PushButton* m_kill;
     QWidget* m_servers;
     QVBoxLayout* m_rowsLayout;
-    QList<ServerRow*> m_rows;
+    RowPool<ServerRow> m_rows;
     TextLabel* m_nothing;
 };

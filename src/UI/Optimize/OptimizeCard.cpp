@@ -1,6 +1,6 @@
 #include "UI/Optimize/OptimizeCard.h"
 
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>

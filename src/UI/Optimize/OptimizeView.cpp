@@ -7,14 +7,15 @@
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Optimize/AutoOptimizeCard.h"
 #include "UI/Optimize/CachesCard.h"
 #include "UI/Optimize/MCPCard.h"
 #include "UI/Optimize/MemoryCard.h"
 #include "UI/Optimize/QuickKillsCard.h"
 #include "UI/Overview/FreeRAMSheet.h"
+#include "UI/Style/Theme.h"
 
 #include <QPointer>
 #include <QVBoxLayout>
@@ -39,18 +40,11 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     , m_mcp(new MCPCard)
     , m_caches(new CachesCard)
     , m_auto(new AutoOptimizeCard) {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pageMargins);
-    column->setSpacing(cardGap);
+    auto* column = makeScrollingPage(this, Theme::pageMargins, cardGap);
     const QList<QWidget*> parts = {m_memory, m_quickKills, m_mcp, m_caches, m_auto};
     for (QWidget* part : parts)
         column->addWidget(part);
     column->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(this);
     m_notice->raise();
     setAccessibleName(tr("Optimize"));
     connectCards();
@@ -65,9 +59,9 @@ void OptimizeView::connectCards() {
     connect(m_memory, &MemoryCard::purgeRequested, this, &OptimizeView::purge);
     connect(m_quickKills, &QuickKillsCard::killRequested, this, &OptimizeView::killPreset);
     connect(m_mcp, &MCPCard::killOrphansRequested, this, &OptimizeView::killOrphans);
-    connect(m_mcp, &MCPCard::quitRequested, &m_model, &AppModel::quitServer);
+    connect(m_mcp, &MCPCard::quitRequested, &m_model.actions(), &ProcessActions::quitServer);
     connect(m_caches, &CachesCard::cleanAllRequested, this, &OptimizeView::confirmCleanAll);
-    connect(m_caches, &CachesCard::cancelRequested, &m_model, &AppModel::cancelCleaning);
+    connect(m_caches, &CachesCard::cancelRequested, &m_model.cleanup(), &CacheCleanup::cancel);
     connect(m_auto, &AutoOptimizeCard::switched, &m_model, &AppModel::setAutoOptimizeEnabled);
 }
 
@@ -84,9 +78,9 @@ void OptimizeView::resizeEvent(QResizeEvent* event) {
 void OptimizeView::refresh() {
     if (!isOnScreen(this))
         return;
-    m_quickKills->refresh(m_model, m_preferences.quickKillPresets());
+    m_quickKills->refresh(m_model.actions(), m_preferences.quickKillPresets());
     m_mcp->refresh(m_model.mcpReport());
-    m_caches->refresh(m_model);
+    m_caches->refresh(m_model.cleanup());
     m_auto->refresh(m_model.autoOptimizeEnabled());
 }
 
@@ -103,7 +97,7 @@ void OptimizeView::placeNotice() {
 }
 
 void OptimizeView::nudge() {
-    m_model.nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& nudged) {
+    m_model.actions().nudgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& nudged) {
         if (!self)
             return;
         self->m_memory->setNudgeFailure(nudged.reason);
@@ -113,7 +107,7 @@ void OptimizeView::nudge() {
 
 void OptimizeView::purge() {
     m_memory->setPurging(true);
-    m_model.purgeMemory().then([self = QPointer<OptimizeView>(this)](const Cleaner::MemoryAnswer& purged) {
+    m_model.actions().purgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& purged) {
         if (!self)
             return;
         self->m_memory->setPurging(false);
@@ -123,18 +117,18 @@ void OptimizeView::purge() {
 }
 
 void OptimizeView::killPreset(const QuickKillPreset& preset) {
-    const auto result =
-        m_model.quickKill(preset.pattern, preset.name, preset.minIdleMinutes, preset.minRSSMB, preset.force);
+    const auto result = m_model.actions().quickKill(preset.pattern, preset.name, preset.minIdleMinutes,
+                                                    preset.minRSSMB, preset.force);
     toast(preset.outcomeMessage(result.matched, result.killed));
 }
 
 void OptimizeView::killOrphans() {
-    const int killed = m_model.killOrphanMCPs(false);
+    const int killed = m_model.actions().killOrphanMCPs(false);
     toast(killed > 0 ? tr("Killed %1 orphan MCP server(s)").arg(killed) : tr("No orphan MCPs to kill"));
 }
 
 void OptimizeView::confirmCleanAll() {
-    const QList<CacheTarget> targets = m_model.targetsToClean();
+    const QList<CacheTarget> targets = m_model.cleanup().targetsToClean();
     if (!m_preferences.askBeforeCleaningAll())
         return cleanAll(targets);
     CleanupConfirmation::askAll(window(), this, targets,
@@ -143,11 +137,11 @@ void OptimizeView::confirmCleanAll() {
 
 void OptimizeView::cleanAll(const QList<CacheTarget>& targets) {
     m_caches->setCleaning(true);
-    m_model.cleanAll(targets).then(
+    m_model.cleanup().cleanAll(targets).then(
         [self = QPointer<OptimizeView>(this), asked = targets.size()](std::pair<int, quint64> cleaned) {
             if (!self)
                 return;
-            const CleanupReport& report = self->m_model.cleanReport();
+            const CleanupReport& report = self->m_model.cleanup().report();
             QStringList sentences{CleanupTexts::outcome(asked, cleaned, report)};
             if (!report.failures.isEmpty())
                 sentences.append(CleanupTexts::unfinished(report));

@@ -1,9 +1,10 @@
 #include "UI/Optimize/PresetTile.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -25,9 +26,7 @@ PresetTile::PresetTile(QWidget* parent)
     setFixedHeight(tileHeight);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
-    connect(this, &PresetTile::pressed, this, [this] { m_pressed = m_preset; });
-    connect(this, &PresetTile::clicked, this, [this] { Q_EMIT killRequested(m_pressed); });
+    actOnPressed(this, m_preset, [this](const auto& preset) { Q_EMIT killRequested(preset); });
 }
 
 QSize PresetTile::sizeHint() const {
@@ -51,34 +50,25 @@ void PresetTile::paintEvent(QPaintEvent*) {
     const bool hits = m_matches > 0;
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::gray, 0.06),
                        hits ? Theme::color(Role::red, 0.4) : Theme::color(Role::gray, 0.25));
-    if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), Theme::cardRadius,
-                           Theme::color(Role::hoverFill, isDown() ? 1 : 0.6), Qt::transparent);
-    if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+    Painting::drawFeedback(painter, *this, Theme::cardRadius, 0.6);
 
     QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
     Symbols::draw(painter, m_preset.symbol, Theme::color(hits ? Role::red : Role::secondaryText),
                   QRectF(line.left(), 0, symbolWidth, height()), symbolWidth);
     line.setLeft(line.left() + symbolWidth + padding);
     if (hits) {
-        painter.setFont(Theme::font(TextStyle::caption, QFont::Bold));
+        const QFont font = Theme::font(TextStyle::caption, QFont::Bold);
         const QString count = QString::number(m_matches);
         const double width =
-            std::max<double>(badgeHeight, Painting::tabularWidth(painter.font(), count) + 2 * badgePadding);
+            std::max<double>(badgeHeight, Painting::tabularWidth(font, count) + 2 * badgePadding);
         const QRectF badge(line.right() - width, (height() - badgeHeight) / 2.0, width, badgeHeight);
-        Painting::drawCard(painter, badge, badgeHeight / 2.0, Theme::tileColor(Role::red, 0.85),
-                           Qt::transparent);
-        painter.setPen(Qt::white);
-        Painting::drawTabular(painter, badge, Qt::AlignHCenter, count);
+        Painting::drawBadge(painter, badge, Role::red, font, count);
         line.setRight(badge.left() - Theme::rowSpacing);
     }
-    painter.setFont(Theme::font(TextStyle::callout, QFont::Medium));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText, QFont::Medium);
     Painting::drawElided(painter, line.adjusted(0, 7, 0, -line.height() / 2), Qt::ElideRight,
                          Formatters::visible(m_preset.name));
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawElided(painter, line.adjusted(0, line.height() / 2, 0, -8), Qt::ElideRight,
                          Formatters::visible(m_preset.summaryLine()));
 }

@@ -24,6 +24,5 @@ protected:
 
 private:
     QuickKillPreset m_preset;
-    QuickKillPreset m_pressed;
     int m_matches = 0;
 };

@@ -1,6 +1,6 @@
 #include "UI/Optimize/QuickKillsCard.h"
 
-#include "AppModel.h"
+#include "Model/ProcessActions.h"
 #include "UI/Optimize/PresetTile.h"
 
 #include <QGridLayout>
@@ -15,25 +15,23 @@ constexpr int tileGap = 10;
 QuickKillsCard::QuickKillsCard(QWidget* parent)
     : OptimizeCard(tr("Quick Kills"), tr("Preset purges for common RAM hogs"), QStringLiteral("xmark.circle"),
                    Theme::Role::red, parent)
-    , m_grid(new QGridLayout) {
+    , m_grid(new QGridLayout)
+    , m_tiles([this] {
+        auto* tile = new PresetTile;
+        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
+        const int index = m_grid->count();
+        m_grid->addWidget(tile, index / columns, index % columns);
+        return tile;
+    }) {
     m_grid->setSpacing(tileGap);
     for (int column = 0; column < columns; ++column)
         m_grid->setColumnStretch(column, 1);
     content()->addLayout(m_grid);
 }
 
-void QuickKillsCard::refresh(const AppModel& model, const QList<QuickKillPreset>& presets) {
-    while (m_tiles.size() > presets.size())
-        delete m_tiles.takeLast();
-    while (m_tiles.size() < presets.size()) {
-        auto* tile = new PresetTile;
-        const int index = static_cast<int>(m_tiles.size());
-        m_grid->addWidget(tile, index / columns, index % columns);
-        connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
-        m_tiles.append(tile);
-    }
-    for (qsizetype i = 0; i < presets.size(); ++i) {
+void QuickKillsCard::refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets) {
+    m_tiles.show(presets.size(), [&](PresetTile& tile, qsizetype i) {
         const QuickKillPreset& preset = presets[i];
-        m_tiles[i]->set(preset, model.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
-    }
+        tile.set(preset, actions.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));
+    });
 }

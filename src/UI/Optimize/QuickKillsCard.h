@@ -1,10 +1,11 @@
 #pragma once
 
 #include "Core/Relief/QuickKillPreset.h"
+#include "UI/Kit/RowPool.h"
 #include "UI/Optimize/OptimizeCard.h"
 
-class AppModel;
 class PresetTile;
+class ProcessActions;
 class QGridLayout;
 
 /// One tile per preset, two abreast.
@@ -14,12 +15,12 @@ class QuickKillsCard : public OptimizeCard {
 public:
     explicit QuickKillsCard(QWidget* parent = nullptr);
 
-    void refresh(const AppModel& model, const QList<QuickKillPreset>& presets);
+    void refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets);
 
 Q_SIGNALS:
     void killRequested(const QuickKillPreset& preset);
 
 private:
     QGridLayout* m_grid;
-    QList<PresetTile*> m_tiles;
+    RowPool<PresetTile> m_tiles;
 };

@@ -2,9 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -33,8 +34,7 @@ ServerRow::ServerRow(QWidget* parent)
     setFixedHeight(rowHeight);
     auto* quit = new IconButton(QStringLiteral("stop.circle"), tr("Quit"));
     m_buttonWidth = quit->width();
-    connect(quit, &IconButton::pressed, this, [this] { m_pressed = m_server; });
-    connect(quit, &IconButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressed); });
+    actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();
@@ -59,8 +59,7 @@ void ServerRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = rect();
     Painting::takeRight(line, m_buttonWidth);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
                           Formatters::bytes(m_server.rssBytes));
     painter.setPen(Theme::color(Role::secondaryText));

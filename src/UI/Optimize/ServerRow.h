@@ -22,6 +22,5 @@ protected:
 
 private:
     MCPInspector::LiveServer m_server;
-    MCPInspector::LiveServer m_pressed;
     int m_buttonWidth;
 };

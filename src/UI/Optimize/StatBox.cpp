@@ -1,6 +1,6 @@
 #include "UI/Optimize/StatBox.h"
 
-#include "UI/Kit/Painting.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 
@@ -9,7 +9,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int padding = 10;
-constexpr int leastWidth = 92;
+constexpr int minWidth = 92;
 constexpr double letterSpacing = 0.5;
 
 QFont labelFont() {
@@ -41,12 +41,12 @@ void StatBox::set(const QString& value, Theme::Role role) {
 
 QSize StatBox::sizeHint() const {
     const int heights = QFontMetrics(labelFont()).height() + QFontMetrics(valueFont()).height();
-    return {leastWidth, heights + Theme::textGap + 2 * padding};
+    return {minWidth, heights + Theme::textGap + 2 * padding};
 }
 
 void StatBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1), Qt::transparent);
+    Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1));
     QRectF area = QRectF(rect()).adjusted(padding, padding, -padding, -padding);
     const double labelHeight = QFontMetricsF(labelFont()).height();
     painter.setFont(labelFont());

@@ -1,8 +1,9 @@
 #include "UI/Overview/AlertStripView.h"
 
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/Severity.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>
@@ -40,8 +41,7 @@ AlertCard::AlertCard(QWidget* parent)
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
     , m_quit(new PushButton(tr("Quit"), PushButton::Look::prominent)) {
     m_quit->setSmall();
-    connect(m_quit, &QPushButton::pressed, this, [this] { m_pressedPid = m_actionPid; });
-    connect(m_quit, &QPushButton::clicked, this, [this] { Q_EMIT quitRequested(m_pressedPid); });
+    actOnPressed(m_quit, m_actionPid, [this](qint32 pid) { Q_EMIT quitRequested(pid); });
     auto* texts = new QVBoxLayout;
     texts->setSpacing(Theme::textGap);
     texts->addWidget(m_title);
@@ -66,7 +66,13 @@ void AlertCard::set(const Alert& alert) {
 AlertStripView::AlertStripView(QWidget* parent)
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
-    , m_healthy(makeHealthyCard()) {
+    , m_healthy(makeHealthyCard())
+    , m_cards([this] {
+        auto* card = new AlertCard;
+        connect(card, &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
+        m_column->addWidget(card);
+        return card;
+    }) {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(m_healthy);
@@ -74,13 +80,5 @@ AlertStripView::AlertStripView(QWidget* parent)
 
 void AlertStripView::set(const QList<Alert>& alerts) {
     m_healthy->setVisible(alerts.isEmpty());
-    while (m_cards.size() < alerts.size()) {
-        m_cards.append(new AlertCard);
-        m_column->addWidget(m_cards.last());
-        connect(m_cards.last(), &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
-    }
-    while (m_cards.size() > alerts.size())
-        delete m_cards.takeLast();
-    for (qsizetype i = 0; i < alerts.size(); ++i)
-        m_cards[i]->set(alerts[i]);
+    m_cards.show(alerts.size(), [&alerts](AlertCard& card, qsizetype i) { card.set(alerts[i]); });
 }

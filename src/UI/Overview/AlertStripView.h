@@ -2,6 +2,7 @@
 
 #include "Core/Alerts/Alert.h"
 #include "UI/Kit/Card.h"
+#include "UI/Kit/RowPool.h"
 
 class PushButton;
 class QVBoxLayout;
@@ -27,7 +28,6 @@ private:
     TextLabel* m_detail;
     PushButton* m_quit;
     qint32 m_actionPid = 0;
-    qint32 m_pressedPid = 0;
 };
 
 /// The alerts in force, one card each, or the word that there are none.
@@ -45,5 +45,5 @@ Q_SIGNALS:
 private:
     QVBoxLayout* m_column;
     QWidget* m_healthy; ///< shown while nothing is wrong
-    QList<AlertCard*> m_cards;
+    RowPool<AlertCard> m_cards;
 };

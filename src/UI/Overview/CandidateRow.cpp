@@ -2,8 +2,8 @@
 
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/Pressed.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 
@@ -30,9 +30,7 @@ CandidateRow::CandidateRow(QWidget* parent)
     setFixedHeight(rowHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
-    connect(this, &CandidateRow::pressed, this, [this] { m_pressedPid = m_candidate.pid; });
-    connect(this, &CandidateRow::clicked, this, [this] { Q_EMIT ticked(m_pressedPid); });
+    actOnPressed(this, m_candidate.pid, [this](qint32 pid) { Q_EMIT ticked(pid); });
 }
 
 QSize CandidateRow::sizeHint() const {
@@ -56,7 +54,7 @@ void CandidateRow::drawTick(QPainter& painter, const QRectF& area) const {
         Painting::drawCard(painter, area, 4, Theme::color(Role::cardFill), Theme::color(Role::gray));
         return;
     }
-    Painting::drawCard(painter, area, 4, Theme::tileColor(Role::accent), Qt::transparent);
+    Painting::drawCard(painter, area, 4, Theme::tileColor(Role::accent));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -70,19 +68,16 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF ground = QRectF(rect()).adjusted(0, 1, 0, -1);
     if (isChecked())
-        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::accent, tickedOpacity),
-                           Qt::transparent);
+        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::accent, tickedOpacity));
     if (underMouse())
-        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::hoverFill),
-                           Qt::transparent);
+        Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::hoverFill));
     if (hasFocus())
         Painting::drawFocusRing(painter, ground, Theme::controlRadius);
 
     QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
     drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
     line.setLeft(line.left() + boxSide + 10);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, idleWidth), Qt::AlignRight,
                           Formatters::duration(m_candidate.idleSeconds));
     painter.setPen(Theme::color(Role::primaryText));
@@ -92,8 +87,7 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     QRectF upper = line.adjusted(0, 4, 0, -line.height() / 2 + 1);
     painter.setFont(Theme::font(TextStyle::body));
     Painting::drawElided(painter, upper, Qt::ElideMiddle, Formatters::visible(m_candidate.name));
-    painter.setFont(Theme::font(TextStyle::caption2));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
     Painting::drawElided(painter, line.adjusted(0, line.height() / 2, 0, -5), Qt::ElideRight,
                          details(m_candidate));
 }

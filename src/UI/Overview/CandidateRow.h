@@ -27,5 +27,4 @@ private:
     void drawTick(QPainter& painter, const QRectF& area) const;
 
     FreeRamPreview m_candidate;
-    qint32 m_pressedPid = 0;
 };

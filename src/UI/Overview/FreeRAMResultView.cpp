@@ -1,9 +1,11 @@
 #include "UI/Overview/FreeRAMResultView.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -16,7 +18,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int rowHeight = 22;
-constexpr int mostRowsShown = 5;
+constexpr int maxRowsShown = 5;
 
 struct Look {
     QString symbol;
@@ -57,20 +59,17 @@ protected:
         Symbols::draw(painter, m_look.symbol, Theme::color(m_look.role),
                       QRectF(0, 0, Theme::iconColumn, height()), 14);
         line.setLeft(Theme::iconColumn + 4);
-        painter.setFont(Theme::font(TextStyle::caption, QFont::Medium));
-        painter.setPen(Theme::color(m_look.role));
+        Painting::setTextStyle(painter, TextStyle::caption, m_look.role, QFont::Medium);
         const double outcomeWidth = QFontMetricsF(painter.font()).horizontalAdvance(m_look.text);
         Painting::drawElided(painter, QRectF(line.right() - outcomeWidth - 1, 0, outcomeWidth + 1, height()),
                              Qt::ElideRight, m_look.text);
-        painter.setFont(Theme::font(TextStyle::caption));
-        painter.setPen(Theme::color(Role::primaryText));
+        Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
         const QFontMetricsF metrics(painter.font());
         const double idWidth = metrics.horizontalAdvance(m_id) + Theme::rowSpacing;
         line.setRight(line.right() - outcomeWidth - Theme::rowSpacing - idWidth);
         const QString name = metrics.elidedText(m_name, Qt::ElideMiddle, line.width());
         Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
-        painter.setFont(Theme::font(TextStyle::caption2));
-        painter.setPen(Theme::color(Role::secondaryText));
+        Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
         line.setLeft(line.left() + metrics.horizontalAdvance(name) + 6);
         line.setRight(line.left() + idWidth);
         Painting::drawTabular(painter, line, Qt::AlignLeft, m_id);
@@ -88,7 +87,8 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     : Card(parent, Role::green)
     , m_freed(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_nudged((new TextLabel(TextStyle::caption))->secondary())
-    , m_area(new QScrollArea) {
+    , m_area(new QScrollArea)
+    , m_rowsLayout(makeScrollingPage(m_area, {}, 0)) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
     m_nudged->setPlainText(tr("• memory_pressure nudged"));
@@ -99,17 +99,9 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     head->addWidget(m_nudged);
     head->addStretch();
 
-    auto* rows = new QWidget;
-    m_rowsLayout = new QVBoxLayout(rows);
-    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowsLayout->setSpacing(0);
-    m_area->setWidget(rows);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->viewport()->setAutoFillBackground(false);
-    rows->setAutoFillBackground(false);
-    SlimScrollBar::install(m_area);
+    m_area->widget()->setAutoFillBackground(false);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, 10, Theme::cardPadding, 10);
@@ -127,7 +119,7 @@ void FreeRAMResultView::set(const FreeRAMResult& result) {
         m_rows.append(new OutcomeRow(record));
         m_rowsLayout->addWidget(m_rows.last());
     }
-    const auto shown = std::min<qsizetype>(m_rows.size(), mostRowsShown);
+    const auto shown = std::min<qsizetype>(m_rows.size(), maxRowsShown);
     m_area->setFixedHeight(static_cast<int>(shown) * rowHeight);
     m_area->setVisible(!m_rows.isEmpty());
 }

@@ -7,8 +7,8 @@
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/CandidateRow.h"
 #include "UI/Overview/FreeRAMResultView.h"
@@ -35,9 +35,15 @@ constexpr qsizetype preselected = 5;
 FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     : QDialog(parent)
     , m_model(model)
-    , m_minIdle(new LabeledSlider(tr("Min idle: "), tr(" min"), {0, 60, 1}, initialMinIdle, sliderWidth))
-    , m_minRSS(new LabeledSlider(tr("Min RAM: "), tr(" MB"), {50, 2000, 50}, initialMinRSS, sliderWidth))
+    , m_minIdle(new LabeledSlider(tr("Min idle: %1 min"), {0, 60, 1}, initialMinIdle, sliderWidth))
+    , m_minRSS(new LabeledSlider(tr("Min RAM: %1 MB"), {50, 2000, 50}, initialMinRSS, sliderWidth))
     , m_stack(new QStackedWidget)
+    , m_rows([this] {
+        auto* row = new CandidateRow;
+        connect(row, &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
+        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, row);
+        return row;
+    })
     , m_selectAll(new PushButton(tr("Select all")))
     , m_clear(new PushButton(tr("Clear")))
     , m_count(new TextLabel(TextStyle::callout))
@@ -98,18 +104,11 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
 }
 
 QWidget* FreeRAMSheet::makeList() {
-    auto* rows = new QWidget;
-    m_rowsLayout = new QVBoxLayout(rows);
-    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowsLayout->setSpacing(0);
-    m_rowsLayout->addStretch();
     auto* area = new QScrollArea;
-    area->setWidget(rows);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    m_rowsLayout = makeScrollingPage(area, {}, 0);
+    m_rowsLayout->addStretch();
     area->setFocusPolicy(Qt::NoFocus);
     area->setAccessibleName(tr("Processes"));
-    SlimScrollBar::install(area);
     m_stack->addWidget(area);
     m_stack->addWidget(new EmptyState(QStringLiteral("checkmark.circle"),
                                       tr("No idle hogs above your thresholds"),
@@ -130,13 +129,13 @@ QLayout* FreeRAMSheet::makeSelectionBar() {
 }
 
 void FreeRAMSheet::preselect() {
-    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
     for (const FreeRamPreview& candidate : m_candidates.mid(0, preselected))
         m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
 }
 
 void FreeRAMSheet::refresh() {
-    m_candidates = m_model.freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
     forgetEnded();
     refreshRows();
     refreshButtons();
@@ -151,17 +150,9 @@ void FreeRAMSheet::forgetEnded() {
 }
 
 void FreeRAMSheet::refreshRows() {
-    while (m_rows.size() < m_candidates.size()) {
-        m_rows.append(new CandidateRow);
-        m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, m_rows.last());
-        connect(m_rows.last(), &CandidateRow::ticked, this, &FreeRAMSheet::toggle);
-    }
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        const bool isUsed = i < m_candidates.size();
-        if (isUsed)
-            m_rows[i]->set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
-        m_rows[i]->setVisible(isUsed);
-    }
+    m_rows.show(m_candidates.size(), [this](CandidateRow& row, qsizetype i) {
+        row.set(m_candidates[i], m_selected.contains(m_candidates[i].pid));
+    });
     m_stack->setCurrentIndex(m_candidates.isEmpty() ? 1 : 0);
 }
 
@@ -228,10 +219,12 @@ void FreeRAMSheet::start() {
     m_running = true;
     m_result->hide();
     refresh();
-    m_model.freeRAM(tickedPids()).then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
-        if (self)
-            self->finish(result);
-    });
+    m_model.actions()
+        .freeRAM(tickedPids())
+        .then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
+            if (self)
+                self->finish(result);
+        });
 }
 
 void FreeRAMSheet::finish(const FreeRAMResult& result) {

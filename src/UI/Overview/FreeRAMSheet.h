@@ -2,7 +2,7 @@
 
 #include "Core/Instant.h"
 #include "Core/Relief/FreeRAM.h"
-#include "Platform/Clock.h"
+#include "UI/Kit/RowPool.h"
 
 #include <QDialog>
 #include <QHash>
@@ -52,7 +52,7 @@ private:
     LabeledSlider* m_minRSS;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
-    QList<CandidateRow*> m_rows;
+    RowPool<CandidateRow> m_rows;
     PushButton* m_selectAll;
     PushButton* m_clear;
     TextLabel* m_count;

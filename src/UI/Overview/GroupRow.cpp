@@ -2,10 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/ProcessRow.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -36,7 +36,6 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
     describe();
 }
 
@@ -77,8 +76,7 @@ void GroupHeader::keyPressEvent(QKeyEvent* event) {
 void GroupHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (underMouse())
-        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill),
-                           Qt::transparent);
+        Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill));
 
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     const auto secondary = Theme::color(Role::secondaryText);
@@ -91,8 +89,7 @@ void GroupHeader::paintEvent(QPaintEvent*) {
     const auto cpu = tr("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
     Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth, columnGap), Qt::AlignRight, cpu);
 
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth, columnGap), Qt::AlignRight,
                           Formatters::bytes(m_rollup.rssBytes));
 
@@ -111,13 +108,11 @@ void GroupHeader::paintLabel(QPainter& painter, QRectF area) {
 
     area.setLeft(icon.right() + Theme::rowSpacing);
     const QString label = Translations::of(m_rollup.group);
-    painter.setFont(Theme::font(TextStyle::body, QFont::Medium));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     Painting::drawElided(painter, area, Qt::ElideRight, label);
 
     area.setLeft(area.left() + QFontMetricsF(painter.font()).horizontalAdvance(label) + 6);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, area, Qt::AlignLeft, QStringLiteral("(%1)").arg(m_rollup.count));
 }
 
@@ -125,6 +120,13 @@ GroupRow::GroupRow(ProcGroup group, QWidget* parent)
     : Card(parent)
     , m_header(new GroupHeader(group))
     , m_body(new QWidget)
+    , m_rows([this] {
+        auto* row = new ProcessRow;
+        connect(row, &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
+        connect(row, &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
+        m_rowsLayout->addWidget(row);
+        return row;
+    })
     , m_overflow((new TextLabel(TextStyle::caption))->secondary()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -155,21 +157,8 @@ void GroupRow::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded,
 
 void GroupRow::showMembers(const QList<ProcSample>& members) {
     const qsizetype shown = std::min(members.size(), shownMembers);
-    while (m_rows.size() < shown) {
-        m_rows.append(new ProcessRow);
-        m_rowsLayout->addWidget(m_rows.last());
-        connect(m_rows.last(), &ProcessRow::quitRequested, this, &GroupRow::quitRequested);
-        connect(m_rows.last(), &ProcessRow::forceKillRequested, this, &GroupRow::forceKillRequested);
-    }
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (i < shown)
-            m_rows[i]->set(members[i]);
-        m_rows[i]->setVisible(i < shown);
-    }
-    showOverflow(members.size() - shown);
-}
-
-void GroupRow::showOverflow(qsizetype hidden) {
+    m_rows.show(shown, [&members](ProcessRow& row, qsizetype i) { row.set(members[i]); });
+    const qsizetype hidden = members.size() - shown;
     m_overflow->setPlainText(tr("… +%1 more in Processes tab").arg(hidden));
     m_overflow->setVisible(hidden > 0);
 }

@@ -3,6 +3,7 @@
 #include "Core/Grouping/GroupRollup.h"
 #include "Core/Sampling/ProcSample.h"
 #include "UI/Kit/Card.h"
+#include "UI/Kit/RowPool.h"
 
 #include <QAbstractButton>
 
@@ -31,12 +32,11 @@ Q_SIGNALS:
 
 private:
     void showMembers(const QList<ProcSample>& members);
-    void showOverflow(qsizetype hidden);
 
     GroupHeader* m_header;
     QVBoxLayout* m_rowsLayout;
     QWidget* m_body;
-    QList<ProcessRow*> m_rows;
+    RowPool<ProcessRow> m_rows;
     TextLabel* m_overflow;
 };
 

@@ -1,7 +1,7 @@
 #include "UI/Overview/MetricTile.h"
 
-#include "UI/Kit/Painting.h"
 #include "UI/Overview/Sparkline.h"
+#include "UI/Style/Painting.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -55,16 +55,14 @@ void MetricTile::changeEvent(QEvent* event) {
 
 void MetricTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::tileRadius, Theme::color(Role::cardFill),
-                       Theme::color(Role::cardBorder));
+    Painting::drawCard(painter, rect(), Theme::tileRadius);
     paintFigures(painter);
 }
 
 void MetricTile::paintFigures(QPainter& painter) {
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, Theme::cardPadding, -Theme::cardPadding, 0);
     const auto next = [&](TextStyle style, QFont::Weight weight, Role role) {
-        painter.setFont(Theme::font(style, weight));
-        painter.setPen(Theme::color(role));
+        Painting::setTextStyle(painter, style, role, weight);
         line.setHeight(lineHeight(painter.font()));
     };
     next(TextStyle::caption, QFont::Medium, Role::secondaryText);

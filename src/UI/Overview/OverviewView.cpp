@@ -4,7 +4,7 @@
 #include "Core/Observe.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -30,20 +30,12 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     : QScrollArea(parent)
     , m_model(model)
     , m_alerts(new AlertStripView) {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(Theme::pageMargins);
-    column->setSpacing(Theme::pageSpacing);
+    auto* column = makeScrollingPage(this, Theme::pageMargins, Theme::pageSpacing);
     column->addLayout(makeHeader());
     column->addWidget(m_alerts);
     column->addLayout(makeTiles());
     column->addLayout(makeGroups());
     column->addStretch();
-
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(this);
     setAccessibleName(tr("Overview"));
 
     connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);
@@ -82,8 +74,8 @@ QLayout* OverviewView::makeGroups() {
         auto* row = new GroupRow(group);
         row->hide();
         connect(row, &GroupRow::toggled, this, [this, group] { toggle(group); });
-        connect(row, &GroupRow::quitRequested, &m_model, &AppModel::quitProcess);
-        connect(row, &GroupRow::forceKillRequested, &m_model, &AppModel::forceKillProcess);
+        connect(row, &GroupRow::quitRequested, &m_model.actions(), &ProcessActions::quitProcess);
+        connect(row, &GroupRow::forceKillRequested, &m_model.actions(), &ProcessActions::forceKillProcess);
         column->addWidget(row);
         m_groupRows.append(row);
     }
@@ -137,7 +129,7 @@ void OverviewView::quitAlerted(qint32 pid) {
     ProcSample named;
     named.pid = pid;
     const ProcSample* process = m_model.process(pid);
-    m_model.quitProcess(process ? *process : named);
+    m_model.actions().quitProcess(process ? *process : named);
 }
 
 void OverviewView::toggle(ProcGroup group) {

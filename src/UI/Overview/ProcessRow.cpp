@@ -2,11 +2,14 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
+#include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <functional>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -39,8 +42,7 @@ ProcessRow::ProcessRow(QWidget* parent)
 IconButton* ProcessRow::addButton(const QString& symbol, const QString& help, Role tint,
                                   void (ProcessRow::*request)(const ProcSample&)) {
     auto* button = new IconButton(symbol, help, tint);
-    connect(button, &IconButton::pressed, this, [this] { m_pressed = m_process; });
-    connect(button, &IconButton::clicked, this, [this, request] { Q_EMIT(this->*request)(m_pressed); });
+    actOnPressed(button, m_process, std::bind_front(request, this));
     return button;
 }
 
@@ -64,8 +66,7 @@ void ProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     Painting::takeRight(line, m_buttonsWidth);
-    painter.setFont(Theme::font(TextStyle::caption));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, memoryWidth), Qt::AlignRight, m_memory);
     Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth), Qt::AlignRight, m_cpu);
 
@@ -73,7 +74,6 @@ void ProcessRow::paintEvent(QPaintEvent*) {
     Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_process.pid));
 
     line.setLeft(line.left() + pidWidth);
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Sampling/ProcSample.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
 #include <QWidget>
 
@@ -29,7 +29,6 @@ private:
                           void (ProcessRow::*request)(const ProcSample&));
 
     ProcSample m_process;
-    ProcSample m_pressed;
     QString m_name;
     QString m_cpu;
     QString m_memory;

@@ -1,46 +1,37 @@
 #include "UI/Processes/ProcessControls.h"
 
+#include "Core/Translations.h"
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Processes/ProcessColumns.h"
+#include "UI/Style/Theme.h"
 
+#include <QCheckBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 
 namespace {
 
 constexpr int sliderWidth = 140;
 
-QString labelOf(SortBy sort) {
-    switch (sort) {
-    case SortBy::ram:
-        return QStringLiteral("RAM");
-    case SortBy::cpu:
-        return QStringLiteral("CPU");
-    case SortBy::name:
-        return QStringLiteral("Name");
-    case SortBy::idle:
-        return QStringLiteral("Idle");
-    }
-    return {};
-}
-
 } // namespace
 
 ProcessControls::ProcessControls(QWidget* parent)
     : QWidget(parent)
-    , m_search(new SearchField(QStringLiteral("Search name or path")))
-    , m_group(new PopUpButton(QStringLiteral("Group")))
-    , m_sort(new PopUpButton(QStringLiteral("Sort")))
-    , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM "), QStringLiteral(" MB"), {0, 500, 10},
-                                 ProcessQuery().minRSSMB, sliderWidth))
-    , m_fold(new Switch(QStringLiteral("Group duplicates"))) {
-    m_group->addItem(QStringLiteral("All"));
+    , m_search(new SearchField(tr("Search name or path")))
+    , m_group(new PopUpButton(tr("Group")))
+    , m_sort(new PopUpButton(tr("Sort")))
+    , m_minRSS(new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, sliderWidth))
+    , m_fold(new QCheckBox(tr("Group duplicates"))) {
+    m_group->addItem(tr("All"));
     for (const ProcGroup group : allCases<ProcGroup>())
-        m_group->addItem(rawValue(group));
-    for (const SortBy sort : allCases<SortBy>())
-        m_sort->addItem(labelOf(sort));
+        m_group->addItem(Translations::of(group));
+    for (const ProcessColumn* column : ProcessColumns::sortable()) {
+        const char* label = column->order.label ? column->order.label : column->title;
+        m_sort->addItem(QCoreApplication::translate("Columns", label), column->id.toString());
+    }
+    setSort(ProcessQuery().sortBy);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
@@ -62,7 +53,7 @@ ProcessControls::ProcessControls(QWidget* parent)
     connect(m_group, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
     connect(m_sort, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
     connect(m_minRSS, &LabeledSlider::valueChanged, this, &ProcessControls::changed);
-    connect(m_fold, &Switch::toggled, this, &ProcessControls::changed);
+    connect(m_fold, &QCheckBox::toggled, this, &ProcessControls::changed);
 }
 
 ProcessQuery ProcessControls::query() const {
@@ -70,7 +61,7 @@ ProcessQuery ProcessControls::query() const {
     query.search = m_search->text();
     if (m_group->currentIndex() > 0)
         query.groupFilter = static_cast<ProcGroup>(m_group->currentIndex() - 1);
-    query.sortBy = static_cast<SortBy>(m_sort->currentIndex());
+    query.sortBy = m_sort->currentData().toString();
     query.minRSSMB = m_minRSS->value();
     return query;
 }
@@ -79,8 +70,8 @@ bool ProcessControls::groupsDuplicates() const {
     return m_fold->isChecked();
 }
 
-void ProcessControls::setSort(SortBy sort) {
-    m_sort->setCurrentIndex(static_cast<int>(sort));
+void ProcessControls::setSort(const QString& column) {
+    m_sort->setCurrentIndex(m_sort->findData(column));
 }
 
 void ProcessControls::focusSearch() {

@@ -6,8 +6,8 @@
 
 class LabeledSlider;
 class PopUpButton;
+class QCheckBox;
 class SearchField;
-class Switch;
 
 /// What narrows and orders the table: search, group, sort, size, and the fold of duplicates.
 class ProcessControls : public QWidget {
@@ -18,7 +18,7 @@ public:
 
     ProcessQuery query() const;
     bool groupsDuplicates() const;
-    void setSort(SortBy sort);
+    void setSort(const QString& column);
     void focusSearch();
 
 Q_SIGNALS:
@@ -29,5 +29,5 @@ private:
     PopUpButton* m_group;
     PopUpButton* m_sort;
     LabeledSlider* m_minRSS;
-    Switch* m_fold;
+    QCheckBox* m_fold;
 };

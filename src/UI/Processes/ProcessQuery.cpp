@@ -1,6 +1,7 @@
 #include "UI/Processes/ProcessQuery.h"
 
-#include <QCollator>
+#include "UI/Processes/ProcessColumns.h"
+
 #include <QHash>
 
 #include <QStringList>
@@ -14,56 +15,20 @@ bool matches(const ProcSample& process, const QString& search) {
            process.executablePath.contains(search, Qt::CaseInsensitive);
 }
 
-/// Comparing names as people sort them is slow, and many processes share one: each name is placed once.
-QHash<QString, int> ranks(const QList<ProcSample>& processes) {
-    QHash<QString, int> result;
-    for (const ProcSample& process : processes)
-        result.insert(process.name, 0);
-    QStringList names = result.keys();
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::sort(names.begin(), names.end(), collator);
-    int rank = 0;
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        if (i > 0 && collator.compare(names[i - 1], names[i]) != 0)
-            ++rank;
-        result[names[i]] = rank;
-    }
-    return result;
-}
-
-void sortByName(QList<ProcSample>& processes) {
-    const QHash<QString, int> rank = ranks(processes);
-    std::ranges::stable_sort(processes, {},
-                             [&rank](const ProcSample& process) { return rank.value(process.name); });
-}
-
 } // namespace
 
 QList<ProcSample> ProcessQuery::filteredAndSorted(const QList<ProcSample>& processes) const {
-    const quint64 leastBytes = static_cast<quint64>(minRSSMB) << 20;
+    const quint64 minBytes = static_cast<quint64>(minRSSMB) << 20;
     QList<ProcSample> result;
     result.reserve(processes.size());
     for (const ProcSample& process : processes) {
-        if (process.rssBytes >= leastBytes && (!groupFilter || groupFilter == process.group) &&
+        if (process.rssBytes >= minBytes && (!groupFilter || groupFilter == process.group) &&
             matches(process, search))
             result.append(process);
     }
-    switch (sortBy) {
-    case SortBy::ram: // the order they come in from the model; sorting would move each of them about
-        if (!std::ranges::is_sorted(result, std::ranges::greater(), &ProcSample::rssBytes))
-            std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::rssBytes);
-        break;
-    case SortBy::cpu:
-        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::cpuPercent);
-        break;
-    case SortBy::name:
-        sortByName(result);
-        break;
-    case SortBy::idle:
-        std::ranges::stable_sort(result, std::ranges::greater(), &ProcSample::idleSeconds);
-        break;
-    }
+    const ProcessColumn* column = ProcessColumns::withId(sortBy);
+    if (column && column->order.sort)
+        column->order.sort(result);
     return result;
 }
 

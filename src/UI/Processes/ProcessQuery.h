@@ -3,17 +3,8 @@
 #include "Core/Sampling/ProcSample.h"
 
 #include <QList>
+
 #include <optional>
-
-enum class SortBy { ram, cpu, name, idle };
-
-template <>
-inline constexpr std::array rawValueTable<SortBy> = {
-    RawValueRow<SortBy>{SortBy::ram, u"ram"},
-    RawValueRow<SortBy>{SortBy::cpu, u"cpu"},
-    RawValueRow<SortBy>{SortBy::name, u"name"},
-    RawValueRow<SortBy>{SortBy::idle, u"idle"},
-};
 
 /// All processes of one name.
 struct GroupedRow {
@@ -28,8 +19,8 @@ struct GroupedRow {
 struct ProcessQuery {
     QString search; ///< part of a name or path, in any case; empty for all
     std::optional<ProcGroup> groupFilter;
-    SortBy sortBy = SortBy::ram;
-    double minRSSMB = 50; ///< MiB
+    QString sortBy = QStringLiteral("ram"); ///< id of a column
+    double minRSSMB = 50;                   ///< MiB
 
     bool operator==(const ProcessQuery&) const = default;
 

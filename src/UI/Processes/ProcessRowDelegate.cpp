@@ -1,10 +1,10 @@
 #include "UI/Processes/ProcessRowDelegate.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -17,12 +17,11 @@ using Theme::TextStyle;
 
 namespace {
 
-using Column = ProcessTableModel::Column;
+using Kind = ProcessColumn::Kind;
 
 constexpr int padding = 8;
-constexpr int buttonSide = 26;
+constexpr int buttonSide = ProcessColumn::buttonSide;
 constexpr int buttonSymbol = 17;
-constexpr int mostButtons = 3;
 constexpr int badgeHeight = 14;
 constexpr int badgePadding = 5;
 
@@ -76,11 +75,7 @@ QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, qsizetype
     const double left = std::min(area.left() + nameWidth + padding, area.right() - width);
     const QRectF badge(left, area.center().y() - badgeHeight / 2.0, width, badgeHeight);
     painter.save();
-    Painting::drawCard(painter, badge, badgeHeight / 2.0, Theme::tileColor(Role::orange, 0.85),
-                       Qt::transparent);
-    painter.setFont(font);
-    painter.setPen(Qt::white);
-    Painting::drawTabular(painter, badge, Qt::AlignHCenter, text);
+    Painting::drawBadge(painter, badge, Role::orange, font, text);
     painter.restore();
     area.setRight(left - padding / 2.0);
     return area;
@@ -110,42 +105,33 @@ QList<RowAction> ProcessRowDelegate::actionsOf(const ProcessTableRow& row, bool 
 
 QString ProcessRowDelegate::helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped) {
     if (action == RowAction::forceKill)
-        return QStringLiteral("Force kill one");
+        return tr("Force kill one");
     if (action == RowAction::quit)
-        return isGrouped ? QStringLiteral("Quit all %1").arg(row.processes.size())
-                         : QStringLiteral("Quit one");
+        return isGrouped ? tr("Quit all %1").arg(row.processes.size()) : tr("Quit one");
     if (isGrouped)
-        return QStringLiteral("Nuke all %1 (with confirm)").arg(row.processes.size());
-    return QStringLiteral("Nuke all %1 “%2” processes")
-        .arg(row.sameName)
-        .arg(Formatters::visible(row.first.name));
-}
-
-int ProcessRowDelegate::actionsWidth() {
-    return mostButtons * buttonSide + padding;
+        return tr("Nuke all %1 (with confirm)").arg(row.processes.size());
+    return tr("Nuke all %1 “%2” processes").arg(row.sameName).arg(Formatters::visible(row.first.name));
 }
 
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
     TableView::paintGround(*painter, option);
     const ProcessTableModel& model = modelOf(index);
-    const Column column = model.column(index.column());
-    if (column == Column::actions) {
+    const ProcessColumn& column = model.columnOf(index);
+    if (column.kind == Kind::actions) {
         paintButtons(*painter, option, index);
         return;
     }
     const QString text = index.data(Qt::DisplayRole).toString();
     const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
     painter->setFont(Theme::font(TextStyle::callout));
-    painter->setPen(Theme::color(column == Column::name || column == Column::ram || column == Column::cpu
-                                     ? Role::primaryText
-                                     : Role::secondaryText));
-    if (column == Column::name)
+    painter->setPen(Theme::color(column.role));
+    if (column.kind == Kind::name)
         paintName(*painter, area, model, model.row(index.row()), text);
-    else if (column == Column::group)
-        Painting::drawElided(*painter, area, Qt::ElideRight, text);
-    else
+    else if (column.isFigure())
         Painting::drawTabular(*painter, area, Qt::AlignRight, text);
+    else
+        Painting::drawElided(*painter, area, Qt::ElideRight, text);
 }
 
 QSize ProcessRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -163,7 +149,7 @@ bool ProcessRowDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const Q
         return false;
     const ProcessTableModel& model = modelOf(index);
     m_pressed.reset();
-    if (model.column(index.column()) != Column::actions)
+    if (model.columnOf(index).kind != Kind::actions)
         return false;
     const ProcessTableRow& row = model.row(index.row());
     int position = 0;
@@ -187,11 +173,10 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         return false;
     const ProcessTableModel& model = modelOf(index);
     const ProcessTableRow& row = model.row(index.row());
-    QString text;
-    if (model.column(index.column()) == Column::name)
-        text = Formatters::visible(row.first.executablePath);
+    const ProcessColumn& column = model.columnOf(index);
+    QString text = column.toolTip ? column.toolTip(row) : QString();
     int position = 0;
-    if (model.column(index.column()) == Column::actions) {
+    if (column.kind == Kind::actions) {
         for (const RowAction action : actionsOf(row, model.isGrouped())) {
             if (buttonRect(option.rect, position++).contains(event->pos()))
                 text = helpOf(action, row, model.isGrouped());

@@ -22,8 +22,6 @@ public:
     /// The buttons that the row has, in order.
     static QList<RowAction> actionsOf(const ProcessTableRow& row, bool isGrouped);
     static QString helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped);
-    /// How wide the column of buttons is.
-    static int actionsWidth();
 
     /// The mouse was let go there; the view says so, because the row may be elsewhere or gone by now.
     void release(const QPoint& position);

@@ -1,16 +1,7 @@
 #pragma once
 
 #include "UI/Processes/KeyedTableModel.h"
-#include "UI/Processes/ProcessQuery.h"
-
-/// One row of either table: a process by itself, or all of one name.
-struct ProcessTableRow {
-    ProcSample first;            ///< the process, or the first of the name
-    QList<ProcSample> processes; ///< empty for a process by itself
-    quint64 rssBytes = 0;
-    double cpuPercent = 0;
-    int sameName = 1; ///< how many processes of the machine have the name
-};
+#include "UI/Processes/ProcessColumns.h"
 
 /// What makes a row the same from one tick to the next: one of the two. Nothing remembers keys, so that names
 /// which never come again leave nothing behind.
@@ -30,16 +21,13 @@ class ProcessTableModel : public KeyedTableModel<ProcessTableRow, ProcessRowKey>
     Q_OBJECT
 
 public:
-    enum class Column { name, group, pid, cpu, ram, threads, idle, procs, actions };
-
     using KeyedTableModel::KeyedTableModel;
 
     /// Whether there is one row a name. Takes the rows away; the caller puts up others.
     void setGrouped(bool grouped);
     bool isGrouped() const { return m_isGrouped; }
-    Column column(int index) const;
-    /// -1 when the table has no such column.
-    int indexOf(Column column) const;
+    const QList<const ProcessColumn*>& columns() const { return m_columns; }
+    const ProcessColumn& columnOf(const QModelIndex& index) const { return *m_columns[index.column()]; }
 
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -50,4 +38,5 @@ protected:
 
 private:
     bool m_isGrouped = false;
+    QList<const ProcessColumn*> m_columns = ProcessColumns::shown(m_isGrouped);
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/StoreLater.h"
+#include "UI/Kit/ColumnWidths.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Processes/ProcessRowDelegate.h"
 #include "UI/Processes/ProcessTableModel.h"
@@ -19,11 +19,11 @@ public:
     /// The same question asked again: rows move, and what is selected or under the pointer stays so.
     void update(QList<ProcessTableRow> rows);
     /// The head of that column is marked; nothing is sorted here.
-    void markSort(SortBy sort);
+    void markSort(const QString& column);
 
 Q_SIGNALS:
     void triggered(RowAction action, const ProcessTableRow& row);
-    void sortRequested(SortBy sort);
+    void sortRequested(const QString& column);
     /// The menu of a row is about to be shown, to be filled now.
     void menuOpens(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
 
@@ -32,15 +32,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QString widthsKey() const;
     void restoreWidths();
-    void storeWidths();
     void requestSort(int section);
 
-    Preferences& m_preferences;
     ProcessTableModel* m_rows;
     ProcessRowDelegate* m_delegate;
-    StoreLater m_storeLater;
-    SortBy m_sort = SortBy::ram;
-    bool m_isRestoring = false;
+    ColumnWidths m_widths;
+    QString m_sort;
 };

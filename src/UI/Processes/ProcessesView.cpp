@@ -42,9 +42,8 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
-    m_stack->addWidget(
-        new EmptyState(QStringLiteral("list.bullet.rectangle"), QStringLiteral("No processes match"),
-                       QStringLiteral("Change the search, the group or Min RAM to see more.")));
+    m_stack->addWidget(new EmptyState(QStringLiteral("list.bullet.rectangle"), tr("No processes match"),
+                                      tr("Change the search, the group or Min RAM to see more.")));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
                                Theme::pagePadding);
@@ -114,14 +113,14 @@ void ProcessesView::refresh() {
 
 void ProcessesView::act(RowAction action, const ProcessTableRow& row) {
     if (action == RowAction::sweep)
-        confirmSweep(m_model.previewForName(row.first.name));
+        confirmSweep(m_model.actions().previewForName(row.first.name));
     else if (action == RowAction::forceKill)
-        m_model.forceKillProcess(row.first);
+        m_model.actions().forceKillProcess(row.first);
     else if (row.processes.isEmpty())
-        m_model.quitProcess(row.first);
+        m_model.actions().quitProcess(row.first);
     for (const ProcSample& process : row.processes) {
         if (action == RowAction::quit)
-            m_model.quitProcess(process);
+            m_model.actions().quitProcess(process);
     }
 }
 
@@ -135,13 +134,14 @@ void ProcessesView::confirmSweep(const NukePreview& preview) {
         add(preview.quitButton(), [this, preview] { quitApplication(preview, false); });
         add(preview.forceQuitButton(), [this, preview] { quitApplication(preview, true); });
     } else {
-        add(preview.killButton(), [this, preview] { m_notice->show(m_model.nuke(preview)); });
+        add(preview.killButton(), [this, preview] { m_notice->show(m_model.actions().nuke(preview)); });
     }
     dialog->open();
 }
 
 void ProcessesView::quitApplication(const NukePreview& preview, bool force) {
-    m_model.nukeGracefulApp(preview, *preview.parentAppName, force)
+    m_model.actions()
+        .nukeGracefulApp(preview, *preview.parentAppName, force)
         .then([self = QPointer<ProcessesView>(this)](const QString& outcome) {
             if (self)
                 self->m_notice->show(outcome);

@@ -4,8 +4,9 @@
 #include "Platform/LoginItem.h"
 #include "Platform/Words.h"
 #include "UI/Kit/FormSection.h"
-#include "UI/Kit/Switch.h"
 #include "UI/Kit/TextLabel.h"
+
+#include <QCheckBox>
 
 GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
     : SettingsForm(preferences, tr("General"), parent)
@@ -17,7 +18,7 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     m_loginError->hide();
     addToggle(startup, tr("Show floating widget on launch"), preferences.showWidgetOnLaunch);
     addToggle(startup, tr("Show in %1").arg(Words::native().taskBar), preferences.showInDock);
-    connect(startAtLogin, &Switch::toggled, this, &GeneralTab::applyLoginItem);
+    connect(startAtLogin, &QCheckBox::toggled, this, &GeneralTab::applyLoginItem);
 
     const auto formats = allCases<MenuBarFormat>();
     addPicker<MenuBarFormat>(addSection(Words::native().statusArea), tr("Display"),
@@ -32,8 +33,8 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
 }
 
 void GeneralTab::applyLoginItem(bool enabled) {
-    const auto reason = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
-    m_loginError->setVisible(reason.has_value());
-    m_loginError->setPlainText((enabled ? tr("Couldn't register: %1") : tr("Couldn't unregister: %1"))
-                                   .arg(reason.value_or(QString())));
+    const Outcome outcome = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
+    m_loginError->setVisible(!outcome.done);
+    m_loginError->setPlainText(
+        (enabled ? tr("Couldn't register: %1") : tr("Couldn't unregister: %1")).arg(outcome.reason));
 }

@@ -1,9 +1,10 @@
 #include "UI/Settings/HistoryRowDelegate.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Kit/ToolTip.h"
+#include "UI/Settings/LocalTimeText.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QAbstractItemView>
 #include <QFontDatabase>
@@ -25,8 +26,8 @@ constexpr int rowHeight = 26;
 constexpr int okWidth = 40;
 constexpr int symbolSize = 14;
 /// Of a detail, which may be a megabyte long: more than any window is wide.
-constexpr qsizetype mostPainted = 2000;
-constexpr qsizetype mostInToolTip = 4000;
+constexpr qsizetype maxPainted = 2000;
+constexpr qsizetype maxInToolTip = 4000;
 
 Column columnOf(const QModelIndex& index) {
     return static_cast<Column>(index.column());
@@ -42,7 +43,7 @@ QFont fontOf(Column column) {
 }
 
 /// The widest date and time of a year.
-double widestTime() {
+double maxTimeWidth() {
     using namespace std::chrono;
     const LocalTimeText texts;
     double widest = 0;
@@ -65,7 +66,7 @@ void paintOutcome(QPainter& painter, const QRectF& area, bool success) {
 int HistoryRowDelegate::widthOf(Column column) {
     switch (column) {
     case Column::time:
-        return qRound(widestTime()) + 1 + 2 * padding;
+        return qRound(maxTimeWidth()) + 1 + 2 * padding;
     case Column::kind:
         return qRound(QFontMetricsF(fontOf(column)).horizontalAdvance(QStringLiteral("forceKill"))) + 1 +
                2 * padding;
@@ -96,7 +97,7 @@ void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     if (column == Column::freed)
         Painting::drawTabular(*painter, area, Qt::AlignRight, text);
     else
-        Painting::drawElided(*painter, area, Qt::ElideRight, text.left(mostPainted));
+        Painting::drawElided(*painter, area, Qt::ElideRight, text.left(maxPainted));
 }
 
 QSize HistoryRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -109,9 +110,9 @@ bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         return false;
     const QString text = index.data(Qt::DisplayRole).toString();
     const QFontMetricsF metrics(fontOf(columnOf(index)));
-    const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(mostPainted)) <=
+    const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(maxPainted)) <=
                                                               option.rect.width() - 2 * padding;
-    const QString shown = text.size() > mostInToolTip ? text.left(mostInToolTip) + u'…' : text;
+    const QString shown = text.size() > maxInToolTip ? text.left(maxInToolTip) + u'…' : text;
     QToolTip::showText(event->globalPos(), isWhole ? QString() : plainToolTip(shown), view);
     return true;
 }

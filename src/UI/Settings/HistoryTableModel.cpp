@@ -1,6 +1,8 @@
 #include "UI/Settings/HistoryTableModel.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/TableColumn.h"
+#include "UI/Settings/LocalTimeText.h"
 
 #include <algorithm>
 
@@ -8,50 +10,53 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Column = HistoryTableModel::Column;
-using IsLess = bool (*)(const LoggedAction&, const LoggedAction&);
+struct HistoryColumn {
+    const char* title;
+    QString (*text)(const LoggedAction&);
+    bool (*isLess)(const LoggedAction&, const LoggedAction&);
+    Qt::Alignment alignment = Qt::AlignLeft;
+    /// What one looks for first: the newest, the largest, the failed.
+    Qt::SortOrder first = Qt::AscendingOrder;
+};
 
-IsLess lessBy(Column column) {
-    switch (column) {
-    case Column::time:
-        break;
-    case Column::kind:
-        return [](const LoggedAction& one, const LoggedAction& other) { return one.kind < other.kind; };
-    case Column::detail:
-        return [](const LoggedAction& one, const LoggedAction& other) {
-            return one.detail.compare(other.detail, Qt::CaseInsensitive) < 0;
-        };
-    case Column::freed:
-        return [](const LoggedAction& one, const LoggedAction& other) {
-            return one.freedBytes < other.freedBytes;
-        };
-    case Column::ok:
-        return [](const LoggedAction& one, const LoggedAction& other) { return one.success < other.success; };
-    }
-    return [](const LoggedAction& one, const LoggedAction& other) { return one.timestamp < other.timestamp; };
+template <auto member> bool isLess(const LoggedAction& one, const LoggedAction& other) {
+    return one.*member < other.*member;
 }
 
-QString titleOf(Column column) {
-    switch (column) {
-    case Column::time:
-        return HistoryTableModel::tr("Time");
-    case Column::kind:
-        return HistoryTableModel::tr("Kind");
-    case Column::detail:
-        return HistoryTableModel::tr("Detail");
-    case Column::freed:
-        return HistoryTableModel::tr("Freed");
-    case Column::ok:
-        return HistoryTableModel::tr("OK");
-    }
-    return {};
+bool isLessInDetail(const LoggedAction& one, const LoggedAction& other) {
+    return one.detail.compare(other.detail, Qt::CaseInsensitive) < 0;
 }
 
-Qt::Alignment alignmentOf(Column column) {
-    if (column == Column::freed)
-        return Qt::AlignRight | Qt::AlignVCenter;
-    return (column == Column::ok ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
+QString timeOf(const LoggedAction& action) {
+    static const LocalTimeText times;
+    return times.of(action.timestamp);
 }
+
+/// In the order of Column.
+constexpr HistoryColumn table[HistoryTableModel::columns] = {
+    {.title = QT_TRANSLATE_NOOP("Columns", "Time"),
+     .text = timeOf,
+     .isLess = isLess<&LoggedAction::timestamp>,
+     .first = Qt::DescendingOrder},
+    {.title = QT_TRANSLATE_NOOP("Columns", "Kind"),
+     .text = [](const LoggedAction& action) { return Formatters::visible(action.kind); },
+     .isLess = isLess<&LoggedAction::kind>},
+    {.title = QT_TRANSLATE_NOOP("Columns", "Detail"),
+     .text = [](const LoggedAction& action) { return Formatters::visible(action.detail); },
+     .isLess = isLessInDetail},
+    {.title = QT_TRANSLATE_NOOP("Columns", "Freed"),
+     .text = [](const LoggedAction& action) { return Formatters::bytes(action.freedBytes); },
+     .isLess = isLess<&LoggedAction::freedBytes>,
+     .alignment = Qt::AlignRight,
+     .first = Qt::DescendingOrder},
+    {.title = QT_TRANSLATE_NOOP("Columns", "OK"), // shown as a symbol; said and copied as a word
+     .text =
+         [](const LoggedAction& action) {
+             return action.success ? HistoryTableModel::tr("OK") : HistoryTableModel::tr("Failed");
+         },
+     .isLess = isLess<&LoggedAction::success>,
+     .alignment = Qt::AlignHCenter},
+};
 
 } // namespace
 
@@ -88,7 +93,7 @@ void HistoryTableModel::filter() {
 /// Rows that are equal in the column stay newest first.
 void HistoryTableModel::arrange() {
     std::sort(m_filtered.begin(), m_filtered.end());
-    const IsLess isLess = lessBy(m_sortColumn);
+    const auto isLess = table[static_cast<int>(m_sortColumn)].isLess;
     const bool ascending = m_sortOrder == Qt::AscendingOrder;
     std::stable_sort(m_filtered.begin(), m_filtered.end(), [&](int one, int other) {
         return ascending ? isLess(m_entries[one], m_entries[other])
@@ -126,36 +131,11 @@ int HistoryTableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant HistoryTableModel::data(const QModelIndex& index, int role) const {
-    const auto column = static_cast<Column>(index.column());
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(alignmentOf(column));
-    if (role != Qt::DisplayRole)
-        return {};
-    const LoggedAction& action = filtered(index.row());
-    switch (column) {
-    case Column::time:
-        return m_times.of(action.timestamp);
-    case Column::kind:
-        return Formatters::visible(action.kind);
-    case Column::detail:
-        return Formatters::visible(action.detail);
-    case Column::freed:
-        return Formatters::bytes(action.freedBytes);
-    case Column::ok: // shown as a symbol; said and copied as a word
-        return action.success ? tr("OK") : tr("Failed");
-    }
-    return {};
+    return cellData(table[index.column()], filtered(index.row()), role);
 }
 
 QVariant HistoryTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal)
         return {};
-    const auto column = static_cast<Column>(section);
-    if (role == Qt::DisplayRole)
-        return titleOf(column);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(alignmentOf(column));
-    if (role == Qt::InitialSortOrderRole) // what one looks for first: the newest, the largest, the failed
-        return column == Column::time || column == Column::freed ? Qt::DescendingOrder : Qt::AscendingOrder;
-    return {};
+    return role == Qt::InitialSortOrderRole ? table[section].first : headData(table[section], role);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Core/ActionLog/ActionLogReader.h"
-#include "UI/Settings/LocalTimeText.h"
 
 #include <QAbstractTableModel>
 #include <QList>
@@ -42,5 +41,4 @@ private:
     QList<int> m_filtered; ///< positions in `m_entries`
     Column m_sortColumn = Column::time;
     Qt::SortOrder m_sortOrder = Qt::DescendingOrder;
-    LocalTimeText m_times;
 };

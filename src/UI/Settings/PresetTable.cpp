@@ -2,9 +2,9 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
 #include "UI/Settings/PresetTableModel.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -14,7 +14,6 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
-#include <array>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -48,7 +47,7 @@ public:
         }
         painter->setFont(Theme::font(TextStyle::callout));
         painter->setPen(Theme::color(column == Column::name ? Role::primaryText : Role::secondaryText));
-        const bool isFigure = column == Column::idle || column == Column::ram;
+        const bool isFigure = PresetTableModel::column(column).alignment == Qt::AlignRight;
         if (isFigure && Painting::tabularWidth(painter->font(), text) <= area.width())
             Painting::drawTabular(*painter, area, Qt::AlignRight, text);
         else
@@ -64,10 +63,9 @@ PresetTable::PresetTable(QWidget* parent)
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
     header()->setSectionsMovable(false);
-    constexpr std::array widths = {56, 0, 114, 50, 66, 48, 62};
     for (int column = 0; column < PresetTableModel::columns; ++column) {
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
-        header()->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+        header()->resizeSection(column, PresetTableModel::column(column).width);
     }
     header()->setSectionResizeMode(Column::name, QHeaderView::Stretch); // has what the others leave
 }
@@ -120,8 +118,7 @@ void PresetTable::paintEvent(QPaintEvent* event) {
     if (m_rows->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setFont(Theme::font(TextStyle::callout));
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
     painter.drawText(viewport()->rect(), Qt::AlignCenter, accessibleDescription());
 }
 

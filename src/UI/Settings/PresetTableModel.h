@@ -4,6 +4,13 @@
 
 #include <QAbstractTableModel>
 
+struct PresetColumn {
+    const char* title = nullptr;             ///< in the context "Columns"
+    int width = 0;                           ///< 0 for what the others leave
+    Qt::Alignment alignment = Qt::AlignLeft; ///< right for a figure
+    QString (*text)(const QuickKillPreset&) = [](const QuickKillPreset&) { return QString(); };
+};
+
 /// The quick-kill presets as rows, in stored order.
 class PresetTableModel : public QAbstractTableModel {
     Q_OBJECT
@@ -11,6 +18,8 @@ class PresetTableModel : public QAbstractTableModel {
 public:
     enum Column { symbol, name, pattern, idle, ram, force, actions };
     static constexpr int columns = 7;
+
+    static const PresetColumn& column(int index);
 
     using QAbstractTableModel::QAbstractTableModel;
 

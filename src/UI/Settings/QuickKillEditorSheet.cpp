@@ -4,12 +4,12 @@
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/StepperRow.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Symbols.h"
-#include "UI/Kit/TextField.h"
+#include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -46,8 +46,8 @@ QuickKillEditorSheet::QuickKillEditorSheet(const QString& title, const QuickKill
     refresh();
 }
 
-TextField* QuickKillEditorSheet::makeField(QString& text) {
-    auto* field = new TextField;
+QLineEdit* QuickKillEditorSheet::makeField(QString& text) {
+    auto* field = new QLineEdit;
     field->setFixedWidth(fieldWidth);
     field->setText(text);
     field->setCursorPosition(0);
@@ -77,11 +77,11 @@ QWidget* QuickKillEditorSheet::makeConditions() {
     };
     addStepper({tr("Min idle minutes"), u"%1"_s}, {0, 120, 1}, m_preset.minIdleMinutes);
     addStepper({tr("Min RAM %1 MB"), {}}, {0, 4000, 50}, m_preset.minRSSMB);
-    auto* force = new Switch(tr("Use SIGKILL (force)"));
-    force->setSpread();
+    auto* force = new QCheckBox(tr("Use SIGKILL (force)"));
+    force->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     force->setChecked(m_preset.force);
     section->addRow(force);
-    connect(force, &Switch::toggled, this, [this](bool on) { m_preset.force = on; });
+    connect(force, &QCheckBox::toggled, this, [this](bool on) { m_preset.force = on; });
     return section;
 }
 

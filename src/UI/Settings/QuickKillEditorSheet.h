@@ -8,7 +8,7 @@
 
 class PushButton;
 class SymbolView;
-class TextField;
+class QLineEdit;
 
 /// Edits a copy of one preset. Modal over its window; gone once it is closed.
 class QuickKillEditorSheet : public QDialog {
@@ -24,7 +24,7 @@ private:
     QWidget* makeConditions();
     QLayout* makeButtons();
     /// A line that edits one text of the preset.
-    TextField* makeField(QString& text);
+    QLineEdit* makeField(QString& text);
     void refresh();
     void save();
 

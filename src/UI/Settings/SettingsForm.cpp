@@ -4,25 +4,19 @@
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SlimScrollBar.h"
-#include "UI/Kit/Switch.h"
-#include "UI/Kit/Theme.h"
+#include "UI/Style/Theme.h"
 
+#include <QCheckBox>
 #include <QVBoxLayout>
 
 SettingsForm::SettingsForm(Preferences& preferences, const QString& name, QWidget* parent)
-    : QScrollArea(parent) {
-    auto* page = new QWidget;
-    m_column = new QVBoxLayout(page);
-    m_column->setContentsMargins(Theme::pageMargins);
-    m_column->setSpacing(Theme::gridSpacing);
+    : QScrollArea(parent)
+    , m_column(makeScrollingPage(this, Theme::pageMargins, Theme::gridSpacing)) {
     m_column->addStretch();
-    setWidget(page);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(name);
-    SlimScrollBar::install(this);
     observe(&preferences, this, [this] {
         if (isOnScreen(this))
             refresh();
@@ -50,12 +44,12 @@ FormSection* SettingsForm::addSection(const QString& title) {
     return section;
 }
 
-Switch* SettingsForm::addToggle(FormSection* section, const QString& text, Property<bool>& property) {
-    auto* toggle = new Switch(text);
-    toggle->setSpread();
+QCheckBox* SettingsForm::addToggle(FormSection* section, const QString& text, Property<bool>& property) {
+    auto* toggle = new QCheckBox(text);
+    toggle->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     section->addRow(toggle);
     addDisplay([toggle, &property] { toggle->setChecked(property()); });
-    connect(toggle, &Switch::toggled, this, [&property](bool on) {
+    connect(toggle, &QCheckBox::toggled, this, [&property](bool on) {
         if (property() != on)
             property.set(on);
     });

@@ -9,8 +9,8 @@
 
 class FormSection;
 class PopUpButton;
+class QCheckBox;
 class QVBoxLayout;
-class Switch;
 
 /// A tab of settings: sections of controls, each tied to one property. What the user changes is stored at
 /// once; what changes elsewhere shows at once.
@@ -24,7 +24,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
     FormSection* addSection(const QString& title);
-    Switch* addToggle(FormSection* section, const QString& text, Property<bool>& property);
+    QCheckBox* addToggle(FormSection* section, const QString& text, Property<bool>& property);
     /// Enabled while `condition` is on.
     void addStepper(FormSection* section, const StepperRow::Look& look, const Stepper::Range& range,
                     Property<double>& property, const Property<bool>& condition);

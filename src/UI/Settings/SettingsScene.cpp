@@ -1,13 +1,13 @@
 #include "UI/Settings/SettingsScene.h"
 
 #include "Core/Translations.h"
-#include "UI/Kit/Theme.h"
 #include "UI/Settings/AlertsTab.h"
 #include "UI/Settings/GeneralTab.h"
 #include "UI/Settings/HistoryTab.h"
 #include "UI/Settings/QuickKillsTab.h"
 #include "UI/Settings/SamplingTab.h"
 #include "UI/Settings/TabButton.h"
+#include "UI/Style/Theme.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "UI/Settings/TabButton.h"
 
-#include "UI/Kit/Painting.h"
-#include "UI/Kit/Symbols.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QPainter>
 
@@ -11,7 +11,7 @@ using Theme::Role;
 
 namespace {
 
-constexpr int leastWidth = 72;
+constexpr int minWidth = 72;
 constexpr int padding = 10;
 constexpr int tabHeight = 50;
 constexpr int symbolSize = 20;
@@ -28,20 +28,18 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
     setCheckable(true);
     setAutoExclusive(true);
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize TabButton::sizeHint() const {
-    return {std::max(leastWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
+    return {std::max(minWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (isChecked() || underMouse() || isDown())
         Painting::drawCard(painter, rect(), Theme::controlRadius,
-                           isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill),
-                           Qt::transparent);
+                           isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill));
     // A ring only for those who move by keyboard: the window opens with the focus here.
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);

@@ -14,12 +14,12 @@ void readsBackAsWritten(const LoggedAction& action) {
     const auto kind = fromRawValue<ActionLogEntry::Kind>(action.kind);
     if (!kind)
         return;
-    const QByteArray line = Cleaner::actionLogLine({.id = {},
-                                                    .timestamp = action.timestamp,
-                                                    .kind = *kind,
-                                                    .detail = action.detail,
-                                                    .freedBytes = action.freedBytes,
-                                                    .success = action.success});
+    const QByteArray line = ActionLogFile::lineOf({.id = {},
+                                                   .timestamp = action.timestamp,
+                                                   .kind = *kind,
+                                                   .detail = action.detail,
+                                                   .freedBytes = action.freedBytes,
+                                                   .success = action.success});
     Fuzz::require(ActionLogReader::parse(line) == QList{action});
 }
 

@@ -23,8 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (std::all_of(presets->begin(), presets->end(), isWritable))
         Fuzz::require(again == presets);
     for (const QuickKillPreset& preset : *presets) {
-        constexpr qsizetype longestRest = 1000; // two numbers of 309 digits at most, and the words
-        Fuzz::require(preset.summaryLine().size() <= preset.pattern.size() + longestRest);
+        constexpr qsizetype maxRestLength = 1000; // two numbers of 309 digits at most, and the words
+        Fuzz::require(preset.summaryLine().size() <= preset.pattern.size() + maxRestLength);
         Fuzz::require(preset.outcomeMessage(3, 2).startsWith(preset.name));
     }
     return 0;

@@ -1,4 +1,4 @@
-#include "Core/Relief/NukePreview.h"
+#include "Platform/Linux/LinuxRelief.h"
 #include "Tools/AppleScript.h"
 #include "fuzz/Fuzz.h"
 
@@ -11,7 +11,7 @@ using Verb = Tools::AppleScript::Verb;
 void nameComesThrough(const QByteArray& utf8) {
     const QString name = QString::fromUtf8(utf8);
     for (const bool force : {false, true}) {
-        const auto script = Tools::parseAppleScript(NukePreview::quitScript(name, force).toStdString());
+        const auto script = Tools::parseAppleScript(LinuxRelief::quitScript(name, force).toStdString());
         if (!script)
             continue;
         Fuzz::require(script->application == name.toStdString());
@@ -34,6 +34,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const QString name = QString::fromStdString(script->application);
     const bool force = script->verb == Verb::QuitWithoutSaving;
-    Fuzz::require(NukePreview::quitScript(name, force).toUtf8() == input);
+    Fuzz::require(LinuxRelief::quitScript(name, force).toUtf8() == input);
     return 0;
 }

@@ -1,0 +1,121 @@
+#include "Core/Cleanup/CacheCleanup.h"
+
+#include "Core/ActionLog/ActionLog.h"
+#include "Core/Cleanup/CacheScanner.h"
+#include "Platform/Clock.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log)
+    : m_platform(platform)
+    , m_log(log) {}
+
+QCoro::Task<> CacheCleanup::rescan() {
+    const QPointer<CacheCleanup> self(this);
+    const int scan = ++m_scansBegun;
+    const int total = static_cast<int>(m_targets.size());
+    const QString first = total > 0 ? m_targets.first().name : QString();
+    publish(m_scanProgress, std::optional(CleanupProgress{first, 0, total}));
+
+    CacheScanner scanner(m_platform, [self, scan](const CleanupProgress& progress) {
+        if (self && self->m_scansBegun == scan)
+            self->publish(self->m_scanProgress, std::optional(progress));
+    });
+    auto scanning = scanner.scan(m_targets);
+    const QList<CacheTarget> measured = co_await scanning;
+    if (!self || m_scansBegun != scan)
+        co_return;
+    publish(m_targets, measured);
+    publish(m_scanProgress, std::optional<CleanupProgress>());
+}
+
+void CacheCleanup::expectCleans(int count) {
+    if (!m_cleanProgress)
+        publish(m_report, CleanupReport{});
+    CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
+    progress.total += count;
+    if (progress.total > 0)
+        publish(m_cleanProgress, std::optional(progress));
+}
+
+void CacheCleanup::countCleans(int done) {
+    CleanupProgress progress = *m_cleanProgress;
+    progress.done += done;
+    publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
+}
+
+QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(CacheTarget target, QString logDetail,
+                                                         std::stop_token stop) {
+    const QPointer<CacheCleanup> self(this);
+    CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
+    progress.target = target.name;
+    publish(m_cleanProgress, std::optional(progress));
+
+    auto cleaning =
+        Cleaner::clean(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop);
+    const Cleaner::CleanResult result = co_await cleaning;
+    if (!self)
+        co_return result;
+    if (!result.done)
+        reportFailure({target.name, result.reason});
+    countCleans(1);
+    m_log.record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);
+    co_return result;
+}
+
+void CacheCleanup::reportFailure(const CleanupFailure& failure) {
+    CleanupReport report = m_report;
+    report.failures.append(failure);
+    publish(m_report, report);
+}
+
+void CacheCleanup::cancel() {
+    CleanupReport report = m_report;
+    report.wasCancelled = isCleaning();
+    publish(m_report, report);
+    std::exchange(m_cleaning, std::stop_source()).request_stop();
+}
+
+QCoro::Task<> CacheCleanup::clean(CacheTarget target) {
+    const QPointer<CacheCleanup> self(this);
+    expectCleans(1);
+    auto cleaning = cleanOne(target, target.name, m_cleaning.get_token());
+    co_await cleaning;
+    if (!self)
+        co_return;
+    auto scanning = rescan();
+    co_await scanning;
+}
+
+QList<CacheTarget> CacheCleanup::targetsToClean() const {
+    QList<CacheTarget> targets = m_targets;
+    targets.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
+    return targets;
+}
+
+QCoro::Task<std::pair<int, quint64>> CacheCleanup::cleanAll(QList<CacheTarget> targets) {
+    const QPointer<CacheCleanup> self(this);
+    expectCleans(static_cast<int>(targets.size()));
+    const std::stop_token stop = m_cleaning.get_token();
+
+    std::pair<int, quint64> total(0, 0);
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        if (stop.stop_requested()) {
+            countCleans(static_cast<int>(targets.size() - i));
+            break;
+        }
+        auto cleaning = cleanOne(targets[i], u"[batch] "_s + targets[i].name, stop);
+        const Cleaner::CleanResult result = co_await cleaning;
+        if (!self)
+            co_return total;
+        if (result.done) {
+            ++total.first;
+            total.second += result.freedBytes;
+        }
+    }
+    auto scanning = rescan();
+    co_await scanning;
+    co_return total;
+}

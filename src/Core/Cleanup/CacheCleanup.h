@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Core/Cleanup/CacheTarget.h"
+#include "Core/Cleanup/Cleaner.h"
+#include "Core/Cleanup/CleanupProgress.h"
+#include "Core/Observable.h"
+#include "Platform/Platform.h"
+
+#include <QCoroTask>
+
+#include <optional>
+#include <stop_token>
+#include <utility>
+
+class ActionLog;
+
+/// The cleanup targets as last measured, and the scans and cleans that run.
+class CacheCleanup : public Observable {
+    Q_OBJECT
+
+public:
+    /// `log` outlives the cleanup.
+    CacheCleanup(const Platform& platform, ActionLog& log);
+
+    const QList<CacheTarget>& targets() const { return m_targets; }
+    /// Empty while no scan runs.
+    const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
+    /// Empty while nothing is being cleaned; cleans that run at the same time are counted together.
+    const std::optional<CleanupProgress>& cleanProgress() const { return m_cleanProgress; }
+    const CleanupReport& report() const { return m_report; }
+    bool isScanning() const { return m_scanProgress.has_value(); }
+    bool isCleaning() const { return m_cleanProgress.has_value(); }
+
+    /// Measures every target and publishes them largest first, when all are done. Of scans that overlap only
+    /// the one that began last publishes.
+    QCoro::Task<> rescan();
+    /// Cleans one target, logs it and measures again.
+    QCoro::Task<> clean(CacheTarget target);
+    /// Every target whose size is known and above 0: what "Clean All" is about, to be shown before.
+    QList<CacheTarget> targetsToClean() const;
+    /// Cleans these targets, one after another, logs each and measures again. How many were cleaned without a
+    /// failure, and how many bytes those freed.
+    QCoro::Task<std::pair<int, quint64>> cleanAll(QList<CacheTarget> targets);
+    /// Ends every clean that runs, and begins none of those that wait. Each that was running has failed.
+    void cancel();
+
+private:
+    void expectCleans(int count);
+    void countCleans(int done);
+    void reportFailure(const CleanupFailure& failure);
+    QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail, std::stop_token stop);
+
+    Platform m_platform;
+    ActionLog& m_log;
+    QList<CacheTarget> m_targets = CacheTarget::defaults();
+    std::optional<CleanupProgress> m_scanProgress;
+    std::optional<CleanupProgress> m_cleanProgress;
+    CleanupReport m_report;
+    int m_scansBegun = 0;
+    std::stop_source m_cleaning; ///< of all cleans that run
+};

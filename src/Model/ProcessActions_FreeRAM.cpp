@@ -1,0 +1,123 @@
+#include "Model/ProcessActions.h"
+
+#include "Core/Sampling/ProcessFilter.h"
+#include "Platform/Identity.h"
+#include "Platform/Relief.h"
+#include "Platform/Signals.h"
+
+#include <QCoroTimer>
+#include <QPointer>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Record = FreeRAMResult::Record;
+using Handles = QList<std::shared_ptr<ProcessHandle>>;
+
+constexpr qsizetype maxCandidates = 15;
+/// A process of no known group is offered only when it is really large: a decimal gigabyte.
+constexpr quint64 largeUnknownBytes = 1'000'000'000;
+
+KillOutcome outcomeOf(SignalResult result, KillOutcome delivered, KillOutcome gone) {
+    switch (result) {
+    case SignalResult::delivered:
+        return delivered;
+    case SignalResult::notPermitted:
+        return KillOutcome::denied;
+    case SignalResult::noSuchProcess:
+        return gone;
+    case SignalResult::other:
+        break;
+    }
+    return KillOutcome::ignored;
+}
+
+KillOutcome askToEnd(ProcessHandle& process) {
+    return outcomeOf(process.send(Signal::terminate), KillOutcome::quit, KillOutcome::ignored);
+}
+
+/// A process that could not even be looked up is tried again, so that it never reads as gone.
+KillOutcome killIfPresent(ProcessHandle& process) {
+    const SignalResult probed = process.send(Signal::probe);
+    if (probed == SignalResult::noSuchProcess || probed == SignalResult::notPermitted)
+        return KillOutcome::quit;
+    return outcomeOf(process.send(Signal::kill), KillOutcome::forced, KillOutcome::quit);
+}
+
+void runSecondPass(QList<Record>& records, const Handles& handles) {
+    for (qsizetype i = 0; i < records.size(); ++i) {
+        if (records[i].outcome != KillOutcome::denied)
+            records[i].outcome = killIfPresent(*handles[i]);
+    }
+}
+
+QString logDetail(const FreeRAMResult& result) {
+    QStringList outcomes;
+    for (const Record& record : result.perPid)
+        outcomes.append(QString::number(record.pid) + u':' + rawValue(record.outcome));
+    return u"[free RAM] "_s + outcomes.join(u',') + u" freed="_s + QString::number(result.freedBytes);
+}
+
+bool isWorthOffering(const ProcSample& process) {
+    return process.group != ProcGroup::other || process.rssBytes >= largeUnknownBytes;
+}
+
+} // namespace
+
+QList<FreeRamPreview> ProcessActions::freeRamCandidates(double minIdleMin, double minRSSMB) const {
+    const ProcessFilter filter(*m_platform.identity, minIdleMin, minRSSMB);
+    QList<FreeRamPreview> candidates;
+    for (const ProcSample& process : m_state.processes) {
+        if (filter.accepts(process) && isWorthOffering(process)) {
+            candidates.append({.pid = process.pid,
+                               .name = process.name,
+                               .rssBytes = process.rssBytes,
+                               .idleSeconds = process.idleSeconds,
+                               .group = process.group});
+        }
+    }
+    std::ranges::stable_sort(candidates, std::ranges::greater(), &FreeRamPreview::rssBytes);
+    return candidates.mid(0, maxCandidates);
+}
+
+QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
+    const QPointer<ProcessActions> self(this);
+    const quint64 usedBefore = m_state.systemSample.memUsedBytes;
+    FreeRAMResult result;
+    Handles handles;
+    for (const qint32 pid : pids)
+        handles.append(m_gate.hold(pid));
+    for (qsizetype i = 0; i < pids.size(); ++i) {
+        const ProcSample* known = m_state.process(pids[i]);
+        result.perPid.append({.pid = pids[i],
+                              .name = known ? known->name : u"pid %1"_s.arg(pids[i]),
+                              .before = known ? known->rssBytes : 0,
+                              .outcome = askToEnd(*handles[i])});
+    }
+
+    const auto beforeSecondPass = m_freeRAMWaits.beforeSecondPass;
+    co_await QCoro::sleepFor(beforeSecondPass);
+    if (!self)
+        co_return result;
+    runSecondPass(result.perPid, handles);
+
+    auto nudge = m_platform.relief->reclaimMemory();
+    const Outcome nudged = co_await nudge;
+    result.memoryPressureSignaled = nudged.done;
+    if (!self)
+        co_return result;
+    const auto beforeMeasuring = m_freeRAMWaits.beforeMeasuring;
+    co_await QCoro::sleepFor(beforeMeasuring);
+    if (!self)
+        co_return result;
+
+    const quint64 usedAfter = Sampler(m_platform).sample().memUsedBytes;
+    result.freedBytes = usedBefore >= usedAfter ? usedBefore - usedAfter : 0;
+    const QString detail = logDetail(result);
+    m_log.record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
+    co_return result;
+}

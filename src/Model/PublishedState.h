@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Core/Alerts/Alert.h"
+#include "Core/Grouping/GroupRollup.h"
+#include "Core/Mcp/MCPInspector.h"
+#include "Core/Sampling/ProcSample.h"
+#include "Core/Sampling/SystemSample.h"
+
+#include <algorithm>
+
+/// What the ticks have found out.
+struct PublishedState {
+    SystemSample systemSample = SystemSample::zero();
+    /// Oldest first; never more than Preferences::historyRetentionSamples() after a tick.
+    QList<SystemSample> systemHistory;
+    QList<ProcSample> processes; ///< largest resident memory first
+    QList<GroupRollup> groups;   ///< one per group, in group order; empty before the first tick
+    QList<Alert> alerts;
+    MCPInspector::Report mcpReport; ///< as of the last full tick
+
+    /// As of the last tick; null when the system listed no such process.
+    const ProcSample* process(qint32 pid) const {
+        const auto found = std::ranges::find(processes, pid, &ProcSample::pid);
+        return found == processes.end() ? nullptr : &*found;
+    }
+};

@@ -1,0 +1,74 @@
+#include "UI/Kit/ColumnWidths.h"
+
+#include <QHeaderView>
+
+namespace {
+
+/// 0 for a text that is no width a column can have.
+int widthOf(const QString& text) {
+    constexpr int least = 40;
+    constexpr int most = 2000;
+    const int width = text.toInt();
+    return width >= least && width <= most ? width : 0;
+}
+
+QString entry(const QString& id, int width) {
+    return QStringLiteral("%1=%2").arg(id).arg(width);
+}
+
+QHash<QString, int> widthsIn(const QString& stored) {
+    QHash<QString, int> widths;
+    for (const QString& each : stored.split(u' ', Qt::SkipEmptyParts))
+        widths.insert(each.section(u'=', 0, 0), widthOf(each.section(u'=', 1)));
+    return widths;
+}
+
+} // namespace
+
+ColumnWidths::ColumnWidths(QHeaderView& header, SettingsFile& file)
+    : m_header(header)
+    , m_file(file)
+    , m_storeLater(file) {
+    connect(&header, &QHeaderView::sectionResized, this, [this](int section) {
+        if (!m_isRestoring && m_columns.value(section).usual > 0)
+            store();
+    });
+}
+
+void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
+    m_isRestoring = true;
+    m_key = key;
+    m_columns = columns;
+    const QHash<QString, int> stored = widthsIn(m_file.text(key).value_or(QString()));
+    for (int i = 0; i < columns.size(); ++i) {
+        const int width = stored.value(columns[i].id);
+        if (columns[i].usual > 0)
+            m_header.resizeSection(i, width > 0 ? width : columns[i].usual);
+    }
+    m_isRestoring = false;
+}
+
+void ColumnWidths::store() {
+    QStringList widths;
+    for (int i = 0; i < m_columns.size(); ++i) {
+        if (m_columns[i].usual > 0)
+            widths.append(entry(m_columns[i].id, m_header.sectionSize(i)));
+    }
+    m_storeLater.store(m_key, widths.join(u' '));
+}
+
+void ColumnWidths::takeOver(SettingsFile& file, const QString& old, const QString& key,
+                            const QStringList& ids) {
+    const auto stored = file.text(old);
+    if (!stored)
+        return;
+    const QStringList positions = stored->split(u' ', Qt::SkipEmptyParts);
+    QStringList widths;
+    for (qsizetype i = 0; i < ids.size(); ++i) {
+        if (const int width = widthOf(positions.value(i)))
+            widths.append(entry(ids[i], width));
+    }
+    if (!widths.isEmpty() && !file.text(key))
+        file.store(key, widths.join(u' '));
+    file.store(old, {});
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include <memory>
+
+/// Calls `act` when the button is clicked, with what `shown` was when it was pressed: lists move between
+/// press and release. `shown` is what the button's own widget shows now, and lives as long as the button.
+template <typename Shown, typename Act>
+void actOnPressed(QAbstractButton* button, const Shown& shown, Act act) {
+    const auto pressed = std::make_shared<Shown>();
+    QObject::connect(button, &QAbstractButton::pressed, button, [pressed, &shown] { *pressed = shown; });
+    QObject::connect(button, &QAbstractButton::clicked, button, [pressed, act] { act(*pressed); });
+}

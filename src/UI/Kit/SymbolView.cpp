@@ -1,0 +1,24 @@
+#include "UI/Kit/SymbolView.h"
+
+#include "UI/Style/Symbols.h"
+
+#include <QPainter>
+
+SymbolView::SymbolView(int size, int width, QWidget* parent)
+    : QWidget(parent)
+    , m_size(size) {
+    setFixedSize(width, size);
+}
+
+void SymbolView::set(const QString& name, Theme::Role role) {
+    if (m_name == name && m_role == role)
+        return;
+    m_name = name;
+    m_role = role;
+    update();
+}
+
+void SymbolView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Symbols::draw(painter, m_name, Theme::color(m_role), rect(), m_size);
+}

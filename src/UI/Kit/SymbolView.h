@@ -1,0 +1,23 @@
+#pragma once
+
+#include "UI/Style/Theme.h"
+
+#include <QWidget>
+
+/// A symbol that stands by itself in a layout.
+class SymbolView : public QWidget {
+    Q_OBJECT
+
+public:
+    SymbolView(int size, int width, QWidget* parent = nullptr);
+
+    void set(const QString& name, Theme::Role role);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_name;
+    Theme::Role m_role = Theme::Role::secondaryText;
+    int m_size;
+};

@@ -1,0 +1,129 @@
+#include "UI/Processes/ProcessColumns.h"
+
+#include "Core/Formatters.h"
+#include "Core/Translations.h"
+
+#include <QCollator>
+#include <QHash>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+using Kind = ProcessColumn::Kind;
+using Row = ProcessTableRow;
+using Theme::Role;
+
+/// What comes in order from the model stays untouched; sorting would move each of them about.
+template <auto figure> void largestFirst(QList<ProcSample>& processes) {
+    if (!std::ranges::is_sorted(processes, std::ranges::greater(), figure))
+        std::ranges::stable_sort(processes, std::ranges::greater(), figure);
+}
+
+/// Comparing names as people sort them is slow, and many processes share one: each name is placed once.
+QHash<QString, int> ranks(const QList<ProcSample>& processes) {
+    QHash<QString, int> result;
+    for (const ProcSample& process : processes)
+        result.insert(process.name, 0);
+    QStringList names = result.keys();
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::sort(names.begin(), names.end(), collator);
+    int rank = 0;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (i > 0 && collator.compare(names[i - 1], names[i]) != 0)
+            ++rank;
+        result[names[i]] = rank;
+    }
+    return result;
+}
+
+/// In the user's alphabetical order.
+void byName(QList<ProcSample>& processes) {
+    const QHash<QString, int> rank = ranks(processes);
+    std::ranges::stable_sort(processes, {},
+                             [&rank](const ProcSample& process) { return rank.value(process.name); });
+}
+
+constexpr ProcessColumn columns[] = {
+    {.id = u"name",
+     .title = QT_TRANSLATE_NOOP("Columns", "Name"),
+     .text = [](const Row& row) { return Formatters::visible(row.first.name); },
+     .kind = Kind::name,
+     .alignment = Qt::AlignLeft,
+     .width = 0,
+     .role = Role::primaryText,
+     .isInGrouped = true,
+     .toolTip = [](const Row& row) { return Formatters::visible(row.first.executablePath); },
+     .order = {.sort = byName, .place = 3}},
+    {.id = u"group",
+     .title = QT_TRANSLATE_NOOP("Columns", "Group"),
+     .text = [](const Row& row) { return Translations::of(row.first.group); },
+     .alignment = Qt::AlignLeft,
+     .width = 156,
+     .isInGrouped = true},
+    {.id = u"pid",
+     .title = QT_TRANSLATE_NOOP("Columns", "PID"),
+     .text = [](const Row& row) { return QString::number(row.first.pid); }},
+    {.id = u"cpu",
+     .title = QT_TRANSLATE_NOOP("Columns", "CPU%"),
+     .text = [](const Row& row) { return Formatters::percent(row.cpuPercent); },
+     .role = Role::primaryText,
+     .isInGrouped = true,
+     .order = {.sort = largestFirst<&ProcSample::cpuPercent>,
+               .place = 2,
+               .label = QT_TRANSLATE_NOOP("Columns", "CPU")}},
+    {.id = u"ram",
+     .title = QT_TRANSLATE_NOOP("Columns", "RAM"),
+     .text = [](const Row& row) { return Formatters::bytes(row.rssBytes); },
+     .width = 84,
+     .role = Role::primaryText,
+     .isInGrouped = true,
+     .order = {.sort = largestFirst<&ProcSample::rssBytes>, .place = 1}},
+    {.id = u"threads",
+     .title = QT_TRANSLATE_NOOP("Columns", "Threads"),
+     .text = [](const Row& row) { return QString::number(row.first.threads); }},
+    {.id = u"idle",
+     .title = QT_TRANSLATE_NOOP("Columns", "Idle"),
+     .text = [](const Row& row) { return Formatters::duration(row.first.idleSeconds); },
+     .order = {.sort = largestFirst<&ProcSample::idleSeconds>, .place = 4}},
+    {.id = u"procs",
+     .title = QT_TRANSLATE_NOOP("Columns", "Procs"),
+     .text = [](const Row& row) { return QString::number(row.processes.size()); },
+     .isInFlat = false,
+     .isInGrouped = true},
+    {.id = u"actions",
+     .title = QT_TRANSLATE_NOOP("Columns", "Actions"),
+     .text = [](const Row&) { return QString(); },
+     .kind = Kind::actions,
+     .alignment = Qt::AlignLeft,
+     .width = 3 * ProcessColumn::buttonSide + 8,
+     .isInGrouped = true},
+};
+
+} // namespace
+
+QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped) {
+    QList<const ProcessColumn*> result;
+    for (const ProcessColumn& column : columns) {
+        if (isGrouped ? column.isInGrouped : column.isInFlat)
+            result.append(&column);
+    }
+    return result;
+}
+
+QList<const ProcessColumn*> ProcessColumns::sortable() {
+    QList<const ProcessColumn*> result;
+    for (const ProcessColumn& column : columns) {
+        if (column.order.sort)
+            result.append(&column);
+    }
+    std::ranges::stable_sort(result, {}, [](const ProcessColumn* column) { return column->order.place; });
+    return result;
+}
+
+const ProcessColumn* ProcessColumns::withId(QStringView id) {
+    const auto* found = std::ranges::find(columns, id, &ProcessColumn::id);
+    return found == std::ranges::end(columns) ? nullptr : found;
+}

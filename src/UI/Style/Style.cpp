@@ -1,0 +1,241 @@
+#include "UI/Style/Style.h"
+
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
+
+#include <QFileDialog>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <algorithm>
+
+using Theme::Role;
+
+namespace {
+
+constexpr QSizeF switchTrack(34, 20);
+constexpr int knobInset = 2;
+constexpr int switchGap = 8;
+constexpr int fieldPadding = 6;
+constexpr int sliderTrackHeight = 4;
+constexpr int thumbInset = 3;
+constexpr int minThumbLength = 36;
+constexpr int sectionPadding = 8;
+constexpr int chevronSize = 10;
+
+bool isOurs(const QWidget* widget) {
+    const QWidget* window = widget ? widget->window() : nullptr;
+    return window && window->windowType() != Qt::Popup && !qobject_cast<const QFileDialog*>(window);
+}
+
+/// A vertical scroll bar of ours; null for any other.
+const QStyleOptionSlider* slimBar(const QStyleOptionComplex* option, const QWidget* widget) {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    return bar && bar->orientation == Qt::Vertical && isOurs(widget) ? bar : nullptr;
+}
+
+void drawTextField(QPainter& painter, const QStyleOption& field) {
+    Painting::drawCard(painter, field.rect, Theme::controlRadius);
+    if (field.state & QStyle::State_HasFocus)
+        Painting::drawFocusRing(painter, field.rect, Theme::controlRadius);
+}
+
+void drawSwitch(QPainter& painter, const QRectF& track, QStyle::State state, double opacity) {
+    const double radius = track.height() / 2;
+    const bool isOn = state & QStyle::State_On;
+    Painting::drawCard(painter, track, radius,
+                       isOn ? Theme::tileColor(Role::green, opacity)
+                            : Theme::color(Role::gray, 0.45 * opacity));
+    const double side = track.height() - 2 * knobInset;
+    const double x = isOn ? track.right() - knobInset - side : track.left() + knobInset;
+    Painting::drawCard(painter, QRectF(x, track.top() + knobInset, side, side), side / 2, Qt::white);
+    if (state & QStyle::State_HasFocus)
+        Painting::drawFocusRing(painter, track, radius);
+}
+
+/// The switch before its text; at the far end where the check box takes the whole width of a form.
+void drawCheckBox(QPainter& painter, const QStyleOptionButton& box, const QWidget* widget) {
+    const double opacity = box.state & QStyle::State_Enabled ? 1 : Theme::disabledOpacity;
+    const bool isSpread = widget && widget->sizePolicy().expandingDirections() & Qt::Horizontal;
+    QRectF line = box.rect;
+    QRectF track(line.topLeft(), switchTrack);
+    track.moveTop(line.top() + (line.height() - track.height()) / 2);
+    if (isSpread) {
+        track.moveRight(line.right());
+        line.setRight(track.left() - switchGap);
+    } else {
+        line.setLeft(track.right() + switchGap);
+    }
+    drawSwitch(painter, track, box.state, opacity);
+    painter.setFont(Theme::font(Theme::TextStyle::body));
+    painter.setPen(Theme::color(Role::primaryText, opacity));
+    Painting::drawElided(painter, line, Qt::ElideRight, box.text);
+}
+
+void drawHeaderGround(QPainter& painter, const QStyleOption& header) {
+    const QRect& area = header.rect;
+    painter.fillRect(area, header.palette.base());
+    painter.fillRect(area.left(), area.bottom(), area.width(), 1, Theme::color(Role::separator, 1.8));
+}
+
+/// Down for the largest first, up for the smallest.
+void drawChevron(QPainter& painter, const QRectF& area, bool isUp) {
+    painter.save();
+    if (isUp) {
+        painter.translate(area.center());
+        painter.rotate(180);
+        painter.translate(-area.center());
+    }
+    Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::primaryText), area,
+                  chevronSize);
+    painter.restore();
+}
+
+void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
+    drawHeaderGround(painter, section);
+    const bool isSorted = section.sortIndicator != QStyleOptionHeader::None;
+    painter.setFont(Theme::font(Theme::TextStyle::caption, isSorted ? QFont::DemiBold : QFont::Medium));
+    painter.setPen(Theme::color(isSorted ? Role::primaryText : Role::secondaryText));
+    const QRectF area = section.rect;
+    const double width = QFontMetricsF(painter.font()).horizontalAdvance(section.text);
+    const double room = isSorted ? chevronSize + 2 : 0;
+    // In a narrow column the padding gives way to the text.
+    const double inset = std::clamp((area.width() - width - room) / 2, 2.0, double(sectionPadding));
+    QRectF line = area.adjusted(inset, 0, -inset, 0);
+    if (section.textAlignment & Qt::AlignRight)
+        line.setLeft(std::max(line.left(), line.right() - width - room - 1));
+    else if (section.textAlignment & Qt::AlignHCenter)
+        line.setLeft(std::max(line.left(), line.center().x() - (width + room) / 2));
+    Painting::drawElided(painter, line.adjusted(0, 0, 1 - room, 0), Qt::ElideRight, section.text);
+    const QRectF chevron(std::min(line.left() + width + 2, line.right() - chevronSize), area.top(),
+                         chevronSize, area.height());
+    if (isSorted)
+        drawChevron(painter, chevron, section.sortIndicator == QStyleOptionHeader::SortDown);
+}
+
+void drawSlider(QPainter& painter, const QStyleOptionSlider& slider) {
+    const bool isEnabled = slider.state & QStyle::State_Enabled;
+    const QRectF area = slider.rect;
+    const QRectF track(area.left() + 1, area.top() + (area.height() - sliderTrackHeight) / 2,
+                       area.width() - 2, sliderTrackHeight);
+    const QRectF knob = Style::knob(slider);
+    const double share = (knob.center().x() - track.left()) / track.width();
+    Painting::drawProgress(painter, track, share, Theme::color(Role::accent, isEnabled ? 1 : 0.4));
+    const double radius = Style::knobSide / 2.0;
+    Painting::drawCard(painter, knob, radius, Qt::white, Theme::color(Role::gray, 0.7));
+    if (slider.state & QStyle::State_HasFocus)
+        Painting::drawFocusRing(painter, knob.adjusted(-2, -2, 2, 2), radius + 2);
+}
+
+/// A groove from end to end: no arrows, and a thumb that never gets too short to hold.
+QRect scrollBarPart(const QStyleOptionSlider& slider, QStyle::SubControl part) {
+    const QRect bar = slider.rect;
+    const qint64 whole = qint64(slider.maximum) - slider.minimum + slider.pageStep;
+    const int length =
+        whole > 0 ? qBound(minThumbLength, static_cast<int>(bar.height() * qint64(slider.pageStep) / whole),
+                           qMax(minThumbLength, bar.height()))
+                  : bar.height();
+    const int start = QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, slider.sliderPosition,
+                                                      bar.height() - length);
+    switch (part) {
+    case QStyle::SC_ScrollBarGroove:
+        return bar;
+    case QStyle::SC_ScrollBarSlider:
+        return {bar.left(), bar.top() + start, bar.width(), length};
+    case QStyle::SC_ScrollBarSubPage:
+        return {bar.left(), bar.top(), bar.width(), start};
+    case QStyle::SC_ScrollBarAddPage:
+        return {bar.left(), bar.top() + start + length, bar.width(), bar.height() - start - length};
+    default:
+        return {};
+    }
+}
+
+/// The thumb alone, and nothing where there is nothing to scroll.
+void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
+    if (bar.maximum <= bar.minimum)
+        return;
+    const bool isLit =
+        bar.state & QStyle::State_MouseOver || bar.activeSubControls & QStyle::SC_ScrollBarSlider;
+    const QRectF thumb = scrollBarPart(bar, QStyle::SC_ScrollBarSlider);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Theme::color(Role::gray, isLit ? 0.7 : 0.4));
+    const double radius = (Theme::scrollBarRoom - 2 * thumbInset) / 2.0;
+    painter.drawRoundedRect(thumb.adjusted(thumbInset, 2, -thumbInset, -2), radius, radius);
+}
+
+} // namespace
+
+Style::Style()
+    : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QRectF Style::knob(const QStyleOptionSlider& slider) {
+    const QRectF area = slider.rect;
+    const double share =
+        double(slider.sliderPosition - slider.minimum) / std::max(1, slider.maximum - slider.minimum);
+    return {area.left() + share * (area.width() - knobSide), area.top() + (area.height() - knobSide) / 2,
+            knobSide, knobSide};
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    if (element == PE_PanelLineEdit && isOurs(widget))
+        drawTextField(*painter, *option);
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_CheckBox && box && isOurs(widget))
+        drawCheckBox(*painter, *box, widget);
+    else if (element == CE_Header && section && isOurs(widget))
+        drawHeaderSection(*painter, *section);
+    else if (element == CE_HeaderEmptyArea && isOurs(widget))
+        drawHeaderGround(*painter, *option);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && slimBar(option, widget))
+        drawScrollBar(*painter, *slider);
+    else if (control == CC_Slider && slider && slider->orientation == Qt::Horizontal)
+        drawSlider(*painter, *slider);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_CheckBox && box && isOurs(widget)) {
+        const int text =
+            box->text.isEmpty() ? 0 : switchGap + box->fontMetrics.horizontalAdvance(box->text) + 2;
+        return {static_cast<int>(switchTrack.width()) + text, Theme::smallControlHeight};
+    }
+    if (type == CT_LineEdit && isOurs(widget))
+        return {contents.width() + 2 * fieldPadding, Theme::controlHeight};
+    if (type == CT_ScrollBar && slimBar(qstyleoption_cast<const QStyleOptionComplex*>(option), widget))
+        return {Theme::scrollBarRoom, 3 * minThumbLength};
+    return QProxyStyle::sizeFromContents(type, option, contents, widget);
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_LineEditContents && isOurs(widget))
+        return option->rect.adjusted(fieldPadding, 0, -fieldPadding, 0);
+    if (element == SE_CheckBoxClickRect && isOurs(widget))
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                            const QWidget* widget) const {
+    const QStyleOptionSlider* bar = control == CC_ScrollBar ? slimBar(option, widget) : nullptr;
+    return bar ? scrollBarPart(*bar, part) : QProxyStyle::subControlRect(control, option, part, widget);
+}

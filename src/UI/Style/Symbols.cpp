@@ -1,0 +1,61 @@
+#include "UI/Style/Symbols.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+namespace Symbols {
+namespace {
+
+QString file(const QString& name) {
+    return QStringLiteral(":/symbols/%1.svg").arg(name);
+}
+
+QString fileOrFallback(const QString& name) {
+    const QString wanted = file(name);
+    const bool isPlainName = !name.isEmpty() && !name.contains(u'/');
+    return isPlainName && QFile::exists(wanted) ? wanted : file(QStringLiteral("unknown"));
+}
+
+QPixmap render(const QString& name, const QColor& tint, int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    QSvgRenderer(fileOrFallback(name)).render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), tint);
+    painter.end();
+    return QPixmap::fromImage(image);
+}
+
+} // namespace
+
+QStringList names() {
+    QStringList result =
+        QDir(QStringLiteral(":/symbols")).entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
+    for (QString& name : result)
+        name.chop(4);
+    return result;
+}
+
+QPixmap pixmap(const QString& name, const QColor& tint, int size, double devicePixelRatio) {
+    const int pixels = qRound(size * devicePixelRatio);
+    const QString key = QStringLiteral("symbol %1 %2 %3").arg(name).arg(tint.rgba()).arg(pixels);
+    QPixmap result;
+    if (!QPixmapCache::find(key, &result)) {
+        result = render(name, tint, pixels);
+        QPixmapCache::insert(key, result);
+    }
+    result.setDevicePixelRatio(devicePixelRatio);
+    return result;
+}
+
+void draw(QPainter& painter, const QString& name, const QColor& tint, const QRectF& area, int size) {
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QPointF corner = area.center() - QPointF(size / 2.0, size / 2.0);
+    painter.drawPixmap(QPointF(qRound(corner.x()), qRound(corner.y())), pixmap(name, tint, size, ratio));
+}
+
+} // namespace Symbols

@@ -1,0 +1,164 @@
+#include "Core/Cleanup/CacheScanner.h"
+#include "Core/ReliefFixture.h"
+#include "support/Listing.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A model whose tools are scripted: `du` finds 2 MiB in the npm folder and 1 MiB in the logs.
+struct CacheCleanupTest : ReliefTest {
+    QString npm = home.makeFolder(u".npm"_s);
+    QString logs = home.makeFolder(u"Library/Logs"_s);
+    QString failing = u"nothing"_s;
+    std::shared_ptr<FakePlaces> places = fakes.places;
+    CacheCleanup& cleanup = model->cleanup();
+
+    CacheCleanupTest() {
+        places->elsewhere[u"/tmp"_s] = {home.path(u"no such folder"_s)};
+        for (const CacheTarget& target : CacheTarget::defaults()) {
+            for (const QString& path : target.paths) {
+                if (path.startsWith(u'~'))
+                    places->elsewhere[path] = {home.path(path.mid(2))};
+            }
+        }
+        tools->answer = [this](const ToolRequest& request) {
+            if (request.launchPath == u"/usr/bin/du") {
+                const QString path = request.arguments.last();
+                return ScriptedTools::exited(0, path == npm ? "2048 x" : path == logs ? "1024 x" : "0 x");
+            }
+            const bool removes = request.arguments.first() == u"remove";
+            return ScriptedTools::exited(removes && request.arguments.last() == failing ? 1 : 0,
+                                         listingOf({}));
+        };
+    }
+    CacheTarget target(const QString& name) const {
+        for (const CacheTarget& one : cleanup.targets()) {
+            if (one.name == name)
+                return one;
+        }
+        return {};
+    }
+    void releaseAll() {
+        for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
+            tools->release(request.arguments.last());
+    }
+};
+
+TEST_F(CacheCleanupTest, CleansOnlyWhatWasMeasuredAndLogsEachTarget) {
+    const auto nothing = QCoro::waitFor(cleanup.cleanAll(cleanup.targetsToClean()));
+    EXPECT_EQ(nothing, std::pair(0, quint64(0)));
+    EXPECT_TRUE(logged().isEmpty());
+    EXPECT_EQ(target(u"User logs"_s).sizeBytes, 1024U * 1024) << "it has measured all the same";
+    EXPECT_EQ(cleanup.targets().first().name, u"npm / pnpm / yarn"_s);
+
+    failing = logs;
+    const auto cleaned = QCoro::waitFor(cleanup.cleanAll(cleanup.targetsToClean()));
+    EXPECT_EQ(cleaned, std::pair(1, quint64(0)));
+    EXPECT_EQ(logged(),
+              QStringList({u"clean [batch] User logs fail"_s, u"clean [batch] npm / pnpm / yarn ok"_s}));
+    EXPECT_FALSE(cleanup.isCleaning());
+    EXPECT_FALSE(cleanup.isScanning());
+}
+
+TEST_F(CacheCleanupTest, CleansOneTargetAndMeasuresAgain) {
+    QCoro::waitFor(cleanup.clean(target(u"npx cache"_s)));
+    EXPECT_EQ(logged(), QStringList(u"clean npx cache ok"_s));
+    EXPECT_EQ(target(u"npx cache"_s).lastScanned, fakes.clock->wall);
+}
+
+TEST_F(CacheCleanupTest, PublishesWhatIsBeingWorkedOn) {
+    QCoro::waitFor(cleanup.rescan());
+    tools->held = true;
+    auto scan = cleanup.rescan();
+    ASSERT_TRUE(cleanup.isScanning());
+    EXPECT_EQ(cleanup.scanProgress()->total, cleanup.targets().size());
+    EXPECT_EQ(cleanup.scanProgress()->done, cleanup.targets().size() - 3) << "three wait for a tool";
+    EXPECT_EQ(cleanup.scanProgress()->target, u"npm / pnpm / yarn"_s);
+    const auto before = cleanup.targets();
+    EXPECT_TRUE(tools->release(logs) && tools->release(logs));
+    EXPECT_EQ(cleanup.targets(), before) << "results land only together";
+
+    auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
+    auto other = cleanup.clean(target(u"Docker"_s));
+    EXPECT_EQ(*cleanup.cleanProgress(), (CleanupProgress{u"Docker"_s, 0, 3}));
+    tools->held = false;
+    while (tools->release(npm))
+        ;
+    EXPECT_EQ(cleanup.cleanProgress()->done, 2);
+    EXPECT_TRUE(tools->release(u"docker system prune -af --volumes && echo 'tavrin: done'"_s));
+    EXPECT_FALSE(cleanup.isCleaning());
+    EXPECT_TRUE(tools->release(u"-lc"_s)) << "the container report of the scan";
+    EXPECT_TRUE(other.isReady() && cleaning.isReady() && scan.isReady());
+}
+
+TEST_F(CacheCleanupTest, CancellingEndsWhatRunsAndBeginsNothingMore) {
+    QCoro::waitFor(cleanup.rescan());
+    tools->requests.clear();
+    tools->held = true;
+    auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
+    auto other = cleanup.clean(target(u"Docker"_s));
+    ASSERT_EQ(tools->requests.size(), 2);
+    cleanup.cancel();
+    for (const ToolRequest& request : tools->requests)
+        EXPECT_TRUE(request.stop.stop_requested());
+    auto later = cleanup.clean(target(u"User logs"_s));
+    EXPECT_FALSE(tools->requests.last().stop.stop_requested()) << "begun after the cancelling";
+    tools->held = false;
+    releaseAll();
+    EXPECT_TRUE(cleaning.isReady() && other.isReady() && later.isReady());
+    EXPECT_FALSE(cleanup.isCleaning());
+    auto log = logged();
+    log.sort();
+    EXPECT_EQ(log, QStringList({u"clean Docker fail"_s, u"clean User logs ok"_s,
+                                u"clean [batch] npm / pnpm / yarn fail"_s}));
+}
+
+TEST_F(CacheCleanupTest, AnOlderScanNeverReplacesANewerOne) {
+    tools->held = true;
+    auto older = cleanup.rescan();
+    tools->held = false;
+    QCoro::waitFor(cleanup.rescan());
+    const auto newest = cleanup.targets();
+    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "99999 x"); };
+    releaseAll();
+    EXPECT_TRUE(older.isReady());
+    EXPECT_EQ(cleanup.targets(), newest);
+}
+
+TEST_F(CacheCleanupTest, TheSamePlansFollowWhateverATargetIsCalled) {
+    QList<CacheTarget> targets = CacheTarget::defaults();
+    places->elsewhere[u"/tmp"_s] = {home.path(u"everybody's"_s)};
+    for (const QStringList& folders : places->elsewhere) {
+        for (const QString& folder : folders)
+            ASSERT_TRUE(QDir().mkpath(folder));
+    }
+    const auto plansOf = [&](CacheTarget target, const QString& name) {
+        target.name = name;
+        tools->requests.clear();
+        CacheScanner scanner(fakes.platform());
+        const CacheTarget scanned = QCoro::waitFor(scanner.scan({target})).first();
+        QCoro::waitFor(Cleaner::clean(scanned, tools, places, fakes.clock->wall));
+        return tools->commandLines();
+    };
+    for (qsizetype i = 0; i < targets.size(); ++i) {
+        const QStringList plans = plansOf(targets[i], targets[i].name);
+        EXPECT_GE(plans.size(), 2) << qPrintable(targets[i].name);
+        for (const QString& other : {u"x"_s, targets[(i + 1) % targets.size()].name, targets.last().name})
+            EXPECT_EQ(plansOf(targets[i], other), plans) << qPrintable(targets[i].name);
+    }
+}
+
+TEST_F(CacheCleanupTest, MayEndWhileToolsRun) {
+    tools->held = true;
+    auto scan = cleanup.rescan();
+    auto cleaning = cleanup.clean(target(u"Docker"_s));
+    model.reset();
+    tools->held = false;
+    releaseAll();
+    EXPECT_TRUE(scan.isReady() && cleaning.isReady());
+}
+
+} // namespace

@@ -1,0 +1,97 @@
+#include "Core/Log.h"
+#include "Core/Announcements/MessageCenter.h"
+#include "Core/Cleanup/Cleaner.h"
+#include "Core/Mcp/ServerToml.h"
+#include "Core/SettingsFile.h"
+#include "Platform/Linux/LinuxRelief.h"
+#include "support/ScriptedFeed.h"
+#include "support/ScriptedTools.h"
+#include "support/TemporaryHome.h"
+#include "support/TemporarySettings.h"
+
+#include <QCoroTask>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What of Tavrin's own is told under these rules for as long as it lives.
+class Trace {
+public:
+    explicit Trace(const QString& rules) {
+        told.clear();
+        QLoggingCategory::setFilterRules(rules);
+        m_before = qInstallMessageHandler(take);
+    }
+    ~Trace() {
+        qInstallMessageHandler(m_before);
+        QLoggingCategory::setFilterRules({});
+    }
+    Trace(const Trace&) = delete;
+    Trace& operator=(const Trace&) = delete;
+
+    static inline QList<std::pair<QString, QString>> told; ///< category and text
+    static QSet<QString> categories() {
+        QSet<QString> all;
+        for (const auto& [category, text] : told)
+            all.insert(category);
+        return all;
+    }
+    static bool names(const QString& word) {
+        return std::ranges::any_of(told, [&](const auto& each) { return each.second.contains(word); });
+    }
+
+private:
+    static void take(QtMsgType, const QMessageLogContext& context, const QString& text) {
+        if (QByteArrayView(context.category).startsWith("tavrin."))
+            told.append({QString::fromLatin1(context.category), text});
+    }
+
+    QtMessageHandler m_before;
+};
+
+/// One failure in every room that has something to tell.
+void failEverywhere(const TemporaryHome& home) {
+    TemporarySettings settings;
+    const auto tools = std::make_shared<ScriptedTools>();
+    tools->answer = [&home](const ToolRequest&) {
+        return ToolResult{.launched = true, .exitStatus = 1, .complaint = home.path()};
+    };
+    SettingsFile(home.makeFile(u"file"_s) + u"/below.ini"_s).store(u"key"_s, home.path());
+    QCoro::waitFor(LinuxRelief(tools).quitApplication(home.path(), false));
+    QCoro::waitFor(Cleaner::list({}, home.path(), {}, tools));
+    std::stringbuf twice("x = 1\nx = '" + home.path().toStdString() + "'\n");
+    ServerToml::read(twice, home.path());
+    auto feed = std::make_unique<ScriptedFeed>();
+    feed->answer = home.path().toUtf8();
+    MessageCenter center(std::move(feed), settings.preferences.file());
+    QCoro::waitFor(center.refresh());
+}
+
+} // namespace
+
+TEST(Log, IsSilentUntilAskedAndNamesNothingOfTheUsersAboveDebugging) {
+    const TemporaryHome home;
+    const QSet<QString> all = {u"tavrin.platform"_s, u"tavrin.relief"_s, u"tavrin.cleanup"_s, u"tavrin.mcp"_s,
+                               u"tavrin.feed"_s};
+    {
+        const Trace trace({});
+        failEverywhere(home);
+        EXPECT_TRUE(Trace::told.isEmpty());
+    }
+    {
+        const Trace trace(u"tavrin.*=true\ntavrin.*.debug=false"_s);
+        failEverywhere(home);
+        EXPECT_EQ(Trace::categories(), all);
+        EXPECT_FALSE(Trace::names(home.path()));
+    }
+    const Trace trace(u"tavrin.*=true"_s);
+    failEverywhere(home);
+    EXPECT_TRUE(Trace::names(home.path()));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Platform/Relief.h"
+#include "support/Turn.h"
+
+#include <QStringList>
+
+#include <functional>
+
+/// Gives nothing back: it remembers what was asked for and answers from `answer`, at once or, while `held`,
+/// when the test lets the oldest request go.
+class FakeRelief : public Relief {
+public:
+    std::function<Outcome()> answer = [] { return Outcome::success(); };
+    bool held = false;
+    QStringList requests; ///< "quit NAME", "force-quit NAME", "reclaim memory", "drop caches"
+
+    QCoro::Task<Outcome> quitApplication(QString name, bool force) override {
+        return ask((force ? QStringLiteral("force-quit ") : QStringLiteral("quit ")) + name);
+    }
+    QCoro::Task<Outcome> reclaimMemory() override { return ask(QStringLiteral("reclaim memory")); }
+    QCoro::Task<Outcome> dropCaches() override { return ask(QStringLiteral("drop caches")); }
+
+    /// False when no request is held.
+    bool release() {
+        if (m_waiting.isEmpty())
+            return false;
+        m_waiting.takeFirst().resume();
+        return true;
+    }
+
+private:
+    QCoro::Task<Outcome> ask(QString request) {
+        requests.append(request);
+        if (held) {
+            Turn turn{m_waiting};
+            co_await turn;
+        }
+        co_return answer();
+    }
+
+    QList<std::coroutine_handle<>> m_waiting;
+};
