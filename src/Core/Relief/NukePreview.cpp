@@ -94,10 +94,11 @@ QString NukePreview::dialogMessage() const {
                    .arg(*parentAppName, count, Formatters::bytes(totalRSS)) +
                terminalsMessage();
     }
-    return QCoreApplication::translate("NukePreview", "Sends SIGTERM to all %1 PIDs. Use sparingly — unsaved "
-                                                      "work in those processes may be lost.\n\n"
-                                                      "PIDs: %2")
-        .arg(count, pidList(pids));
+    return QCoreApplication::translate(
+               "NukePreview",
+               "Sends SIGTERM to all %1 PIDs. Use sparingly — unsaved work in those processes may be lost.")
+               .arg(count) +
+           u"\n\n"_s + QCoreApplication::translate("NukePreview", "PIDs: %1").arg(pidList(pids));
 }
 
 QString NukePreview::terminalsMessage() const {
