@@ -3,6 +3,7 @@
 #include "AppDelegate.h"
 #include "AppModel.h"
 #include "Core/Announcements/MessageCenter.h"
+#include "Core/Translations.h"
 #include "Platform/Appearance.h"
 #include "Platform/LoginItem.h"
 #include "Platform/SingleInstance.h"
@@ -27,6 +28,7 @@ QString displayName() {
 
 TavrinApp::TavrinApp(int& argc, char** argv)
     : QApplication(argc, argv) {
+    Translations::install();
     setApplicationName(QStringLiteral("Tavrin"));
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
     setDesktopFileName(QStringLiteral("tavrin"));

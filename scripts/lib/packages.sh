@@ -6,7 +6,7 @@ packages_of() {
     case $1 in
     # Everything that configuring needs: the tests and benchmarks are part of every configuration, so
     # that no script changes the cache that another one left behind.
-    build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qcoro-qt6-dev libxcb1-dev libxcb-res0-dev \
+    build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qcoro-qt6-dev libxcb1-dev libxcb-res0-dev \
         libtomlplusplus-dev nlohmann-json3-dev \
         libgtest-dev libgmock-dev ;;
     test) echo procps fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston ;;

@@ -1,5 +1,7 @@
 #include "Core/Formatters.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -45,17 +47,21 @@ QString duration(double seconds) {
     if (!std::isfinite(seconds) || seconds < 0)
         seconds = 0;
     if (seconds < secondsPerMinute)
-        return fixed(seconds, 0) + u's';
+        return QCoreApplication::translate("Formatters", "%1s", "seconds").arg(fixed(seconds, 0));
     if (seconds < secondsPerHour)
-        return fixed(std::round(seconds / secondsPerMinute), 0) + u'm';
-    return fixed(seconds / secondsPerHour, 1) + u'h';
+        return QCoreApplication::translate("Formatters", "%1m", "minutes")
+            .arg(fixed(std::round(seconds / secondsPerMinute), 0));
+    return QCoreApplication::translate("Formatters", "%1h", "hours").arg(fixed(seconds / secondsPerHour, 1));
 }
 
 QString bytes(quint64 count) {
-    constexpr std::array<QStringView, 6> units = {u"KB", u"MB", u"GB", u"TB", u"PB", u"EB"};
+    constexpr std::array units = {
+        QT_TRANSLATE_NOOP("Formatters", "%1 KB"), QT_TRANSLATE_NOOP("Formatters", "%1 MB"),
+        QT_TRANSLATE_NOOP("Formatters", "%1 GB"), QT_TRANSLATE_NOOP("Formatters", "%1 TB"),
+        QT_TRANSLATE_NOOP("Formatters", "%1 PB"), QT_TRANSLATE_NOOP("Formatters", "%1 EB")};
     constexpr double step = 1024;
     if (count < 1024)
-        return count == 1 ? QStringLiteral("1 byte") : QStringLiteral("%1 bytes").arg(count);
+        return QCoreApplication::translate("Formatters", "%n byte(s)", nullptr, int(count));
     double value = static_cast<double>(count) / step;
     std::size_t unit = 0;
     // What would round up to 1024 of a unit is one of the next.
@@ -66,29 +72,28 @@ QString bytes(quint64 count) {
     QString number = fixed(value, 1);
     if (number.endsWith(QStringLiteral(".0")))
         number.chop(2);
-    return QStringLiteral("%1 %2").arg(number, units[unit]);
+    return QCoreApplication::translate("Formatters", units[unit]).arg(number);
 }
 
 QString ago(double seconds) {
     struct Unit {
         double seconds;
-        QStringView name;
+        const char* text;
     };
-    constexpr std::array units = {Unit{365.0 * 86400, u"year"},
-                                  Unit{30.0 * 86400, u"month"},
-                                  Unit{7.0 * 86400, u"week"},
-                                  Unit{86400, u"day"},
-                                  Unit{3600, u"hour"},
-                                  Unit{60, u"minute"},
-                                  Unit{1, u"second"}};
+    constexpr std::array units = {Unit{365.0 * 86400, QT_TRANSLATE_N_NOOP("Formatters", "%n year(s) ago")},
+                                  Unit{30.0 * 86400, QT_TRANSLATE_N_NOOP("Formatters", "%n month(s) ago")},
+                                  Unit{7.0 * 86400, QT_TRANSLATE_N_NOOP("Formatters", "%n week(s) ago")},
+                                  Unit{86400, QT_TRANSLATE_N_NOOP("Formatters", "%n day(s) ago")},
+                                  Unit{3600, QT_TRANSLATE_N_NOOP("Formatters", "%n hour(s) ago")},
+                                  Unit{60, QT_TRANSLATE_N_NOOP("Formatters", "%n minute(s) ago")},
+                                  Unit{1, QT_TRANSLATE_N_NOOP("Formatters", "%n second(s) ago")}};
     for (const Unit& unit : units) {
         if (!(seconds >= unit.seconds))
             continue;
-        const auto count = static_cast<qint64>(seconds / unit.seconds);
-        const QString text = QStringLiteral("%1 %2").arg(count).arg(unit.name);
-        return (count == 1 ? text : text + u's') + QStringLiteral(" ago");
+        return QCoreApplication::translate("Formatters", unit.text, nullptr,
+                                           static_cast<int>(seconds / unit.seconds));
     }
-    return QStringLiteral("just now");
+    return QCoreApplication::translate("Formatters", "just now");
 }
 
 QString percent(double value) {

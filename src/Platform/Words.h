@@ -11,5 +11,6 @@ struct Words {
     QString statusArea;  ///< as a title
     QString symbol;      ///< a drawing that is chosen by its name
 
-    static const Words& native();
+    /// In the user's language.
+    static Words native();
 };

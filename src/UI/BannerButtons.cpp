@@ -58,7 +58,7 @@ void ActionCapsule::paintEvent(QPaintEvent*) {
 
 DismissButton::DismissButton(QWidget* parent)
     : QAbstractButton(parent) {
-    setToolTip(QStringLiteral("Dismiss"));
+    setToolTip(tr("Dismiss"));
     setAccessibleName(toolTip());
     setFixedSize(dismissSide, dismissSide);
     setFocusPolicy(Qt::TabFocus);

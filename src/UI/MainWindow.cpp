@@ -30,7 +30,7 @@ MainWindow::MainWindow(AppModel& model, Preferences& preferences, MessageCenter&
 }
 
 void MainWindow::addMenuActions() {
-    auto* close = new QAction(QStringLiteral("Close Window"), this);
+    auto* close = new QAction(tr("Close Window"), this);
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);

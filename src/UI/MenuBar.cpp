@@ -78,11 +78,11 @@ QString MenuBarController::title(MenuBarFormat format, const SystemSample& sampl
     const int ram = rounded(sample.memUsedPercent());
     switch (format) {
     case MenuBarFormat::both:
-        return QStringLiteral("CPU %1% • RAM %2%").arg(cpu).arg(ram);
+        return tr("CPU %1% • RAM %2%").arg(cpu).arg(ram);
     case MenuBarFormat::cpuOnly:
-        return QStringLiteral("CPU %1%").arg(cpu);
+        return tr("CPU %1%").arg(cpu);
     case MenuBarFormat::ramOnly:
-        return QStringLiteral("RAM %1%").arg(ram);
+        return tr("RAM %1%").arg(ram);
     case MenuBarFormat::iconOnly:
         return {};
     }

@@ -79,14 +79,14 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addWidget(new Divider);
     column->addLayout(makeStatistics());
     column->addWidget(new Divider);
-    column->addWidget(caption(QStringLiteral("Top 5 by RAM")));
+    column->addWidget(caption(tr("Top 5 by RAM")));
     column->addLayout(m_processColumn);
 
     auto* alerts = new QVBoxLayout(m_alertSection);
     alerts->setContentsMargins(0, 0, 0, 0);
     alerts->setSpacing(spacing);
     alerts->addWidget(new Divider);
-    alerts->addWidget(caption(QStringLiteral("Alerts")));
+    alerts->addWidget(caption(tr("Alerts")));
     alerts->addLayout(m_alertColumn);
     column->addWidget(m_alertSection);
     column->addStretch();
@@ -98,9 +98,9 @@ QLayout* MenuBarPanel::makeHeader() {
     auto* title = new TextLabel(TextStyle::headline);
     title->setPlainText(QStringLiteral("Tavrin"));
     auto* widgetButton =
-        new IconButton(QStringLiteral("rectangle.on.rectangle"), QStringLiteral("Toggle floating widget"));
+        new IconButton(QStringLiteral("rectangle.on.rectangle"), tr("Toggle floating widget"));
     connect(widgetButton, &IconButton::clicked, this, [this] { m_widget.toggle(m_model); });
-    auto* open = new TextButton(QStringLiteral("Open"));
+    auto* open = new TextButton(tr("Open"));
     connect(open, &TextButton::clicked, this, &MenuBarPanel::openMainWindow);
 
     auto* row = new QHBoxLayout;
@@ -115,8 +115,7 @@ QLayout* MenuBarPanel::makeHeader() {
 QLayout* MenuBarPanel::makeStatistics() {
     auto* row = new QHBoxLayout;
     row->setSpacing(spacing);
-    const QStringList labels{QStringLiteral("CPU"), QStringLiteral("RAM"), QStringLiteral("Disk"),
-                             QStringLiteral("Therm")};
+    const QStringList labels{tr("CPU"), tr("RAM"), tr("Disk"), tr("Therm")};
     for (std::size_t i = 0; i < m_statistics.size(); ++i) {
         m_statistics[i] = new FigureColumn(labels[static_cast<qsizetype>(i)]);
         row->addWidget(m_statistics[i], 1);

@@ -1,5 +1,6 @@
 #include "UI/RootView.h"
 
+#include "Core/Translations.h"
 #include "Preferences.h"
 #include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/IconButton.h"
@@ -48,7 +49,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     : QWidget(parent)
     , m_storeLater(preferences.file())
     , m_sidebar(new QListWidget)
-    , m_menuButton(new IconButton(QStringLiteral("gear"), QStringLiteral("Menu")))
+    , m_menuButton(new IconButton(QStringLiteral("gear"), tr("Menu")))
     , m_banner(new MessageBanner(messages))
     , m_title(new TextLabel(Theme::TextStyle::title2, QFont::Bold))
     , m_sections(new QStackedWidget) {
@@ -57,7 +58,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     m_sidebar->setMinimumWidth(sidebarMinimum);
     m_sidebar->setMaximumWidth(sidebarMaximum);
     m_sidebar->setMouseTracking(true);
-    m_sidebar->setAccessibleName(QStringLiteral("Sections"));
+    m_sidebar->setAccessibleName(tr("Sections"));
     m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* sidebarPane = new QWidget;
@@ -120,11 +121,11 @@ void RootView::restoreSidebar(QSplitter* split, const SettingsFile& file) {
 
 void RootView::showSection(int row) {
     m_sections->setCurrentIndex(row);
-    m_title->setPlainText(rawValue(tab()));
+    m_title->setPlainText(Translations::of(tab()));
 }
 
 void RootView::addSection(Tab tab, QWidget* section) {
-    auto* row = new QListWidgetItem(rawValue(tab), m_sidebar);
+    auto* row = new QListWidgetItem(Translations::of(tab), m_sidebar);
     row->setData(SidebarDelegate::symbolRole, tabSymbol(tab));
     m_sections->addWidget(section);
 }

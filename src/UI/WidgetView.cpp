@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "Core/Formatters.h"
 #include "Core/Observe.h"
+#include "Core/Translations.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Levels.h"
@@ -63,9 +64,8 @@ QLayout* WidgetView::makeHeader() {
     symbol->set(QStringLiteral("waveform.path.ecg"), Role::accent);
     auto* name = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();
     name->setPlainText(QStringLiteral("Tavrin"));
-    m_open = new IconButton(QStringLiteral("arrow.up.left.and.arrow.down.right"),
-                            QStringLiteral("Open dashboard"));
-    m_hide = new IconButton(QStringLiteral("xmark.circle.fill"), QStringLiteral("Hide widget"));
+    m_open = new IconButton(QStringLiteral("arrow.up.left.and.arrow.down.right"), tr("Open dashboard"));
+    m_hide = new IconButton(QStringLiteral("xmark.circle.fill"), tr("Hide widget"));
     connect(m_open, &IconButton::clicked, this, &WidgetView::openMain);
     connect(m_hide, &IconButton::clicked, this, &WidgetView::close);
 
@@ -87,8 +87,7 @@ QLayout* WidgetView::makeHeader() {
 QLayout* WidgetView::makeGrid() {
     auto* grid = new QGridLayout;
     grid->setSpacing(tileSpacing);
-    const QStringList titles{QStringLiteral("CPU"), QStringLiteral("RAM"), QStringLiteral("Disk free"),
-                             QStringLiteral("Therm")};
+    const QStringList titles{tr("CPU"), tr("RAM"), tr("Disk free"), tr("Therm")};
     for (int i = 0; i < 4; ++i) {
         auto* tile = new MiniTile(titles[i]);
         m_tiles[static_cast<std::size_t>(i)] = tile;
@@ -100,7 +99,7 @@ QLayout* WidgetView::makeGrid() {
 
 QLayout* WidgetView::makeGroups() {
     auto* heading = (new TextLabel(TextStyle::caption2))->secondary();
-    heading->setPlainText(QStringLiteral("Groups (RAM)"));
+    heading->setPlainText(tr("Groups (RAM)"));
     m_groupColumn = new QVBoxLayout;
     m_groupColumn->setSpacing(0);
     m_groupColumn->addWidget(heading);
@@ -162,7 +161,7 @@ void WidgetView::refreshGroups() {
     m_groupRows.show(std::min(groups.size(), shownGroups), [&groups](PanelRow& row, qsizetype i) {
         row.set({.symbol = groupSymbol(groups[i].group),
                  .tint = Role::secondaryText,
-                 .text = rawValue(groups[i].group),
+                 .text = Translations::of(groups[i].group),
                  .textRole = Role::primaryText,
                  .figure = Formatters::bytes(groups[i].rssBytes)});
     });
@@ -178,8 +177,8 @@ void WidgetView::refreshAlert() {
                   .text = alerts.first().title,
                   .textRole = Role::primaryText,
                   .figure = {}});
-    const qsizetype more = alerts.size() - 1;
-    m_more->setPlainText(QStringLiteral("+ %1 more alert%2").arg(more).arg(more == 1 ? u"" : u"s"));
+    const auto more = static_cast<int>(alerts.size()) - 1;
+    m_more->setPlainText(tr("+ %n more alert(s)", nullptr, more));
     m_more->setVisible(more > 0);
 }
 
@@ -188,8 +187,8 @@ QString WidgetView::shortBytes(quint64 bytes) {
     constexpr double GiB = 1073741824;
     const auto count = static_cast<double>(bytes);
     if (count / GiB >= 1)
-        return QStringLiteral("%1G").arg(count / GiB, 0, 'f', 0);
-    return QStringLiteral("%1M").arg(count / MiB, 0, 'f', 0);
+        return tr("%1G").arg(count / GiB, 0, 'f', 0);
+    return tr("%1M").arg(count / MiB, 0, 'f', 0);
 }
 
 void WidgetView::paintEvent(QPaintEvent*) {

@@ -1,3 +1,5 @@
+#include "Core/Translations.h"
+
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
@@ -8,6 +10,7 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QCoreApplication app(argc, argv);
+    Translations::install();
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("TAVRIN_MOUNTS_OUTSIDE")) { // for the process that has mounts of its own
         const std::string filter = GTEST_FLAG_GET(filter);

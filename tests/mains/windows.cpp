@@ -1,3 +1,4 @@
+#include "Core/Translations.h"
 #include "UI/Style/Style.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QApplication app(argc, argv);
+    Translations::install();
     QApplication::setStyle(new Style);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -2,6 +2,7 @@
 // a scripted busy machine. The scale is Qt's own (QT_SCALE_FACTOR).
 
 #include "Core/Announcements/MessageCenter.h"
+#include "Core/Translations.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupView.h"
@@ -515,6 +516,7 @@ void shootSheets(Camera& camera) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    Translations::install();
     QApplication::setStyle(new Style);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
         std::fprintf(stderr, "usage: tavrin_screenshots OUTDIR\n");

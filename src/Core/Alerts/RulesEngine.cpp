@@ -3,9 +3,12 @@
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Sampling/ProcessFilter.h"
+#include "Core/Translations.h"
 #include "Platform/Identity.h"
 #include "Platform/Words.h"
 #include "Preferences.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -38,18 +41,21 @@ std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& 
     const double free =
         (static_cast<double>(system.memTotalBytes) - static_cast<double>(system.memUsedBytes)) / GiB;
     if (free < threshold) {
-        return Alert{.id = u"ram_low"_s,
-                     .severity = Severity::danger,
-                     .title = u"Free RAM low"_s,
-                     .detail = u"Only %1 GB free — consider quitting top hogs or cleaning caches."_s.arg(
-                         oneDecimal(free)),
-                     .actionTarget = u"ram"_s};
+        return Alert{
+            .id = u"ram_low"_s,
+            .severity = Severity::danger,
+            .title = QCoreApplication::translate("RulesEngine", "Free RAM low"),
+            .detail = QCoreApplication::translate(
+                          "RulesEngine", "Only %1 GB free — consider quitting top hogs or cleaning caches.")
+                          .arg(oneDecimal(free)),
+            .actionTarget = u"ram"_s};
     }
     if (free < 2 * threshold) {
         return Alert{.id = u"ram_warn"_s,
                      .severity = Severity::warn,
-                     .title = u"RAM getting tight"_s,
-                     .detail = u"%1 GB free."_s.arg(oneDecimal(free)),
+                     .title = QCoreApplication::translate("RulesEngine", "RAM getting tight"),
+                     .detail =
+                         QCoreApplication::translate("RulesEngine", "%1 GB free.").arg(oneDecimal(free)),
                      .actionTarget = u"ram"_s};
     }
     return std::nullopt;
@@ -77,18 +83,21 @@ std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample
     });
     return Alert{.id = u"cpu_hot"_s,
                  .severity = Severity::warn,
-                 .title = u"CPU saturated"_s,
-                 .detail = u"%1 total — top: %2"_s.arg(Formatters::percent(system.cpuPercent),
-                                                       named ? named->name : u"—"_s),
+                 .title = QCoreApplication::translate("RulesEngine", "CPU saturated"),
+                 .detail = QCoreApplication::translate("RulesEngine", "%1 total — top: %2")
+                               .arg(Formatters::percent(system.cpuPercent), named ? named->name : u"—"_s),
                  .actionPid = target ? std::optional(target->pid) : std::nullopt};
 }
 
 Alert thermalAlert(ThermalState state) {
     return {.id = u"thermal"_s,
             .severity = Severity::danger,
-            .title = u"%1 is running hot (%2)"_s.arg(Words::native().computer, thermalLabel(state)),
-            .detail = u"%1 is throttling — reduce parallel agentic work or quit Docker/ollama."_s.arg(
-                Words::native().system)};
+            .title = QCoreApplication::translate("RulesEngine", "%1 is running hot (%2)")
+                         .arg(Words::native().computer, thermalLabel(state)),
+            .detail =
+                QCoreApplication::translate(
+                    "RulesEngine", "%1 is throttling — reduce parallel agentic work or quit Docker/ollama.")
+                    .arg(Words::native().system)};
 }
 
 std::optional<Alert> swapAlert(const SystemSample& system) {
@@ -97,17 +106,20 @@ std::optional<Alert> swapAlert(const SystemSample& system) {
         return std::nullopt;
     return Alert{.id = u"swap_high"_s,
                  .severity = Severity::warn,
-                 .title = u"Heavy swap usage"_s,
-                 .detail = u"%1 GB swapped — system will feel sluggish."_s.arg(oneDecimal(swap))};
+                 .title = QCoreApplication::translate("RulesEngine", "Heavy swap usage"),
+                 .detail =
+                     QCoreApplication::translate("RulesEngine", "%1 GB swapped — system will feel sluggish.")
+                         .arg(oneDecimal(swap))};
 }
 
 Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
     return {.id = u"idle_agent_%1"_s.arg(process.pid),
             .severity = Severity::warn,
-            .title = u"Idle agent — "_s + process.name,
-            .detail = u"Idle %1 min, %2 RAM."_s.arg(Formatters::fixed(process.idleSeconds / 60, 0),
-                                                    Formatters::bytes(process.rssBytes)) +
-                      (maySignal ? u" Quit?"_s : QString()),
+            .title = QCoreApplication::translate("RulesEngine", "Idle agent — %1").arg(process.name),
+            .detail =
+                (maySignal ? QCoreApplication::translate("RulesEngine", "Idle %1 min, %2 RAM. Quit?")
+                           : QCoreApplication::translate("RulesEngine", "Idle %1 min, %2 RAM."))
+                    .arg(Formatters::fixed(process.idleSeconds / 60, 0), Formatters::bytes(process.rssBytes)),
             .actionPid = maySignal ? std::optional(process.pid) : std::nullopt};
 }
 
@@ -140,9 +152,12 @@ std::optional<Alert> browserAlert(const SystemSample& system, const QList<GroupR
         return std::nullopt;
     return Alert{.id = u"browser_hog"_s,
                  .severity = Severity::info,
-                 .title = u"Browsers using "_s + Formatters::bytes(browsers->rssBytes),
-                 .detail = u"That's %1 of total RAM. Closing idle tabs frees the most memory fastest."_s.arg(
-                     Formatters::percent(share)),
+                 .title = QCoreApplication::translate("RulesEngine", "Browsers using %1")
+                              .arg(Formatters::bytes(browsers->rssBytes)),
+                 .detail = QCoreApplication::translate(
+                               "RulesEngine",
+                               "That's %1 of total RAM. Closing idle tabs frees the most memory fastest.")
+                               .arg(Formatters::percent(share)),
                  .actionTarget = u"browsers"_s};
 }
 
@@ -154,13 +169,14 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
     QStringList big;
     for (const CacheTarget& target : caches) {
         if (target.sizeBytes > *limit / static_cast<quint64>(caches.size()))
-            big.append(u"%1 (%2)"_s.arg(target.name, Formatters::bytes(target.sizeBytes)));
+            big.append(u"%1 (%2)"_s.arg(Translations::of(target.name), Formatters::bytes(target.sizeBytes)));
     }
     if (total <= *limit)
         return std::nullopt;
     return Alert{.id = u"caches_big"_s,
                  .severity = Severity::info,
-                 .title = u"Caches reclaimable: "_s + Formatters::bytes(total),
+                 .title = QCoreApplication::translate("RulesEngine", "Caches reclaimable: %1")
+                              .arg(Formatters::bytes(total)),
                  .detail = big.mid(0, namedCaches).join(u", "_s),
                  .actionTarget = u"caches"_s};
 }

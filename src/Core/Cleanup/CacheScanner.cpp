@@ -8,6 +8,7 @@
 #include "Platform/Platform.h"
 #include "Platform/ToolRunner.h"
 
+#include <QCoreApplication>
 #include <QCoroTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -58,7 +59,8 @@ QStringList openPlaces(CacheTarget& target, const Places& places) {
 /// Takes what was found out about a folder; where that is nothing, the target says why.
 void take(CacheTarget& target, const ListedFolder& folder, const QString& reason) {
     if (folder.listing.isEmpty() && !reason.isEmpty())
-        target.notes.append(u"%1 cannot be cleaned: %2."_s.arg(folder.path, reason));
+        target.notes.append(QCoreApplication::translate("CacheScanner", "%1 cannot be cleaned: %2.")
+                                .arg(folder.path, reason));
     target.listed.append(folder);
     target.sizeBytes += folder.sizeBytes;
 }
@@ -186,7 +188,9 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
     target.notes.clear();
     target.volumes.clear();
     if (const auto reclaimable = parseReclaimable(report)) {
-        target.notes.append(u"The tool calls %1 of it reclaimable."_s.arg(Formatters::bytes(*reclaimable)));
+        target.notes.append(
+            QCoreApplication::translate("CacheScanner", "The tool calls %1 of it reclaimable.")
+                .arg(Formatters::bytes(*reclaimable)));
         const QByteArray volumes = co_await askContainers(volumesThatGo);
         target.volumes = parseVolumes(volumes);
     }

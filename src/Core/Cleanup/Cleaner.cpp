@@ -5,6 +5,7 @@
 #include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Cleaner::CleanResult cancelled() {
-    return {Outcome::failure(u"cancelled"_s)};
+    return {Outcome::failure(QCoreApplication::translate("Cleaner", "cancelled"))};
 }
 
 void fail(Cleaner::CleanResult& result, const QString& reason) {

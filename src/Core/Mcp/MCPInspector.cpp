@@ -6,6 +6,7 @@
 #include "Core/Sampling/ProgramPath.h"
 #include "Platform/Words.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 
@@ -167,8 +168,9 @@ LiveServer describe(const ProcSample& process, const QList<const ProcSample*>& l
                       .displayLabel = displayLabel(process),
                       .rssBytes = process.rssBytes,
                       .idleSeconds = process.idleSeconds,
-                      .parentName =
-                          parent ? parent->name : u"(%1 or gone)"_s.arg(Words::native().initProcess),
+                      .parentName = parent ? parent->name
+                                           : QCoreApplication::translate("MCPInspector", "(%1 or gone)")
+                                                 .arg(Words::native().initProcess),
                       .startTime = process.startTime};
     for (const ProcSample* launcher : launchers) {
         server.launchers.append(launcher->identity());

@@ -6,6 +6,7 @@
 #include "Core/Sampling/ProgramPath.h"
 #include "Platform/Clock.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 
 using namespace Qt::StringLiterals;
@@ -16,12 +17,14 @@ using MCPInspector::LiveServer;
 
 constexpr double minIdleSeconds = 60; ///< below it a server has only just answered
 
-QString idleText(double seconds) {
+/// The reason why a server is an orphan, with how long it has been idle.
+QString withIdleTime(const QString& reason, double seconds) {
     if (seconds < minIdleSeconds)
-        return {};
+        return reason;
     const bool isHours = seconds >= 3600;
-    return u", no CPU for %1 %2"_s.arg(std::lround(seconds / (isHours ? 3600 : 60)))
-        .arg(isHours ? u"h"_s : u"min"_s);
+    return (isHours ? QCoreApplication::translate("ServerWatch", "%1, no CPU for %2 h")
+                    : QCoreApplication::translate("ServerWatch", "%1, no CPU for %2 min"))
+        .arg(reason, QString::number(std::lround(seconds / (isHours ? 3600 : 60))));
 }
 
 QString timeText(Instant instant) {
@@ -102,24 +105,24 @@ void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const P
 }
 
 QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const {
-    if (server.host) {
-        const QString place =
-            past.hostFolder.isEmpty() ? QString() : u" in "_s + Formatters::visible(past.hostFolder);
-        return u"in use by "_s + nameAndId(past.hostName, past.host.pid) + place;
-    }
+    const QString host = nameAndId(past.hostName, past.host.pid);
+    if (server.host)
+        return past.hostFolder.isEmpty()
+                   ? QCoreApplication::translate("ServerWatch", "in use by %1").arg(host)
+                   : QCoreApplication::translate("ServerWatch", "in use by %1 in %2")
+                         .arg(host, Formatters::visible(past.hostFolder));
     if (!server.isOrphan) {
         const QString keeper = Formatters::visible(QString::fromUtf8(server.keeper.name));
         return server.keeper.kind == ProcessKeeper::Kind::container
-                   ? u"runs in the container "_s + keeper
-                   : u"run by the service manager as "_s + keeper;
+                   ? QCoreApplication::translate("ServerWatch", "runs in the container %1").arg(keeper)
+                   : QCoreApplication::translate("ServerWatch", "run by the service manager as %1")
+                         .arg(keeper);
     }
-    QString reason = u"orphan: "_s;
+    QString reason = QCoreApplication::translate("ServerWatch", "orphan: no agent or editor above it");
     if (past.hostEnded)
-        reason += u"its host %1 ended at %2"_s.arg(nameAndId(past.hostName, past.host.pid),
-                                                   timeText(*past.hostEnded));
+        reason = QCoreApplication::translate("ServerWatch", "orphan: its host %1 ended at %2")
+                     .arg(host, timeText(*past.hostEnded));
     else if (past.host.pid != 0)
-        reason += u"no longer below its host "_s + nameAndId(past.hostName, past.host.pid);
-    else
-        reason += u"no agent or editor above it"_s;
-    return reason + idleText(server.idleSeconds);
+        reason = QCoreApplication::translate("ServerWatch", "orphan: no longer below its host %1").arg(host);
+    return withIdleTime(reason, server.idleSeconds);
 }

@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <QStringList>
@@ -79,49 +80,61 @@ NukePreview NukePreview::make(const QString& name, const QList<ProcSample>& proc
 QString NukePreview::dialogTitle() const {
     const QString count = QString::number(pids.size());
     if (parentAppName)
-        return u"Quit “"_s + *parentAppName + u"” and all "_s + count + u" helpers?"_s;
-    return u"Kill all "_s + count + u" “"_s + name + u"” processes?"_s;
+        return QCoreApplication::translate("NukePreview", "Quit “%1” and all %2 helpers?")
+            .arg(*parentAppName, count);
+    return QCoreApplication::translate("NukePreview", "Kill all %1 “%2” processes?").arg(count, name);
 }
 
 QString NukePreview::dialogMessage() const {
     const QString count = QString::number(pids.size());
     if (parentAppName) {
-        return u"Tells "_s + *parentAppName + u" to quit cleanly — closes all "_s + count +
-               u" child processes in one sweep, no per-tab pop-ups. Frees ≈"_s + Formatters::bytes(totalRSS) +
-               u'.' + terminalsMessage();
+        return QCoreApplication::translate("NukePreview", "Tells %1 to quit cleanly — closes all %2 child "
+                                                          "processes in one sweep, no per-tab pop-ups. "
+                                                          "Frees ≈%3.")
+                   .arg(*parentAppName, count, Formatters::bytes(totalRSS)) +
+               terminalsMessage();
     }
-    return u"Sends SIGTERM to all "_s + count +
-           u" PIDs. Use sparingly — unsaved work in those processes may be lost.\n\nPIDs: "_s + pidList(pids);
+    return QCoreApplication::translate(
+               "NukePreview",
+               "Sends SIGTERM to all %1 PIDs. Use sparingly — unsaved work in those processes may be lost.")
+               .arg(count) +
+           u"\n\n"_s + QCoreApplication::translate("NukePreview", "PIDs: %1").arg(pidList(pids));
 }
 
 QString NukePreview::terminalsMessage() const {
     if (inTerminals.isEmpty())
         return {};
-    return u"\n\nWhat runs in its terminals ends too (≈"_s + Formatters::bytes(rssOf(inTerminals)) +
-           u"): "_s + nameList(inTerminals) + u'.';
+    return u"\n\n"_s +
+           QCoreApplication::translate("NukePreview", "What runs in its terminals ends too (≈%1): %2.")
+               .arg(Formatters::bytes(rssOf(inTerminals)), nameList(inTerminals));
 }
 
 QString NukePreview::quitButton() const {
-    return u"Quit "_s + parentAppName.value_or(QString()) + u" (≈"_s + Formatters::bytes(totalRSS) + u')';
+    return QCoreApplication::translate("NukePreview", "Quit %1 (≈%2)")
+        .arg(parentAppName.value_or(QString()), Formatters::bytes(totalRSS));
 }
 
 QString NukePreview::forceQuitButton() const {
-    return u"Force-quit "_s + parentAppName.value_or(QString()) + u" (no save prompt)"_s;
+    return QCoreApplication::translate("NukePreview", "Force-quit %1 (no save prompt)")
+        .arg(parentAppName.value_or(QString()));
 }
 
 QString NukePreview::killButton() const {
-    return u"Kill "_s + QString::number(pids.size()) + u" (≈"_s + Formatters::bytes(totalRSS) + u')';
+    return QCoreApplication::translate("NukePreview", "Kill %1 (≈%2)")
+        .arg(QString::number(pids.size()), Formatters::bytes(totalRSS));
 }
 
 QString NukePreview::quitOutcome(const QString& appName, bool succeeded) const {
     if (!succeeded)
-        return u"Couldn't tell "_s + appName +
-               u" to quit (it may not be scriptable). Try the force variant."_s;
-    return appName + u" quit cleanly — "_s + QString::number(pids.size()) + u" helpers closed (≈"_s +
-           Formatters::bytes(totalRSS) + u" freed)"_s;
+        return QCoreApplication::translate(
+                   "NukePreview",
+                   "Couldn't tell %1 to quit (it may not be scriptable). Try the force variant.")
+            .arg(appName);
+    return QCoreApplication::translate("NukePreview", "%1 quit cleanly — %2 helpers closed (≈%3 freed)")
+        .arg(appName, QString::number(pids.size()), Formatters::bytes(totalRSS));
 }
 
 QString NukePreview::killOutcome(int killed) const {
-    return u"Killed "_s + QString::number(killed) + u'/' + QString::number(pids.size()) + u" “"_s + name +
-           u"” processes (≈"_s + Formatters::bytes(totalRSS) + u" targeted)"_s;
+    return QCoreApplication::translate("NukePreview", "Killed %1/%2 “%3” processes (≈%4 targeted)")
+        .arg(QString::number(killed), QString::number(pids.size()), name, Formatters::bytes(totalRSS));
 }

@@ -1,5 +1,6 @@
 #include "Core/Relief/QuickKillPreset.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -115,18 +116,19 @@ std::optional<QList<QuickKillPreset>> QuickKillPreset::decode(const QByteArray& 
 }
 
 QString QuickKillPreset::summaryLine() const {
-    QStringList pieces = {u"pattern: "_s + pattern};
+    QStringList pieces = {QCoreApplication::translate("QuickKillPreset", "pattern: %1").arg(pattern)};
     if (minIdleMinutes > 0)
-        pieces.append(u"idle≥%1m"_s.arg(whole(minIdleMinutes)));
+        pieces.append(QCoreApplication::translate("QuickKillPreset", "idle≥%1m").arg(whole(minIdleMinutes)));
     if (minRSSMB > 0)
-        pieces.append(u"RAM≥%1MB"_s.arg(whole(minRSSMB)));
+        pieces.append(QCoreApplication::translate("QuickKillPreset", "RAM≥%1MB").arg(whole(minRSSMB)));
     if (force)
-        pieces.append(u"force"_s);
+        pieces.append(QCoreApplication::translate("QuickKillPreset", "force"));
     return pieces.join(u" • "_s);
 }
 
 QString QuickKillPreset::outcomeMessage(int matched, int killed) const {
     if (matched == 0)
-        return name + u": nothing matched"_s;
-    return name + u": killed %1/%2"_s.arg(killed).arg(matched);
+        return QCoreApplication::translate("QuickKillPreset", "%1: nothing matched").arg(name);
+    return QCoreApplication::translate("QuickKillPreset", "%1: killed %2/%3")
+        .arg(name, QString::number(killed), QString::number(matched));
 }

@@ -1,15 +1,17 @@
 #include "Core/Sampling/SystemSample.h"
 
+#include <QCoreApplication>
+
 QString thermalLabel(ThermalState state) {
     switch (state) {
     case ThermalState::nominal:
-        return QStringLiteral("Cool");
+        return QCoreApplication::translate("ThermalState", "Cool");
     case ThermalState::fair:
-        return QStringLiteral("Warm");
+        return QCoreApplication::translate("ThermalState", "Warm");
     case ThermalState::serious:
-        return QStringLiteral("Hot");
+        return QCoreApplication::translate("ThermalState", "Hot");
     case ThermalState::critical:
-        return QStringLiteral("Critical");
+        return QCoreApplication::translate("ThermalState", "Critical");
     }
     return {};
 }

@@ -127,7 +127,8 @@ QByteArray FreedesktopLoginItem::entry(const QString& program) {
 
 Outcome FreedesktopLoginItem::registerItem() {
     if (!QDir::isAbsolutePath(m_program))
-        return Outcome::failure(QStringLiteral("The program's own file cannot be found."));
+        return Outcome::failure(
+            QCoreApplication::translate("FreedesktopLoginItem", "The program's own file cannot be found."));
     if (const Outcome made = makeFolder(autostartFolder()); !made.done)
         return made;
     QSaveFile file(entryFile());

@@ -1,5 +1,6 @@
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -127,10 +128,6 @@ QStringList expanded(const QString& pattern) {
     return found;
 }
 
-QString leftAlone(const QString& place, const QString& reason) {
-    return u"%1 is left alone: %2."_s.arg(place, reason);
-}
-
 /// What programs or the user keep for good.
 QStringList keptForGood(const QString& home) {
     QStringList kept;
@@ -201,12 +198,14 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
 
 QString FreedesktopPlaces::objection(const QString& place, const QString& home) const {
     if (QFileInfo(place).isSymLink())
-        return leftAlone(place, u"it is a link"_s);
+        return QCoreApplication::translate("FreedesktopPlaces", "%1 is left alone: it is a link.").arg(place);
     if (canonical(place) == canonical(folderOf(Base::cacheHome, home)))
         return objectionToCacheHome(place, home);
     for (const QString& kept : keptForGood(home)) {
         if (holds(canonical(place), canonical(kept)))
-            return leftAlone(place, u"it holds more than that, in %1"_s.arg(kept));
+            return QCoreApplication::translate("FreedesktopPlaces",
+                                               "%1 is left alone: it holds more than that, in %2.")
+                .arg(place, kept);
     }
     return {};
 }
@@ -214,13 +213,19 @@ QString FreedesktopPlaces::objection(const QString& place, const QString& home) 
 QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QString& home) const {
     const QString place = canonical(folder);
     if (place == u"/tmp" || place == u"/var/tmp")
-        return leftAlone(folder, u"all programs share it"_s);
+        return QCoreApplication::translate("FreedesktopPlaces", "%1 is left alone: all programs share it.")
+            .arg(folder);
     if (isMountRoot(place))
-        return leftAlone(folder, u"a whole file system is mounted there"_s);
+        return QCoreApplication::translate("FreedesktopPlaces",
+                                           "%1 is left alone: a whole file system is mounted there.")
+            .arg(folder);
     for (const QString& kept : keptForGood(home) + userFolders()) {
         const QString other = canonical(kept);
         if (other != canonical(home) && (holds(place, other) || holds(other, place)))
-            return leftAlone(folder, u"the folder of caches must have nothing to do with %1"_s.arg(kept));
+            return QCoreApplication::translate(
+                       "FreedesktopPlaces",
+                       "%1 is left alone: the folder of caches must have nothing to do with %2.")
+                .arg(folder, kept);
     }
     return {};
 }

@@ -1,13 +1,14 @@
 #include "Platform/Words.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
-const Words& Words::native() {
-    static const Words words = {.computer = u"Computer"_s,
-                                .system = u"Linux"_s,
-                                .initProcess = u"init"_s,
-                                .taskBar = u"task bar"_s,
-                                .statusArea = u"Status area"_s,
-                                .symbol = u"Symbol"_s};
-    return words;
+Words Words::native() {
+    return {.computer = QCoreApplication::translate("Words", "Computer"),
+            .system = u"Linux"_s,
+            .initProcess = u"init"_s,
+            .taskBar = QCoreApplication::translate("Words", "task bar"),
+            .statusArea = QCoreApplication::translate("Words", "Status area"),
+            .symbol = QCoreApplication::translate("Words", "Symbol")};
 }

@@ -15,6 +15,8 @@
 #include "Platform/ToolRunner.h"
 #include "Platform/Words.h"
 
+#include <QCoreApplication>
+
 // A system that answers nothing. It shows what each question means where there is no answer.
 
 namespace {
@@ -79,7 +81,8 @@ class NullAppearance : public Appearance {
 
 class NullLoginItem : public LoginItem {
     Outcome registerItem() override {
-        return Outcome::failure(QStringLiteral("Nothing can be started at login here."));
+        return Outcome::failure(
+            QCoreApplication::translate("NullPlatform", "Nothing can be started at login here."));
     }
     Outcome unregisterItem() override { return Outcome::success(); }
     bool isInstalled() const override { return false; }
@@ -111,14 +114,13 @@ std::unique_ptr<LoginItem> Platform::makeLoginItem() {
     return std::make_unique<NullLoginItem>();
 }
 
-const Words& Words::native() {
-    static const Words words = {.computer = QStringLiteral("Computer"),
-                                .system = QStringLiteral("System"),
-                                .initProcess = QStringLiteral("init"),
-                                .taskBar = QStringLiteral("task bar"),
-                                .statusArea = QStringLiteral("Status area"),
-                                .symbol = QStringLiteral("Symbol")};
-    return words;
+Words Words::native() {
+    return {.computer = QCoreApplication::translate("Words", "Computer"),
+            .system = QCoreApplication::translate("Words", "System"),
+            .initProcess = QStringLiteral("init"),
+            .taskBar = QCoreApplication::translate("Words", "task bar"),
+            .statusArea = QCoreApplication::translate("Words", "Status area"),
+            .symbol = QCoreApplication::translate("Words", "Symbol")};
 }
 
 SingleInstance::SingleInstance(const QString&, QObject* parent)

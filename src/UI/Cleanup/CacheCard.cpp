@@ -1,6 +1,7 @@
 #include "UI/Cleanup/CacheCard.h"
 
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
@@ -18,9 +19,9 @@ constexpr int lineGap = 6;
 
 QString scannedText(const std::optional<Instant>& scanned, Instant now) {
     if (!scanned)
-        return QStringLiteral("Not scanned yet");
-    return QStringLiteral("Scanned ") +
-           Formatters::ago(std::chrono::duration<double>(now - *scanned).count());
+        return CacheCard::tr("Not scanned yet");
+    return CacheCard::tr("Scanned %1")
+        .arg(Formatters::ago(std::chrono::duration<double>(now - *scanned).count()));
 }
 
 } // namespace
@@ -43,8 +44,8 @@ void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
     m_target = target;
     m_isSelected = isSelected;
     m_scanned = scanned;
-    setAccessibleName(
-        QStringLiteral("%1, %2, %3").arg(target.name, Formatters::bytes(target.sizeBytes), scanned));
+    setAccessibleName(QStringLiteral("%1, %2, %3")
+                          .arg(Translations::of(target.name), Formatters::bytes(target.sizeBytes), scanned));
     const QString notes = Formatters::visible(target.notes.join(u' '));
     setAccessibleDescription(notes);
     setToolTip(plainToolTip(notes));
@@ -73,7 +74,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
     Symbols::draw(painter, m_target.symbol, Theme::color(Role::accent),
                   QRectF(line.left(), line.top(), Theme::iconSize, line.height()), Theme::iconSize);
     line.setLeft(line.left() + Theme::iconSize + Theme::rowSpacing);
-    Painting::drawElided(painter, line, Qt::ElideRight, m_target.name);
+    Painting::drawElided(painter, line, Qt::ElideRight, Translations::of(m_target.name));
 
     painter.setFont(Theme::font(TextStyle::title2, QFont::DemiBold));
     Painting::drawTabular(painter, takeLine(painter.font()), Qt::AlignLeft,

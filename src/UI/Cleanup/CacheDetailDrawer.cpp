@@ -2,6 +2,7 @@
 
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/PushButton.h"
@@ -25,18 +26,19 @@ void addNames(SizeList& list, const CacheTarget& target) {
     const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
     const qsizetype shown = isInBreakdown ? target.details.size() : names.shown.size();
     if (!isInBreakdown && shown > 0) {
-        list.addHeading(QStringLiteral("What goes"));
+        list.addHeading(CacheDetailDrawer::tr("What goes"));
         for (const CacheEntry& entry : names.shown)
             list.addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
     }
     if (names.count > shown)
-        list.addLine(QStringLiteral("and %1 more").arg(names.count - shown));
+        list.addLine(CacheDetailDrawer::tr("and %1 more").arg(names.count - shown));
 }
 
 void addVolumes(SizeList& list, const CacheTarget& target) {
     const qsizetype count = target.volumes.size();
-    list.addHeading(count == 0 ? QStringLiteral("No volumes go")
-                               : QStringLiteral("Volumes that go, with all that is in them: %1").arg(count));
+    list.addHeading(count == 0
+                        ? CacheDetailDrawer::tr("No volumes go")
+                        : CacheDetailDrawer::tr("Volumes that go, with all that is in them: %1").arg(count));
     for (const QString& volume : target.volumes)
         list.addRow({.name = volume});
 }
@@ -48,11 +50,11 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     , m_target(std::move(target)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
-    setWindowTitle(m_target.name);
+    setWindowTitle(Translations::of(m_target.name));
     setMinimumSize(minSize);
 
     auto* size = new TextLabel(TextStyle::title, QFont::Bold);
-    size->setPlainText(QStringLiteral("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));
+    size->setPlainText(tr("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));
     size->setForegroundRole(QPalette::Link);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
@@ -62,16 +64,16 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     column->addWidget(size);
     if (m_target.pruneCommand)
         column->addLayout(
-            makeLine(QStringLiteral("terminal"), QStringLiteral("Will run: ") + *m_target.pruneCommand));
+            makeLine(QStringLiteral("terminal"), tr("Will run: %1").arg(*m_target.pruneCommand)));
     for (const QString& note : m_target.notes)
         column->addLayout(makeLine(QStringLiteral("info.circle.fill"), note));
     column->addWidget(new Divider);
     auto* caption = (new TextLabel(TextStyle::caption))->secondary();
-    caption->setPlainText(QStringLiteral("Breakdown"));
+    caption->setPlainText(tr("Breakdown"));
     column->addWidget(caption);
     column->addWidget(makeBreakdown(), 1);
 
-    auto* clean = new PushButton(QStringLiteral("Clean %1").arg(Formatters::bytes(m_target.sizeBytes)),
+    auto* clean = new PushButton(tr("Clean %1").arg(Formatters::bytes(m_target.sizeBytes)),
                                  PushButton::Look::prominent, QStringLiteral("trash"));
     clean->setTint(Role::red);
     connect(clean, &QPushButton::clicked, this, &CacheDetailDrawer::confirm);
@@ -82,8 +84,8 @@ QLayout* CacheDetailDrawer::makeHeader() {
     auto* symbol = new SymbolView(22, Theme::iconColumn);
     symbol->set(m_target.symbol, Role::accent);
     auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
-    title->setPlainText(m_target.name);
-    auto* close = new PushButton(QStringLiteral("Close"));
+    title->setPlainText(windowTitle());
+    auto* close = new PushButton(tr("Close"));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* row = new QHBoxLayout;
@@ -107,12 +109,11 @@ QLayout* CacheDetailDrawer::makeLine(const QString& symbol, const QString& text)
 }
 
 QWidget* CacheDetailDrawer::makeBreakdown() const {
-    auto* list = new SizeList(QStringLiteral("Breakdown"));
+    auto* list = new SizeList(tr("Breakdown"));
     for (const CacheEntry& entry : m_target.details)
         list->addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
     if (m_target.details.isEmpty())
-        list->addLine(m_target.lastScanned ? QStringLiteral("Nothing found.")
-                                           : QStringLiteral("Rescan to see what it consists of."));
+        list->addLine(m_target.lastScanned ? tr("Nothing found.") : tr("Rescan to see what it consists of."));
     addNames(*list, m_target);
     if (m_target.rule.measure == CleanupRule::Measure::containers && !m_target.details.isEmpty())
         addVolumes(*list, m_target);

@@ -2,9 +2,12 @@
 
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/SizeList.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -13,10 +16,10 @@ namespace {
 constexpr int maxListHeight = 300;
 
 SizeList* listOf(const QList<CacheTarget>& targets) {
-    auto* list = new SizeList(u"What goes"_s);
+    auto* list = new SizeList(QCoreApplication::translate("CleanupConfirmation", "What goes"));
     QStringList spoken;
     for (const CacheTarget& target : targets) {
-        const SizeList::Row row{.name = target.name,
+        const SizeList::Row row{.name = Translations::of(target.name),
                                 .figure = Formatters::bytes(target.sizeBytes),
                                 .detail = CleanupTexts::whatGoes(target),
                                 .isGrave = CleanupTexts::takesUserFiles(target)};
@@ -32,9 +35,12 @@ SizeList* listOf(const QList<CacheTarget>& targets) {
 
 void CleanupConfirmation::ask(QWidget* parent, QObject* owner, const CacheTarget& target,
                               const std::function<void()>& clean) {
-    auto* dialog =
-        new ConfirmDialog(parent, u"Delete %1?"_s.arg(target.name), CleanupTexts::question(target));
-    auto* remove = dialog->addAction(u"Delete %1"_s.arg(Formatters::bytes(target.sizeBytes)),
+    auto* dialog = new ConfirmDialog(
+        parent,
+        QCoreApplication::translate("CleanupConfirmation", "Delete %1?").arg(Translations::of(target.name)),
+        CleanupTexts::question(target));
+    auto* remove = dialog->addAction(QCoreApplication::translate("CleanupConfirmation", "Delete %1")
+                                         .arg(Formatters::bytes(target.sizeBytes)),
                                      PushButton::Look::destructive);
     QObject::connect(remove, &QPushButton::clicked, owner, clean);
     dialog->open();
@@ -42,10 +48,12 @@ void CleanupConfirmation::ask(QWidget* parent, QObject* owner, const CacheTarget
 
 void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, const QList<CacheTarget>& targets,
                                  const std::function<void(const QList<CacheTarget>&)>& clean) {
-    auto* dialog =
-        new ConfirmDialog(parent, u"Clean all reclaimable caches?"_s, CleanupTexts::questionAll(targets));
+    auto* dialog = new ConfirmDialog(
+        parent, QCoreApplication::translate("CleanupConfirmation", "Clean all reclaimable caches?"),
+        CleanupTexts::questionAll(targets));
     dialog->addContent(listOf(targets));
-    auto* button = dialog->addAction(u"Clean %1"_s.arg(Formatters::bytes(CleanupPlan::totalBytes(targets))),
+    auto* button = dialog->addAction(QCoreApplication::translate("CleanupConfirmation", "Clean %1")
+                                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets))),
                                      PushButton::Look::destructive);
     QObject::connect(button, &QPushButton::clicked, owner, [targets, clean] { clean(targets); });
     dialog->open();

@@ -2,6 +2,9 @@
 
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <numeric>
@@ -29,9 +32,11 @@ QString listed(const QStringList& names, qsizetype count) {
     if (items.isEmpty())
         return {};
     if (count > items.size())
-        items.append(u"%1 more"_s.arg(count - items.size()));
+        items.append(QCoreApplication::translate("CleanupTexts", "%1 more").arg(count - items.size()));
     const QString last = items.takeLast();
-    return items.isEmpty() ? last : u"%1 and %2"_s.arg(items.join(u", "_s), last);
+    return items.isEmpty()
+               ? last
+               : QCoreApplication::translate("CleanupTexts", "%1 and %2").arg(items.join(u", "_s), last);
 }
 
 QString namesOf(const CacheTarget& target) {
@@ -43,15 +48,15 @@ QString namesOf(const CacheTarget& target) {
 }
 
 QString volumesOf(const CacheTarget& target) {
-    const qsizetype count = target.volumes.size();
-    return u"%1 %2, %3"_s.arg(count).arg(count == 1 ? u"volume"_s : u"volumes"_s,
-                                         listed(target.volumes, count));
+    const auto count = static_cast<int>(target.volumes.size());
+    return QCoreApplication::translate("CleanupTexts", "%n volume(s), %1", nullptr, count)
+        .arg(listed(target.volumes, count));
 }
 
 } // namespace
 
-QString CleanupTexts::progress(const QString& doing, const CleanupProgress& progress) {
-    return u"%1 %2 (%3 of %4)"_s.arg(doing, progress.target).arg(progress.done).arg(progress.total);
+QString CleanupTexts::progress(const QString& sentence, const CleanupProgress& progress) {
+    return sentence.arg(Translations::of(progress.target)).arg(progress.done).arg(progress.total);
 }
 
 bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
@@ -60,12 +65,13 @@ bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
 
 QString CleanupTexts::whatGoes(const CacheTarget& target) {
     if (!target.volumes.isEmpty())
-        return u"Gone for good: "_s + volumesOf(target);
+        return QCoreApplication::translate("CleanupTexts", "Gone for good: %1").arg(volumesOf(target));
     const QString names = namesOf(target);
     if (target.rule.holdsUserFiles)
-        return names.isEmpty() ? u"Gone for good"_s : u"Gone for good: "_s + names;
+        return names.isEmpty() ? QCoreApplication::translate("CleanupTexts", "Gone for good")
+                               : QCoreApplication::translate("CleanupTexts", "Gone for good: %1").arg(names);
     if (names.isEmpty() && target.pruneCommand)
-        return u"Runs "_s + *target.pruneCommand;
+        return QCoreApplication::translate("CleanupTexts", "Runs %1").arg(*target.pruneCommand);
     return names;
 }
 
@@ -73,19 +79,28 @@ QString CleanupTexts::question(const CacheTarget& target) {
     QStringList paragraphs;
     const QString names = namesOf(target);
     if (target.rule.holdsUserFiles) {
-        paragraphs.append(names.isEmpty()
-                              ? u"These are files of yours, no caches. They will be gone for good."_s
-                              : u"These files of yours will be gone for good: %1."_s.arg(names));
+        paragraphs.append(
+            names.isEmpty()
+                ? QCoreApplication::translate(
+                      "CleanupTexts", "These are files of yours, no caches. They will be gone for good.")
+                : QCoreApplication::translate("CleanupTexts",
+                                              "These files of yours will be gone for good: %1.")
+                      .arg(names));
     } else if (!target.volumes.isEmpty()) {
-        paragraphs.append(u"Gone for good, with all that is in them: %1."_s.arg(volumesOf(target)));
-        paragraphs.append(u"Stopped containers go too. Images and build caches are fetched or built again as "
-                          "needed."_s);
+        paragraphs.append(
+            QCoreApplication::translate("CleanupTexts", "Gone for good, with all that is in them: %1.")
+                .arg(volumesOf(target)));
+        paragraphs.append(QCoreApplication::translate(
+            "CleanupTexts",
+            "Stopped containers go too. Images and build caches are fetched or built again as "
+            "needed."));
     } else {
-        paragraphs.append(u"Deleting cache files. Apps will rebuild caches as needed."_s);
+        paragraphs.append(QCoreApplication::translate(
+            "CleanupTexts", "Deleting cache files. Apps will rebuild caches as needed."));
         if (!names.isEmpty())
-            paragraphs.append(u"What goes: %1."_s.arg(names));
+            paragraphs.append(QCoreApplication::translate("CleanupTexts", "What goes: %1.").arg(names));
         if (target.rule.measure == CleanupRule::Measure::containers && !target.details.isEmpty())
-            paragraphs.append(u"No volumes go."_s);
+            paragraphs.append(QCoreApplication::translate("CleanupTexts", "No volumes go."));
     }
     for (const QString& note : target.notes)
         paragraphs.append(Formatters::visible(note));
@@ -96,34 +111,46 @@ QString CleanupTexts::questionAll(const QList<CacheTarget>& targets) {
     QStringList grave;
     for (const CacheTarget& target : targets) {
         if (takesUserFiles(target))
-            grave.append(target.name);
+            grave.append(Translations::of(target.name));
     }
-    QString text = u"Runs every cleanup with a size estimate above 0."_s;
+    QString text =
+        QCoreApplication::translate("CleanupTexts", "Runs every cleanup with a size estimate above 0.");
     if (grave.size() < targets.size())
-        text += u" Apps will rebuild caches as needed."_s;
+        text += u' ' + QCoreApplication::translate("CleanupTexts", "Apps will rebuild caches as needed.");
     if (!grave.isEmpty())
-        text += paragraph +
-                u"Not so with what is yours. It will be gone for good: %1."_s.arg(grave.join(u", "_s));
+        text += paragraph + QCoreApplication::translate(
+                                "CleanupTexts", "Not so with what is yours. It will be gone for good: %1.")
+                                .arg(grave.join(u", "_s));
     const quint64 sum =
         std::accumulate(targets.begin(), targets.end(), quint64(0),
                         [](quint64 total, const CacheTarget& target) { return total + target.sizeBytes; });
     if (sum != CleanupPlan::totalBytes(targets))
-        text += paragraph + u"Some of them overlap; the total counts what they share once."_s;
+        text += paragraph +
+                QCoreApplication::translate("CleanupTexts",
+                                            "Some of them overlap; the total counts what they share once.");
     return text;
 }
 
 QString CleanupTexts::outcome(qsizetype asked, std::pair<int, quint64> cleaned, const CleanupReport& report) {
     const QString freed = Formatters::bytes(cleaned.second);
     if (report.wasCancelled)
-        return u"Cancelled: cleaned %1 of %2 targets, freed ~%3"_s.arg(cleaned.first).arg(asked).arg(freed);
-    return u"Cleaned %1 targets, freed ~%2"_s.arg(cleaned.first).arg(freed);
+        return QCoreApplication::translate("CleanupTexts", "Cancelled: cleaned %1 of %2 targets, freed ~%3")
+            .arg(cleaned.first)
+            .arg(asked)
+            .arg(freed);
+    return QCoreApplication::translate("CleanupTexts", "Cleaned %1 targets, freed ~%2")
+        .arg(cleaned.first)
+        .arg(freed);
 }
 
 QString CleanupTexts::unfinished(const CleanupReport& report) {
     QStringList targets;
     for (const CleanupFailure& failure : report.failures) {
         const QString reason = Formatters::visible(failure.reason);
-        targets.append(reason.isEmpty() ? failure.target : u"%1 (%2)"_s.arg(failure.target, reason));
+        const QString target = Translations::of(failure.target);
+        targets.append(reason.isEmpty() ? target : u"%1 (%2)"_s.arg(target, reason));
     }
-    return targets.isEmpty() ? QString() : u"Not finished: "_s + targets.join(u", "_s);
+    return targets.isEmpty()
+               ? QString()
+               : QCoreApplication::translate("CleanupTexts", "Not finished: %1").arg(targets.join(u", "_s));
 }

@@ -9,8 +9,8 @@
 /// are shortened in the middle.
 namespace CleanupTexts {
 
-/// "Cleaning NAME (1 of 3)".
-QString progress(const QString& doing, const CleanupProgress& progress);
+/// "Cleaning NAME (1 of 3)", by a sentence such as "Cleaning %1 (%2 of %3)".
+QString progress(const QString& sentence, const CleanupProgress& progress);
 
 /// Whether a clean takes what does not come back by itself.
 bool takesUserFiles(const CacheTarget& target);

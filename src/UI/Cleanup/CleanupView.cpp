@@ -34,14 +34,12 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_total((new TextLabel(TextStyle::callout))->secondary())
     , m_result(new TextLabel(TextStyle::callout))
-    , m_rescan(new PushButton(QStringLiteral("Rescan"), PushButton::Look::normal,
-                              QStringLiteral("arrow.clockwise")))
-    , m_cleanAll(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
-                                QStringLiteral("trash.fill")))
+    , m_rescan(new PushButton(tr("Rescan"), PushButton::Look::normal, QStringLiteral("arrow.clockwise")))
+    , m_cleanAll(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill")))
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(QStringLiteral("Cancel")))
+    , m_cancel(new PushButton(tr("Cancel")))
     , m_cards([this] {
         auto* card = new CacheCard;
         connect(card, &CacheCard::opened, this, &CleanupView::open);
@@ -54,7 +52,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     column->addLayout(makeHeader());
     column->addLayout(makeProgress());
     column->addWidget(makeGrid(), 1);
-    setAccessibleName(QStringLiteral("Cleanup"));
+    setAccessibleName(tr("Cleanup"));
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
     connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
@@ -63,7 +61,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
 
 QLayout* CleanupView::makeHeader() {
     auto* title = new TextLabel(TextStyle::title3, QFont::Bold);
-    title->setPlainText(QStringLiteral("Cleanup targets"));
+    title->setPlainText(tr("Cleanup targets"));
     m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* line = new QHBoxLayout;
     line->setSpacing(6);
@@ -89,7 +87,7 @@ QLayout* CleanupView::makeProgress() {
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(6);
     m_cancel->setSmall();
-    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Cancel cleaning"));
     QSizePolicy policy = m_cancel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_cancel->setSizePolicy(policy);
@@ -124,8 +122,8 @@ void CleanupView::refresh() {
     const CacheCleanup& cleanup = m_model.cleanup();
     refreshCards();
     refreshProgress();
-    m_total->setPlainText(QStringLiteral("Reclaimable: ") +
-                          Formatters::bytes(CleanupPlan::totalBytes(cleanup.targets())));
+    m_total->setPlainText(
+        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(cleanup.targets()))));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
@@ -147,11 +145,11 @@ void CleanupView::refreshProgress() {
     const QString unfinished = CleanupTexts::unfinished(cleanup.report());
     if (cleanup.isCleaning())
         m_progress->setPlainText(CleanupTexts::progress(
-            cleanup.report().wasCancelled ? QStringLiteral("Cancelling") : QStringLiteral("Cleaning"),
+            cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)") : tr("Cleaning %1 (%2 of %3)"),
             *cleanup.cleanProgress()));
     else if (cleanup.isScanning())
         m_progress->setPlainText(
-            CleanupTexts::progress(QStringLiteral("Measuring"), *cleanup.scanProgress()));
+            CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *cleanup.scanProgress()));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy);

@@ -41,7 +41,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     m_column->addLayout(m_buttons);
     m_column->setSizeConstraint(QLayout::SetFixedSize);
 
-    auto* cancel = new PushButton(QStringLiteral("Cancel"));
+    auto* cancel = new PushButton(tr("Cancel"));
     cancel->setDefault(true);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     m_buttons->addStretch();

@@ -22,7 +22,7 @@ Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidge
     , m_text(new ClampedLabel(maxLines, Theme::TextStyle::callout)) {
     auto* icon = new SymbolView(Theme::iconSize, Theme::iconColumn);
     icon->set(symbol, Role::green);
-    auto* dismiss = new PushButton(QStringLiteral("Dismiss"), PushButton::Look::borderless);
+    auto* dismiss = new PushButton(tr("Dismiss"), PushButton::Look::borderless);
     connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
 
     auto* card = new Card(this, Role::green);

@@ -24,7 +24,7 @@ SearchField::SearchField(const QString& prompt, QWidget* parent)
     setPlaceholderText(prompt);
     setAccessibleName(prompt);
 
-    auto* button = new IconButton(QStringLiteral("xmark.circle.fill"), QStringLiteral("Clear search"));
+    auto* button = new IconButton(QStringLiteral("xmark.circle.fill"), tr("Clear search"));
     button->setFocusPolicy(Qt::NoFocus);
     button->setCursor(Qt::ArrowCursor);
     button->hide();

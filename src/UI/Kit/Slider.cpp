@@ -40,11 +40,9 @@ void Slider::mouseReleaseEvent(QMouseEvent*) {
     setSliderDown(false);
 }
 
-LabeledSlider::LabeledSlider(QString before, QString after, Range range, double value, int width,
-                             QWidget* parent)
+LabeledSlider::LabeledSlider(QString text, Range range, double value, int width, QWidget* parent)
     : QWidget(parent)
-    , m_before(std::move(before))
-    , m_after(std::move(after))
+    , m_text(std::move(text))
     , m_step(range.step)
     , m_label(new TextLabel(Theme::TextStyle::callout))
     , m_slider(new Slider) {
@@ -70,6 +68,6 @@ double LabeledSlider::value() const {
 }
 
 void LabeledSlider::showValue() {
-    m_label->setPlainText(m_before + QString::number(m_slider->value() * m_step) + m_after);
+    m_label->setPlainText(m_text.arg(m_slider->value() * m_step));
     m_slider->setAccessibleName(m_label->text());
 }

@@ -32,9 +32,8 @@ public:
         int step;
     };
 
-    /// The line is `before`, the value and `after`.
-    LabeledSlider(QString before, QString after, Range range, double value, int width,
-                  QWidget* parent = nullptr);
+    /// The line is `text` with the value in place of its %1.
+    LabeledSlider(QString text, Range range, double value, int width, QWidget* parent = nullptr);
 
     double value() const;
 
@@ -44,8 +43,7 @@ Q_SIGNALS:
 private:
     void showValue();
 
-    QString m_before;
-    QString m_after;
+    QString m_text;
     int m_step;
     TextLabel* m_label;
     Slider* m_slider;

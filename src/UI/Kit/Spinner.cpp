@@ -17,7 +17,7 @@ Spinner::Spinner(QWidget* parent)
     : QWidget(parent) {
     setFixedSize(side, side);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAccessibleName(QStringLiteral("In progress"));
+    setAccessibleName(tr("In progress"));
 }
 
 void Spinner::showEvent(QShowEvent*) {

@@ -65,8 +65,8 @@ QAbstractButton* Stepper::addButton(const QString& symbol, double by) {
 
 void Stepper::setName(const QString& name) {
     setAccessibleName(name);
-    m_less->setAccessibleName(QStringLiteral("Less: ") + name);
-    m_more->setAccessibleName(QStringLiteral("More: ") + name);
+    m_less->setAccessibleName(tr("Less: %1").arg(name));
+    m_more->setAccessibleName(tr("More: %1").arg(name));
 }
 
 void Stepper::setValue(double value) {

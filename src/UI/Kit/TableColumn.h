@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QVariant>
 
-/// What a table's model says of the head of a column, which has a title and an alignment.
+/// What a table's model says of the head of a column, which has a title in the context "Columns" and
+/// an alignment.
 template <typename Column> QVariant headData(const Column& column, int role) {
     if (role == Qt::DisplayRole)
-        return column.title.toString();
+        return QCoreApplication::translate("Columns", column.title);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
     return {};

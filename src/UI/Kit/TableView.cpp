@@ -67,7 +67,7 @@ void TableView::contextMenuEvent(QContextMenuEvent* event) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, index);
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Copy"), this, &TableView::copySelection);
+    menu->addAction(tr("Copy"), this, &TableView::copySelection);
     menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
 }
 

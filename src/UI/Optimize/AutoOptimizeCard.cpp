@@ -6,10 +6,9 @@
 #include <QHBoxLayout>
 
 AutoOptimizeCard::AutoOptimizeCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Auto-Optimize"),
-                   QStringLiteral("Every 30 min: kill orphan MCPs + send memory pressure"),
+    : OptimizeCard(tr("Auto-Optimize"), tr("Every 30 min: kill orphan MCPs + send memory pressure"),
                    QStringLiteral("clock.arrow.circlepath"), Theme::Role::indigo, parent)
-    , m_switch(new QCheckBox(QStringLiteral("Enabled")))
+    , m_switch(new QCheckBox(tr("Enabled")))
     , m_state((new TextLabel(Theme::TextStyle::caption))->secondary()) {
     connect(m_switch, &QCheckBox::clicked, this, &AutoOptimizeCard::switched);
     auto* row = new QHBoxLayout;
@@ -17,12 +16,11 @@ AutoOptimizeCard::AutoOptimizeCard(QWidget* parent)
     row->addWidget(m_switch);
     row->addWidget(m_state, 1);
     content()->addLayout(row);
-    addLine(
-        QStringLiteral("Only safe actions run on the timer. Quitting visible apps stays manual on purpose."));
+    addLine(tr("Only safe actions run on the timer. Quitting visible apps stays manual on purpose."));
     refresh(false);
 }
 
 void AutoOptimizeCard::refresh(bool isEnabled) {
     m_switch->setChecked(isEnabled);
-    m_state->setPlainText(isEnabled ? QStringLiteral("Running in background") : QStringLiteral("Off"));
+    m_state->setPlainText(isEnabled ? tr("Running in background") : tr("Off"));
 }

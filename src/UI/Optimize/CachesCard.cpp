@@ -3,6 +3,7 @@
 #include "Core/Cleanup/CacheCleanup.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
@@ -35,7 +36,7 @@ public:
     }
 
     void set(const CacheTarget& target) {
-        m_name->setPlainText(target.name);
+        m_name->setPlainText(Translations::of(target.name));
         m_size->setPlainText(Formatters::bytes(target.sizeBytes));
     }
 
@@ -45,18 +46,17 @@ private:
 };
 
 CachesCard::CachesCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
+    : OptimizeCard(tr("Caches"), QString(), QStringLiteral("trash"), Role::blue, parent)
     , m_chipRow(new QHBoxLayout)
     , m_chips([this] {
         auto* chip = new CacheChip;
         m_chipRow->addWidget(chip);
         return chip;
     })
-    , m_cancel(new PushButton(QStringLiteral("Cancel")))
-    , m_clean(new PushButton(QStringLiteral("Clean All"), PushButton::Look::prominent,
-                             QStringLiteral("trash.fill"))) {
+    , m_cancel(new PushButton(tr("Cancel")))
+    , m_clean(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill"))) {
     m_clean->setTint(Role::red);
-    m_cancel->setAccessibleName(QStringLiteral("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Cancel cleaning"));
     m_cancel->hide();
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
     connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
@@ -77,11 +77,11 @@ CachesCard::CachesCard(QWidget* parent)
 void CachesCard::refresh(const CacheCleanup& cleanup) {
     const QList<CacheTarget>& targets = cleanup.targets();
     if (cleanup.isCleaning())
-        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? QStringLiteral("Cancelling")
-                                                                         : QStringLiteral("Cleaning"),
+        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)")
+                                                                         : tr("Cleaning %1 (%2 of %3)"),
                                            *cleanup.cleanProgress()));
     else
-        setSubtitle(QStringLiteral("%1 reclaimable across %2 targets")
+        setSubtitle(tr("%1 reclaimable across %2 targets")
                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);

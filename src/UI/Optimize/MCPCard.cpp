@@ -13,14 +13,13 @@ using Theme::Role;
 using Theme::TextStyle;
 
 MCPCard::MCPCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Claude Code & MCP"), QStringLiteral("Loaded servers + orphan detection"),
+    : OptimizeCard(tr("Claude Code & MCP"), tr("Loaded servers + orphan detection"),
                    QStringLiteral("sparkles"), Role::purple, parent)
-    , m_configured(new StatBox(QStringLiteral("Configured")))
-    , m_running(new StatBox(QStringLiteral("Running")))
-    , m_orphans(new StatBox(QStringLiteral("Orphans")))
-    , m_orphanRAM(new StatBox(QStringLiteral("Orphan RAM")))
-    , m_kill(new PushButton(QStringLiteral("Kill orphans"), PushButton::Look::prominent,
-                            QStringLiteral("scissors")))
+    , m_configured(new StatBox(tr("Configured")))
+    , m_running(new StatBox(tr("Running")))
+    , m_orphans(new StatBox(tr("Orphans")))
+    , m_orphanRAM(new StatBox(tr("Orphan RAM")))
+    , m_kill(new PushButton(tr("Kill orphans"), PushButton::Look::prominent, QStringLiteral("scissors")))
     , m_servers(new QWidget)
     , m_rows([this] {
         auto* row = new ServerRow;
@@ -31,7 +30,7 @@ MCPCard::MCPCard(QWidget* parent)
     content()->addLayout(makeFigures());
 
     auto* heading = (new TextLabel(TextStyle::caption))->secondary();
-    heading->setPlainText(QStringLiteral("Running servers"));
+    heading->setPlainText(tr("Running servers"));
     auto* servers = new QVBoxLayout(m_servers);
     servers->setContentsMargins(0, 0, 0, 0);
     servers->setSpacing(Theme::rowSpacing);
@@ -41,7 +40,7 @@ MCPCard::MCPCard(QWidget* parent)
     m_rowsLayout->setSpacing(0);
     servers->addLayout(m_rowsLayout);
     content()->addWidget(m_servers);
-    m_nothing = addLine(QStringLiteral("No ~/.claude/mcp.json found — nothing configured globally."));
+    m_nothing = addLine(tr("No ~/.claude/mcp.json found — nothing configured globally."));
 }
 
 QLayout* MCPCard::makeFigures() {

@@ -25,20 +25,19 @@ void explain(QWidget* button, const QString& failure) {
 } // namespace
 
 MemoryCard::MemoryCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Memory"), QStringLiteral("Free RAM without quitting your work"),
-                   QStringLiteral("memorychip"), Role::green, parent)
-    , m_nudge(actionButton(QStringLiteral("Pressure nudge"), QStringLiteral("wind"), Role::blue))
+    : OptimizeCard(tr("Memory"), tr("Free RAM without quitting your work"), QStringLiteral("memorychip"),
+                   Role::green, parent)
+    , m_nudge(actionButton(tr("Pressure nudge"), QStringLiteral("wind"), Role::blue))
     , m_purge(actionButton(QString(), QStringLiteral("bolt.heart"), Role::orange)) {
-    auto* freeRAM = actionButton(QStringLiteral("Free RAM"), QStringLiteral("memorychip"), Role::green);
+    auto* freeRAM = actionButton(tr("Free RAM"), QStringLiteral("memorychip"), Role::green);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
     for (PushButton* button : {freeRAM, m_nudge, m_purge})
         row->addWidget(button);
     row->addStretch();
     content()->addLayout(row);
-    addLine(
-        QStringLiteral("Pressure: free + compress. Deep purge prompts admin and flushes the unified buffer "
-                       "cache (heavier)."));
+    addLine(tr("Pressure: free + compress. Deep purge prompts admin and flushes the unified buffer "
+               "cache (heavier)."));
     setPurging(false);
     connect(freeRAM, &QPushButton::clicked, this, &MemoryCard::freeRAMRequested);
     connect(m_nudge, &QPushButton::clicked, this, &MemoryCard::nudgeRequested);
@@ -46,7 +45,7 @@ MemoryCard::MemoryCard(QWidget* parent)
 }
 
 void MemoryCard::setPurging(bool purging) {
-    m_purge->setText(purging ? QStringLiteral("Purging…") : QStringLiteral("Deep purge (admin)"));
+    m_purge->setText(purging ? tr("Purging…") : tr("Deep purge (admin)"));
     m_purge->setBusy(purging);
     m_purge->setEnabled(!purging);
 }

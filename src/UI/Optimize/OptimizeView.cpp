@@ -46,7 +46,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
         column->addWidget(part);
     column->addStretch();
     m_notice->raise();
-    setAccessibleName(QStringLiteral("Optimize"));
+    setAccessibleName(tr("Optimize"));
     connectCards();
     observe(&m_model, this, [this] { refresh(); });
     observe(&m_preferences, this, [this] { refresh(); });
@@ -101,8 +101,7 @@ void OptimizeView::nudge() {
         if (!self)
             return;
         self->m_memory->setNudgeFailure(nudged.reason);
-        self->toast(nudged.done ? QStringLiteral("Sent memory_pressure -l warn")
-                                : QStringLiteral("memory_pressure failed"));
+        self->toast(nudged.done ? tr("Sent memory_pressure -l warn") : tr("memory_pressure failed"));
     });
 }
 
@@ -113,8 +112,7 @@ void OptimizeView::purge() {
             return;
         self->m_memory->setPurging(false);
         self->m_memory->setPurgeFailure(purged.reason);
-        self->toast(purged.done ? QStringLiteral("Inactive memory purged")
-                                : QStringLiteral("Purge cancelled or failed"));
+        self->toast(purged.done ? tr("Inactive memory purged") : tr("Purge cancelled or failed"));
     });
 }
 
@@ -126,8 +124,7 @@ void OptimizeView::killPreset(const QuickKillPreset& preset) {
 
 void OptimizeView::killOrphans() {
     const int killed = m_model.actions().killOrphanMCPs(false);
-    toast(killed > 0 ? QStringLiteral("Killed %1 orphan MCP server(s)").arg(killed)
-                     : QStringLiteral("No orphan MCPs to kill"));
+    toast(killed > 0 ? tr("Killed %1 orphan MCP server(s)").arg(killed) : tr("No orphan MCPs to kill"));
 }
 
 void OptimizeView::confirmCleanAll() {

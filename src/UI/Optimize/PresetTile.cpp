@@ -40,7 +40,7 @@ void PresetTile::set(const QuickKillPreset& preset, int matches) {
     m_matches = matches;
     const QString name = Formatters::visible(preset.name);
     const QString summary = Formatters::visible(preset.summaryLine());
-    setAccessibleName(QStringLiteral("%1, %2, %3 matching").arg(name, summary).arg(matches));
+    setAccessibleName(tr("%1, %2, %3 matching").arg(name, summary).arg(matches));
     setToolTip(plainToolTip(QStringLiteral("%1\n%2").arg(name, summary)));
     update();
 }

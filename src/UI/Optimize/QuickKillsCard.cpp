@@ -13,8 +13,8 @@ constexpr int tileGap = 10;
 } // namespace
 
 QuickKillsCard::QuickKillsCard(QWidget* parent)
-    : OptimizeCard(QStringLiteral("Quick Kills"), QStringLiteral("Preset purges for common RAM hogs"),
-                   QStringLiteral("xmark.circle"), Theme::Role::red, parent)
+    : OptimizeCard(tr("Quick Kills"), tr("Preset purges for common RAM hogs"), QStringLiteral("xmark.circle"),
+                   Theme::Role::red, parent)
     , m_grid(new QGridLayout)
     , m_tiles([this] {
         auto* tile = new PresetTile;

@@ -32,7 +32,7 @@ QFont monospaced() {
 ServerRow::ServerRow(QWidget* parent)
     : QWidget(parent) {
     setFixedHeight(rowHeight);
-    auto* quit = new IconButton(QStringLiteral("stop.circle"), QStringLiteral("Quit"));
+    auto* quit = new IconButton(QStringLiteral("stop.circle"), tr("Quit"));
     m_buttonWidth = quit->width();
     actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
     auto* row = new QHBoxLayout(this);
@@ -48,10 +48,10 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
     const QString label = Formatters::visible(server.displayLabel);
     setToolTip(plainToolTip(label + u'\n' + server.reason));
     setAccessibleDescription(server.reason);
-    setAccessibleName(QStringLiteral("%1 %2, PID %3, parent: %4, %5")
-                          .arg(server.isOrphan ? QStringLiteral("Orphan") : QStringLiteral("Running"), label)
-                          .arg(server.pid)
-                          .arg(Formatters::visible(server.parentName), Formatters::bytes(server.rssBytes)));
+    setAccessibleName(
+        (server.isOrphan ? tr("Orphan %1, PID %2, parent: %3, %4") : tr("Running %1, PID %2, parent: %3, %4"))
+            .arg(label, QString::number(server.pid), Formatters::visible(server.parentName),
+                 Formatters::bytes(server.rssBytes)));
     update();
 }
 
@@ -64,9 +64,9 @@ void ServerRow::paintEvent(QPaintEvent*) {
                           Formatters::bytes(m_server.rssBytes));
     painter.setPen(Theme::color(Role::secondaryText));
     Painting::drawElided(painter, Painting::takeRight(line, parentWidth), Qt::ElideRight,
-                         QStringLiteral("parent: ") + Formatters::visible(m_server.parentName));
+                         tr("parent: %1").arg(Formatters::visible(m_server.parentName)));
     Painting::drawTabular(painter, Painting::takeRight(line, pidWidth), Qt::AlignLeft,
-                          QStringLiteral("PID %1").arg(m_server.pid));
+                          tr("PID %1").arg(m_server.pid));
 
     constexpr int symbolSize = 12;
     const QRectF icon(line.left(), 0, symbolSize + 2, height());

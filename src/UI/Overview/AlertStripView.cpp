@@ -23,7 +23,7 @@ QWidget* makeHealthyCard() {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Theme::Role::green);
     auto* text = (new TextLabel(TextStyle::body))->secondary();
-    text->setPlainText(QStringLiteral("System looks healthy."));
+    text->setPlainText(AlertStripView::tr("System looks healthy."));
     auto* card = new Card;
     auto* row = cardLayout(card);
     row->addWidget(symbol);
@@ -39,7 +39,7 @@ AlertCard::AlertCard(QWidget* parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
     , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
-    , m_quit(new PushButton(QStringLiteral("Quit"), PushButton::Look::prominent)) {
+    , m_quit(new PushButton(tr("Quit"), PushButton::Look::prominent)) {
     m_quit->setSmall();
     actOnPressed(m_quit, m_actionPid, [this](qint32 pid) { Q_EMIT quitRequested(pid); });
     auto* texts = new QVBoxLayout;

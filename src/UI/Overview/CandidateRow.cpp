@@ -1,6 +1,7 @@
 #include "UI/Overview/CandidateRow.h"
 
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Style/Painting.h"
 
@@ -18,7 +19,7 @@ constexpr int idleWidth = 52;
 constexpr double tickedOpacity = 0.12;
 
 QString details(const FreeRamPreview& candidate) {
-    return QStringLiteral("PID %1 • %2").arg(candidate.pid).arg(rawValue(candidate.group));
+    return CandidateRow::tr("PID %1 • %2").arg(candidate.pid).arg(Translations::of(candidate.group));
 }
 
 } // namespace
@@ -41,7 +42,7 @@ void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
     if (candidate == m_candidate)
         return;
     m_candidate = candidate;
-    setAccessibleName(QStringLiteral("%1, %2, %3, idle %4")
+    setAccessibleName(tr("%1, %2, %3, idle %4")
                           .arg(Formatters::visible(candidate.name), details(candidate),
                                Formatters::bytes(candidate.rssBytes),
                                Formatters::duration(candidate.idleSeconds)));

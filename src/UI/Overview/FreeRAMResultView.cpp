@@ -29,14 +29,14 @@ struct Look {
 Look lookOf(KillOutcome outcome) {
     switch (outcome) {
     case KillOutcome::quit:
-        return {QStringLiteral("checkmark.circle.fill"), Role::green, QStringLiteral("Quit")};
+        return {QStringLiteral("checkmark.circle.fill"), Role::green, FreeRAMResultView::tr("Quit")};
     case KillOutcome::forced:
-        return {QStringLiteral("bolt.fill"), Role::orange, QStringLiteral("Force-killed")};
+        return {QStringLiteral("bolt.fill"), Role::orange, FreeRAMResultView::tr("Force-killed")};
     case KillOutcome::ignored:
         return {QStringLiteral("questionmark.circle.fill"), Role::yellow,
-                QStringLiteral("Ignored SIGTERM/KILL")};
+                FreeRAMResultView::tr("Ignored SIGTERM/KILL")};
     case KillOutcome::denied:
-        return {QStringLiteral("lock.fill"), Role::red, QStringLiteral("Permission denied")};
+        return {QStringLiteral("lock.fill"), Role::red, FreeRAMResultView::tr("Permission denied")};
     }
     return {};
 }
@@ -91,7 +91,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     , m_rowsLayout(makeScrollingPage(m_area, {}, 0)) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
-    m_nudged->setPlainText(QStringLiteral("• memory_pressure nudged"));
+    m_nudged->setPlainText(tr("• memory_pressure nudged"));
     auto* head = new QHBoxLayout;
     head->setSpacing(6);
     head->addWidget(symbol);
@@ -111,7 +111,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
 }
 
 void FreeRAMResultView::set(const FreeRAMResult& result) {
-    m_freed->setPlainText(QStringLiteral("Freed ~%1").arg(Formatters::bytes(result.freedBytes)));
+    m_freed->setPlainText(tr("Freed ~%1").arg(Formatters::bytes(result.freedBytes)));
     m_nudged->setVisible(result.memoryPressureSignaled);
     qDeleteAll(m_rows);
     m_rows.clear();

@@ -35,10 +35,8 @@ constexpr qsizetype preselected = 5;
 FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     : QDialog(parent)
     , m_model(model)
-    , m_minIdle(new LabeledSlider(QStringLiteral("Min idle: "), QStringLiteral(" min"), {0, 60, 1},
-                                  initialMinIdle, sliderWidth))
-    , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM: "), QStringLiteral(" MB"), {50, 2000, 50},
-                                 initialMinRSS, sliderWidth))
+    , m_minIdle(new LabeledSlider(tr("Min idle: %1 min"), {0, 60, 1}, initialMinIdle, sliderWidth))
+    , m_minRSS(new LabeledSlider(tr("Min RAM: %1 MB"), {50, 2000, 50}, initialMinRSS, sliderWidth))
     , m_stack(new QStackedWidget)
     , m_rows([this] {
         auto* row = new CandidateRow;
@@ -46,19 +44,19 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
         m_rowsLayout->insertWidget(m_rowsLayout->count() - 1, row);
         return row;
     })
-    , m_selectAll(new PushButton(QStringLiteral("Select all")))
-    , m_clear(new PushButton(QStringLiteral("Clear")))
+    , m_selectAll(new PushButton(tr("Select all")))
+    , m_clear(new PushButton(tr("Clear")))
     , m_count(new TextLabel(TextStyle::callout))
     , m_result(new FreeRAMResultView)
     , m_action(new PushButton(QString(), PushButton::Look::prominent)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
-    setWindowTitle(QStringLiteral("Free RAM"));
+    setWindowTitle(tr("Free RAM"));
     resize(sheetSize);
 
     auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
     title->setPlainText(windowTitle());
-    auto* close = new PushButton(QStringLiteral("Close"));
+    auto* close = new PushButton(tr("Close"));
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* header = new QHBoxLayout;
     header->addWidget(title, 1);
@@ -66,9 +64,8 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
 
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
     explanation->setPlainText(
-        QStringLiteral(
-            "Tick the processes you want to terminate. SIGTERM is sent first; anything still running after "
-            "2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
+        tr("Tick the processes you want to terminate. SIGTERM is sent first; anything still running after "
+           "2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
             .arg(Words::native().system));
 
     auto* thresholds = new QHBoxLayout;
@@ -111,11 +108,11 @@ QWidget* FreeRAMSheet::makeList() {
     m_rowsLayout = makeScrollingPage(area, {}, 0);
     m_rowsLayout->addStretch();
     area->setFocusPolicy(Qt::NoFocus);
-    area->setAccessibleName(QStringLiteral("Processes"));
+    area->setAccessibleName(tr("Processes"));
     m_stack->addWidget(area);
-    m_stack->addWidget(new EmptyState(
-        QStringLiteral("checkmark.circle"), QStringLiteral("No idle hogs above your thresholds"),
-        QStringLiteral("Lower the Min idle slider to see lightly-used processes.")));
+    m_stack->addWidget(new EmptyState(QStringLiteral("checkmark.circle"),
+                                      tr("No idle hogs above your thresholds"),
+                                      tr("Lower the Min idle slider to see lightly-used processes.")));
     return m_stack;
 }
 
@@ -163,19 +160,18 @@ void FreeRAMSheet::refreshButtons() {
     const qsizetype count = m_selected.size();
     m_selectAll->setEnabled(!m_candidates.isEmpty());
     m_clear->setEnabled(count > 0);
-    m_count->setPlainText(
-        QStringLiteral("%1 selected • %2 targeted").arg(count).arg(Formatters::bytes(selectedRAM())));
+    m_count->setPlainText(tr("%1 selected • %2 targeted").arg(count).arg(Formatters::bytes(selectedRAM())));
 
     m_action->setBusy(m_running);
     m_action->setEnabled(!m_running);
     m_action->setTint(count > 0 ? Role::red : Role::blue);
     m_action->setSymbol(count > 0 ? QStringLiteral("memorychip") : QStringLiteral("wind"));
     if (m_running)
-        m_action->setText(QStringLiteral("Killing…"));
+        m_action->setText(tr("Killing…"));
     else if (count > 0)
-        m_action->setText(QStringLiteral("Kill %1 and free RAM").arg(count));
+        m_action->setText(tr("Kill %1 and free RAM").arg(count));
     else
-        m_action->setText(QStringLiteral("Send memory pressure only"));
+        m_action->setText(tr("Send memory pressure only"));
 }
 
 quint64 FreeRAMSheet::selectedRAM() const {

@@ -1,6 +1,7 @@
 #include "UI/Overview/GroupRow.h"
 
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/ProcessRow.h"
 #include "UI/Style/Painting.h"
@@ -58,11 +59,11 @@ void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpand
 /// What a screen reader says.
 void GroupHeader::describe() {
     setAccessibleName(
-        QStringLiteral("%1 (%2), %3, %4 CPU")
-            .arg(rawValue(m_rollup.group))
+        tr("%1 (%2), %3, %4 CPU")
+            .arg(Translations::of(m_rollup.group))
             .arg(m_rollup.count)
             .arg(Formatters::bytes(m_rollup.rssBytes), Formatters::percent(m_rollup.cpuPercent)));
-    setAccessibleDescription(m_expanded ? QStringLiteral("Expanded") : QStringLiteral("Collapsed"));
+    setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
 }
 
 void GroupHeader::keyPressEvent(QKeyEvent* event) {
@@ -85,7 +86,7 @@ void GroupHeader::paintEvent(QPaintEvent*) {
 
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(secondary);
-    const auto cpu = QStringLiteral("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
+    const auto cpu = tr("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
     Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth, columnGap), Qt::AlignRight, cpu);
 
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
@@ -106,7 +107,7 @@ void GroupHeader::paintLabel(QPainter& painter, QRectF area) {
     Symbols::draw(painter, groupSymbol(m_rollup.group), Theme::color(Role::accent), icon, Theme::iconSize);
 
     area.setLeft(icon.right() + Theme::rowSpacing);
-    const QString label = rawValue(m_rollup.group);
+    const QString label = Translations::of(m_rollup.group);
     Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     Painting::drawElided(painter, area, Qt::ElideRight, label);
 
@@ -158,6 +159,6 @@ void GroupRow::showMembers(const QList<ProcSample>& members) {
     const qsizetype shown = std::min(members.size(), shownMembers);
     m_rows.show(shown, [&members](ProcessRow& row, qsizetype i) { row.set(members[i]); });
     const qsizetype hidden = members.size() - shown;
-    m_overflow->setPlainText(QStringLiteral("… +%1 more in Processes tab").arg(hidden));
+    m_overflow->setPlainText(tr("… +%1 more in Processes tab").arg(hidden));
     m_overflow->setVisible(hidden > 0);
 }

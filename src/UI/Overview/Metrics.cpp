@@ -2,6 +2,8 @@
 #include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 template <typename Figure> QList<double> series(const QList<SystemSample>& history, Figure figure) {
@@ -17,7 +19,7 @@ template <typename Figure> QList<double> series(const QList<SystemSample>& histo
 namespace Metrics {
 
 Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
-    return {.title = QStringLiteral("CPU"),
+    return {.title = QCoreApplication::translate("Metrics", "CPU"),
             .value = Formatters::percent(sample.cpuPercent),
             .sub = std::nullopt,
             .accent = Levels::cpu(sample.cpuPercent),
@@ -26,7 +28,7 @@ Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
 
 Metric memory(const SystemSample& sample, const QList<SystemSample>& history) {
     const double used = sample.memUsedPercent();
-    return {.title = QStringLiteral("Memory"),
+    return {.title = QCoreApplication::translate("Metrics", "Memory"),
             .value = Formatters::percent(used),
             .sub = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
                                                  Formatters::bytes(sample.memTotalBytes)),
@@ -36,19 +38,21 @@ Metric memory(const SystemSample& sample, const QList<SystemSample>& history) {
 
 Metric disk(const SystemSample& sample) {
     const double used = sample.diskUsedPercent();
-    return {.title = QStringLiteral("Disk"),
-            .value = Formatters::percent(used),
-            .sub = QStringLiteral("%1 free").arg(Formatters::bytes(sample.diskFreeBytes)),
-            .accent = Levels::disk(used),
-            .history = {}};
+    return {
+        .title = QCoreApplication::translate("Metrics", "Disk"),
+        .value = Formatters::percent(used),
+        .sub = QCoreApplication::translate("Metrics", "%1 free").arg(Formatters::bytes(sample.diskFreeBytes)),
+        .accent = Levels::disk(used),
+        .history = {}};
 }
 
 Metric thermal(const SystemSample& sample) {
     const bool swapping = sample.swapUsedBytes > 0;
-    return {.title = QStringLiteral("Thermal"),
+    return {.title = QCoreApplication::translate("Metrics", "Thermal"),
             .value = thermalLabel(sample.thermalState),
-            .sub = swapping ? QStringLiteral("Swap %1").arg(Formatters::bytes(sample.swapUsedBytes))
-                            : QStringLiteral("No swap"),
+            .sub = swapping ? QCoreApplication::translate("Metrics", "Swap %1")
+                                  .arg(Formatters::bytes(sample.swapUsedBytes))
+                            : QCoreApplication::translate("Metrics", "No swap"),
             .accent = Levels::thermal(sample.thermalState),
             .history = {}};
 }

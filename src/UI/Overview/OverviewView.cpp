@@ -36,22 +36,21 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     column->addLayout(makeTiles());
     column->addLayout(makeGroups());
     column->addStretch();
-    setAccessibleName(QStringLiteral("Overview"));
+    setAccessibleName(tr("Overview"));
 
     connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);
     observe(&m_model, this, [this] { refresh(); });
 }
 
 QLayout* OverviewView::makeHeader() {
-    auto* freeRAM =
-        new PushButton(QStringLiteral("Free RAM"), PushButton::Look::normal, QStringLiteral("memorychip"));
-    auto* widget = new PushButton(QStringLiteral("Floating Widget"), PushButton::Look::normal,
+    auto* freeRAM = new PushButton(tr("Free RAM"), PushButton::Look::normal, QStringLiteral("memorychip"));
+    auto* widget = new PushButton(tr("Floating Widget"), PushButton::Look::normal,
                                   QStringLiteral("rectangle.on.rectangle"));
     connect(freeRAM, &QPushButton::clicked, this, [this] { (new FreeRAMSheet(m_model, window()))->open(); });
     connect(widget, &QPushButton::clicked, this, &OverviewView::widgetToggled);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
-    row->addWidget(heading(QStringLiteral("Live")), 1);
+    row->addWidget(heading(tr("Live")), 1);
     row->addWidget(freeRAM);
     row->addWidget(widget);
     return row;
@@ -70,7 +69,7 @@ QLayout* OverviewView::makeTiles() {
 QLayout* OverviewView::makeGroups() {
     auto* column = new QVBoxLayout;
     column->setSpacing(Theme::rowSpacing);
-    column->addWidget(heading(QStringLiteral("Groups")));
+    column->addWidget(heading(tr("Groups")));
     for (const ProcGroup group : allCases<ProcGroup>()) {
         auto* row = new GroupRow(group);
         row->hide();

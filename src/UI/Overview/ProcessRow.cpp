@@ -30,9 +30,9 @@ ProcessRow::ProcessRow(QWidget* parent)
     row->setContentsMargins(0, 0, Theme::cardPadding, 0);
     row->setSpacing(Theme::textGap);
     row->addStretch();
-    auto* quit = addButton(QStringLiteral("stop.circle"), QStringLiteral("Quit (SIGTERM)"),
-                           Role::secondaryText, &ProcessRow::quitRequested);
-    auto* kill = addButton(QStringLiteral("xmark.octagon"), QStringLiteral("Force kill (SIGKILL)"), Role::red,
+    auto* quit = addButton(QStringLiteral("stop.circle"), tr("Quit (SIGTERM)"), Role::secondaryText,
+                           &ProcessRow::quitRequested);
+    auto* kill = addButton(QStringLiteral("xmark.octagon"), tr("Force kill (SIGKILL)"), Role::red,
                            &ProcessRow::forceKillRequested);
     row->addWidget(quit);
     row->addWidget(kill);
@@ -58,8 +58,7 @@ void ProcessRow::set(const ProcSample& process) {
     m_cpu = cpu;
     m_memory = memory;
     setToolTip(plainToolTip(Formatters::visible(process.executablePath)));
-    setAccessibleName(
-        QStringLiteral("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
+    setAccessibleName(tr("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
     update();
 }
 

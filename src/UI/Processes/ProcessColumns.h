@@ -1,7 +1,7 @@
 #pragma once
 
-#include "UI/Style/Theme.h"
 #include "UI/Processes/ProcessTableRow.h"
+#include "UI/Style/Theme.h"
 
 #include <limits>
 
@@ -14,11 +14,11 @@ struct ProcessColumn {
     struct Order {
         void (*sort)(QList<ProcSample>&) = nullptr;  ///< stable; null when nobody sorts by the column
         int place = std::numeric_limits<int>::max(); ///< in the sort picker; at its end unless set
-        QStringView label = {};                      ///< there; the title unless set
+        const char* label = nullptr;                 ///< there; the title unless set
     };
 
     QStringView id; ///< what its width is stored under and what a query names it by
-    QStringView title;
+    const char* title;
     QString (*text)(const ProcessTableRow&) = nullptr;
     Kind kind = Kind::plain;
     Qt::Alignment alignment = Qt::AlignRight; ///< right for a figure

@@ -1,5 +1,6 @@
 #include "UI/Processes/ProcessControls.h"
 
+#include "Core/Translations.h"
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
@@ -7,6 +8,7 @@
 #include "UI/Style/Theme.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 
 namespace {
@@ -17,18 +19,17 @@ constexpr int sliderWidth = 140;
 
 ProcessControls::ProcessControls(QWidget* parent)
     : QWidget(parent)
-    , m_search(new SearchField(QStringLiteral("Search name or path")))
-    , m_group(new PopUpButton(QStringLiteral("Group")))
-    , m_sort(new PopUpButton(QStringLiteral("Sort")))
-    , m_minRSS(new LabeledSlider(QStringLiteral("Min RAM "), QStringLiteral(" MB"), {0, 500, 10},
-                                 ProcessQuery().minRSSMB, sliderWidth))
-    , m_fold(new QCheckBox(QStringLiteral("Group duplicates"))) {
-    m_group->addItem(QStringLiteral("All"));
+    , m_search(new SearchField(tr("Search name or path")))
+    , m_group(new PopUpButton(tr("Group")))
+    , m_sort(new PopUpButton(tr("Sort")))
+    , m_minRSS(new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, sliderWidth))
+    , m_fold(new QCheckBox(tr("Group duplicates"))) {
+    m_group->addItem(tr("All"));
     for (const ProcGroup group : allCases<ProcGroup>())
-        m_group->addItem(rawValue(group));
+        m_group->addItem(Translations::of(group));
     for (const ProcessColumn* column : ProcessColumns::sortable()) {
-        const QStringView label = column->order.label.isEmpty() ? column->title : column->order.label;
-        m_sort->addItem(label.toString(), column->id.toString());
+        const char* label = column->order.label ? column->order.label : column->title;
+        m_sort->addItem(QCoreApplication::translate("Columns", label), column->id.toString());
     }
     setSort(ProcessQuery().sortBy);
 

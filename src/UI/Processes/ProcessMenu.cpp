@@ -2,6 +2,7 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
+#include "Core/Translations.h"
 
 #include <QActionGroup>
 #include <QMenu>
@@ -41,7 +42,7 @@ void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {
     if (!application)
         return;
     menu.addSeparator();
-    menu.addAction(entryText(QStringLiteral("Quit %1…").arg(*application)), this, [this, application] {
+    menu.addAction(entryText(tr("Quit %1…").arg(*application)), this, [this, application] {
         const NukePreview preview = m_model.actions().previewForApplication(*application);
         if (preview.parentAppName) // it may have ended while the menu was open
             Q_EMIT quitRequested(preview);
@@ -50,7 +51,7 @@ void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {
 
 void ProcessMenu::addGroups(QMenu& menu, const ProcessTableRow& row) {
     menu.addSeparator();
-    auto* groups = menu.addMenu(QStringLiteral("Show in group"));
+    auto* groups = menu.addMenu(tr("Show in group"));
     auto* choices = new QActionGroup(groups);
     const QList<ProcSample> processes = processesOf(row);
     QList<std::optional<ProcGroup>> chosen;
@@ -64,7 +65,7 @@ void ProcessMenu::addGroups(QMenu& menu, const ProcessTableRow& row) {
         choices->addAction(choice);
     };
     for (const ProcGroup group : allCases<ProcGroup>())
-        add(entryText(rawValue(group)), group);
+        add(entryText(Translations::of(group)), group);
     groups->addSeparator();
-    add(QStringLiteral("As detected"), std::nullopt);
+    add(tr("As detected"), std::nullopt);
 }

@@ -105,15 +105,12 @@ QList<RowAction> ProcessRowDelegate::actionsOf(const ProcessTableRow& row, bool 
 
 QString ProcessRowDelegate::helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped) {
     if (action == RowAction::forceKill)
-        return QStringLiteral("Force kill one");
+        return tr("Force kill one");
     if (action == RowAction::quit)
-        return isGrouped ? QStringLiteral("Quit all %1").arg(row.processes.size())
-                         : QStringLiteral("Quit one");
+        return isGrouped ? tr("Quit all %1").arg(row.processes.size()) : tr("Quit one");
     if (isGrouped)
-        return QStringLiteral("Nuke all %1 (with confirm)").arg(row.processes.size());
-    return QStringLiteral("Nuke all %1 “%2” processes")
-        .arg(row.sameName)
-        .arg(Formatters::visible(row.first.name));
+        return tr("Nuke all %1 (with confirm)").arg(row.processes.size());
+    return tr("Nuke all %1 “%2” processes").arg(row.sameName).arg(Formatters::visible(row.first.name));
 }
 
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

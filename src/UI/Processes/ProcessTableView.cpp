@@ -26,7 +26,7 @@ void takeOverOldWidths(SettingsFile& file) {
 } // namespace
 
 ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
-    : TableView(u"Processes"_s, parent)
+    : TableView(tr("Processes"), parent)
     , m_rows(new ProcessTableModel(this))
     , m_delegate(new ProcessRowDelegate(this))
     , m_widths(*header(), preferences.file()) {

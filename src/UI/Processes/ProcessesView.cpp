@@ -42,9 +42,8 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
-    m_stack->addWidget(
-        new EmptyState(QStringLiteral("list.bullet.rectangle"), QStringLiteral("No processes match"),
-                       QStringLiteral("Change the search, the group or Min RAM to see more.")));
+    m_stack->addWidget(new EmptyState(QStringLiteral("list.bullet.rectangle"), tr("No processes match"),
+                                      tr("Change the search, the group or Min RAM to see more.")));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
                                Theme::pagePadding);

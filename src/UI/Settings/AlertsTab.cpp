@@ -3,19 +3,19 @@
 using namespace Qt::StringLiterals;
 
 AlertsTab::AlertsTab(Preferences& prefs, QWidget* parent)
-    : SettingsForm(prefs, u"Alerts"_s, parent) {
-    addRule(u"Memory"_s, u"Low RAM warning"_s, prefs.alertRAMLowEnabled,
-            {{{u"Free RAM threshold"_s, u"%1 GB"_s, 1}, {0.5, 16, 0.5}, prefs.alertRAMLowFreeGB}});
-    addRule(u"CPU"_s, u"CPU saturation"_s, prefs.alertCPUHotEnabled,
-            {{{u"CPU threshold"_s, u"%1%"_s}, {50, 100, 5}, prefs.alertCPUHotPercent}});
-    addRule(u"Thermal"_s, u"Thermal pressure warning"_s, prefs.alertThermalEnabled, {});
-    addRule(u"Idle agents"_s, u"Flag idle Claude / agentic processes"_s, prefs.alertIdleAgentEnabled,
-            {{{u"Min idle"_s, u"%1 min"_s}, {1, 120, 1}, prefs.alertIdleAgentMinIdleMin},
-             {{u"Min RAM"_s, u"%1 MB"_s}, {100, 4000, 100}, prefs.alertIdleAgentMinRSSMB}});
-    addRule(u"Browsers"_s, u"Browser RAM dominance"_s, prefs.alertBrowserHogEnabled,
-            {{{u"Of total RAM"_s, u"%1%"_s}, {10, 80, 5}, prefs.alertBrowserHogPercentTotal}});
-    addRule(u"Caches"_s, u"Caches reclaimable"_s, prefs.alertCachesBigEnabled,
-            {{{u"Threshold"_s, u"%1 GB"_s}, {1, 50, 1}, prefs.alertCachesBigGB}});
+    : SettingsForm(prefs, tr("Alerts"), parent) {
+    addRule(tr("Memory"), tr("Low RAM warning"), prefs.alertRAMLowEnabled,
+            {{{tr("Free RAM threshold"), tr("%1 GB"), 1}, {0.5, 16, 0.5}, prefs.alertRAMLowFreeGB}});
+    addRule(tr("CPU"), tr("CPU saturation"), prefs.alertCPUHotEnabled,
+            {{{tr("CPU threshold"), u"%1%"_s}, {50, 100, 5}, prefs.alertCPUHotPercent}});
+    addRule(tr("Thermal"), tr("Thermal pressure warning"), prefs.alertThermalEnabled, {});
+    addRule(tr("Idle agents"), tr("Flag idle Claude / agentic processes"), prefs.alertIdleAgentEnabled,
+            {{{tr("Min idle"), tr("%1 min")}, {1, 120, 1}, prefs.alertIdleAgentMinIdleMin},
+             {{tr("Min RAM"), tr("%1 MB")}, {100, 4000, 100}, prefs.alertIdleAgentMinRSSMB}});
+    addRule(tr("Browsers"), tr("Browser RAM dominance"), prefs.alertBrowserHogEnabled,
+            {{{tr("Of total RAM"), u"%1%"_s}, {10, 80, 5}, prefs.alertBrowserHogPercentTotal}});
+    addRule(tr("Caches"), tr("Caches reclaimable"), prefs.alertCachesBigEnabled,
+            {{{tr("Threshold"), tr("%1 GB")}, {1, 50, 1}, prefs.alertCachesBigGB}});
 }
 
 void AlertsTab::addRule(const QString& title, const QString& toggle, Property<bool>& enabled,

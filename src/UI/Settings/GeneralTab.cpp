@@ -1,5 +1,6 @@
 #include "UI/Settings/GeneralTab.h"
 
+#include "Core/Translations.h"
 #include "Platform/LoginItem.h"
 #include "Platform/Words.h"
 #include "UI/Kit/FormSection.h"
@@ -8,26 +9,26 @@
 #include <QCheckBox>
 
 GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
-    : SettingsForm(preferences, QStringLiteral("General"), parent)
+    : SettingsForm(preferences, tr("General"), parent)
     , m_loginItem(loginItem)
     , m_loginError(new TextLabel(Theme::TextStyle::caption)) {
-    auto* startup = addSection(QStringLiteral("Startup"));
-    auto* startAtLogin = addToggle(startup, QStringLiteral("Start at login"), preferences.startAtLogin);
+    auto* startup = addSection(tr("Startup"));
+    auto* startAtLogin = addToggle(startup, tr("Start at login"), preferences.startAtLogin);
     startup->addNote(m_loginError->tinted(Theme::Role::red)->wrapped());
     m_loginError->hide();
-    addToggle(startup, QStringLiteral("Show floating widget on launch"), preferences.showWidgetOnLaunch);
-    addToggle(startup, QStringLiteral("Show in %1").arg(Words::native().taskBar), preferences.showInDock);
+    addToggle(startup, tr("Show floating widget on launch"), preferences.showWidgetOnLaunch);
+    addToggle(startup, tr("Show in %1").arg(Words::native().taskBar), preferences.showInDock);
     connect(startAtLogin, &QCheckBox::toggled, this, &GeneralTab::applyLoginItem);
 
     const auto formats = allCases<MenuBarFormat>();
-    addPicker<MenuBarFormat>(addSection(Words::native().statusArea), QStringLiteral("Display"),
-                             {formats.begin(), formats.end()}, rawValue<MenuBarFormat>,
+    addPicker<MenuBarFormat>(addSection(Words::native().statusArea), tr("Display"),
+                             {formats.begin(), formats.end()}, Translations::of<MenuBarFormat>,
                              preferences.menuBarFormat);
 
-    auto* cleanup = addSection(QStringLiteral("Cleanup"));
-    addToggle(cleanup, QStringLiteral("Ask before cleaning everything"), preferences.askBeforeCleaningAll);
+    auto* cleanup = addSection(tr("Cleanup"));
+    addToggle(cleanup, tr("Ask before cleaning everything"), preferences.askBeforeCleaningAll);
     auto* note = (new TextLabel(Theme::TextStyle::caption))->secondary()->wrapped();
-    note->setPlainText(QStringLiteral("When off, “Clean All” in Optimize starts at once."));
+    note->setPlainText(tr("When off, “Clean All” in Optimize starts at once."));
     cleanup->addNote(note);
 }
 
@@ -35,6 +36,5 @@ void GeneralTab::applyLoginItem(bool enabled) {
     const Outcome outcome = enabled ? m_loginItem.registerItem() : m_loginItem.unregisterItem();
     m_loginError->setVisible(!outcome.done);
     m_loginError->setPlainText(
-        QStringLiteral("Couldn't %1: %2")
-            .arg(enabled ? QStringLiteral("register") : QStringLiteral("unregister"), outcome.reason));
+        (enabled ? tr("Couldn't register: %1") : tr("Couldn't unregister: %1")).arg(outcome.reason));
 }

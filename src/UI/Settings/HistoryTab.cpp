@@ -55,25 +55,25 @@ HistoryTab::HistoryTab(QWidget* parent)
     inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
-    m_stack->addWidget(new EmptyState(u"clock.arrow.circlepath"_s, {}, u"No actions logged yet."_s));
+    m_stack->addWidget(new EmptyState(u"clock.arrow.circlepath"_s, {}, tr("No actions logged yet.")));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::gridSpacing, Theme::pagePadding,
                                Theme::pagePadding);
     column->setSpacing(Theme::rowSpacing + Theme::textGap);
     column->addWidget(makeToolbar());
     column->addWidget(card, 1);
-    setAccessibleName(u"History"_s);
+    setAccessibleName(tr("History"));
     auto* refreshKey = new QShortcut(QKeySequence::Refresh, this);
     connect(refreshKey, &QShortcut::activated, this, &HistoryTab::refresh);
     showRows();
 }
 
 QWidget* HistoryTab::makeToolbar() {
-    auto* kinds = new PopUpButton(u"Kind"_s);
-    kinds->addItem(u"All"_s, HistoryTableModel::allKinds());
-    for (const auto& [text, kind] : {std::pair(u"Quit"_s, ActionLogEntry::Kind::quit),
-                                     std::pair(u"Force kill"_s, ActionLogEntry::Kind::forceKill),
-                                     std::pair(u"Clean"_s, ActionLogEntry::Kind::clean)})
+    auto* kinds = new PopUpButton(tr("Kind"));
+    kinds->addItem(tr("All"), HistoryTableModel::allKinds());
+    for (const auto& [text, kind] : {std::pair(tr("Quit"), ActionLogEntry::Kind::quit),
+                                     std::pair(tr("Force kill"), ActionLogEntry::Kind::forceKill),
+                                     std::pair(tr("Clean"), ActionLogEntry::Kind::clean)})
         kinds->addItem(text, rawValue(kind));
     kinds->setFixedWidth(pickerWidth);
     connect(kinds, &PopUpButton::currentIndexChanged, this,
@@ -90,9 +90,9 @@ QWidget* HistoryTab::makeToolbar() {
         row->addWidget(button);
     };
     using Look = PushButton::Look;
-    add(new PushButton(u"Refresh"_s, Look::normal, u"arrow.clockwise"_s), &HistoryTab::refresh);
-    add(new PushButton(u"Export CSV…"_s, Look::normal, u"arrow.down.circle"_s), &HistoryTab::exportCSV);
-    add(new PushButton(u"Clear log"_s, Look::destructive, u"trash"_s), &HistoryTab::confirmClear);
+    add(new PushButton(tr("Refresh"), Look::normal, u"arrow.clockwise"_s), &HistoryTab::refresh);
+    add(new PushButton(tr("Export CSV…"), Look::normal, u"arrow.down.circle"_s), &HistoryTab::exportCSV);
+    add(new PushButton(tr("Clear log"), Look::destructive, u"trash"_s), &HistoryTab::confirmClear);
     return bar;
 }
 
@@ -120,12 +120,12 @@ void HistoryTab::showRows() {
 }
 
 void HistoryTab::exportCSV() {
-    auto* panel = new QFileDialog(window(), u"Export CSV"_s, exportFolder());
+    auto* panel = new QFileDialog(window(), tr("Export CSV"), exportFolder());
     panel->setAttribute(Qt::WA_DeleteOnClose);
     // A desktop's own panel may ask whether to replace a file before the suffix is added to its name.
     panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setAcceptMode(QFileDialog::AcceptSave);
-    panel->setNameFilter(u"Comma-separated text (*.csv)"_s);
+    panel->setNameFilter(tr("Comma-separated text (*.csv)"));
     panel->setDefaultSuffix(u"csv"_s);
     panel->selectFile(u"tavrin-actions.csv"_s);
     connect(panel, &QFileDialog::fileSelected, this, &writeCSV);
@@ -133,9 +133,9 @@ void HistoryTab::exportCSV() {
 }
 
 void HistoryTab::confirmClear() {
-    auto* dialog = new ConfirmDialog(window(), u"Clear action history?"_s,
-                                     u"This deletes ~/Library/Logs/Tavrin/actions.log."_s);
-    auto* clearAll = dialog->addAction(u"Clear all"_s, PushButton::Look::destructive);
+    auto* dialog = new ConfirmDialog(window(), tr("Clear action history?"),
+                                     tr("This deletes ~/Library/Logs/Tavrin/actions.log."));
+    auto* clearAll = dialog->addAction(tr("Clear all"), PushButton::Look::destructive);
     connect(clearAll, &QPushButton::clicked, this, &HistoryTab::clear);
     dialog->open();
 }

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct HistoryColumn {
-    QStringView title;
+    const char* title;
     QString (*text)(const LoggedAction&);
     bool (*isLess)(const LoggedAction&, const LoggedAction&);
     Qt::Alignment alignment = Qt::AlignLeft;
@@ -34,23 +34,26 @@ QString timeOf(const LoggedAction& action) {
 
 /// In the order of Column.
 constexpr HistoryColumn table[HistoryTableModel::columns] = {
-    {.title = u"Time",
+    {.title = QT_TRANSLATE_NOOP("Columns", "Time"),
      .text = timeOf,
      .isLess = isLess<&LoggedAction::timestamp>,
      .first = Qt::DescendingOrder},
-    {.title = u"Kind",
+    {.title = QT_TRANSLATE_NOOP("Columns", "Kind"),
      .text = [](const LoggedAction& action) { return Formatters::visible(action.kind); },
      .isLess = isLess<&LoggedAction::kind>},
-    {.title = u"Detail",
+    {.title = QT_TRANSLATE_NOOP("Columns", "Detail"),
      .text = [](const LoggedAction& action) { return Formatters::visible(action.detail); },
      .isLess = isLessInDetail},
-    {.title = u"Freed",
+    {.title = QT_TRANSLATE_NOOP("Columns", "Freed"),
      .text = [](const LoggedAction& action) { return Formatters::bytes(action.freedBytes); },
      .isLess = isLess<&LoggedAction::freedBytes>,
      .alignment = Qt::AlignRight,
      .first = Qt::DescendingOrder},
-    {.title = u"OK", // shown as a symbol; said and copied as a word
-     .text = [](const LoggedAction& action) { return action.success ? u"OK"_s : u"Failed"_s; },
+    {.title = QT_TRANSLATE_NOOP("Columns", "OK"), // shown as a symbol; said and copied as a word
+     .text =
+         [](const LoggedAction& action) {
+             return action.success ? HistoryTableModel::tr("OK") : HistoryTableModel::tr("Failed");
+         },
      .isLess = isLess<&LoggedAction::success>,
      .alignment = Qt::AlignHCenter},
 };

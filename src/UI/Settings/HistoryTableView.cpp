@@ -13,7 +13,7 @@ constexpr int detailSection = static_cast<int>(Column::detail);
 } // namespace
 
 HistoryTableView::HistoryTableView(HistoryTableModel* rows, QWidget* parent)
-    : TableView(QStringLiteral("Action history"), parent) {
+    : TableView(tr("Action history"), parent) {
     setModel(rows);
     setItemDelegate(new HistoryRowDelegate(this));
     setSelectionMode(ExtendedSelection);

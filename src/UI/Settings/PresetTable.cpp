@@ -58,7 +58,7 @@ public:
 } // namespace
 
 PresetTable::PresetTable(QWidget* parent)
-    : TableView(QStringLiteral("Quick Kill presets"), parent)
+    : TableView(tr("Quick Kill presets"), parent)
     , m_rows(new PresetTableModel(this)) {
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
@@ -77,8 +77,8 @@ void PresetTable::show(const QList<QuickKillPreset>& presets) {
     const QUuid id = selected ? selected->id : QUuid();
     const int row = currentIndex().row();
     m_rows->setPresets(presets);
-    setAccessibleDescription(
-        presets.isEmpty() ? QStringLiteral("No presets. Add one, or reset to the defaults.") : QString());
+    setAccessibleDescription(presets.isEmpty() ? tr("No presets. Add one, or reset to the defaults.")
+                                               : QString());
     for (int each = 0; each < presets.size(); ++each)
         addButtons(each);
     if (row < 0)
@@ -92,8 +92,8 @@ void PresetTable::show(const QList<QuickKillPreset>& presets) {
 /// Reached by the mouse only: the keyboard has keys of its own for them.
 void PresetTable::addButtons(int row) {
     const QuickKillPreset preset = m_rows->presets()[row];
-    auto* edit = new IconButton(QStringLiteral("pencil"), QStringLiteral("Edit"));
-    auto* remove = new IconButton(QStringLiteral("trash"), QStringLiteral("Delete"));
+    auto* edit = new IconButton(QStringLiteral("pencil"), tr("Edit"));
+    auto* remove = new IconButton(QStringLiteral("trash"), tr("Delete"));
     connect(edit, &IconButton::clicked, this, [this, preset] { Q_EMIT editRequested(preset); });
     connect(remove, &IconButton::clicked, this, [this, preset] { Q_EMIT deleteRequested(preset); });
     auto* cell = new QWidget;
@@ -141,6 +141,6 @@ void PresetTable::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PresetTable::fillMenu(QMenu& menu, const QModelIndex& index) {
     const QuickKillPreset chosen = *preset(index);
-    menu.addAction(QStringLiteral("Edit"), this, [this, chosen] { Q_EMIT editRequested(chosen); });
-    menu.addAction(QStringLiteral("Delete"), this, [this, chosen] { Q_EMIT deleteRequested(chosen); });
+    menu.addAction(tr("Edit"), this, [this, chosen] { Q_EMIT editRequested(chosen); });
+    menu.addAction(tr("Delete"), this, [this, chosen] { Q_EMIT deleteRequested(chosen); });
 }

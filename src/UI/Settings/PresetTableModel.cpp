@@ -19,23 +19,23 @@ QString whole(double value) {
 const PresetColumn& PresetTableModel::column(int index) {
     static constexpr PresetColumn table[columns] = {
         // in the order of Column
-        {.title = u"Symbol",
+        {.title = QT_TRANSLATE_NOOP("Columns", "Symbol"),
          .width = 56,
          .text = [](const QuickKillPreset& preset) { return preset.symbol; }},
-        {.title = u"Name",
+        {.title = QT_TRANSLATE_NOOP("Columns", "Name"),
          .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.name); }},
-        {.title = u"Pattern",
+        {.title = QT_TRANSLATE_NOOP("Columns", "Pattern"),
          .width = 114,
          .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.pattern); }},
-        {.title = u"Idle≥",
+        {.title = QT_TRANSLATE_NOOP("Columns", "Idle≥"),
          .width = 50,
          .alignment = Qt::AlignRight,
-         .text = [](const QuickKillPreset& preset) { return whole(preset.minIdleMinutes) + u'm'; }},
-        {.title = u"RAM≥",
+         .text = [](const QuickKillPreset& preset) { return tr("%1m").arg(whole(preset.minIdleMinutes)); }},
+        {.title = QT_TRANSLATE_NOOP("Columns", "RAM≥"),
          .width = 66,
          .alignment = Qt::AlignRight,
-         .text = [](const QuickKillPreset& preset) { return whole(preset.minRSSMB) + u"MB"_s; }},
-        {.title = u"Force",
+         .text = [](const QuickKillPreset& preset) { return tr("%1MB").arg(whole(preset.minRSSMB)); }},
+        {.title = QT_TRANSLATE_NOOP("Columns", "Force"),
          .width = 48,
          .text = [](const QuickKillPreset& preset) { return preset.force ? u"bolt.fill"_s : u"minus"_s; }},
         {.width = 62}, // the buttons
@@ -61,7 +61,7 @@ QVariant PresetTableModel::data(const QModelIndex& index, int role) const {
     const QuickKillPreset& preset = m_presets[index.row()];
     const QVariant text = cellData(column(index.column()), preset, Qt::DisplayRole);
     if (role == Qt::AccessibleTextRole) // what the drawings say
-        return index.column() != Column::force ? text : preset.force ? u"Force"_s : u"No force"_s;
+        return index.column() != Column::force ? text : preset.force ? tr("Force") : tr("No force");
     if (role == Qt::ToolTipRole)
         return plainToolTip(text.toString());
     return cellData(column(index.column()), preset, role);

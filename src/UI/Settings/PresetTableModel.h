@@ -5,7 +5,7 @@
 #include <QAbstractTableModel>
 
 struct PresetColumn {
-    QStringView title;
+    const char* title = nullptr;             ///< in the context "Columns"
     int width = 0;                           ///< 0 for what the others leave
     Qt::Alignment alignment = Qt::AlignLeft; ///< right for a figure
     QString (*text)(const QuickKillPreset&) = [](const QuickKillPreset&) { return QString(); };

@@ -28,7 +28,7 @@ QuickKillEditorSheet::QuickKillEditorSheet(const QString& title, const QuickKill
     , m_preset(preset)
     , m_onSave(std::move(onSave))
     , m_symbol(new SymbolView(symbolSize, Theme::iconColumn))
-    , m_save(new PushButton(u"Save"_s, PushButton::Look::prominent)) {
+    , m_save(new PushButton(tr("Save"), PushButton::Look::prominent)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(title);
@@ -60,8 +60,8 @@ QLineEdit* QuickKillEditorSheet::makeField(QString& text) {
 
 QWidget* QuickKillEditorSheet::makeTexts() {
     auto* section = new FormSection(QString());
-    section->addRow(u"Name"_s, makeField(m_preset.name));
-    section->addRow(u"Process name pattern (substring match)"_s, makeField(m_preset.pattern));
+    section->addRow(tr("Name"), makeField(m_preset.name));
+    section->addRow(tr("Process name pattern (substring match)"), makeField(m_preset.pattern));
     section->addRow(Words::native().symbol, makeField(m_preset.symbol), m_symbol);
     return section;
 }
@@ -75,9 +75,9 @@ QWidget* QuickKillEditorSheet::makeConditions() {
         section->addRow(row);
         connect(row, &StepperRow::stepped, this, [&number](double value) { number = value; });
     };
-    addStepper({u"Min idle minutes"_s, u"%1"_s}, {0, 120, 1}, m_preset.minIdleMinutes);
-    addStepper({u"Min RAM %1 MB"_s, {}}, {0, 4000, 50}, m_preset.minRSSMB);
-    auto* force = new QCheckBox(u"Use SIGKILL (force)"_s);
+    addStepper({tr("Min idle minutes"), u"%1"_s}, {0, 120, 1}, m_preset.minIdleMinutes);
+    addStepper({tr("Min RAM %1 MB"), {}}, {0, 4000, 50}, m_preset.minRSSMB);
+    auto* force = new QCheckBox(tr("Use SIGKILL (force)"));
     force->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     force->setChecked(m_preset.force);
     section->addRow(force);
@@ -86,7 +86,7 @@ QWidget* QuickKillEditorSheet::makeConditions() {
 }
 
 QLayout* QuickKillEditorSheet::makeButtons() {
-    auto* cancel = new PushButton(u"Cancel"_s);
+    auto* cancel = new PushButton(tr("Cancel"));
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_save, &QPushButton::clicked, this, &QuickKillEditorSheet::save);
     m_save->setDefault(true);

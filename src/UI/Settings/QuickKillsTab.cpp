@@ -28,7 +28,7 @@ QuickKillsTab::QuickKillsTab(Preferences& preferences, QWidget* parent)
     column->setSpacing(Theme::rowSpacing + Theme::textGap);
     column->addLayout(makeHeader());
     column->addWidget(card, 1);
-    setAccessibleName(QStringLiteral("Quick Kills"));
+    setAccessibleName(tr("Quick Kills"));
 
     auto* create = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_N), this);
     connect(create, &QShortcut::activated, this, &QuickKillsTab::add);
@@ -39,9 +39,9 @@ QuickKillsTab::QuickKillsTab(Preferences& preferences, QWidget* parent)
 
 QLayout* QuickKillsTab::makeHeader() {
     auto* title = new TextLabel(Theme::TextStyle::headline);
-    title->setPlainText(QStringLiteral("Custom Quick Kill presets"));
-    auto* create = new PushButton(QStringLiteral("Add"), PushButton::Look::normal, QStringLiteral("plus"));
-    auto* restore = new PushButton(QStringLiteral("Reset to defaults"), PushButton::Look::normal,
+    title->setPlainText(tr("Custom Quick Kill presets"));
+    auto* create = new PushButton(tr("Add"), PushButton::Look::normal, QStringLiteral("plus"));
+    auto* restore = new PushButton(tr("Reset to defaults"), PushButton::Look::normal,
                                    QStringLiteral("arrow.uturn.backward"));
     connect(create, &QPushButton::clicked, this, &QuickKillsTab::add);
     connect(restore, &QPushButton::clicked, this, &QuickKillsTab::reset);
@@ -64,13 +64,13 @@ void QuickKillsTab::refresh() {
 }
 
 void QuickKillsTab::add() {
-    openEditor(QStringLiteral("New preset"), QuickKillPreset::blank(), [this](const QuickKillPreset& preset) {
+    openEditor(tr("New preset"), QuickKillPreset::blank(), [this](const QuickKillPreset& preset) {
         m_preferences.storeQuickKillPresets(m_preferences.quickKillPresets() << preset);
     });
 }
 
 void QuickKillsTab::edit(const QuickKillPreset& preset) {
-    openEditor(QStringLiteral("Edit preset"), preset, [this](const QuickKillPreset& edited) {
+    openEditor(tr("Edit preset"), preset, [this](const QuickKillPreset& edited) {
         QList<QuickKillPreset> presets = m_preferences.quickKillPresets();
         const auto found =
             std::find_if(presets.begin(), presets.end(),

@@ -1,27 +1,26 @@
 #include "UI/Settings/SamplingTab.h"
 
+#include "Core/Translations.h"
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/TextLabel.h"
 
 const QList<double> SamplingTab::intervals = {1.0, 2.0, 5.0, 10.0};
 
 SamplingTab::SamplingTab(Preferences& preferences, QWidget* parent)
-    : SettingsForm(preferences, QStringLiteral("Sampling"), parent) {
-    auto* cadence = addSection(QStringLiteral("Sampling cadence"));
+    : SettingsForm(preferences, tr("Sampling"), parent) {
+    auto* cadence = addSection(tr("Sampling cadence"));
     addPicker<double>(
-        cadence, QStringLiteral("Poll interval"), intervals,
-        [](double seconds) { return QStringLiteral("%1s").arg(static_cast<int>(seconds)); },
+        cadence, tr("Poll interval"), intervals,
+        [](double seconds) { return tr("%1s").arg(static_cast<int>(seconds)); },
         preferences.pollIntervalSeconds);
     const auto retentions = allCases<HistoryRetention>();
-    addPicker<HistoryRetention>(cadence, QStringLiteral("History retention"),
-                                {retentions.begin(), retentions.end()}, rawValue<HistoryRetention>,
-                                preferences.historyRetention);
+    addPicker<HistoryRetention>(cadence, tr("History retention"), {retentions.begin(), retentions.end()},
+                                Translations::of<HistoryRetention>, preferences.historyRetention);
     auto* kept = (new TextLabel(Theme::TextStyle::caption))->secondary();
     cadence->addNote(kept);
     addDisplay([kept, &preferences] {
-        kept->setPlainText(QStringLiteral("Keeps %1 samples for the Overview sparklines.")
-                               .arg(preferences.historyRetentionSamples()));
+        kept->setPlainText(
+            tr("Keeps %1 samples for the Overview sparklines.").arg(preferences.historyRetentionSamples()));
     });
-    addToggle(addSection(QStringLiteral("Power")), QStringLiteral("Pause sampling on Low Power Mode"),
-              preferences.pauseOnLowPower);
+    addToggle(addSection(tr("Power")), tr("Pause sampling on Low Power Mode"), preferences.pauseOnLowPower);
 }

@@ -1,5 +1,6 @@
 #include "UI/Settings/SettingsScene.h"
 
+#include "Core/Translations.h"
 #include "UI/Settings/AlertsTab.h"
 #include "UI/Settings/GeneralTab.h"
 #include "UI/Settings/HistoryTab.h"
@@ -41,12 +42,12 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWi
     : QWidget(parent)
     , m_row(new QHBoxLayout)
     , m_contents(new QStackedWidget) {
-    setWindowTitle(QStringLiteral("Tavrin Settings"));
+    setWindowTitle(tr("Tavrin Settings"));
     setFixedSize(windowSize);
     auto* bar = new QWidget;
     bar->setFixedHeight(barHeight);
     bar->setLayout(m_row);
-    bar->setAccessibleName(QStringLiteral("Tabs"));
+    bar->setAccessibleName(tr("Tabs"));
     m_row->setContentsMargins(0, 0, 0, 1);
     m_row->setSpacing(Theme::textGap);
     m_row->addStretch();
@@ -67,7 +68,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWi
 }
 
 void SettingsScene::addTab(Tab tab, QWidget* content) {
-    auto* button = new TabButton(tabSymbol(tab), rawValue(tab));
+    auto* button = new TabButton(tabSymbol(tab), Translations::of(tab));
     m_row->insertWidget(m_row->count() - 1, button);
     m_buttons.append(button);
     m_contents->addWidget(content);
@@ -93,11 +94,10 @@ void SettingsScene::addActions() {
         connect(action, &QAction::triggered, this, act);
         addAction(action);
     };
-    add(QStringLiteral("Close"), {Qt::Key_Escape, Qt::CTRL | Qt::Key_W}, [this] { close(); });
-    add(QStringLiteral("Quit"), {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
-    add(QStringLiteral("Next Tab"), {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown},
-        [this] { selectNext(1); });
-    add(QStringLiteral("Previous Tab"), {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp},
+    add(tr("Close"), {Qt::Key_Escape, Qt::CTRL | Qt::Key_W}, [this] { close(); });
+    add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
+    add(tr("Next Tab"), {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, [this] { selectNext(1); });
+    add(tr("Previous Tab"), {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp},
         [this] { selectNext(-1); });
 }
 

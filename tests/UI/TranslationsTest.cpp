@@ -1,0 +1,179 @@
+#include "Core/Translations.h"
+
+#include "Core/Announcements/MessageCenter.h"
+#include "Core/Formatters.h"
+#include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Cleanup/CleanupConfirmation.h"
+#include "UI/FakeDesktop.h"
+#include "UI/Kit/ConfirmDialog.h"
+#include "UI/MainWindow.h"
+#include "UI/MenuBar.h"
+#include "UI/ModelFixture.h"
+#include "UI/Overview/FreeRAMSheet.h"
+#include "UI/Processes/ProcessMenu.h"
+#include "UI/RootView.h"
+#include "UI/Settings/QuickKillEditorSheet.h"
+#include "UI/Settings/SettingsScene.h"
+#include "UI/Widget.h"
+#include "support/FakeLoginItem.h"
+#include "support/ScriptedFeed.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Puts brackets around every text that is looked up.
+class Brackets : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return u'[' + QString::fromUtf8(text) + u']';
+    }
+    bool isEmpty() const override { return false; }
+};
+
+/// Names of programs, products and presets, which are the same in every language.
+QStringList names() {
+    QStringList known;
+    for (const QuickKillPreset& preset : QuickKillPreset::defaults())
+        known.append(preset.name);
+    known << u"Tavrin"_s << u"claude"_s << u"worker"_s << u"npm / pnpm / yarn"_s << u"Python (uv / pip)"_s
+          << u"Homebrew"_s << u"Docker"_s << u"Xcode DerivedData"_s << u"Cargo / Go / Swift"_s;
+    return known;
+}
+
+/// What a person could see or hear of the widget, each by itself.
+QStringList textsOf(const QWidget& widget) {
+    QStringList texts{widget.windowTitle(), widget.toolTip(), widget.accessibleName(),
+                      widget.accessibleDescription()};
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        texts.append(label->text());
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        texts.append(button->text());
+    if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
+        texts.append(field->placeholderText());
+    if (const auto* picker = qobject_cast<const QComboBox*>(&widget)) {
+        for (int i = 0; i < picker->count(); ++i)
+            texts.append(picker->itemText(i));
+    }
+    if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
+        for (int i = 0; i < list->count(); ++i)
+            texts.append(list->item(i)->text());
+    }
+    if (const auto* table = qobject_cast<const QTreeView*>(&widget)) {
+        for (int column = 0; column < table->model()->columnCount(); ++column)
+            texts.append(table->model()->headerData(column, Qt::Horizontal).toString());
+    }
+    for (const QAction* action : widget.actions())
+        texts.append(action->text());
+    return texts;
+}
+
+/// What is left without what stands in brackets, names and markup.
+QString untranslated(QString text) {
+    static const QRegularExpression markup(u"<[^>]*>"_s);
+    static const QRegularExpression innermost(u"\\[[^\\[\\]]*\\]"_s);
+    text.remove(markup);
+    while (text.contains(innermost))
+        text.remove(innermost);
+    for (const QString& name : names())
+        text.remove(name);
+    return text;
+}
+
+bool hasLetters(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar character) { return character.isLetter(); });
+}
+
+void expectTranslated(const QWidget& root) {
+    QList<const QWidget*> widgets{&root};
+    for (const QWidget* each : root.findChildren<QWidget*>())
+        widgets.append(each);
+    ASSERT_GT(widgets.size(), 1);
+    for (const QWidget* widget : widgets) {
+        for (const QString& text : textsOf(*widget)) {
+            EXPECT_FALSE(hasLetters(untranslated(text)))
+                << widget->metaObject()->className() << ": " << qPrintable(text);
+        }
+    }
+}
+
+struct TranslationsTest : ModelFixture {
+    Brackets brackets;
+    MessageCenter messages{std::make_unique<ScriptedFeed>(), prefs.file()};
+
+    void SetUp() override {
+        QCoreApplication::installTranslator(&brackets);
+        addProcesses(2, "claude", quint64(2) << 30);
+        addProcesses(6, "worker", quint64(1) << 30);
+        tick();
+    }
+    void TearDown() override { QCoreApplication::removeTranslator(&brackets); }
+};
+
+} // namespace
+
+TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
+    MainWindow window(model, prefs, messages);
+    window.show();
+    for (const auto tab : allCases<RootView::Tab>()) {
+        window.findChild<RootView*>()->select(tab);
+        settle();
+    }
+    const NukePreview preview = model.actions().previewForName(u"worker"_s);
+    new ConfirmDialog(&window, preview.dialogTitle(), preview.dialogMessage());
+    const CacheTarget npm = CacheTarget::defaults().first();
+    CleanupConfirmation::ask(&window, &window, npm, [] {});
+    CleanupConfirmation::askAll(&window, &window, CacheTarget::defaults(), [](const QList<CacheTarget>&) {});
+    new CacheDetailDrawer(npm, &window);
+    (new FreeRAMSheet(model, &window))->show();
+    new QuickKillEditorSheet(QString(), QuickKillPreset::blank(), {}, &window);
+    QMenu menu(&window);
+    ProcessMenu(model).fill(menu, {.first = model.processes().first(), .sameName = 2}, false);
+    settle();
+    expectTranslated(window);
+}
+
+TEST_F(TranslationsTest, TheSettings) {
+    FakeLoginItem loginItem;
+    SettingsScene window(prefs, loginItem);
+    window.show();
+    settle();
+    expectTranslated(window);
+}
+
+TEST_F(TranslationsTest, TheTrayAndTheWidget) {
+    FakeDesktop desktop;
+    WidgetWindow widget(desktop.desktop());
+    MenuBarController controller(model, prefs, desktop.desktop(), widget);
+    widget.show(model);
+    desktop.popover->show({});
+    settle();
+    expectTranslated(*desktop.popover->content);
+    expectTranslated(*desktop.panels->first()->content);
+    for (const QAction* action : desktop.statusItem->menu->actions())
+        EXPECT_FALSE(hasLetters(untranslated(action->text()))) << qPrintable(action->text());
+    EXPECT_TRUE(desktop.statusItem->content.title.startsWith(u'['));
+}
+
+TEST(Translations, EnglishCountsOneApart) {
+    for (const auto& [context, text, forms] :
+         {std::tuple("Formatters", "%n byte(s)", QStringList{u"0 bytes"_s, u"1 byte"_s, u"2 bytes"_s}),
+          std::tuple("Formatters", "%n day(s) ago",
+                     QStringList{u"0 days ago"_s, u"1 day ago"_s, u"2 days ago"_s}),
+          std::tuple("CleanupTexts", "%n volume(s), %1",
+                     QStringList{u"0 volumes, %1"_s, u"1 volume, %1"_s, u"2 volumes, %1"_s}),
+          std::tuple("WidgetView", "+ %n more alert(s)",
+                     QStringList{u"+ 0 more alerts"_s, u"+ 1 more alert"_s, u"+ 2 more alerts"_s})}) {
+        for (int n = 0; n < 3; ++n)
+            EXPECT_EQ(QCoreApplication::translate(context, text, nullptr, n), forms[n]) << text << n;
+    }
+}
