@@ -77,7 +77,7 @@ TEST(NoticeTest, ALaterTextStaysItsWholeTime) {
 }
 
 TEST(SliderTest, MovesByStepsUnderMouseAndKeys) {
-    LabeledSlider slider(u"Size: "_s, u" MB"_s, {50, 2000, 50}, 300, 200);
+    LabeledSlider slider(u"Size: %1 MB"_s, {50, 2000, 50}, 300, 200);
     slider.show();
     EXPECT_EQ(slider.value(), 300);
     auto* knob = slider.findChild<Slider*>();
