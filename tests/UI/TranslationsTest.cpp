@@ -81,7 +81,7 @@ QStringList textsOf(const QWidget& widget) {
 QString untranslated(QString text) {
     static const QRegularExpression markup(u"<[^>]*>"_s);
     static const QRegularExpression innermost(u"\\[[^\\[\\]]*\\]"_s);
-    text.remove(markup);
+    text.remove(markup).replace(u"&gt;"_s, u">"_s);
     while (text.contains(innermost))
         text.remove(innermost);
     for (const QString& name : names())
