@@ -2,13 +2,11 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "Core/Observe.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PanelRow.h"
-#include "UI/Kit/Severity.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Style/Painting.h"
@@ -55,7 +53,7 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
     column->addWidget(m_alertSection);
     column->addStretch();
     setHover(false);
-    observe(&m_model, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QLayout* WidgetView::makeHeader() {
@@ -121,11 +119,6 @@ QWidget* WidgetView::makeAlert() {
     return section;
 }
 
-void WidgetView::showEvent(QShowEvent* event) {
-    refresh();
-    QWidget::showEvent(event);
-}
-
 void WidgetView::enterEvent(QEnterEvent*) {
     setHover(true);
 }
@@ -140,8 +133,6 @@ void WidgetView::setHover(bool hover) {
 }
 
 void WidgetView::refresh() {
-    if (!isOnScreen(this))
-        return;
     refreshGrid();
     refreshGroups();
     refreshAlert();
@@ -174,7 +165,7 @@ void WidgetView::refreshAlert() {
     if (alerts.isEmpty())
         return;
     m_alert->set({.symbol = severitySymbol(alerts.first().severity),
-                  .tint = severityRole(alerts.first().severity),
+                  .tint = Levels::alert(alerts.first().severity),
                   .text = alerts.first().title,
                   .textRole = Role::primaryText,
                   .figure = {}});
