@@ -107,6 +107,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     column->setSpacing(4);
     column->addLayout(head);
     column->addWidget(m_area);
+    hide();
 }
 
 void FreeRAMResultView::set(const FreeRAMResult& result) {

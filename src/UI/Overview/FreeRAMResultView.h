@@ -7,7 +7,7 @@ class QScrollArea;
 class QVBoxLayout;
 class TextLabel;
 
-/// What a run freed, and the outcome for each process.
+/// What a run freed, and the outcome for each process. Hidden at first.
 class FreeRAMResultView : public Card {
     Q_OBJECT
 

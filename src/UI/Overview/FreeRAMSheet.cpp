@@ -86,7 +86,6 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     column->addLayout(makeSelectionBar());
     column->addWidget(m_result);
     column->addWidget(m_action, 0, Qt::AlignRight);
-    m_result->hide();
 
     refresh();
     tickFirst(preselected);
