@@ -4,10 +4,10 @@
 
 class QMenu;
 
-/// The menu of the whole program, the same on the status item and in the main window.
+/// The menu of the program, on the status item and in the main window.
 namespace AppMenu {
 
-/// `open` brings the main window forward, `openSettings` the settings window.
+/// Adds the entries. `open` brings the main window forward, `openSettings` the settings window.
 void fill(QMenu& menu, std::function<void()> open, std::function<void()> openSettings);
 
 } // namespace AppMenu

@@ -33,7 +33,7 @@ void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Sever
     m_caption = Formatters::visible(caption);
     m_severity = severity;
     setAccessibleName(m_caption);
-    // Where it leads, in plain ASCII: no look-alike letters, nothing that could be taken for markup.
+    // The address in plain ASCII has neither look-alike letters nor markup.
     setToolTip(link.toString(QUrl::FullyEncoded));
     updateGeometry();
     update();

@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-/// The capsule that follows a message's link, in the colours of its severity. A long caption is shortened.
+/// The button that opens a message's link, in the colours of its severity. A long caption is shortened.
 class ActionCapsule : public QAbstractButton {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private:
     Message::Severity m_severity = Message::Severity::info;
 };
 
-/// A cross whose ground shows while the pointer is on it.
+/// A cross, with a background while it is hovered.
 class DismissButton : public QAbstractButton {
     Q_OBJECT
 

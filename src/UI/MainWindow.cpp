@@ -18,13 +18,14 @@ QString placeKey() {
 
 MainWindow::MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QMainWindow(parent)
-    , m_file(preferences.file())
-    , m_storeLater(m_file)
+    , m_storeLater(preferences.file())
     , m_root(new RootView(model, preferences, messages)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);
-    restorePlace();
+    resize(RootView::minimumContent);
+    // A place on a screen that is gone is moved to one that is there.
+    restoreGeometry(preferences.file().bytes(placeKey()).value_or(QByteArray()));
     connect(m_root, &RootView::widgetToggled, this, &MainWindow::widgetToggled);
     addMenuActions();
 }
@@ -41,7 +42,7 @@ void MainWindow::addMenuActions() {
         activateWindow();
     };
     AppMenu::fill(*menu, open, [this] { Q_EMIT settingsRequested(); });
-    // The menu's shortcuts hold in the whole window, also while the menu is closed.
+    // The menu's shortcuts work in the whole window, also while the menu is closed.
     addActions(menu->actions());
     m_root->setMenu(menu);
 }
@@ -59,12 +60,6 @@ void MainWindow::moveEvent(QMoveEvent* event) {
 void MainWindow::resizeEvent(QResizeEvent* event) {
     rememberPlace();
     QMainWindow::resizeEvent(event);
-}
-
-/// A place on a screen that is gone is moved to one that is there.
-void MainWindow::restorePlace() {
-    resize(RootView::minimumContent);
-    restoreGeometry(m_file.bytes(placeKey()).value_or(QByteArray()));
 }
 
 void MainWindow::rememberPlace() {

@@ -9,8 +9,8 @@ class MessageCenter;
 class Preferences;
 class RootView;
 
-/// The window around RootView. Closing it only orders it out: the program goes on in the status area, and
-/// the window comes back on its first section. Its size and place outlast the program.
+/// The window around RootView. Closing hides it: the program goes on in the status area, and the window comes
+/// back on its first section. Its size and place are stored.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -28,10 +28,8 @@ protected:
 
 private:
     void addMenuActions();
-    void restorePlace();
     void rememberPlace();
 
-    SettingsFile& m_file;
     StoreLater m_storeLater;
     RootView* m_root;
 };

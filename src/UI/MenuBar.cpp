@@ -28,17 +28,11 @@ int rounded(double percent) {
 QStringList figures(MenuBarFormat format, const SystemSample& sample) {
     const QString cpu = QString::number(rounded(sample.cpuPercent));
     const QString ram = QString::number(rounded(sample.memUsedPercent()));
-    switch (format) {
-    case MenuBarFormat::both:
+    if (format == MenuBarFormat::both)
         return {cpu, ram};
-    case MenuBarFormat::cpuOnly:
+    if (format == MenuBarFormat::cpuOnly)
         return {cpu};
-    case MenuBarFormat::ramOnly:
-        return {ram};
-    case MenuBarFormat::iconOnly:
-        return {};
-    }
-    return {};
+    return format == MenuBarFormat::ramOnly ? QStringList{ram} : QStringList();
 }
 
 } // namespace
@@ -49,7 +43,9 @@ MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, 
     , m_model(model)
     , m_preferences(preferences)
     , m_desktop(std::move(desktop)) {
-    buildMenu();
+    AppMenu::fill(
+        m_menu, [this] { openMainWindow(); }, [this] { Q_EMIT settingsRequested(); });
+    m_desktop.statusItem->setMenu(&m_menu);
     m_desktop.statusItem->show({.title = QStringLiteral("•••"),
                                 .symbol = {},
                                 .compact = FigureIcon::make({}),
@@ -65,12 +61,6 @@ MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, 
     observe(&m_preferences, this, redraw);
     if (!m_model.systemHistory().isEmpty()) // the first sample was taken before anybody could observe it
         QMetaObject::invokeMethod(this, redraw, Qt::QueuedConnection);
-}
-
-void MenuBarController::buildMenu() {
-    AppMenu::fill(
-        m_menu, [this] { openMainWindow(); }, [this] { Q_EMIT settingsRequested(); });
-    m_desktop.statusItem->setMenu(&m_menu);
 }
 
 QString MenuBarController::title(MenuBarFormat format, const SystemSample& sample) {
@@ -113,7 +103,7 @@ void MenuBarController::togglePopover() {
 }
 
 void MenuBarController::openMainWindow() {
-    // In this order: the popover has the keyboard, and may pass it on only as long as it is there.
+    // In this order: the popover has the focus, and can pass it on only while it is open.
     MainWindowFinder::open(*m_desktop.application, MainWindowFinder::Fallback::anyWindow);
     m_desktop.popover->close();
 }

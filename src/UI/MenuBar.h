@@ -12,8 +12,7 @@ class AppModel;
 class WidgetWindow;
 struct SystemSample;
 
-/// The status item: it keeps its title in step with every new sample, opens the panel on a click and the
-/// menu on a secondary one.
+/// The status item. Its title follows every new sample. A click opens the panel, a secondary click the menu.
 class MenuBarController : public QObject {
     Q_OBJECT
 
@@ -21,14 +20,14 @@ public:
     MenuBarController(AppModel& model, Preferences& preferences, Desktop desktop, WidgetWindow& widget,
                       QObject* parent = nullptr);
 
-    /// The whole title, without the symbol of the icon-only format: "CPU 23% • RAM 61%".
+    /// Returns the title: "CPU 23% • RAM 61%". It is empty in the icon-only format.
     static QString title(MenuBarFormat format, const SystemSample& sample);
 
 Q_SIGNALS:
     void settingsRequested();
 
 private:
-    /// What the item was last drawn from; it is drawn again only when that changes.
+    /// What the item shows. It is drawn again only when that changes.
     struct Shown {
         MenuBarFormat format;
         QString title;
@@ -37,7 +36,6 @@ private:
         bool operator==(const Shown&) const = default;
     };
 
-    void buildMenu();
     void update(const SystemSample& sample);
     void togglePopover();
     void openMainWindow();

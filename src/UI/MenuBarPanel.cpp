@@ -2,7 +2,6 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "Core/Observe.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/FigureColumn.h"
 #include "UI/Kit/IconButton.h"
@@ -91,7 +90,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addWidget(m_alertSection);
     column->addStretch();
 
-    observe(&m_model, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QLayout* MenuBarPanel::makeHeader() {
@@ -123,14 +122,7 @@ QLayout* MenuBarPanel::makeStatistics() {
     return row;
 }
 
-void MenuBarPanel::showEvent(QShowEvent* event) {
-    refresh();
-    QWidget::showEvent(event);
-}
-
 void MenuBarPanel::refresh() {
-    if (!isOnScreen(this))
-        return;
     refreshStatistics();
     refreshProcesses();
     refreshAlerts();

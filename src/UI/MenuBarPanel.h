@@ -12,8 +12,8 @@ class PanelRow;
 class QVBoxLayout;
 class WidgetWindow;
 
-/// The content of the status item's popover: the machine at a glance, the five largest processes, up to
-/// three alerts, and the ways to the floating widget and the main window.
+/// The content of the status item's popover: the machine's figures, the five largest processes, up
+/// to three alerts, and buttons for the floating widget and the main window.
 class MenuBarPanel : public QWidget {
     Q_OBJECT
 
@@ -27,7 +27,6 @@ Q_SIGNALS:
     void openMainWindow();
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

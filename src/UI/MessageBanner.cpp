@@ -21,18 +21,18 @@ namespace {
 constexpr int symbolFrame = 22;
 constexpr int itemSpacing = 12;
 constexpr QMargins padding(14, 10, 14, 10);
-/// Brings the title's first line to the middle of the symbol.
+/// Aligns the title's first line with the middle of the symbol.
 constexpr int titleDrop = 2;
 constexpr int maxTitleLines = 2;
 constexpr int maxBodyLines = 3;
-/// More can not be seen anyway, and laying out a megabyte would be felt.
+/// No more can be seen, and laying out a megabyte takes long.
 constexpr qsizetype maxTextLength = 2000;
 
 QString shortened(const QString& text) {
     return text.size() > maxTextLength ? text.left(maxTextLength) + u'…' : text;
 }
 
-/// Empty unless the message has both a caption that can be seen and a link that may be followed.
+/// Returns nothing unless the message has a visible caption and a link that may be opened.
 std::optional<QUrl> actionOf(const Message& message) {
     const bool hasCaption = !message.actionLabel.value_or(QString()).trimmed().isEmpty();
     return hasCaption ? message.actionLink() : std::nullopt;
@@ -74,7 +74,7 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
         refresh();
     });
     observe(&m_center, this, [this] { refresh(); });
-    // Not made visible here, where it is still a window of its own.
+    // Without a parent yet, setVisible() would open a window.
     if (m_center.currentMessage())
         set(*m_center.currentMessage());
     else

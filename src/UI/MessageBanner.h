@@ -10,14 +10,14 @@ class ActionCapsule;
 class ClampedLabel;
 class SymbolView;
 
-/// The message of the center in one row, with its link and a way to dismiss it; hidden while there is none.
+/// The center's current message in one row, with its link and a button to dismiss it. Hidden without one.
 class MessageBanner : public QWidget {
     Q_OBJECT
 
 public:
     using OpenLink = std::function<void(const QUrl&)>;
 
-    /// `open` follows a link; the desktop's own handler unless set.
+    /// `open` opens a link; by default the desktop does.
     explicit MessageBanner(MessageCenter& center, OpenLink open = openInDesktop, QWidget* parent = nullptr);
 
     static void openInDesktop(const QUrl& link);
@@ -31,7 +31,7 @@ private:
 
     MessageCenter& m_center;
     OpenLink m_open;
-    MessageCenter::Message m_message; ///< the one on show
+    MessageCenter::Message m_message; ///< the one that is shown
     SymbolView* m_symbol;
     ClampedLabel* m_title;
     ClampedLabel* m_body;

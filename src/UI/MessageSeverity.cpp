@@ -4,36 +4,32 @@ using Severity = Message::Severity;
 
 namespace MessageSeverity {
 
+namespace {
+
+struct Look {
+    QStringView symbol;
+    Theme::Role role;
+};
+
+/// In the order of Severity.
+constexpr Look looks[] = {{u"info.circle.fill", Theme::Role::blue},
+                          {u"exclamationmark.triangle.fill", Theme::Role::orange},
+                          {u"arrow.down.circle.fill", Theme::Role::accent},
+                          {u"sparkles", Theme::Role::lime}};
+
+/// Returns whether the action button is filled with the severity's colour in full.
+bool isSolid(Severity severity) {
+    return severity == Severity::upgrade;
+}
+
+} // namespace
+
 QString symbol(Severity severity) {
-    switch (severity) {
-    case Severity::info:
-        return QStringLiteral("info.circle.fill");
-    case Severity::warn:
-        return QStringLiteral("exclamationmark.triangle.fill");
-    case Severity::update:
-        return QStringLiteral("arrow.down.circle.fill");
-    case Severity::upgrade:
-        return QStringLiteral("sparkles");
-    }
-    return {};
+    return looks[static_cast<std::size_t>(severity)].symbol.toString();
 }
 
 Theme::Role role(Severity severity) {
-    switch (severity) {
-    case Severity::info:
-        return Theme::Role::blue;
-    case Severity::warn:
-        return Theme::Role::orange;
-    case Severity::update:
-        return Theme::Role::accent;
-    case Severity::upgrade:
-        return Theme::Role::lime;
-    }
-    return Theme::Role::blue;
-}
-
-bool isSolid(Severity severity) {
-    return severity == Severity::upgrade;
+    return looks[static_cast<std::size_t>(severity)].role;
 }
 
 QColor buttonFill(Severity severity) {

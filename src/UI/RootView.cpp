@@ -29,20 +29,13 @@ constexpr int sidebarMaximum = 220;
 constexpr int sidebarTopMargin = 12;
 constexpr int titleTopMargin = 16;
 
+/// In the order of RootView::Tab.
+constexpr QStringView symbols[] = {u"gauge", u"wand.and.stars", u"list.bullet.rectangle", u"trash"};
+
 } // namespace
 
 QString tabSymbol(RootView::Tab tab) {
-    switch (tab) {
-    case RootView::Tab::overview:
-        return QStringLiteral("gauge");
-    case RootView::Tab::optimize:
-        return QStringLiteral("wand.and.stars");
-    case RootView::Tab::processes:
-        return QStringLiteral("list.bullet.rectangle");
-    case RootView::Tab::cleanup:
-        return QStringLiteral("trash");
-    }
-    return {};
+    return symbols[static_cast<std::size_t>(tab)].toString();
 }
 
 RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
@@ -96,7 +89,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     select(Tab::overview);
 }
 
-/// The selected section under its title, and above them what there is to announce.
+/// Returns the selected section under its title, with the announcement above them.
 QWidget* RootView::makeDetail() {
     auto* detail = new QWidget;
     auto* column = new QVBoxLayout(detail);

@@ -18,8 +18,7 @@ class QSplitter;
 class QStackedWidget;
 class TextLabel;
 
-/// The content of the main window: a sidebar of sections and, beside it, the selected one under the
-/// announcement in force.
+/// The content of the main window: a sidebar, and the selected section under the current announcement.
 class RootView : public QWidget {
     Q_OBJECT
 
@@ -32,11 +31,11 @@ public:
 
     Tab tab() const;
     void select(Tab tab);
-    /// Opened by the button at the foot of the sidebar; not owned.
+    /// Sets the menu that the button at the foot of the sidebar opens. Does not own it.
     void setMenu(QMenu* menu);
 
 Q_SIGNALS:
-    /// The button that shows and hides the floating widget.
+    /// Emitted when the user wants to show or hide the floating widget.
     void widgetToggled();
 
 protected:
@@ -46,7 +45,7 @@ private:
     QWidget* makeDetail();
     void restoreSidebar(QSplitter* split, const SettingsFile& file);
     void showSection(int row);
-    /// In the order of Tab.
+    /// Adds a section. The calls have to be in the order of Tab.
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();
 
@@ -66,5 +65,5 @@ inline constexpr std::array rawValueTable<RootView::Tab> = {
     RawValueRow<RootView::Tab>{RootView::Tab::cleanup, u"Cleanup"},
 };
 
-/// Name of the section's symbol, under resources/symbols.
+/// Returns the name of the section's symbol, under resources/symbols.
 QString tabSymbol(RootView::Tab tab);

@@ -19,26 +19,26 @@ WidgetWindow::WidgetWindow(Desktop desktop)
 WidgetWindow::~WidgetWindow() = default;
 
 void WidgetWindow::show(AppModel& model) {
-    if (!window) {
-        window = m_desktop.makePanel();
+    if (!m_window) {
+        m_window = m_desktop.makePanel();
         auto* view = new WidgetView(model);
         QObject::connect(view, &WidgetView::close, view, [this] { hide(); });
         QObject::connect(view, &WidgetView::openMain, view, [application = m_desktop.application] {
             MainWindowFinder::open(*application, MainWindowFinder::Fallback::nothing);
         });
-        window->setContent(view);
+        m_window->setContent(view);
         if (const QScreen* screen = QGuiApplication::primaryScreen()) {
             const QRect room = screen->availableGeometry();
-            window->placeBottomLeft(
+            m_window->placeBottomLeft(
                 {room.right() + 1 - fromRightAndBottom.x(), room.bottom() + 1 - fromRightAndBottom.y()});
         }
     }
-    window->orderFront();
+    m_window->orderFront();
 }
 
 void WidgetWindow::hide() {
-    if (window)
-        window->orderOut();
+    if (m_window)
+        m_window->orderOut();
 }
 
 void WidgetWindow::toggle(AppModel& model) {
@@ -49,5 +49,5 @@ void WidgetWindow::toggle(AppModel& model) {
 }
 
 bool WidgetWindow::isVisible() const {
-    return window && window->isVisible();
+    return m_window && m_window->isVisible();
 }

@@ -7,13 +7,13 @@
 
 class AppModel;
 
-/// The floating widget's panel: made when it is first shown, kept from then on.
+/// The floating widget's panel, which is created when it is first shown.
 class WidgetWindow {
 public:
     explicit WidgetWindow(Desktop desktop);
     ~WidgetWindow();
 
-    /// On the screen, over other windows; only the first time decides on the place.
+    /// Shows the panel above other windows. Places it the first time only.
     void show(AppModel& model);
     void hide();
     void toggle(AppModel& model);
@@ -21,5 +21,5 @@ public:
 
 private:
     Desktop m_desktop;
-    std::unique_ptr<FloatingPanel> window;
+    std::unique_ptr<FloatingPanel> m_window;
 };

@@ -2,14 +2,12 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "Core/Observe.h"
 #include "Core/Translations.h"
 #include "UI/Kit/Divider.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PanelRow.h"
-#include "UI/Kit/Severity.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Style/Painting.h"
@@ -56,7 +54,7 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
     column->addWidget(m_alertSection);
     column->addStretch();
     setHover(false);
-    observe(&m_model, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QLayout* WidgetView::makeHeader() {
@@ -120,11 +118,6 @@ QWidget* WidgetView::makeAlert() {
     return section;
 }
 
-void WidgetView::showEvent(QShowEvent* event) {
-    refresh();
-    QWidget::showEvent(event);
-}
-
 void WidgetView::enterEvent(QEnterEvent*) {
     setHover(true);
 }
@@ -139,8 +132,6 @@ void WidgetView::setHover(bool hover) {
 }
 
 void WidgetView::refresh() {
-    if (!isOnScreen(this))
-        return;
     refreshGrid();
     refreshGroups();
     refreshAlert();
@@ -173,7 +164,7 @@ void WidgetView::refreshAlert() {
     if (alerts.isEmpty())
         return;
     m_alert->set({.symbol = severitySymbol(alerts.first().severity),
-                  .tint = severityRole(alerts.first().severity),
+                  .tint = Levels::alert(alerts.first().severity),
                   .text = alerts.first().title,
                   .textRole = Role::primaryText,
                   .figure = {}});

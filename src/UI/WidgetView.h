@@ -25,7 +25,7 @@ public:
 
     explicit WidgetView(AppModel& model, QWidget* parent = nullptr);
 
-    /// Whole gigabytes from one on, else whole megabytes: "12G", "512M".
+    /// Returns whole gigabytes from one on, else whole megabytes: "12G", "512M".
     static QString shortBytes(quint64 bytes);
 
 Q_SIGNALS:
@@ -33,7 +33,6 @@ Q_SIGNALS:
     void openMain();
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;

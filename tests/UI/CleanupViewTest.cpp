@@ -36,7 +36,7 @@ struct CleanupViewTest : ModelFixture {
             [this] { return !model.cleanup().isCleaning() && !model.cleanup().isScanning(); }, 2000));
         tick();
     }
-    /// Makes the tools say so of every folder; `clean` answers a removal.
+    /// Makes the tools answer with `listing` for every folder, and with `clean` to a removal.
     void answer(const QByteArray& listing, const ToolResult& clean = ScriptedTools::exited(0)) {
         fakes.tools->answer = [=](const ToolRequest& request) {
             if (request.launchPath == u"/usr/bin/du")

@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
-// Finding and working the controls of a form the way a person does, by what they are called.
+// Finds and operates the controls of a form by their names, as a person does.
 
-/// The control of that kind that can be seen and whose name begins so; null when there is none.
+/// Returns the visible control of that kind whose name begins with `name`, null when there is none.
 template <typename T> T* control(const QWidget& parent, const QString& name) {
     for (T* each : parent.findChildren<T*>()) {
         const auto* button = qobject_cast<QAbstractButton*>(each);
@@ -31,7 +31,7 @@ inline void click(const QWidget& parent, const QString& name) {
     QCoreApplication::sendPostedEvents();
 }
 
-/// Takes a picker to the choice of that text, by keyboard.
+/// Selects the choice with that text in a picker, by keyboard.
 inline void choose(const QWidget& parent, const QString& name, const QString& choice) {
     auto* picker = control<QComboBox>(parent, name);
     ASSERT_TRUE(picker) << qPrintable(name);

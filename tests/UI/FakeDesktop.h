@@ -6,12 +6,11 @@
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <functional>
 
-// A desktop that only remembers what it was asked for.
+// A desktop that only records its calls.
 
 class FakeStatusItem : public StatusItem {
 public:
@@ -28,7 +27,7 @@ public:
     QRect geometry() const override { return place; }
 };
 
-/// What is shown in a popover or a panel.
+/// The content of a popover or a panel.
 struct ShownContent {
     std::unique_ptr<QWidget> content;
     bool shown = false;

@@ -19,7 +19,7 @@ struct FreeRAMSheetTest : ModelFixture {
     FreeRAMSheetTest() { model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
     ~FreeRAMSheetTest() override { delete sheet; }
 
-    /// Agents of 400, 401, ... MiB, idle for 20 minutes.
+    /// Adds agents of 400, 401, ... MiB that have been idle for 20 minutes.
     void addIdle(int count) {
         for (int i = 0; i < count; ++i)
             addProcesses(1, "claude", static_cast<quint64>(400 + i) * MiB);

@@ -121,7 +121,7 @@ TEST(StepperTest, StepsWithinItsRangeAndComesBackIntoIt) {
     }
 }
 
-TEST(StepperTest, HalvesEndWithTheRangeAndRepeatWhileHeld) {
+TEST(StepperTest, HalvesEndWithTheRangeAndRepeatWhilePressed) {
     StepperRow row({u"Load"_s, u"%1%"_s}, {50, 60, 5});
     row.setValue(40);
     row.show();

@@ -71,7 +71,7 @@ TEST_F(MessageBannerTest, OnlyAUsableLinkHasAButton) {
         EXPECT_FALSE(action()->isVisible()) << feedOf({each}).data();
     }
     publish({linked(u"Read & learn"_s, u"https://x.example/<b>?q=1"_s)});
-    EXPECT_FALSE(action()->isVisible()); // no address holds such characters
+    EXPECT_FALSE(action()->isVisible()); // no address has such characters
     publish({linked(u"Read & learn"_s, u"https://x.example/?q=1&r"_s)});
     ASSERT_TRUE(action()->isVisible());
     EXPECT_EQ(action()->accessibleName(), u"Read & learn"_s);

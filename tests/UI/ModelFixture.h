@@ -16,7 +16,7 @@
 
 #include <gtest/gtest.h>
 
-/// A model on a scripted machine whose ticks the test fires, and the views' queued redraws with them.
+/// A model on a scripted machine. The test fires its ticks, and with them the queued redraws of the views.
 struct ModelFixture : testing::Test {
     TemporaryHome home; ///< where actions are logged
     FakePlatform fakes;
@@ -39,7 +39,7 @@ struct ModelFixture : testing::Test {
         }
     }
 
-    /// "KIND DETAIL ok", newest first.
+    /// Returns the actions as "KIND DETAIL ok", the newest first.
     QStringList logged() const {
         return each(model.actionLog().entries(), [](const ActionLogEntry& entry) {
             return rawValue(entry.kind) + u' ' + entry.detail +
@@ -47,7 +47,7 @@ struct ModelFixture : testing::Test {
         });
     }
 
-    /// 2 MiB in the npm folder until that is cleaned; nothing anywhere else.
+    /// Lets `du` find 2 MiB in the npm folder until it is cleaned, and nothing anywhere else.
     void fillNpmFolder() {
         const QString npm = home.makeFolder(QStringLiteral(".npm"));
         for (const CacheTarget& target : CacheTarget::defaults()) {
@@ -65,7 +65,7 @@ struct ModelFixture : testing::Test {
     qint32 nextPid = 100;
 };
 
-/// The button that a person could see with that text, tool tip or accessible name; null when there is none.
+/// Returns the visible button with that text or accessible name, null when there is none.
 inline QAbstractButton* buttonNamed(const QWidget& parent, const QString& name) {
     for (auto* button : parent.findChildren<QAbstractButton*>()) {
         if (button->isVisibleTo(&parent) && (button->text() == name || button->accessibleName() == name))
@@ -80,7 +80,7 @@ inline void press(const QWidget& parent, const QString& name) {
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-/// Queued redraws, and what is to be deleted.
+/// Runs queued redraws and deletions.
 inline void settle() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -94,13 +94,13 @@ inline QStringList columnOf(const QAbstractItemModel& table, int section) {
     return texts;
 }
 
-/// What the widget of that kind, the only one, is called while it can be seen.
+/// Returns the accessible name of the only widget of that kind, empty while it is hidden.
 template <typename T> QString shownName(const QWidget& parent) {
     const auto* shown = parent.findChild<T*>();
     return shown->isVisibleTo(&parent) ? shown->accessibleName() : QString();
 }
 
-/// Whether a label with exactly that text can be seen.
+/// Returns whether a label with exactly that text is visible.
 inline bool showsText(const QWidget& parent, const QString& text) {
     for (const auto* label : parent.findChildren<QLabel*>()) {
         if (label->isVisibleTo(&parent) && label->text() == text)
@@ -109,7 +109,7 @@ inline bool showsText(const QWidget& parent, const QString& text) {
     return false;
 }
 
-/// The accessible names of the widgets of a kind that a person could see, in the order they were made.
+/// Returns the accessible names of the visible widgets of a kind, in the order of their creation.
 template <typename T> QStringList shownNames(const QWidget& parent) {
     QStringList names;
     for (const T* child : parent.findChildren<T*>()) {

@@ -54,7 +54,7 @@ struct ProcessesViewTest : ModelFixture {
     void foldDuplicates() {
         QTest::mouseClick(view.findChild<QCheckBox*>(), Qt::LeftButton, {}, QPoint(10, 10));
     }
-    /// What another table has from the settings.
+    /// Returns the widths of another table with the same settings.
     QList<int> widthsOfAnother() {
         const ProcessesView another(model, prefs);
         const QHeaderView* head = another.findChild<ProcessTableView*>()->header();
@@ -109,7 +109,7 @@ TEST_F(ProcessesViewTest, PickerAndHeadsSortInStep) {
     clickHead(0);
     EXPECT_EQ(picker->currentText(), u"Name"_s);
     EXPECT_EQ(column(u"PID"_s), (QStringList{u"101"_s, u"102"_s, u"100"_s, u"103"_s}));
-    clickHead(2); // ids are no way to sort
+    clickHead(2); // nothing sorts by PID
     EXPECT_EQ(table->header()->sortIndicatorSection(), 0);
     process(103).task->cpuTimeNs += 900'000'000;
     fakes.clock->advance(2);
@@ -165,7 +165,7 @@ TEST_F(ProcessesViewTest, AClickMeansTheRowThatWasPressed) {
     EXPECT_EQ(logged(),
               (QStringList{u"forceKill pid=100 fail"_s, u"forceKill pid=101 ok"_s, u"quit pid=100 ok"_s}));
     QTest::mousePress(table->viewport(), Qt::LeftButton, {}, button(0, 0));
-    QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, button(0, 1)); // thought better of it
+    QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, button(0, 1)); // released on another button
     EXPECT_EQ(logged().size(), 3);
 }
 

@@ -9,7 +9,6 @@
 #include "UI/Settings/QuickKillEditorSheet.h"
 
 #include <QLineEdit>
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 

@@ -56,8 +56,8 @@ TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
 }
 
 TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
-    // Its name, the choice of a picker, else "More" or "Less" of a stepper, and the line from then on in the
-    // file.
+    // Tab and name, the choice of a picker or "More" or "Less" of a stepper, and the line in the file after
+    // it.
     const std::tuple<Tab, QString, QString, QString> cases[] = {
         {Tab::general, u"Start at login"_s, {}, u"pref.startAtLogin=false"_s},
         {Tab::general, u"Show floating widget on launch"_s, {}, u"pref.showWidgetOnLaunch=true"_s},

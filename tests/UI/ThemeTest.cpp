@@ -20,7 +20,7 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// The contrast ratio of the web accessibility guidelines, 1 to 21.
+/// Returns the contrast ratio of the web accessibility guidelines, 1 to 21.
 double contrast(const QColor& one, const QColor& other) {
     const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);

@@ -24,6 +24,7 @@
 #include "UI/Settings/PresetTable.h"
 #include "UI/Settings/QuickKillEditorSheet.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/Style/Painting.h"
 #include "UI/Style/Style.h"
 #include "UI/Style/Symbols.h"
 #include "UI/Style/Theme.h"
@@ -89,7 +90,7 @@ struct Stage : ModelFixture {
     Stage() {
         qint32 pid = 812;
         for (const Actor& actor : cast) {
-            cpuTimePerTick[actor.name] = static_cast<quint64>(actor.cores * 2e9);
+            m_cpuTimePerTick[actor.name] = static_cast<quint64>(actor.cores * 2e9);
             for (int i = 0; i < actor.count; ++i, pid += 37) {
                 fakes.processes->add(
                     pid, {.task = TaskInfo{.residentBytes = actor.memory - i * actor.memory / 40,
@@ -103,7 +104,7 @@ struct Stage : ModelFixture {
         fakes.host->root = VolumeSize{.totalBytes = 488 * GiB, .freeBytes = 84 * GiB};
     }
 
-    /// `usedGB` at the end of a stretch of `ticks`, in which the load swings about `load` percent.
+    /// Fires `ticks` ticks, with a load about `load` percent and `usedGB` of memory in use at the end.
     void play(int ticks, double load, double usedGB) {
         for (int i = 0; i < ticks; ++i) {
             const double wave = load + 14 * std::sin(i / 7.0) + 6 * std::sin(i / 2.3);
@@ -114,14 +115,14 @@ struct Stage : ModelFixture {
             fakes.host->memory.activeBytes = static_cast<quint64>(used * double(GiB));
             fakes.clock->advance(2);
             for (FakeProcess& process : fakes.processes->processes)
-                process.task->cpuTimeNs += cpuTimePerTick[process.name];
+                process.task->cpuTimeNs += m_cpuTimePerTick[process.name];
             QMetaObject::invokeMethod(&model, "tick");
         }
         QCoreApplication::processEvents();
     }
 
 private:
-    QHash<QByteArray, quint64> cpuTimePerTick;
+    QHash<QByteArray, quint64> m_cpuTimePerTick;
 };
 
 class Camera {
@@ -173,7 +174,7 @@ QByteArray listingAnswer(const QStringList& arguments) {
     return listingOf({{"_cacache", 1890 * MB}, {"_npx", 210 * MB}, {"_logs", 3 * MB}, {"tmp", 4096}});
 }
 
-/// Du finds something in most caches; the deeper the catalogue, the less.
+/// Lets `du` find something in most caches.
 void scriptCaches(Stage& stage) {
     stage.fakes.places->objections[stage.home.path(u".pnpm-store"_s)] =
         u"~/.local/share/pnpm is left alone: it is on another file system, which something else writes to."_s;
@@ -221,7 +222,7 @@ void shootTarget(Camera& camera, MainWindow& window, const QString& target, cons
     settle();
 }
 
-/// The question, the run, and what is left of one that was cancelled.
+/// Takes the question, the run, and the result of a run that was cancelled.
 void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     const CleanupView& view = *window.findChild<CleanupView*>();
     press(view, u"Clean All"_s);
@@ -378,7 +379,7 @@ void shootHistory(Camera& camera) {
     camera.take(tab, u"history-empty"_s);
 }
 
-/// The announcements of all severities, one under the other, and one over a section.
+/// Takes the announcements of all severities below each other, and one above a section.
 void shootBanners(Camera& camera) {
     using Severity = Message::Severity;
     const auto says = [](Severity severity, const QString& title, const QString& body,
@@ -464,7 +465,7 @@ QPixmap blank(QSize size, double ratio) {
     return sheet;
 }
 
-/// Every symbol at 16, 24 and 48 points with its name.
+/// Returns every symbol at 16, 24 and 48 points with its name.
 QPixmap contactSheet(double ratio) {
     constexpr int columns = 5;
     constexpr QSize cell(250, 92);
@@ -472,8 +473,7 @@ QPixmap contactSheet(double ratio) {
     const int rows = (static_cast<int>(names.size()) + columns - 1) / columns;
     QPixmap sheet = blank(QSize(columns * cell.width(), rows * cell.height()), ratio);
     QPainter painter(&sheet);
-    painter.setFont(Theme::font(Theme::TextStyle::caption));
-    painter.setPen(Theme::color(Theme::Role::secondaryText));
+    Painting::setTextStyle(painter, Theme::TextStyle::caption, Theme::Role::secondaryText);
     const QColor ink = Theme::color(Theme::Role::primaryText);
     for (int i = 0; i < names.size(); ++i) {
         const QPoint corner(i % columns * cell.width() + 12, i / columns * cell.height() + 8);
@@ -487,7 +487,7 @@ QPixmap contactSheet(double ratio) {
     return sheet;
 }
 
-/// The tray icon on a light and on a dark tray, at its real sizes and enlarged.
+/// Returns the tray icons on a light or a dark tray, at their real sizes and enlarged.
 QPixmap traySheet(double ratio) {
     const QList<QStringList> contents{{}, {u"7"_s}, {u"100"_s}, {u"23"_s, u"61"_s}, {u"100"_s, u"99"_s}};
     QPixmap sheet = blank(QSize(760, 300), ratio);

@@ -4,14 +4,15 @@
 
 #include <QAbstractButton>
 
-/// One cleanup target: its size and when it was measured. A press opens the target that was shown then.
+/// One cleanup target: its size and the time of its scan. A click means the target that was shown at the
+/// press.
 class CacheCard : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit CacheCard(QWidget* parent = nullptr);
 
-    /// `now` is what the time of the last scan is told against.
+    /// The time of the last scan is shown relative to `now`.
     void set(const CacheTarget& target, bool isSelected, Instant now);
 
     QSize sizeHint() const override;

@@ -20,7 +20,7 @@ namespace {
 constexpr QSize minSize(460, 480);
 constexpr qsizetype maxNames = 20;
 
-/// What goes besides what the breakdown shows.
+/// Adds what a clean removes besides the entries of the breakdown.
 void addNames(SizeList& list, const CacheTarget& target) {
     const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxNames);
     const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
@@ -57,8 +57,7 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     size->setPlainText(tr("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));
     size->setForegroundRole(QPalette::Link);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
+    column->setContentsMargins(Theme::sheetMargins);
     column->setSpacing(12);
     column->addLayout(makeHeader());
     column->addWidget(size);

@@ -5,7 +5,7 @@
 #include <QDialog>
 
 /// What one cleanup target consists of, and the button that cleans it after asking. It shows the target as
-/// it was when opened; gone once it is closed.
+/// it was when the drawer was opened. Deletes itself when it is closed.
 class CacheDetailDrawer : public QDialog {
     Q_OBJECT
 

@@ -7,8 +7,8 @@
 class QObject;
 class QWidget;
 
-/// The questions before a clean. What was shown is what `clean` is called with, whatever was measured anew
-/// meanwhile; it is not called when `owner` is gone by then.
+/// The questions before a clean. `clean` is called with the targets that were shown, whatever was scanned
+/// meanwhile, and only while `owner` exists.
 namespace CleanupConfirmation {
 
 void ask(QWidget* parent, QObject* owner, const CacheTarget& target, const std::function<void()>& clean);

@@ -24,7 +24,7 @@ QString quoted(const QString& name) {
     return u"“%1”"_s.arg(text);
 }
 
-/// "“a”, “b” and 12 more": the first few of so many.
+/// Returns the first few of `count` names: "“a”, “b” and 12 more".
 QString listed(const QStringList& names, qsizetype count) {
     QStringList items;
     for (const QString& name : names.first(std::min(maxNames, names.size())))

@@ -12,20 +12,20 @@ namespace CleanupTexts {
 /// "Cleaning NAME (1 of 3)", by a sentence such as "Cleaning %1 (%2 of %3)".
 QString progress(const QString& sentence, const CleanupProgress& progress);
 
-/// Whether a clean takes what does not come back by itself.
+/// Returns whether a clean removes what nothing rebuilds.
 bool takesUserFiles(const CacheTarget& target);
 
-/// What of the target goes, in a line: names, largest first, or the command. Empty when nothing is known.
+/// Returns what a clean removes, in a line: names, the largest first, or the command. Empty when unknown.
 QString whatGoes(const CacheTarget& target);
 
-/// What is said before one target is cleaned; an empty line between paragraphs.
+/// Returns the question before one target is cleaned, with an empty line between paragraphs.
 QString question(const CacheTarget& target);
-/// The same before all of these are.
+/// Returns the question before all of these are cleaned.
 QString questionAll(const QList<CacheTarget>& targets);
 
-/// What became of a run over `asked` targets, from what the model's cleanAll gave.
+/// Returns the outcome of a run over `asked` targets; `cleaned` is the result of CacheCleanup::cleanAll.
 QString outcome(qsizetype asked, std::pair<int, quint64> cleaned, const CleanupReport& report);
-/// The targets that were not cleaned to the end, and why. Empty when there is none.
+/// Returns the targets that were not cleaned to the end, and why. Empty when there is none.
 QString unfinished(const CleanupReport& report);
 
 } // namespace CleanupTexts

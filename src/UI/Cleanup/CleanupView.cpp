@@ -3,7 +3,6 @@
 #include "AppModel.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
-#include "Core/Observe.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
@@ -56,7 +55,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
     connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
-    observe(&m_model, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QLayout* CleanupView::makeHeader() {
@@ -81,7 +80,7 @@ QLayout* CleanupView::makeHeader() {
     return row;
 }
 
-/// Keeps its room while nothing is done, so that the cards do not jump.
+/// Returns a row that keeps its room while it is empty, so that the cards do not jump.
 QLayout* CleanupView::makeProgress() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
@@ -111,14 +110,7 @@ QWidget* CleanupView::makeGrid() {
     return area;
 }
 
-void CleanupView::showEvent(QShowEvent* event) {
-    refresh();
-    QWidget::showEvent(event);
-}
-
 void CleanupView::refresh() {
-    if (!isOnScreen(this))
-        return;
     const CacheCleanup& cleanup = m_model.cleanup();
     refreshCards();
     refreshProgress();
@@ -164,8 +156,8 @@ void CleanupView::open(const CacheTarget& target) {
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();
-        // The drawer may close together with the dialog upon it, and a window manager that has just handed
-        // it the keyboard leaves the keyboard there.
+        // The drawer may close together with its dialog. A window manager that has just given it the focus
+        // leaves the focus there.
         window()->activateWindow();
     });
     drawer->open();

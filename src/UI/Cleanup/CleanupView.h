@@ -20,9 +20,6 @@ class CleanupView : public QWidget {
 public:
     explicit CleanupView(AppModel& model, QWidget* parent = nullptr);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     QLayout* makeHeader();
     QLayout* makeProgress();
@@ -38,7 +35,7 @@ private:
     QString m_selected; ///< the target whose drawer is open
     bool m_cleaningAll = false;
     QString m_lastCleanResult;
-    bool m_wasCancelled = false; ///< what the result is about
+    bool m_wasCancelled = false; ///< the run of the last result
 
     TextLabel* m_total;
     TextLabel* m_result;

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The ground that things stand on: the theme's card, or one in the light of a tint.
+/// The background of a group of widgets: the theme's card, or one in a tint.
 class Card : public QWidget {
     Q_OBJECT
 

@@ -18,7 +18,7 @@ constexpr int comfortableWidth = 320;
 ClampedLabel::ClampedLabel(int maxLines, Theme::TextStyle style, std::optional<QFont::Weight> weight,
                            QWidget* parent)
     : TextLabel(style, weight, parent)
-    , m_mostLines(maxLines) {
+    , m_maxLines(maxLines) {
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -33,7 +33,7 @@ QStringList ClampedLabel::lines(int width) const {
     QStringList result;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(std::max(width, 1));
-        if (result.size() + 1 == m_mostLines) {
+        if (result.size() + 1 == m_maxLines) {
             result.append(fontMetrics().elidedText(text().mid(line.textStart()), Qt::ElideRight, width));
             break;
         }

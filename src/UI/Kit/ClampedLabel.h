@@ -2,8 +2,7 @@
 
 #include "UI/Kit/TextLabel.h"
 
-/// A text of at most so many lines, as wide as there is room. The last one ends in an ellipsis where the text
-/// goes on; the whole of it is then the tool tip.
+/// A text of a limited number of lines. A tool tip shows the whole of a text that does not fit.
 class ClampedLabel : public TextLabel {
     Q_OBJECT
 
@@ -16,7 +15,7 @@ public:
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
 
-    /// What stands on each line at that width.
+    /// Returns the text of each line at that width.
     QStringList lines(int width) const;
 
 protected:
@@ -24,5 +23,5 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    int m_mostLines;
+    int m_maxLines;
 };

@@ -4,12 +4,12 @@
 
 namespace {
 
-/// 0 for a text that is no width a column can have.
+/// Returns 0 when the text is not a valid width.
 int widthOf(const QString& text) {
-    constexpr int least = 40;
-    constexpr int most = 2000;
+    constexpr int minWidth = 40;
+    constexpr int maxWidth = 2000;
     const int width = text.toInt();
-    return width >= least && width <= most ? width : 0;
+    return width >= minWidth && width <= maxWidth ? width : 0;
 }
 
 QString entry(const QString& id, int width) {
@@ -30,7 +30,7 @@ ColumnWidths::ColumnWidths(QHeaderView& header, SettingsFile& file)
     , m_file(file)
     , m_storeLater(file) {
     connect(&header, &QHeaderView::sectionResized, this, [this](int section) {
-        if (!m_isRestoring && m_columns.value(section).usual > 0)
+        if (!m_isRestoring && m_columns.value(section).defaultWidth > 0)
             store();
     });
 }
@@ -42,8 +42,8 @@ void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
     const QHash<QString, int> stored = widthsIn(m_file.text(key).value_or(QString()));
     for (int i = 0; i < columns.size(); ++i) {
         const int width = stored.value(columns[i].id);
-        if (columns[i].usual > 0)
-            m_header.resizeSection(i, width > 0 ? width : columns[i].usual);
+        if (columns[i].defaultWidth > 0)
+            m_header.resizeSection(i, width > 0 ? width : columns[i].defaultWidth);
     }
     m_isRestoring = false;
 }
@@ -51,15 +51,15 @@ void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
 void ColumnWidths::store() {
     QStringList widths;
     for (int i = 0; i < m_columns.size(); ++i) {
-        if (m_columns[i].usual > 0)
+        if (m_columns[i].defaultWidth > 0)
             widths.append(entry(m_columns[i].id, m_header.sectionSize(i)));
     }
     m_storeLater.store(m_key, widths.join(u' '));
 }
 
-void ColumnWidths::takeOver(SettingsFile& file, const QString& old, const QString& key,
-                            const QStringList& ids) {
-    const auto stored = file.text(old);
+void ColumnWidths::migrate(SettingsFile& file, const QString& oldKey, const QString& key,
+                           const QStringList& ids) {
+    const auto stored = file.text(oldKey);
     if (!stored)
         return;
     const QStringList positions = stored->split(u' ', Qt::SkipEmptyParts);
@@ -70,5 +70,5 @@ void ColumnWidths::takeOver(SettingsFile& file, const QString& old, const QStrin
     }
     if (!widths.isEmpty() && !file.text(key))
         file.store(key, widths.join(u' '));
-    file.store(old, {});
+    file.store(oldKey, {});
 }

@@ -4,26 +4,27 @@
 
 class QHeaderView;
 
-/// Keeps the widths that the user gives the columns of a table, as "group=156 pid=62", so that they stay with
-/// their columns wherever these stand. The table says which columns it has and what they are called.
+/// Stores the widths that the user gives the columns of a table, as "group=156 pid=62". A width belongs to
+/// the id of its column, wherever the column stands.
 class ColumnWidths : public QObject {
     Q_OBJECT
 
 public:
     struct Column {
         QString id;
-        int usual = 0; ///< 0 for the one that has what the others leave
+        int defaultWidth = 0; ///< 0 for the column that takes the remaining width
     };
 
     ColumnWidths(QHeaderView& header, SettingsFile& file);
 
-    /// Gives the head's columns the widths that are stored under the key, or the usual ones. From now on what
-    /// the user changes is stored there.
+    /// Gives the columns the widths that are stored under `key`, or their default widths. Stores there what
+    /// the user changes from then on.
     void restore(const QString& key, const QList<Column>& columns);
 
-    /// Turns widths that are stored by position under `old` into those of the columns `ids`, unless `key` has
-    /// some already. Nothing is left under `old`.
-    static void takeOver(SettingsFile& file, const QString& old, const QString& key, const QStringList& ids);
+    /// Moves widths that are stored by position under `oldKey` to the columns `ids` under `key`. Deletes
+    /// `oldKey`; widths that are under `key` already stay.
+    static void migrate(SettingsFile& file, const QString& oldKey, const QString& key,
+                        const QStringList& ids);
 
 private:
     void store();

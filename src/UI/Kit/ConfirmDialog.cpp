@@ -26,8 +26,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     auto* heading = new ClampedLabel(maxHeadingLines, TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
     heading->setFixedWidth(textWidth);
-    m_column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                                 Theme::pagePadding);
+    m_column->setContentsMargins(Theme::sheetMargins);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(heading);
     for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
@@ -58,6 +57,6 @@ PushButton* ConfirmDialog::addAction(const QString& text, PushButton::Look look)
 }
 
 void ConfirmDialog::addContent(QWidget* content) {
-    constexpr int below = 2; // the gap before the buttons, and they
+    constexpr int below = 2; // the spacing and the buttons
     m_column->insertWidget(m_column->count() - below, content);
 }

@@ -7,17 +7,17 @@
 class QHBoxLayout;
 class QVBoxLayout;
 
-/// Asks before something that cannot be undone. Escape, Return and closing it all mean Cancel; it is gone
-/// once it is answered. Show it with open().
+/// Asks before an action that cannot be undone. Escape, Return and closing the window mean Cancel. Show it
+/// with open(); it deletes itself once it is answered.
 class ConfirmDialog : public QDialog {
     Q_OBJECT
 
 public:
     ConfirmDialog(QWidget* parent, const QString& title, const QString& text);
 
-    /// One more answer, before Cancel. The dialog closes before the button's `clicked` reaches anyone else.
+    /// Adds an answer before Cancel. The dialog closes before the button's `clicked` reaches other receivers.
     PushButton* addAction(const QString& text, PushButton::Look look);
-    /// Between the text and the buttons; as wide as `textWidth`.
+    /// Adds a widget between the text and the buttons. It has to be as wide as `textWidth`.
     void addContent(QWidget* content);
 
     static constexpr int textWidth = 420;

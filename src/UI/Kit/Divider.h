@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// A line of one point across a column.
+/// A line across a column, one point thick.
 class Divider : public QWidget {
     Q_OBJECT
 

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// What stands in the place of a list that has nothing to show, and why. The headline may be empty.
+/// Takes the place of a list that has nothing to show, and says why. The headline may be empty.
 class EmptyState : public QWidget {
     Q_OBJECT
 

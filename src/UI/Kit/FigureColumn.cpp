@@ -4,24 +4,8 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 using Theme::Role;
 using Theme::TextStyle;
-
-namespace {
-
-QFont labelFont() {
-    return Theme::font(TextStyle::caption);
-}
-QFont figureFont() {
-    return Theme::font(TextStyle::headline);
-}
-double height(const QFont& font) {
-    return std::ceil(QFontMetricsF(font).height());
-}
-
-} // namespace
 
 FigureColumn::FigureColumn(QString label, QWidget* parent)
     : QWidget(parent)
@@ -38,19 +22,19 @@ void FigureColumn::setFigure(const QString& figure) {
 }
 
 QSize FigureColumn::sizeHint() const {
-    return {40, static_cast<int>(::height(labelFont()) + Theme::textGap + ::height(figureFont()))};
+    const double lines = Painting::lineHeight(Theme::font(TextStyle::caption)) +
+                         Painting::lineHeight(Theme::font(TextStyle::headline));
+    return {40, static_cast<int>(lines) + Theme::textGap};
 }
 
 void FigureColumn::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line(rect());
-    line.setHeight(::height(labelFont()));
-    painter.setFont(labelFont());
-    painter.setPen(Theme::color(Role::secondaryText));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
+    line.setHeight(Painting::lineHeight(painter.font()));
     Painting::drawElided(painter, line, Qt::ElideRight, m_label);
     line.translate(0, line.height() + Theme::textGap);
-    line.setHeight(::height(figureFont()));
-    painter.setFont(figureFont());
-    painter.setPen(Theme::color(Role::primaryText));
+    Painting::setTextStyle(painter, TextStyle::headline, Role::primaryText);
+    line.setHeight(Painting::lineHeight(painter.font()));
     Painting::drawTabular(painter, line, Qt::AlignLeft, m_figure);
 }

@@ -16,7 +16,7 @@ constexpr QRgb badgeFill = 0xff23262c;
 constexpr std::array<QRgb, 2> inks = {0xffffffff, 0xff8fd3ff};
 constexpr std::array sizes = {16, 22, 24, 32, 44, 48, 64};
 
-/// Bold, as large as the room allows; figures are 1 to 3 digits.
+/// Draws a figure of 1 to 3 digits, bold, as large as the room allows.
 void drawFigure(QPainter& painter, const QRectF& room, QRgb ink, const QString& figure) {
     QFont font = QApplication::font();
     font.setWeight(QFont::Bold);
@@ -34,7 +34,7 @@ void drawFigure(QPainter& painter, const QRectF& room, QRgb ink, const QString& 
     painter.drawText(QPointF(qRound(room.center().x() - width / 2), qRound(baseline)), figure);
 }
 
-/// In the square at the origin.
+/// Draws into the square at the origin.
 void draw(QPainter& painter, const QStringList& figures, int size) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -56,8 +56,8 @@ void draw(QPainter& painter, const QStringList& figures, int size) {
     }
 }
 
-/// Draws the size that is asked for. An icon of pixmaps would draw all, and Qt keep each that was shown in
-/// its cache, megabytes of figures of the past.
+/// Draws the size that is asked for. An icon of pixmaps would draw all sizes, and Qt would cache every icon
+/// that was shown: megabytes of old figures.
 class FigureIconEngine : public QIconEngine {
 public:
     explicit FigureIconEngine(QStringList figures)

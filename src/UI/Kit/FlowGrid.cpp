@@ -6,7 +6,7 @@
 
 FlowGrid::FlowGrid(int minItemWidth, int spacing, QWidget* parent)
     : QLayout(parent)
-    , m_leastItemWidth(minItemWidth) {
+    , m_minItemWidth(minItemWidth) {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(spacing);
 }
@@ -27,7 +27,7 @@ QSize FlowGrid::minimumSize() const {
     int tallest = 0;
     for (const QLayoutItem* item : m_items)
         tallest = std::max(tallest, item->minimumSize().height());
-    return {m_leastItemWidth, tallest};
+    return {m_minItemWidth, tallest};
 }
 
 void FlowGrid::setGeometry(const QRect& area) {
@@ -43,7 +43,7 @@ int FlowGrid::arrange(const QRect& area, bool move) const {
     }
     if (shown.isEmpty())
         return 0;
-    const int columns = std::max(1, (area.width() + spacing()) / (m_leastItemWidth + spacing()));
+    const int columns = std::max(1, (area.width() + spacing()) / (m_minItemWidth + spacing()));
     const auto left = [&](int column) { return area.left() + column * (area.width() + spacing()) / columns; };
     int top = area.top();
     for (qsizetype row = 0; row < shown.size(); row += columns) {

@@ -3,8 +3,7 @@
 #include <QLayout>
 #include <QList>
 
-/// A grid of as many equal columns as have room for items of a least width. Rows are as tall as their
-/// tallest item.
+/// A grid of as many equal columns as fit at their minimum width. A row is as tall as its tallest item.
 class FlowGrid : public QLayout {
     Q_OBJECT
 
@@ -23,9 +22,9 @@ public:
     void setGeometry(const QRect& area) override;
 
 private:
-    /// The height taken; items are moved only when `move` is set.
+    /// Returns the height of all rows. Moves the items only when `move` is set.
     int arrange(const QRect& area, bool move) const;
 
-    int m_leastItemWidth;
+    int m_minItemWidth;
     QList<QLayoutItem*> m_items;
 };

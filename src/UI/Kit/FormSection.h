@@ -4,7 +4,7 @@
 
 class QVBoxLayout;
 
-/// A part of a form: a title over a card of rows, with a line between one row and the next.
+/// A part of a form: a title over a card of rows, with a line between rows.
 class FormSection : public QWidget {
     Q_OBJECT
 
@@ -13,9 +13,9 @@ public:
     explicit FormSection(const QString& title, QWidget* parent = nullptr);
 
     void addRow(QWidget* row);
-    /// A label and, at the far end, the control that it names, with whatever illustrates it before it.
+    /// Adds a label and, at the far end, its control, with an illustration before the control.
     void addRow(const QString& label, QWidget* control, QWidget* illustration = nullptr);
-    /// Small print below the row before it, with no line between them.
+    /// Adds small print below the last row.
     void addNote(QWidget* note);
 
 private:

@@ -25,10 +25,6 @@ IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* 
     setFocusPolicy(Qt::TabFocus);
 }
 
-QSize IconButton::sizeHint() const {
-    return {side, side};
-}
-
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::drawFeedback(painter, *this, Theme::controlRadius);

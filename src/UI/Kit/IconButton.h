@@ -12,8 +12,6 @@ public:
     IconButton(QString symbol, const QString& help, Theme::Role tint = Theme::Role::secondaryText,
                QWidget* parent = nullptr);
 
-    QSize sizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

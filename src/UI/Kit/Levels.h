@@ -1,12 +1,13 @@
 #pragma once
 
+#include "Core/Alerts/Alert.h"
 #include "Core/Sampling/SystemSample.h"
 #include "UI/Style/Theme.h"
 
-/// The colours of the machine's figures, decided on unrounded values; the same on every screen.
+/// The colours of the machine's figures and alerts, the same on every screen. They follow unrounded values.
 namespace Levels {
 
-/// Red and orange from their thresholds on, green below.
+/// Returns red and orange from their thresholds on, green below.
 constexpr Theme::Role role(double value, double orangeFrom, double redFrom) {
     if (value >= redFrom)
         return Theme::Role::red;
@@ -35,6 +36,18 @@ constexpr Theme::Role thermal(ThermalState state) {
         return Theme::Role::red;
     }
     return Theme::Role::green;
+}
+
+constexpr Theme::Role alert(Alert::Severity severity) {
+    switch (severity) {
+    case Alert::Severity::info:
+        return Theme::Role::blue;
+    case Alert::Severity::warn:
+        return Theme::Role::orange;
+    case Alert::Severity::danger:
+        return Theme::Role::red;
+    }
+    return Theme::Role::blue;
 }
 
 } // namespace Levels

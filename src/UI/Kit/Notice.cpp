@@ -42,7 +42,7 @@ Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidge
     hide();
 }
 
-/// The card's ground is translucent, and a notice may lie over other things.
+/// Fills the background, as the card is translucent and a notice may cover other widgets.
 void Notice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::windowFill));

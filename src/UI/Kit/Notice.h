@@ -7,12 +7,12 @@
 
 class TextLabel;
 
-/// A short text that tells the outcome of an action, with a button to dismiss it. Hidden until it has a text.
+/// A short text about the outcome of an action, with a button to dismiss it. Hidden until it has a text.
 class Notice : public QWidget {
     Q_OBJECT
 
 public:
-    /// It goes by itself after `lifetime`, counted anew for each text; 0 keeps it until it is dismissed.
+    /// It hides after `lifetime`, which starts anew with each text. 0 keeps it until it is dismissed.
     Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
 
     void show(const QString& text);

@@ -1,8 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include <functional>
+#include <initializer_list>
 
-/// Whether a person could see the widget; one that is not on screen does no work for a tick.
-inline bool isOnScreen(const QWidget* widget) {
-    return widget->isVisible() && !widget->window()->isMinimized();
-}
+class Observable;
+class QWidget;
+
+/// Calls `refresh` when the widget is shown, and when a source has changed while a person could see the
+/// widget. A widget that is not on screen does no work for a tick.
+void refreshOnScreen(QWidget* widget, std::initializer_list<Observable*> sources,
+                     std::function<void()> refresh);

@@ -7,7 +7,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -33,8 +32,8 @@ void PanelRow::set(const Content& content) {
 }
 
 QSize PanelRow::sizeHint() const {
-    const double line = std::ceil(QFontMetricsF(Theme::font(m_style)).height());
-    return {120, std::max(m_symbolWidth, static_cast<int>(line)) + 2 * verticalPadding};
+    const auto line = static_cast<int>(Painting::lineHeight(Theme::font(m_style)));
+    return {120, std::max(m_symbolWidth, line) + 2 * verticalPadding};
 }
 
 void PanelRow::paintEvent(QPaintEvent*) {

@@ -19,7 +19,7 @@ public:
         bool operator==(const Content&) const = default;
     };
 
-    /// `symbolWidth` is the column that the symbol is centred in.
+    /// The symbol is centred in a column of `symbolWidth`.
     PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent = nullptr);
 
     void set(const Content& content);

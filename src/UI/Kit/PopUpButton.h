@@ -3,8 +3,7 @@
 #include <QComboBox>
 #include <QString>
 
-/// A choice of one among a few, in the theme's looks. What it shows begins with a label of its own when one
-/// is given: "Sort: RAM".
+/// A drop-down list in the theme's looks. Its text begins with the label unless that is empty: "Sort: RAM".
 class PopUpButton : public QComboBox {
     Q_OBJECT
 

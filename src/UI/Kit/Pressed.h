@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// Calls `act` when the button is clicked, with what `shown` was when it was pressed: lists move between
-/// press and release. `shown` is what the button's own widget shows now, and lives as long as the button.
+/// Calls `act` when the button is clicked, with the value that `shown` had when it was pressed: lists move
+/// between press and release. `shown` is what the button's widget shows, and lives as long as the button.
 template <typename Shown, typename Act>
 void actOnPressed(QAbstractButton* button, const Shown& shown, Act act) {
     const auto pressed = std::make_shared<Shown>();

@@ -88,7 +88,7 @@ void PushButton::drawGround(QPainter& painter) const {
         const QColor fill = Theme::tileColor(m_tint);
         Painting::drawCard(painter, rect(), Theme::controlRadius,
                            isDown() ? fill.darker(125) : (underMouse() ? fill.darker(110) : fill));
-        if (hasFocus()) // the ring's own colour would drown in the fill
+        if (hasFocus()) // the ring's colour cannot be seen on the fill
             Painting::drawCard(painter, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
                                Qt::transparent, QColor(255, 255, 255, 190));
         return;

@@ -22,10 +22,10 @@ public:
                         QWidget* parent = nullptr);
 
     void setSymbol(const QString& symbol);
-    /// Of a prominent button's ground, of any other one's text; the accent colour unless set.
+    /// Sets the colour of a prominent button's background, or of a borderless one's text. Default: accent.
     void setTint(Theme::Role tint);
     void setSmall();
-    /// A spinner takes the symbol's place; whoever sets it also disables the button.
+    /// Shows a spinner in the symbol's place. The caller disables the button.
     void setBusy(bool busy);
 
     QSize sizeHint() const override;
@@ -36,7 +36,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// What can be read on it: in its text an ampersand is written twice.
+    /// Returns the text as it is displayed, with single ampersands.
     QString caption() const { return text().replace(QStringLiteral("&&"), QStringLiteral("&")); }
     bool hasLead() const { return !m_symbol.isEmpty() || m_isBusy; }
     int contentWidth() const;

@@ -4,21 +4,21 @@
 
 #include <functional>
 
-/// The row widgets of a list, which are kept and used again as what they show comes and goes.
+/// The row widgets of a list, which are reused as its entries come and go.
 template <typename Row> class RowPool {
 public:
-    /// `make` makes a row and puts it in its place behind the others.
+    /// `make` creates a row and adds it to the layout, after the others.
     explicit RowPool(std::function<Row*()> make)
         : m_make(std::move(make)) {}
 
-    /// Makes sure of that many rows, where their room, or their place before widgets that are made later,
-    /// counts before there is something to show.
+    /// Creates rows until there are `count`. A list needs that when its height, or its place before widgets
+    /// that are created later, matters before there is something to show.
     void reserve(qsizetype count) {
         while (m_rows.size() < count)
             m_rows.append(m_make());
     }
 
-    /// Lets `fill` show each of `count` things, by its position, in a row. The other rows are hidden.
+    /// Calls `fill(row, index)` for the first `count` rows, and hides the other rows.
     template <typename Fill> void show(qsizetype count, Fill fill) {
         reserve(count);
         for (qsizetype i = 0; i < m_rows.size(); ++i) {

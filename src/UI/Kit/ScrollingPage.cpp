@@ -1,7 +1,5 @@
 #include "UI/Kit/ScrollingPage.h"
 
-#include "UI/Kit/SlimScrollBar.h"
-
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -13,6 +11,11 @@ QVBoxLayout* makeScrollingPage(QScrollArea* area, const QMargins& margins, int s
     area->setWidget(page);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    SlimScrollBar::install(area);
+    useSlimScrollBar(area);
     return column;
+}
+
+void useSlimScrollBar(QAbstractScrollArea* area) {
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// A line to search by: a magnifier before it, a button that clears it, and Escape does the same.
+/// A search field with a magnifier, which a button and Escape clear.
 class SearchField : public QLineEdit {
     Q_OBJECT
 

@@ -2,7 +2,7 @@
 
 #include <QStyledItemDelegate>
 
-/// Rows of a sidebar: a symbol (Qt::UserRole holds its name) and a label on a rounded selection.
+/// Rows of a sidebar: a symbol, named by `symbolRole`, and a label on a rounded selection.
 class SidebarDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 
@@ -77,7 +76,7 @@ SizeList::SizeList(const QString& accessibleName, QWidget* parent)
     , m_rows(makeScrollingPage(this, {padding, padding / 2, padding, padding / 2}, 0)) {
     m_rows->addStretch();
     setViewportMargins(edge, edge, edge, edge);
-    // The card below shines through.
+    // The card below is visible through both.
     widget()->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     setFocusPolicy(Qt::TabFocus);
@@ -104,11 +103,11 @@ void SizeList::addLine(const QString& text) {
     m_rows->insertWidget(m_rows->count() - 1, line);
 }
 
-void SizeList::fit(int width, int most) {
+void SizeList::fit(int width, int maxHeight) {
     const int inner = width - 2 * edge - verticalScrollBar()->sizeHint().width();
     const int needed = m_rows->hasHeightForWidth() ? m_rows->totalHeightForWidth(inner)
                                                    : m_rows->totalMinimumSize().height();
-    setFixedSize(width, std::min(needed + 2 * edge, most));
+    setFixedSize(width, std::min(needed + 2 * edge, maxHeight));
 }
 
 bool SizeList::event(QEvent* event) {

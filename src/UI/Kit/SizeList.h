@@ -5,7 +5,7 @@
 
 class QVBoxLayout;
 
-/// A list to read: names with figures at the far end, under headings. The keyboard reaches and scrolls it.
+/// A read-only list of names and figures under headings. It can be scrolled by keyboard.
 class SizeList : public QScrollArea {
     Q_OBJECT
 
@@ -22,8 +22,8 @@ public:
     void addRow(const Row& row);
     void addHeading(const QString& text);
     void addLine(const QString& text);
-    /// As high as what it holds needs at that width, but no higher than `most`.
-    void fit(int width, int most);
+    /// Sets the width, and the height that the content needs at that width, up to `maxHeight`.
+    void fit(int width, int maxHeight);
 
 protected:
     bool event(QEvent* event) override;

@@ -15,7 +15,7 @@ Slider::Slider(QWidget* parent)
     setFixedHeight(Style::knobSide + 4);
 }
 
-void Slider::takeTo(double x) {
+void Slider::moveKnobTo(double x) {
     const double share = (x - Style::knobSide / 2.0) / std::max(1, width() - Style::knobSide);
     setValue(minimum() + static_cast<int>(std::lround(share * (maximum() - minimum()))));
 }
@@ -28,12 +28,12 @@ void Slider::mousePressEvent(QMouseEvent* event) {
     initStyleOption(&option);
     const double x = event->position().x();
     if (std::abs(x - Style::knob(option).center().x()) > Style::knobSide / 2.0)
-        takeTo(x);
+        moveKnobTo(x);
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event) {
     if (isSliderDown())
-        takeTo(event->position().x());
+        moveKnobTo(event->position().x());
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent*) {

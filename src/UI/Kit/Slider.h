@@ -5,7 +5,7 @@
 
 class TextLabel;
 
-/// A horizontal slider in the theme's colours; a press on its track takes the knob there.
+/// A horizontal slider in the theme's colours; a press on its track moves the knob there.
 class Slider : public QSlider {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void takeTo(double x);
+    void moveKnobTo(double x);
 };
 
 /// A slider over steps, under a line that says its value: "Min idle: 10 min".

@@ -3,7 +3,7 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-/// Shows that something is being done; turns only while it can be seen.
+/// Shows that an operation is in progress. It turns only while it is visible.
 class Spinner : public QWidget {
     Q_OBJECT
 

@@ -59,7 +59,7 @@ Stepper::Stepper(const Range& range, QWidget* parent)
 QAbstractButton* Stepper::addButton(const QString& symbol, double by) {
     auto* button = new Half(symbol);
     layout()->addWidget(button);
-    connect(button, &QAbstractButton::clicked, this, [this, by] { take(m_value + by); });
+    connect(button, &QAbstractButton::clicked, this, [this, by] { change(m_value + by); });
     return button;
 }
 
@@ -74,7 +74,7 @@ void Stepper::setValue(double value) {
     enableButtons();
 }
 
-void Stepper::take(double value) {
+void Stepper::change(double value) {
     const double next = std::clamp(value, m_range.from, m_range.to);
     if (next == m_value)
         return;
@@ -95,17 +95,17 @@ void Stepper::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Right:
-        take(m_value + m_range.step);
+        change(m_value + m_range.step);
         break;
     case Qt::Key_Down:
     case Qt::Key_Left:
-        take(m_value - m_range.step);
+        change(m_value - m_range.step);
         break;
     case Qt::Key_Home:
-        take(m_range.from);
+        change(m_range.from);
         break;
     case Qt::Key_End:
-        take(m_range.to);
+        change(m_range.to);
         break;
     default:
         QWidget::keyPressEvent(event);

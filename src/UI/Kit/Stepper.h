@@ -4,8 +4,7 @@
 
 class QAbstractButton;
 
-/// A pair of buttons, less and more, that takes a number through a range by steps. The number itself is shown
-/// by whoever has the stepper.
+/// A pair of buttons that change a number within a range. The owner of the stepper shows the number.
 class Stepper : public QWidget {
     Q_OBJECT
 
@@ -19,15 +18,15 @@ public:
     explicit Stepper(const Range& range, QWidget* parent = nullptr);
 
     double value() const { return m_value; }
-    /// Kept as it is, also outside the range; the next step brings it in.
+    /// Sets any value, also outside the range. The next step brings it into the range.
     void setValue(double value);
-    /// What the number is, for those who cannot see where the buttons stand.
+    /// Sets the accessible names of the stepper and of its buttons.
     void setName(const QString& name);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user changed the value.
+    /// Emitted when the user has changed the value.
     void stepped(double value);
 
 protected:
@@ -36,7 +35,7 @@ protected:
 
 private:
     QAbstractButton* addButton(const QString& symbol, double by);
-    void take(double value);
+    void change(double value);
     void enableButtons();
 
     Range m_range;

@@ -69,6 +69,6 @@ void StepperRow::paintEvent(QPaintEvent*) {
     const QString value = text(m_look.value);
     if (Painting::tabularWidth(font(), value) <= line.width())
         Painting::drawTabular(painter, line, Qt::AlignRight, value);
-    else // whatever a stored number looks like
+    else // a stored number can have any length
         Painting::drawElided(painter, line, Qt::ElideRight, value);
 }

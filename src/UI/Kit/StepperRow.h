@@ -7,7 +7,7 @@ class StepperRow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Both texts may hold "%1" for the number.
+    /// Both texts may contain "%1" for the number.
     struct Look {
         QString label;
         QString value;
@@ -22,14 +22,14 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user changed the value.
+    /// Emitted when the user has changed the value.
     void stepped(double value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// `pattern` with the number in it.
+    /// Returns `pattern` with the number in place of "%1".
     QString text(const QString& pattern) const;
     void showValue();
 

@@ -6,8 +6,8 @@
 #include <QHash>
 #include <QObject>
 
-/// Stores what changes many times a second while the user drags something: a value goes to the file once it
-/// has stood still for a moment, and in any case when this ends.
+/// Stores values that change many times a second while the user drags something. A value goes to the file
+/// when it has not changed for a moment, at the latest on destruction.
 class StoreLater : public QObject {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// A symbol that stands by itself in a layout.
+/// A symbol as a widget.
 class SymbolView : public QWidget {
     Q_OBJECT
 

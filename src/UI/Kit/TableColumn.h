@@ -13,7 +13,7 @@ template <typename Column> QVariant headData(const Column& column, int role) {
     return {};
 }
 
-/// What it says of one cell of the column, which makes the text of a row.
+/// Returns what a model says of one cell of the column, which makes the text of a row.
 template <typename Column, typename Row> QVariant cellData(const Column& column, const Row& row, int role) {
     if (role == Qt::DisplayRole)
         return column.text(row);

@@ -1,6 +1,6 @@
 #include "UI/Kit/TableView.h"
 
-#include "UI/Kit/SlimScrollBar.h"
+#include "UI/Kit/ScrollingPage.h"
 #include "UI/Style/Theme.h"
 
 #include <QClipboard>
@@ -34,12 +34,12 @@ TableView::TableView(const QString& name, QWidget* parent)
     setMouseTracking(true);
     setVerticalScrollMode(ScrollPerPixel);
     setAccessibleName(name);
-    SlimScrollBar::install(this);
+    useSlimScrollBar(this);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setFixedHeight(headerHeight);
     header()->setMinimumSectionSize(minSection);
-    QPalette clear = palette(); // the delegate draws the ground of selected rows
+    QPalette clear = palette(); // the delegate draws the background of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(clear);
 }
@@ -73,7 +73,7 @@ void TableView::contextMenuEvent(QContextMenuEvent* event) {
 
 void TableView::fillMenu(QMenu&, const QModelIndex&) {}
 
-/// What is shown of the selected rows, a line each, the cells apart by TABs.
+/// Copies the texts of the selected rows, a line for each, with tabs between the cells.
 void TableView::copySelection() const {
     QModelIndexList selected = selectionModel()->selectedRows();
     std::sort(selected.begin(), selected.end());

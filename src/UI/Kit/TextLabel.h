@@ -12,11 +12,11 @@ public:
     explicit TextLabel(Theme::TextStyle style, std::optional<QFont::Weight> weight = std::nullopt,
                        QWidget* parent = nullptr);
 
-    /// In the colour of secondary text.
+    /// Sets the colour of secondary text.
     TextLabel* secondary();
-    /// In the role's colour of whichever scheme is on.
+    /// Sets the role's colour, in the current scheme.
     TextLabel* tinted(Theme::Role role);
-    /// Breaks the text into lines where it is wider than the label.
+    /// Wraps the text into lines.
     TextLabel* wrapped();
     void setPlainText(const QString& text);
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Any text as a tool tip that shows just that, wrapped where it is long. A bare text that looks like markup
-/// would be taken for it; one that is merely escaped and does not look so would show its escapes.
+/// Returns a tool tip that shows any text literally and wraps it. Qt renders a plain text that looks like
+/// markup, and shows the escapes of an escaped one that does not.
 inline QString plainToolTip(const QString& text) {
     if (text.isEmpty())
         return {};

@@ -17,7 +17,7 @@ public:
     explicit CachesCard(QWidget* parent = nullptr);
 
     void refresh(const CacheCleanup& cleanup);
-    /// Of a run that this page began, with the measuring after it.
+    /// Sets whether a run that this page has begun goes on, including the scan after it.
     void setCleaning(bool cleaning);
 
 Q_SIGNALS:

@@ -11,9 +11,9 @@ class MemoryCard : public OptimizeCard {
 public:
     explicit MemoryCard(QWidget* parent = nullptr);
 
-    /// While a purge runs its button says so and cannot be pressed.
+    /// Disables the button of the purge and says on it that one is running.
     void setPurging(bool purging);
-    /// Why the last one was not done, which the button's tool tip then says; empty when it was.
+    /// Sets why the last one failed, as the button's tool tip. An empty reason removes it.
     void setNudgeFailure(const QString& reason);
     void setPurgeFailure(const QString& reason);
 

@@ -17,7 +17,7 @@ public:
 
 protected:
     QVBoxLayout* content() const { return m_content; }
-    /// A line of small secondary text at the end of the content so far.
+    /// Appends a line of small secondary text to the content.
     TextLabel* addLine(const QString& text);
 
 private:

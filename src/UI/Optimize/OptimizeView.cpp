@@ -1,14 +1,12 @@
 #include "UI/Optimize/OptimizeView.h"
 
 #include "AppModel.h"
-#include "Core/Observe.h"
 #include "Preferences.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Optimize/AutoOptimizeCard.h"
 #include "UI/Optimize/CachesCard.h"
 #include "UI/Optimize/MCPCard.h"
@@ -48,8 +46,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     m_notice->raise();
     setAccessibleName(tr("Optimize"));
     connectCards();
-    observe(&m_model, this, [this] { refresh(); });
-    observe(&m_preferences, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model, &m_preferences}, [this] { refresh(); });
 }
 
 void OptimizeView::connectCards() {
@@ -65,19 +62,12 @@ void OptimizeView::connectCards() {
     connect(m_auto, &AutoOptimizeCard::switched, &m_model, &AppModel::setAutoOptimizeEnabled);
 }
 
-void OptimizeView::showEvent(QShowEvent* event) {
-    refresh();
-    QScrollArea::showEvent(event);
-}
-
 void OptimizeView::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     placeNotice();
 }
 
 void OptimizeView::refresh() {
-    if (!isOnScreen(this))
-        return;
     m_quickKills->refresh(m_model.actions(), m_preferences.quickKillPresets());
     m_mcp->refresh(m_model.mcpReport());
     m_caches->refresh(m_model.cleanup());
@@ -89,8 +79,8 @@ void OptimizeView::toast(const QString& message) {
     placeNotice();
 }
 
-/// It lies over the page: if the cards made room for it, the second press of a double click would meet
-/// another button than the first.
+/// Places the notice over the page: if the cards moved, the second press of a double click would hit another
+/// button than the first.
 void OptimizeView::placeNotice() {
     const int width = viewport()->width() - Theme::pageMargins.left() - Theme::pageMargins.right();
     m_notice->setGeometry(Theme::pageMargins.left(), Theme::pageMargins.top(), width, noticeHeight);

@@ -22,7 +22,6 @@ public:
     OptimizeView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -16,7 +16,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The preset that was shown when the button was pressed.
+    /// Emitted with the preset that was shown when the button was pressed.
     void killRequested(const QuickKillPreset& preset);
 
 protected:

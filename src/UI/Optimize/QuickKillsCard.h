@@ -8,7 +8,7 @@ class PresetTile;
 class ProcessActions;
 class QGridLayout;
 
-/// One tile per preset, two abreast.
+/// A tile for each preset, in two columns.
 class QuickKillsCard : public OptimizeCard {
     Q_OBJECT
 

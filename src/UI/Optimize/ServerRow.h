@@ -14,7 +14,7 @@ public:
     void set(const MCPInspector::LiveServer& server);
 
 Q_SIGNALS:
-    /// For the server that was shown when the button was pressed.
+    /// Emitted with the server that was shown when the button was pressed.
     void quitRequested(const MCPInspector::LiveServer& server);
 
 protected:

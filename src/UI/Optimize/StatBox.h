@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// One figure under its label, on the light of its colour.
+/// One figure under its label, on a background in its colour.
 class StatBox : public QWidget {
     Q_OBJECT
 

@@ -1,8 +1,8 @@
 #include "UI/Overview/AlertStripView.h"
 
+#include "UI/Kit/Levels.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/Severity.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -53,8 +53,8 @@ AlertCard::AlertCard(QWidget* parent)
 }
 
 void AlertCard::set(const Alert& alert) {
-    setTint(severityRole(alert.severity));
-    m_symbol->set(severitySymbol(alert.severity), severityRole(alert.severity));
+    setTint(Levels::alert(alert.severity));
+    m_symbol->set(severitySymbol(alert.severity), Levels::alert(alert.severity));
     m_title->setPlainText(alert.title);
     m_detail->setPlainText(alert.detail);
     m_detail->setVisible(!alert.detail.isEmpty());

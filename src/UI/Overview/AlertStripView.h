@@ -19,7 +19,7 @@ public:
     void set(const Alert& alert);
 
 Q_SIGNALS:
-    /// For the process that the alert named when the button was pressed.
+    /// Emitted with the process that the alert named when the button was pressed.
     void quitRequested(qint32 pid);
 
 private:
@@ -30,7 +30,7 @@ private:
     qint32 m_actionPid = 0;
 };
 
-/// The alerts in force, one card each, or the word that there are none.
+/// A card for each alert, or one that says that there is none.
 class AlertStripView : public QWidget {
     Q_OBJECT
 

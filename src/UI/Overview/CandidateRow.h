@@ -4,8 +4,8 @@
 
 #include <QAbstractButton>
 
-/// One process that could be ended, with a tick. A press anywhere on it ticks the process that was shown
-/// when it was pressed.
+/// One process that can be ticked to be ended. A click anywhere means the process that was shown when the
+/// mouse button was pressed.
 class CandidateRow : public QAbstractButton {
     Q_OBJECT
 

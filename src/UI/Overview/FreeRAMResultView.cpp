@@ -2,7 +2,6 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Style/Symbols.h"
@@ -41,15 +40,15 @@ Look lookOf(KillOutcome outcome) {
     return {};
 }
 
-/// One process: symbol, name, id and outcome.
+/// One process: symbol, name, PID and outcome.
 class OutcomeRow : public QWidget {
 public:
     explicit OutcomeRow(const FreeRAMResult::Record& record)
         : m_look(lookOf(record.outcome))
         , m_name(Formatters::visible(record.name))
-        , m_id(QStringLiteral("(%1)").arg(record.pid)) {
+        , m_pid(QStringLiteral("(%1)").arg(record.pid)) {
         setFixedHeight(rowHeight);
-        setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_id, m_look.text));
+        setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_pid, m_look.text));
     }
 
 protected:
@@ -65,20 +64,20 @@ protected:
                              Qt::ElideRight, m_look.text);
         Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
         const QFontMetricsF metrics(painter.font());
-        const double idWidth = metrics.horizontalAdvance(m_id) + Theme::rowSpacing;
-        line.setRight(line.right() - outcomeWidth - Theme::rowSpacing - idWidth);
+        const double pidWidth = metrics.horizontalAdvance(m_pid) + Theme::rowSpacing;
+        line.setRight(line.right() - outcomeWidth - Theme::rowSpacing - pidWidth);
         const QString name = metrics.elidedText(m_name, Qt::ElideMiddle, line.width());
         Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
         Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
         line.setLeft(line.left() + metrics.horizontalAdvance(name) + 6);
-        line.setRight(line.left() + idWidth);
-        Painting::drawTabular(painter, line, Qt::AlignLeft, m_id);
+        line.setRight(line.left() + pidWidth);
+        Painting::drawTabular(painter, line, Qt::AlignLeft, m_pid);
     }
 
 private:
     Look m_look;
     QString m_name;
-    QString m_id;
+    QString m_pid;
 };
 
 } // namespace
@@ -108,6 +107,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     column->setSpacing(4);
     column->addLayout(head);
     column->addWidget(m_area);
+    hide();
 }
 
 void FreeRAMResultView::set(const FreeRAMResult& result) {

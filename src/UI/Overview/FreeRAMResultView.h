@@ -3,12 +3,11 @@
 #include "Core/Relief/FreeRAM.h"
 #include "UI/Kit/Card.h"
 
-class PanelRow;
 class QScrollArea;
 class QVBoxLayout;
 class TextLabel;
 
-/// What a run freed, and what became of each process.
+/// What a run freed, and the outcome for each process. Hidden at first.
 class FreeRAMResultView : public Card {
     Q_OBJECT
 

@@ -68,39 +68,37 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
            "2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
             .arg(Words::native().system));
 
-    auto* thresholds = new QHBoxLayout;
-    thresholds->setSpacing(Theme::pageSpacing);
-    for (LabeledSlider* slider : {m_minIdle, m_minRSS}) {
-        thresholds->addWidget(slider);
-        connect(slider, &LabeledSlider::valueChanged, this, &FreeRAMSheet::refresh);
-    }
-    thresholds->addStretch();
-
-    auto* foot = new QHBoxLayout;
-    foot->addStretch();
-    foot->addWidget(m_action);
     connect(m_action, &QPushButton::clicked, this, &FreeRAMSheet::start);
     m_action->setDefault(true);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
+    column->setContentsMargins(Theme::sheetMargins);
     column->setSpacing(12);
     column->addLayout(header);
     column->addWidget(explanation);
-    column->addLayout(thresholds);
+    column->addLayout(makeThresholds());
     column->addWidget(new Divider);
     column->addWidget(makeList(), 1);
     column->addWidget(new Divider);
     column->addLayout(makeSelectionBar());
     column->addWidget(m_result);
-    column->addLayout(foot);
-    m_result->hide();
+    column->addWidget(m_action, 0, Qt::AlignRight);
 
-    preselect();
     refresh();
+    tickFirst(preselected);
     m_action->setFocus();
     observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* FreeRAMSheet::makeThresholds() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::pageSpacing);
+    for (LabeledSlider* slider : {m_minIdle, m_minRSS}) {
+        row->addWidget(slider);
+        connect(slider, &LabeledSlider::valueChanged, this, &FreeRAMSheet::refresh);
+    }
+    row->addStretch();
+    return row;
 }
 
 QWidget* FreeRAMSheet::makeList() {
@@ -123,15 +121,9 @@ QLayout* FreeRAMSheet::makeSelectionBar() {
     bar->addWidget(m_clear);
     bar->addStretch();
     bar->addWidget(m_count);
-    connect(m_selectAll, &QPushButton::clicked, this, &FreeRAMSheet::tickAll);
+    connect(m_selectAll, &QPushButton::clicked, this, [this] { tickFirst(m_candidates.size()); });
     connect(m_clear, &QPushButton::clicked, this, &FreeRAMSheet::clear);
     return bar;
-}
-
-void FreeRAMSheet::preselect() {
-    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
-    for (const FreeRamPreview& candidate : m_candidates.mid(0, preselected))
-        m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
 }
 
 void FreeRAMSheet::refresh() {
@@ -141,7 +133,7 @@ void FreeRAMSheet::refresh() {
     refreshButtons();
 }
 
-/// A tick is for one process; it must not pass on to another that gets its id.
+/// Removes the ticks of processes that have ended, also where another process has got the PID.
 void FreeRAMSheet::forgetEnded() {
     m_selected.removeIf([this](const auto& ticked) {
         const ProcSample* process = m_model.process(ticked.key());
@@ -188,8 +180,8 @@ void FreeRAMSheet::toggle(qint32 pid) {
     refresh();
 }
 
-void FreeRAMSheet::tickAll() {
-    for (const FreeRamPreview& candidate : std::as_const(m_candidates))
+void FreeRAMSheet::tickFirst(qsizetype count) {
+    for (const FreeRamPreview& candidate : m_candidates.mid(0, count))
         m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
     refresh();
 }
@@ -199,7 +191,7 @@ void FreeRAMSheet::clear() {
     refresh();
 }
 
-/// In the order of the list; those that are no candidates any more at the end.
+/// Returns the ticked ones in the order of the list, then those that have left the list.
 QList<qint32> FreeRAMSheet::tickedPids() const {
     QList<qint32> pids;
     for (const FreeRamPreview& candidate : m_candidates) {

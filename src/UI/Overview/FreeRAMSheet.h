@@ -9,17 +9,15 @@
 
 class AppModel;
 class CandidateRow;
-class EmptyState;
 class FreeRAMResultView;
 class LabeledSlider;
 class PushButton;
-class QLabel;
 class QStackedWidget;
 class QVBoxLayout;
 class TextLabel;
 
-/// Lets the user tick idle processes that hold much memory, ends the ticked ones and shows what became of
-/// each. Modal over its window; gone once it is closed.
+/// Lets the user tick idle processes that use much memory, ends them and shows the outcome for each. Modal
+/// for its window; deletes itself when it is closed.
 class FreeRAMSheet : public QDialog {
     Q_OBJECT
 
@@ -27,15 +25,15 @@ public:
     FreeRAMSheet(AppModel& model, QWidget* parent);
 
 private:
+    QLayout* makeThresholds();
     QWidget* makeList();
     QLayout* makeSelectionBar();
-    void preselect();
     void refresh();
     void refreshRows();
     void refreshButtons();
     void forgetEnded();
     void toggle(qint32 pid);
-    void tickAll();
+    void tickFirst(qsizetype count);
     void clear();
     void start();
     void finish(const FreeRAMResult& result);
@@ -44,7 +42,7 @@ private:
 
     AppModel& m_model;
     QList<FreeRamPreview> m_candidates;
-    /// Ticked processes by id, each with its start, which tells it from a later one with the same id.
+    /// Ticked processes by PID, each with its start, which tells it from a later one with the same PID.
     QHash<qint32, Instant> m_selected;
     bool m_running = false;
 

@@ -56,7 +56,7 @@ void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpand
     update();
 }
 
-/// What a screen reader says.
+/// Sets the text for screen readers.
 void GroupHeader::describe() {
     setAccessibleName(
         tr("%1 (%2), %3, %4 CPU")

@@ -7,18 +7,12 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 using Theme::Role;
 using Theme::TextStyle;
 
 namespace {
 
 constexpr int tileHeight = 130;
-
-double lineHeight(const QFont& font) {
-    return std::ceil(QFontMetricsF(font).height());
-}
 
 } // namespace
 
@@ -63,7 +57,7 @@ void MetricTile::paintFigures(QPainter& painter) {
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, Theme::cardPadding, -Theme::cardPadding, 0);
     const auto next = [&](TextStyle style, QFont::Weight weight, Role role) {
         Painting::setTextStyle(painter, style, role, weight);
-        line.setHeight(lineHeight(painter.font()));
+        line.setHeight(Painting::lineHeight(painter.font()));
     };
     next(TextStyle::caption, QFont::Medium, Role::secondaryText);
     Painting::drawElided(painter, line, Qt::ElideRight, m_metric.title);

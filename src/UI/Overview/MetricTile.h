@@ -9,7 +9,6 @@
 #include <optional>
 
 class Sparkline;
-class TextLabel;
 struct SystemSample;
 
 /// What one dashboard tile shows.

@@ -1,7 +1,6 @@
 #include "UI/Overview/OverviewView.h"
 
 #include "AppModel.h"
-#include "Core/Observe.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"
@@ -12,7 +11,6 @@
 #include "UI/Overview/MetricTile.h"
 
 #include <QHBoxLayout>
-#include <QShowEvent>
 
 using Theme::TextStyle;
 
@@ -39,7 +37,7 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     setAccessibleName(tr("Overview"));
 
     connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);
-    observe(&m_model, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QLayout* OverviewView::makeHeader() {
@@ -82,14 +80,7 @@ QLayout* OverviewView::makeGroups() {
     return column;
 }
 
-void OverviewView::showEvent(QShowEvent* event) {
-    refresh();
-    QScrollArea::showEvent(event);
-}
-
 void OverviewView::refresh() {
-    if (!isOnScreen(this))
-        return;
     m_alerts->set(m_model.alerts());
     refreshTiles();
     refreshGroups();

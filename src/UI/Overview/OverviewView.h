@@ -2,16 +2,15 @@
 
 #include "Core/Sampling/ProcSample.h"
 
+#include <QList>
 #include <QScrollArea>
 
-#include <QList>
 #include <optional>
 
 class AlertStripView;
 class AppModel;
 class GroupRow;
 class MetricTile;
-class QVBoxLayout;
 
 /// The first section of the main window: the machine's figures, alerts and process groups, live.
 class OverviewView : public QScrollArea {
@@ -22,9 +21,6 @@ public:
 
 Q_SIGNALS:
     void widgetToggled();
-
-protected:
-    void showEvent(QShowEvent* event) override;
 
 private:
     QLayout* makeHeader();

@@ -7,8 +7,8 @@
 
 class IconButton;
 
-/// One member of an open group: id, name, CPU share and memory, and the buttons that end it. They mean the
-/// process that was shown when they were pressed.
+/// One member of an open group: PID, name, CPU share and memory, and the buttons that end it. A click means
+/// the process that was shown when the button was pressed.
 class ProcessRow : public QWidget {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The lowest and the highest point of each column of pixels: more cannot be seen, and to stroke the
+/// Returns the lowest and the highest point of each column of pixels. More cannot be seen, and stroking the
 /// thousands of a long history takes tens of milliseconds.
 QPolygonF thinned(const QPolygonF& line) {
     const auto isLower = [](QPointF a, QPointF b) { return a.y() < b.y(); };
@@ -56,7 +56,7 @@ void Sparkline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
-    // A stroke is centred on its line: keep the half that would fall outside.
+    // A stroke is centred on its line: its outer half needs room.
     painter.translate(0, 0.75);
     painter.drawPolyline(thinned(points(m_values, QSizeF(width(), height() - 1.5))));
 }

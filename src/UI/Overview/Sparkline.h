@@ -14,8 +14,8 @@ public:
 
     void set(const QList<double>& values, const QColor& color);
 
-    /// The line in a space of `size`; empty with fewer than two values. The top of the space is the largest
-    /// value, but at least 1.
+    /// Returns the line in an area of `size`, empty with fewer than two values. The top of the area is the
+    /// largest value, or 1 if that is larger.
     static QPolygonF points(const QList<double>& values, const QSizeF& size);
 
 protected:

@@ -7,8 +7,8 @@
 
 #include <utility>
 
-/// A table whose rows are replaced as a whole but keep their identity: rows with the same key are the same
-/// row, which moves, so that selection, current row and open menus stay with it.
+/// A table model whose rows are replaced as a whole but keep their identity: rows with the same key are the
+/// same row. Selection, current row and open menus move with it.
 template <typename Row, typename Key> class KeyedTableModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
@@ -31,7 +31,7 @@ public:
             Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
 
-    /// Puts up other rows altogether.
+    /// Replaces all rows by others.
     void replace(QList<Row> rows) {
         beginResetModel();
         m_rows = std::move(rows);

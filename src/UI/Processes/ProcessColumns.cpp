@@ -15,13 +15,13 @@ using Kind = ProcessColumn::Kind;
 using Row = ProcessTableRow;
 using Theme::Role;
 
-/// What comes in order from the model stays untouched; sorting would move each of them about.
+/// Sorts what is not in order yet: sorting moves every process, and the model has them in order of memory.
 template <auto figure> void largestFirst(QList<ProcSample>& processes) {
     if (!std::ranges::is_sorted(processes, std::ranges::greater(), figure))
         std::ranges::stable_sort(processes, std::ranges::greater(), figure);
 }
 
-/// Comparing names as people sort them is slow, and many processes share one: each name is placed once.
+/// Returns the place of each name. Comparing as people sort is slow, and many processes share a name.
 QHash<QString, int> ranks(const QList<ProcSample>& processes) {
     QHash<QString, int> result;
     for (const ProcSample& process : processes)
@@ -39,7 +39,7 @@ QHash<QString, int> ranks(const QList<ProcSample>& processes) {
     return result;
 }
 
-/// In the user's alphabetical order.
+/// Sorts in the user's alphabetical order.
 void byName(QList<ProcSample>& processes) {
     const QHash<QString, int> rank = ranks(processes);
     std::ranges::stable_sort(processes, {},

@@ -5,14 +5,14 @@
 
 #include <limits>
 
-/// One column of the Processes section, whose heads, cells, widths and ways to sort all follow from it.
+/// One column of the Processes section: its header, its cells, its width and its order.
 struct ProcessColumn {
     enum class Kind { plain, name, actions };
 
     static constexpr int buttonSide = 26; ///< of an action
 
     struct Order {
-        void (*sort)(QList<ProcSample>&) = nullptr;  ///< stable; null when nobody sorts by the column
+        void (*sort)(QList<ProcSample>&) = nullptr;  ///< stable; null when it cannot be sorted by
         int place = std::numeric_limits<int>::max(); ///< in the sort picker; at its end unless set
         const char* label = nullptr;                 ///< there; the title unless set
     };
@@ -22,9 +22,9 @@ struct ProcessColumn {
     QString (*text)(const ProcessTableRow&) = nullptr;
     Kind kind = Kind::plain;
     Qt::Alignment alignment = Qt::AlignRight; ///< right for a figure
-    int width = 62; ///< until the user gives it another; 0 for what the others leave
+    int width = 62;                           ///< until the user changes it; 0 for the remaining width
     Theme::Role role = Theme::Role::secondaryText;
-    bool isInFlat = true; ///< the table with a row a process
+    bool isInFlat = true; ///< the table with a row for each process
     bool isInGrouped = false;
     QString (*toolTip)(const ProcessTableRow&) = nullptr;
     Order order = {};
@@ -35,11 +35,11 @@ struct ProcessColumn {
 /// The table of all columns.
 namespace ProcessColumns {
 
-/// Those of the flat or of the grouped table, from left to right.
+/// Returns the columns of the flat or of the grouped table, from left to right.
 QList<const ProcessColumn*> shown(bool isGrouped);
-/// Those to sort by, in the order of the picker.
+/// Returns the columns to sort by, in the order of the picker.
 QList<const ProcessColumn*> sortable();
-/// Null when there is none.
+/// Returns null when there is none.
 const ProcessColumn* withId(QStringView id);
 
 } // namespace ProcessColumns

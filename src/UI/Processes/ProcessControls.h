@@ -9,7 +9,7 @@ class PopUpButton;
 class QCheckBox;
 class SearchField;
 
-/// What narrows and orders the table: search, group, sort, size, and the fold of duplicates.
+/// The controls of the table: search, group, sort, minimum size, and the grouping by name.
 class ProcessControls : public QWidget {
     Q_OBJECT
 

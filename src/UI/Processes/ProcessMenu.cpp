@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A text from outside as the text of an entry: no control characters, and no letter for the keyboard in it.
+/// Returns any text as that of an entry: control characters are visible, and an ampersand is a character.
 QString entryText(const QString& text) {
     return Formatters::visible(text).replace(u'&', QStringLiteral("&&"));
 }

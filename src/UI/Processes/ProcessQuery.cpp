@@ -4,7 +4,6 @@
 
 #include <QHash>
 
-#include <QStringList>
 #include <algorithm>
 #include <functional>
 
@@ -15,38 +14,51 @@ bool matches(const ProcSample& process, const QString& search) {
            process.executablePath.contains(search, Qt::CaseInsensitive);
 }
 
-} // namespace
-
-QList<ProcSample> ProcessQuery::filteredAndSorted(const QList<ProcSample>& processes) const {
-    const quint64 minBytes = static_cast<quint64>(minRSSMB) << 20;
+QList<ProcSample> filteredAndSorted(const ProcessQuery& query, const QList<ProcSample>& processes) {
+    const quint64 minBytes = static_cast<quint64>(query.minRSSMB) << 20;
     QList<ProcSample> result;
     result.reserve(processes.size());
     for (const ProcSample& process : processes) {
-        if (process.rssBytes >= minBytes && (!groupFilter || groupFilter == process.group) &&
-            matches(process, search))
+        if (process.rssBytes >= minBytes && (!query.groupFilter || query.groupFilter == process.group) &&
+            matches(process, query.search))
             result.append(process);
     }
-    const ProcessColumn* column = ProcessColumns::withId(sortBy);
+    const ProcessColumn* column = ProcessColumns::withId(query.sortBy);
     if (column && column->order.sort)
         column->order.sort(result);
     return result;
 }
 
-QList<GroupedRow> ProcessQuery::groupedRows(const QList<ProcSample>& processes) const {
-    QList<GroupedRow> rows;
+} // namespace
+
+QList<ProcessTableRow> ProcessQuery::flatRows(const QList<ProcSample>& processes) const {
+    QHash<QString, int> counts;
+    for (const ProcSample& process : processes)
+        ++counts[process.name];
+    const QList<ProcSample> shown = filteredAndSorted(*this, processes);
+    QList<ProcessTableRow> rows;
+    rows.reserve(shown.size());
+    for (const ProcSample& process : shown)
+        rows.append({process, {}, process.rssBytes, process.cpuPercent, counts.value(process.name)});
+    return rows;
+}
+
+QList<ProcessTableRow> ProcessQuery::groupedRows(const QList<ProcSample>& processes) const {
+    QList<ProcessTableRow> rows;
     QHash<QString, qsizetype> rowOf;
-    for (const ProcSample& process : filteredAndSorted(processes)) {
+    for (const ProcSample& process : filteredAndSorted(*this, processes)) {
         const auto found = rowOf.constFind(process.name);
         const qsizetype index = found == rowOf.constEnd() ? rows.size() : *found;
         if (index == rows.size()) {
             rowOf.insert(process.name, index);
-            rows.append({.name = process.name, .group = process.group});
+            rows.append({.first = process, .sameName = 0});
         }
-        GroupedRow& row = rows[index];
+        ProcessTableRow& row = rows[index];
         row.processes.append(process);
-        row.totalRSS += process.rssBytes;
-        row.totalCPU += process.cpuPercent;
+        row.rssBytes += process.rssBytes;
+        row.cpuPercent += process.cpuPercent;
+        ++row.sameName;
     }
-    std::ranges::stable_sort(rows, std::ranges::greater(), &GroupedRow::totalRSS);
+    std::ranges::stable_sort(rows, std::ranges::greater(), &ProcessTableRow::rssBytes);
     return rows;
 }

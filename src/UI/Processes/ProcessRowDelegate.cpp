@@ -66,7 +66,7 @@ void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const Q
     }
 }
 
-/// "×12" behind the name; returns what is left of `area` before it.
+/// Draws "×12" behind the name. Returns the part of `area` before it.
 QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, qsizetype count) {
     const QString text = QStringLiteral("×%1").arg(count);
     const QFont font = Theme::font(TextStyle::caption2, QFont::Bold);
@@ -124,8 +124,7 @@ void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     }
     const QString text = index.data(Qt::DisplayRole).toString();
     const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
-    painter->setFont(Theme::font(TextStyle::callout));
-    painter->setPen(Theme::color(column.role));
+    Painting::setTextStyle(*painter, TextStyle::callout, column.role);
     if (column.kind == Kind::name)
         paintName(*painter, area, model, model.row(index.row()), text);
     else if (column.isFigure())

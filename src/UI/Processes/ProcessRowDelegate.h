@@ -9,8 +9,8 @@
 /// What a row's buttons do.
 enum class RowAction { quit, forceKill, sweep };
 
-/// Draws the cells of the Processes section, the buttons of a row among them. A click means the row that
-/// was under the pointer when the button was pressed, wherever that row has gone since.
+/// Draws the cells and the buttons of the rows of the Processes section. A click means the row whose button
+/// was pressed, wherever that row has moved since.
 class ProcessRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -19,11 +19,11 @@ public:
 
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// The buttons that the row has, in order.
+    /// Returns the actions of the row's buttons, in order.
     static QList<RowAction> actionsOf(const ProcessTableRow& row, bool isGrouped);
     static QString helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped);
 
-    /// The mouse was let go there; the view says so, because the row may be elsewhere or gone by now.
+    /// Ends the click. The view calls it on a release, as the row may have moved or gone by then.
     void release(const QPoint& position);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -3,10 +3,10 @@
 #include "UI/Processes/KeyedTableModel.h"
 #include "UI/Processes/ProcessColumns.h"
 
-/// What makes a row the same from one tick to the next: one of the two. Nothing remembers keys, so that names
-/// which never come again leave nothing behind.
+/// Identifies a row from one tick to the next, by one of its members. No key outlives its row, so that old
+/// names take no memory.
 struct ProcessRowKey {
-    quint64 process = 0; ///< of a process by itself: its id, and its start, which tells it from a later one
+    quint64 process = 0; ///< of one process: its PID, and its start, which tells it from a later one
     QString name;        ///< of all processes of one name
 
     bool operator==(const ProcessRowKey&) const = default;
@@ -23,7 +23,7 @@ class ProcessTableModel : public KeyedTableModel<ProcessTableRow, ProcessRowKey>
 public:
     using KeyedTableModel::KeyedTableModel;
 
-    /// Whether there is one row a name. Takes the rows away; the caller puts up others.
+    /// Sets whether there is a row for each name. Removes all rows; the caller adds others.
     void setGrouped(bool grouped);
     bool isGrouped() const { return m_isGrouped; }
     const QList<const ProcessColumn*>& columns() const { return m_columns; }

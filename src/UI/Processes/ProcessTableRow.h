@@ -4,11 +4,11 @@
 
 #include <QList>
 
-/// One row of either table: a process by itself, or all of one name.
+/// One row of the flat or the grouped table: one process, or all of one name.
 struct ProcessTableRow {
-    ProcSample first;            ///< the process, or the first of the name
-    QList<ProcSample> processes; ///< empty for a process by itself
+    ProcSample first;                 ///< the process, or the first of the name
+    QList<ProcSample> processes = {}; ///< empty for one process
     quint64 rssBytes = 0;
     double cpuPercent = 0;
-    int sameName = 1; ///< how many processes of the machine have the name
+    int sameName = 1; ///< the number of processes of that name: on the machine, or in the row
 };

@@ -14,13 +14,13 @@ QString widthsKey(bool isGrouped) {
     return isGrouped ? u"ui.processes.groupedColumns"_s : u"ui.processes.columns"_s;
 }
 
-/// Widths were once stored by position; these are the columns of then.
-void takeOverOldWidths(SettingsFile& file) {
-    ColumnWidths::takeOver(
+/// Moves the widths of older versions, which stored them by the position of these columns.
+void migrateWidths(SettingsFile& file) {
+    ColumnWidths::migrate(
         file, u"ui.processes.widths"_s, widthsKey(false),
         {u"name"_s, u"group"_s, u"pid"_s, u"cpu"_s, u"ram"_s, u"threads"_s, u"idle"_s, u"actions"_s});
-    ColumnWidths::takeOver(file, u"ui.processes.groupedWidths"_s, widthsKey(true),
-                           {u"name"_s, u"group"_s, u"cpu"_s, u"ram"_s, u"procs"_s, u"actions"_s});
+    ColumnWidths::migrate(file, u"ui.processes.groupedWidths"_s, widthsKey(true),
+                          {u"name"_s, u"group"_s, u"cpu"_s, u"ram"_s, u"procs"_s, u"actions"_s});
 }
 
 } // namespace
@@ -34,8 +34,8 @@ ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
     setItemDelegate(m_delegate);
     setSelectionMode(ExtendedSelection);
     header()->setSortIndicatorShown(true);
-    header()->setSectionsClickable(true); // which being put up as a header took back
-    takeOverOldWidths(preferences.file());
+    header()->setSectionsClickable(true);
+    migrateWidths(preferences.file());
     restoreWidths();
     connect(m_delegate, &ProcessRowDelegate::triggered, this, &ProcessTableView::triggered);
     connect(header(), &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
@@ -76,7 +76,7 @@ void ProcessTableView::restoreWidths() {
     QList<ColumnWidths::Column> columns;
     for (const ProcessColumn* column : m_rows->columns())
         columns.append({column->id.toString(), column->width});
-    header()->setSectionResizeMode(0, QHeaderView::Stretch); // the name has what the others leave
+    header()->setSectionResizeMode(0, QHeaderView::Stretch); // the name takes the remaining width
     m_widths.restore(widthsKey(m_rows->isGrouped()), columns);
 }
 

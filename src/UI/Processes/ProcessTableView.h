@@ -7,24 +7,24 @@
 
 class Preferences;
 
-/// The table itself: columns whose widths are remembered, rows with buttons and a menu.
+/// The table itself: columns whose widths are stored, rows with buttons and a menu.
 class ProcessTableView : public TableView {
     Q_OBJECT
 
 public:
     explicit ProcessTableView(Preferences& preferences, QWidget* parent = nullptr);
 
-    /// Puts up rows for another question than before, from the top.
+    /// Shows the rows of another query, from the top.
     void show(QList<ProcessTableRow> rows, bool isGrouped);
-    /// The same question asked again: rows move, and what is selected or under the pointer stays so.
+    /// Shows new rows of the same query. Rows move; selection and scroll position stay.
     void update(QList<ProcessTableRow> rows);
-    /// The head of that column is marked; nothing is sorted here.
+    /// Marks the header of that column. Sorts nothing.
     void markSort(const QString& column);
 
 Q_SIGNALS:
     void triggered(RowAction action, const ProcessTableRow& row);
     void sortRequested(const QString& column);
-    /// The menu of a row is about to be shown, to be filled now.
+    /// Emitted before the menu of a row is shown, so that it can be filled.
     void menuOpens(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
 
 protected:

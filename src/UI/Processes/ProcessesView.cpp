@@ -1,7 +1,6 @@
 #include "UI/Processes/ProcessesView.h"
 
 #include "AppModel.h"
-#include "Core/Observe.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"
@@ -17,17 +16,6 @@
 #include <QVBoxLayout>
 
 using namespace std::chrono_literals;
-
-namespace {
-
-QHash<QString, int> duplicateCount(const QList<ProcSample>& processes) {
-    QHash<QString, int> counts;
-    for (const ProcSample& process : processes)
-        ++counts[process.name];
-    return counts;
-}
-
-} // namespace
 
 ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget* parent)
     : QWidget(parent)
@@ -45,8 +33,7 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     m_stack->addWidget(new EmptyState(QStringLiteral("list.bullet.rectangle"), tr("No processes match"),
                                       tr("Change the search, the group or Min RAM to see more.")));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
+    column->setContentsMargins(Theme::sheetMargins);
     column->setSpacing(12);
     column->addWidget(m_controls);
     column->addWidget(m_notice);
@@ -54,49 +41,23 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
 
     auto* search = new QShortcut(QKeySequence::Find, this);
     connect(search, &QShortcut::activated, m_controls, &ProcessControls::focusSearch);
-    connect(m_controls, &ProcessControls::changed, this, &ProcessesView::ask);
+    connect(m_controls, &ProcessControls::changed, this, &ProcessesView::showQuery);
     connect(m_table, &ProcessTableView::sortRequested, m_controls, &ProcessControls::setSort);
     connect(m_table, &ProcessTableView::triggered, this, &ProcessesView::act);
     connect(m_table, &ProcessTableView::menuOpens, m_menu, &ProcessMenu::fill);
     connect(m_menu, &ProcessMenu::triggered, this, &ProcessesView::act);
     connect(m_menu, &ProcessMenu::quitRequested, this, &ProcessesView::confirmSweep);
-    observe(&m_model, this, [this] { refresh(); });
-}
-
-void ProcessesView::showEvent(QShowEvent* event) {
-    refresh();
     m_table->markSort(m_controls->query().sortBy);
-    QWidget::showEvent(event);
+    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
 QList<ProcessTableRow> ProcessesView::rows() const {
-    const QHash<QString, int> counts = duplicateCount(m_model.processes());
     const ProcessQuery query = m_controls->query();
-    QList<ProcessTableRow> result;
-    if (m_controls->groupsDuplicates()) {
-        for (const GroupedRow& row : query.groupedRows(m_model.processes())) {
-            result.append({.first = row.processes.first(),
-                           .processes = row.processes,
-                           .rssBytes = row.totalRSS,
-                           .cpuPercent = row.totalCPU,
-                           .sameName = static_cast<int>(row.processes.size())});
-        }
-        return result;
-    }
-    const QList<ProcSample> processes = query.filteredAndSorted(m_model.processes());
-    result.reserve(processes.size());
-    for (const ProcSample& process : processes) {
-        result.append({.first = process,
-                       .processes = {},
-                       .rssBytes = process.rssBytes,
-                       .cpuPercent = process.cpuPercent,
-                       .sameName = counts.value(process.name)});
-    }
-    return result;
+    return m_controls->groupsDuplicates() ? query.groupedRows(m_model.processes())
+                                          : query.flatRows(m_model.processes());
 }
 
-/// The user wants to see something else.
-void ProcessesView::ask() {
+void ProcessesView::showQuery() {
     const QList<ProcessTableRow> shown = rows();
     m_stack->setCurrentIndex(shown.isEmpty() ? 1 : 0);
     m_table->show(shown, m_controls->groupsDuplicates());
@@ -104,8 +65,6 @@ void ProcessesView::ask() {
 }
 
 void ProcessesView::refresh() {
-    if (!isOnScreen(this))
-        return;
     const QList<ProcessTableRow> shown = rows();
     m_stack->setCurrentIndex(shown.isEmpty() ? 1 : 0);
     m_table->update(shown);

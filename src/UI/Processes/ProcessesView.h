@@ -13,19 +13,16 @@ class ProcessMenu;
 class ProcessTableView;
 class QStackedWidget;
 
-/// The third section of the main window: every process, to be searched, sorted, folded by name and ended.
+/// The third section of the main window: every process, with search, sorting and grouping by name.
 class ProcessesView : public QWidget {
     Q_OBJECT
 
 public:
     ProcessesView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     void refresh();
-    void ask();
+    void showQuery();
     QList<ProcessTableRow> rows() const;
     void act(RowAction action, const ProcessTableRow& row);
     void confirmSweep(const NukePreview& preview);

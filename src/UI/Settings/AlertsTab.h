@@ -2,7 +2,7 @@
 
 #include "UI/Settings/SettingsForm.h"
 
-/// Which rules raise an alert, and from which figures on.
+/// The switches and the thresholds of the alert rules.
 class AlertsTab : public SettingsForm {
     Q_OBJECT
 

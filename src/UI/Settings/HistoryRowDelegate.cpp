@@ -25,7 +25,7 @@ constexpr int padding = 8;
 constexpr int rowHeight = 26;
 constexpr int okWidth = 40;
 constexpr int symbolSize = 14;
-/// Of a detail, which may be a megabyte long: more than any window is wide.
+/// Of a detail, which may be a megabyte long. This is more than any window is wide.
 constexpr qsizetype maxPainted = 2000;
 constexpr qsizetype maxInToolTip = 4000;
 
@@ -42,7 +42,7 @@ QFont fontOf(Column column) {
     return monospaced;
 }
 
-/// The widest date and time of a year.
+/// Returns the width of the widest date and time of a year.
 double maxTimeWidth() {
     using namespace std::chrono;
     const LocalTimeText texts;

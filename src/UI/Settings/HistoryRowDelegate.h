@@ -4,14 +4,14 @@
 
 #include <QStyledItemDelegate>
 
-/// Draws the cells of the action history. A detail that does not fit is shown whole as a tool tip.
+/// Draws the cells of the action history. A tool tip shows the whole of a detail that does not fit.
 class HistoryRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// How wide a column has to be for what it holds; 0 for the details, which take what is left.
+    /// Returns the width that a column needs, 0 for the details, which take the remaining width.
     static int widthOf(HistoryTableModel::Column column);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -24,8 +24,8 @@ namespace {
 
 constexpr int pickerWidth = 220;
 
-/// All or nothing, so that an export that fails leaves an older file as it was. The file on a disk that gets
-/// full can be cut short without an error, so its size decides. The log itself is no place for its export.
+/// Writes the whole file, or leaves an older one as it was. A full disk can cut a file short without an
+/// error, so the size is checked. The log itself is never replaced.
 void writeCSV(const QString& path) {
     if (QFileInfo(path) == QFileInfo(ActionLogReader::path()))
         return;
@@ -97,7 +97,7 @@ QWidget* HistoryTab::makeToolbar() {
 }
 
 void HistoryTab::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) // a window that is no longer minimized has been there all along
+    if (!event->spontaneous()) // spontaneous after the window was minimized
         refresh();
     QWidget::showEvent(event);
 }

@@ -6,8 +6,8 @@ class HistoryTableModel;
 class HistoryTableView;
 class QStackedWidget;
 
-/// The History tab of the settings: what the action log file holds, newest first, to be filtered, exported
-/// and cleared. The file is read when the tab appears and on Refresh, and at no other time.
+/// The History tab of the settings: the entries of the action log, newest first, with a filter, export and
+/// clearing. The file is read when the tab appears and on Refresh only.
 class HistoryTab : public QWidget {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private:
     void exportCSV();
     void confirmClear();
     void clear();
-    /// The table, or why there is none.
+    /// Shows the table, or that it is empty.
     void showRows();
 
     HistoryTableModel* m_rows;

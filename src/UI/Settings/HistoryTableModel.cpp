@@ -15,7 +15,7 @@ struct HistoryColumn {
     QString (*text)(const LoggedAction&);
     bool (*isLess)(const LoggedAction&, const LoggedAction&);
     Qt::Alignment alignment = Qt::AlignLeft;
-    /// What one looks for first: the newest, the largest, the failed.
+    /// Of the first click: the newest, the largest, the failed first.
     Qt::SortOrder first = Qt::AscendingOrder;
 };
 
@@ -86,11 +86,11 @@ void HistoryTableModel::filter() {
         if (takesAll || m_entries[i].kind == m_filterKind)
             m_filtered.append(i);
     }
-    if (m_sortColumn != Column::time || m_sortOrder != Qt::DescendingOrder) // the order they came in
+    if (m_sortColumn != Column::time || m_sortOrder != Qt::DescendingOrder) // the order of the entries
         arrange();
 }
 
-/// Rows that are equal in the column stay newest first.
+/// Sorts by the column. Equal rows stay newest first.
 void HistoryTableModel::arrange() {
     std::sort(m_filtered.begin(), m_filtered.end());
     const auto isLess = table[static_cast<int>(m_sortColumn)].isLess;

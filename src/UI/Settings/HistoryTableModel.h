@@ -5,25 +5,24 @@
 #include <QAbstractTableModel>
 #include <QList>
 
-/// The rows of the action log: those of one kind or all of them, in the order of one column. A cell's text is
-/// made when it is asked for, so that a long log costs no more than what is on screen.
+/// The rows of the action log, of one kind or of all, in the order of one column. A cell's text is made when
+/// it is asked for, so that a long log costs no more than what is on screen.
 class HistoryTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     enum class Column { time, kind, detail, freed, ok };
     static constexpr int columns = 5;
-    /// The kind that stands for all of them.
+    /// Returns the kind that stands for all of them.
     static QString allKinds();
 
     using QAbstractTableModel::QAbstractTableModel;
 
     const QList<LoggedAction>& entries() const { return m_entries; }
-    /// Newest first.
+    /// Sets the entries, which have to be newest first.
     void setEntries(QList<LoggedAction> entries);
-    const QString& filterKind() const { return m_filterKind; }
     void setFilterKind(const QString& kind);
-    /// The entry that the row shows.
+    /// Returns the entry that the row shows.
     const LoggedAction& filtered(int row) const { return m_entries[m_filtered[row]]; }
 
     int rowCount(const QModelIndex& parent = {}) const override;

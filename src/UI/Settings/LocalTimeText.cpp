@@ -8,14 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The long format without the weekday, the month in short. What a locale puts between weekday and day goes
-/// with the weekday.
+/// Returns the long format with a short month, without the weekday and the separator between it and the day.
 QString abbreviatedDate(const QLocale& locale) {
     static const QRegularExpression weekday(u"^dddd\\s*('[^']*')?[\\s,،]*|[\\s,،]*dddd"_s);
     return locale.dateFormat(QLocale::LongFormat).remove(weekday).replace(u"MMMM"_s, u"MMM"_s);
 }
 
-/// The long format without the zone; letters between quotes are no format.
+/// Returns the long format without the time zone. Letters between quotes are text.
 QString standardTime(const QLocale& locale) {
     static const QRegularExpression zone(u"\\s*\\(?t+\\)?"_s);
     QStringList parts = locale.timeFormat(QLocale::LongFormat).split(u'\'');

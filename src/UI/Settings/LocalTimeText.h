@@ -5,8 +5,8 @@
 #include <QLocale>
 #include <QString>
 
-/// A point in time as an abbreviated date and the time to the second, as a locale writes them:
-/// "Nov 16, 2026 2:23:43 PM". In the zone of this machine.
+/// Writes a point in time as a locale does, with an abbreviated date, to the second and in the time zone of
+/// this machine: "Nov 16, 2026 2:23:43 PM".
 class LocalTimeText {
 public:
     explicit LocalTimeText(const QLocale& locale = QLocale());

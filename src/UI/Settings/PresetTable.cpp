@@ -45,8 +45,8 @@ public:
             Symbols::draw(*painter, text, Theme::color(tint), symbolArea, symbolSize);
             return;
         }
-        painter->setFont(Theme::font(TextStyle::callout));
-        painter->setPen(Theme::color(column == Column::name ? Role::primaryText : Role::secondaryText));
+        Painting::setTextStyle(*painter, TextStyle::callout,
+                               column == Column::name ? Role::primaryText : Role::secondaryText);
         const bool isFigure = PresetTableModel::column(column).alignment == Qt::AlignRight;
         if (isFigure && Painting::tabularWidth(painter->font(), text) <= area.width())
             Painting::drawTabular(*painter, area, Qt::AlignRight, text);
@@ -62,12 +62,11 @@ PresetTable::PresetTable(QWidget* parent)
     , m_rows(new PresetTableModel(this)) {
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
-    header()->setSectionsMovable(false);
     for (int column = 0; column < PresetTableModel::columns; ++column) {
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
         header()->resizeSection(column, PresetTableModel::column(column).width);
     }
-    header()->setSectionResizeMode(Column::name, QHeaderView::Stretch); // has what the others leave
+    header()->setSectionResizeMode(Column::name, QHeaderView::Stretch); // takes the remaining width
 }
 
 void PresetTable::show(const QList<QuickKillPreset>& presets) {
@@ -83,13 +82,12 @@ void PresetTable::show(const QList<QuickKillPreset>& presets) {
         addButtons(each);
     if (row < 0)
         return;
-    const auto kept = std::find_if(presets.begin(), presets.end(),
-                                   [&id](const QuickKillPreset& each) { return each.id == id; });
+    const auto kept = std::ranges::find(presets, id, &QuickKillPreset::id);
     const auto wanted = kept == presets.end() ? row : static_cast<int>(kept - presets.begin());
     setCurrentIndex(m_rows->index(std::min(wanted, m_rows->rowCount() - 1), 0));
 }
 
-/// Reached by the mouse only: the keyboard has keys of its own for them.
+/// Adds buttons for the mouse. The keyboard has keys for the same actions.
 void PresetTable::addButtons(int row) {
     const QuickKillPreset preset = m_rows->presets()[row];
     auto* edit = new IconButton(QStringLiteral("pencil"), tr("Edit"));

@@ -13,7 +13,7 @@ class PresetTable : public TableView {
 public:
     explicit PresetTable(QWidget* parent = nullptr);
 
-    /// The preset that was selected stays so; once it is gone, the one in its place is.
+    /// Shows the presets. The selected one stays selected; if it is gone, the one in its place is.
     void show(const QList<QuickKillPreset>& presets);
 
 Q_SIGNALS:
@@ -28,7 +28,7 @@ protected:
 
 private:
     void addButtons(int row);
-    /// Null unless the index is that of a row.
+    /// Returns null unless the index is that of a row.
     const QuickKillPreset* preset(const QModelIndex& index) const;
 
     PresetTableModel* m_rows;

@@ -35,8 +35,7 @@ QuickKillEditorSheet::QuickKillEditorSheet(const QString& title, const QuickKill
     auto* heading = new TextLabel(Theme::TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding,
-                               Theme::pagePadding);
+    column->setContentsMargins(Theme::sheetMargins);
     column->setSpacing(Theme::gridSpacing);
     column->addWidget(heading);
     column->addWidget(makeTexts());

@@ -10,12 +10,12 @@ class PushButton;
 class SymbolView;
 class QLineEdit;
 
-/// Edits a copy of one preset. Modal over its window; gone once it is closed.
+/// Edits a copy of one preset. Modal for its window; deletes itself when it is closed.
 class QuickKillEditorSheet : public QDialog {
     Q_OBJECT
 
 public:
-    /// `onSave` gets the finished preset, unless the user cancels.
+    /// `onSave` is called with the edited preset, unless the user cancels.
     QuickKillEditorSheet(const QString& title, const QuickKillPreset& preset,
                          std::function<void(const QuickKillPreset&)> onSave, QWidget* parent);
 
@@ -23,7 +23,7 @@ private:
     QWidget* makeTexts();
     QWidget* makeConditions();
     QLayout* makeButtons();
-    /// A line that edits one text of the preset.
+    /// Returns a field that edits one text of the preset.
     QLineEdit* makeField(QString& text);
     void refresh();
     void save();

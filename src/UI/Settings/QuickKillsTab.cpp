@@ -1,6 +1,5 @@
 #include "UI/Settings/QuickKillsTab.h"
 
-#include "Core/Observe.h"
 #include "Preferences.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/OnScreen.h"
@@ -34,7 +33,7 @@ QuickKillsTab::QuickKillsTab(Preferences& preferences, QWidget* parent)
     connect(create, &QShortcut::activated, this, &QuickKillsTab::add);
     connect(m_table, &PresetTable::editRequested, this, &QuickKillsTab::edit);
     connect(m_table, &PresetTable::deleteRequested, this, &QuickKillsTab::remove);
-    observe(&m_preferences, this, [this] { refresh(); });
+    refreshOnScreen(this, {&m_preferences}, [this] { m_table->show(m_preferences.quickKillPresets()); });
 }
 
 QLayout* QuickKillsTab::makeHeader() {
@@ -53,16 +52,6 @@ QLayout* QuickKillsTab::makeHeader() {
     return row;
 }
 
-void QuickKillsTab::showEvent(QShowEvent* event) {
-    refresh();
-    QWidget::showEvent(event);
-}
-
-void QuickKillsTab::refresh() {
-    if (isOnScreen(this))
-        m_table->show(m_preferences.quickKillPresets());
-}
-
 void QuickKillsTab::add() {
     openEditor(tr("New preset"), QuickKillPreset::blank(), [this](const QuickKillPreset& preset) {
         m_preferences.storeQuickKillPresets(m_preferences.quickKillPresets() << preset);
@@ -72,9 +61,7 @@ void QuickKillsTab::add() {
 void QuickKillsTab::edit(const QuickKillPreset& preset) {
     openEditor(tr("Edit preset"), preset, [this](const QuickKillPreset& edited) {
         QList<QuickKillPreset> presets = m_preferences.quickKillPresets();
-        const auto found =
-            std::find_if(presets.begin(), presets.end(),
-                         [&edited](const QuickKillPreset& each) { return each.id == edited.id; });
+        const auto found = std::ranges::find(presets, edited.id, &QuickKillPreset::id);
         if (found == presets.end())
             return;
         *found = edited;

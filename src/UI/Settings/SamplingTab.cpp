@@ -4,7 +4,7 @@
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/TextLabel.h"
 
-const QList<double> SamplingTab::intervals = {1.0, 2.0, 5.0, 10.0};
+static const QList<double> intervals = {1, 2, 5, 10}; // seconds
 
 SamplingTab::SamplingTab(Preferences& preferences, QWidget* parent)
     : SettingsForm(preferences, tr("Sampling"), parent) {

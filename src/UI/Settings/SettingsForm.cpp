@@ -1,11 +1,9 @@
 #include "UI/Settings/SettingsForm.h"
 
-#include "Core/Observe.h"
 #include "UI/Kit/FormSection.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/SlimScrollBar.h"
 #include "UI/Style/Theme.h"
 
 #include <QCheckBox>
@@ -17,20 +15,10 @@ SettingsForm::SettingsForm(Preferences& preferences, const QString& name, QWidge
     m_column->addStretch();
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(name);
-    observe(&preferences, this, [this] {
-        if (isOnScreen(this))
-            refresh();
+    refreshOnScreen(this, {&preferences}, [this] {
+        for (const auto& show : std::as_const(m_displays))
+            show();
     });
-}
-
-void SettingsForm::showEvent(QShowEvent* event) {
-    refresh();
-    QScrollArea::showEvent(event);
-}
-
-void SettingsForm::refresh() {
-    for (const auto& show : std::as_const(m_displays))
-        show();
 }
 
 void SettingsForm::addDisplay(std::function<void()> show) {

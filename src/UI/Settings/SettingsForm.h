@@ -8,7 +8,6 @@
 #include <functional>
 
 class FormSection;
-class PopUpButton;
 class QCheckBox;
 class QVBoxLayout;
 
@@ -21,14 +20,12 @@ public:
     SettingsForm(Preferences& preferences, const QString& name, QWidget* parent = nullptr);
 
 protected:
-    void showEvent(QShowEvent* event) override;
-
     FormSection* addSection(const QString& title);
     QCheckBox* addToggle(FormSection* section, const QString& text, Property<bool>& property);
-    /// Enabled while `condition` is on.
+    /// Adds a stepper that is enabled while `condition` is on.
     void addStepper(FormSection* section, const StepperRow::Look& look, const Stepper::Range& range,
                     Property<double>& property, const Property<bool>& condition);
-    /// One choice per value, none of them selected while another value is stored.
+    /// Adds a choice for each value. None is selected while another value is stored.
     template <typename T>
     void addPicker(FormSection* section, const QString& label, const QList<T>& values,
                    const std::function<QString(const T&)>& text, Property<T>& property) {
@@ -39,13 +36,12 @@ protected:
             section, label, choices, [values, &property] { return values.indexOf(property()); },
             [values, &property](int index) { property.set(values[index]); });
     }
-    /// Whatever else shows the preferences.
+    /// Calls `show` now, and whenever the preferences have changed.
     void addDisplay(std::function<void()> show);
 
 private:
     void addPicker(FormSection* section, const QString& label, const QStringList& choices,
                    const std::function<qsizetype()>& selected, const std::function<void(int)>& select);
-    void refresh();
 
     QVBoxLayout* m_column;
     QList<std::function<void()>> m_displays;

@@ -20,23 +20,15 @@ namespace {
 constexpr QSize windowSize(640, 460);
 constexpr int barHeight = 62;
 
-} // namespace
+/// Names of symbols, in the order of SettingsScene::Tab.
+constexpr QStringView symbols[] = {u"gear", u"waveform", u"bell", u"xmark.octagon",
+                                   u"clock.arrow.circlepath"};
 
 QString tabSymbol(SettingsScene::Tab tab) {
-    switch (tab) {
-    case SettingsScene::Tab::general:
-        return QStringLiteral("gear");
-    case SettingsScene::Tab::sampling:
-        return QStringLiteral("waveform");
-    case SettingsScene::Tab::alerts:
-        return QStringLiteral("bell");
-    case SettingsScene::Tab::quickKills:
-        return QStringLiteral("xmark.octagon");
-    case SettingsScene::Tab::history:
-        return QStringLiteral("clock.arrow.circlepath");
-    }
-    return {};
+    return symbols[static_cast<std::size_t>(tab)].toString();
 }
+
+} // namespace
 
 SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
     : QWidget(parent)

@@ -12,7 +12,7 @@ class QHBoxLayout;
 class QStackedWidget;
 class TabButton;
 
-/// The settings window. Every change takes effect at once; there is nothing to apply or to cancel.
+/// The settings window. Every change takes effect at once.
 class SettingsScene : public QWidget {
     Q_OBJECT
 
@@ -46,6 +46,3 @@ inline constexpr std::array rawValueTable<SettingsScene::Tab> = {
     RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::quickKills, u"Quick Kills"},
     RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::history, u"History"},
 };
-
-/// Name of the tab's symbol, under resources/symbols.
-QString tabSymbol(SettingsScene::Tab tab);

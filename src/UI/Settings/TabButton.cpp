@@ -40,7 +40,7 @@ void TabButton::paintEvent(QPaintEvent*) {
     if (isChecked() || underMouse() || isDown())
         Painting::drawCard(painter, rect(), Theme::controlRadius,
                            isChecked() ? Theme::color(Role::accent, 0.16) : Theme::color(Role::hoverFill));
-    // A ring only for those who move by keyboard: the window opens with the focus here.
+    // Only once the keyboard is in use: the window opens with the focus here.
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
     const QColor ink = Theme::color(isChecked() ? Role::accent : Role::secondaryText);

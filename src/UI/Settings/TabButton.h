@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 
-/// One tab of a window's tab row: a symbol over its label. Of the buttons of one parent just one is checked.
+/// One tab of a window's tab row: a symbol over its label. Of the buttons of one parent one is checked.
 class TabButton : public QAbstractButton {
     Q_OBJECT
 

@@ -6,6 +6,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Painting {
 namespace {
@@ -66,11 +67,11 @@ void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.restore();
 }
 
-void drawFeedback(QPainter& painter, const QAbstractButton& button, double radius, double pointed,
-                  double held) {
+void drawFeedback(QPainter& painter, const QAbstractButton& button, double radius, double hovered,
+                  double pressed) {
     if (button.isEnabled() && (button.underMouse() || button.isDown()))
         drawCard(painter, button.rect(), radius,
-                 Theme::color(Theme::Role::hoverFill, button.isDown() ? held : pointed));
+                 Theme::color(Theme::Role::hoverFill, button.isDown() ? pressed : hovered));
     if (button.hasFocus())
         drawFocusRing(painter, button.rect(), radius);
 }
@@ -87,6 +88,10 @@ void setTextStyle(QPainter& painter, Theme::TextStyle style, Theme::Role role,
                   std::optional<QFont::Weight> weight) {
     painter.setFont(Theme::font(style, weight));
     painter.setPen(Theme::color(role));
+}
+
+double lineHeight(const QFont& font) {
+    return std::ceil(QFontMetricsF(font).height());
 }
 
 double tabularWidth(const QFont& font, const QString& text) {

@@ -28,7 +28,7 @@ bool isOurs(const QWidget* widget) {
     return window && window->windowType() != Qt::Popup && !qobject_cast<const QFileDialog*>(window);
 }
 
-/// A vertical scroll bar of ours; null for any other.
+/// Returns null unless the option is that of a vertical scroll bar which this style draws.
 const QStyleOptionSlider* slimBar(const QStyleOptionComplex* option, const QWidget* widget) {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     return bar && bar->orientation == Qt::Vertical && isOurs(widget) ? bar : nullptr;
@@ -53,7 +53,7 @@ void drawSwitch(QPainter& painter, const QRectF& track, QStyle::State state, dou
         Painting::drawFocusRing(painter, track, radius);
 }
 
-/// The switch before its text; at the far end where the check box takes the whole width of a form.
+/// Draws the switch before its text, or at the far end where the check box is as wide as the form.
 void drawCheckBox(QPainter& painter, const QStyleOptionButton& box, const QWidget* widget) {
     const double opacity = box.state & QStyle::State_Enabled ? 1 : Theme::disabledOpacity;
     const bool isSpread = widget && widget->sizePolicy().expandingDirections() & Qt::Horizontal;
@@ -78,7 +78,7 @@ void drawHeaderGround(QPainter& painter, const QStyleOption& header) {
     painter.fillRect(area.left(), area.bottom(), area.width(), 1, Theme::color(Role::separator, 1.8));
 }
 
-/// Down for the largest first, up for the smallest.
+/// Points down for the largest first, up for the smallest.
 void drawChevron(QPainter& painter, const QRectF& area, bool isUp) {
     painter.save();
     if (isUp) {
@@ -99,7 +99,7 @@ void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
     const QRectF area = section.rect;
     const double width = QFontMetricsF(painter.font()).horizontalAdvance(section.text);
     const double room = isSorted ? chevronSize + 2 : 0;
-    // In a narrow column the padding gives way to the text.
+    // A narrow column has less padding.
     const double inset = std::clamp((area.width() - width - room) / 2, 2.0, double(sectionPadding));
     QRectF line = area.adjusted(inset, 0, -inset, 0);
     if (section.textAlignment & Qt::AlignRight)
@@ -127,7 +127,7 @@ void drawSlider(QPainter& painter, const QStyleOptionSlider& slider) {
         Painting::drawFocusRing(painter, knob.adjusted(-2, -2, 2, 2), radius + 2);
 }
 
-/// A groove from end to end: no arrows, and a thumb that never gets too short to hold.
+/// Returns the area of a part: the groove from end to end, and a thumb of a minimum length.
 QRect scrollBarPart(const QStyleOptionSlider& slider, QStyle::SubControl part) {
     const QRect bar = slider.rect;
     const qint64 whole = qint64(slider.maximum) - slider.minimum + slider.pageStep;
@@ -151,7 +151,7 @@ QRect scrollBarPart(const QStyleOptionSlider& slider, QStyle::SubControl part) {
     }
 }
 
-/// The thumb alone, and nothing where there is nothing to scroll.
+/// Draws the thumb alone, when there is something to scroll.
 void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
     if (bar.maximum <= bar.minimum)
         return;

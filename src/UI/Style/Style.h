@@ -4,9 +4,8 @@
 
 class QStyleOptionSlider;
 
-/// How the standard widgets look here: check boxes as switches, text fields, sliders, the scroll bars of
-/// pages and the heads of tables. Everything else is Fusion's, and so are Qt's own dialogs and drop-down
-/// lists.
+/// Draws the standard widgets: check boxes as switches, text fields, sliders, vertical scroll bars and table
+/// headers. Fusion draws the rest, and Qt's own dialogs and drop-down lists.
 class Style : public QProxyStyle {
     Q_OBJECT
 
@@ -14,7 +13,7 @@ public:
     Style();
 
     static constexpr int knobSide = 16;
-    /// The knob of a horizontal slider.
+    /// Returns the area of the knob of a horizontal slider.
     static QRectF knob(const QStyleOptionSlider& slider);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -10,10 +10,10 @@ class QPainter;
 /// The program's own drawings, tinted by role. An unknown name gives a neutral dot.
 namespace Symbols {
 
-/// Every symbol there is, sorted.
+/// Returns the names of all symbols, sorted.
 QStringList names();
 
-/// A square drawing of `size` device-independent pixels, sharp at `devicePixelRatio`.
+/// Returns a square drawing of `size` device-independent pixels, sharp at `devicePixelRatio`.
 QPixmap pixmap(const QString& name, const QColor& tint, int size, double devicePixelRatio);
 
 /// Draws the symbol centred in `area`.

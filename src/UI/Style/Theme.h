@@ -6,8 +6,7 @@
 
 #include <optional>
 
-/// Every colour, text style, radius and spacing of the program. Screens name them and hold no number of
-/// their own that stands here.
+/// Every colour, text style, radius and spacing of the program. Screens use these, not numbers of their own.
 namespace Theme {
 
 enum class Role {
@@ -29,7 +28,7 @@ enum class Role {
     separator,
     hoverFill,
     trackFill, ///< the empty part of a progress bar
-    lime,      ///< a ground for black text, the same in both schemes
+    lime,      ///< a background of black text, the same in both schemes
 };
 
 enum class TextStyle { largeTitle, title, title2, title3, headline, body, callout, caption, caption2 };
@@ -37,9 +36,10 @@ enum class TextStyle { largeTitle, title, title2, title3, headline, body, callou
 // Points at 1x, which are device-independent pixels here.
 inline constexpr int pagePadding = 20;
 inline constexpr int scrollBarRoom = 12;
-/// Of a scrolling page: its scroll bar stands in the right padding.
+/// For a scrolling page: its scroll bar stands in the right padding.
 inline constexpr QMargins pageMargins(pagePadding, pagePadding, pagePadding - scrollBarRoom, pagePadding);
-/// Of a card around a table, which has square corners.
+inline constexpr QMargins sheetMargins(pagePadding, pagePadding, pagePadding, pagePadding);
+/// For a card around a table, which has square corners.
 inline constexpr QMargins tableCardMargins(3, 5, 1, 5);
 inline constexpr int pageSpacing = 20;
 inline constexpr int gridSpacing = 16;
@@ -55,18 +55,18 @@ inline constexpr int smallControlHeight = 24;
 inline constexpr int iconColumn = 24;
 inline constexpr int iconSize = 18;
 
-/// The role's colour in the light or dark scheme that is on, at `opacity` from 0 to 1.
+/// Returns the role's colour in the current scheme, light or dark, at `opacity` from 0 to 1.
 QColor color(Role role, double opacity = 1);
 
-/// The role's colour as the ground of white text; the same in both schemes.
+/// Returns the role's colour as the background of white text, the same in both schemes.
 QColor tileColor(Role role, double opacity = 1);
 
-/// The style scaled from the desktop's own font. `weight` replaces the style's own.
+/// Returns the style scaled from the desktop's own font. `weight` replaces the style's own.
 QFont font(TextStyle style, std::optional<QFont::Weight> weight = std::nullopt);
 
 bool isDark();
 
-/// Puts the scheme's palette on the application; every widget hears of it as a palette change.
+/// Sets the scheme's palette on the application. Every widget receives a palette change.
 void apply(bool dark);
 
 } // namespace Theme

@@ -6,7 +6,7 @@
 
 class Appearance;
 
-/// Keeps the theme in step with the desktop's choice of light or dark, also while running.
+/// Applies the desktop's choice of light or dark, at the start and whenever it changes.
 class ThemeFollower : public QObject {
     Q_OBJECT
 
@@ -18,5 +18,5 @@ private:
     void follow();
 
     std::unique_ptr<Appearance> m_appearance;
-    bool m_paletteIsDark; ///< what the desktop's own palette says, where it states no preference
+    bool m_paletteIsDark; ///< counts when the desktop states no preference
 };
