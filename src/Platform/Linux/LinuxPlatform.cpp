@@ -12,6 +12,7 @@
 #include "Platform/Unix/DescriptorLimit.h"
 #include "Platform/Unix/UnixIdentity.h"
 #include "Platform/Unix/UnixToolRunner.h"
+#include "Platform/Words.h"
 
 void Platform::prepareProgram() {
     DescriptorLimit::reserve();
@@ -37,4 +38,14 @@ std::unique_ptr<Appearance> Platform::makeAppearance() {
 
 std::unique_ptr<LoginItem> Platform::makeLoginItem() {
     return std::make_unique<FreedesktopLoginItem>();
+}
+
+const Words& Words::native() {
+    static const Words words = {.computer = QStringLiteral("Computer"),
+                                .system = QStringLiteral("Linux"),
+                                .initProcess = QStringLiteral("init"),
+                                .taskBar = QStringLiteral("task bar"),
+                                .statusArea = QStringLiteral("Status area"),
+                                .symbol = QStringLiteral("Symbol")};
+    return words;
 }
