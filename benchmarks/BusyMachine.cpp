@@ -6,7 +6,7 @@
 namespace {
 
 constexpr qsizetype processCount = 1000;
-constexpr qsizetype steadyCount = 200; ///< the first ones, which stay
+constexpr qsizetype steadyCount = 200; ///< the first ones, which keep running
 constexpr int startsPerPass = 400;
 constexpr qint32 maxPid = 32767;
 constexpr quint64 MiB = 1 << 20;
@@ -40,7 +40,7 @@ qint32 BusyMachine::nextFreePid() {
     return m_pid;
 }
 
-/// In the place of the process that the row of the listing held.
+/// Replaces the process in the row of the listing.
 void BusyMachine::start(qsizetype row) {
     qint32& pid = fakes.processes->listing[row];
     fakes.processes->processes.remove(pid);
@@ -78,7 +78,7 @@ void BusyMachine::startPassing(qsizetype row) {
         .info = KernelProcessInfo{.start = fakes.clock->wall, .uid = fakes.identity->uid, .parentPid = 1}};
 }
 
-/// A third of the steady ones never work, so that some have been idle for long.
+/// A third of the steady ones stay idle.
 void BusyMachine::work() {
     for (qsizetype row = 0; row < processCount; ++row) {
         FakeProcess& process = fakes.processes->processes[fakes.processes->listing[row]];
@@ -87,7 +87,7 @@ void BusyMachine::work() {
     }
 }
 
-/// Load and memory go up and down, and the alerts with them.
+/// Changes load and memory, and with them the alerts.
 void BusyMachine::swing() {
     const double load = 50 + 45 * std::sin(m_passes / 40.0);
     fakes.host->ticks->user += static_cast<quint64>(load * 10);

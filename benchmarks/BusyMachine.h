@@ -5,14 +5,14 @@
 #include <QRandomGenerator>
 
 /// A scripted machine of 1,000 processes on which 200 end and 200 others start every second, half of them
-/// under a name, a path and arguments that were never seen before. Ids come round again.
+/// with a new name, path and arguments. PIDs wrap around.
 class BusyMachine {
 public:
     FakePlatform fakes;
 
     BusyMachine();
 
-    /// Two seconds pass.
+    /// Advances by two seconds.
     void pass();
 
 private:

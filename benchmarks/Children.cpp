@@ -9,7 +9,7 @@ namespace {
 
 [[noreturn]] void sleepUntilEnded(pid_t parent) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    signal(SIGINT, SIG_IGN); // the terminal sends it to all; ending us is the parent's part
+    signal(SIGINT, SIG_IGN); // the terminal sends it to all, but the parent ends us
     if (getppid() != parent)
         _exit(0);
     for (;;)

@@ -4,10 +4,10 @@
 
 #include <vector>
 
-/// Processes that sleep until this object ends and reaps them; they end too when this program is killed.
+/// Sleeping processes that end with this object, or when this program is killed.
 class Children {
 public:
-    /// Starts `count` of them; fewer where the system refuses more.
+    /// Starts `count` of them, or fewer when the system refuses more.
     explicit Children(int count);
     ~Children();
     Children(const Children&) = delete;

@@ -5,20 +5,20 @@
 #include <span>
 #include <vector>
 
-/// What the kernel takes to answer, without anything of ours around it.
+/// The kernel's share of the cost.
 class KernelFloor {
 public:
-    /// Keeps the descriptors that `askAll` reads, two for each of these processes.
+    /// Opens the two descriptors per process that `askAll` reads.
     explicit KernelFloor(std::span<const int> pids);
     ~KernelFloor();
     KernelFloor(const KernelFloor&) = delete;
     KernelFloor& operator=(const KernelFloor&) = delete;
 
-    /// How many could be opened.
+    /// Returns how many processes could be opened.
     int count() const { return static_cast<int>(m_processes.size()); }
-    /// Memory, threads and CPU time of every process over kept descriptors; the answers are dropped.
+    /// Reads memory, threads and CPU time of every process.
     void askAll() const;
-    /// Opens, reads and closes `/proc/N/stat` of every process; the text is dropped.
+    /// Opens, reads and closes `/proc/N/stat` of every process.
     void openReadCloseAll() const;
 
 private:

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int ticksOfHeap = 50;
 constexpr double heapMarginKiB = 256;
-constexpr double memoryMarginKiB = 2048; // what the allocator keeps in hand comes and goes
+constexpr double memoryMarginKiB = 2048; // the allocator's reserve varies
 
 double openDescriptors() {
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir("/proc/self/fd"), closedir);
@@ -29,8 +29,7 @@ std::size_t heapBytes() {
     return heap.uordblks + heap.hblkhd;
 }
 
-/// In KiB, of proc(5) `smaps_rollup`: Pss_Anon. Of the libraries' pages a share is counted that grows when
-/// another program ends; these are the program's own.
+/// Reads Pss_Anon of proc(5) `smaps_rollup`, in KiB. Pss grows when another user of the libraries ends.
 double ownMemory() {
     std::ifstream rollup("/proc/self/smaps_rollup");
     std::string word;
@@ -53,7 +52,7 @@ void LongRun::ticked() {
     ++m_ticked;
     const int quarter = m_ticks / 4;
     if ((m_ticked - 1) % quarter >= quarter - ticksOfHeap)
-        m_leastHeapBytes = std::min(m_leastHeapBytes.value_or(heapBytes()), heapBytes());
+        m_minHeapBytes = std::min(m_minHeapBytes.value_or(heapBytes()), heapBytes());
     if (m_ticked % quarter != 0)
         return;
     m_last = look();
@@ -62,13 +61,13 @@ void LongRun::ticked() {
     std::fflush(stdout);
     if (m_first.empty())
         m_first = m_last;
-    m_leastHeapBytes.reset();
+    m_minHeapBytes.reset();
 }
 
 std::vector<LongRun::Figure> LongRun::look() const {
     std::vector<Figure> result = {
         {.name = "descriptors", .value = openDescriptors(), .margin = m_descriptorMargin},
-        {.name = "heap_kib", .value = double(*m_leastHeapBytes) / 1024, .margin = heapMarginKiB},
+        {.name = "heap_kib", .value = double(*m_minHeapBytes) / 1024, .margin = heapMarginKiB},
         {.name = "own_memory_kib", .value = ownMemory(), .margin = memoryMarginKiB},
     };
     std::ranges::move(m_figures(), std::back_inserter(result));

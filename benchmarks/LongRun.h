@@ -6,25 +6,25 @@
 #include <string>
 #include <vector>
 
-/// Watches figures of this program that have to stand still, however long it runs: they are taken and printed
-/// after each quarter of the run, as "NAME_TICK VALUE".
+/// Checks that figures of this program do not grow. It prints them after each quarter of the run, as
+/// "NAME_TICK VALUE".
 class LongRun {
 public:
     struct Figure {
         std::string name;
         double value = 0;
-        double margin = 0; ///< how far the last may lie above the first
+        double margin = 0; ///< by which the last may exceed the first
     };
     using Figures = std::function<std::vector<Figure>()>;
 
-    /// `figures` are those of the program's own tables; descriptors and memory are watched in any case.
+    /// Checks descriptors and memory besides `figures`.
     LongRun(int ticks, Figures figures, double descriptorMargin = 0);
 
-    /// After each tick.
+    /// Counts a tick.
     void ticked();
     int ticks() const { return m_ticked; }
     bool isOver() const { return m_ticked >= m_ticks; }
-    /// Compares the end with the first quarter and names on standard error what has grown.
+    /// Compares the end with the first quarter and prints the figures that have grown on standard error.
     bool stoodStill() const;
 
 private:
@@ -34,7 +34,7 @@ private:
     int m_ticked = 0;
     Figures m_figures;
     double m_descriptorMargin;
-    std::optional<std::size_t> m_leastHeapBytes; ///< of the last ticks, as texts are dropped in bursts
+    std::optional<std::size_t> m_minHeapBytes; ///< of the quarter's last ticks, as texts are freed in bursts
     std::vector<Figure> m_first;
     std::vector<Figure> m_last;
 };

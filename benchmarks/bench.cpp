@@ -1,6 +1,6 @@
-// What one look at every process costs, beside what the kernel alone takes for it. Standard output holds
-// one "NAME VALUE" a line; times are medians in microseconds for one process. Plain names are of runs that
-// find the CPU's caches full of other things, as a tick does; "warm_" is one run straight after another.
+// Measures a pass over all processes, and the kernel's share of it. Standard output has one "NAME VALUE" a
+// line; times are medians in microseconds per process. Plain names are with cold CPU caches, as in a tick;
+// "warm_" is one run straight after another.
 
 #include "AppModel.h"
 #include "Children.h"
@@ -31,7 +31,7 @@ constexpr int repetitions = 31;
 
 volatile std::sig_atomic_t interrupted = 0;
 
-/// Takes the place in the CPU's caches that other programs take in the two seconds between two ticks.
+/// Evicts the CPU's caches, as other programs do in the two seconds between two ticks.
 class CacheEviction {
 public:
     CacheEviction()
@@ -70,14 +70,14 @@ struct Costs {
     double tick = 0;
 };
 
-/// One piece of work, how many processes it covers, and where its cost goes.
+/// Work over so many processes, and the member for its cost.
 struct Piece {
     std::function<void()> work;
     qsizetype processes;
     double Costs::*cost;
 };
 
-/// The pieces take turns, so that other work on the machine hits all of them alike. Empty when interrupted.
+/// Measures in turns, so that other load affects all alike. Returns an empty optional when interrupted.
 std::optional<Costs> measure(const std::vector<Piece>& pieces, const std::function<void()>& beforeEach) {
     std::vector<std::vector<double>> seen(pieces.size());
     for (int repetition = 0; repetition < repetitions; ++repetition) {
@@ -103,11 +103,11 @@ void print(const Costs& costs, const std::string& prefix, int size) {
 }
 
 struct Measured {
-    Costs cold; ///< with the CPU's caches full of other things, as a tick finds them
-    Costs warm; ///< one run straight after the other
+    Costs cold; ///< with cold CPU caches, as in a tick
+    Costs warm; ///< one run straight after another
 };
 
-/// Empty when interrupted or when the system gives no room for so many processes.
+/// Returns an empty optional when interrupted or when so many processes cannot be started.
 std::optional<Measured> measureAt(int size) {
     const Children children(size);
     if (children.count() < size) {
@@ -120,7 +120,7 @@ std::optional<Measured> measureAt(int size) {
     AppModel model(platform, preferences);
     Sampler sampler(platform);
     const auto tick = [&model] { QMetaObject::invokeMethod(&model, "tick", Qt::DirectConnection); };
-    const auto known = sampler.sampleProcesses(); // looks up what is looked up once in a process's life
+    const auto known = sampler.sampleProcesses(); // reads what is read once per process
     tick();
 
     std::vector<int> pids;

@@ -1,6 +1,6 @@
-// Starts a program on the X display and tells how long it took until its first window was on screen:
+// Starts a program on the X display and measures the time until its first window is shown:
 //   first_window PROGRAM [ARGUMENT...]
-// prints "MILLISECONDS PID" and ends; the program goes on. Status 1 when no window came within 20 seconds.
+// prints "MILLISECONDS PID" and ends; the program keeps running. Status 1 without a window after 20 seconds.
 
 #include <poll.h>
 #include <unistd.h>
@@ -15,8 +15,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto patience = std::chrono::seconds(20);
-constexpr int minWidth = 400; ///< what is smaller is a tray item or a helper of the toolkit
+constexpr auto timeout = std::chrono::seconds(20);
+constexpr int minWidth = 400; ///< smaller ones are tray items or the toolkit's helper windows
 constexpr int minHeight = 300;
 
 struct Free {
@@ -29,8 +29,8 @@ bool isLarge(xcb_connection_t* connection, xcb_window_t window) {
     return geometry && geometry->width >= minWidth && geometry->height >= minHeight;
 }
 
-/// Whether a large window of the display was mapped in time. With a window manager that is its frame, which
-/// is mapped when the window itself is drawn.
+/// Returns whether a large window was mapped in time. With a window manager that is the frame, mapped when
+/// the window is drawn.
 bool awaitWindow(xcb_connection_t* connection, Clock::time_point end) {
     pollfd input{.fd = xcb_get_file_descriptor(connection), .events = POLLIN, .revents = 0};
     while (Clock::now() < end && xcb_connection_has_error(connection) == 0) {
@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
         execvp(argv[1], argv + 1);
         _exit(127);
     }
-    const bool came = child > 0 && awaitWindow(connection, start + patience);
+    const bool came = child > 0 && awaitWindow(connection, start + timeout);
     const std::chrono::duration<double, std::milli> taken = Clock::now() - start;
     xcb_disconnect(connection);
     if (!came)

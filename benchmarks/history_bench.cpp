@@ -1,5 +1,5 @@
-// What a long action log costs: to read, and to open and scroll in the History tab. Prints NAME VALUE lines;
-// times are medians in milliseconds, the memory is the most that this whole program held.
+// Measures reading a long action log, and opening, scrolling and sorting it in the History tab. Prints NAME
+// VALUE lines; times are medians in milliseconds, memory is the peak of this program.
 
 #include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
@@ -24,7 +24,7 @@ namespace {
 
 constexpr int rounds = 7;
 
-/// Lines as the program writes them, every tenth of them of another size and outcome.
+/// Writes lines in the program's format, every tenth a failure.
 void writeLog(int lines) {
     QDir().mkpath(QFileInfo(ActionLogReader::path()).path());
     QFile file(ActionLogReader::path());
@@ -55,7 +55,7 @@ double median(const std::function<void()>& work) {
     return seen[rounds / 2];
 }
 
-/// VmHWM of proc(5), in KiB.
+/// Reads VmHWM of proc(5), which is in KiB.
 double peakMegabytes() {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))

@@ -1,6 +1,5 @@
-// A full scan of the cleanup catalogue against the same du and find commands started in parallel by a shell
-// script: what the scanner itself costs. Prints NAME VALUE lines. The home folder it scans is made in the
-// working folder and goes again at the end.
+// Compares a full scan of the cleanup catalogue with the same du and find commands run in parallel by a shell
+// script. Prints NAME VALUE lines. The home folder that it scans is temporary, in the working directory.
 
 #include "Core/Cleanup/CacheScanner.h"
 #include "Platform/Clock.h"
@@ -68,7 +67,7 @@ constexpr Part parts[] = {
     {"Desktop", 1000, true},
 };
 
-/// The machine's own /tmp is not what is measured.
+/// Replaces the machine's own /tmp.
 class BenchPlaces : public FreedesktopPlaces {
 public:
     QList<Place> locate(const QString& path) const override {
@@ -76,7 +75,7 @@ public:
     }
 };
 
-/// Nobody can make a file that changed its status long ago, so the scan takes place later.
+/// A file's status change cannot be set, so the clock is ahead.
 class BenchClock : public SystemClock {
 public:
     static constexpr auto ahead = std::chrono::hours(24 * 400);
@@ -104,7 +103,7 @@ void makeHome(const std::string& home) {
     }
 }
 
-/// One background job a target, its own commands one after another.
+/// Makes one background job per target, its own commands one after another.
 QString script(const QList<CacheTarget>& measured) {
     const auto quoted = [](const QString& path) { return u"'"_s + path + u"'"_s; };
     QString text;

@@ -1,6 +1,5 @@
-// Does anything grow while the program runs? Ticks of a scripted machine on which processes come and go, with
-// every view open in turn; after each quarter of the run the figures that have to stand still are printed as
-// NAME_TICK VALUE. Status 1 when those at the end are not level with those of the first quarter.
+// Checks that nothing grows in ticks of a scripted machine on which processes start and end, with every view
+// open in turn. Prints figures as NAME_TICK VALUE after each quarter of the run. Status 1 when one has grown.
 //   tavrin_soak [TICKS]     a multiple of 4,000; 20,000 unless given
 
 #include "AppModel.h"
@@ -35,7 +34,7 @@
 
 namespace {
 
-constexpr int visitTicks = 1000; ///< ticks, after which the visit of all views begins anew
+constexpr int visitTicks = 1000; ///< of one visit to all views
 
 template <typename T> T& only(const QWidget& parent) {
     auto* found = parent.findChild<T*>();
@@ -55,7 +54,7 @@ public:
         m_desktop.popover->show({});
     }
 
-    /// One tick and what the user does at it. False after the last.
+    /// Runs one tick and the user's actions at it. Returns false after the last.
     bool step() {
         const int tick = m_run.ticks() % visitTicks;
         useSections(tick);
@@ -97,7 +96,7 @@ private:
         if (tick == 20 || tick == 80)
             m_window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::other))->click();
         if (tick == 400 || tick == 500)
-            only<QCheckBox>(only<ProcessesView>(m_window)).click(); // one row a name, and back
+            only<QCheckBox>(only<ProcessesView>(m_window)).click(); // one row per name, and back
     }
 
     void useFreeRAM(int tick) {
@@ -145,7 +144,7 @@ private:
             m_window.show();
     }
 
-    /// An announcement comes or goes, and an action is put on record.
+    /// Shows or removes an announcement, and logs an action.
     void hearAndLog(int tick) {
         if (tick % 100 == 50) {
             const bool shows = tick % 200 == 50;
@@ -216,7 +215,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     Visit visit(ticks);
-    QTimer timer; // one tick for each turn of the main loop, which handles all that follows from it
+    QTimer timer; // one tick per turn of the main loop
     QObject::connect(&timer, &QTimer::timeout, &app, [&visit] {
         if (!visit.step())
             QApplication::quit();

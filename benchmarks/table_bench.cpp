@@ -1,4 +1,4 @@
-// What the Processes section costs on the main thread for one tick with 4,000 rows, beyond the tick itself.
+// Measures the Processes section on the main thread for one tick with 4,000 rows, beyond the tick itself.
 
 #include "AppModel.h"
 #include "UI/Processes/ProcessesView.h"
@@ -34,7 +34,7 @@ void shuffleLoad(FakePlatform& fakes, QRandomGenerator& random) {
     }
 }
 
-/// The median of a tick, in milliseconds of CPU, with everything that follows from it.
+/// Returns the median of a tick with the events that it causes, in milliseconds of CPU time.
 double median(FakePlatform& fakes, AppModel& model) {
     QRandomGenerator random(5);
     std::vector<double> costs;

@@ -1,7 +1,5 @@
-// Does anything grow while real processes come and go? Ticks of the model on the system's own process table,
-// between which children of this program end and others start, 200 a second; after each quarter of the run
-// the figures that have to stand still are printed as NAME_TICK VALUE. Status 1 when those at the end are not
-// level with those of the first quarter.
+// Checks that nothing grows in ticks on the system's process table while 200 children of this program start
+// and end per second. Prints figures as NAME_TICK VALUE after each quarter of the run. Status 1 when one grew.
 //   tavrin_table_soak [SECONDS]     180 unless given
 
 #include "AppModel.h"
@@ -12,7 +10,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
@@ -22,7 +19,7 @@ namespace {
 
 constexpr int ticksPerSecond = 6;
 constexpr int startsPerTick = 34;
-constexpr double otherProcesses = 100; ///< of the machine, which may be more at the end than at first
+constexpr double otherProcesses = 100;                    ///< by which the machine's other processes may grow
 constexpr std::size_t livingBatches = 2 * ticksPerSecond; // each lives for 2 s
 
 } // namespace

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs a program that sees no process but its own and can change no file but those of an empty /tmp, where
-# FOLDER stays in sight:
+# Runs a program in private PID and mount namespaces, with read-only files except in an empty /tmp. FOLDER remains
+# visible:
 #   alone.sh FOLDER PROGRAM ARG...
 set -euo pipefail
 script_arguments=("$@")

@@ -1,7 +1,7 @@
 # Configuring and building, the same for every script. Sourced from the top of the tree.
 
-# build PRESET [TARGET]: everything when no target is named. What it prints goes to standard error, so
-# that a script's own output stays readable by a program.
+# build PRESET [TARGET]: builds everything by default. It prints to standard error, so that standard output is the
+# script's own.
 build() {
     local preset=$1
     shift

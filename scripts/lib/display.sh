@@ -1,7 +1,7 @@
 # A private X display with a window manager, a tray and a session bus. Sourced, never run.
 #
 #   start_display           sets DISPLAY, XAUTHORITY and XDG_RUNTIME_DIR; ends with the shell
-#   start_tray              the tray again, after the program named by `tray_program` was ended
+#   start_tray              restarts the tray after `tray_program` was ended
 #   start_bus               sets DBUS_SESSION_BUS_ADDRESS where there is none; ends with the shell
 #   spawn PROGRAM ARG...    starts a program in the background that ends with the shell; sets `spawned`
 #   main_window PID         waits for the program's window and prints its id
@@ -9,19 +9,19 @@
 started=()
 private_files=
 
-# In a session of its own, so that Ctrl+C reaches the script alone and things end in their order.
+# In a session of its own, so that Ctrl+C reaches the script alone and programs end in order.
 spawn() {
     setsid "$@" &
     spawned=$!
     started+=("$spawned")
 }
 
-# Ends what was started, the last first, and waits until it is gone.
+# Ends all that was started, the last first, and waits for it.
 end_everything() {
     local i pid
     for ((i = ${#started[@]} - 1; i >= 0; i--)); do
         pid=${started[i]}
-        # Only a child that is still ours: an id that is free again may be anyone's.
+        # Only a child that still runs: its PID may be another process's by now.
         jobs -pr | grep -qx "$pid" || continue
         kill "$pid" 2>/dev/null || true
         for _ in {1..30}; do
@@ -52,7 +52,7 @@ within_ten_seconds() {
     return 1
 }
 
-# The first line that a program writes into FILE, as soon as it is there.
+# Waits for the first line that a program writes to FILE, and prints it.
 first_line() {
     within_ten_seconds test -s "$1" && head -n 1 "$1"
 }
@@ -69,7 +69,7 @@ start_display() {
     end_with_shell
     private_files=$(mktemp -d)
     local number
-    # A session of its own, so that a Tavrin that runs elsewhere for the same user is not brought forward.
+    # A private session, so that another Tavrin of the same user is not brought forward.
     export XDG_RUNTIME_DIR=$private_files/runtime
     mkdir -m 700 "$XDG_RUNTIME_DIR"
     export XAUTHORITY=$private_files/xauthority
@@ -92,14 +92,14 @@ start_display() {
     fi
 }
 
-# The desktop's panel, which holds the tray; sets `tray_program`.
+# Starts the desktop's panel with the tray; sets `tray_program`.
 start_tray() {
-    # At its first start it writes its settings, which a private machine lets it do nowhere else.
+    # At its first start it writes its settings, and other folders may be read-only.
     spawn env XDG_CONFIG_HOME="$private_files/panel" tint2 >/dev/null 2>&1
     tray_program=$spawned
 }
 
-# A session bus where the shell has none.
+# Starts a session bus unless the shell has one.
 start_bus() {
     [ -z "${DBUS_SESSION_BUS_ADDRESS:-}" ] || return 0
     end_with_shell
@@ -109,7 +109,7 @@ start_bus() {
     export DBUS_SESSION_BUS_ADDRESS
 }
 
-# The tray entry is a window too; the main window is the only wide one.
+# The tray item is a window too; the main window is the only wide one.
 main_window() {
     local window WIDTH
     for _ in {1..200}; do

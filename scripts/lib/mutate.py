@@ -1,8 +1,8 @@
-"""Tries changes to the sources one after another on a copy of the tree, and names those that no test notices.
+"""Tries changes to the sources one after another on a copy of the tree, and prints those that no test notices.
 
     mutate.py [NAME...]      every change of scripts/mutations.txt, or those named
 
-Ends with 0 when every change is noticed, 1 when one survives, 2 when the list or the tests are not in order.
+Status 0 when every change is noticed, 1 when one survives, 2 when the list or the tests are broken.
 """
 
 import os
@@ -16,22 +16,22 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 CHANGES = ROOT / "scripts/mutations.txt"
 TREE = ROOT / "build/mutate"
 BUILD = TREE / "build/debug"
-# Most of the time goes into compiling one file and linking one program.
+# For quick compiling of one file and linking of one program.
 QUICK = ["-DCMAKE_CXX_FLAGS_DEBUG=", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold", "-DTAVRIN_BENCHMARKS=OFF",
          "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
-SECONDS_A_RUN = 120
+TEST_TIMEOUT = 120
 CANNOT_RUN = 77  # of tests/e2e/lib.sh
 
 
 class Disorder(Exception):
-    """Something that makes the outcome worthless; the text says what."""
+    """An error that makes the outcome worthless."""
 
 
 @dataclass
 class Change:
     name: str
     path: str
-    test: tuple[str, str]  # a program, and which of its tests
+    test: tuple[str, str]  # a program, and a filter of its tests
     old: list[str] = field(default_factory=list)
     new: list[str] = field(default_factory=list)
 
@@ -46,7 +46,7 @@ class Change:
 
 
 def read_changes(text: str) -> list[Change]:
-    """One change begins with "change"; "file" and "test" hold until the next of their kind."""
+    """Parses the list. "file" and "test" apply to all changes up to the next of their kind."""
     changes: list[Change] = []
     path, test = "", ("", "")
     for number, line in enumerate(text.splitlines(), start=1):
@@ -85,7 +85,7 @@ def check_all(changes: list[Change]) -> None:
 
 
 def copy_tree() -> None:
-    """What git knows or would take; a file that is the same keeps its time, so that it is not built again."""
+    """Copies the files that git tracks or would add. Unchanged files keep their time, so they are not rebuilt."""
     listing = subprocess.run(
         ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
         cwd=ROOT, check=True, capture_output=True).stdout
@@ -113,20 +113,20 @@ def run(command: list[str]) -> tuple[int, str]:
 
 
 def build(programs: list[str]) -> str:
-    """Empty when it went well, else what the compiler said."""
+    """Returns the compiler's output on failure, otherwise an empty text."""
     status, said = run(["cmake", "--build", str(BUILD), "--target", *programs])
     return said[-3000:] if status else ""
 
 
 def run_tests(test: tuple[str, str]) -> tuple[int, str]:
-    """On a machine of their own: what a changed program ends or deletes is nobody's."""
+    """Runs tests in private namespaces, where a changed program can do no harm."""
     program, tests = test
-    return run(["bash", "scripts/lib/alone.sh", str(TREE), "timeout", "--kill-after=5", str(SECONDS_A_RUN),
+    return run(["bash", "scripts/lib/alone.sh", str(TREE), "timeout", "--kill-after=5", str(TEST_TIMEOUT),
                 str(BUILD / "tests" / program), f"--gtest_filter={tests}", "--gtest_brief=1"])
 
 
 def check_tests(changes: list[Change]) -> None:
-    """Without a change they pass; a test that fails anyhow would notice everything."""
+    """Checks that the tests pass without a change."""
     tests = sorted({change.test for change in changes})
     problem = build(sorted({program for program, _ in tests}))
     if problem:

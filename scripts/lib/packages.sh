@@ -1,11 +1,10 @@
-# What the scripts need from Debian, and how to get it. Sourced, never run.
+# Installs the Debian packages that the scripts need. Sourced, never run.
 #
-#   need build display      installs what is missing of these groups; silent when nothing is
+#   need build display      installs the missing packages of these groups
 
 packages_of() {
     case $1 in
-    # Everything that configuring needs: the tests and benchmarks are part of every configuration, so
-    # that no script changes the cache that another one left behind.
+    # Tests and benchmarks are part of every configuration, so that no script changes the cache of another.
     build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qcoro-qt6-dev libxcb1-dev libxcb-res0-dev \
         libtomlplusplus-dev nlohmann-json3-dev \
         libgtest-dev libgmock-dev ;;
@@ -63,7 +62,7 @@ apt() {
         </dev/null >>"$apt_log" 2>&1
 }
 
-# The package lists are fetched only where there are none or where they prove too old.
+# Fetches the package lists only when there are none or they are outdated.
 install_packages() {
     local apt_log status=0
     apt_log=$(mktemp)

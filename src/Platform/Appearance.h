@@ -11,7 +11,7 @@ class Appearance : public QObject {
 public:
     using QObject::QObject;
 
-    /// Empty while the desktop states no preference.
+    /// Returns an empty optional while the desktop states no preference.
     virtual std::optional<bool> prefersDark() const = 0;
 
 Q_SIGNALS:

@@ -8,25 +8,25 @@
 
 /// A program as the desktop's menu has it.
 struct Application {
-    QString id; ///< of its desktop entry, without ".desktop"; where there is none, what its sandbox calls it
+    QString id;   ///< of its desktop entry, without ".desktop"; without an entry, the sandbox's name for it
     QString name; ///< as in the menu, in the user's language
 
     bool operator==(const Application&) const = default;
 };
 
-/// Which application is behind a program or a process.
+/// Finds the application behind a program or a process.
 class Applications {
 public:
     virtual ~Applications() = default;
 
-    /// The application whose menu entry starts the program at `executable` (an absolute path), or one that it
-    /// is a helper of. Empty when there is none, or several could be meant.
+    /// Returns the application whose menu entry starts the program at `executable` (an absolute path), or
+    /// whose helper that program is. Returns an empty optional when none or several match.
     virtual std::optional<Application> ofProgram(const QString& executable) = 0;
-    /// The application that a running process belongs to, so that it ends when the application is quit. Empty
-    /// when it belongs to none, may not be read or is gone; also in doubt, as for what runs in a terminal.
-    /// Its name is the id where programs of several applications have the name in the menu.
+    /// Returns the application that a running process belongs to and ends with. Returns an empty optional
+    /// when the process belongs to none, is unreadable or gone, and in doubt, as for what runs in a terminal.
+    /// Where several applications have the same name in the menu, the name is the id.
     virtual std::optional<Application> ofProcess(qint32 pid) = 0;
-    /// What runs in the terminals of those processes, without being of their application, and ends with them:
-    /// shells and what was started there, but for what ignores the hang-up.
+    /// Returns the processes that run in the terminals of `pids` and end with them: shells and what was
+    /// started there, except what ignores SIGHUP.
     virtual QList<qint32> inTerminalsOf(const QList<qint32>& pids) = 0;
 };

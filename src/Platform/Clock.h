@@ -2,14 +2,14 @@
 
 #include <chrono>
 
-/// Time as the program sees it.
+/// The program's source of time.
 class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// Date and time; jumps when the user or the network sets the clock.
+    /// Returns date and time. It jumps when the user or the network sets the clock.
     virtual std::chrono::system_clock::time_point now() = 0;
-    /// Never jumps and stands still while the machine sleeps: what rates and idle times are measured with.
+    /// Returns the time for rates and idle times. It never jumps, and stands still while the machine sleeps.
     virtual std::chrono::steady_clock::time_point uptime() = 0;
 };
 

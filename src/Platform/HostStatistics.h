@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// CPU ticks of the whole host, of all its CPUs together. No count ever steps back.
+/// CPU ticks of all CPUs together. The counts never decrease.
 struct CpuTicks {
     quint64 user = 0;
     quint64 system = 0;
@@ -14,11 +14,11 @@ struct CpuTicks {
     bool operator==(const CpuTicks&) const = default;
 };
 
-/// What memory is used for. The first three do not overlap. A figure that the system refuses is 0.
+/// Use of memory. The first three figures do not overlap. A figure that the system refuses is 0.
 struct MemoryUse {
     quint64 activeBytes = 0;
     quint64 wiredBytes = 0;      ///< cannot be paged out
-    quint64 compressedBytes = 0; ///< held by the compressor
+    quint64 compressedBytes = 0; ///< taken by the compressor
     quint64 swapUsedBytes = 0;
     quint64 totalBytes = 0; ///< physical memory
 
@@ -33,7 +33,7 @@ struct VolumeSize {
     bool operator==(const VolumeSize&) const = default;
 };
 
-/// Whole-machine figures. An empty optional means that the system refused the figure this time.
+/// Figures of the whole machine. Each call returns an empty optional when the system refuses the figure.
 class HostStatistics {
 public:
     virtual ~HostStatistics() = default;

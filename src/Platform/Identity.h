@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// Who this program is: what actions compare with so that they never touch another user or ourselves.
+/// This program's user and process. Actions compare with them to spare other users and the program itself.
 class Identity {
 public:
     virtual ~Identity() = default;

@@ -2,8 +2,8 @@
 
 #include <QLoggingCategory>
 
-/// What goes wrong without a word on screen, for a trace that a user can send. Silent unless QT_LOGGING_RULES
-/// asks for it. No path of the user's, and no name or argument of a process, above the level of debugging.
+/// Failures that the screen does not show, for a trace that a user can send. Silent unless QT_LOGGING_RULES
+/// asks for it. Paths of the user and names and arguments of processes are logged at debug level only.
 namespace Log {
 
 Q_DECLARE_LOGGING_CATEGORY(platform) ///< "tavrin.platform": what the system refuses, and our own files

@@ -2,19 +2,18 @@
 
 #include "Platform/Result.h"
 
-/// The program's place among those that start when the user logs in.
+/// The program's entry among those that start at login.
 class LoginItem {
 public:
     virtual ~LoginItem() = default;
 
-    /// Starts the program that is running now at every later login. Again is fine.
+    /// Makes the running program start at every later login. Idempotent.
     virtual Outcome registerItem() = 0;
-    /// The opposite. Not being registered is no failure.
+    /// Undoes `registerItem`. Idempotent.
     virtual Outcome unregisterItem() = 0;
 
-    /// Whether the running program is where it will stay: false for one that lies where it was built.
+    /// Returns false for a program in its build tree.
     virtual bool isInstalled() const = 0;
-    /// Where what starts at login is a program that is gone, an installed one takes its place. Fails
-    /// silently.
+    /// Registers an installed program in place of one that no longer exists. Fails silently.
     virtual void replaceGoneProgram() = 0;
 };

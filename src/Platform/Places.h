@@ -6,20 +6,19 @@
 /// A folder that stands for a path of the cleanup catalogue.
 struct Place {
     QString path;
-    QString objection = {}; ///< why nothing in it may be deleted, as a sentence for the user; else empty
+    QString objection = {}; ///< why nothing in it may be deleted, as a sentence for the user
 
     bool operator==(const Place&) const = default;
 };
 
-/// Where this system keeps what a path of the cleanup catalogue names.
+/// Maps paths of the cleanup catalogue to this system's folders.
 class Places {
 public:
     virtual ~Places() = default;
 
-    /// The absolute paths that `path` ("/..." or "~/...") stands for: the path itself with the home folder
-    /// put in; where nothing exists there, or where this system keeps the same kind of thing besides, the
-    /// places that it has for it and that do exist. Empty when there is no home folder to put in, so that
-    /// nothing is ever looked up or deleted relative to an unset one; and never, but with an objection, the
-    /// home folder itself or a folder that holds it.
+    /// Returns the absolute paths that `path` ("/..." or "~/...") stands for. That is the path itself with
+    /// "~" expanded. Where it does not exist, or the system keeps the same kind of files elsewhere too, it is
+    /// the existing folders of the system. Returns an empty list when "~" cannot be expanded. The home folder
+    /// and its parents are returned with an objection only.
     virtual QList<Place> locate(const QString& path) const = 0;
 };

@@ -15,7 +15,7 @@ class Relief;
 class Signals;
 class ToolRunner;
 
-/// Everything the program asks of an operating system, chosen once at start and handed down.
+/// The services of an operating system, made once at start and passed down.
 struct Platform {
     std::shared_ptr<HostStatistics> host;
     std::shared_ptr<ProcessTable> processes;
@@ -28,12 +28,11 @@ struct Platform {
     std::shared_ptr<Applications> applications;
     std::shared_ptr<Relief> relief;
 
-    /// What has to be done before the program's first thread starts.
+    /// Prepares the process; called before its first thread starts.
     static void prepareProgram();
-    /// The answers of the system this program was built for. Needs a running QCoreApplication.
+    /// Makes the services of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();
-    /// Separate, because only programs with windows ask for it.
+    /// Makes what only programs with windows need.
     static std::unique_ptr<Appearance> makeAppearance();
-    /// Separate for the same reason.
     static std::unique_ptr<LoginItem> makeLoginItem();
 };

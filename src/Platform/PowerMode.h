@@ -5,6 +5,6 @@ class PowerMode {
 public:
     virtual ~PowerMode() = default;
 
-    /// The last state heard of; never waits for an answer.
+    /// Returns the last known state at once.
     virtual bool isLowPowerModeEnabled() const = 0;
 };

@@ -7,7 +7,7 @@
 #include <optional>
 #include <span>
 
-/// What changes from pass to pass about one process.
+/// The figures of a process that change from pass to pass.
 struct TaskInfo {
     quint64 virtualBytes = 0;
     quint64 residentBytes = 0;
@@ -17,26 +17,25 @@ struct TaskInfo {
     bool operator==(const TaskInfo&) const = default;
 };
 
-/// What the kernel knows of a process's origin.
+/// The kernel's record of a process.
 struct KernelProcessInfo {
     std::chrono::system_clock::time_point start;
     quint32 uid = 0; ///< effective user id
     qint32 parentPid = 0;
-    quint64 startTicks =
-        0; ///< since boot; whatever is done to the clock, it tells two processes of one id apart
+    quint64 startTicks = 0; ///< since boot; tells processes of one PID apart whatever the clock says
 };
 
-/// What is read when a process is first seen, and again once it has changed. Texts are the system's raw
-/// bytes, in no particular encoding; an empty one means that it could not be read.
+/// What is read when a process is first seen and after it has changed. Texts are the system's raw bytes in
+/// any encoding; an unreadable text is empty.
 struct ProcessOrigin {
     QByteArray executablePath;
     QByteArray shortName;
-    QByteArray argumentArea; ///< as the process sees it: strings each ended by a NUL
+    QByteArray argumentArea; ///< the arguments, each ended by a NUL
     std::optional<KernelProcessInfo> kernelInfo;
-    quint64 textMark = 0; ///< of the texts above
+    quint64 textHash = 0; ///< of the texts above
 };
 
-/// Who keeps a process running, where that is not the program that started it.
+/// The service manager or container that keeps a process running.
 struct ProcessKeeper {
     enum class Kind { none, service, container };
 
@@ -52,18 +51,17 @@ class ProcessTable {
 public:
     virtual ~ProcessTable() = default;
 
-    /// Writes process ids into `pids` and returns how many, or a value below 1 on failure. Ids beyond
-    /// the room given are left out.
+    /// Writes as many PIDs into `pids` as fit and returns their number, or a value below 1 on failure.
     virtual int listAllPids(std::span<qint32> pids) = 0;
-    /// Empty when the process is gone or may not be read.
+    /// Returns an empty optional when the process is gone or unreadable.
     virtual std::optional<TaskInfo> taskInfo(qint32 pid) = 0;
     virtual ProcessOrigin origin(qint32 pid) = 0;
-    /// The same as in `origin`, where nothing else of it is needed.
+    /// Returns the `kernelInfo` of `origin` alone.
     virtual std::optional<KernelProcessInfo> kernelInfo(qint32 pid) = 0;
-    /// A figure that differs once the process has taken another program, name or arguments, at a fraction of
-    /// the price of `origin`. Empty when the process is gone.
-    virtual std::optional<quint64> textMark(qint32 pid) = 0;
-    /// The folder that a process works in; empty when it may not be read.
-    virtual QByteArray workingFolder(qint32 pid) = 0;
+    /// Returns the hash of name, arguments and executable, at a fraction of the cost of `origin`. Returns an
+    /// empty optional when the process is gone.
+    virtual std::optional<quint64> textHash(qint32 pid) = 0;
+    /// Returns an empty path when the working directory is unreadable.
+    virtual QByteArray workingDirectory(qint32 pid) = 0;
     virtual ProcessKeeper keeper(qint32 pid) = 0;
 };

@@ -4,18 +4,16 @@
 
 #include <QCoroTask>
 
-/// What the program asks the system to give back.
+/// Requests to the system to free memory.
 class Relief {
 public:
     virtual ~Relief() = default;
 
-    /// Tells the running application that the menu calls `name` to quit, `force` without a question about
-    /// unsaved work. Done when it has quit.
+    /// Asks the running application that the menu calls `name` to quit, with `force` without a prompt for
+    /// unsaved work. Succeeds when it has quit.
     virtual QCoro::Task<Outcome> quitApplication(QString name, bool force) = 0;
-    /// Reclaims memory that is not in use, for 1.5 s at most. Done when the request could be made, whatever
-    /// came of it.
+    /// Reclaims unused memory for 1.5 s at most. Succeeds when the request could be made, whatever it freed.
     virtual QCoro::Task<Outcome> reclaimMemory() = 0;
-    /// Drops clean file caches of the whole machine, after the administrator's prompt. Not done when the
-    /// prompt was cancelled.
+    /// Drops the machine's clean file caches after the administrator's prompt. Fails when that is cancelled.
     virtual QCoro::Task<Outcome> dropCaches() = 0;
 };

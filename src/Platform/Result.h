@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// How something ended that the system may refuse.
+/// The outcome of a call that may fail.
 struct Outcome {
     bool done = false;
-    QString reason = {}; ///< why it was not done, as a sentence for the user; empty where nobody says why
+    QString reason = {}; ///< of a failure, as a sentence for the user; empty when unknown
 
     static Outcome success() { return {true, {}}; }
     static Outcome failure(const QString& reason) { return {false, reason}; }
@@ -13,7 +13,7 @@ struct Outcome {
     bool operator==(const Outcome&) const = default;
 };
 
-/// The same of a question, with the answer.
+/// An outcome with a value.
 template <typename T> struct Result : Outcome {
     T value = {}; ///< empty unless done
 };

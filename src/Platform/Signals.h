@@ -7,7 +7,7 @@
 /// The signals this program sends; the values are the ones kill(2) takes.
 enum class Signal { probe = 0, kill = 9, terminate = 15 };
 
-/// What became of sending a signal, in the sense of kill(2).
+/// The result of sending a signal, as of kill(2).
 enum class SignalResult {
     delivered,
     notPermitted,  ///< EPERM
@@ -15,8 +15,7 @@ enum class SignalResult {
     other
 };
 
-/// One particular process. A signal sent through it never reaches another process that was later given
-/// the same id.
+/// A handle of one process. Its signals never reach a later process with the same PID.
 class ProcessHandle {
 public:
     virtual ~ProcessHandle() = default;
@@ -29,7 +28,6 @@ class Signals {
 public:
     virtual ~Signals() = default;
 
-    /// Never null: a handle to an id that nobody has answers `noSuchProcess` for good.
-    /// An id below 1 is nobody's, and never means a group of processes.
+    /// Returns a handle of the process. For an unused PID or one below 1 the handle answers `noSuchProcess`.
     virtual std::shared_ptr<ProcessHandle> hold(qint32 pid) = 0;
 };

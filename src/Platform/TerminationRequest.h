@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// The system, or whoever started the program, asks it to end: the session closes, a terminal's interrupt
-/// key was pressed. A request that was ignored when the program started stays so. One per program.
+/// Receives requests to end the program, as when the session closes or on Ctrl+C. A signal that was ignored
+/// when the program started stays ignored. One per program.
 class TerminationRequest : public QObject {
     Q_OBJECT
 
@@ -11,6 +11,6 @@ public:
     explicit TerminationRequest(QObject* parent = nullptr);
 
 Q_SIGNALS:
-    /// On the main loop. A second request before the first was obeyed ends the program the hard way.
+    /// Emitted on the main loop. A second request of the same kind kills the program.
     void received();
 };

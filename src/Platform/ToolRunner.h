@@ -13,17 +13,16 @@ struct ToolRequest {
     QString launchPath;
     QStringList arguments;
     bool captureOutput = false;
-    std::optional<std::chrono::milliseconds> terminateAfter = {};
-    QByteArray input = {};     ///< what it can read, nothing unless given
-    std::stop_token stop = {}; ///< terminates it like `terminateAfter`, but when asked to
+    std::optional<std::chrono::milliseconds> timeout = {};
+    QByteArray input = {};     ///< its standard input
+    std::stop_token stop = {}; ///< terminates it as the timeout does
 };
 
 struct ToolResult {
-    bool launched = false; ///< false as well for a tool of our own that found nothing here to work on
+    bool launched = false; ///< false as well when a tool of our own is unsupported here
     int exitStatus = -1;   ///< -1 when it crashed or was not launched
     QByteArray output;
-    /// The first line that a tool of this program's own wrote about a failure; empty for other tools.
-    QString complaint;
+    QString errorLine; ///< the first line of standard error; empty for tools that are not our own
 
     bool succeeded() const { return launched && exitStatus == 0; }
 };

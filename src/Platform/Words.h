@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// What this system calls the things that every desktop has under a name of its own.
+/// This system's names for what every desktop has.
 struct Words {
     QString computer;
     QString system;
-    QString initProcess; ///< the parent of whoever lost its own
+    QString initProcess; ///< the parent of orphaned processes
     QString taskBar;     ///< within a sentence
     QString statusArea;  ///< as a title
-    QString symbol;      ///< a drawing that is chosen by its name
+    QString symbol;      ///< an icon that is chosen by name
 
     /// In the user's language.
     static Words native();

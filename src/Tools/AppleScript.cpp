@@ -10,7 +10,7 @@ using Verb = AppleScript::Verb;
 constexpr std::string_view purge = "do shell script \"/usr/sbin/purge\" with administrator privileges";
 constexpr std::string_view tell = "tell application \"";
 
-/// The name between the outer quotes; nothing where a quote stands unescaped.
+/// Returns the name between the outer quotes, or an empty optional for an unescaped quote.
 std::optional<std::string> unescaped(std::string_view text) {
     std::string name;
     for (const char character : text) {

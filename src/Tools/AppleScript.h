@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// The three scripts that are understood. No other text means anything, so none can do anything.
+/// The three scripts that are understood.
 namespace Tools {
 
 struct AppleScript {
@@ -13,10 +13,10 @@ struct AppleScript {
     std::string application; ///< empty for Purge
 };
 
-/// Reads `tell application "NAME" to quit`, the same followed by ` saving no`, and the administrator's purge
-/// to the letter. In NAME a double quote is written as backslash and quote; every other character, a
-/// backslash among them, stands for itself. Nothing for any other text, for an empty name and for one with
-/// a slash or a control character in it.
+/// Parses `tell application "NAME" to quit`, the same with ` saving no`, and the administrator's purge. In
+/// NAME a double quote is escaped by a backslash; every other character, backslashes included, stands for
+/// itself. Returns an empty optional for any other text, and for a NAME that is empty or has a slash or
+/// control character.
 std::optional<AppleScript> parseAppleScript(std::string_view source);
 
 } // namespace Tools

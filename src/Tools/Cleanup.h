@@ -1,23 +1,47 @@
 #pragma once
 
-#include "Tools/CleanupListing.h"
 #include "Tools/CleanupScope.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
 
 namespace Tools {
 
-/// What should have gone and is still there.
-struct Remainder {
-    int count = 0;     ///< of listed entries
-    std::string first; ///< the path of one of them
-    int error = 0;     ///< the errno that kept it
+/// The entries of a folder to remove. Its text is records ended by NUL: "DEVICE:INODE" of the folder, then
+/// "INODE BYTES PATH" of each entry. A path is relative to the folder, of any bytes but NUL.
+struct CleanupListing {
+    struct Entry {
+        ino_t inode = 0;
+        std::uint64_t bytes = 0; ///< an old file's length, otherwise disk usage with all below it
+        std::string path;
+
+        bool operator==(const Entry&) const = default;
+    };
+
+    dev_t device = 0;
+    ino_t inode = 0;
+    std::vector<Entry> entries;
+
+    bool operator==(const CleanupListing&) const = default;
+
+    std::string text() const;
+    /// Returns an empty optional for malformed or incomplete text.
+    static std::optional<CleanupListing> parse(std::string_view text);
 };
 
-/// What the scope is about in `folder`. What cannot be read is left out.
+/// The entries that could not be removed.
+struct Remainder {
+    int count = 0;
+    std::string first; ///< path of the first one
+    int error = 0;     ///< errno of the first one
+};
+
+/// Lists the entries of `folder` in scope. Unreadable ones are left out.
 CleanupListing listEntries(const Folder& folder, const CleanupScope& scope);
 
-/// Removes the listed entries from `folder`, as they were listed: an entry that has become another one since,
-/// and an old file that is not old any more, stays. Folders go with all that is in them; no link is followed
-/// and no other file system entered.
+/// Removes the listed entries from `folder`, folders with their contents. Keeps an entry that was replaced
+/// since it was listed, and a file that is no longer old. Follows no symlinks and stays on the file system.
 Remainder removeEntries(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope);
 
 } // namespace Tools

@@ -10,9 +10,9 @@ using namespace Tools;
 
 namespace {
 
-constexpr int rounds = 3; // for a folder into which something is put meanwhile
+constexpr int rounds = 3; // for a folder that others write to meanwhile
 
-/// In the order of how bad it is.
+/// By ascending severity.
 enum class Outcome { gone, kept, left };
 
 class Remover {
@@ -27,7 +27,7 @@ public:
         const Folder* parent = slash == std::string::npos ? &m_root : parentAt(listed.path.substr(0, slash));
         if (!parent)
             return errno == ENOTDIR ? Outcome::gone : goneOrLeft();
-        const auto entry = parent->look(name);
+        const auto entry = parent->status(name);
         if (!entry)
             return goneOrLeft();
         if (entry->st_ino != listed.inode)
@@ -37,11 +37,11 @@ public:
         return removeEntry(*parent, name, *entry, 0);
     }
 
-    /// The errno of the first removal that failed.
+    /// Returns the errno of the first removal that failed.
     int firstError() const { return m_firstError; }
 
 private:
-    /// After a system call that failed.
+    /// Maps the errno of a failed system call.
     Outcome goneOrLeft() {
         if (errno == ENOENT)
             return Outcome::gone;
@@ -50,7 +50,7 @@ private:
         return Outcome::left;
     }
 
-    /// Entries come folder by folder: the last one is held.
+    /// Opens the folder, or reuses the last one: entries come folder by folder.
     const Folder* parentAt(const std::string& path) {
         if (!m_parent || path != m_parentPath) {
             m_parent = m_root.openBelow(path);
@@ -74,7 +74,7 @@ private:
                 return Outcome::gone;
             if (errno != ENOTEMPTY && errno != EEXIST)
                 return goneOrLeft();
-            errno = ELOOP; // what a folder too deep to go into answers
+            errno = ELOOP; // for a folder that is nested too deep
             const auto folder = depth < maxFolderDepth ? parent.openBelow(name) : std::nullopt;
             if (!folder)
                 return goneOrLeft();
@@ -91,7 +91,7 @@ private:
             return goneOrLeft();
         Outcome worst = Outcome::gone;
         for (const std::string& name : *names) {
-            const auto entry = folder.look(name);
+            const auto entry = folder.status(name);
             if (entry)
                 worst = std::max(worst, removeEntry(folder, name, *entry, depth));
         }

@@ -25,13 +25,13 @@ bool isScreenshot(const Folder& folder, const std::string& name) {
     return got > 0 && isPicture({head, static_cast<std::size_t>(got)});
 }
 
-/// Of an X server (".X0-lock"), or beside a socket ("NAME.lock").
+/// Returns true for the lock of an X server (".X0-lock") or beside a socket ("NAME.lock").
 bool isLock(const Folder& folder, const std::string& name) {
     if (name.starts_with(".X") && name.ends_with("-lock"))
         return true;
     if (!name.ends_with(lockEnd))
         return false;
-    const auto guarded = folder.look(name.substr(0, name.size() - lockEnd.size()));
+    const auto guarded = folder.status(name.substr(0, name.size() - lockEnd.size()));
     return guarded && S_ISSOCK(guarded->st_mode);
 }
 
@@ -84,10 +84,10 @@ bool Tools::isPicture(std::string_view head) {
     const auto matches = [head](const Signature& signature) {
         return head.size() > signature.offset && head.substr(signature.offset).starts_with(signature.bytes);
     };
-    // Two letters alone would take a text for a bitmap: the reserved bytes are 0.
+    // A bitmap; its reserved bytes are 0, unlike those of a text.
     if (head.starts_with("BM") && head.size() > 10 && head.substr(6, 4) == "\0\0\0\0"sv)
         return true;
-    // MP4, QuickTime, HEIF and AVIF share a frame with music and books of the same family.
+    // MP4, QuickTime, HEIF and AVIF; M4A and M4B are music and books.
     if (head.size() >= 12 && head.substr(4, 4) == "ftyp")
         return !head.substr(8).starts_with("M4A") && !head.substr(8).starts_with("M4B");
     return std::ranges::any_of(signatures, matches);

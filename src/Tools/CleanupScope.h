@@ -10,38 +10,36 @@
 
 namespace Tools {
 
-/// Device and inode: a file under whatever name.
+/// Device and inode of a file.
 using FileIdentity = std::pair<dev_t, ino_t>;
 
-/// Which entries of a folder a cleanup is about.
+/// The entries of a folder that a cleanup removes.
 struct CleanupScope {
-    /// Only regular files, anywhere below the folder, whose content and whose arrival (status change) are
-    /// both more than so many whole days old. Without it: whatever is in the folder, but for names that begin
-    /// with two dots.
+    /// Only regular files anywhere below the folder whose modification and status change are both more than
+    /// so many whole days ago. Without it: all in the folder except names that begin with two dots.
     std::optional<long> olderThanDays;
-    std::time_t now = 0; ///< what ages are counted from
+    std::time_t now = 0; ///< base of the ages
 
     bool screenshotsOnly = false; ///< pictures and recordings whose name begins with "Screen"
 
-    /// A folder like /tmp: of the old files only the user's own, none that a running program has open, no
-    /// lock of an X server and none beside a socket.
+    /// A folder like /tmp: old files of this user only, without open files and locks of X servers or sockets.
     bool isShared = false;
 
-    std::set<FileIdentity> kept; ///< never to be removed, nor what is inside
+    std::set<FileIdentity> kept; ///< never removed, with their contents
 
     bool keeps(const struct stat& entry) const { return kept.contains({entry.st_dev, entry.st_ino}); }
     bool isOld(const struct stat& entry) const;
-    /// Whether an entry `name` of `folder` is among the old files that the scope is about.
+    /// Returns whether the entry `name` of `folder` is an old file in scope.
     bool takesOldFile(const Folder& folder, const std::string& name, const struct stat& entry) const;
-    /// Fills `kept` with what running programs have open, where the folder is a shared one.
+    /// Adds the open files of running programs to `kept` if the folder is shared.
     void keepOpenFiles();
 };
 
-/// Regular files that the processes which this user may look into have open or mapped, read from the folders
-/// of processes in `procFolder`.
+/// Returns the regular files that processes readable by this user have open or mapped. `procFolder` is the
+/// mount point of procfs.
 std::set<FileIdentity> openFiles(const std::string& procFolder);
 
-/// Whether the first bytes of a file are those of a picture or a moving picture.
+/// Returns whether a file with these first bytes is a picture or recording.
 bool isPicture(std::string_view head);
 
 } // namespace Tools

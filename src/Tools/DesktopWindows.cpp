@@ -80,10 +80,10 @@ std::vector<std::uint32_t> DesktopWindows::shownChildren() {
     return shown;
 }
 
-/// The server has it from the kernel; what a client says of itself (_NET_WM_PID) may be any number.
+/// Asks the server, which has the PID from the kernel. A client may set _NET_WM_PID to any number.
 std::optional<pid_t> DesktopWindows::ownerOf(std::uint32_t window) {
     const auto* extension = xcb_get_extension_data(m_connection, &xcb_res_id);
-    if (!extension || !extension->present) // a question to it would end the connection
+    if (!extension || !extension->present) // a request to it would end the connection
         return std::nullopt;
     const xcb_res_client_id_spec_t question{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
     const auto cookie = xcb_res_query_client_ids(m_connection, 1, &question);
@@ -100,7 +100,7 @@ std::vector<DesktopWindow> DesktopWindows::list() {
     std::vector<DesktopWindow> windows;
     if (m_root == 0)
         return windows;
-    // A window manager that has ended leaves its list behind; the window it announced itself with is gone.
+    // The list of a window manager that has ended remains; its check window is gone.
     const auto manager = words(m_root, "_NET_SUPPORTING_WM_CHECK");
     const bool isManaged = !manager.empty() && words(manager.front(), "_NET_SUPPORTING_WM_CHECK") == manager;
     for (const auto id : isManaged ? words(m_root, "_NET_CLIENT_LIST") : shownChildren())

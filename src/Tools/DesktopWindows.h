@@ -16,13 +16,10 @@ namespace Tools {
 /// A window that a person sees as one.
 struct DesktopWindow {
     std::uint32_t id = 0;
-    std::optional<pid_t> pid; ///< of the client on this machine that shows it, as the X server knows it
-
-    bool operator==(const DesktopWindow&) const = default;
+    std::optional<pid_t> pid; ///< of its client on this machine, by the X server
 };
 
-/// The windows on the X display that DISPLAY names, asked to close the way a window manager asks. Without a
-/// display there are none.
+/// The windows on the X display in DISPLAY, none without one. They are closed by a window manager's request.
 class DesktopWindows {
 public:
     DesktopWindows();
@@ -30,9 +27,9 @@ public:
     DesktopWindows(const DesktopWindows&) = delete;
     DesktopWindows& operator=(const DesktopWindows&) = delete;
 
-    /// Those the window manager lists, or all that are shown where there is no window manager.
+    /// Returns the window manager's list, or without one all windows shown.
     std::vector<DesktopWindow> list();
-    /// Asks the window's program to close it; it may ask back, or refuse.
+    /// Asks the window's program to close it. The program may prompt or refuse.
     void close(std::uint32_t window);
 
 private:

@@ -62,7 +62,7 @@ Folder::~Folder() {
 }
 
 std::optional<std::vector<std::string>> Folder::names() const {
-    const int own = openat(m_descriptor, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); // with a place of its own
+    const int own = openat(m_descriptor, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); // with its own position
     DIR* stream = own < 0 ? nullptr : fdopendir(own);
     if (!stream) {
         if (own >= 0)
@@ -83,7 +83,7 @@ std::optional<std::vector<std::string>> Folder::names() const {
     return failure == 0 ? std::optional(std::move(names)) : std::nullopt;
 }
 
-std::optional<struct stat> Folder::look(const std::string& name) const {
+std::optional<struct stat> Folder::status(const std::string& name) const {
     struct stat status {};
     if (fstatat(m_descriptor, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return std::nullopt;

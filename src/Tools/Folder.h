@@ -8,16 +8,16 @@
 
 namespace Tools {
 
-/// So many folders within each other are gone into, because each holds a descriptor and a piece of the stack.
+/// Bounds the recursion, which takes a descriptor and stack space per level.
 constexpr int maxFolderDepth = 4000;
 
-/// A folder held by a descriptor. Whatever is done in it is done in that very folder, wherever its name leads
-/// to by then. Links are never followed, and no other file system is entered.
+/// An open folder. Its functions act on that folder even if its path changes. They follow no symlinks and
+/// stay on the file system.
 class Folder {
 public:
-    /// The folder at an absolute path no part of which is a link. `errno` tells why there is none.
+    /// Opens an absolute path without symlinks. Returns an empty optional and sets errno on failure.
     static std::optional<Folder> open(const std::string& path);
-    /// One below this folder, by a relative path no part of which is a link or a mount.
+    /// Opens a relative path without symlinks and mount points, below this folder. Fails as `open` does.
     std::optional<Folder> openBelow(const std::string& path) const;
 
     Folder(Folder&& other) noexcept;
@@ -28,10 +28,10 @@ public:
     dev_t device() const { return m_device; }
     ino_t inode() const { return m_inode; }
 
-    /// What is in it, but for "." and "..". Nothing when it cannot be read, see `errno`.
+    /// Returns its entries without "." and "..", or an empty optional with errno set.
     std::optional<std::vector<std::string>> names() const;
-    /// The entry itself, not what it may link to. Nothing when there is no such entry, see `errno`.
-    std::optional<struct stat> look(const std::string& name) const;
+    /// Calls lstat(2) on an entry. Returns an empty optional and sets errno on failure.
+    std::optional<struct stat> status(const std::string& name) const;
 
 private:
     static std::optional<Folder> openAt(int descriptor, const std::string& path, unsigned long long resolve);

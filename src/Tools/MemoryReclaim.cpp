@@ -12,11 +12,11 @@
 namespace {
 
 struct Mount {
-    std::string root; ///< the group that is seen at the mount point
+    std::string root; ///< the group at the mount point
     std::string point;
 };
 
-/// The cgroup v2 hierarchy (proc(5), mountinfo: fields 4 and 5, and the type after the lone "-").
+/// Finds the cgroup v2 hierarchy (proc(5), mountinfo: fields 4 and 5, and the type after the lone "-").
 std::optional<Mount> groupMount(const std::string& procFolder) {
     std::ifstream mounts(procFolder + "/self/mountinfo");
     for (std::string line; std::getline(mounts, line);) {
@@ -33,7 +33,7 @@ std::optional<Mount> groupMount(const std::string& procFolder) {
     return std::nullopt;
 }
 
-/// The group of this process in the v2 hierarchy (cgroups(7): the line that begins with "0::").
+/// Finds the group of this process in the v2 hierarchy (cgroups(7): the line that begins with "0::").
 std::optional<std::string> ownGroup(const std::string& procFolder) {
     std::ifstream groups(procFolder + "/self/cgroup");
     for (std::string line; std::getline(groups, line);) {
@@ -43,7 +43,7 @@ std::optional<std::string> ownGroup(const std::string& procFolder) {
     return std::nullopt;
 }
 
-/// The groups that may be asked, highest first.
+/// Returns the user's own groups, highest first.
 std::vector<std::string> ownGroups(const std::string& path, uid_t user) {
     const std::string id = std::to_string(user);
     const std::string bounded = path + '/';
@@ -59,7 +59,7 @@ std::vector<std::string> ownGroups(const std::string& path, uid_t user) {
     return {path};
 }
 
-/// The path of `group` below what the mount shows; nothing when it lies outside.
+/// Returns the path of `group` relative to the mount point, or an empty optional outside of it.
 std::optional<std::string> belowMount(const std::string& group, const Mount& mount) {
     if (mount.root == "/")
         return group;

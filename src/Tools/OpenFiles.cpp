@@ -22,7 +22,7 @@ void addDescriptors(const Folder& folder, std::set<FileIdentity>& found) {
 }
 
 /// proc(5), maps: "address perms offset MAJOR:MINOR INODE path", a line break in the path as "\012". The
-/// device is not always that of stat(2), on Btrfs and overlays for example, so the path is asked.
+/// device differs from that of stat(2) on Btrfs and overlays, so the path counts.
 void addMappings(const std::string& table, std::set<FileIdentity>& found) {
     std::ifstream maps(table);
     std::set<std::string> asked;

@@ -24,7 +24,7 @@ int Tools::dropCleanCaches(const std::string& dropFile) {
     return dropped ? 0 : 1;
 }
 
-std::string Tools::distrust(const std::string& program) {
+std::string Tools::whyUntrusted(const std::string& program) {
     constexpr mode_t writableByOthers = S_IWGRP | S_IWOTH;
     std::error_code error;
     auto path = std::filesystem::canonical(program, error);
@@ -47,11 +47,11 @@ int Tools::runAsAdministrator(const std::string& program, const std::string& pke
         std::cerr << "osascript: " << program << ": " << std::strerror(errno) << '\n';
         return 1;
     }
-    if (const std::string reason = distrust(program); !reason.empty()) {
+    if (const std::string reason = whyUntrusted(program); !reason.empty()) {
         std::cerr << "osascript: " << reason << '\n';
         return 1;
     }
-    // Its own agent would ask on a terminal that nobody may look at, and wait for ever.
+    // The internal agent would prompt on a terminal, where it might wait for ever.
     execl(pkexec.c_str(), pkexec.c_str(), "--disable-internal-agent", program.c_str(), nullptr);
     std::cerr << "osascript: " << pkexec << ": " << std::strerror(errno) << '\n';
     return 1;

@@ -19,28 +19,28 @@ namespace {
 using namespace std::chrono_literals;
 using Tools::DesktopWindow;
 using Tools::DesktopWindows;
-using Tools::QuitPatience;
+using Tools::QuitTimeouts;
 using Tools::UserProcess;
 
-/// Whether it only starts the application or speaks for it, and ends with it.
+/// Returns whether the process only starts the application or speaks for it, and ends with it.
 bool isLauncher(const UserProcess& process) {
     const auto name = QString::fromUtf8(process.programName().data(), process.programName().size());
     return DesktopEntries::isInterpreter(name) || name == u"xdg-dbus-proxy";
 }
 
-/// The processes of one application, taken once: what starts later is not touched.
+/// The processes of one application, listed once: those that start later are not touched.
 class RunningApplication {
 public:
     RunningApplication(const QString& name, LinuxApplications& applications);
 
     bool isRunning() const { return !m_processes.empty(); }
-    /// Whether applications that only share a name are running.
+    /// Returns whether several applications of that name are running.
     bool isAmbiguous() const { return m_ids.size() > 1; }
     void ask();
     void signal(int number);
-    /// Whether all of it is gone within `time`.
+    /// Returns whether all its processes end within `time`.
     bool endsWithin(std::chrono::milliseconds time);
-    /// The same for one that was asked: where it has only put away its windows, its main process is told too.
+    /// Returns the same after `ask`. One that only closed its windows gets a signal after `withoutWindow`.
     bool quitsWithin(std::chrono::milliseconds time, std::chrono::milliseconds withoutWindow);
 
 private:
@@ -57,7 +57,7 @@ private:
     DesktopWindows m_desktop;
     Tools::SessionBus m_bus;
     std::string m_parentExecutable;
-    QSet<QString> m_ids; ///< of the applications that the processes belong to
+    QSet<QString> m_ids; ///< of the processes' applications
     std::vector<UserProcess> m_processes;
     bool m_hasClosedWindows = false;
 };
@@ -81,7 +81,7 @@ bool RunningApplication::belongs(const UserProcess& process, const QString& name
     if (const auto bundle = process.bundle(); !bundle.empty())
         return bundle == name.toStdString();
     const auto application = applications.ofProcess(process.pid());
-    // What runs in a sandbox need not have an entry; its id is all the name it has.
+    // An application in a sandbox may have no entry, and its id as its only name.
     if (!application || (!ids.contains(application->id) && application->id != name))
         return false;
     m_ids.insert(application->id);
@@ -105,7 +105,7 @@ std::vector<DesktopWindow> RunningApplication::windows() {
     return open;
 }
 
-/// The ways that let it ask back come first.
+/// Tries first what lets the application prompt for unsaved work.
 void RunningApplication::ask() {
     if (!askOnBus(&Tools::SessionBus::activateQuit) && !closeWindows() &&
         !askOnBus(&Tools::SessionBus::callQuit))
@@ -127,8 +127,8 @@ bool RunningApplication::closeWindows() {
     return m_hasClosedWindows;
 }
 
-/// Those of the application's own program that no other of its processes started. Crash handlers are children
-/// of nobody either, but run another program, and later.
+/// Returns the processes of the application's own program that none of the others started. Crash handlers
+/// have no parent among them either, but run another program and start later.
 std::vector<const UserProcess*> RunningApplication::mainProcesses() const {
     const bool isScript = std::all_of(m_processes.begin(), m_processes.end(), isLauncher);
     std::vector<const UserProcess*> programs;
@@ -155,7 +155,7 @@ std::vector<const UserProcess*> RunningApplication::mainProcesses() const {
     return mains;
 }
 
-/// Not the helpers: they end with it, and some take a signal for a crash.
+/// Spares the helpers: they end with the main process, and some take a signal for a crash.
 void RunningApplication::terminateMain() {
     for (const UserProcess* process : mainProcesses())
         process->signal(SIGTERM);
@@ -191,20 +191,20 @@ bool RunningApplication::quitsWithin(std::chrono::milliseconds time,
 } // namespace
 
 Tools::QuitOutcome Tools::quitApplication(const QString& name, bool forced, LinuxApplications& applications,
-                                          const QuitPatience& patience) {
+                                          const QuitTimeouts& timeouts) {
     RunningApplication application(name, applications);
     if (!application.isRunning())
         return QuitOutcome::NotFound;
     if (application.isAmbiguous())
         return QuitOutcome::Ambiguous;
     application.ask();
-    if (application.quitsWithin(forced ? patience.beforeForce : patience.afterAsking, patience.withoutWindow))
+    if (application.quitsWithin(forced ? timeouts.beforeForce : timeouts.afterAsking, timeouts.withoutWindow))
         return QuitOutcome::Quit;
     if (!forced)
         return QuitOutcome::StillRunning;
     for (const int number : {SIGTERM, SIGKILL}) {
         application.signal(number);
-        if (application.endsWithin(patience.afterEachSignal))
+        if (application.endsWithin(timeouts.afterEachSignal))
             return QuitOutcome::Quit;
     }
     return QuitOutcome::StillRunning;

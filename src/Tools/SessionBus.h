@@ -7,20 +7,19 @@
 
 namespace Tools {
 
-/// The session's bus, asked on behalf of one application: who of its processes has a name there, and which of
-/// those can be told to quit. Nothing is started by asking.
+/// Finds an application's names on the session bus and tells it to quit there. Calls start no services.
 class SessionBus {
 public:
     explicit SessionBus(const QDBusConnection& bus = running());
 
-    /// The names, unique ones aside, that one of the processes has.
+    /// Returns the well-known names of the processes.
     QStringList namesOf(const QList<qint32>& pids);
-    /// The action "quit" of an application in the manner of GTK; false where it has none. It may ask back.
+    /// Activates the action "quit" of a GTK application, which may prompt. Returns false if it has none.
     bool activateQuit(const QString& name);
-    /// The slot "quit" of a Qt or KDE application; false where it has none. It may end without asking.
+    /// Calls the slot "quit" of a Qt application, which may end without a prompt. Returns false if it has none.
     bool callQuit(const QString& name);
 
-    /// The bus of this session; one that is not connected where none runs. None is started for it.
+    /// Returns the running session bus, or a disconnected one. Starts none.
     static QDBusConnection running();
 
 private:

@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::string_view bundleEnding = ".app/";
 
-/// The real user id (proc(5), status). The owner of the folder would not do: it is root for a program that
-/// keeps its memory from being read.
+/// Compares the real user id (proc(5), status). The owner of the folder is root for a process whose memory is
+/// protected from reading.
 bool isOwn(const std::string& folder) {
     std::array<char, 4096> room;
     return KernelText::numberOf(KernelFile(folder + "status").read(room), "Uid:") == getuid();
@@ -46,7 +46,7 @@ std::optional<UserProcess> UserProcess::open(pid_t pid) {
         process.m_parentPid = stat->parentPid;
         process.m_startTicks = stat->startTicks;
     }
-    // Alive after the reading, so that what was read is of the process that the descriptor holds.
+    // Alive after the reads, so they are of the process of the descriptor.
     if (process.m_executable.empty() || process.hasEnded())
         return std::nullopt;
     return process;

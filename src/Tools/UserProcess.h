@@ -12,22 +12,21 @@
 
 namespace Tools {
 
-/// A process of this user, and no other that has its id by now.
+/// A process of this user, never a later one with its PID.
 class UserProcess {
 public:
-    /// Nothing for a process that is gone, is another user's or does not show its executable.
+    /// Returns an empty optional when the process is gone, another user's or its executable is unreadable.
     static std::optional<UserProcess> open(pid_t pid);
     pid_t pid() const { return m_pid; }
-    /// As it was when the process was opened.
+    /// Returns the parent at the time of `open`.
     pid_t parentPid() const { return m_parentPid; }
-    /// Since boot, in clock ticks.
+    /// Returns the start since boot, in clock ticks.
     unsigned long long startTicks() const { return m_startTicks; }
-    /// The path of the program it runs.
-    const std::string& executable() const { return m_executable; }
+    const std::string& executable() const { return m_executable; } ///< its path
 
-    /// Its program's file name.
+    /// Returns the executable's file name.
     std::string_view programName() const;
-    /// The outermost bundle NAME.app that it runs from, without the ending; empty outside any.
+    /// Returns NAME of the outermost bundle NAME.app around the executable, or an empty text.
     std::string_view bundle() const;
 
     bool hasEnded() const { return m_handle.hasEnded(); }
@@ -43,7 +42,7 @@ private:
     std::string m_executable;
 };
 
-/// The processes of this user that `isWanted`.
+/// Returns the processes of this user for which `isWanted` returns true.
 std::vector<UserProcess> userProcesses(const std::function<bool(const UserProcess&)>& isWanted);
 
 } // namespace Tools

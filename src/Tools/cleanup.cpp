@@ -27,7 +27,7 @@ std::optional<long> number(const char* text) {
     return errno != 0 || end == text || *end != '\0' ? std::nullopt : std::optional(value);
 }
 
-/// A link is kept with what it links to.
+/// Keeps a symlink with its target.
 void keep(CleanupScope& scope, const char* path) {
     struct stat status {};
     if (lstat(path, &status) == 0)
@@ -92,11 +92,10 @@ void raiseDescriptorLimit() {
 
 } // namespace
 
-/// Tells what a cleanup of a folder would remove, and removes exactly that:
-/// `cleanup list [OPTION...] FOLDER` prints a listing (see CleanupListing), `cleanup remove [OPTION...]
-/// FOLDER` reads one from standard input and removes what it lists. Its complaints are about FOLDER. Status 1
-/// when the folder is a link, cannot be opened, is not the one that was listed, or something is left; 2 for
-/// arguments in another form.
+/// Lists and removes the contents of a folder: `cleanup list [OPTION...] FOLDER` prints a listing (see
+/// CleanupListing), `cleanup remove [OPTION...] FOLDER` reads one from standard input and removes what it
+/// lists. Errors are about FOLDER. Status 1 when the folder is a symlink, cannot be opened, is not the listed
+/// one, or something is left; 2 for other arguments.
 int main(int argc, char** argv) {
     std::optional<Command> command = parse({argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0)});
     if (!command) {

@@ -12,9 +12,9 @@ constexpr int cannotStart = 126;
 
 } // namespace
 
-/// Gives memory back: `memory_pressure -l warn`. Asks for a bounded amount and ends at once at SIGTERM, which
-/// interrupts the kernel's search as well. Status 0 when the kernel was asked, 126 (as of a program that
-/// cannot be started) when it cannot be, 2 for other arguments.
+/// Reclaims memory: `memory_pressure -l warn`. The amount is bounded, and SIGTERM interrupts the kernel too.
+/// Status 0 when the kernel was asked, 126 (a shell's for a program that it cannot start) when that is
+/// unsupported, 2 for other arguments.
 int main(int argc, char** argv) {
     if (argc != 3 || std::string_view(argv[1]) != "-l" || std::string_view(argv[2]) != "warn") {
         std::cerr << "usage: memory_pressure -l warn\n";

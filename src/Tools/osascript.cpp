@@ -15,13 +15,13 @@ namespace {
 using Tools::AppleScript;
 using Tools::QuitOutcome;
 
-/// Our own `purge`, installed beside this program.
+/// Returns the path of our own `purge` beside this program.
 std::string purgeTool() {
     std::error_code error;
     return std::filesystem::read_symlink("/proc/self/exe", error).replace_filename("purge");
 }
 
-const char* complaint(QuitOutcome outcome) {
+const char* errorText(QuitOutcome outcome) {
     switch (outcome) {
     case QuitOutcome::NotFound:
         return "application not found";
@@ -37,8 +37,8 @@ const char* complaint(QuitOutcome outcome) {
 
 } // namespace
 
-/// Tells applications to quit: `osascript -e SCRIPT`, for the scripts in Tools/AppleScript.h and no others.
-/// Status 0 when it was done, 1 when it could not be, 2 for a script or arguments that are not understood.
+/// Tells applications to quit: `osascript -e SCRIPT`, for the scripts in Tools/AppleScript.h. Status 0 on
+/// success, 1 on failure, 2 for other scripts and arguments.
 int main(int argc, char** argv) {
     const QCoreApplication program(argc, argv);
     if (argc != 3 || std::string_view(argv[1]) != "-e") {
@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
     const bool forced = script->verb == AppleScript::Verb::QuitWithoutSaving;
     LinuxApplications applications;
     const QString name = QString::fromStdString(script->application);
-    if (const char* text = complaint(Tools::quitApplication(name, forced, applications))) {
+    if (const char* text = errorText(Tools::quitApplication(name, forced, applications))) {
         std::cerr << "osascript: " << text << '\n';
         return 1;
     }

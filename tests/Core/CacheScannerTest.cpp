@@ -74,7 +74,7 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
               u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
               "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s);
     for (const ToolRequest& request : tools->requests)
-        EXPECT_EQ(request.terminateAfter, std::chrono::minutes(2));
+        EXPECT_EQ(request.timeout, std::chrono::minutes(2));
 
     answerEverythingWith({});
     const CacheTarget gone = scanned(target);
@@ -120,7 +120,7 @@ TEST_F(CacheScannerTest, SaysWhyAFolderIsLeftAlone) {
     places->objections[refused] = u"It is not a cache."_s;
     places->objections[home.path(u"missing"_s)] = u"Nobody needs to know."_s;
     tools->answer = [](const ToolRequest&) {
-        return ToolResult{.launched = true, .exitStatus = 1, .output = "1024 x", .complaint = u"No way"_s};
+        return ToolResult{.launched = true, .exitStatus = 1, .output = "1024 x", .errorLine = u"No way"_s};
     };
     for (const CleanupRule& rule : {CleanupRule(), oldFiles}) {
         const CacheTarget target =

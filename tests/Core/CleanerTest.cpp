@@ -102,7 +102,7 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
         EXPECT_EQ(clean(target), (CleanResult{{success}, 77})) << output.constData();
         EXPECT_EQ(tools->commandLines(),
                   QStringList(u"/bin/sh -lc brew cleanup -s && echo 'tavrin: done'"_s));
-        EXPECT_TRUE(tools->requests.first().terminateAfter) << "or it could hang for ever";
+        EXPECT_TRUE(tools->requests.first().timeout) << "or it could hang for ever";
     }
 }
 

@@ -61,7 +61,7 @@ void failEverywhere(const TemporaryHome& home) {
     TemporarySettings settings;
     const auto tools = std::make_shared<ScriptedTools>();
     tools->answer = [&home](const ToolRequest&) {
-        return ToolResult{.launched = true, .exitStatus = 1, .complaint = home.path()};
+        return ToolResult{.launched = true, .exitStatus = 1, .errorLine = home.path()};
     };
     SettingsFile(home.makeFile(u"file"_s) + u"/below.ini"_s).store(u"key"_s, home.path());
     QCoro::waitFor(LinuxRelief(tools).quitApplication(home.path(), false));

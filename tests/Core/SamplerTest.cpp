@@ -170,12 +170,12 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
         process.name = "MainThread";
         process.arguments = QByteArray("node\0/opt/server.js\0", 21);
     }
-    const int marks = fakes.processes->textMarks;
+    const int hashes = fakes.processes->textHashes;
     EXPECT_EQ(pass(false)[1].name, QStringLiteral("sh"));
-    EXPECT_EQ(fakes.processes->textMarks, marks); // who has not run has changed nothing
+    EXPECT_EQ(fakes.processes->textHashes, hashes); // who has not run has changed nothing
     pass(true);
     pass(true);
-    EXPECT_LE(fakes.processes->textMarks, marks + 3); // they take turns
+    EXPECT_LE(fakes.processes->textHashes, hashes + 3); // they take turns
     const auto changed = pass(true);
     for (int i = 1; i <= 3; ++i) {
         EXPECT_EQ(changed[i].name, QStringLiteral("node"));

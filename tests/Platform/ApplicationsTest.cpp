@@ -13,30 +13,28 @@ namespace {
 
 struct Running {
     const char* what;
-    const char* executable; ///< below the folder of the test
-    const char* arguments;  ///< words apart by blanks; "@" is the folder of the test
+    const char* executable; ///< "@" is the folder of the test
+    const char* arguments;  ///< separated by blanks
     const char* cgroup;
-    const char* flatpak; ///< the id, where it is in such a sandbox
+    const char* flatpak; ///< id of the sandbox
     const char* id;      ///< of its application; empty for none
     const char* name;
 };
 
-/// A machine made of files: its menu, its programs and what procfs says.
+constexpr auto elf = "\177ELF";
+
+/// A machine made of files: its menu, its programs and procfs.
 class ApplicationsTest : public testing::Test {
 protected:
     ApplicationsTest() {
         program("usr/bin/chromium", "#!/bin/sh\n");
-        program("usr/lib/chromium/chromium", "\x7f"
-                                             "ELF");
-        program("usr/lib/firefox/firefox", "\x7f"
-                                           "ELF");
-        program("usr/bin/konsole", "\x7f"
-                                   "ELF");
+        program("usr/lib/chromium/chromium", elf);
+        program("usr/lib/firefox/firefox", elf);
+        program("usr/bin/konsole", elf);
         program("usr/bin/tweaks", "#!/usr/bin/python3\n");
         program("usr/bin/notes", "#!/bin/sh\nexec electron /usr/lib/notes/app.asar\n");
         program("usr/bin/music", "#!/bin/sh\nexec electron /usr/lib/music/app.asar\n");
-        program("srv/app/build/app", "\x7f"
-                                     "ELF");
+        program("srv/app/build/app", elf);
         entry("app", "App", "@/srv/app/build/app");
         entry("chromium", "Chromium Web Browser", "@/usr/bin/chromium %U");
         entry("firefox", "Firefox", "@/usr/lib/firefox/firefox %u");
@@ -74,7 +72,7 @@ protected:
                               "[Application]\nname=" + QByteArray(running.flatpak) + '\n');
     }
 
-    /// `terminal` is the number of one; `ignored` the signals that the process ignores, in hexadecimal.
+    /// `ignored` is the mask of ignored signals, in hexadecimal.
     void addInTerminal(qint32 pid, qint32 parent, qint32 session, int terminal, const char* ignored = "0") {
         m_folder.makeFile(process(pid) + u"/stat"_s,
                           u"%1 (a b) S %2 %3 %3 %4 -1 0 0 0 0 0 1 1 0 0 20 0 1 0 500 1 1 0\n"_s.arg(pid)
@@ -141,10 +139,10 @@ TEST_F(ApplicationsTest, AProcessIsOfTheApplicationThatItsProgramSays) {
     EXPECT_EQ(applications.idsOf(u"org.mozilla.firefox"_s), QStringList(u"org.mozilla.firefox"_s));
 }
 
-TEST_F(ApplicationsTest, ATerminalHoldsTheSessionsThatItStarted) {
-    addInTerminal(10, 1, 9, 34900);        // the terminal emulator, itself started in a terminal
+TEST_F(ApplicationsTest, ATerminalOwnsTheSessionsThatItStarted) {
+    addInTerminal(10, 1, 9, 34900);        // the terminal emulator, started in another terminal
     addInTerminal(20, 10, 20, 34816);      // a shell
-    addInTerminal(21, 20, 20, 34816);      // what was started in it
+    addInTerminal(21, 20, 20, 34816);      // started in it
     addInTerminal(22, 20, 20, 34816, "1"); // the same under nohup
     addInTerminal(23, 20, 23, 0);          // a daemon
     addInTerminal(30, 21, 30, 34818);      // sudo's own terminal

@@ -8,13 +8,12 @@
 
 #include <sys/types.h>
 
-/// A process that the test starts; ended and reaped with this object. Both sides talk over a socket.
+/// A child process, ended and reaped with this object. Both sides talk over a socket.
 class Child {
 public:
-    /// Runs `body` in a forked process, with the descriptor of its end of the socket; leaving `body` ends it.
+    /// Runs `body` in a forked process with its descriptor of the socket; the process ends with `body`.
     explicit Child(const std::function<void(int)>& body);
-    /// Runs `program` with the whole vector `arguments`, its standard input being the socket (so that a
-    /// program which reads it waits). Returns once the program has taken over.
+    /// Runs `program` with the vector `arguments` and the socket as standard input. Returns after exec(2).
     Child(const std::string& program, const std::vector<std::string>& arguments);
     ~Child();
     Child(const Child&) = delete;
@@ -22,12 +21,12 @@ public:
 
     pid_t pid() const { return m_pid; }
     void tell(char command) const;
-    /// Waits for the child to say so.
+    /// Waits for a character from the child.
     char heard() const;
     void kill() const;
-    /// Ends and reaps the process now.
+    /// Kills and reaps the process.
     void end();
-    /// Waits for `body` to be left; its exit status.
+    /// Waits for the process and returns its exit status.
     int exitStatus();
 
 private:
@@ -35,10 +34,9 @@ private:
     int m_socket = -1;
 };
 
-/// A sleeping process under exactly this id, or a failure for want of the right to choose one.
+/// Starts a sleeping process with this PID. Returns a value below 0 without the right to choose one.
 pid_t cloneAs(pid_t pid);
 
-/// What `command` prints.
 QByteArray outputOf(const std::string& command);
-/// How many descriptors this program has open.
+/// Returns the number of this program's open descriptors.
 int openDescriptors();

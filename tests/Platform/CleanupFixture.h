@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 
-/// Nobody can say that a file changed its status long ago: for these tests it is 400 days later.
+/// A file's status change cannot be set: for these tests it is 400 days later.
 class LaterClock : public SystemClock {
 public:
     static constexpr auto ahead = std::chrono::hours(24 * 400);
@@ -21,9 +21,8 @@ public:
     Instant now() override { return SystemClock::now() + ahead; }
 };
 
-/// The scanner and the cleaner with the system's own tools, on folders that the test makes.
-class CleanupOnDisk : public testing::Test {
-protected:
+/// Runs scanner and cleaner with the system's own tools on temporary folders.
+struct CleanupOnDisk : testing::Test {
     Cleaner::CleanResult clean(const CacheTarget& target, std::stop_token stop = {}) {
         return QCoro::waitFor(Cleaner::clean(target, tools, places, clock->now(), stop));
     }
@@ -40,7 +39,6 @@ protected:
         return QCoro::waitFor(scanner.scan({target})).value(0);
     }
 
-    /// The one of the catalogue.
     static CacheTarget target(const QString& name) {
         const QList<CacheTarget>& all = CacheTarget::defaults();
         return *std::ranges::find(all, name, &CacheTarget::name);
@@ -50,7 +48,7 @@ protected:
         return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
-    /// As many days and an hour old, where the clock is.
+    /// Makes a file `days` and an hour old, by the clock of the test.
     void age(const QString& path, int days) {
         const auto since = std::chrono::hours(24 * days + 1);
         const auto written = std::chrono::file_clock::from_sys(clock->now() - since);

@@ -23,7 +23,7 @@ QByteArray mountNamespace() {
     return QFile::symLinkTarget(u"/proc/self/ns/mnt"_s).toUtf8();
 }
 
-/// Run only by the test at the end, in a mount namespace of its own, where /tmp is an empty disk.
+/// Run by the last test only, in a private mount namespace with an empty /tmp.
 class InPrivateMount : public CleanupOnDisk {
 protected:
     void SetUp() override {

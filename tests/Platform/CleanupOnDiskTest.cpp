@@ -18,7 +18,7 @@ using Cleaner::CleanResult;
 
 namespace {
 
-/// Root may do anything; where the tests run as root these tools run as nobody.
+/// Runs the tools as nobody when the tests run as root.
 class OrdinaryUsersTools : public UnixToolRunner {
 public:
     using UnixToolRunner::UnixToolRunner;
@@ -34,7 +34,7 @@ public:
     }
 };
 
-/// Does something right before `du` runs, which is after the cleaner has looked at the path.
+/// Calls `meddle` right before `du` runs, which is after the cleaner has checked the path.
 class MeddlingTools : public UnixToolRunner {
 public:
     std::function<void()> meddle;
@@ -87,7 +87,7 @@ TEST_F(CleanupOnDisk, EmptiesAFolderWhateverItsEntriesAreCalled) {
 TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
     const QString precious = home.makeFile(u"outside/cache/precious"_s);
     const std::pair<const char*, std::function<void()>> swaps[] = {
-        {"a link in the place of the folder",
+        {"a symlink in the place of the folder",
          [&] {
              rename(home.path(u"tool/cache"_s), home.path(u"tool/was"_s));
              ASSERT_TRUE(QFile::link(home.path(u"outside/cache"_s), home.path(u"tool/cache"_s)));
@@ -97,12 +97,12 @@ TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
              rename(home.path(u"tool/cache"_s), home.path(u"tool/was"_s));
              rename(home.path(u"outside/cache"_s), home.path(u"tool/cache"_s));
          }},
-        {"a link above it",
+        {"a symlink above it",
          [&] {
              rename(home.path(u"tool"_s), home.path(u"was"_s));
              ASSERT_TRUE(QFile::link(home.path(u"outside"_s), home.path(u"tool"_s)));
          }},
-        {"a link in the folder",
+        {"a symlink in the folder",
          [&] {
              rename(home.path(u"tool/cache/precious"_s), home.path(u"tool/was"_s));
              ASSERT_TRUE(QFile::link(home.path(u"outside/cache"_s), home.path(u"tool/cache/precious"_s)));
@@ -126,7 +126,7 @@ TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
     }
 }
 
-TEST_F(CleanupOnDisk, LeavesALinkedFolderAlone) {
+TEST_F(CleanupOnDisk, LeavesASymlinkedFolderAlone) {
     const QString precious = home.makeFile(u"elsewhere/precious"_s);
     ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(u".npm"_s)));
     ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(u"Downloads"_s)));
@@ -153,7 +153,7 @@ TEST_F(CleanupOnDisk, RemovesWhatWasConfirmedAndNothingElse) {
     EXPECT_EQ(entries(home.path(u".yarn/cache"_s)), QStringList(u"new"_s));
 }
 
-TEST_F(CleanupOnDisk, RefusesACacheHomeThatHoldsMoreThanCaches) {
+TEST_F(CleanupOnDisk, RefusesACacheHomeThatContainsMoreThanCaches) {
     const std::pair<QString, QString> cases[] = {
         {u".local"_s, u".local/share/keyrings/login.keyring"_s},
         {u".config"_s, u".config/program/settings"_s},
@@ -196,7 +196,7 @@ TEST_F(CleanupOnDisk, StartFilesOfTheShellCannotFeignAClean) {
     }
 }
 
-TEST_F(CleanupOnDisk, StopsACommandThatDoesNotAnswer) {
+TEST_F(CleanupOnDisk, StopsACommandThatHangs) {
     std::stop_source stop;
     const CacheTarget hangs{.name = u"x"_s, .pruneCommand = u"trap '' TERM; while :; do sleep 1; done"_s};
     QTimer::singleShot(100ms, [&stop] { stop.request_stop(); });
@@ -222,7 +222,7 @@ TEST_F(CleanupOnDisk, ReportsWhatMayNotBeDeletedAndDeletesTheRest) {
     EXPECT_EQ(entries(cache), QStringList(u"kept"_s));
     EXPECT_TRUE(entries(home.path(u"second"_s)).isEmpty()) << "the next path is cleaned all the same";
 
-    setMode(cache, 0); // not even to be looked at
+    setMode(cache, 0); // unreadable
     EXPECT_FALSE(clean(scanned({.name = u"x"_s, .paths = {cache}})).done);
     setMode(cache, 0755);
     setMode(home.path(u"cache/kept"_s), 0755);
@@ -324,7 +324,7 @@ TEST_F(CleanupOnDisk, EmptiesTheTrashOfLinux) {
     EXPECT_EQ(entries(home.path(u".local/share/Trash"_s)).size(), 3);
 }
 
-/// Makes and removes files in two folders without end, in the second one old ones; says 'r' each time.
+/// Makes and removes files in two folders for ever, old ones in the second; writes 'r' each time.
 const std::string comeAndGo = R"(while :; do
         mkdir -p "$1/busy"
         for file in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30; do
@@ -337,7 +337,7 @@ const std::string comeAndGo = R"(while :; do
 
 TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
     constexpr quint64 stable = 4 << 20;
-    constexpr quint64 passing = 1 << 20; // more than what comes and goes ever takes
+    constexpr quint64 passing = 1 << 20; // more than the passing files take
     const CacheTarget cache{.name = u"x"_s, .paths = {home.makeFolder(u"cache"_s)}};
     const CacheTarget downloads = target(u"Old Downloads (>30d)"_s);
     home.makeFile(u"cache/stable/file"_s, QByteArray(stable, 'x'));
@@ -355,7 +355,7 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
             EXPECT_LE(measured.sizeBytes, stable + passing) << target.name.toStdString();
         }
     }
-    const CleanResult result = clean(cache); // which may fail: a folder fills again before it is removed
+    const CleanResult result = clean(cache); // may fail: a folder fills again before it is removed
     EXPECT_FALSE(QFileInfo::exists(home.path(u"cache/stable"_s)));
     EXPECT_GE(result.freedBytes, stable - passing);
     EXPECT_LE(result.freedBytes, stable + passing);
@@ -368,7 +368,7 @@ TEST_F(CleanupOnDisk, TellsTheTruthWhileFilesComeAndGo) {
     EXPECT_TRUE(clean(cache).done);
     EXPECT_TRUE(entries(home.path(u"cache"_s)).isEmpty());
     for (const QString& file : entries(home.path(u"Downloads"_s)).filter(u"passing"_s))
-        age(home.path(u"Downloads/"_s + file), 40); // for which the tenant may have had no time
+        age(home.path(u"Downloads/"_s + file), 40); // if the child was killed before it did
     EXPECT_TRUE(clean(downloads).done);
     EXPECT_EQ(entries(home.path(u"Downloads"_s)), QStringList(u"new"_s));
 }

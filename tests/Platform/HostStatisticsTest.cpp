@@ -81,7 +81,7 @@ TEST(HostStatistics, CountsOnWhereAContainerWasMovedOrHasFewerCpus) {
     EXPECT_EQ(host.cpuTicks(), (CpuTicks{5004, 301, 90003, 0}));
 }
 
-/// Figures in KiB, as meminfo has them.
+/// Figures in KiB, as in meminfo.
 struct Memory {
     const char* name;
     QByteArray meminfo;

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text of every source file, by its path below src/.
+/// The text of each source file, by its path below src/.
 using SourceTree = QMap<QString, QString>;
 
 struct Include {
@@ -50,7 +50,7 @@ QList<Include> includesOf(const SourceTree& tree) {
     return includes;
 }
 
-/// The floor that a file stands on, counted from the ground; empty for a file that has no place.
+/// Returns the floor of a file, counted from the ground, or an empty optional for an unknown file.
 std::optional<int> floorOf(const QString& file) {
     static const QList<std::pair<QString, int>> floors = {
         {u"Platform/"_s, 0},  {u"Tools/"_s, 0},       {u"Core/"_s, 1}, {u"Preferences."_s, 1},
@@ -64,7 +64,7 @@ std::optional<int> floorOf(const QString& file) {
     return std::nullopt;
 }
 
-/// The folders that answer what Platform asks, each with those that it builds on.
+/// The folders that implement Platform, each with those that it builds on.
 const QMap<QString, QStringList> answers = {
     {u"Unix"_s, {}},
     {u"Freedesktop"_s, {u"Unix"_s}},
@@ -72,7 +72,7 @@ const QMap<QString, QStringList> answers = {
     {u"Null"_s, {}},
 };
 
-/// The folder of `answers` that holds the file; empty where none does.
+/// Returns the folder of `answers` that contains the file, or an empty text.
 QString answerOf(const QString& file) {
     const QStringList parts = file.split(u'/');
     return parts.first() == u"Platform"_s && answers.contains(parts.value(1)) ? parts[1] : QString();
@@ -82,19 +82,19 @@ bool isPlatformInterface(const QString& file) {
     return file.startsWith(u"Platform/"_s) && answerOf(file).isEmpty() && file.endsWith(u".h"_s);
 }
 
-/// Whether the file is of the system that answers so, or of one that builds on it.
+/// Returns whether the file is in the folder `answer` or in one that builds on it.
 bool mayKnowAnswer(const QString& file, const QString& answer) {
     const QString own = answerOf(file);
     return own == answer || answers.value(own).contains(answer) ||
            file.startsWith(u"Tools/"_s); // programs for Linux alone
 }
 
-/// Whether a file may know of windows: those of the upper floors, and what Platform asks of a desktop.
+/// Returns true for files of the upper floors and for Platform's desktop folders.
 bool mayUseWindows(const QString& file) {
     return floorOf(file) >= 3 || (file.startsWith(u"Platform/"_s) && file.contains(u"/Desktop/"_s));
 }
 
-/// Whether a header belongs to one of Qt's modules with windows or pictures in them.
+/// Returns whether a header belongs to one of Qt's modules for windows or pictures.
 bool isWindowHeader(const QString& header) {
     static const QDir qt(QLibraryInfo::path(QLibraryInfo::HeadersPath));
     for (const auto* module : {"QtGui", "QtWidgets", "QtSvg"}) {
@@ -105,7 +105,7 @@ bool isWindowHeader(const QString& header) {
     return false;
 }
 
-/// Why the file may not include another one of ours; empty when it may.
+/// Returns why the file must not include another one of ours, or an empty text.
 QString objection(const QString& file, const QString& target) {
     if (floorOf(file) < floorOf(target))
         return u"from a floor above"_s;
@@ -118,7 +118,8 @@ QString objection(const QString& file, const QString& target) {
     return {};
 }
 
-/// What remains of the tree once each file goes that includes none of the remaining, or that none includes.
+/// Removes, until none is left, files that include none of the remaining or that none of them includes. The
+/// rest are circles.
 QStringList inCircles(const SourceTree& tree) {
     QMap<QString, QSet<QString>> targets;
     for (const Include& include : includesOf(tree)) {

@@ -31,7 +31,7 @@ TEST_F(LinuxReliefTest, TheEndOfTheToolIsTheOutcome) {
             tools->requests.clear();
             tools->answer = [&result = result](const ToolRequest&) {
                 ToolResult answer = result;
-                answer.complaint = u"said why"_s;
+                answer.errorLine = u"said why"_s;
                 return answer;
             };
             const bool isGood = QByteArray(good).split(' ').contains(end);
@@ -55,9 +55,9 @@ TEST_F(LinuxReliefTest, SendsExactlyTheseRequests) {
                      "privileges"_s,
                      u"/usr/bin/osascript -e tell application \"Notes\" to quit"_s,
                      u"/usr/bin/osascript -e tell application \"The \\\"Best\\\" %1\" to quit saving no"_s}));
-    EXPECT_EQ(tools->requests[0].terminateAfter, std::chrono::milliseconds(1500));
+    EXPECT_EQ(tools->requests[0].timeout, std::chrono::milliseconds(1500));
     EXPECT_EQ(tools->requests[1].arguments.size(), 2);
-    EXPECT_FALSE(tools->requests[1].terminateAfter) << "a prompt waits for as long as the person needs";
+    EXPECT_FALSE(tools->requests[1].timeout) << "a prompt waits for as long as the person needs";
     EXPECT_EQ(tools->requests[2].arguments.size(), 2);
     EXPECT_FALSE(tools->requests[2].captureOutput);
 }

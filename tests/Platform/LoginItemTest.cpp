@@ -19,7 +19,7 @@ struct LoginItemTest : testing::Test {
     TemporaryHome home;
     QString entry = home.path(u".config/autostart/tavrin.desktop"_s);
 
-    /// A program that leaves its own path in the file `started`.
+    /// Makes a program that writes its own path to the file `started`.
     QString makeProgram(const QString& below) const {
         const QString path = home.makeFile(below, "#!/bin/sh\nprintf %s \"$0\" > \"$HOME/started.new\"\n"
                                                   "mv \"$HOME/started.new\" \"$HOME/started\"\n");
@@ -31,8 +31,8 @@ struct LoginItemTest : testing::Test {
     }
 };
 
-/// What the tool says, empty when it is content.
-QByteArray complaints(const QString& tool, const QStringList& arguments) {
+/// Returns the output of the tool, with a prefix when it fails.
+QByteArray outputOf(const QString& tool, const QStringList& arguments) {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(tool, arguments);
@@ -50,8 +50,8 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
         const QString program = makeProgram(folder + u"/tavrin"_s);
         FreedesktopLoginItem item(program);
         EXPECT_EQ(item.registerItem(), Outcome::success()) << qPrintable(folder);
-        EXPECT_EQ(complaints(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
-        EXPECT_EQ(complaints(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
+        EXPECT_EQ(outputOf(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
+        EXPECT_EQ(outputOf(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
         const QString started = home.path(u"started"_s);
         EXPECT_TRUE(QTest::qWaitFor([&started] { return QFile::exists(started); }));
         EXPECT_EQ(QString::fromUtf8(contentOf(started)), program);
@@ -60,7 +60,7 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
     EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
 }
 
-TEST_F(LoginItemTest, UnregisteringLeavesNothingAndMayBeRepeated) {
+TEST_F(LoginItemTest, UnregisteringLeavesNothingAndIsIdempotent) {
     FreedesktopLoginItem item(u"/usr/bin/tavrin"_s);
     EXPECT_EQ(item.unregisterItem(), Outcome::success()); // not even a folder
     EXPECT_EQ(item.registerItem(), Outcome::success());
@@ -101,13 +101,13 @@ TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
 TEST_F(LoginItemTest, SaysWhyItCannot) {
     const QString program = u"/usr/bin/tavrin"_s;
     const bool isReadOnly = QStorageInfo(u"/sys"_s).isReadOnly(); // as in most containers
-    /// The obstacle, the program, and the ends of the reasons when it registers and when it unregisters.
+    /// Obstacle, program, and the ends of the reasons on registering and unregistering.
     const std::tuple<std::function<void()>, QString, QString, QString> cases[] = {
         {[] {}, {}, u"The program's own file cannot be found."_s, {}},
         {[this] { home.makeFile(u".config/autostart"_s); }, program, u"autostart: Not a directory"_s, {}},
         {[this] { home.makeFolder(u".config/autostart/tavrin.desktop"_s); }, program,
          u"Filename refers to a directory"_s, u"tavrin.desktop: Is a directory"_s},
-        {[this] { // where not even an administrator can make a file
+        {[this] { // where even root can make no file
              home.makeFolder(u".config"_s);
              QFile::link(u"/sys/kernel"_s, home.path(u".config/autostart"_s));
          },

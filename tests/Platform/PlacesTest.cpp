@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QStandardPaths>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -108,7 +106,7 @@ TEST(FreedesktopPlaces, ObjectsToACacheHomeThatIsMoreThanThat) {
     }
 }
 
-TEST(FreedesktopPlaces, ObjectsToWhatHoldsTheSettings) {
+TEST(FreedesktopPlaces, ObjectsToWhatContainsTheSettings) {
     const TemporaryHome home;
     const FreedesktopPlaces places;
     home.makeFolder(u".config"_s);

@@ -2,7 +2,6 @@
 
 #include "support/TemporaryFolder.h"
 
-#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -15,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers as the power-profiles daemon does, under one of its names.
+/// Replies as the power-profiles daemon does, under one of its names.
 class Daemon : public QDBusVirtualObject {
 public:
     Daemon(const QDBusConnection& bus, const QString& service)
@@ -80,7 +79,7 @@ TEST_P(PowerModeOnABus, FollowsTheDaemonAndFallsBackToTheFirmware) {
     TemporaryFolder root;
     root.makeFile(u"sys/firmware/acpi/platform_profile"_s, "low-power\n");
     const LinuxPowerMode mode(bus(u"client"_s), root.path());
-    EXPECT_TRUE(mode.isLowPowerModeEnabled()); // the firmware's word, as no daemon runs
+    EXPECT_TRUE(mode.isLowPowerModeEnabled()); // by the firmware, as no daemon runs
     {
         Daemon daemon(bus(u"daemon"_s), QString::fromLatin1(GetParam()));
         EXPECT_TRUE(QTest::qWaitFor([&] { return !mode.isLowPowerModeEnabled(); }));

@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QFile>
 #include <QLocale>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -46,7 +45,7 @@ void waitForCommands(int socket) {
     }
 }
 
-/// A program of its own, with arguments, that waits until it is ended.
+/// Starts a separate program with arguments that sleeps until it is killed.
 Child waitingProgram() {
     return Child("/bin/sleep", {"sleep", "1000"});
 }
@@ -56,7 +55,7 @@ TEST(ProcessTable, AgreesWithPs) {
     const auto child = waitingProgram();
     const auto pid = child.pid();
     ASSERT_TRUE(isListed(table, pid));
-    std::this_thread::sleep_for(100ms); // to have done with its start
+    std::this_thread::sleep_for(100ms); // until it has started up
 
     const auto task = table.taskInfo(pid);
     ASSERT_TRUE(task);
@@ -108,14 +107,13 @@ TEST(ProcessTable, FollowsThreadsThatComeAndGo) {
     EXPECT_EQ(static_cast<int>(ps(child.pid(), "nlwp").toInt()), 4);
     child.tell('-');
     ASSERT_EQ(child.heard(), '-');
-    // A joined thread may be on its way out for a moment more.
+    // A joined thread is counted for a moment more.
     for (int look = 0; look < 100 && threads() != 1; ++look)
         std::this_thread::sleep_for(5ms);
     EXPECT_EQ(threads(), 1);
 }
 
-/// Keeps that many cores busy until it is told to rest, and answers each word with what the whole process
-/// has used by its own account.
+/// Keeps so many cores busy until '.' is received, and answers each character with the process's CPU time.
 void burn(int socket, int threadCount) {
     std::vector<std::jthread> threads;
     for (int thread = 0; thread < threadCount; ++thread)
@@ -146,7 +144,7 @@ TEST(ProcessTable, ReadsWhatABusyChildUses) {
     for (const int threads : {1, 4}) {
         const Child child([threads](int socket) { burn(socket, threads); });
         const auto read = [&] { return static_cast<double>(table.taskInfo(child.pid()).value().cpuTimeNs); };
-        for (double before = 0; before < 1e8;) { // however little the machine leaves it
+        for (double before = 0; before < 1e8;) { // on a busy machine this takes longer
             std::this_thread::sleep_for(50ms);
             before = usedByOwnAccount(child, '?');
             EXPECT_GE(read(), before - tolerance);
@@ -228,7 +226,7 @@ TEST(ProcessTable, LeavesOutKernelThreads) {
     LinuxProcessTable table;
     const auto pids = listed(table);
     EXPECT_EQ(std::ranges::count(pids, getpid()), 1);
-    bool isTheSameTwice = false; // between two starts of other programs' children
+    bool isTheSameTwice = false; // when no other program starts a process in between
     for (int tries = 0; tries < 200 && !isTheSameTwice; ++tries)
         isTheSameTwice = listed(table) == listed(table);
     EXPECT_TRUE(isTheSameTwice);
@@ -246,7 +244,7 @@ TEST(ProcessTable, LeavesOutKernelThreads) {
 }
 
 TEST(ProcessTable, KeepsNoDescriptorsOfProcessesThatWent) {
-    constexpr int others = 60; // of other programs, which come and go meanwhile
+    constexpr int others = 60; // processes of other programs that start and end meanwhile
     LinuxProcessTable table;
     listed(table);
     const auto before = openDescriptors();
@@ -269,7 +267,7 @@ TEST(ProcessTable, KeepsNoDescriptorsOfProcessesThatWent) {
         }
         EXPECT_GE(openDescriptors(), whileAsleep + 200 - others);
     }
-    for (const auto pid : listed(table)) // a pass: the ids of those that went may be given once more
+    for (const auto pid : listed(table)) // which may still have the PIDs of those that are gone
         table.taskInfo(pid);
     EXPECT_NEAR(openDescriptors(), before, others);
 }
@@ -282,13 +280,13 @@ TEST(ProcessTable, FillsNoMoreThanTheRoomGiven) {
     EXPECT_EQ(few, (std::vector<qint32>{all.at(0), all.at(1), -7}));
 }
 
-/// In a child: ends it with the number of the line that does not hold.
-void require(bool holds, std::source_location place = std::source_location::current()) {
-    if (!holds)
+/// Ends a child process with the line of a false condition as its status.
+void require(bool condition, std::source_location place = std::source_location::current()) {
+    if (!condition)
         _exit(static_cast<int>(place.line() % 255 + 1));
 }
 
-/// Whether the table answers for `pid` under the limit.
+/// Requires that the table answers for `pid` under the limit on descriptors.
 void checkUnderLimit(rlim_t limit, qint32 pid) {
     const rlimit both{limit, limit};
     require(setrlimit(RLIMIT_NOFILE, &both) == 0);
@@ -313,7 +311,7 @@ TEST(ProcessTable, DoesWithFewDescriptors) {
     }
 }
 
-/// Looks at a process of another user.
+/// Requires the public figures of another user's process.
 void checkForeign(qint32 pid) {
     LinuxProcessTable table;
     const auto task = table.taskInfo(pid);

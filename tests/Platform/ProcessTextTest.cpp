@@ -11,7 +11,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <numeric>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -63,7 +62,7 @@ TEST(ProcessText, AProgramWithoutArgumentsHasNone) {
     LinuxProcessTable table;
     const Child child("/bin/cat", {});
     const auto area = table.origin(child.pid()).argumentArea;
-    EXPECT_TRUE(area.isEmpty() || area == argumentsOf({""})); // newer kernels put an empty one in
+    EXPECT_TRUE(area.isEmpty() || area == argumentsOf({""})); // newer kernels add an empty one
     EXPECT_EQ(table.origin(child.pid()).shortName, "cat");
 }
 
@@ -77,9 +76,9 @@ TEST(ProcessText, AProgramThatWasRemovedIsStillNamed) {
     EXPECT_EQ(table.origin(child.pid()).executablePath, QFile::encodeName(program));
 }
 
-TEST(ProcessText, TheMarkFollowsNameArgumentsAndProgram) {
+TEST(ProcessText, TheHashFollowsNameArgumentsAndProgram) {
     LinuxProcessTable table;
-    // Each line that the shell hears takes it one step on; it answers when the step is done.
+    // Each line takes the shell one step on; it answers when the step is done.
     const Child child("/bin/sh",
                       {"sh", "-c",
                        "printf ! >&0; read line; printf %s renamed > /proc/$$/comm; printf ! >&0; read line;"
@@ -87,17 +86,17 @@ TEST(ProcessText, TheMarkFollowsNameArgumentsAndProgram) {
     std::optional<quint64> last;
     for (const char* step : {"started", "renamed", "another program"}) {
         ASSERT_EQ(child.heard(), '!') << step;
-        const auto mark = table.textMark(child.pid());
-        ASSERT_TRUE(mark) << step;
-        EXPECT_NE(mark, last) << step;
-        EXPECT_EQ(mark, table.origin(child.pid()).textMark) << step;
+        const auto hash = table.textHash(child.pid());
+        ASSERT_TRUE(hash) << step;
+        EXPECT_NE(hash, last) << step;
+        EXPECT_EQ(hash, table.origin(child.pid()).textHash) << step;
         for (int again = 0; again < 3; ++again)
-            EXPECT_EQ(table.textMark(child.pid()), mark) << step; // with descriptors kept and without
-        EXPECT_EQ(table.workingFolder(child.pid()), QFile::encodeName(QDir::currentPath())) << step;
-        last = mark;
+            EXPECT_EQ(table.textHash(child.pid()), hash) << step; // with open descriptors and without
+        EXPECT_EQ(table.workingDirectory(child.pid()), QFile::encodeName(QDir::currentPath())) << step;
+        last = hash;
         child.tell('\n');
     }
-    EXPECT_FALSE(table.textMark(999'999'999));
+    EXPECT_FALSE(table.textHash(999'999'999));
 }
 
 TEST(ProcessText, ControlGroupsTellWhoKeepsAProcess) {
@@ -148,7 +147,7 @@ TEST(ProcessText, StatLinesAreParsedFromTheLastParenthesis) {
         EXPECT_FALSE(ProcStat::parse(broken)) << broken;
 }
 
-// Ids beyond the kernel's greatest, so that no CPU clock answers for them.
+// PIDs above the kernel's maximum, so that they have no CPU clock.
 const QByteArray statLine =
     "(recorded) S 41 2 3 4 5 %FLAGS 7 8 9 10 300 200 13 14 15 16 3 18 1900 %SIZE 21 22 23\n";
 
@@ -191,7 +190,7 @@ TEST(ProcessText, AKernelThreadsIdMayComeBackAsAProcess) {
     LinuxProcessTable table(proc.path().toStdString());
     std::vector<qint32> pids(16);
     EXPECT_EQ(table.listAllPids(pids), 0);
-    // The old folder stays, elsewhere, so that its inode cannot be the new one's.
+    // The old folder is kept, so that its inode is not reused.
     ASSERT_TRUE(QDir(proc.path()).rename(u"5000001"_s, u"gone"_s));
     proc.makeFile(u"5000001/stat"_s, stat("0", "8192"));
     EXPECT_EQ(table.listAllPids(pids), 1);

@@ -30,7 +30,7 @@ namespace {
 
 constexpr uid_t nobody = 65534;
 
-/// The machine's processes, of which only those that the test started can be seen and so be chosen.
+/// The machine's processes, limited to those that the test started.
 class OwnProcesses : public LinuxProcessTable {
 public:
     QList<qint32> pids;
@@ -41,7 +41,7 @@ public:
         return static_cast<int>(pids.size());
     }
 
-    /// A server that `parent` started, waited for until it is as large.
+    /// Waits until a server that `parent` started has `minBytes`.
     qint32 childOf(qint32 parent, quint64 minBytes) {
         qint32 child = 0;
         const auto isThere = [&] {
@@ -61,7 +61,7 @@ private:
     std::array<qint32, 4096> m_everything{};
 };
 
-/// The whole program as another user, who may not signal root's processes.
+/// Switches the whole program to another user, who may not signal root's processes.
 struct AsNobody {
     AsNobody() { isSwitched = setresuid(nobody, nobody, 0) == 0; }
     ~AsNobody() {
@@ -121,7 +121,7 @@ TEST_F(ReliefOnProcessesTest, OneEndsWhenAskedOneIsKilledOneIsGone) {
         QCoro::waitFor(model->actions().freeRAM({polite.pid(), stubborn.pid(), gonePid}));
     ASSERT_EQ(result.perPid.size(), 3);
     EXPECT_EQ(endedBy(polite.pid()), SIGTERM);
-    EXPECT_EQ(result.perPid[0].outcome, KillOutcome::quit); // although nobody has reaped it yet
+    EXPECT_EQ(result.perPid[0].outcome, KillOutcome::quit); // although it is a zombie
     EXPECT_EQ(endedBy(stubborn.pid()), SIGKILL);
     EXPECT_EQ(result.perPid[1].outcome, KillOutcome::forced);
     EXPECT_GT(result.perPid[1].before, 0U);
@@ -152,7 +152,7 @@ TEST_F(ReliefOnProcessesTest, AnotherUsersProcessIsDeniedAndNeverChosenByRule) {
     EXPECT_EQ(LinuxSignals().hold(child.pid())->send(Signal::probe), SignalResult::delivered);
 }
 
-/// With a published server in the place of the made-up one where docs/testing.md has it.
+/// Uses the published server of docs/testing.md where it is installed.
 TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKilled) {
     const QString published = qEnvironmentVariable("TAVRIN_MCP_SERVER");
     const QString label =
@@ -166,9 +166,9 @@ TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKi
             .toStdString();
     Child host(claude.toStdString(), {"claude", script});
     Child shell("/bin/sh", {"sh", script});
-    const quint64 least = published.isEmpty() ? 0 : 20 << 20; // of a runtime that has begun
-    const qint32 hosted = processes->childOf(host.pid(), least);
-    const qint32 orphan = processes->childOf(shell.pid(), least);
+    const quint64 minBytes = published.isEmpty() ? 0 : 20 << 20; // of a runtime that has begun
+    const qint32 hosted = processes->childOf(host.pid(), minBytes);
+    const qint32 orphan = processes->childOf(shell.pid(), minBytes);
     ASSERT_GT(hosted, 0);
     ASSERT_GT(orphan, 0);
     processes->pids = {host.pid(), shell.pid(), hosted, orphan};
@@ -193,10 +193,10 @@ TEST_F(ReliefOnProcessesTest, AServerIsAnOrphanOnceItsHostIsGoneAndThenItCanBeKi
     EXPECT_EQ(model->actions().killOrphanMCPs(false), 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !processes->taskInfo(hosted); }));
     EXPECT_EQ(model->actionLog().entries().first().detail, u"[orphan MCPs] killed=1/1"_s);
-    EXPECT_TRUE(processes->taskInfo(orphan)); // not on the list, and so left alone
+    EXPECT_TRUE(processes->taskInfo(orphan)); // not listed
 }
 
-/// From now on pidfd_open(2) is a call that the kernel does not know.
+/// Makes pidfd_open(2) fail with ENOSYS from now on.
 bool forgetPidfdOpen() {
     sock_filter program[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
                              BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_pidfd_open, 0, 1),
@@ -208,7 +208,7 @@ bool forgetPidfdOpen() {
            syscall(SYS_pidfd_open, getpid(), 0) < 0 && errno == ENOSYS;
 }
 
-/// Signals without pidfd, on children of this process: the first step that goes wrong, 0 for none.
+/// Sends signals without pidfd to children of this process. Returns the first step that fails, 0 for none.
 int firstWrongWithoutPidfd() {
     LinuxSignals signalSender;
     auto first = std::make_unique<Child>(sleepUntilKilled);

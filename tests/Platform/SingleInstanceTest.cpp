@@ -91,7 +91,7 @@ TEST_F(SingleInstanceTest, OneAlsoWhereTheRuntimeFolderIsNotTheUsers) {
         SingleInstance first(u"\n:0"_s);
         EXPECT_TRUE(first.claim()) << isTaken;
         EXPECT_FALSE(SingleInstance(u"\n:0"_s).claim()) << isTaken;
-        // Where root, who may write anywhere, would put it.
+        // Where root would have made it.
         EXPECT_TRUE(QDir::root().entryList({u"tavrin-*"_s}, QDir::AllEntries | QDir::System).isEmpty());
     }
     qputenv("TMPDIR", temporaryBefore);

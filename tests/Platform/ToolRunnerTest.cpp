@@ -22,17 +22,17 @@ using namespace std::chrono_literals;
 namespace {
 
 ToolResult run(const QString& launchPath, const QStringList& arguments,
-               std::optional<std::chrono::milliseconds> terminateAfter = {}, bool captureOutput = true) {
+               std::optional<std::chrono::milliseconds> timeout = {}, bool captureOutput = true) {
     UnixToolRunner runner;
     return QCoro::waitFor(runner.run({.launchPath = launchPath,
                                       .arguments = arguments,
                                       .captureOutput = captureOutput,
-                                      .terminateAfter = terminateAfter}));
+                                      .timeout = timeout}));
 }
 
-ToolResult runShell(const QString& command, std::optional<std::chrono::milliseconds> terminateAfter = {},
+ToolResult runShell(const QString& command, std::optional<std::chrono::milliseconds> timeout = {},
                     bool captureOutput = true) {
-    return run(u"/bin/sh"_s, {u"-c"_s, command}, terminateAfter, captureOutput);
+    return run(u"/bin/sh"_s, {u"-c"_s, command}, timeout, captureOutput);
 }
 
 std::string hostCommand(const QString& verb, const QString& command) {
@@ -40,7 +40,7 @@ std::string hostCommand(const QString& verb, const QString& command) {
     return u"'%1' %2 '%3'"_s.arg(host, verb, command).toStdString();
 }
 
-/// Whether the process is there and no mere remains.
+/// Returns false for a zombie.
 bool isRunning(const QByteArray& pid) {
     const QByteArray state = outputOf("ps -o stat= -p " + pid.toStdString());
     return !state.isEmpty() && !state.startsWith('Z');
@@ -181,17 +181,17 @@ TEST(ToolRunner, HearsWhatToolsOfOurOwnComplainAbout) {
         {"echo 'no group' >&2; echo more >&2; exit 126", false, -1, u"no group"_s},
         {"echo refused >&2; exit 1", true, 1, u"refused"_s},
         {"exit 0", true, 0, {}}};
-    for (const auto& [script, launched, status, complaint] : cases) {
+    for (const auto& [script, launched, status, errorLine] : cases) {
         const QString tool = tree.makeFile(u"osascript"_s, QByteArray("#!/bin/sh\n") + script + '\n');
         QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         UnixToolRunner runner(tree.path());
         const ToolResult result = QCoro::waitFor(runner.run({.launchPath = u"/usr/bin/osascript"_s}));
         EXPECT_EQ(result.launched, launched) << script;
         EXPECT_EQ(result.exitStatus, status) << script;
-        EXPECT_EQ(result.complaint, complaint) << script;
+        EXPECT_EQ(result.errorLine, errorLine) << script;
     }
     UnixToolRunner runner(tree.path());
     const ToolResult missing = QCoro::waitFor(runner.run({.launchPath = u"/usr/sbin/purge"_s}));
-    EXPECT_TRUE(missing.complaint.contains(u"No such file"_s)) << qPrintable(missing.complaint);
+    EXPECT_TRUE(missing.errorLine.contains(u"No such file"_s)) << qPrintable(missing.errorLine);
     EXPECT_EQ(run(u"/bin/sh"_s, {u"-c"_s, u"echo private >&2; exit 126"_s}).exitStatus, 126);
 }

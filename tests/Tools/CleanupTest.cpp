@@ -20,7 +20,7 @@ namespace {
 struct Ended {
     int status = -1;
     QByteArray output;
-    QByteArray complaint;
+    QByteArray error;
 };
 
 Ended run(const QStringList& arguments, const QByteArray& input = {}) {
@@ -50,21 +50,15 @@ TEST(Cleanup, AListingReadsBackAsItWasWrittenAndAPartOfOneIsNone) {
         EXPECT_FALSE(CleanupListing::parse(std::string_view(other).substr(0, other.size()))) << other;
 }
 
-TEST(Cleanup, KnowsPicturesAndRecordingsByWhatTheyHold) {
+TEST(Cleanup, KnowsPicturesAndRecordingsByTheirFirstBytes) {
     const std::pair<std::string, bool> cases[] = {
         {"\x89PNG\r\n\x1a\n...."s, true},
         {"\xff\xd8\xff\xe0"s, true},
         {"RIFF\1\2\3\4WEBPVP8 "s, true},
         {"RIFF\1\2\3\4WAVEfmt "s, false},
-        {"\0\0\0\x20"
-         "ftypmp42"s,
-         true},
-        {"\0\0\0\x20"
-         "ftypavif"s,
-         true},
-        {"\0\0\0\x20"
-         "ftypM4A "s,
-         false},
+        {"\0\0\0\040ftypmp42"s, true},
+        {"\0\0\0\040ftypavif"s, true},
+        {"\0\0\0\040ftypM4A "s, false},
         {"\x1a\x45\xdf\xa3"s, true},
         {"BM\1\2\3\4\0\0\0\0\x36"s, true},
         {"BMW, a screenplay"s, false},
@@ -119,18 +113,18 @@ TEST(Cleanup, RemovesFromTheFolderThatWasListedAndNoOther) {
     for (const QString& verb : {u"list"_s, u"remove"_s}) {
         const Ended linked = run({verb, folder}, listing);
         EXPECT_EQ(linked.status, 1);
-        EXPECT_FALSE(linked.complaint.isEmpty());
+        EXPECT_FALSE(linked.error.isEmpty());
     }
     QFile::remove(folder);
     ASSERT_TRUE(QDir().rename(tree.path(u"outside"_s), folder));
-    EXPECT_EQ(run({u"remove"_s, folder}, listing).complaint, "this is not the folder that was listed");
+    EXPECT_EQ(run({u"remove"_s, folder}, listing).error, "this is not the folder that was listed");
     EXPECT_TRUE(QFileInfo::exists(tree.path(u"folder/file"_s)));
     EXPECT_EQ(run({u"remove"_s, tree.path(u"was"_s)}, listing).status, 0) << "the one that was listed";
     EXPECT_FALSE(QFileInfo::exists(tree.path(u"was/file"_s)));
     EXPECT_FALSE(QFileInfo::exists(outside));
 }
 
-TEST(Cleanup, FollowsNoLinkToAListedFile) {
+TEST(Cleanup, FollowsNoSymlinkToAListedFile) {
     const TemporaryFolder tree;
     const QString folder = tree.makeFolder(u"folder"_s);
     for (const auto& file : {u"folder/deep/old"_s, u"outside/old"_s})
@@ -145,7 +139,7 @@ TEST(Cleanup, FollowsNoLinkToAListedFile) {
     EXPECT_TRUE(QFileInfo::exists(tree.path(u"outside/old"_s)));
 }
 
-TEST(Cleanup, KeepsWhatItIsToldToAndWhatHoldsIt) {
+TEST(Cleanup, KeepsWhatItIsToldToAndWhatContainsIt) {
     const TemporaryFolder tree;
     const QString record = tree.makeFile(u"logs/ours/deep/record"_s);
     tree.makeFile(u"logs/ours/other"_s);
@@ -173,6 +167,6 @@ TEST(Cleanup, GoesAsDeepAsAPathCanBe) {
     }
     const QStringList arguments = {u"remove"_s, tree.path(u"folder"_s)};
     const Ended ended = run(arguments, run({u"list"_s, tree.path(u"folder"_s)}).output);
-    EXPECT_EQ(ended.status, 0) << ended.complaint.constData();
+    EXPECT_EQ(ended.status, 0) << ended.error.constData();
     EXPECT_TRUE(QDir(tree.path(u"folder"_s)).isEmpty());
 }

@@ -17,7 +17,7 @@ namespace {
 
 struct Ended {
     int status = -1;
-    QByteArray complaint;
+    QByteArray error;
 };
 
 Ended runTool(const QString& name, const QStringList& arguments) {
@@ -28,7 +28,7 @@ Ended runTool(const QString& name, const QStringList& arguments) {
             process.readAllStandardError()};
 }
 
-/// Pages that the kernel has taken back from the group (cgroup v2, memory.stat: pgsteal).
+/// Returns the pages that the kernel has reclaimed from the group (cgroup v2, memory.stat: pgsteal).
 quint64 pagesTakenBack(const std::string& group) {
     std::ifstream file(group + "/memory.stat");
     std::string key;
@@ -56,7 +56,7 @@ TEST(Programs, RefuseWhatTheyDoNotUnderstand) {
     for (const auto& [tool, arguments] : refused) {
         const Ended ended = runTool(tool, arguments);
         EXPECT_EQ(ended.status, 2) << qPrintable(tool + u' ' + arguments.join(u' '));
-        EXPECT_FALSE(ended.complaint.isEmpty()) << qPrintable(tool);
+        EXPECT_FALSE(ended.error.isEmpty()) << qPrintable(tool);
     }
 }
 
@@ -74,8 +74,8 @@ TEST(Programs, MemoryPressureAsksTheKernelOfThisMachineOrSaysWhyNot) {
     time.start();
     const Ended ended = runTool(u"memory_pressure"_s, {u"-l"_s, u"warn"_s});
     EXPECT_LT(time.elapsed(), 5000);
-    EXPECT_EQ(ended.status, group ? 0 : 126) << ended.complaint.constData();
-    EXPECT_EQ(ended.complaint.isEmpty(), group.has_value());
+    EXPECT_EQ(ended.status, group ? 0 : 126) << ended.error.constData();
+    EXPECT_EQ(ended.error.isEmpty(), group.has_value());
     const quint64 after = group ? pagesTakenBack(*group) : 1;
     EXPECT_GT(after, before);
 }
@@ -84,6 +84,6 @@ TEST(Programs, TheAdministratorRunsNothingFromABuildTree) {
     const Ended ended = runTool(
         u"osascript"_s, {u"-e"_s, u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s});
     EXPECT_EQ(ended.status, 1);
-    EXPECT_TRUE(ended.complaint.contains("build tree") || ended.complaint.contains("others can change"))
-        << ended.complaint.constData();
+    EXPECT_TRUE(ended.error.contains("build tree") || ended.error.contains("others can change"))
+        << ended.error.constData();
 }

@@ -49,12 +49,12 @@ TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
 }
 
 TEST(PurgeDeathTest, TheAdministratorIsNeverAskedForWhatOthersCanChange) {
-    TemporaryFolder tree; // which is the user's own, or lies in a folder that all may write
+    TemporaryFolder tree; // owned by the user, or in a folder that all may write
     const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
     EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, "/bin/true")), testing::ExitedWithCode(1),
                 "nothing that others can change: .*/");
-    EXPECT_EQ(Tools::distrust("/bin/true"), "");
-    EXPECT_NE(Tools::distrust("/missing"), "");
+    EXPECT_EQ(Tools::whyUntrusted("/bin/true"), "");
+    EXPECT_NE(Tools::whyUntrusted("/missing"), "");
 }
 
 TEST(PurgeDeathTest, AMissingPartIsAMessageAndAFailure) {

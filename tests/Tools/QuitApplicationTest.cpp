@@ -25,9 +25,9 @@ namespace {
 
 using Tools::QuitOutcome;
 
-constexpr Tools::QuitPatience shortPatience{
+constexpr Tools::QuitTimeouts shortTimeouts{
     .afterAsking = 5s, .beforeForce = 300ms, .withoutWindow = 300ms, .afterEachSignal = 300ms};
-constexpr Tools::QuitPatience noPatience{
+constexpr Tools::QuitTimeouts minTimeouts{
     .afterAsking = 300ms, .beforeForce = 300ms, .withoutWindow = 5s, .afterEachSignal = 300ms};
 
 struct End {
@@ -53,7 +53,7 @@ bool isRunning(QProcess& process) {
     return process.state() == QProcess::Running;
 }
 
-/// What ended the process, a signal's number negated; 999 while it runs.
+/// Returns the exit status or the negated signal; 999 while the process runs.
 int endOf(QProcess& process) {
     if (!process.waitForFinished(5000) && process.state() != QProcess::NotRunning)
         return 999;
@@ -79,7 +79,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor(isManaging, 10'000)) << GetParam() << " and xprop are needed";
     }
 
-    /// A copy of the program `original` under `path`.
+    /// Copies the program `original` to `path`.
     QString install(const QString& path, const QString& original) {
         const QString copy = m_folder.filePath(path);
         QDir().mkpath(QFileInfo(copy).path());
@@ -87,7 +87,7 @@ protected:
         return copy;
     }
 
-    /// Starts the test's windowed program, copied to `path`, and waits for its window to be listed.
+    /// Starts the test's windowed program, copied to `path`, and waits for its window.
     Program show(const QString& path, const QString& manner, const QStringList& more = {}) {
         const auto program = install(path, QCoreApplication::applicationDirPath() + u"/window_app"_s);
         Program process;
@@ -120,12 +120,12 @@ protected:
 
     QString data() const { return m_folder.filePath(u"share"_s); }
 
-    QuitOutcome quit(const QString& name, bool forced, const Tools::QuitPatience& patience) {
+    QuitOutcome quit(const QString& name, bool forced, const Tools::QuitTimeouts& timeouts) {
         LinuxApplications applications{DesktopEntries({m_folder.filePath(u"share/applications"_s)})};
-        return Tools::quitApplication(name, forced, applications, patience);
+        return Tools::quitApplication(name, forced, applications, timeouts);
     }
 
-    /// A process without a window.
+    /// Starts a process without a window.
     Program sleeper(const QString& path) {
         return spawn(install(path, QFileInfo(u"/bin/sleep"_s).canonicalFilePath()), {u"60"_s});
     }
@@ -145,7 +145,7 @@ TEST_P(QuitApplication, ClosesTheWindowsOfTheOneThatIsNamed) {
     list(u"org.example.two"_s, u"By Entry"_s, byEntry->program());
     for (const auto& [name, process] :
          {std::pair(u"ByBundle"_s, byBundle.get()), std::pair(u"By Entry"_s, byEntry.get())}) {
-        EXPECT_EQ(quit(name, false, shortPatience), QuitOutcome::Quit) << qPrintable(name);
+        EXPECT_EQ(quit(name, false, shortTimeouts), QuitOutcome::Quit) << qPrintable(name);
         EXPECT_EQ(endOf(*process), 0) << qPrintable(name);
     }
     EXPECT_TRUE(isRunning(*other));
@@ -157,10 +157,10 @@ TEST_P(QuitApplication, LeavesOneThatRefusesUnlessItIsForced) {
     const auto stranger = sleeper(u"Notes2.app/helper"_s);
     const auto namesake = sleeper(u"Notes"_s);
 
-    EXPECT_EQ(quit(u"Notes"_s, false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_EQ(quit(u"Notes"_s, false, minTimeouts), QuitOutcome::StillRunning);
     EXPECT_TRUE(isRunning(*refusing) && isRunning(*helper));
 
-    EXPECT_EQ(quit(u"Notes"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Notes"_s, true, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*refusing), -SIGKILL);
     EXPECT_EQ(endOf(*helper), -SIGTERM);
     EXPECT_TRUE(isRunning(*stranger) && isRunning(*namesake));
@@ -169,19 +169,19 @@ TEST_P(QuitApplication, LeavesOneThatRefusesUnlessItIsForced) {
 TEST_P(QuitApplication, NeverBelievesWhatAWindowSaysOfItsProcess) {
     const auto hidden = sleeper(u"Meant.app/meant"_s);
     const auto claiming = show(u"claimant"_s, u"polite"_s, {QString::number(hidden->processId())});
-    EXPECT_EQ(quit(u"Meant"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Meant"_s, true, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*hidden), -SIGTERM);
     EXPECT_TRUE(isRunning(*claiming));
 }
 
 TEST_P(QuitApplication, OneThatOnlyWentToTheTrayGetsASignal) {
     const auto hiding = show(u"Chat.app/chat"_s, u"hiding"_s);
-    EXPECT_EQ(quit(u"Chat"_s, false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_EQ(quit(u"Chat"_s, false, minTimeouts), QuitOutcome::StillRunning);
     EXPECT_FALSE(hasWindow(*hiding)) << "the test needs one that hides";
     EXPECT_TRUE(isRunning(*hiding)) << "it may still be closing";
     hiding->kill();
     const auto again = show(u"Chat2.app/chat"_s, u"hiding"_s);
-    EXPECT_EQ(quit(u"Chat2"_s, false, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Chat2"_s, false, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*again), -SIGTERM);
 
     const auto asking = show(u"Editor.app/editor"_s, u"stubborn"_s);
@@ -192,12 +192,12 @@ TEST_P(QuitApplication, OneThatOnlyWentToTheTrayGetsASignal) {
 
 TEST_P(QuitApplication, ASignalEndsOneWithoutAWindowAndNoNamesake) {
     const auto hidden = sleeper(u"Hidden.app/hidden"_s);
-    EXPECT_EQ(quit(u"Nowhere"_s, false, noPatience), QuitOutcome::NotFound);
-    EXPECT_EQ(quit(u"Nowhere"_s, true, noPatience), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Nowhere"_s, false, minTimeouts), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Nowhere"_s, true, minTimeouts), QuitOutcome::NotFound);
     const auto namesake = sleeper(u"Hidden"_s); // is called like it, and nothing of it
-    EXPECT_EQ(quit(u"Hidden"_s, false, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Hidden"_s, false, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*hidden), -SIGTERM);
-    EXPECT_EQ(quit(u"Hidden"_s, true, shortPatience), QuitOutcome::NotFound);
+    EXPECT_EQ(quit(u"Hidden"_s, true, shortTimeouts), QuitOutcome::NotFound);
     EXPECT_TRUE(isRunning(*namesake));
 }
 
@@ -206,7 +206,7 @@ TEST_P(QuitApplication, TheSignalIsForTheMainProcessNotForACrashHandler) {
     QTest::qWait(50); // more than a tick of the kernel's clock
     const auto handler = sleeper(u"Tree.app/handler"_s);
     const auto second = spawn(main->program(), {u"60"_s});
-    EXPECT_EQ(quit(u"Tree"_s, false, noPatience), QuitOutcome::StillRunning);
+    EXPECT_EQ(quit(u"Tree"_s, false, minTimeouts), QuitOutcome::StillRunning);
     EXPECT_EQ(endOf(*main), -SIGTERM);
     EXPECT_EQ(endOf(*second), -SIGTERM) << "another profile of the same application";
     EXPECT_TRUE(isRunning(*handler));
@@ -217,7 +217,7 @@ TEST_P(QuitApplication, AMenuNameMeansTheProgramsOfItsEntryAlone) {
     const auto helper = sleeper(u"opt/notes/notes-helper"_s);
     const auto namesake = show(u"elsewhere/notes"_s, u"polite"_s);
     list(u"org.example.Notes"_s, u"Night Notes"_s, main->program());
-    EXPECT_EQ(quit(u"Night Notes"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Night Notes"_s, true, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*main), 0);
     EXPECT_EQ(endOf(*helper), -SIGTERM);
     EXPECT_TRUE(isRunning(*namesake));
@@ -228,8 +228,8 @@ TEST_P(QuitApplication, OfTwoOfOneNameTheIdSaysWhich) {
     const auto two = show(u"two"_s, u"polite"_s);
     list(u"org.example.one"_s, u"Notes"_s, one->program());
     list(u"org.example.two"_s, u"Notes"_s, two->program());
-    EXPECT_EQ(quit(u"Notes"_s, true, noPatience), QuitOutcome::Ambiguous);
-    EXPECT_EQ(quit(u"org.example.one"_s, true, shortPatience), QuitOutcome::Quit);
+    EXPECT_EQ(quit(u"Notes"_s, true, minTimeouts), QuitOutcome::Ambiguous);
+    EXPECT_EQ(quit(u"org.example.one"_s, true, shortTimeouts), QuitOutcome::Quit);
     EXPECT_EQ(endOf(*one), 0);
     EXPECT_TRUE(isRunning(*two));
 }

@@ -195,7 +195,7 @@ TEST_F(CleanupViewTest, SaysWhySomethingIsLeft) {
     delete window.findChild<CacheDetailDrawer*>();
 
     fakes.places->objections.clear();
-    answer(listingOf({}), {.launched = true, .exitStatus = 1, .complaint = u"2 entries\n are left"_s});
+    answer(listingOf({}), {.launched = true, .exitStatus = 1, .errorLine = u"2 entries\n are left"_s});
     rescan();
     model.cleanup().clean(model.cleanup().targetsToClean().first());
     finish();

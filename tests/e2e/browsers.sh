@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Real browsers under the real program, on a private display and a private machine: their helpers by name, a preset
-# that ends the helpers alone, and quitting a whole application so that its next start finds no trace of a crash.
-# Run by hand, because it needs Debian's chromium and firefox-esr; xterm is tried where it is installed:
+# Tests the program with real browsers, on a private display in private namespaces: their helpers by name, a preset
+# that ends helpers only, and quitting an application so that its next start finds no crash.
+# Run by hand, because it needs Debian's chromium and firefox-esr; xterm is optional:
 #   browsers.sh PROGRAM
-# Started by root it goes on as nobody, with a browser of another user beside it.
+# Started by root it continues as nobody, with a browser of another user beside it.
 set -euo pipefail
 script_arguments=("$@")
 program=$(realpath "$1")
@@ -17,7 +17,7 @@ done
 
 if [ -z "${BROWSERS_STAGE:-}" ]; then
     make_machine_private "$PWD" "$build"
-    # What the browsers' own sandboxes write to.
+    # The browsers' own sandboxes write to these.
     mount -n -t tmpfs tmpfs /dev/shm
     mount -n -o remount,bind,rw /proc
     export BROWSERS_STAGE=started OTHER_USER=
@@ -25,7 +25,7 @@ if [ -z "${BROWSERS_STAGE:-}" ]; then
         setpriv --reuid="$1" --regid="$(id -g "$1")" --clear-groups "${@:2}"
     }
     if become nobody true 2>/dev/null; then
-        # Once it is asked for: the browser of another user.
+        # The browser of another user, started on request.
         (
             until [ -e /tmp/start-other ]; do sleep 0.2; done
             HOME=/tmp/other become daemon chromium --headless --user-data-dir=/tmp/other --remote-debugging-port=0
@@ -37,7 +37,7 @@ fi
 chromium=(chromium --no-first-run)
 [ "$(id -u)" != 0 ] || chromium+=(--no-sandbox)
 
-# The processes of the executables that match, of this user.
+# Prints this user's processes whose executable matches.
 running() {
     local folder
     for folder in /proc/[0-9]*; do
@@ -45,7 +45,7 @@ running() {
             basename "$folder"
     done 2>/dev/null || true
 }
-# The same, those alone whose arguments hold WORD.
+# Prints those of them whose arguments match too.
 running_with() {
     local pid
     for pid in $(running "$1"); do
@@ -84,7 +84,7 @@ start_program() {
     press "Group duplicates"
     press "Min RAM 50 MB" Home
 }
-# A browser that is still starting takes the keyboard once more.
+# A browser that is still starting may take the keyboard again.
 to_program() {
     local times=0
     for _ in {1..60}; do
@@ -104,7 +104,7 @@ search() { # TEXT
     xdotool key BackSpace
     xdotool type -- "$1"
 }
-# Opens the menu of the first row that a search leaves; "Up Up" is the entry before the last, the application's.
+# Opens the menu of the first row of a search; "Up Up" is the last entry but one, the application's.
 row_menu() { # SEARCH ROW KEY...
     search "$1"
     shows "there is a row \"$2\"" "$2"
@@ -192,7 +192,7 @@ shows "the outcome is shown" "Firefox ESR quit cleanly — .*"
 none_of "$firefox_files" || fail "nothing of Firefox is left: $(running "$firefox_files")"
 check_firefox_ended_well
 
-# The next start, two windows and two profiles, which are one application.
+# The next start, with two windows and two profiles, which are one application.
 start_chromium
 spawn env "${chromium[@]}" --user-data-dir="$home/second" >/dev/null 2>&1
 check "the second profile runs" has_helpers "$chromium_files" "type=zygote" 6
@@ -209,7 +209,7 @@ shows "the outcome is shown" "Firefox ESR quit cleanly — .*"
 none_of "$firefox_files" || fail "nothing of Firefox is left: $(running "$firefox_files")"
 check_firefox_ended_well
 
-# By force, and nothing but that application.
+# By force, without harm to other applications.
 start_chromium
 mkdir "$home/tail.app"
 cp "$(command -v tail)" "$home/tail.app/tail"
@@ -236,7 +236,7 @@ none_of "$chromium_files" || fail "nothing of Chromium is left: $(running "$chro
 alive "$bystander" || fail "the other tail stays"
 [ -z "$OTHER_USER" ] || check "another user's Chromium stays" others_tabs
 
-# What a terminal takes along.
+# What ends with a terminal.
 if command -v xterm >/dev/null; then
     spawn xterm -e sh -c 'sleep 1000; true'
     check "the terminal runs a program" pgrep -x sleep >/dev/null
@@ -252,7 +252,7 @@ if command -v xterm >/dev/null; then
     check "the terminal is gone, and what ran in it" all_gone "$terminal" "$asleep"
 fi
 
-# The presets that the program comes with, on stand-ins.
+# The default presets, on stand-ins.
 kill "$pid"
 check "the program ends" all_gone "$pid"
 rm "$home/.config/Tavrin/Tavrin.ini"
@@ -283,7 +283,7 @@ for name in "Google Chrome" Code Cursor Slack Discord; do
     done
 done
 screen click Optimize || fail "the section Optimize"
-for name in Chrome Cursor VSCode; do # "h.", because these patterns would match who asks in so many words
+for name in Chrome Cursor VSCode; do # "h.", or the patterns would match screen.py's own arguments
     press "$name h.lpers, .*, 4 matching"
     shows "the outcome of the preset is shown" "$name h.lpers: killed 4/4"
 done

@@ -1,15 +1,15 @@
-# What the end-to-end tests share. Sourced after scripts/lib/display.sh, never run.
+# Helpers of the end-to-end tests. Sourced after scripts/lib/display.sh, never run.
 #
-#   make_machine_private FOLDER...   begins the script anew where it can harm nobody
+#   make_machine_private FOLDER...   restarts the script in private namespaces
 #   check WHAT COMMAND...            prints "ok: WHAT" once COMMAND succeeds, fails after ten seconds
-#   shows WHAT NAME, hides WHAT NAME the same for what a screen reader finds under a name, or no more
-#   press NAME [KEY]                 takes the keyboard to a control and presses a key there
-#   start_listening                  begins a session that a screen reader can ask; before the program starts
-#   fail WHAT                        ends the script, with a picture where SCREENSHOT names a file
+#   shows WHAT NAME, hides WHAT NAME the same for an accessible name that is shown or gone
+#   press NAME [KEY]                 moves the keyboard focus to a control and presses a key there
+#   start_listening                  starts a session with accessibility; call it before the program starts
+#   fail WHAT                        ends the script, with a picture in the file SCREENSHOT if set
 
 fail() {
     echo "FAILED: $1" >&2
-    # An open descriptor: on a private machine the file itself is out of reach.
+    # An open descriptor, because in private namespaces the file is read-only.
     [ -z "${picture:-}" ] || import -window root png:- >&"$picture"
     exit 1
 }
@@ -40,8 +40,8 @@ start_listening() {
 not() { ! "$@"; }
 alive() { kill -0 "$1" 2>/dev/null; }
 
-# The rest of the script sees no process but its own, an empty /tmp, and all other files read-only; the
-# FOLDERs remain where they are, also below /tmp. To be called before anything is started.
+# The rest of the script sees only its own processes, an empty /tmp, and all other files read-only; the FOLDERs
+# remain visible, also below /tmp. Call it before anything is started.
 make_machine_private() {
     local outside here folder
     here=$(readlink /proc/self/ns/mnt)

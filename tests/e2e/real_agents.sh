@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Real coding agents with real MCP servers under the real program, on a private display and a private machine: no
-# server in use is called an orphan, those that a killed agent leaves behind are found and ended, and nothing else.
-# Run by hand, because it needs what docs/testing.md installs from the npm registry:
+# Tests the program with real coding agents and MCP servers, on a private display in private namespaces: no server in
+# use is an orphan, and only the servers that a killed agent leaves behind are found and killed.
+# Run by hand, because it needs packages of the npm registry (docs/testing.md):
 #   real_agents.sh PROGRAM AGENTS
-# AGENTS holds claude-code/ and servers/, each with its node_modules.
+# AGENTS contains claude-code/ and servers/, each with its node_modules.
 set -euo pipefail
 script_arguments=("$@")
 program=$(realpath "$1")
@@ -22,7 +22,7 @@ export HOME=$home XDG_CONFIG_HOME=$home/.config TMUX_TMPDIR=$private_files QT_QP
 unset XDG_CACHE_HOME XDG_DATA_HOME CLAUDECODE CLAUDE_CODE_SESSION_ID
 export npm_config_cache=$private_files/npm-cache
 
-# The pipe of this server outlives its host, and no terminal takes it along: it is left behind when the host is killed.
+# The pipe of this server outlives its host, and it has no terminal: it is left behind when the host is killed.
 cat >"$home/keeps-pipe" <<WRAPPER
 #!/bin/sh
 [ -n "\$1" ] || exec setsid "\$0" again
@@ -52,7 +52,7 @@ screen click Optimize || fail "the section Optimize"
 
 tmux new-session -d -s agent -x 150 -y 40 -c "$project" "$agents/claude-code/node_modules/.bin/claude"
 shows "five servers run, each in one row" "Running 5"
-sleep 10 # what starts late
+sleep 10 # for servers that start late
 shows "five servers still run" "Running 5"
 shows "none of them is an orphan" "Orphans 0"
 claude=$(pgrep -xo claude)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Frees memory and disk space with the real program as a person would, by keyboard, mouse and what a screen
-# reader says, on a private display; all that can be ended or deleted was made by this script:
+# Frees memory and disk space with the program, driven by keyboard and mouse and checked by its accessible names, on
+# a private display; all that can be ended or deleted was made by this script:
 #   relief.sh PROGRAM IDLE_PROCESS
 set -euo pipefail
 script_arguments=("$@")
@@ -13,7 +13,7 @@ make_machine_private "$PWD" "$(dirname "$program")" "$(dirname "$idle_process")"
 
 open_section() { screen click "$1" || fail "the section $1"; }
 
-# Starts IDLE_PROCESS under a name of its own, with what else stands in its arguments; sets `spawned`.
+# Starts IDLE_PROCESS under a name of its own with further arguments; sets `spawned`.
 start_idle() {
     local name=$1
     shift
@@ -24,7 +24,7 @@ start_idle() {
 
 log=
 lines=0
-# The log has that many lines; the last one is of that kind and detail.
+# Checks that the log has `lines` lines and the last one matches.
 log_ends() { [ "$(wc -l <"$log")" = "$lines" ] && tail -n 1 "$log" | grep -Eqx "$1"; } 2>/dev/null
 logged() {
     lines=$((lines + 1))
@@ -36,7 +36,7 @@ children=$private_files/children
 log=$home/Library/Logs/Tavrin/actions.log
 mkdir -p "$home/.config/Tavrin" "$home/.npm/_cacache" "$home/outside" "$home/tools" "$children"
 
-# The presets as the program stores them. The pattern stands in no other process's arguments.
+# The presets as the program stores them. No other process has the pattern in its arguments.
 preset='{\"id\":\"6E8F1C52-7B0A-4B57-9A55-0C5F2B9D3E11\",\"name\":\"Left over\",\"pattern\":\"job=night\",'
 preset+='\"minIdleMinutes\":0,\"minRSSMB\":0,\"force\":false,\"symbol\":\"globe\"}'
 cat >"$home/.config/Tavrin/Tavrin.ini" <<INI
@@ -44,14 +44,14 @@ cat >"$home/.config/Tavrin/Tavrin.ini" <<INI
 pref.quickKillPresetsJSON="@ByteArray([$preset])"
 INI
 
-# A cache of a known size, with a hidden file and with ways out of it.
+# A cache of a known size, with a hidden file and symlinks to the outside.
 head -c 5M /dev/urandom >"$home/.npm/_cacache/package"
 echo hidden >"$home/.npm/.hidden"
 echo precious >"$home/outside/precious"
 ln -s "$home/outside" "$home/.npm/way-out"
 ln -s "$home/outside/precious" "$home/.npm/.way-out"
 
-# A container tool of the script's own before whatever the machine has.
+# A container tool that shadows the machine's.
 echo "PATH=$home/tools:\$PATH" >"$home/.profile"
 printf '#!/bin/sh\nprintf "Images\\t7B\\t7B\\n"\n' >"$home/tools/docker"
 chmod +x "$home/tools/docker"
@@ -78,7 +78,7 @@ spawn "$program"
 pid=$spawned
 main_window "$pid" >/dev/null || fail "the main window appears"
 
-# Free RAM: one ends when asked, one has to be killed.
+# Free RAM: one quits, one has to be killed.
 free_one() { # NAME PID OUTCOME-SHOWN OUTCOME-LOGGED
     shows "$1 is offered" "$1, PID $2 • Claude Code & Agents, [45][0-9.]+ MB, idle .*"
     press "$1, PID $2 • .*"
@@ -99,7 +99,7 @@ free_one claude-stubborn "$stubborn" "Force-killed" forced
 xdotool key Escape
 hides "Escape closes the sheet" "Select all"
 
-# Twelve of one name.
+# Twelve processes of one name.
 open_section Processes
 press "Group duplicates"
 press "Min RAM 50 MB" Home
@@ -108,7 +108,7 @@ xdotool type elief-helper
 shows "twelve processes are one row" "relief-helper ×12"
 sweep() {
     press "Processes" Home
-    xdotool key Menu Down Down Return # the row's second action; a menu is no window that could be asked
+    xdotool key Menu Down Down Return # the row's second action; menus are not accessible
     shows "the sweep is to be confirmed" "Kill all 12 “relief-helper” processes\?"
 }
 sweep
@@ -174,7 +174,7 @@ logged clean "npm / pnpm / yarn"
 shows "the next scan finds next to nothing" "npm / pnpm / yarn, 0 bytes, Scanned .*"
 [ -d "$home/.npm" ] || fail "the folder stays"
 [ -z "$(ls -A "$home/.npm")" ] || fail "the folder is empty"
-[ "$(cat "$home/outside/precious")" = precious ] || fail "what lies behind a link survives"
+[ "$(cat "$home/outside/precious")" = precious ] || fail "what lies behind a symlink survives"
 echo "ok: the contents are gone, and nothing else"
 
 # Ending in the middle of a scan.

@@ -1,14 +1,14 @@
 #!/usr/bin/python3
-"""What a person who hears the screen does with the active window of the display.
+"""Uses the active window of the display as a screen reader's user does.
 
-    screen.py find NAME      waits until something on show has that name, and prints the name
-    screen.py gone NAME      waits until nothing has
-    screen.py describe NAME  the same as find, and prints what else a screen reader says of it
-    screen.py tab NAME       presses Tab until it has the keyboard
+    screen.py find NAME      waits until a shown object has that name, and prints the name
+    screen.py gone NAME      waits until none has
+    screen.py describe NAME  waits as find does, and prints the accessible description
+    screen.py tab NAME       presses Tab until it has the keyboard focus
     screen.py click NAME     clicks into its middle
 
-NAME is a regular expression for the whole accessible name. Exit status 1: it did not come to that in time;
-what is on show instead is printed.
+NAME is a regular expression for the whole accessible name. On timeout the status is 1 and all shown objects are
+printed.
 """
 
 import re
@@ -21,12 +21,12 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE = 20  # seconds
-MOST_TABS = 80
+TIMEOUT = 20  # seconds
+MAX_TABS = 80
 
 
 def below(thing):
-    """What is on show inside a thing, itself first; what vanishes meanwhile is left out."""
+    """Yields the shown objects inside an object, itself first, without those that vanish meanwhile."""
     if thing and is_(thing, Atspi.StateType.SHOWING):
         yield thing
         for part in asked(lambda: [thing.get_child_at_index(i) for i in range(thing.get_child_count())], []):
@@ -61,8 +61,8 @@ def on_show():
 
 
 def wait_for(answer):
-    """The first answer that is neither None nor False."""
-    end = time.monotonic() + PATIENCE
+    """Returns the first answer that is neither None nor False, or None on timeout."""
+    end = time.monotonic() + TIMEOUT
     while True:
         found = answer()
         if found:
@@ -81,7 +81,7 @@ def find(name, usable=False):
 
 
 def focused():
-    """The control that has the keyboard: what holds it says so too, and a list's current item always does."""
+    """Returns the focused control. Its parents are focused too, and so is a list's current item at all times."""
     items = (Atspi.Role.LIST_ITEM, Atspi.Role.TABLE_CELL, Atspi.Role.TREE_ITEM)
     last = None
     for thing in on_show():
@@ -96,11 +96,11 @@ def input_(*arguments):
 
 def tab(name):
     at = wait_for(focused)
-    for _ in range(MOST_TABS):
+    for _ in range(MAX_TABS):
         if not at or name.fullmatch(name_of(at)):
             return at
         input_("key", "Tab")
-        # One step at a time: a second one before the first is done would step over what is looked for.
+        # One step at a time: a second one before the first is done could skip the control.
         before = at
         at = wait_for(lambda: (now := focused()) and now.path != before.path and now)
     return None

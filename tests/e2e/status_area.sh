@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Drives the real program on a private display with a window manager and a tray, as a person would:
+# Drives the program on a private display with a window manager and a tray:
 #   status_area.sh PROGRAM TRAY_ON_BUS
 set -euo pipefail
 program=$(realpath "$1")

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# From the first start of the real program to its second, by keyboard and what a screen reader says, on a
-# private display: what is changed takes effect at once, and what should outlast the program does.
+# Starts the program twice on a private display, driven by keyboard and checked by its accessible names: changes
+# take effect at once and are restored at the second start.
 #   two_starts.sh PROGRAM
 set -euo pipefail
 program=$(realpath "$1")
@@ -12,7 +12,7 @@ stored() { grep -qxF "$1" "$settings"; } 2>/dev/null
 place() { xdotool getwindowgeometry "$main" | awk '/Position|Geometry/ { print $2 }'; }
 is_back() { [ "$(place)" = "$before" ] || { echo "$before, then $(place)" >&2 && return 1; }; }
 in_task_bar() { ! xprop -id "$main" _NET_WM_STATE | grep -q SKIP_TASKBAR; }
-shown_widget() { # by its width
+shown_widget() { # found by its width
     local window
     for window in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
         xdotool getwindowgeometry "$window" | grep -q 'Geometry: 240x' && return

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Starts the real program under a Wayland compositor without a screen, reads what the two say to each other,
-# and ends either; skipped where there is no compositor:
+# Starts the program under a headless Wayland compositor, checks their protocol messages, and ends either; skipped
+# without a compositor:
 #   wayland.sh PROGRAM
 set -euo pipefail
 program=$(realpath "$1")
@@ -13,13 +13,13 @@ if ! command -v weston >/dev/null || ! compgen -G '/usr/lib/*/qt6/plugins/platfo
     exit 77
 fi
 
-# Says so that many requests of the program match.
+# Checks that at least so many requests of the program match.
 says() { [ "$(grep -cE -e "-> .*$2" "$said")" -ge "$1" ]; } 2>/dev/null
 start_program() {
     said=$private_files/said.$1
     WAYLAND_DEBUG=client spawn "$program" 2>"$said"
     pid=$spawned
-    check "the main window has its least size" says 1 'set_min_size\(1000, 680\)'
+    check "the main window has its minimum size" says 1 'set_min_size\(1000, 680\)'
     check "without a tray the pill shows, and cannot be resized" says 1 'set_max_size\([1-9][0-9]*, 26\)'
     check "both are drawn" says 2 'wl_surface@.*attach\(wl_buffer'
 }
@@ -34,7 +34,7 @@ start_bus
 export XDG_RUNTIME_DIR=$private_files/runtime HOME=$private_files/home XDG_CONFIG_HOME=$private_files/home/.config
 mkdir -m 700 "$XDG_RUNTIME_DIR" "$HOME"
 export WAYLAND_DISPLAY=private QT_QPA_PLATFORM=wayland
-# Qt 6.4 does not free all that it has of libwayland; what is ours is looked for in the other tests.
+# Qt 6.4 leaks objects of libwayland; the other tests detect leaks of ours.
 export ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}detect_leaks=0
 spawn weston --backend=headless-backend.so --no-config --idle-time=0 --socket="$WAYLAND_DISPLAY" \
     >"$private_files/weston.log" 2>&1

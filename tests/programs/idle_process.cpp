@@ -7,15 +7,15 @@
 #include <string_view>
 #include <vector>
 
-/// Holds memory and sleeps: idle_process MIB polite|stubborn [ANYTHING...]. It says "idle" once it does; a
-/// stubborn one ignores SIGTERM. What follows merely stands among its arguments.
+/// Allocates memory, prints "idle" and sleeps: idle_process MIB polite|stubborn [ARGUMENT...]. A stubborn one
+/// ignores SIGTERM. Further arguments have no effect.
 int main(int argc, char** argv) {
     if (argc < 3)
         return 2;
     if (std::string_view(argv[2]) == "stubborn")
         signal(SIGTERM, SIG_IGN);
-    // Written to, or the kernel would lend the same empty page everywhere.
-    const std::vector<char> held(static_cast<std::size_t>(std::atoi(argv[1])) << 20, 'x');
+    // Written to, or the kernel would map the same empty page everywhere.
+    const std::vector<char> memory(static_cast<std::size_t>(std::atoi(argv[1])) << 20, 'x');
     std::puts("idle");
     std::fflush(stdout);
     for (;;)

@@ -22,9 +22,9 @@ QCoro::Task<ToolResult> runShell(QString command) {
 } // namespace
 
 /// A program like ours that runs a shell command as its tool:
-///   tool_host wait COMMAND    prints what the command printed
+///   tool_host wait COMMAND    prints the output of the command
 ///   tool_host leave COMMAND   ends while the command runs
-///   tool_host where PATH      prints which file answers for a launch path
+///   tool_host where PATH      prints the program for a launch path
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     if (argc != 3)

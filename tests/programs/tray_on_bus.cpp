@@ -13,8 +13,7 @@ void say(const char* word) {
     std::fflush(stdout);
 }
 
-/// A desktop's tray as status notifiers find it, on the session bus. It says "tray" once it can
-/// be found and "item" for each item that registers.
+/// A status notifier tray on the session bus. It prints "tray" once it is registered and "item" per item.
 class TrayOnBus : public QDBusVirtualObject {
 public:
     QString introspect(const QString&) const override {

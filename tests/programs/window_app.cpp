@@ -37,7 +37,7 @@ public:
         set("WM_PROTOCOLS", XCB_ATOM_ATOM, 32, 1, &closing);
     }
 
-    /// Shows the window until it is asked to close, or runs for good.
+    /// Shows the window until it is asked to close, or for ever.
     void run(bool isStubborn, bool hides) {
         xcb_map_window(m_connection, m_id);
         xcb_flush(m_connection);
@@ -54,7 +54,7 @@ public:
                 return;
             }
         }
-        while (isStubborn) // the display is gone, and so it takes a signal
+        while (isStubborn) // the display is gone
             pause();
     }
 
@@ -79,9 +79,9 @@ private:
 
 } // namespace
 
-/// An application with one window: window_app CLASS polite|hiding|stubborn [PID]. It says "shown" once it is;
-/// one that hides puts the window away when asked to close, as for the tray; a stubborn one ignores the
-/// request, SIGTERM and the end of its display. PID is what it claims its process to be.
+/// An application with one window: window_app CLASS polite|hiding|stubborn [PID]. It prints "shown" once the
+/// window is shown. A hiding one hides the window when asked to close, as for the tray; a stubborn one
+/// ignores the request, SIGTERM and the end of its display. PID is the value of _NET_WM_PID.
 int main(int argc, char** argv) {
     if (argc < 3)
         return 2;

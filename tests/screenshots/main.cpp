@@ -184,7 +184,7 @@ void scriptCaches(Stage& stage) {
         if (request.launchPath == u"cleanup" && request.arguments.first() == u"remove")
             return ToolResult{.launched = true,
                               .exitStatus = 1,
-                              .complaint = u"3 entries are left, _npx for one: Permission denied"_s};
+                              .errorLine = u"3 entries are left, _npx for one: Permission denied"_s};
         if (request.launchPath != u"/usr/bin/du")
             return ScriptedTools::exited(0, listingAnswer(request.arguments));
         const auto kib =

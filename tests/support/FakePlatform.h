@@ -67,7 +67,7 @@ public:
     QHash<qint32, FakeProcess> processes;
     bool fails = false;
     int metadataLookUps = 0;
-    int textMarks = 0;
+    int textHashes = 0;
 
     FakeProcess& add(qint32 pid, FakeProcess process = {}) {
         listing.append(pid);
@@ -92,19 +92,19 @@ public:
     ProcessOrigin origin(qint32 pid) override {
         ++metadataLookUps;
         const FakeProcess process = processes.value(pid);
-        return {process.path, process.name, process.arguments, process.info, markOf(process)};
+        return {process.path, process.name, process.arguments, process.info, hashOf(process)};
     }
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override { return processes.value(pid).info; }
-    std::optional<quint64> textMark(qint32 pid) override {
-        ++textMarks;
+    std::optional<quint64> textHash(qint32 pid) override {
+        ++textHashes;
         const auto found = processes.constFind(pid);
-        return found == processes.constEnd() ? std::nullopt : std::optional(markOf(*found));
+        return found == processes.constEnd() ? std::nullopt : std::optional(hashOf(*found));
     }
-    QByteArray workingFolder(qint32 pid) override { return processes.value(pid).folder; }
+    QByteArray workingDirectory(qint32 pid) override { return processes.value(pid).folder; }
     ProcessKeeper keeper(qint32 pid) override { return processes.value(pid).keeper; }
 
 private:
-    static quint64 markOf(const FakeProcess& process) {
+    static quint64 hashOf(const FakeProcess& process) {
         return qHashMulti(0, process.path, process.name, process.arguments);
     }
 };

@@ -27,7 +27,7 @@ void fail(Cleaner::CleanResult& result, const QString& reason) {
 
 void reportFailure(const char* step, const QString& what, const ToolResult& result) {
     qCWarning(Log::cleanup) << step << "ended with status" << result.exitStatus;
-    qCDebug(Log::cleanup) << what << result.complaint;
+    qCDebug(Log::cleanup) << what << result.errorLine;
 }
 
 /// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
@@ -58,7 +58,7 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     const ToolResult removal = co_await tools->run(request);
     if (!removal.succeeded()) {
         reportFailure("removing", folder.path, removal);
-        fail(result, stop.stop_requested() ? cancelled().reason : removal.complaint);
+        fail(result, stop.stop_requested() ? cancelled().reason : removal.errorLine);
     }
     if (isMeasured) {
         const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
@@ -73,7 +73,7 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
                                               std::shared_ptr<ToolRunner> tools) {
     const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
     const ToolResult result = co_await tools->run(request);
-    Result<QByteArray> listing{Outcome::failure(result.complaint)};
+    Result<QByteArray> listing{Outcome::failure(result.errorLine)};
     if (result.succeeded()) // a part of a listing is none
         listing = {Outcome::success(), result.output};
     else

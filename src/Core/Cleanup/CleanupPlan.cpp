@@ -52,7 +52,7 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
     request.arguments = arguments;
-    request.terminateAfter = CleanupPlan::longest;
+    request.timeout = CleanupPlan::longest;
     return request;
 }
 
@@ -130,7 +130,7 @@ ToolRequest CleanupPlan::measureRequest(const QString& folder) {
     asked.launchPath = u"/usr/bin/du"_s;
     asked.arguments = {u"-sk"_s, u"-x"_s, rootOf(folder)};
     asked.captureOutput = true;
-    asked.terminateAfter = longest;
+    asked.timeout = longest;
     return asked;
 }
 
@@ -151,7 +151,7 @@ ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milli
     asked.launchPath = u"/bin/sh"_s;
     asked.arguments = QStringList{u"-lc"_s, command};
     asked.captureOutput = true;
-    asked.terminateAfter = limit;
+    asked.timeout = limit;
     return asked;
 }
 

@@ -93,7 +93,7 @@ void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const P
     if (server.host) {
         if (past.host != *server.host)
             past.hostFolder =
-                ProgramPath::withTilde(QString::fromUtf8(m_table->workingFolder(server.host->pid)));
+                ProgramPath::withTilde(QString::fromUtf8(m_table->workingDirectory(server.host->pid)));
         past.host = *server.host;
         past.hostName = hostName(*byPid.value(server.host->pid));
         past.hostEnded.reset();

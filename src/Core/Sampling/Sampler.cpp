@@ -154,8 +154,8 @@ bool Sampler::isDue(qint32 pid, const Known& process) const {
 
 void Sampler::refreshTexts(qint32 pid, Known& process, Instant now) {
     process.mayHaveChanged = false;
-    const auto mark = m_table->textMark(pid);
-    if (!mark || *mark == process.staticCache.textMark)
+    const auto hash = m_table->textHash(pid);
+    if (!hash || *hash == process.staticCache.textHash)
         return;
     StaticMeta meta = lookUp(pid, now);
     if (meta.startTicks == process.staticCache.startTicks) {
@@ -274,7 +274,7 @@ Sampler::StaticMeta Sampler::metaOf(qint32 pid, const ProcessOrigin& origin, Ins
     meta.program = launched.program;
     meta.name = procName(pid, origin, arguments, launched.isScript ? launched.program : QString());
     meta.args = procArgs(arguments);
-    meta.textMark = origin.textMark;
+    meta.textHash = origin.textHash;
     meta.startTime = now;
     if (const auto& info = origin.kernelInfo) {
         meta.uid = info->uid;

@@ -71,7 +71,7 @@ private:
         qint32 ppid = 0;
         Instant startTime;
         quint64 startTicks = 0;
-        quint64 textMark = 0; ///< of the texts above, see ProcessTable
+        quint64 textHash = 0; ///< of the texts above, see ProcessTable
     };
     /// One entry, so that a pass looks a process up once.
     struct Known {

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// Whether the program has an entry in the task bar (`regular`) or lives in the status area only.
+/// With an entry in the task bar (`regular`) or in the status area only.
 enum class ActivationPolicy { regular, accessory };
 
 /// The program's own windows as the desktop sees them.
@@ -12,9 +12,9 @@ class DesktopApplication {
 public:
     virtual ~DesktopApplication() = default;
 
-    /// Windows that are no panels or pop-ups, ordered-out ones included, in no particular order.
+    /// Returns the windows, shown or hidden, without panels and pop-ups, in any order.
     virtual QList<QWidget*> windows() const = 0;
-    /// Shows the window if need be, over the windows of other programs, with the keyboard.
+    /// Shows the window above those of other programs and gives it the keyboard.
     virtual void bringForward(QWidget* window) = 0;
 
     virtual ActivationPolicy activationPolicy() const = 0;

@@ -4,15 +4,15 @@
 
 class QWidget;
 
-/// A borderless window over all others, on every desktop, that takes no focus from the program in front
-/// and is dragged by its background. It keeps its place while it is ordered out.
+/// A borderless window above all others on every desktop. It takes no focus, is dragged by its background and
+/// keeps its place while hidden.
 class FloatingPanel {
 public:
     virtual ~FloatingPanel() = default;
 
     /// Takes ownership of `content`.
     virtual void setContent(QWidget* content) = 0;
-    /// Puts the bottom left corner at `corner`, in screen coordinates.
+    /// Moves the bottom left corner to `corner`, in screen coordinates.
     virtual void placeBottomLeft(QPoint corner) = 0;
     virtual void orderFront() = 0;
     virtual void orderOut() = 0;

@@ -5,16 +5,16 @@
 
 class QWidget;
 
-/// A transient window beside the thing it belongs to: an outside click, Escape or `close` ends it.
+/// A transient window beside its anchor, closed by an outside click, Escape or `close`.
 class Popover : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Takes ownership of `content` and gives it that size.
+    /// Takes ownership of `content` and resizes it.
     virtual void setContent(QWidget* content, QSize size) = 0;
-    /// Beside `anchor` (screen coordinates; empty: beside the pointer), with the keyboard.
+    /// Shows it beside `anchor` (screen coordinates; empty: the pointer) and gives it the keyboard.
     virtual void show(QRect anchor) = 0;
     virtual void close() = 0;
     virtual bool isShown() const = 0;

@@ -7,16 +7,16 @@
 
 class QMenu;
 
-/// What a status item shows. Where there is room for text the title stands there, or the symbol when the
-/// title is empty; where there is room for an icon only, `compact` does, with `toolTip` for the rest.
+/// The content of a status item: the title, or the symbol for an empty one. Where only an icon fits it is
+/// `compact` with `toolTip`.
 struct StatusContent {
     QString title;
-    QIcon symbol;  ///< shown instead of an empty title
-    QIcon compact; ///< carries the figures by itself
+    QIcon symbol;
+    QIcon compact; ///< with the figures drawn in
     QString toolTip;
 };
 
-/// The program's place in the status area.
+/// The program's item in the status area.
 class StatusItem : public QObject {
     Q_OBJECT
 
@@ -24,9 +24,9 @@ public:
     using QObject::QObject;
 
     virtual void show(const StatusContent& content) = 0;
-    /// Opened by a secondary click; not owned.
+    /// Sets the menu of a secondary click; the caller keeps ownership.
     virtual void setMenu(QMenu* menu) = 0;
-    /// Where it is on screen, in device-independent pixels; empty when the system does not tell.
+    /// Returns its place on screen in device-independent pixels; an empty rectangle when unknown.
     virtual QRect geometry() const = 0;
 
 Q_SIGNALS:

@@ -25,7 +25,7 @@ QString folderOf(const QString& path) {
     return path.first(std::max<qsizetype>(path.lastIndexOf(u'/'), 0));
 }
 
-/// As in LANG; the first of the three that is set.
+/// Returns the locale of messages in the form of LANG.
 QString messageLocale() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         if (const QString value = qEnvironmentVariable(variable); !value.isEmpty())
@@ -34,7 +34,7 @@ QString messageLocale() {
     return {};
 }
 
-/// The file that starts when a person runs `program`; empty when there is none.
+/// Returns the file that runs for `program`, or an empty path.
 QString resolved(const QString& program) {
     const QString found = program.contains(u'/') ? program : QStandardPaths::findExecutable(program);
     const QFileInfo file(found);
@@ -47,7 +47,7 @@ bool isScript(const QString& path) {
     return file.open(QIODevice::ReadOnly) && file.read(2) == "#!";
 }
 
-/// What the command runs in the end: behind "env NAME=VALUE...", the next word.
+/// Strips "env NAME=VALUE..." off the command.
 QStringList withoutEnv(QStringList command) {
     if (command.isEmpty() || fileName(command.first()) != u"env")
         return command;
@@ -57,7 +57,7 @@ QStringList withoutEnv(QStringList command) {
     return command;
 }
 
-/// Whether the program is told to run something else, as "xterm -e top" is.
+/// Returns whether an argument is another program, as in "xterm -e top".
 bool runsAnother(const QStringList& command, const QString& program) {
     return std::any_of(command.begin() + 1, command.end(), [&program](const QString& argument) {
         if (argument.startsWith(u'-'))
@@ -67,7 +67,7 @@ bool runsAnother(const QStringList& command, const QString& program) {
     });
 }
 
-/// Whether `left` says more plainly than `right` what the program is: the one with fewer arguments.
+/// Returns whether `left` is the plainer entry of a program: the one with fewer arguments.
 bool isPlainer(const DesktopEntry& left, const DesktopEntry& right) {
     const auto rank = [](const DesktopEntry& entry) {
         return std::tuple(entry.command.size(), entry.id.size(), entry.id);
@@ -132,14 +132,13 @@ bool DesktopEntries::isPrivate(const QString& folder) const {
         return false;
     if (!isInHome(folder))
         return isInstalled(folder);
-    // Of a home folder only what programs keep in its hidden folders: the rest is the user's own work.
+    // In the home folder only hidden folders belong to programs: the rest is the user's work.
     const QString below = folder.mid(QDir::homePath().size() + 1);
     return below.startsWith(u'.') && below.contains(u'/');
 }
 
-/// Where packages put programs: beside the menu that they add entries to, or where vendors put them.
-/// Elsewhere, as where somebody builds programs, a folder may hold several that have nothing to do with each
-/// other.
+/// Returns true beside a folder of menu entries and in /opt. Elsewhere, as where somebody builds programs, a
+/// folder may contain unrelated ones.
 bool DesktopEntries::isInstalled(const QString& folder) const {
     static const QString menu = u"/share/applications"_s;
     return folder.startsWith("/opt/"_L1) ||
@@ -195,7 +194,7 @@ void DesktopEntries::readFolder(const QString& root, const QString& below, int d
         readFolder(root, below + u'/' + inner, depth + 1);
 }
 
-/// The first file of an id counts, also where it only takes the entry away.
+/// The first file of an id counts, even if it only hides the entry.
 void DesktopEntries::readFile(const QString& path, const QString& id) {
     if (m_byId.contains(id) || m_byId.size() >= maxEntries)
         return;
@@ -240,7 +239,7 @@ const DesktopEntries::Program* DesktopEntries::ofFile(const QString& file) {
     for (QString folder = folderOf(file); isPrivate(folder); folder = folderOf(folder)) {
         if (m_byFolder.contains(folder))
             return answer(m_byFolder, folder);
-        // As /usr/lib/chromium holds what the script /usr/bin/chromium starts, and its crash handler.
+        // /usr/lib/chromium contains what the script /usr/bin/chromium starts, and its crash handler.
         const QString main = folder + u'/' + fileName(folder);
         if (const Program* script = ofScriptNamedLike(main); script && QFileInfo(main).isExecutable())
             return script;
@@ -248,7 +247,7 @@ const DesktopEntries::Program* DesktopEntries::ofFile(const QString& file) {
     return ofScriptNamedLike(file);
 }
 
-/// What a person built in the home folder is not what an installed script of that name starts.
+/// An installed script does not start a program of its name that a person built in the home folder.
 const DesktopEntries::Program* DesktopEntries::ofScriptNamedLike(const QString& file) const {
     const Program* script = isInterpreter(fileName(file)) ? nullptr : answer(m_byScriptName, fileName(file));
     return script && (!isInHome(file) || isInHome(script->file)) ? script : nullptr;
@@ -260,7 +259,7 @@ const DesktopEntry* DesktopEntries::withId(const QString& id) {
     return found == m_byId.cend() || !found->isListed ? nullptr : &*found;
 }
 
-/// The id of the plainest entry of the same program.
+/// Returns the id of the plainest entry of the same program.
 QString DesktopEntries::mainIdOf(const DesktopEntry& entry) const {
     const auto program = m_byFile.constFind(m_fileOfId.value(entry.id));
     return program == m_byFile.cend() ? entry.id : program->entry.id;

@@ -8,50 +8,46 @@
 
 #include <chrono>
 
-/// The applications of the desktop's menu and their programs, from the folders of desktop entries. Read at
-/// the first question, and again once a folder of them has changed; that is looked at every few seconds at
-/// most.
+/// The applications of the desktop's menu and their programs, from the folders of desktop entries. They are
+/// read at the first call and after a folder has changed, which is checked every few seconds at most.
 ///
-/// An entry has a program when its command names one that exists. Launchers and interpreters (env, sh,
-/// python, flatpak, ...) are no application's program: what they were told to run decides.
+/// An entry has a program when its command names an existing one. Launchers and interpreters (env, sh,
+/// python, flatpak, ...) do not count: what they run decides.
 class DesktopEntries {
 public:
     struct Program {
         DesktopEntry entry;
-        QString file; ///< all links resolved
+        QString file; ///< with symlinks resolved
         bool isScript = false;
-        bool isAmbiguous = false; ///< entries of different programs have the same claim
+        bool isAmbiguous = false; ///< several programs share the key
     };
 
-    /// Where this user's entries lie, the most important first (XDG_DATA_HOME, XDG_DATA_DIRS).
+    /// Returns this user's folders of entries by priority (XDG_DATA_HOME, XDG_DATA_DIRS).
     static QStringList usualFolders();
     explicit DesktopEntries(QStringList folders = usualFolders(),
                             std::chrono::milliseconds timeBetweenLooks = std::chrono::seconds(3));
 
-    /// The entry whose program that file is; else that of a program in the same private folder, which is no
-    /// folder that several programs share; else that of a script by the same file name, which starts it, or
-    /// by the name of a private folder and the program in it. The file need not exist. Null where none or
-    /// several could be meant. Valid until the next question.
+    /// Returns the entry of the program `file`; else of a program in the same private folder; else of the
+    /// script that has the file's name or that of a private folder with its program. The file need not exist.
+    /// Returns null when none or several match. Valid until the next call.
     const Program* ofFile(const QString& file);
-    /// The entry whose program is exactly that file.
+    /// Returns the entry whose program is exactly `file`.
     const Program* ofProgram(const QString& file);
-    /// The program that the entry of that id starts.
+    /// Returns the program that the entry starts.
     const Program* ofId(const QString& id);
-    /// An entry of that id that the menu shows, with or without a program of its own; null for none.
+    /// Returns the entry if the menu shows it, even without a program; otherwise null.
     const DesktopEntry* withId(const QString& id);
-    /// The ids of the applications that a person may mean by `text`: those of that name in the menu; where
-    /// there is none, of that id; else of that program's file name. One for each program.
+    /// Returns the ids, one per program, of the applications with the name `text` in the menu, else with that
+    /// id, else with that file name.
     QStringList idsOf(const QString& text);
 
-    /// Whether that is the file name of a program that only runs what it is told to.
+    /// Returns whether the program only runs others.
     static bool isInterpreter(QStringView fileName);
 
 private:
     struct Folder {
         QString path;
         QDateTime changed;
-
-        bool operator==(const Folder&) const = default;
     };
 
     void renew();
@@ -60,7 +56,7 @@ private:
     void readFile(const QString& path, const QString& id);
     void index(const DesktopEntry& entry);
     bool hasChanged() const;
-    /// Whether whatever lies in that folder belongs to one application.
+    /// Returns whether all in that folder belongs to one application.
     bool isPrivate(const QString& folder) const;
     bool isInstalled(const QString& folder) const;
     const Program* ofScriptNamedLike(const QString& file) const;

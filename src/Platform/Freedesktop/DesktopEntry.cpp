@@ -10,10 +10,10 @@ namespace {
 
 constexpr qsizetype maxNameCharacters = 200;
 
-/// The keys of the group of the entry itself; the first of a key counts.
+/// The keys of the group [Desktop Entry]; the first of a key counts.
 using Keys = QHash<QByteArray, QString>;
 
-/// Undoes the escapes that every value of type string has.
+/// Undoes the escapes of a value of type string.
 QString unescaped(QByteArrayView value) {
     QByteArray bytes;
     for (qsizetype i = 0; i < value.size(); ++i) {
@@ -28,7 +28,7 @@ QString unescaped(QByteArrayView value) {
                            : next == 'r' ? '\r'
                                          : next;
         bytes += plain;
-        if (plain == next && next != '\\') { // no escape of the file's: the key's own
+        if (plain == next && next != '\\') { // an escape of the key Exec
             bytes.chop(1);
             bytes.append('\\').append(next);
         }
@@ -53,7 +53,7 @@ Keys keysOf(QByteArrayView text) {
     return keys;
 }
 
-/// The suffixes that a key may have in a locale "lang_COUNTRY.ENCODING@MODIFIER", the best first.
+/// Returns the suffixes of a key for the locale "lang_COUNTRY.ENCODING@MODIFIER", the best first.
 QList<QByteArray> suffixes(const QString& locale) {
     const QString modifier = locale.section(u'@', 1, 1);
     const QString place = locale.section(u'@', 0, 0).section(u'.', 0, 0);
@@ -81,7 +81,7 @@ bool isTrue(const Keys& keys, const QByteArray& key) {
     return keys.value(key) == u"true";
 }
 
-/// "%f" and the like stand for nothing here; "%%" for a percent sign.
+/// Removes "%f" and the like; "%%" becomes a percent sign.
 QString withoutFieldCodes(const QString& argument) {
     QString result;
     for (qsizetype i = 0; i < argument.size(); ++i) {
@@ -134,7 +134,7 @@ std::optional<DesktopEntry> DesktopEntry::parse(QByteArrayView text, const QStri
                        .name = name,
                        .command = arguments(keys.value("Exec")),
                        .tryProgram = keys.value("TryExec")};
-    // A program in a terminal has the terminal's window.
+    // A program in a terminal has no window of its own.
     entry.isListed = !isTrue(keys, "Hidden") && !isTrue(keys, "NoDisplay") && !isTrue(keys, "Terminal");
     return entry;
 }

@@ -18,7 +18,7 @@ const auto interface = QStringLiteral("org.freedesktop.portal.Settings");
 const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const auto colorSchemeKey = QStringLiteral("color-scheme");
 
-/// `Read` wraps its answer in one variant more than the signal does.
+/// `Read` wraps its reply in one variant more than the signal does.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();

@@ -4,8 +4,8 @@
 
 class QDBusVariant;
 
-/// Asks the desktop portal for `color-scheme` of `org.freedesktop.appearance`, and follows it. Without a
-/// session bus or a portal there is no preference.
+/// Follows `color-scheme` of `org.freedesktop.appearance` in the desktop portal. Without a session bus or a
+/// portal there is no preference.
 class FreedesktopAppearance : public Appearance {
     Q_OBJECT
 

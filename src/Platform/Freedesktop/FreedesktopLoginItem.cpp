@@ -2,7 +2,6 @@
 
 #include "Platform/Log.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -38,8 +37,7 @@ Outcome failure(const QString& path, int error) {
     return failure(path, QString::fromStdString(std::generic_category().message(error)));
 }
 
-/// One argument as the key Exec wants it: in quotes, with a backslash before what would end or expand there,
-/// and no field code.
+/// Quotes an argument for the key Exec and escapes field codes.
 QString quoted(const QString& argument) {
     QString result;
     for (const QChar character : argument) {
@@ -52,7 +50,7 @@ QString quoted(const QString& argument) {
     return u'"' + result + u'"';
 }
 
-/// A text as the value of any key: the file knows backslashes and line ends as escapes of its own.
+/// Escapes a value of type string.
 QByteArray value(QString text) {
     return text.replace(u'\\', QStringLiteral("\\\\"))
         .replace(u'\n', QStringLiteral("\\n"))
@@ -61,7 +59,7 @@ QByteArray value(QString text) {
         .toUtf8();
 }
 
-/// The opposite of `value`.
+/// Undoes `value`.
 QString textOf(const QByteArray& value) {
     QString text;
     bool isEscaped = false;
@@ -77,7 +75,7 @@ QString textOf(const QByteArray& value) {
     return text;
 }
 
-/// What the key TryExec of the entry names; empty without an entry or such a key.
+/// Returns the value of TryExec in the entry, or an empty path.
 QString registeredProgram() {
     QFile file(entryFile());
     if (!file.open(QIODevice::ReadOnly))
@@ -90,8 +88,7 @@ QString registeredProgram() {
     return {};
 }
 
-/// Desktops look for the program before they resolve "%%", and a name with "=" in it is not allowed there: a
-/// shell finds what is called so.
+/// A shell starts names with "%", which desktops look for before they resolve "%%", and names with "=".
 QString command(const QString& program) {
     if (!program.contains(u'%') && !program.contains(u'='))
         return quoted(program);
@@ -108,10 +105,6 @@ Outcome makeFolder(const QString& folder) {
 
 FreedesktopLoginItem::FreedesktopLoginItem(QString program)
     : m_program(std::move(program)) {}
-
-QString FreedesktopLoginItem::runningProgram() {
-    return QCoreApplication::applicationFilePath();
-}
 
 QByteArray FreedesktopLoginItem::entry(const QString& program) {
     return "[Desktop Entry]\n"
@@ -133,7 +126,7 @@ Outcome FreedesktopLoginItem::registerItem() {
         return made;
     QSaveFile file(entryFile());
     const QByteArray text = entry(m_program);
-    // The commit alone would not notice that a full disk took only a part.
+    // QSaveFile::commit alone does not notice a short write to a full disk.
     const bool saved =
         file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit();
     return saved ? Outcome::success() : failure(entryFile(), file.errorString());
@@ -143,7 +136,7 @@ Outcome FreedesktopLoginItem::unregisterItem() {
     const QByteArray entry = QFile::encodeName(entryFile());
     const bool removed = unlink(entry.constData()) == 0;
     const int reason = errno;
-    struct stat nothing; // a disk that is read-only refuses also to remove what is not there
+    struct stat nothing; // a read-only file system refuses to remove missing files too
     const bool neverThere = lstat(entry.constData(), &nothing) != 0 && (errno == ENOENT || errno == ENOTDIR);
     return removed || neverThere ? Outcome::success() : failure(entryFile(), reason);
 }

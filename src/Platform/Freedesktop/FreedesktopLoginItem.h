@@ -3,23 +3,22 @@
 #include "Platform/LoginItem.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 
-/// An entry of the desktop's autostart folder, $XDG_CONFIG_HOME/autostart/tavrin.desktop.
+/// The autostart entry $XDG_CONFIG_HOME/autostart/tavrin.desktop.
 class FreedesktopLoginItem : public LoginItem {
 public:
-    /// `program` is the absolute path of what to start; the running program unless a test says otherwise.
-    explicit FreedesktopLoginItem(QString program = runningProgram());
+    /// `program` is the absolute path of the program to start.
+    explicit FreedesktopLoginItem(QString program = QCoreApplication::applicationFilePath());
 
     Outcome registerItem() override;
     Outcome unregisterItem() override;
     bool isInstalled() const override;
     void replaceGoneProgram() override;
 
-    /// The text of the entry.
+    /// Returns the text of the entry.
     static QByteArray entry(const QString& program);
 
 private:
-    static QString runningProgram();
-
     QString m_program;
 };

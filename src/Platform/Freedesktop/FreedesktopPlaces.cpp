@@ -18,13 +18,12 @@ enum class Base { home, cacheHome, settingsHome, dataHome, stateHome, downloads,
 struct Row {
     QStringView path;
     Base base;
-    QStringView below;      ///< one part of it may be "*", for every folder there
-    bool isBesides = false; ///< it is a place also where the path itself exists
+    QStringView below;         ///< one component may be "*" for every folder there
+    bool isAdditional = false; ///< counts even if the path itself exists
 };
 
-// What Linux keeps elsewhere. A path may have several rows: its places, in this order. Logs have no common
-// place, and a folder called "logs" may as well hold conversations: only folders of which it is known are
-// listed, and those in the state home, which is made for such things.
+// Folders that Linux keeps elsewhere, in the order of the result. Logs have no common folder, and one called
+// "logs" may contain conversations: only known folders of logs and those in the state home are listed.
 constexpr Row elsewhere[] = {
     {u"~/Library/Caches", Base::cacheHome, u""},
     {u"~/Library/Caches/Homebrew", Base::cacheHome, u"Homebrew"},
@@ -61,7 +60,7 @@ constexpr Row elsewhere[] = {
     {u"~/Library/Logs", Base::home, u".docker/desktop/log", true},
 };
 
-/// Empty unless HOME is the absolute path of an existing folder other than the root.
+/// Returns HOME if it is the absolute path of an existing folder other than the root.
 std::optional<QString> homeFolder() {
     const QString home = qEnvironmentVariable("HOME");
     const QString canonical = QFileInfo(home).canonicalFilePath();
@@ -70,7 +69,7 @@ std::optional<QString> homeFolder() {
     return QDir::cleanPath(home);
 }
 
-/// A relative path in such a variable is invalid and to be ignored.
+/// Ignores a relative path, which is invalid in such a variable.
 QString xdgFolder(const char* variable, const QString& otherwise) {
     const QString folder = qEnvironmentVariable(variable);
     return folder.startsWith(u'/') ? QDir::cleanPath(folder) : otherwise;
@@ -98,7 +97,7 @@ QString folderOf(Base base, const QString& home) {
     return {};
 }
 
-bool holds(const QString& outer, const QString& inner) {
+bool contains(const QString& outer, const QString& inner) {
     return outer == inner || outer == u"/" || inner.startsWith(outer + u'/');
 }
 
@@ -107,13 +106,7 @@ QString canonical(const QString& path) {
     return found.isEmpty() ? QDir::cleanPath(path) : found;
 }
 
-/// A user folder that is switched off is configured as the home folder, and a variable may say anything:
-/// what holds the home folder is nobody's cache.
-bool holdsHome(const QString& place, const QString& home) {
-    return holds(canonical(place), canonical(home));
-}
-
-/// The folders of a pattern that exist.
+/// Returns the existing folders of a pattern.
 QStringList expanded(const QString& pattern) {
     const qsizetype star = pattern.indexOf(u"/*/");
     if (star < 0)
@@ -128,12 +121,10 @@ QStringList expanded(const QString& pattern) {
     return found;
 }
 
-/// What programs or the user keep for good.
+/// Returns the folders that are no caches.
 QStringList keptForGood(const QString& home) {
-    QStringList kept;
-    for (const Base base : {Base::settingsHome, Base::dataHome, Base::stateHome})
-        kept.append(folderOf(base, home));
-    return kept;
+    return {folderOf(Base::settingsHome, home), folderOf(Base::dataHome, home),
+            folderOf(Base::stateHome, home)};
 }
 
 QStringList userFolders() {
@@ -145,7 +136,7 @@ QStringList userFolders() {
     return folders;
 }
 
-/// Undoes the octal escapes of blanks and backslashes.
+/// Undoes the octal escapes of mountinfo.
 QString unescaped(const std::string& field) {
     QByteArray bytes;
     for (std::size_t i = 0; i < field.size(); ++i) {
@@ -178,7 +169,7 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
         places.append({asItStands, objection(asItStands, *home)});
     const QString toCaches = objectionToCacheHome(folderOf(Base::cacheHome, *home), *home);
     for (const Row& row : elsewhere) {
-        if (row.path != path || (stands && !row.isBesides))
+        if (row.path != path || (stands && !row.isAdditional))
             continue;
         const QString pattern = QDir::cleanPath(folderOf(row.base, *home) + u'/' + row.below.toString());
         for (const QString& place : expanded(pattern)) {
@@ -188,9 +179,10 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
     }
     if (places.isEmpty())
         return {{asItStands}};
+    // A disabled user folder is configured as the home folder, and variables may name any folder.
     const auto isNoPlace = [&](const Place& place) {
         const bool isExplained = !toCaches.isEmpty() && place.objection == toCaches;
-        return holdsHome(place.path, *home) && !isExplained;
+        return contains(canonical(place.path), canonical(*home)) && !isExplained;
     };
     places.removeIf(isNoPlace);
     return places;
@@ -202,7 +194,7 @@ QString FreedesktopPlaces::objection(const QString& place, const QString& home) 
     if (canonical(place) == canonical(folderOf(Base::cacheHome, home)))
         return objectionToCacheHome(place, home);
     for (const QString& kept : keptForGood(home)) {
-        if (holds(canonical(place), canonical(kept)))
+        if (contains(canonical(place), canonical(kept)))
             return QCoreApplication::translate("FreedesktopPlaces",
                                                "%1 is left alone: it holds more than that, in %2.")
                 .arg(place, kept);
@@ -215,13 +207,13 @@ QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QSt
     if (place == u"/tmp" || place == u"/var/tmp")
         return QCoreApplication::translate("FreedesktopPlaces", "%1 is left alone: all programs share it.")
             .arg(folder);
-    if (isMountRoot(place))
+    if (isMountPoint(place))
         return QCoreApplication::translate("FreedesktopPlaces",
                                            "%1 is left alone: a whole file system is mounted there.")
             .arg(folder);
     for (const QString& kept : keptForGood(home) + userFolders()) {
         const QString other = canonical(kept);
-        if (other != canonical(home) && (holds(place, other) || holds(other, place)))
+        if (other != canonical(home) && (contains(place, other) || contains(other, place)))
             return QCoreApplication::translate(
                        "FreedesktopPlaces",
                        "%1 is left alone: the folder of caches must have nothing to do with %2.")
@@ -230,7 +222,7 @@ QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QSt
     return {};
 }
 
-bool FreedesktopPlaces::isMountRoot(const QString& folder) const {
+bool FreedesktopPlaces::isMountPoint(const QString& folder) const {
     std::ifstream table(m_mountInfo);
     if (!table)
         return true;

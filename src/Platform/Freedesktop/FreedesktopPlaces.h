@@ -4,23 +4,21 @@
 
 #include <string>
 
-/// The folders of the XDG base directory specification and of xdg-user-dirs, read from the environment at
-/// every call; mounts from the kernel's own list.
+/// The folders of the XDG base directory specification and xdg-user-dirs, by the current environment.
 class FreedesktopPlaces : public Places {
 public:
-    /// `mountInfo`: a file in the form of /proc/PID/mountinfo, see proc(5).
+    /// `mountInfo` is a file in the form of /proc/PID/mountinfo, see proc(5).
     explicit FreedesktopPlaces(std::string mountInfo = "/proc/self/mountinfo");
 
     QList<Place> locate(const QString& path) const override;
 
 private:
-    /// To emptying a folder in the home folder; empty where there is none.
+    /// Returns why a folder in the home folder must not be emptied, or an empty text.
     QString objection(const QString& place, const QString& home) const;
-    /// To emptying anything in a cache home: a variable may name any folder, also one that holds other
-    /// things.
+    /// Returns the same for a cache home, which a variable may set to any folder.
     QString objectionToCacheHome(const QString& folder, const QString& home) const;
-    /// True as well when that cannot be found out.
-    bool isMountRoot(const QString& folder) const;
+    /// Returns true when the mounts are unreadable too.
+    bool isMountPoint(const QString& folder) const;
 
     std::string m_mountInfo;
 };

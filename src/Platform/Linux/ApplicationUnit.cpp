@@ -19,7 +19,7 @@ QString unescaped(const QString& name) {
     return QString::fromUtf8(bytes);
 }
 
-/// The path of the group in the hierarchy that systemd keeps.
+/// Returns the path in systemd's hierarchy.
 QString pathIn(std::string_view cgroup) {
     for (const QString& line :
          QString::fromUtf8(cgroup.data(), static_cast<qsizetype>(cgroup.size())).split(u'\n')) {

@@ -7,22 +7,22 @@
 
 namespace {
 
-/// How the name of a container's group begins.
+/// Prefixes of a container's group name.
 constexpr std::array<QByteArrayView, 10> containerPrefixes = {
     "docker-",      "libpod-",   "cri-containerd-", "crio-",    "nerdctl-",
     "lxc.payload.", "kubepods-", "kubepods.slice",  "buildkit", "machine-"};
-/// Whose groups lie beneath a folder of their own, each named by the container's id.
+/// Folders whose subfolders are named by the container's id.
 constexpr std::array<QByteArrayView, 5> containerFolders = {"docker", "lxc", "kubepods", "libpod_parent",
                                                             "garden"};
 
-/// Services that start whatever a user wants: what runs in them is not a service of its own.
+/// Services that run other programs for the user.
 constexpr std::array<QByteArrayView, 4> sessionPrefixes = {"user@", "app-", "dbus-", "xdg-desktop-portal"};
 
 bool beginsWithOne(const QByteArray& name, const auto& prefixes) {
     return std::ranges::any_of(prefixes, [&name](QByteArrayView prefix) { return name.startsWith(prefix); });
 }
 
-/// The groups from the root down, by their names: of the unified hierarchy ("0::"), else of systemd's own.
+/// Returns the names of the groups from the root down, in the unified hierarchy ("0::") or systemd's own.
 QList<QByteArray> groupsOf(const QByteArray& cgroupFile) {
     QByteArray path;
     for (const QByteArray& line : cgroupFile.split('\n')) {

@@ -35,7 +35,7 @@ std::string_view KernelFile::read(std::span<char> room) const {
     return {room.data(), length > 0 ? static_cast<size_t>(length) : 0};
 }
 
-QByteArray KernelFile::linkTarget(int directory, const char* path) {
+QByteArray KernelFile::symlinkTarget(int directory, const char* path) {
     QByteArray target(PATH_MAX, Qt::Uninitialized);
     const auto length = readlinkat(directory, path, target.data(), target.size());
     target.truncate(std::max<qsizetype>(length, 0));
@@ -43,7 +43,7 @@ QByteArray KernelFile::linkTarget(int directory, const char* path) {
 }
 
 QByteArray KernelFile::programBehind(int directory, const char* path) {
-    QByteArray target = linkTarget(directory, path);
+    QByteArray target = symlinkTarget(directory, path);
     constexpr QByteArrayView replaced = " (deleted)";
     if (target.endsWith(replaced))
         target.chop(replaced.size());

@@ -6,14 +6,13 @@
 #include <string>
 #include <string_view>
 
-/// An open descriptor on a file or folder of procfs or sysfs. The kernel writes such a file anew for every
-/// read from its start, so one descriptor answers for as long as the thing it describes lives, and saves
-/// the path walk and the set-up that make up most of the price of a first read.
+/// An open file or folder of procfs or sysfs. The kernel regenerates such a file for every read from its
+/// start, so a descriptor stays current and saves the path lookup, which is the greater part of a first read.
 class KernelFile {
 public:
     KernelFile() = default;
-    /// Opens for reading, closed on exec. `path` is relative to the open folder `directory`, or to the
-    /// working folder with AT_FDCWD. On failure the file is not open and errno tells why.
+    /// Opens `path`, relative to the open `directory` or with AT_FDCWD to the working directory, for reading
+    /// and close-on-exec. On failure `isOpen` returns false and errno is set.
     KernelFile(int directory, const char* path, int extraFlags = 0);
     explicit KernelFile(const std::string& path);
     KernelFile(KernelFile&& other) noexcept;
@@ -24,14 +23,13 @@ public:
     int descriptor() const { return m_descriptor; }
     void close();
 
-    /// The text as it is now, no more than `room` holds. Empty when it could not be read, with errno set:
-    /// ESRCH for a process that is gone.
+    /// Reads the current text, cut to the size of `room`. Returns an empty text and sets errno when it is
+    /// unreadable (ESRCH: the process is gone).
     std::string_view read(std::span<char> room) const;
 
-    /// What the link at `path`, relative as above, points to; empty when that may not be read.
-    static QByteArray linkTarget(int directory, const char* path);
-    /// The same of the `exe` of a process, without the kernel's mark of a program that was replaced on disk,
-    /// as an update does.
+    /// Returns the target of the symlink at `path`, relative as above, or an empty path.
+    static QByteArray symlinkTarget(int directory, const char* path);
+    /// Returns the target of a process's `exe` without the kernel's mark of a deleted file.
     static QByteArray programBehind(int directory, const char* path);
 
 private:

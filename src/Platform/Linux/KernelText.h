@@ -5,18 +5,18 @@
 #include <optional>
 #include <string_view>
 
-/// The few shapes in which procfs and sysfs write their figures.
+/// Parsers for the figures of procfs and sysfs.
 namespace KernelText {
 
-/// The decimal number that `text` begins with, after blanks; `text` then begins behind it. Empty, and
-/// `text` unspecified, when there is none or it does not fit.
+/// Takes the decimal number at the start of `text`, after blanks, off it. Returns an empty optional when
+/// there is none or it overflows; `text` is then unspecified.
 std::optional<quint64> takeNumber(std::string_view& text);
 std::optional<qint64> takeSignedNumber(std::string_view& text);
 
-/// What follows `key` (which holds its colon) on the line that begins with it.
+/// Returns the rest of the line that begins with `key`, which includes the colon.
 std::optional<std::string_view> valueOf(std::string_view text, std::string_view key);
 
-/// The number on the line that begins with `key`, in the unit of the file (meminfo: KiB).
+/// Returns the number on the line that begins with `key`, in the unit of the file (meminfo: KiB).
 std::optional<quint64> numberOf(std::string_view text, std::string_view key);
 
 } // namespace KernelText

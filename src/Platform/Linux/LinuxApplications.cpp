@@ -17,7 +17,7 @@ namespace {
 
 constexpr qint64 maxBytes = 16 * 1024;
 
-/// Empty where it cannot be read. A file of procfs, or one of a sandbox, which may be anything.
+/// Reads a file of procfs or of a sandbox, which may be anything. Returns an empty text on failure.
 QByteArray textOf(const QString& path) {
     QFile file(path);
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
@@ -27,7 +27,7 @@ QString fileName(const QString& path) {
     return path.sliced(path.lastIndexOf(u'/') + 1);
 }
 
-/// The name that flatpak gives what runs inside, from the file that it puts there (flatpak-metadata(5)).
+/// Reads the application's id from flatpak's file in the sandbox (flatpak-metadata(5)).
 QString flatpakId(const QByteArray& info) {
     bool isInside = false;
     for (const QByteArray& line : info.split('\n')) {
@@ -77,7 +77,7 @@ std::optional<Application> LinuxApplications::ofSandbox(const QString& folder, c
     return unit.kind == ApplicationUnit::Kind::snap ? ofSnap(unit.id, executable) : std::nullopt;
 }
 
-/// A snap need not shut its programs in: what lies elsewhere was started by a person in it.
+/// A snap may be unconfined: programs outside its folder were started by a person in it.
 std::optional<Application> LinuxApplications::ofSnap(const QString& name, const QString& executable) {
     if (!executable.startsWith(u"/snap/"_s + name + u'/') &&
         !executable.startsWith(u"/var/lib/snapd/snap/"_s + name + u'/'))
@@ -95,7 +95,7 @@ Application LinuxApplications::toldApart(DesktopEntry entry) {
     return {entry.id, isUnique ? entry.name : entry.id};
 }
 
-/// The interpreter's first argument that is no option, where a script is named by its whole path.
+/// Finds the script, given as an absolute path in the interpreter's first argument that is not an option.
 std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
     QByteArrayList arguments = textOf(folder + u"/cmdline"_s).split('\0');
     arguments.removeFirst();
@@ -118,5 +118,5 @@ std::optional<Application> LinuxApplications::ofUnit(const QString& id, const QS
 }
 
 QList<qint32> LinuxApplications::inTerminalsOf(const QList<qint32>& pids) {
-    return TerminalSessions::heldBy(pids, m_root);
+    return TerminalSessions::startedFrom(pids, m_root);
 }

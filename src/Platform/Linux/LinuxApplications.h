@@ -3,20 +3,20 @@
 #include "Platform/Applications.h"
 #include "Platform/Freedesktop/DesktopEntries.h"
 
-/// Applications by the desktop's entries and by what procfs says of a process.
+/// Finds applications by desktop entries and procfs.
 ///
-/// The program that a process runs is the evidence: one that a shell, a terminal or an editor was told to run
-/// stays a process of its own, although it lives in the same control group. Only a sandbox speaks for all
-/// that is inside. Where the evidence does not do, there is no application: a wrong one would be quit.
+/// The executable decides: a program that a shell, terminal or editor was told to run does not belong to it,
+/// although it is in the same control group. A sandbox decides for all its processes. In doubt there is no
+/// application, because a wrong one would be quit.
 class LinuxApplications : public Applications {
 public:
-    /// `root` is where procfs is mounted.
+    /// `root` is the mount point of procfs.
     explicit LinuxApplications(DesktopEntries entries = DesktopEntries(),
                                QString root = QStringLiteral("/proc"));
 
     std::optional<Application> ofProgram(const QString& executable) override;
-    /// In this order: the sandbox (flatpak, snap), the program, the script that an interpreter was told to
-    /// run, the entry that the process's unit names where that starts a program of the same file name.
+    /// Tries in this order: the sandbox (flatpak, snap), the executable, the script of an interpreter, and
+    /// the entry that the process's unit names, if its program has the same file name.
     std::optional<Application> ofProcess(qint32 pid) override;
     QList<qint32> inTerminalsOf(const QList<qint32>& pids) override;
     /// See DesktopEntries::idsOf.

@@ -21,8 +21,8 @@ std::string pathIn(const QString& root, const QString& path) {
     return QFile::encodeName(root + u'/' + path).toStdString();
 }
 
-/// A count may step back: a little where the kernel adds up its CPUs anew (proc(5)), far where a container
-/// was moved or has fewer CPUs now.
+/// Adds increases only. A count decreases a little when the kernel sums up its CPUs anew (proc(5)), and much
+/// when a container was moved or lost CPUs.
 void addForwardSteps(CpuTicks& sum, const CpuTicks& last, const CpuTicks& now) {
     for (const auto kind : {&CpuTicks::user, &CpuTicks::system, &CpuTicks::idle, &CpuTicks::nice})
         sum.*kind += now.*kind - std::min(last.*kind, now.*kind);
@@ -32,15 +32,14 @@ quint64 bytesOf(std::string_view meminfo, std::string_view key) {
     return numberOf(meminfo, key).value_or(0) * kib;
 }
 
-/// What of a total is not free. 0 unless both are known.
+/// Returns total less free, or 0 unless both are known.
 quint64 usedBytes(std::string_view meminfo, std::string_view total, std::string_view free) {
     const auto freeKib = numberOf(meminfo, free);
     const quint64 bytes = bytesOf(meminfo, total);
     return freeKib ? bytes - std::min(*freeKib * kib, bytes) : 0;
 }
 
-/// Memory of the kernel's own or locked by programs: nothing of it can be paged out. The lines do not
-/// overlap.
+/// Sums up the memory of the kernel and of programs that cannot be paged out. The lines do not overlap.
 quint64 unpageableBytes(std::string_view meminfo) {
     quint64 sum = 0;
     for (const auto* key :
@@ -79,7 +78,7 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
         const auto count = takeNumber(line);
         if (!count && column <= idle)
             return std::nullopt;
-        ticks[column] = count.value_or(0); // kernels of old end the line earlier
+        ticks[column] = count.value_or(0); // old kernels end the line earlier
     }
     const CpuTicks now = {.user = ticks[user],
                           .system = ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal],

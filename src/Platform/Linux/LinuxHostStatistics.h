@@ -11,14 +11,13 @@
 /// Whole-machine figures from procfs, sysfs and statvfs.
 class LinuxHostStatistics : public HostStatistics {
 public:
-    /// `root` is the folder that holds `proc` and `sys`. The volume is always that of "/".
+    /// `root` contains `proc` and `sys`. The volume is always that of "/".
     explicit LinuxHostStatistics(const QString& root = QStringLiteral("/"));
 
-    /// First line of `/proc/stat`. irq, softirq and steal count as system, iowait as idle; guest is part
-    /// of user already.
+    /// Reads the first line of `/proc/stat`. irq, softirq and steal count as system, iowait as idle; user
+    /// includes guest.
     std::optional<CpuTicks> cpuTicks() override;
-    /// `/proc/meminfo`. Active, wired and compressed sum to MemTotal - MemAvailable; the total is MemTotal,
-    /// what is left to the kernel of the memory built in.
+    /// Reads `/proc/meminfo`. Active, wired and compressed add up to MemTotal - MemAvailable.
     MemoryUse memoryUse() override;
     std::optional<VolumeSize> rootVolume() override;
     int thermalLevel() override { return m_zones.level(); }
@@ -30,6 +29,6 @@ private:
     KernelFile m_meminfo;
     std::vector<KernelFile> m_zram;
     ThermalZones m_zones;
-    std::optional<CpuTicks> m_ticks; ///< never step back
-    CpuTicks m_lastTicks;            ///< as they were read
+    std::optional<CpuTicks> m_ticks; ///< never decrease
+    CpuTicks m_lastTicks;            ///< as read
 };

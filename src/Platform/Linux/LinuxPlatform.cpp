@@ -12,6 +12,9 @@
 #include "Platform/Unix/DescriptorLimit.h"
 #include "Platform/Unix/UnixIdentity.h"
 #include "Platform/Unix/UnixToolRunner.h"
+#include "Platform/Words.h"
+
+#include <QCoreApplication>
 
 void Platform::prepareProgram() {
     DescriptorLimit::reserve();
@@ -37,4 +40,13 @@ std::unique_ptr<Appearance> Platform::makeAppearance() {
 
 std::unique_ptr<LoginItem> Platform::makeLoginItem() {
     return std::make_unique<FreedesktopLoginItem>();
+}
+
+Words Words::native() {
+    return {.computer = QCoreApplication::translate("Words", "Computer"),
+            .system = QStringLiteral("Linux"),
+            .initProcess = QStringLiteral("init"),
+            .taskBar = QCoreApplication::translate("Words", "task bar"),
+            .statusArea = QCoreApplication::translate("Words", "Status area"),
+            .symbol = QCoreApplication::translate("Words", "Symbol")};
 }

@@ -12,24 +12,13 @@
 
 namespace {
 
-/// The daemon's name since it moved under UPower, and the one it had before. Interface and object path
-/// are called after the name.
-struct DaemonName {
-    QString service;
-    QString path;
-};
+/// The daemon's name under UPower, and its former name. Interface and object path are derived from the name.
+const std::array services = {QStringLiteral("org.freedesktop.UPower.PowerProfiles"),
+                             QStringLiteral("net.hadess.PowerProfiles")};
+const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
-const std::array<DaemonName, 2>& daemonNames() {
-    static const std::array<DaemonName, 2> names = {
-        DaemonName{QStringLiteral("org.freedesktop.UPower.PowerProfiles"),
-                   QStringLiteral("/org/freedesktop/UPower/PowerProfiles")},
-        DaemonName{QStringLiteral("net.hadess.PowerProfiles"), QStringLiteral("/net/hadess/PowerProfiles")},
-    };
-    return names;
-}
-
-QString propertiesInterface() {
-    return QStringLiteral("org.freedesktop.DBus.Properties");
+QString pathOf(QString service) {
+    return u'/' + service.replace(u'.', u'/');
 }
 
 } // namespace
@@ -43,7 +32,7 @@ LinuxPowerMode::LinuxPowerMode(const QDBusConnection& bus, const QString& root, 
         m_firmwareNotifier =
             std::make_unique<QSocketNotifier>(m_platformProfile.descriptor(), QSocketNotifier::Exception);
         connect(m_firmwareNotifier.get(), &QSocketNotifier::activated, this, &LinuxPowerMode::readFirmware);
-        readFirmware(); // the kernel notifies of changes since the last read
+        readFirmware(); // arms the notification, which is of changes since the last read
     }
     if (m_bus.isConnected())
         followDaemon();
@@ -55,12 +44,11 @@ void LinuxPowerMode::followDaemon() {
     m_services.setConnection(m_bus);
     m_services.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
     connect(&m_services, &QDBusServiceWatcher::serviceOwnerChanged, this, &LinuxPowerMode::ask);
-    for (const auto& [service, path] : daemonNames()) {
+    for (const QString& service : services) {
         m_services.addWatchedService(service);
-        // No sender is named, because the bus would be asked for its owner and waited for. The signal's
-        // contents are not trusted: it only makes us ask.
-        m_bus.connect(QString(), path, propertiesInterface(), QStringLiteral("PropertiesChanged"), this,
-                      SLOT(ask()));
+        // Any sender, because Qt would block on the bus for a name's owner. The signal's contents are ignored.
+        m_bus.connect(QString(), pathOf(service), propertiesInterface, QStringLiteral("PropertiesChanged"),
+                      this, SLOT(ask()));
     }
     ask();
 }
@@ -70,15 +58,15 @@ void LinuxPowerMode::ask() {
 }
 
 void LinuxPowerMode::askNext(int name) {
-    if (name == static_cast<int>(daemonNames().size())) {
+    if (name == static_cast<int>(services.size())) {
         m_daemonSaves.reset();
         return;
     }
-    const auto& [service, path] = daemonNames()[name];
+    const QString& service = services[name];
     auto message =
-        QDBusMessage::createMethodCall(service, path, propertiesInterface(), QStringLiteral("Get"));
+        QDBusMessage::createMethodCall(service, pathOf(service), propertiesInterface, QStringLiteral("Get"));
     message << service << QStringLiteral("ActiveProfile");
-    message.setAutoStartService(false); // watching starts no daemons
+    message.setAutoStartService(false);
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, name] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
@@ -87,7 +75,7 @@ void LinuxPowerMode::askNext(int name) {
             m_daemonSaves = reply.value().variant().toString() == QStringLiteral("power-saver");
             return;
         }
-        qCInfo(Log::platform) << daemonNames()[name].service << "does not answer:" << reply.error().name();
+        qCInfo(Log::platform) << services[name] << "does not answer:" << reply.error().name();
         askNext(name + 1);
     });
 }

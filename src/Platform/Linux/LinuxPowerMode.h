@@ -11,14 +11,13 @@
 #include <memory>
 #include <optional>
 
-/// Low power mode is the profile "power-saver" of the power-profiles daemon; on a machine without the
-/// daemon it is the firmware's `platform_profile` "low-power". Both are followed by notification, and
-/// neither is waited for: until the first answer the mode is off.
+/// Low power mode is the profile "power-saver" of the power-profiles daemon, or without the daemon the
+/// firmware's `platform_profile` "low-power". Both notify of changes. Until the first reply the mode is off.
 class LinuxPowerMode : public QObject, public PowerMode {
     Q_OBJECT
 
 public:
-    /// `bus` is where the daemon is looked for; `root` is the folder that holds `sys`.
+    /// `root` contains `sys`.
     explicit LinuxPowerMode(const QDBusConnection& bus = QDBusConnection::systemBus(),
                             const QString& root = QStringLiteral("/"), QObject* parent = nullptr);
 

@@ -20,12 +20,12 @@
 namespace {
 
 constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone takes 30 at once
-constexpr qsizetype markedBytes = 4096;
-// Restoring a checkpoint starts processes under chosen ids, which no count of ids tells of.
+constexpr qsizetype hashedBytes = 4096;
+// Restoring a checkpoint starts processes under chosen PIDs, which leave the last PID unchanged.
 constexpr int maxRepeats = 15;
-constexpr qsizetype maxArguments = 6 * 1024 * 1024; // exec(2) lets no process have more
+constexpr qsizetype maxArguments = 6 * 1024 * 1024; // the limit of exec(2)
 
-/// As clock_getcpuclockid(3) makes it, without its call to ask whether the process exists.
+/// Makes the clock id as clock_getcpuclockid(3) does, without its system call.
 clockid_t cpuClockOf(qint32 pid) {
     constexpr clockid_t processWideScheduled = 2;
     return static_cast<clockid_t>(~static_cast<quint32>(pid) << 3) | processWideScheduled;
@@ -37,7 +37,7 @@ std::chrono::nanoseconds read(clockid_t clock) {
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-/// The instant so many nanoseconds after the boot; now, for one that is still to come.
+/// Returns the time `ns` after boot, not later than now.
 std::chrono::system_clock::time_point sinceBoot(quint64 ns) {
     const auto uptime = read(CLOCK_BOOTTIME);
     const auto passed = std::min(ns, static_cast<quint64>(uptime.count()));
@@ -45,17 +45,16 @@ std::chrono::system_clock::time_point sinceBoot(quint64 ns) {
                                                  std::chrono::nanoseconds(passed));
 }
 
-/// Relative to where procfs is mounted; `name` is empty or begins with a slash.
+/// Makes a path relative to the mount point of procfs; `name` is empty or begins with a slash.
 std::array<char, 32> pathOf(qint32 pid, const char* name) {
     std::array<char, 32> path;
     std::snprintf(path.data(), path.size(), "%d%s", pid, name);
     return path;
 }
 
-/// One figure for the three texts. Of the arguments their beginning is enough: a program takes others with an
-/// exec or with a title, and both begin anew.
-quint64 markOf(QByteArrayView name, QByteArrayView arguments, QByteArrayView executable) {
-    return qHashMulti(0, name, arguments.first(std::min(arguments.size(), markedBytes)), executable);
+/// Hashes the beginning of the arguments only: exec(2) and new titles change it.
+quint64 hashOf(QByteArrayView name, QByteArrayView arguments, QByteArrayView executable) {
+    return qHashMulti(0, name, arguments.first(std::min(arguments.size(), hashedBytes)), executable);
 }
 
 } // namespace
@@ -68,30 +67,30 @@ LinuxProcessTable::LinuxProcessTable(const std::string& root)
     , m_tickNs(1'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK))) {}
 
 int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
-    const bool unchanged = !hasNewPids() && !m_someoneLeft && m_repeats < maxRepeats;
+    const bool unchanged = !hasNewPids() && !m_hasExited && m_repeats < maxRepeats;
     m_repeats = unchanged ? m_repeats + 1 : 0;
     if (!unchanged) {
         listAnew();
-        m_someoneLeft = false;
+        m_hasExited = false;
     }
     const size_t count = std::min(pids.size(), m_listed.size());
     std::copy_n(m_listed.begin(), count, pids.begin());
     return static_cast<int>(count);
 }
 
-/// Whether an id has been given out since the last call: the last field of `/proc/loadavg` is the one given
-/// out last. True as well when that cannot be read.
+/// Returns whether a PID was assigned since the last call, by the last PID in `/proc/loadavg`. Returns true
+/// when that is unreadable.
 bool LinuxProcessTable::hasNewPids() {
     std::array<char, 128> room;
     const auto text = m_loadAverage.read(room);
     const auto newest = text.substr(std::min(text.rfind(' '), text.size()));
-    if (!newest.empty() && newest == m_newestPid)
+    if (!newest.empty() && newest == m_lastPid)
         return false;
-    m_newestPid = newest;
+    m_lastPid = newest;
     return true;
 }
 
-/// Goes through the new rows and the kept processes side by side, both by rising id.
+/// Merges the new rows with the kept processes, both by ascending PID.
 void LinuxProcessTable::listAnew() {
     const auto rows = m_folder.rows();
     if (rows.empty())
@@ -106,7 +105,7 @@ void LinuxProcessTable::listAnew() {
             m_listed.push_back(row.pid);
     }
     for (Process& process : m_processes)
-        close(process); // what has not been moved from is not listed any more
+        close(process); // those not moved from are no longer listed
     m_processes = std::move(processes);
     m_expected = 0;
 }
@@ -162,7 +161,7 @@ void LinuxProcessTable::close(Process& process) {
         file->close();
     }
     process.threads = 0;
-    process.wasMarked = false;
+    process.wasHashed = false;
 }
 
 std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
@@ -174,13 +173,13 @@ std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
             return info;
         if (errno != ESRCH)
             return std::nullopt;
-        close(process); // the process is gone, but another may have its id
-        m_someoneLeft = true;
+        close(process); // the process is gone, but another may have its PID
+        m_hasExited = true;
     }
     return std::nullopt;
 }
 
-/// With errno ESRCH when the process that the descriptors belong to is gone.
+/// Sets errno to ESRCH when the process of the descriptors is gone.
 std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
     const auto pages = pagesOf(process);
     if (!pages)
@@ -188,7 +187,7 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
     const auto cpu = cpuTimeNs(process.pid);
     if (!cpu)
         return std::nullopt;
-    // No thread has begun or ended in a process that has not run for a nanosecond.
+    // A process that has not run has started and ended no thread.
     if (process.threads == 0 || process.cpuTimeNs != *cpu) {
         const auto threads = threadCount(process);
         if (!threads)
@@ -202,7 +201,7 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
                     .threads = process.threads};
 }
 
-/// Empty for a process without memory as well, with errno 0.
+/// Returns an empty optional with errno 0 for a process without memory.
 std::optional<LinuxProcessTable::Pages> LinuxProcessTable::pagesOf(const Process& process) {
     errno = 0;
     std::array<char, 128> room;
@@ -214,7 +213,7 @@ std::optional<LinuxProcessTable::Pages> LinuxProcessTable::pagesOf(const Process
     return Pages{*virtualPages, *residentPages};
 }
 
-/// By the folder's name at first: most processes sleep all the time and are never asked again.
+/// Opens no descriptor at first: most processes sleep all the time and are not asked again.
 std::optional<int> LinuxProcessTable::threadCount(Process& process) {
     struct stat task;
     if (process.threads > 0 && !process.task.isOpen() && m_descriptors < m_descriptorBudget) {
@@ -252,7 +251,7 @@ KernelFile LinuxProcessTable::openFile(qint32 pid, const char* name, int extraFl
     return KernelFile(m_folder.descriptor(), pathOf(pid, name).data(), extraFlags);
 }
 
-/// What `/proc/N` followed by `name` is; false when it cannot be told.
+/// Calls stat(2) on `/proc/N` followed by `name`. Returns false on failure.
 bool LinuxProcessTable::statOf(qint32 pid, const char* name, struct stat& result) const {
     return fstatat(m_folder.descriptor(), pathOf(pid, name).data(), &result, 0) == 0;
 }
@@ -263,41 +262,41 @@ ProcessOrigin LinuxProcessTable::origin(qint32 pid) {
         origin.shortName = stat->name;
         origin.kernelInfo = kernelInfo(pid, *stat);
     }
-    origin.textMark = markOf(origin.shortName, origin.argumentArea, origin.executablePath);
+    origin.textHash = hashOf(origin.shortName, origin.argumentArea, origin.executablePath);
     return origin;
 }
 
-/// Whether both files are open. A process is asked about again only if it runs time and again: then the
-/// descriptors are worth their place.
+/// Returns whether both files are open. They are kept open from the second question on, which only processes
+/// that run often get.
 bool LinuxProcessTable::keepTexts(Process& process) {
-    if (!process.cmdline.isOpen() && process.wasMarked && m_descriptors + 2 <= m_descriptorBudget) {
+    if (!process.cmdline.isOpen() && process.wasHashed && m_descriptors + 2 <= m_descriptorBudget) {
         process.comm = openFile(process.pid, "/comm");
         process.cmdline = openFile(process.pid, "/cmdline");
         m_descriptors += (process.comm.isOpen() ? 1 : 0) + (process.cmdline.isOpen() ? 1 : 0);
     }
-    process.wasMarked = true;
+    process.wasHashed = true;
     return process.comm.isOpen() && process.cmdline.isOpen();
 }
 
-std::optional<quint64> LinuxProcessTable::textMark(qint32 pid) {
+std::optional<quint64> LinuxProcessTable::textHash(qint32 pid) {
     Process& process = processOf(pid);
     const bool isKept = keepTexts(process);
     const KernelFile openedComm = isKept ? KernelFile() : openFile(pid, "/comm");
     const KernelFile openedCmdline = isKept ? KernelFile() : openFile(pid, "/cmdline");
     std::array<char, 64> nameRoom;
-    std::array<char, markedBytes> argumentRoom;
+    std::array<char, hashedBytes> argumentRoom;
     auto name = (isKept ? process.comm : openedComm).read(nameRoom);
     const auto arguments = (isKept ? process.cmdline : openedCmdline).read(argumentRoom);
     if (name.empty())
         return std::nullopt;
     name.remove_suffix(1); // a line feed
-    return markOf(QByteArrayView(name.data(), static_cast<qsizetype>(name.size())),
+    return hashOf(QByteArrayView(name.data(), static_cast<qsizetype>(name.size())),
                   QByteArrayView(arguments.data(), static_cast<qsizetype>(arguments.size())),
                   executablePath(pid));
 }
 
-QByteArray LinuxProcessTable::workingFolder(qint32 pid) {
-    return KernelFile::linkTarget(m_folder.descriptor(), pathOf(pid, "/cwd").data());
+QByteArray LinuxProcessTable::workingDirectory(qint32 pid) {
+    return KernelFile::symlinkTarget(m_folder.descriptor(), pathOf(pid, "/cwd").data());
 }
 
 ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
@@ -314,7 +313,7 @@ QByteArray LinuxProcessTable::executablePath(qint32 pid) const {
     return KernelFile::programBehind(m_folder.descriptor(), pathOf(pid, "/exe").data());
 }
 
-/// A file of any length; empty when it cannot be read.
+/// Reads a file of any length. Returns an empty text when it is unreadable.
 QByteArray LinuxProcessTable::wholeFile(qint32 pid, const char* name) const {
     const auto file = openFile(pid, name);
     QByteArray area(4096, Qt::Uninitialized);
@@ -327,7 +326,7 @@ QByteArray LinuxProcessTable::wholeFile(qint32 pid, const char* name) const {
             break;
         filled += length;
         if (filled < area.size())
-            break; // the kernel stops short at the end alone
+            break; // short reads occur at the end only
         area.resize(2 * area.size());
     }
     area.truncate(filled);

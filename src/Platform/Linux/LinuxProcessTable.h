@@ -10,40 +10,37 @@
 #include <string>
 #include <vector>
 
-/// The processes that procfs shows, kernel threads left out.
+/// The processes in procfs without kernel threads.
 ///
-/// Made to be asked about every process every few seconds: for each it asks at most three questions a pass,
-/// the first and the last on descriptors that it keeps from pass to pass:
+/// For passes over all processes every few seconds. A pass makes at most three system calls per process, the
+/// first and the last on descriptors that stay open from pass to pass:
 ///   - `/proc/N/statm` (pread): resident and virtual pages;
 ///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
-///   - `/proc/N/task` (fstat), where the clock has moved: two links and one for each thread. A process that
-///     has slept since it was first seen has no descriptor for it yet.
-/// The listing itself is repeated from memory while no id has been given out and no listed process has gone.
-/// Such a descriptor never speaks for another process: once its own is gone it answers ESRCH, and the id is
-/// looked up anew. Where the limit on descriptors is reached, `/proc/N/stat` answers instead, opened each
-/// time.
+///   - `/proc/N/task` (fstat), where the clock has moved: two links and one per thread. It is opened once the
+///     process has run since it was first seen.
+/// The last listing is repeated while no PID was assigned and no listed process has gone. A descriptor of a
+/// process that is gone fails with ESRCH, and the PID is then opened anew. At the limit on descriptors
+/// `/proc/N/stat` is opened, read and closed instead.
 class LinuxProcessTable : public ProcessTable {
 public:
-    /// `root` is where procfs is mounted. Raises the program's soft limit on descriptors to the hard one.
+    /// `root` is the mount point of procfs. Raises the program's soft limit on descriptors to the hard one.
     explicit LinuxProcessTable(const std::string& root = "/proc");
 
-    /// A process that has gone may be listed once more, until a question about it finds out.
+    /// May list a process that is gone once more, until a call about it fails.
     int listAllPids(std::span<qint32> pids) override;
-    /// Empty also for a process without address space, such as one that waits to be reaped.
+    /// Returns an empty optional for a process without address space too, such as a zombie.
     std::optional<TaskInfo> taskInfo(qint32 pid) override;
-    /// The executable is the target of `/proc/N/exe`, also when the file has been deleted since; readable for
-    /// the user's own processes only. The arguments are `/proc/N/cmdline`. The short name, in `/proc/N/stat`,
-    /// is of 15 bytes at most.
+    /// Reads the target of `/proc/N/exe`, deleted files included and for the user's own processes only,
+    /// `/proc/N/cmdline`, and the name in `/proc/N/stat`, at most 15 bytes.
     ProcessOrigin origin(qint32 pid) override;
-    /// `/proc/N/stat`, and the owner of `/proc/N`, which is the effective user id also for a process whose
-    /// other files belong to root (proc(5), "dumpable").
+    /// Reads `/proc/N/stat` and the owner of `/proc/N`, which is the effective user id even where the other
+    /// files belong to root (proc(5), "dumpable").
     std::optional<KernelProcessInfo> kernelInfo(qint32 pid) override;
-    /// Of `/proc/N/comm`, the first 4,096 bytes of `/proc/N/cmdline` and the target of `/proc/N/exe`. The
-    /// first two stay open for a process that is asked about again.
-    std::optional<quint64> textMark(qint32 pid) override;
-    /// The target of `/proc/N/cwd`; readable for the user's own processes only.
-    QByteArray workingFolder(qint32 pid) override;
-    /// From `/proc/N/cgroup`, and for a service SYSTEMD_EXEC_PID in `/proc/N/environ` (systemd.exec(5)).
+    /// Hashes `/proc/N/comm`, the first 4,096 bytes of `/proc/N/cmdline` and the target of `/proc/N/exe`.
+    std::optional<quint64> textHash(qint32 pid) override;
+    /// Reads the target of `/proc/N/cwd`, for the user's own processes only.
+    QByteArray workingDirectory(qint32 pid) override;
+    /// Reads `/proc/N/cgroup` and a service's SYSTEMD_EXEC_PID in `/proc/N/environ` (systemd.exec(5)).
     ProcessKeeper keeper(qint32 pid) override;
 
 private:
@@ -55,9 +52,9 @@ private:
         KernelFile cmdline;
         quint64 inode = 0;
         bool isKernelThread = false;
-        int threads = 0; ///< when its clock stood at cpuTimeNs; 0 before the first look
+        int threads = 0; ///< at cpuTimeNs; 0 before the first pass
         quint64 cpuTimeNs = 0;
-        bool wasMarked = false; ///< its text mark has been asked for
+        bool wasHashed = false; ///< by `textHash`
     };
 
     struct Pages {
@@ -87,13 +84,13 @@ private:
 
     ProcFolder m_folder;
     KernelFile m_loadAverage;
-    std::string m_newestPid;          ///< as m_loadAverage had it at the last call
-    std::vector<qint32> m_listed;     ///< by the last listing, kernel threads left out
-    bool m_someoneLeft = false;       ///< since then
-    int m_repeats = 0;                ///< how often m_listed has been given again
-    std::vector<Process> m_processes; ///< by rising id, as procfs lists them
-    size_t m_expected = 0;            ///< where the next question will look, if asked in that order
-    qsizetype m_descriptors = 0;      ///< kept open in m_processes
+    std::string m_lastPid;            ///< of m_loadAverage at the last call
+    std::vector<qint32> m_listed;     ///< of the last listing, without kernel threads
+    bool m_hasExited = false;         ///< one of the listed processes
+    int m_repeats = 0;                ///< of m_listed
+    std::vector<Process> m_processes; ///< by ascending PID
+    size_t m_expected = 0;            ///< index of the next process, when asked in order
+    qsizetype m_descriptors = 0;      ///< open in m_processes
     qsizetype m_descriptorBudget;
     quint64 m_pageSize;
     quint64 m_tickNs;

@@ -12,10 +12,7 @@ namespace {
 enum class DoneWhen { launched, succeeded };
 
 ToolRequest scriptRequest(const QString& script) {
-    ToolRequest request;
-    request.launchPath = u"/usr/bin/osascript"_s;
-    request.arguments = QStringList({u"-e"_s, script});
-    return request;
+    return {.launchPath = u"/usr/bin/osascript"_s, .arguments = {u"-e"_s, script}};
 }
 
 QCoro::Task<Outcome> runTool(std::shared_ptr<ToolRunner> tools, ToolRequest request, DoneWhen when) {
@@ -23,9 +20,9 @@ QCoro::Task<Outcome> runTool(std::shared_ptr<ToolRunner> tools, ToolRequest requ
     const bool done = when == DoneWhen::launched ? result.launched : result.succeeded();
     if (!done) {
         qCWarning(Log::relief) << "not done:" << request.launchPath << "status" << result.exitStatus;
-        qCDebug(Log::relief) << request.arguments << result.complaint;
+        qCDebug(Log::relief) << request.arguments << result.errorLine;
     }
-    co_return done ? Outcome::success() : Outcome::failure(result.complaint);
+    co_return done ? Outcome::success() : Outcome::failure(result.errorLine);
 }
 
 } // namespace
@@ -43,10 +40,9 @@ QCoro::Task<Outcome> LinuxRelief::quitApplication(QString name, bool force) {
 }
 
 QCoro::Task<Outcome> LinuxRelief::reclaimMemory() {
-    ToolRequest request;
-    request.launchPath = u"/usr/bin/memory_pressure"_s;
-    request.arguments = QStringList({u"-l"_s, u"warn"_s});
-    request.terminateAfter = std::chrono::milliseconds(1500);
+    const ToolRequest request{.launchPath = u"/usr/bin/memory_pressure"_s,
+                              .arguments = {u"-l"_s, u"warn"_s},
+                              .timeout = std::chrono::milliseconds(1500)};
     return runTool(m_tools, request, DoneWhen::launched);
 }
 

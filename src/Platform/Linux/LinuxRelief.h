@@ -6,8 +6,8 @@
 
 class ToolRunner;
 
-/// Relief through programs of its own, which this program installs with itself: reclaiming must not be
-/// charged to it, dropping caches is root's, and quitting may wait long for an application.
+/// Relief through separate programs, installed with this one: reclaiming is not charged to this program,
+/// dropping caches needs root, and quitting waits for the application.
 class LinuxRelief : public Relief {
 public:
     explicit LinuxRelief(std::shared_ptr<ToolRunner> tools);
@@ -16,7 +16,7 @@ public:
     QCoro::Task<Outcome> reclaimMemory() override;
     QCoro::Task<Outcome> dropCaches() override;
 
-    /// The line of the script language that asks an application to quit.
+    /// Returns the script that asks an application to quit.
     static QString quitScript(const QString& name, bool force);
 
 private:

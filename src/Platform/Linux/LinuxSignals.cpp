@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Of the system call that was just made.
+/// Maps the status and errno of the last system call.
 SignalResult resultOf(long status) {
     if (status == 0)
         return SignalResult::delivered;
@@ -37,13 +37,13 @@ private:
     Pidfd m_process;
 };
 
-/// Since boot, in clock ticks; empty when nobody has the id.
+/// Returns the start since boot in clock ticks, or an empty optional for an unused PID.
 std::optional<quint64> startOf(qint32 pid) {
     const auto stat = ProcStat::read(KernelFile("/proc/" + std::to_string(pid) + "/stat"));
     return stat ? std::optional(stat->startTicks) : std::nullopt;
 }
 
-/// For a system without pidfd: the id means the process for as long as the start behind it is the same.
+/// For a system without pidfd: a PID with the same start time is the same process.
 class PidHandle : public ProcessHandle {
 public:
     explicit PidHandle(qint32 pid)
@@ -72,8 +72,7 @@ private:
     SignalResult m_result;
 };
 
-/// The kernel itself never refuses pidfd_open for lack of permission; a sandbox that does not know the call
-/// may.
+/// EPERM comes from sandboxes that do not know pidfd_open; the kernel needs no permission for it.
 bool meansUnsupported(int error) {
     return error == ENOSYS || error == EPERM;
 }

@@ -2,19 +2,19 @@
 
 #include <QtGlobal>
 
-/// A process held by a descriptor (pidfd_open(2)), so that its id can never come to mean another one.
+/// A descriptor of a process (pidfd_open(2)), which never refers to a later process with the same PID.
 class Pidfd {
 public:
-    /// Where it is not open afterwards, errno tells why.
+    /// Sets errno when it cannot be opened.
     explicit Pidfd(qint32 pid);
     Pidfd(Pidfd&& other) noexcept;
     Pidfd& operator=(Pidfd&& other) noexcept;
     ~Pidfd();
 
     bool isOpen() const { return m_descriptor >= 0; }
-    /// True as well for one that its parent has not asked about, to which the kernel still delivers signals.
+    /// Returns true for a zombie too, to which the kernel still delivers signals.
     bool hasEnded() const;
-    /// 0, or below with errno set.
+    /// Returns 0, or a value below with errno set.
     long send(int signal) const;
 
 private:

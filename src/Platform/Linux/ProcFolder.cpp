@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr size_t roomSize = 128 * 1024; // some 4,000 processes at 32 bytes a record
+constexpr size_t roomSize = 128 * 1024; // some 4,000 processes at 32 bytes each
 
-/// One record of getdents64(2); the name follows, ended by a NUL.
+/// One record of getdents64(2), followed by the name and a NUL.
 struct Record {
     quint64 inode;
     qint64 offset;
@@ -22,7 +22,7 @@ struct Record {
 };
 constexpr size_t nameOffset = offsetof(Record, type) + sizeof(Record::type);
 
-/// The id that a name spells, or 0 for the folder's other files.
+/// Returns the PID in a name, or 0 for other files.
 qint32 pidNamed(const char* name) {
     qint64 pid = 0;
     for (; *name != 0; ++name) {
@@ -53,7 +53,7 @@ std::span<const ProcFolder::Row> ProcFolder::rows() {
     }
 }
 
-/// The kernel lists by rising id; a copy of procfs on a disk need not.
+/// The kernel lists by ascending PID; a copy of procfs on a disk may not.
 std::span<const ProcFolder::Row> ProcFolder::sorted() {
     const auto byPid = [](const Row& a, const Row& b) { return a.pid < b.pid; };
     if (!std::is_sorted(m_rows.begin(), m_rows.end(), byPid))

@@ -9,19 +9,19 @@
 #include <string>
 #include <vector>
 
-/// The folder in which procfs keeps one folder a process, held open. The C library's readdir would fetch
-/// it in far smaller pieces and hand out text; here a listing takes a handful of calls.
+/// The open folder of procfs with one folder per process. It lists them in fewer system calls than
+/// readdir(3), whose buffer is far smaller.
 class ProcFolder {
 public:
     struct Row {
         qint32 pid = 0;
-        quint64 inode = 0; ///< of the process's folder; another process under the same id has another
+        quint64 inode = 0; ///< of the process's folder; differs for a later process with the same PID
     };
 
     explicit ProcFolder(const std::string& path);
 
     int descriptor() const { return m_folder.descriptor(); }
-    /// Every process, by rising id. Empty on failure. Valid until the next call.
+    /// Returns all processes by ascending PID, valid until the next call. Returns an empty span on failure.
     std::span<const Row> rows();
 
 private:

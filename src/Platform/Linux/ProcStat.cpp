@@ -7,7 +7,7 @@
 #include <limits>
 
 std::optional<ProcStat> ProcStat::parse(std::string_view text) {
-    // The name stands in parentheses, unescaped: it may itself hold blanks, newlines and parentheses.
+    // The name in parentheses is unescaped: it may contain blanks, newlines and parentheses.
     const auto nameStart = text.find('(') + 1;
     const auto nameEnd = text.rfind(')');
     if (nameStart == 0 || nameEnd == std::string_view::npos || nameEnd < nameStart ||
@@ -16,20 +16,9 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
     const auto name = text.substr(nameStart, nameEnd - nameStart);
     text.remove_prefix(nameEnd + 3); // ") S"
 
-    // Numbered as in proc(5), where the parent is the fourth.
-    enum {
-        ppid = 4,
-        session = 6,
-        terminal = 7,
-        flags = 9,
-        utime = 14,
-        stime = 15,
-        threads = 20,
-        starttime = 22,
-        vsize = 23,
-        rss = 24,
-        end
-    };
+    // Numbered as in proc(5).
+    enum { ppid = 4, session = 6, terminal = 7, flags = 9, utime = 14, stime = 15 };
+    enum { threads = 20, starttime = 22, vsize = 23, rss = 24, end };
     std::array<qint64, end> field{};
     for (int number = ppid; number < end; ++number) {
         const auto value = KernelText::takeSignedNumber(text);

@@ -27,7 +27,7 @@ std::string textOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
-/// Those that have a terminal.
+/// Lists the processes with a terminal.
 QList<Row> rowsIn(const QString& root) {
     QList<Row> rows;
     for (const QString& name : QDir(root).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
@@ -38,7 +38,7 @@ QList<Row> rowsIn(const QString& root) {
     return rows;
 }
 
-/// As under nohup: SigIgn of proc(5), bit N - 1 for signal N.
+/// Reads SigIgn of proc(5): bit N - 1 for signal N.
 bool ignoresHangUp(qint32 pid, const QString& root) {
     const std::string status = textOf(root + u'/' + QString::number(pid) + u"/status"_s);
     const auto mask = KernelText::valueOf(status, "SigIgn:").value_or(std::string_view());
@@ -48,26 +48,26 @@ bool ignoresHangUp(qint32 pid, const QString& root) {
 
 } // namespace
 
-QList<qint32> TerminalSessions::heldBy(const QList<qint32>& pids, const QString& root) {
+QList<qint32> TerminalSessions::startedFrom(const QList<qint32>& pids, const QString& root) {
     const QList<Row> rows = rowsIn(root);
-    QSet<qint32> held(pids.begin(), pids.end());
+    QSet<qint32> found(pids.begin(), pids.end());
     QSet<qint32> sessions;
     for (bool isNew = true; isNew;) {
         isNew = false;
         for (const Row& leader : rows) {
-            if (!leader.leads() || sessions.contains(leader.session) || !held.contains(leader.parentPid))
+            if (!leader.leads() || sessions.contains(leader.session) || !found.contains(leader.parentPid))
                 continue;
             sessions.insert(leader.session);
             isNew = true;
             for (const Row& row : rows) {
                 if (row.session == leader.session && row.terminal == leader.terminal)
-                    held.insert(row.pid);
+                    found.insert(row.pid);
             }
         }
     }
     QList<qint32> result;
     for (const Row& row : rows) {
-        if (held.contains(row.pid) && !pids.contains(row.pid) && !ignoresHangUp(row.pid, root))
+        if (found.contains(row.pid) && !pids.contains(row.pid) && !ignoresHangUp(row.pid, root))
             result.append(row.pid);
     }
     return result;

@@ -16,7 +16,7 @@ std::optional<qint64> readNumber(const KernelFile& file) {
     return KernelText::takeSignedNumber(text);
 }
 
-/// Firmware marks a trip that is not in use with 0 or an absurd cold.
+/// Ignores unused trips, which firmware sets to 0 or far below it.
 void keepLowest(qint64& kept, qint64 trip) {
     if (trip > 0 && (kept == 0 || trip < kept))
         kept = trip;

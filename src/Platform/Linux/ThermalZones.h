@@ -6,15 +6,15 @@
 
 #include <vector>
 
-/// The thermal zones of `class/thermal` in sysfs, each judged by its own trip points. Zones and trips are
-/// found once; a reading is one read a zone.
+/// The thermal zones of `class/thermal` in sysfs, compared with their trip points. Zones and trips are found
+/// once; each later call makes one read per zone.
 class ThermalZones {
 public:
-    /// `sysfs` is where sysfs is mounted.
+    /// `sysfs` is the mount point of sysfs.
     explicit ThermalZones(const QString& sysfs);
 
-    /// The worst zone: 3 a hot or critical trip is reached, 2 a passive one (the kernel slows the machine
-    /// down there), 1 within 10 degrees below, 0 none of these or no zone.
+    /// Returns the level of the worst zone: 3 hot or critical trip reached, 2 passive trip reached (the
+    /// kernel throttles the machine), 1 within 10 degrees below, 0 otherwise.
     int level() const;
 
 private:
@@ -22,8 +22,8 @@ private:
 
     struct Zone {
         KernelFile temperature;
-        MilliDegrees passive = 0; ///< lowest such trip; 0 when there is none
-        MilliDegrees hot = 0;     ///< lowest of the hot and critical trips; 0 when there is none
+        MilliDegrees passive = 0; ///< lowest passive trip; 0 for none
+        MilliDegrees hot = 0;     ///< lowest hot or critical trip; 0 for none
     };
 
     static Zone zoneIn(const QString& folder);

@@ -17,7 +17,7 @@
 
 #include <QCoreApplication>
 
-// A system that answers nothing. It shows what each question means where there is no answer.
+// A system without services. It shows the default of each.
 
 namespace {
 
@@ -33,8 +33,8 @@ class NullProcessTable : public ProcessTable {
     std::optional<TaskInfo> taskInfo(qint32) override { return {}; }
     ProcessOrigin origin(qint32) override { return {}; }
     std::optional<KernelProcessInfo> kernelInfo(qint32) override { return {}; }
-    std::optional<quint64> textMark(qint32) override { return {}; }
-    QByteArray workingFolder(qint32) override { return {}; }
+    std::optional<quint64> textHash(qint32) override { return {}; }
+    QByteArray workingDirectory(qint32) override { return {}; }
     ProcessKeeper keeper(qint32) override { return {}; }
 };
 

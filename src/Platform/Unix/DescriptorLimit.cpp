@@ -24,7 +24,7 @@ const rlimit& DescriptorLimit::atStart() {
 }
 
 qsizetype DescriptorLimit::raised() {
-    const rlimit start = atStart(); // before it is gone
+    const rlimit start = atStart(); // read before the change
     const rlimit raised{.rlim_cur = start.rlim_max, .rlim_max = start.rlim_max};
     setrlimit(RLIMIT_NOFILE, &raised);
     return static_cast<qsizetype>(std::min<rlim_t>(current().rlim_cur, std::numeric_limits<int>::max()));

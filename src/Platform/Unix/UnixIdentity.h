@@ -2,9 +2,10 @@
 
 #include "Platform/Identity.h"
 
-/// Who the kernel says we are.
+#include <unistd.h>
+
 class UnixIdentity : public Identity {
 public:
-    quint32 userId() const override;   ///< getuid(2): the real user, as signals are judged by
-    qint32 processId() const override; ///< getpid(2)
+    quint32 userId() const override { return getuid(); } ///< the real user, as kill(2) compares it
+    qint32 processId() const override { return getpid(); }
 };

@@ -13,16 +13,15 @@
 
 namespace {
 
-constexpr int answerMs = 1000;
+constexpr int replyTimeoutMs = 1000;
 constexpr qint64 maxTokenBytes = 1024;
 
-/// What a Wayland launcher gives the program that it starts: the right to take the keyboard, once. Qt looks
-/// for it when a window is to come forward. It was given for the second start, but the first one's window is
-/// to come.
+/// A Wayland launcher's token for taking the keyboard once, read by Qt when a window comes forward. The
+/// second start passes it to the first, whose window is to come.
 constexpr const char* activationToken = "XDG_ACTIVATION_TOKEN";
 
-/// Qt finds none where $XDG_RUNTIME_DIR is another user's, as after su(1), and the one that it would then
-/// make in the temporary folder is taken: the user's own cache serves as well.
+/// Falls back to the user's cache where $XDG_RUNTIME_DIR is another user's, as after su(1), and Qt's own
+/// substitute in the temporary folder is taken.
 QString runtimeFolder() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (!folder.isEmpty())
@@ -32,7 +31,7 @@ QString runtimeFolder() {
     return cache;
 }
 
-/// Displays may hold slashes; a digest is a file name of fixed length, which socket paths need.
+/// Uses a digest because displays contain slashes and socket paths are short.
 QString socketPath(const QString& display) {
     const QByteArray digest = QCryptographicHash::hash(display.toUtf8(), QCryptographicHash::Sha256).toHex();
     return QStringLiteral("%1/tavrin-%2-%3.socket")
@@ -51,12 +50,12 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server->nextPendingConnection()) {
             connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { hearOut(caller); });
+            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { readToken(caller); });
         }
     });
 }
 
-void SingleInstance::hearOut(QLocalSocket* caller) {
+void SingleInstance::readToken(QLocalSocket* caller) {
     const QByteArray token = caller->read(maxTokenBytes);
     if (!token.isEmpty())
         qputenv(activationToken, token);
@@ -64,11 +63,11 @@ void SingleInstance::hearOut(QLocalSocket* caller) {
 }
 
 bool SingleInstance::claim() {
-    // Two that start together, as at login, ask one after the other.
+    // Programs that start together, as at login, take turns.
     QLockFile turn(m_socket + QStringLiteral(".lock"));
-    static_cast<void>(turn.tryLock(answerMs));
-    // Asked first, because listening would take the socket over from the program that has it.
-    if (askRunningOne())
+    static_cast<void>(turn.tryLock(replyTimeoutMs));
+    // Before listening, which would take the socket over from the running program.
+    if (notifyRunning())
         return false;
     QLocalServer::removeServer(m_socket);
     if (!m_server->listen(m_socket))
@@ -76,14 +75,14 @@ bool SingleInstance::claim() {
     return true;
 }
 
-bool SingleInstance::askRunningOne() const {
+bool SingleInstance::notifyRunning() const {
     QLocalSocket socket;
     socket.connectToServer(m_socket);
-    if (!socket.waitForConnected(answerMs))
+    if (!socket.waitForConnected(replyTimeoutMs))
         return false;
     socket.write(qgetenv(activationToken));
     socket.disconnectFromServer();
     if (socket.state() != QLocalSocket::UnconnectedState)
-        socket.waitForDisconnected(answerMs);
+        socket.waitForDisconnected(replyTimeoutMs);
     return true;
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-int pipeEnds[2] = {-1, -1}; ///< what a signal handler may write to, and the main loop reads
+int pipeEnds[2] = {-1, -1}; ///< written by the signal handler, read by the main loop
 
 void tellMainLoop(int) {
     const int error = errno;
@@ -21,7 +21,7 @@ void tellMainLoop(int) {
 TerminationRequest::TerminationRequest(QObject* parent)
     : QObject(parent) {
     if (pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)
-        return; // the signals keep their usual meaning
+        return; // the signals keep their default action
     auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] {
         char byte = 0;

@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The process groups of the tools that run. A tool's own children are in its group, and none is to be left
-/// behind when this program ends: a shell that is told to end does not tell its children.
+/// The process groups of the running tools, killed when this program ends: a shell that is terminated does
+/// not terminate its children.
 class ToolGroups {
 public:
     ~ToolGroups() {
@@ -42,12 +42,11 @@ ToolGroups& toolGroups() {
     return groups;
 }
 
-constexpr std::chrono::seconds graceAfterTerminate{1};
-/// By which a tool of our own says that it found nothing here to work on, as a shell does of a program that
-/// it cannot start.
+constexpr std::chrono::seconds killTimeout{1};
+/// Exit status of a tool of our own that is unsupported here; a shell's for a program that it cannot start.
 constexpr int cannotStart = 126;
 
-/// In the child, before its program: only calls that are safe after a fork.
+/// Runs in the child before its program, with calls that are safe after a fork.
 void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
     // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
     constexpr int thisProcess = 1;
@@ -58,7 +57,7 @@ void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
     syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestPriority);
     setrlimit(RLIMIT_NOFILE, &descriptors);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != parent) // it ended before the line above
+    if (getppid() != parent) // it has ended already
         _exit(1);
 }
 
@@ -69,13 +68,13 @@ void configure(QProcess& process, const ToolRequest& request, bool captureErrors
         process.setStandardErrorFile(QProcess::nullDevice());
     if (!request.captureOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
-    constexpr int behindUs = 10;
+    constexpr int niceIncrement = 10;
     process.setChildProcessModifier(
-        [parent = getpid(), niceness = getpriority(PRIO_PROCESS, 0) + behindUs,
+        [parent = getpid(), niceness = getpriority(PRIO_PROCESS, 0) + niceIncrement,
          descriptors = DescriptorLimit::atStart()] { prepareChild(parent, niceness, descriptors); });
 }
 
-/// Even SIGKILL does not end a process that waits for a disk which never answers. Such a one is let go of.
+/// Deletes the process, once it has ended. SIGKILL does not end one that waits for a broken disk.
 void release(QProcess* process) {
     if (process->state() == QProcess::NotRunning) {
         delete process;
@@ -91,7 +90,7 @@ void release(QProcess* process) {
 
 using End = std::shared_ptr<QPromise<void>>;
 
-/// Finished once the process ended or could not be launched.
+/// Finishes when the process has ended or could not be launched.
 End endOf(const QProcess& process) {
     auto end = std::make_shared<QPromise<void>>();
     end->start();
@@ -107,11 +106,11 @@ void signalGroup(const QProcess* process, int signal) {
         ::kill(-static_cast<pid_t>(process->processId()), signal);
 }
 
-/// Asks, then kills, then waits no longer.
+/// Sends SIGTERM, then SIGKILL, then stops waiting.
 void terminate(QProcess* process, const End& end) {
     signalGroup(process, SIGTERM);
-    QTimer::singleShot(graceAfterTerminate, process, [process] { signalGroup(process, SIGKILL); });
-    QTimer::singleShot(2 * graceAfterTerminate, process, [end] { end->finish(); });
+    QTimer::singleShot(killTimeout, process, [process] { signalGroup(process, SIGKILL); });
+    QTimer::singleShot(2 * killTimeout, process, [end] { end->finish(); });
 }
 
 ToolResult resultOf(QProcess& process, bool isOurs) {
@@ -123,7 +122,7 @@ ToolResult resultOf(QProcess& process, bool isOurs) {
     if (!isOurs)
         return result;
     const QByteArray said = result.launched ? process.readAllStandardError() : process.errorString().toUtf8();
-    result.complaint = QString::fromUtf8(said.trimmed().split('\n').constFirst());
+    result.errorLine = QString::fromUtf8(said.trimmed().split('\n').constFirst());
     if (result.exitStatus == cannotStart) {
         result.launched = false;
         result.exitStatus = -1;
@@ -136,7 +135,7 @@ void reportFailure(const QProcess& process, const ToolResult& result) {
         qCInfo(Log::platform) << "a tool ended with status" << result.exitStatus;
     else
         qCWarning(Log::platform) << "a tool was not launched:" << process.error();
-    qCDebug(Log::platform) << process.program() << process.arguments() << result.complaint;
+    qCDebug(Log::platform) << process.program() << process.arguments() << result.errorLine;
 }
 
 } // namespace
@@ -145,7 +144,7 @@ UnixToolRunner::UnixToolRunner(QString toolsFolder)
     : m_toolsFolder(std::move(toolsFolder)) {
     struct sigaction ofChildren {};
     sigaction(SIGCHLD, nullptr, &ofChildren);
-    // Inherited so from some window managers; the kernel would then tell nobody how a child ended.
+    // Some window managers pass it on ignored, and the exit status of children would be lost.
     if (ofChildren.sa_handler == SIG_IGN)
         signal(SIGCHLD, SIG_DFL);
 }
@@ -185,8 +184,8 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
         process->closeWriteChannel();
     }
     const auto endIt = [tool = process.get(), end] { terminate(tool, end); };
-    if (request.terminateAfter)
-        QTimer::singleShot(*request.terminateAfter, process.get(), endIt);
+    if (request.timeout)
+        QTimer::singleShot(*request.timeout, process.get(), endIt);
     const std::stop_callback whenStopped(request.stop, endIt);
     if (process->state() != QProcess::NotRunning) // a program without a name changes no state
         co_await ended;

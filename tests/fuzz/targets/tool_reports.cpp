@@ -1,7 +1,7 @@
 #include "Core/Cleanup/CacheScanner.h"
 #include "Core/Cleanup/Cleaner.h"
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Tools/CleanupListing.h"
+#include "Tools/Cleanup.h"
 #include "fuzz/Fuzz.h"
 
 using namespace Qt::StringLiterals;

@@ -14,11 +14,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// How long a compositor may take to bring a window forward.
-constexpr auto patience = 500ms;
+constexpr auto activationTimeout = 500ms; ///< of a compositor that brings a window forward
 
-/// A Wayland compositor may refuse to bring a window forward or to unminimize it. One that is opened anew it
-/// shows.
+/// Reopens a window that a Wayland compositor refused to bring forward or unminimize.
 void openAnewUnlessActive(QWidget* window) {
     if (!window->isVisible() || window->isActiveWindow() || QApplication::activeModalWidget())
         return;
@@ -49,7 +47,7 @@ void FreedesktopDesktopApplication::bringForward(QWidget* window) {
     window->activateWindow();
     X11Window::activate(window);
     if (WaylandWindow::isWayland())
-        QTimer::singleShot(patience, window, [window] { openAnewUnlessActive(window); });
+        QTimer::singleShot(activationTimeout, window, [window] { openAnewUnlessActive(window); });
 }
 
 void FreedesktopDesktopApplication::setActivationPolicy(ActivationPolicy policy) {
@@ -58,7 +56,7 @@ void FreedesktopDesktopApplication::setActivationPolicy(ActivationPolicy policy)
         X11Window::setSkipTaskbar(window, policy == ActivationPolicy::accessory);
 }
 
-/// A window manager forgets a window's state when it is unmapped, so that it is told again.
+/// Window managers forget a window's state when it is unmapped.
 bool FreedesktopDesktopApplication::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show && m_policy == ActivationPolicy::accessory) {
         auto* window = qobject_cast<QWidget*>(watched);

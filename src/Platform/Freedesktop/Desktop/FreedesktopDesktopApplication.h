@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// Windows through Qt, their task bar entries through the window manager. A Wayland compositor decides for
-/// itself what its task bar lists and what comes to the front; a window that it leaves behind is opened anew.
+/// Windows through Qt, task bar entries through the window manager. Wayland compositors alone decide on both
+/// task bar and activation; a window that they do not activate is reopened.
 class FreedesktopDesktopApplication : public QObject, public DesktopApplication {
     Q_OBJECT
 

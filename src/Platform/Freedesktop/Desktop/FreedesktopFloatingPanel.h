@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
-/// A tool window kept above by the window manager. Translucent where a compositor runs. On Wayland the
-/// compositor alone places it, and may not keep it above.
+/// A tool window that the window manager keeps above, translucent under a compositor. On Wayland the
+/// compositor places it and may not keep it above.
 class FreedesktopFloatingPanel : public QWidget, public FloatingPanel {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ protected:
     void moveEvent(QMoveEvent* event) override;
 
 private:
-    QPoint m_grip; ///< where the pointer holds the panel, from its top left corner
+    QPoint m_grip; ///< where the pointer was pressed
     QPoint m_place;
     bool m_placed = false;
 };

@@ -19,8 +19,8 @@ namespace {
 
 constexpr int gap = 4;
 constexpr int sameClickMs = 250;
-/// Where the keyboard follows the pointer, other windows have it while the pointer is on its way here.
-constexpr auto patience = 1s;
+/// Where the focus follows the pointer, other windows have it while the pointer is on its way here.
+constexpr auto focusTimeout = 1s;
 
 constexpr Qt::WindowFlags popUp = Qt::Popup | Qt::FramelessWindowHint;
 constexpr Qt::WindowFlags smallWindow = Qt::Tool | Qt::FramelessWindowHint;
@@ -29,8 +29,8 @@ constexpr Qt::WindowFlags smallWindow = Qt::Tool | Qt::FramelessWindowHint;
 
 FreedesktopPopover::FreedesktopPopover(QObject* parent)
     : Popover(parent) {
-    m_forsaken.setSingleShot(true);
-    connect(&m_forsaken, &QTimer::timeout, this, &FreedesktopPopover::close);
+    m_focusTimer.setSingleShot(true);
+    connect(&m_focusTimer, &QTimer::timeout, this, &FreedesktopPopover::close);
 }
 
 FreedesktopPopover::~FreedesktopPopover() {
@@ -61,7 +61,7 @@ void FreedesktopPopover::show(QRect anchor) {
     m_window->activateWindow();
     if (cannotPopUp)
         X11Window::activate(m_window);
-    m_window->setFocus(); // no control of the content looks chosen before Tab picks one
+    m_window->setFocus(); // so that no control of the content has the focus before Tab is pressed
 }
 
 void FreedesktopPopover::close() {
@@ -78,20 +78,20 @@ bool FreedesktopPopover::eventFilter(QObject* watched, QEvent* event) {
     return Popover::eventFilter(watched, event);
 }
 
-/// What the window system and Qt do for a pop-up is done here for the small window.
+/// Closes the small window as the window system and Qt close a pop-up.
 void FreedesktopPopover::filterOwnWindow(QEvent* event) {
     const bool isPopUp = m_window->windowType() == Qt::Popup;
     switch (event->type()) {
     case QEvent::Hide:
         m_sinceClosed.start();
-        m_forsaken.stop();
+        m_focusTimer.stop();
         break;
     case QEvent::WindowActivate:
-        m_forsaken.stop();
+        m_focusTimer.stop();
         break;
     case QEvent::WindowDeactivate:
         if (!isPopUp)
-            m_forsaken.start(patience);
+            m_focusTimer.start(focusTimeout);
         break;
     case QEvent::KeyPress:
         if (!isPopUp && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
@@ -102,8 +102,8 @@ void FreedesktopPopover::filterOwnWindow(QEvent* event) {
     }
 }
 
-/// Below the anchor where there is room, else above it; always whole on the anchor's screen. A Wayland
-/// compositor alone knows where the room ends, and moves what goes beyond.
+/// Places the window below the anchor or, without room, above it, within the anchor's screen. Only a Wayland
+/// compositor knows the bounds there.
 QPoint FreedesktopPopover::place(QRect anchor) const {
     if (anchor.isEmpty())
         anchor = QRect(QCursor::pos(), QSize(1, 1));

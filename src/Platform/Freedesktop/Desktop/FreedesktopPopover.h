@@ -7,10 +7,9 @@
 #include <QTimer>
 #include <QWidget>
 
-/// A pop-up window: the window system closes it on an outside click, Qt on Escape. A Wayland compositor lets
-/// pop up only what belongs to a window of ours that was clicked, and keeps from an X11 program what is done
-/// elsewhere. Beside a tray, and under XWayland, the popover is a small window of its own instead, which
-/// closes when the keyboard goes elsewhere.
+/// A pop-up window: the window system closes it on an outside click, Qt on Escape. Wayland compositors allow
+/// pop-ups only for a clicked window of ours and hide outside clicks from X11 programs. Beside a Wayland tray
+/// and under XWayland the popover is therefore a small window, which closes when it loses the keyboard.
 class FreedesktopPopover : public Popover {
     Q_OBJECT
 
@@ -21,8 +20,7 @@ public:
     void setContent(QWidget* content, QSize size) override;
     void show(QRect anchor) override;
     void close() override;
-    /// True also while the click that closed it is still being handled, so that a second click on the
-    /// anchor closes the popover and does not open it again.
+    /// Returns true for a moment after it was closed too, so that the click that closed it does not reopen it.
     bool isShown() const override;
 
 protected:
@@ -34,5 +32,5 @@ private:
 
     QPointer<QWidget> m_window;
     QElapsedTimer m_sinceClosed;
-    QTimer m_forsaken;
+    QTimer m_focusTimer;
 };

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int answerMs = 1000;
+constexpr int replyTimeoutMs = 1000;
 
 const auto notifier = QStringLiteral("org.kde.StatusNotifierWatcher");
 const auto notifierPath = QStringLiteral("/StatusNotifierWatcher");
@@ -34,7 +34,7 @@ FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent)
             &FreedesktopStatusItem::askNotifier);
     for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         bus.connect(QString(), notifierPath, notifier, QString::fromLatin1(event), this, SLOT(askNotifier()));
-    // The older protocol announces itself to a tray's clients only; this is one round trip to the display.
+    // XEmbed trays announce themselves to their clients only; a check is one round trip to the display.
     connect(&m_windowWatch, &QTimer::timeout, this, &FreedesktopStatusItem::watchTrayWindow);
     m_windowWatch.start(3s);
     m_trayWindow = X11Window::tray();
@@ -43,7 +43,7 @@ FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent)
 
 void FreedesktopStatusItem::askNotifier() {
     auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) { // nobody would ever answer
+    if (!bus.isConnected()) {
         QMetaObject::invokeMethod(this, &FreedesktopStatusItem::chooseTray, Qt::QueuedConnection);
         return;
     }
@@ -51,7 +51,7 @@ void FreedesktopStatusItem::askNotifier() {
         notifier, notifierPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question << notifier << QStringLiteral("IsStatusNotifierHostRegistered");
     question.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, answerMs), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, replyTimeoutMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         m_isSilent = reply.error().type() == QDBusError::NoReply;
@@ -70,8 +70,7 @@ void FreedesktopStatusItem::watchTrayWindow() {
         chooseTray();
 }
 
-/// Qt is asked only once there is a tray that answers: it settles at its first look for good which kind there
-/// is, and waits for one that is silent.
+/// Asks Qt only once a tray replies: Qt chooses the protocol for good, and blocks on a tray that hangs.
 void FreedesktopStatusItem::chooseTray() {
     const bool mayHaveTray = !m_isSilent && (m_hasNotifier || m_trayWindow != 0);
     const bool hasTray = mayHaveTray && QSystemTrayIcon::isSystemTrayAvailable();
@@ -79,7 +78,7 @@ void FreedesktopStatusItem::chooseTray() {
         m_tray.emplace();
         connect(
             &*m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-                // A Wayland tray that draws no menus asks for ours, which could not pop up there.
+                // A Wayland tray without menus asks for ours, which cannot pop up there.
                 const bool isMenuMissing = reason == QSystemTrayIcon::Context && WaylandWindow::isWayland();
                 if (reason == QSystemTrayIcon::Trigger || isMenuMissing)
                     Q_EMIT clicked();

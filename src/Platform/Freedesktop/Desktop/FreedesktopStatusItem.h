@@ -11,9 +11,8 @@
 
 #include <optional>
 
-/// An item in the desktop's tray, or the pill while there is no tray. A tray that appears or vanishes while
-/// the program runs is followed; one that stops answering holds up nothing. Nothing shows before the first
-/// answer.
+/// An item in the desktop's tray, or the pill while there is no tray. It follows trays that appear, vanish or
+/// hang while the program runs. Nothing is shown before the first reply.
 class FreedesktopStatusItem : public StatusItem {
     Q_OBJECT
 
@@ -38,7 +37,7 @@ private:
     StatusPill m_pill;
     QDBusServiceWatcher m_notifierWatch;
     bool m_hasNotifier = false; ///< a tray on the bus
-    bool m_isSilent = false;    ///< it did not answer when last asked
+    bool m_isSilent = false;    ///< the last call timed out
     QTimer m_windowWatch;
-    quint32 m_trayWindow = 0; ///< that of the older protocol, 0 for none
+    quint32 m_trayWindow = 0; ///< of an XEmbed tray, 0 for none
 };

@@ -46,13 +46,13 @@ void StatusPill::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
 }
 
-/// Keeps the right edge where it is: wider figures grow to the left.
+/// Keeps the right edge in place: wider figures grow to the left.
 void StatusPill::fit() {
     const int content =
         m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
     const QSize wanted(content + 2 * padding, pillHeight);
     if (WaylandWindow::isWayland()) {
-        setFixedSize(wanted); // a compositor that tiles its windows lets those of one size float
+        setFixedSize(wanted); // tiling compositors let windows of fixed size float
         return;
     }
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
@@ -80,8 +80,7 @@ void StatusPill::mousePressEvent(QMouseEvent* event) {
     m_grip = event->position().toPoint();
     if (event->button() != Qt::RightButton || !m_menu)
         return;
-    // Without a parent of its own it would belong to the window that has the keyboard, and on Wayland be
-    // there.
+    // By default its parent is the window with the keyboard, where Wayland would show it.
     m_menu->winId();
     m_menu->windowHandle()->setTransientParent(windowHandle());
     m_menu->popup(event->globalPosition().toPoint());

@@ -5,8 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Stands in for a tray where the desktop has none: a small window at the top right, above all others,
-/// that shows the title itself. On Wayland the compositor places it, and it is dragged like the panel.
+/// A small window for desktops without a tray, at the top right above all others, with the title in it. On
+/// Wayland the compositor places it and it can be dragged.
 class StatusPill : public QWidget {
     Q_OBJECT
 

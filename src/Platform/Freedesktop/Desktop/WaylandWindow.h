@@ -2,15 +2,14 @@
 
 #include <QGuiApplication>
 
-/// Where a compositor decides what an X11 program decides for itself. It places every window; to Qt each
-/// one's top left corner is the origin.
+/// Tells whether a Wayland compositor decides on windows. It places them all, and Qt reports each at (0, 0).
 namespace WaylandWindow {
 
 inline bool isWayland() {
     return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
-/// X11 in the session of a compositor, which tells us of clicks and keys in our own windows alone.
+/// Returns true for X11 in a Wayland session, where input outside our own windows is hidden.
 inline bool isXWayland() {
     return QGuiApplication::platformName() == u"xcb" && qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }

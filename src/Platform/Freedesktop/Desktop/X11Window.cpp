@@ -37,7 +37,7 @@ xcb_window_t ownerOf(const QByteArray& selection) {
     return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
 }
 
-/// Asks the window manager, the way a mapped window has to.
+/// Sends the request of a mapped window to the window manager.
 void sendToRoot(QWidget* window, const QByteArray& message, std::initializer_list<quint32> data) {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;

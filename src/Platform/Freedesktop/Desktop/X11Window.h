@@ -4,20 +4,20 @@
 
 class QWidget;
 
-/// What the extended window manager hints offer and Qt does not. Under Wayland these do nothing.
+/// The extended window manager hints that Qt lacks. No-ops under Wayland.
 namespace X11Window {
 
 bool isX11();
 
-/// On every desktop; holds for the window's next mapping too.
+/// Shows the window on every desktop, now and at its next mapping.
 void setOnAllDesktops(QWidget* window);
-/// In the task bar and pager, or not.
+/// Hides the window from task bar and pager.
 void setSkipTaskbar(QWidget* window, bool skip);
-/// To the front with the keyboard, as if the user had picked it from a pager.
+/// Raises the window and gives it the keyboard, as a pager does.
 void activate(QWidget* window);
-/// Whether a compositor runs, without which nothing can be translucent.
+/// Returns whether a compositor runs, which translucent windows need.
 bool isComposited();
-/// The window of the tray that takes in windows (XEmbed); 0 for none.
+/// Returns the window of the XEmbed tray, or 0.
 quint32 tray();
 
 } // namespace X11Window

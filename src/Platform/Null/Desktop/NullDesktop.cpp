@@ -6,7 +6,7 @@
 
 #include <QWidget>
 
-// A desktop with room for ordinary windows and for nothing else.
+// A desktop with ordinary windows only.
 
 namespace {
 
