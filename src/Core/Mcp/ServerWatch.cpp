@@ -14,7 +14,7 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-constexpr double minIdleSeconds = 60; ///< below it a server has only just answered
+constexpr double minIdleSeconds = 60; // below it a server has just answered
 
 QString idleText(double seconds) {
     if (seconds < minIdleSeconds)
@@ -29,13 +29,13 @@ QString timeText(Instant instant) {
     return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(u"HH:mm"_s);
 }
 
-/// The agent or editor itself where an interpreter runs it.
+/// Returns the name of the agent or editor itself where an interpreter runs it.
 QString hostName(const ProcSample& host) {
     const auto* known = KnownPrograms::of(host);
     return known && LaunchedProgram::isInterpreter(host.name) ? known->name.toString() : host.name;
 }
 
-QString nameAndId(const QString& name, qint32 pid) {
+QString nameAndPid(const QString& name, qint32 pid) {
     return u"%1 (%2)"_s.arg(Formatters::visible(name)).arg(pid);
 }
 
@@ -68,7 +68,7 @@ QList<LiveServer> ServerWatch::lookAt(const QList<ProcSample>& processes) const 
         processes, [this](const ProcSample& process) { return m_table->keeper(process.pid); });
 }
 
-/// Begins anew where the id has passed on.
+/// Returns the past of a server, a new one where the PID was reused.
 ServerWatch::Past& ServerWatch::pastOf(const ProcessIdentity& server) {
     Past& past = m_past[server.pid];
     if (past.startTime != server.startTime)
@@ -76,7 +76,7 @@ ServerWatch::Past& ServerWatch::pastOf(const ProcessIdentity& server) {
     return past;
 }
 
-/// Asked once in a server's life.
+/// Asks the system once for each server.
 ProcessKeeper ServerWatch::keeperOf(const ProcSample& process) {
     Past& past = pastOf(process.identity());
     if (!past.keeper)
@@ -105,7 +105,7 @@ QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const
     if (server.host) {
         const QString place =
             past.hostFolder.isEmpty() ? QString() : u" in "_s + Formatters::visible(past.hostFolder);
-        return u"in use by "_s + nameAndId(past.hostName, past.host.pid) + place;
+        return u"in use by "_s + nameAndPid(past.hostName, past.host.pid) + place;
     }
     if (!server.isOrphan) {
         const QString keeper = Formatters::visible(QString::fromUtf8(server.keeper.name));
@@ -115,10 +115,10 @@ QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const
     }
     QString reason = u"orphan: "_s;
     if (past.hostEnded)
-        reason += u"its host %1 ended at %2"_s.arg(nameAndId(past.hostName, past.host.pid),
+        reason += u"its host %1 ended at %2"_s.arg(nameAndPid(past.hostName, past.host.pid),
                                                    timeText(*past.hostEnded));
     else if (past.host.pid != 0)
-        reason += u"no longer below its host "_s + nameAndId(past.hostName, past.host.pid);
+        reason += u"no longer below its host "_s + nameAndPid(past.hostName, past.host.pid);
     else
         reason += u"no agent or editor above it"_s;
     return reason + idleText(server.idleSeconds);

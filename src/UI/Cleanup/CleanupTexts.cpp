@@ -55,14 +55,14 @@ QString CleanupTexts::progress(const QString& doing, const CleanupProgress& prog
 }
 
 bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
-    return target.rule.holdsUserFiles || !target.volumes.isEmpty();
+    return target.rule.hasUserFiles || !target.volumes.isEmpty();
 }
 
 QString CleanupTexts::whatGoes(const CacheTarget& target) {
     if (!target.volumes.isEmpty())
         return u"Gone for good: "_s + volumesOf(target);
     const QString names = namesOf(target);
-    if (target.rule.holdsUserFiles)
+    if (target.rule.hasUserFiles)
         return names.isEmpty() ? u"Gone for good"_s : u"Gone for good: "_s + names;
     if (names.isEmpty() && target.pruneCommand)
         return u"Runs "_s + *target.pruneCommand;
@@ -72,7 +72,7 @@ QString CleanupTexts::whatGoes(const CacheTarget& target) {
 QString CleanupTexts::question(const CacheTarget& target) {
     QStringList paragraphs;
     const QString names = namesOf(target);
-    if (target.rule.holdsUserFiles) {
+    if (target.rule.hasUserFiles) {
         paragraphs.append(names.isEmpty()
                               ? u"These are files of yours, no caches. They will be gone for good."_s
                               : u"These files of yours will be gone for good: %1."_s.arg(names));
