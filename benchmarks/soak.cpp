@@ -48,7 +48,7 @@ public:
     explicit Visit(int ticks)
         : m_run(ticks, [this] { return tables(); }) {
         scriptCaches();
-        m_model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+        m_model.actions().setFreeRAMDelays({.beforeSecondPass = {}, .beforeMeasuring = {}});
         m_window.show();
         m_widget.show(m_model);
         m_desktop.popover->show({});

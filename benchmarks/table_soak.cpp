@@ -1,5 +1,6 @@
 // Checks that nothing grows in ticks on the system's process table while 200 children of this program start
-// and end per second. Prints figures as NAME_TICK VALUE after each quarter of the run. Status 1 when one grew.
+// and end per second. Prints figures as NAME_TICK VALUE after each quarter of the run. Status 1 when one
+// grew.
 //   tavrin_table_soak [SECONDS]     180 unless given
 
 #include "AppModel.h"

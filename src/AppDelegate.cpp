@@ -27,7 +27,7 @@ AppDelegate::~AppDelegate() {
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
-    openMainWindow(); // before all else: its frame is drawn while the rest is made
+    openMainWindow(); // first: its frame is drawn while the rest is made
     m_model.start();
     m_messages.start();
     m_menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
@@ -54,7 +54,7 @@ void AppDelegate::bringForward() {
 }
 
 void AppDelegate::openSettings() {
-    if (!m_settings || !m_settings->isVisible()) { // one that was closed may not be gone yet
+    if (!m_settings || !m_settings->isVisible()) { // a closed one is deleted later
         m_settings = new SettingsScene(m_preferences, *m_loginItem);
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
         const QRect around =
@@ -74,11 +74,11 @@ void AppDelegate::registerLoginItemIfFirstLaunch() {
     const QString key = QStringLiteral("pref.didFirstLaunchSetup");
     const bool isFirst = !m_preferences.file().boolean(key).value_or(false);
     if (isFirst)
-        m_preferences.file().store(key, true); // first, so that whatever fails is not tried at every launch
+        m_preferences.file().store(key, true); // first, so that no failure repeats at every launch
     if (!m_preferences.startAtLogin())
         return;
     if (isFirst && m_loginItem->isInstalled())
-        m_loginItem->registerItem(); // a failure is nothing to bother a new user with
+        m_loginItem->registerItem(); // a failure is not worth a message to a new user
     else
         m_loginItem->replaceGoneProgram();
 }

@@ -15,7 +15,7 @@ class MessageCenter;
 class Preferences;
 class SettingsScene;
 
-/// What happens when launching has finished, and who owns the windows from then on.
+/// Starts the program once launching has finished, and owns its windows.
 class AppDelegate {
 public:
     AppDelegate(AppModel& model, Preferences& preferences, MessageCenter& messages, Desktop desktop,
@@ -23,9 +23,9 @@ public:
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
-    /// The user started the program a second time.
+    /// Brings the main window forward, for a user who started the program a second time.
     void bringForward();
-    /// Brings the settings window forward; one that was closed is made anew.
+    /// Brings the settings window forward, and makes it where none is open.
     void openSettings();
 
 private:

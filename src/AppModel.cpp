@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Whatever is stored, the program neither spins nor overflows the timer.
+/// Bounds within which no stored interval spins the program or overflows the timer.
 constexpr double minIntervalSeconds = 0.1;
 constexpr double maxIntervalSeconds = 86400;
 constexpr double intervalTolerance = 0.01;
@@ -48,8 +48,8 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
 
 void AppModel::start() {
     bindTimer(m_preferences.pollIntervalSeconds());
-    disconnect(m_pollIntervalCancellable);
-    m_pollIntervalCancellable = observe(&m_preferences, this, [this] { followPollInterval(); });
+    disconnect(m_pollIntervalConnection);
+    m_pollIntervalConnection = observe(&m_preferences, this, [this] { followPollInterval(); });
     tick();
 }
 
@@ -81,8 +81,7 @@ void AppModel::tick() {
     publish(m_state.groups, rollups);
     publish(m_state.alerts,
             m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(), m_preferences));
-    const auto& configured = m_mcpConfiguration.readConfigured();
-    publish(m_state.mcpReport, {.configured = configured,
+    publish(m_state.mcpReport, {.configured = m_mcpConfiguration.readConfigured(),
                                 .live = m_servers.detectLive(m_state.processes),
                                 .isUnknown = m_mcpConfiguration.isUnknown()});
 }

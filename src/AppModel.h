@@ -19,20 +19,20 @@
 
 class Preferences;
 
-/// The one observable model: it samples the machine once per poll interval and publishes the figures that
-/// every view shows. It owns the parts that act, and announces their changes with its own.
+/// The one observable model. It samples the machine once per poll interval and publishes the figures that the
+/// views show. It owns the parts that act and announces their changes with its own.
 class AppModel : public Observable {
     Q_OBJECT
 
 public:
-    /// The model of the running program; made on first use, never destroyed before the program ends.
+    /// Returns the model of the running program, made at the first call.
     static AppModel& shared();
 
     AppModel(Platform platform, Preferences& preferences, QObject* parent = nullptr);
 
-    /// Begins sampling: arms the timer, follows the poll interval, and ticks once at once.
+    /// Starts the timer, follows the poll interval and ticks once.
     void start();
-    /// The period of the sampling timer in seconds, -1 while there is none.
+    /// Returns the period of the sampling timer in seconds, -1 while it is stopped.
     double timerInterval() const;
 
     const SystemSample& systemSample() const { return m_state.systemSample; }
@@ -50,15 +50,14 @@ public:
     ProcessActions& actions() { return m_actions; }
     const ProcessActions& actions() const { return m_actions; }
 
-    /// Off at every start of the program.
+    /// Returns whether the optimizer is on; it is off when the program starts.
     bool autoOptimizeEnabled() const { return m_optimizer.enabled(); }
-    /// Switching on runs a pass at once, also when it is on already.
+    /// Switches the optimizer. Every switch to on runs a pass, also when it was on.
     void setAutoOptimizeEnabled(bool enabled);
 
-    /// The group that the user chose for the program of a process. Empty: it is as detected.
+    /// Returns the group that the user chose for the program of a process, or an empty optional.
     std::optional<ProcGroup> chosenGroup(const ProcSample& process) const;
-    /// Puts the programs of these processes into a group, from now on and at the next start too; empty leaves
-    /// that to the rules again.
+    /// Stores a group for the programs of these processes. An empty one removes the choice.
     void chooseGroup(const QList<ProcSample>& processes, std::optional<ProcGroup> group);
 
 private Q_SLOTS:
@@ -83,5 +82,5 @@ private:
     ProcessActions m_actions;
     AutoOptimizer m_optimizer;
     QTimer m_timer;
-    QMetaObject::Connection m_pollIntervalCancellable;
+    QMetaObject::Connection m_pollIntervalConnection;
 };

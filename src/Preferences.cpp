@@ -69,9 +69,9 @@ Preferences::Preferences(const QString& iniFile, QObject* parent)
 
 int Preferences::historyRetentionSamples() const {
     constexpr double minInterval = 0.5;
-    constexpr int fewest = 60;
+    constexpr int minSamples = 60;
     const double interval = std::max(minInterval, pollIntervalSeconds());
-    return std::max(fewest, static_cast<int>(spanSeconds(historyRetention()) / interval));
+    return std::max(minSamples, static_cast<int>(spanSeconds(historyRetention()) / interval));
 }
 
 QList<QuickKillPreset> Preferences::quickKillPresets() const {

@@ -11,34 +11,33 @@
 #include <QSet>
 
 #include <array>
-#include <utility>
 
 enum class MenuBarFormat { both, cpuOnly, ramOnly, iconOnly };
 
 template <>
 inline constexpr std::array rawValueTable<MenuBarFormat> = {
-    RawValueRow<MenuBarFormat>{MenuBarFormat::both, u"CPU% \u2022 RAM%"},
-    RawValueRow<MenuBarFormat>{MenuBarFormat::cpuOnly, u"CPU%"},
-    RawValueRow<MenuBarFormat>{MenuBarFormat::ramOnly, u"RAM%"},
-    RawValueRow<MenuBarFormat>{MenuBarFormat::iconOnly, u"Icon only"},
+    RawValueRow{MenuBarFormat::both, u"CPU% \u2022 RAM%"},
+    RawValueRow{MenuBarFormat::cpuOnly, u"CPU%"},
+    RawValueRow{MenuBarFormat::ramOnly, u"RAM%"},
+    RawValueRow{MenuBarFormat::iconOnly, u"Icon only"},
 };
 
 enum class HistoryRetention { fiveMin, twentyFive, oneHour };
 
 template <>
 inline constexpr std::array rawValueTable<HistoryRetention> = {
-    RawValueRow<HistoryRetention>{HistoryRetention::fiveMin, u"5 min"},
-    RawValueRow<HistoryRetention>{HistoryRetention::twentyFive, u"25 min"},
-    RawValueRow<HistoryRetention>{HistoryRetention::oneHour, u"1 hour"},
+    RawValueRow{HistoryRetention::fiveMin, u"5 min"},
+    RawValueRow{HistoryRetention::twentyFive, u"25 min"},
+    RawValueRow{HistoryRetention::oneHour, u"1 hour"},
 };
 
-/// How long a history of that retention spans, in seconds.
+/// Returns the length of a history of that retention in seconds.
 int spanSeconds(HistoryRetention retention);
 
 class Preferences;
 
-/// One setting: a typed view onto one key. Reading gives the stored value, or the default while the key is
-/// absent or holds nothing readable; it never writes.
+/// One setting: a typed view onto one key. Reading returns the stored value, or the default where the key is
+/// absent or unreadable. It never writes.
 template <typename T> class Property {
 public:
     Property(Preferences& owner, const char16_t* key, T fallback)
@@ -47,7 +46,7 @@ public:
         , m_fallback(std::move(fallback)) {}
 
     T operator()() const;
-    /// On disk when it returns; observers hear of it before the new value can be read.
+    /// Announces the change, then writes the value to disk before it returns.
     void set(const T& value);
 
 private:
@@ -61,7 +60,7 @@ class Preferences : public Observable {
     Q_OBJECT
 
 public:
-    /// The running program's own, in the user's configuration folder.
+    /// Returns the settings of the running program, in the user's configuration folder.
     static Preferences& shared();
 
     explicit Preferences(const QString& iniFile, QObject* parent = nullptr);
@@ -88,23 +87,22 @@ public:
     Property<double> alertCachesBigGB{*this, u"pref.alertCachesBig_gb", 5.0};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
-
     /// A JSON object: raw values of groups by program.
     Property<QByteArray> programGroupsJSON{*this, u"pref.programGroupsJSON", QByteArray()};
 
-    /// How many samples the in-memory history keeps: the retention over the poll interval, at least 60.
+    /// Returns the length of the history in samples: the retention over the poll interval, at least 60.
     int historyRetentionSamples() const;
 
-    /// The presets in force: the stored ones, or the built-in ones while nothing readable is stored.
+    /// Returns the stored presets, or the built-in ones where none are readable.
     QList<QuickKillPreset> quickKillPresets() const;
     void storeQuickKillPresets(const QList<QuickKillPreset>& presets);
 
-    /// The groups that the user chose for programs. What cannot be read as a group counts as absent.
+    /// Returns the groups that the user chose, by program. An unreadable group counts as absent.
     QHash<QString, ProcGroup> programGroups() const;
-    /// An empty `group` takes the choice back.
+    /// Stores a group for these programs. An empty one removes the choice.
     void storeProgramGroups(const QSet<QString>& programs, std::optional<ProcGroup> group);
 
-    /// The file behind the properties, for keys that are none of them.
+    /// Returns the file behind the properties, for keys without a property.
     SettingsFile& file() { return m_file; }
     const SettingsFile& file() const { return m_file; }
 

@@ -16,8 +16,7 @@
 
 namespace {
 
-/// Where this program's windows appear, so that two displays of one user are told apart. ":0.1" is a screen
-/// of the display ":0".
+/// Returns a name of the display, which tells two displays of one user apart. ":0.1" is a screen of ":0".
 QString displayName() {
     const QString screen = qEnvironmentVariable("DISPLAY");
     const QString display = screen.left(screen.indexOf(u'.', screen.lastIndexOf(u':')));

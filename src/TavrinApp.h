@@ -6,7 +6,7 @@
 
 class AppDelegate;
 
-/// The application's entry: its identity, its look and its delegate.
+/// The application object: its identity, its style and its delegate.
 class TavrinApp : public QApplication {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     TavrinApp(int& argc, char** argv);
     ~TavrinApp() override;
 
-    /// Runs until the user quits; returns the exit status.
+    /// Runs until the user quits, and returns the exit status.
     int run();
 
 private:

@@ -64,7 +64,7 @@ QString bytes(quint64 count) {
         return QCoreApplication::translate("Formatters", "%n byte(s)", nullptr, int(count));
     double value = static_cast<double>(count) / step;
     std::size_t unit = 0;
-    // What would round up to 1024 of a unit is one of the next.
+    // A value that rounds up to 1024 of a unit is one of the next.
     while (unit + 1 < units.size() && (value >= step || fixed(value, 1) == QStringLiteral("1024.0"))) {
         value /= step;
         ++unit;

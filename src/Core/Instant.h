@@ -2,5 +2,5 @@
 
 #include <chrono>
 
-/// A point in civil time.
+/// A point in wall-clock time.
 using Instant = std::chrono::system_clock::time_point;

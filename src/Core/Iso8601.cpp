@@ -10,11 +10,11 @@ using namespace std::chrono;
 /// Characters of "2026-11-16T14:23:43", before the zone.
 constexpr qsizetype dateTimeLength = 19;
 constexpr qsizetype offsetLength = 6;
-/// What an instant can hold, in whole seconds: the years from 1677 to 2262.
+/// The range of Instant in whole seconds: the years from 1677 to 2262.
 constexpr auto earliest = time_point_cast<seconds>(Instant::min());
 constexpr auto latest = time_point_cast<seconds>(Instant::max());
 
-/// The decimal number in `text[from, from + width)`, or -1 when that is not all digits.
+/// Returns the number in `text[from, from + width)`, or -1 when that is not all digits.
 int number(QByteArrayView text, qsizetype from, qsizetype width) {
     int value = 0;
     for (qsizetype i = from; i < from + width; ++i) {
@@ -26,8 +26,8 @@ int number(QByteArrayView text, qsizetype from, qsizetype width) {
     return value;
 }
 
-bool isInRange(int value, int largest) {
-    return value >= 0 && value <= largest;
+bool isInRange(int value, int max) {
+    return value >= 0 && value <= max;
 }
 
 std::optional<seconds> zoneOffset(QByteArrayView zone) {

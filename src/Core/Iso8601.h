@@ -6,15 +6,14 @@
 #include <QByteArrayView>
 #include <optional>
 
-/// Internet date-times in whole seconds, as the action log holds them. Written by hand because a log of a
-/// million lines is read at once.
+/// Internet date-times in whole seconds. Written by hand for speed: a log may have a million lines.
 namespace Iso8601 {
 
-/// In UTC, a fraction of a second dropped: "2026-11-16T14:23:43Z".
+/// Returns the time in UTC without a fraction: "2026-11-16T14:23:43Z".
 QByteArray format(Instant instant);
 
-/// Strict: every field has its full width and is in range, upper-case T, no fraction, and the zone is "Z" or
-/// an offset such as "+01:00". Empty for anything else, and for a time that an Instant cannot hold.
+/// Reads a time with fields of full width and in range, an upper-case T, no fraction, and the zone "Z" or an
+/// offset such as "+01:00". Returns an empty optional for anything else and beyond the range of Instant.
 std::optional<Instant> parse(QByteArrayView text);
 
 } // namespace Iso8601

@@ -2,7 +2,7 @@
 
 #include "Platform/Log.h"
 
-/// The rooms' part of the trace.
+/// The logging categories of the rooms.
 namespace Log {
 
 Q_DECLARE_LOGGING_CATEGORY(cleanup) ///< "tavrin.cleanup"

@@ -4,8 +4,7 @@
 
 #include <utility>
 
-/// Holds values that others show. `objectWillChange` is emitted before each change lands; views use
-/// `observe`.
+/// Owns values that others show. Views listen through `observe`.
 class Observable : public QObject {
     Q_OBJECT
 
@@ -13,6 +12,7 @@ public:
     using QObject::QObject;
 
 Q_SIGNALS:
+    /// Emitted just before a value changes.
     void objectWillChange();
 
 protected:

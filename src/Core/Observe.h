@@ -5,9 +5,8 @@
 #include <memory>
 #include <utility>
 
-/// Calls `handler` on a later pass of the main loop whenever `source` announces a change, so that it reads
-/// the new values. A burst of changes leads to one call. Ends with `source` or `owner`, or with
-/// QObject::disconnect on the connection returned.
+/// Calls `handler` on a later pass of the main loop after `source` announced changes, once for a burst of
+/// them. Ends with `source`, `owner` or the returned connection.
 template <typename Source, typename Handler>
 QMetaObject::Connection observe(Source* source, QObject* owner, Handler handler) {
     auto pending = std::make_shared<bool>(false);

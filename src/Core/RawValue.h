@@ -6,12 +6,13 @@
 #include <array>
 #include <optional>
 
-/// The raw strings of a closed set of cases. An enumeration takes part by specialising `rawValueTable<E>`
-/// with one row per case, in the order of declaration.
+/// The raw string of one case. An enumeration specialises `rawValueTable<E>` with one row per case, in the
+/// order of declaration.
 template <typename E> struct RawValueRow {
     E value;
     QStringView raw;
 };
+template <typename E> RawValueRow(E, QStringView) -> RawValueRow<E>;
 
 template <typename E> inline constexpr auto rawValueTable = nullptr;
 
@@ -23,7 +24,7 @@ template <typename E> QString rawValue(E value) {
     return {};
 }
 
-/// Empty for a text that is no case's raw value; the comparison is exact.
+/// Returns the case with exactly that raw value, or an empty optional.
 template <typename E> std::optional<E> fromRawValue(QStringView text) {
     for (const auto& row : rawValueTable<E>) {
         if (row.raw == text)

@@ -17,14 +17,14 @@ enum class State { good, damaged, unreadable };
 State stateOf(const QString& path) {
     try {
         const QSettings settings(path, QSettings::IniFormat);
-        static_cast<void>(settings.allKeys()); // until somebody looks at all, the state is good
+        static_cast<void>(settings.allKeys()); // reading all is what finds a format error
         return settings.status() == QSettings::FormatError ? State::damaged : State::good;
-    } catch (const std::bad_alloc&) { // Qt makes room for any length that a damaged value names
+    } catch (const std::bad_alloc&) { // Qt allocates any length that a damaged value names
         return State::unreadable;
     }
 }
 
-/// What cannot be read would be gone with the first value that is stored.
+/// Copies a damaged file, because the first value that is stored overwrites it.
 void keepDamagedBeside(const QString& path) {
     const State state = stateOf(path);
     if (state == State::good)
@@ -36,8 +36,8 @@ void keepDamagedBeside(const QString& path) {
         QFile::remove(path);
 }
 
-/// Opening a pipe or a device in the place of the file could wait for ever, and storing would put a file
-/// there. A folder takes the settings' place instead: it is readable for nothing and takes nothing.
+/// Returns the path for QSettings: the folder of the file where a pipe or a device is in its place. QSettings
+/// can neither read nor write a folder, but could block on a pipe and would replace it.
 QString prepared(const QString& path) {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
@@ -56,11 +56,11 @@ QVariant SettingsFile::value(const QString& key) const {
     return unsaved == m_unsaved.cend() ? m_settings.value(key) : *unsaved;
 }
 
-/// QSettings replaces the file also by one that a full disk cut short, and does not say so. It gets to write
-/// only where more than the whole has just fitted.
+/// Returns whether the disk has room for the whole file and more. QSettings replaces the file without an
+/// error by one that a full disk cut short.
 bool SettingsFile::hasRoom() const {
     constexpr qsizetype slack = 4096;
-    constexpr qsizetype maxEscaped = 4; // a byte can take four
+    constexpr qsizetype maxEscaped = 4; // bytes of the file for one byte of a value
     const QFileInfo file(path());
     qsizetype size = file.size() + slack;
     for (const QVariant& each : m_unsaved)
@@ -72,7 +72,7 @@ bool SettingsFile::hasRoom() const {
 
 std::optional<QString> SettingsFile::text(const QString& key) const {
     const QVariant stored = value(key);
-    // An unquoted comma in the file makes a list, which no setting of ours is.
+    // An unquoted comma in the file makes a list.
     if (!stored.isValid() || stored.userType() == QMetaType::QStringList)
         return std::nullopt;
     return stored.toString();

@@ -7,12 +7,11 @@
 
 #include <optional>
 
-/// Typed access to one INI file. A write is on disk when it returns, and keeps what other programs wrote
-/// meanwhile. While the disk is full the file stays as it was, and what could not be written can be read here
-/// and is written with the next value that can. A value that cannot be read as the type asked for, or is not
-/// finite, counts as absent. A file that is damaged is kept beside, as "NAME.damaged". Where it cannot be
-/// written, or something else than a file stands in its place, values that are stored last as long as the
-/// program.
+/// Typed access to one INI file. `store` writes to disk before it returns, and keeps what other programs
+/// wrote. While the disk is full the file stays as it was: unwritten values can be read here and are written
+/// with the next value that fits. A value of another type, or one that is not finite, counts as absent. A
+/// damaged file is copied to "NAME.damaged". Where the file cannot be written, or is no file, values last as
+/// long as the program.
 class SettingsFile {
 public:
     explicit SettingsFile(const QString& path);
@@ -24,7 +23,7 @@ public:
     std::optional<QString> text(const QString& key) const;
     std::optional<QByteArray> bytes(const QString& key) const;
 
-    /// An invalid value takes the key away.
+    /// Stores a value. An invalid one removes the key.
     void store(const QString& key, const QVariant& value);
 
 private:
@@ -32,5 +31,5 @@ private:
     bool hasRoom() const;
 
     QSettings m_settings;
-    QHash<QString, QVariant> m_unsaved; ///< what the disk had no room for yet
+    QHash<QString, QVariant> m_unsaved; ///< values that the disk had no room for yet
 };

@@ -22,7 +22,7 @@ void ProcessActions::forceKillProcess(const ProcSample& chosen) {
 void ProcessActions::signalChosen(const ProcSample& chosen, bool force) {
     const ProcSample* current = m_state.process(chosen.pid);
     const bool isStillThere = current && current->startTime == chosen.startTime;
-    const qint32 pid = chosen.pid; // `chosen` may be an element of the list that observers replace
+    const qint32 pid = chosen.pid; // an observer may replace the list that `chosen` is part of
     const bool delivered = isStillThere && m_gate.signalAll({pid}, force) == 1;
     m_log.record(force ? ActionLogEntry::Kind::forceKill : ActionLogEntry::Kind::quit,
                  u"pid="_s + QString::number(pid), 0, delivered);

@@ -11,38 +11,38 @@
 
 class ServerWatch;
 
-/// What the user can have done to processes and to memory; all but `quitServer` is on record when it is done.
+/// The user's actions on processes and memory. All but `quitServer` leave a line in the log.
 class ProcessActions : public QObject, public SafeRelief {
     Q_OBJECT
 
 public:
-    /// All of them outlive the actions; `sampler` and `servers` are those behind the state.
+    /// The arguments outlive the actions. `sampler` and `servers` are those behind the state.
     ProcessActions(const Platform& platform, const PublishedState& state, const Sampler& sampler,
                    const ServerWatch& servers, ActionLog& log);
 
-    /// Signals the very process that the user pointed at, not another that has its id by now.
+    /// Asks the process that the user pointed at to end. A process that reuses its PID gets no signal.
     void quitProcess(const ProcSample& chosen);
     void forceKillProcess(const ProcSample& chosen);
-    /// Asks a server of the report to end. Leaves no line in the log.
+    /// Asks a server of the report and its launchers to end.
     void quitServer(const MCPInspector::LiveServer& server);
 
-    /// Asks the kernel to reclaim memory. Whether the request could be made.
+    /// Asks the kernel to reclaim memory, and returns whether the request could be made.
     QCoro::Task<Outcome> nudgeMemory() override;
     /// Drops clean caches after the administrator's prompt.
     QCoro::Task<Outcome> purgeMemory();
 
-    /// Idle processes worth ending: at most 15, largest first. Idle time in minutes, size in MiB.
+    /// Returns the idle processes worth ending: at most 15, largest first. The minima are in minutes and MiB.
     QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;
-    /// Asks each process to end, kills those that stay, asks the kernel to reclaim, and measures. Takes
-    /// about 4 seconds; one entry in the log.
+    /// Asks each process to end, kills those that stay, asks the kernel to reclaim memory, and measures.
+    /// Takes about 4 seconds and leaves one entry in the log.
     QCoro::Task<FreeRAMResult> freeRAM(QList<qint32> pids);
 
-    struct FreeRAMWaits {
+    struct FreeRAMDelays {
         std::chrono::milliseconds beforeSecondPass{2000};
         std::chrono::milliseconds beforeMeasuring{1500};
     };
-    /// For tests, which do not wait.
-    void setFreeRAMWaits(FreeRAMWaits waits) { m_freeRAMWaits = waits; }
+    /// Replaces the delays, in tests only.
+    void setFreeRAMDelays(FreeRAMDelays delays) { m_freeRAMDelays = delays; }
 
     struct QuickKillResult {
         int matched = 0;
@@ -50,32 +50,32 @@ public:
 
         bool operator==(const QuickKillResult&) const = default;
     };
-    /// Signals every process of the user's that has `pattern` in its name, path or arguments, in any case,
-    /// and reaches both thresholds (minutes, MiB). One entry in the log.
+    /// Signals every process of the user that has `pattern` in its name, path or arguments, in any case, and
+    /// reaches both minima (minutes, MiB). Leaves one entry in the log.
     QuickKillResult quickKill(const QString& pattern, const QString& label, double minIdleMin,
                               double minRSSMB, bool force);
-    /// How many processes `quickKill` would signal now.
+    /// Returns how many processes `quickKill` would signal now.
     int previewMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
 
-    /// Looks at the orphan servers of the last report again and signals those of the user that still are; how
-    /// many servers got a signal. Their launchers are signalled with them.
+    /// Signals the user's orphan servers that still are orphans, with their launchers. Returns how many
+    /// servers got a signal.
     int killOrphanMCPs(bool force) override;
 
-    /// All processes of exactly that name, this program left out.
+    /// Returns the processes of exactly that name, without this program.
     NukePreview previewForName(const QString& name) const;
-    /// The application that all of them belong to, as the menu calls it. Asks the system.
+    /// Asks the system for the application that all of them belong to, and returns its name in the menu.
     std::optional<QString> applicationOf(const QList<ProcSample>& processes) const;
-    /// All processes of that application.
+    /// Returns the processes of that application.
     NukePreview previewForApplication(const QString& application) const;
-    /// Asks every process of the preview to end; the outcome in words.
+    /// Asks every process of the preview to end, and returns the outcome in words.
     QString nuke(const NukePreview& preview);
-    /// Asks the application itself to quit, which closes its helpers; the outcome in words.
+    /// Asks the application to quit, which closes its helpers, and returns the outcome in words.
     QCoro::Task<QString> nukeGracefulApp(NukePreview preview, QString appName, bool force);
 
 private:
     void signalChosen(const ProcSample& chosen, bool force);
     int signalServer(const MCPInspector::LiveServer& server, bool force);
-    QList<ProcSample> orphansLookedAtAgain() const;
+    QList<ProcSample> reinspectedOrphans() const;
     QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     std::optional<QString> applicationOf(const ProcSample& process) const;
     QList<ProcSample> processesOf(const QString& application) const;
@@ -87,5 +87,5 @@ private:
     const ServerWatch& m_servers;
     ActionLog& m_log;
     SignalGate m_gate;
-    FreeRAMWaits m_freeRAMWaits;
+    FreeRAMDelays m_freeRAMDelays;
 };

@@ -19,7 +19,7 @@ using Record = FreeRAMResult::Record;
 using Handles = QList<std::shared_ptr<ProcessHandle>>;
 
 constexpr qsizetype maxCandidates = 15;
-/// A process of no known group is offered only when it is really large: a decimal gigabyte.
+/// A process of no known group is offered from a decimal gigabyte on.
 constexpr quint64 largeUnknownBytes = 1'000'000'000;
 
 KillOutcome outcomeOf(SignalResult result, KillOutcome delivered, KillOutcome gone) {
@@ -40,7 +40,7 @@ KillOutcome askToEnd(ProcessHandle& process) {
     return outcomeOf(process.send(Signal::terminate), KillOutcome::quit, KillOutcome::ignored);
 }
 
-/// A process that could not even be looked up is tried again, so that it never reads as gone.
+/// Kills a process also after a failed probe, which says nothing about its end.
 KillOutcome killIfPresent(ProcessHandle& process) {
     const SignalResult probed = process.send(Signal::probe);
     if (probed == SignalResult::noSuchProcess || probed == SignalResult::notPermitted)
@@ -99,7 +99,7 @@ QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
                               .outcome = askToEnd(*handles[i])});
     }
 
-    const auto beforeSecondPass = m_freeRAMWaits.beforeSecondPass;
+    const auto beforeSecondPass = m_freeRAMDelays.beforeSecondPass;
     co_await QCoro::sleepFor(beforeSecondPass);
     if (!self)
         co_return result;
@@ -110,7 +110,7 @@ QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
     result.memoryPressureSignaled = nudged.done;
     if (!self)
         co_return result;
-    const auto beforeMeasuring = m_freeRAMWaits.beforeMeasuring;
+    const auto beforeMeasuring = m_freeRAMDelays.beforeMeasuring;
     co_await QCoro::sleepFor(beforeMeasuring);
     if (!self)
         co_return result;

@@ -6,9 +6,9 @@
 
 using namespace Qt::StringLiterals;
 
-/// The processes of the last tick, those that the rule looks at as they are now: each orphan, its launchers
-/// and all above them. One that has gone is left out.
-QList<ProcSample> ProcessActions::orphansLookedAtAgain() const {
+/// Returns the processes of the last tick, with the orphans and their ancestors as they are now. One that has
+/// ended is left out.
+QList<ProcSample> ProcessActions::reinspectedOrphans() const {
     QHash<qint32, std::optional<ProcSample>> now;
     const auto look = [&](const ProcSample* listed) {
         while (listed && !now.contains(listed->pid)) {
@@ -40,7 +40,7 @@ int ProcessActions::killOrphanMCPs(bool force) {
     };
     int orphans = 0;
     int killed = 0;
-    for (const MCPInspector::LiveServer& server : m_servers.lookAt(orphansLookedAtAgain())) {
+    for (const MCPInspector::LiveServer& server : m_servers.lookAt(reinspectedOrphans())) {
         if (!server.isOrphan || !isMine(server.identity()))
             continue;
         ++orphans;
@@ -51,7 +51,7 @@ int ProcessActions::killOrphanMCPs(bool force) {
     return killed;
 }
 
-/// The server first: its launchers end by themselves once it has. How many servers were signalled.
+/// Signals the server first, because its launchers end with it. Returns how many servers were signalled.
 int ProcessActions::signalServer(const MCPInspector::LiveServer& server, bool force) {
     const ProcSample* running = m_state.process(server.pid);
     if (!running || running->identity() != server.identity())

@@ -23,13 +23,13 @@ NukePreview ProcessActions::previewForName(const QString& name) const {
     return preview;
 }
 
-/// None for this program itself and for the processes of others, which no application of the user's owns.
+/// Returns an empty optional for this program and for the processes of other users.
 std::optional<QString> ProcessActions::applicationOf(const ProcSample& process) const {
     if (process.pid == m_platform.identity->processId() || process.uid != m_platform.identity->userId())
         return std::nullopt;
     if (const auto bundle = NukePreview::bundleOf(process.executablePath))
         return bundle;
-    // The id may have come to mean another process since the last tick.
+    // The PID may have been reused since the last tick.
     const auto application = m_platform.applications->ofProcess(process.pid);
     return application && !m_sampler.isReplaced(process.pid) ? std::optional(application->name)
                                                              : std::nullopt;
@@ -72,7 +72,7 @@ NukePreview ProcessActions::previewForApplication(const QString& application) co
 }
 
 QString ProcessActions::nuke(const NukePreview& preview) {
-    // The preview may have been on show for long: an id that meanwhile means another process is left alone.
+    // The preview may be old: a reused PID gets no signal.
     QList<qint32> same;
     for (qsizetype i = 0; i < preview.pids.size(); ++i) {
         const ProcSample* running = m_state.process(preview.pids[i]);

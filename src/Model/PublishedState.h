@@ -8,17 +8,17 @@
 
 #include <algorithm>
 
-/// What the ticks have found out.
+/// The results of the ticks.
 struct PublishedState {
     SystemSample systemSample = SystemSample::zero();
-    /// Oldest first; never more than Preferences::historyRetentionSamples() after a tick.
+    /// Oldest first; at most Preferences::historyRetentionSamples() after a tick.
     QList<SystemSample> systemHistory;
     QList<ProcSample> processes; ///< largest resident memory first
     QList<GroupRollup> groups;   ///< one per group, in group order; empty before the first tick
     QList<Alert> alerts;
-    MCPInspector::Report mcpReport; ///< as of the last full tick
+    MCPInspector::Report mcpReport; ///< of the last full tick
 
-    /// As of the last tick; null when the system listed no such process.
+    /// Returns a process of the last full tick, null for a PID that it did not list.
     const ProcSample* process(qint32 pid) const {
         const auto found = std::ranges::find(processes, pid, &ProcSample::pid);
         return found == processes.end() ? nullptr : &*found;

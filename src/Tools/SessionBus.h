@@ -16,7 +16,8 @@ public:
     QStringList namesOf(const QList<qint32>& pids);
     /// Activates the action "quit" of a GTK application, which may prompt. Returns false if it has none.
     bool activateQuit(const QString& name);
-    /// Calls the slot "quit" of a Qt application, which may end without a prompt. Returns false if it has none.
+    /// Calls the slot "quit" of a Qt application, which may end without a prompt. Returns false if it has
+    /// none.
     bool callQuit(const QString& name);
 
     /// Returns the running session bus, or a disconnected one. Starts none.

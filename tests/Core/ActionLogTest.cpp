@@ -10,8 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
-#include <sys/resource.h>
+
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -116,7 +115,7 @@ TEST_F(ActionLogTest, DamagedLinesHideNoOther) {
     EXPECT_EQ(details(good + "2026-11-16T14:23:43Z\tquit\tok\t1\tcut"), (QStringList{u"good"_s, u"cut"_s}));
 }
 
-TEST_F(ActionLogTest, AFileThatIsNoTextHasNoActions) {
+TEST_F(ActionLogTest, AFileThatIsNotUtf8HasNoActions) {
     const QByteArray good = "2026-11-16T14:23:43Z\tquit\tok\t1\t“good”\n";
     EXPECT_EQ(details(good), QStringList(u"“good”"_s));
     for (const char* piece : {"\xff\xfe\n", "2026-11-16T14:23:43Z\tquit\tok\t1\tbad \xc3\x28 byte\n",
@@ -124,7 +123,7 @@ TEST_F(ActionLogTest, AFileThatIsNoTextHasNoActions) {
         EXPECT_EQ(details(good + piece + good), QStringList()) << piece;
 }
 
-TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
+TEST_F(ActionLogTest, ALineThatWasCutShortDamagesNoOther) {
     home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, "2026-11-16T14:23:43Z\tclean\tok");
     ActionLogFile::append(entry(u"one"_s));
     ActionLogFile::append(entry(u"two"_s));
@@ -136,14 +135,10 @@ TEST_F(ActionLogTest, ALineThatWasCutShortTakesNoOtherWithIt) {
 TEST_F(ActionLogTest, ALineThatDoesNotFitLeavesTheFileAsItWas) {
     ActionLogFile::append(entry(u"one"_s));
     const QByteArray before = written();
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const auto onFull = std::signal(SIGXFSZ, SIG_IGN); // stands in for a full disk
-    const rlimit full{.rlim_cur = static_cast<rlim_t>(before.size()) + 40, .rlim_max = limit.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    ActionLogFile::append(entry(u"“two”"_s));
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, onFull);
+    {
+        const FullDisk full(static_cast<rlim_t>(before.size()) + 40);
+        ActionLogFile::append(entry(u"“two”"_s));
+    }
     EXPECT_EQ(written(), before);
 }
 
@@ -176,7 +171,7 @@ TEST_F(ActionLogTest, ExportQuotesTheDetailAlone) {
               "2026-11-16T14:23:43Z,clean,true,1048576,\"say \"\"hi\"\", then go\"\n"_s);
 }
 
-TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatAppendsGoOn) {
+TEST_F(ActionLogTest, ClearEmptiesTheFileInPlace) {
     ActionLogFile::append(entry(u"one"_s));
     QFile other(file);
     ASSERT_TRUE(other.open(QIODevice::WriteOnly | QIODevice::Append));
@@ -189,7 +184,7 @@ TEST_F(ActionLogTest, ClearLeavesAnEmptyFileThatAppendsGoOn) {
     EXPECT_EQ(written(), "2026-11-16T14:23:43Z\tclean\tok\t1048576\ttwo\nfrom another writer\n");
 }
 
-TEST_F(ActionLogTest, APipeOrFolderInItsPlaceNeitherStallsNorCrashes) {
+TEST_F(ActionLogTest, APipeOrFolderInItsPlaceNeitherBlocksNorCrashes) {
     home.makeFolder(u"Library/Logs/Tavrin"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
     ActionLogFile::append(entry(u"lost"_s));

@@ -18,7 +18,7 @@ using AppModelTest = ReliefTest;
 
 TEST_F(AppModelTest, StartTicksOnceAndPublishesSortedAndGrouped) {
     QList<qint32> bySize = {900};
-    for (qint32 pid = 80; pid > 40; --pid) { // as many as a sort that is not stable mixes up
+    for (qint32 pid = 80; pid > 40; --pid) { // enough for an unstable sort to reorder them
         add(pid, "twin", 20);
         bySize.append(pid);
     }
@@ -59,7 +59,7 @@ TEST_F(AppModelTest, HistoryIsTrimmedToItsRetention) {
     EXPECT_EQ(model->systemHistory().last(), model->systemSample());
 }
 
-TEST_F(AppModelTest, LowPowerPauseFreshensTheSystemOnly) {
+TEST_F(AppModelTest, LowPowerPausesAllButTheSystemSample) {
     add(1, "a", 1);
     tick();
     fakes.power->lowPower = true;
@@ -85,7 +85,7 @@ TEST_F(AppModelTest, AlertsFollowTheTick) {
     EXPECT_TRUE(model->alerts().isEmpty());
 }
 
-TEST_F(AppModelTest, TimerFollowsThePollIntervalAndNeverSpins) {
+TEST_F(AppModelTest, TheTimerFollowsThePollIntervalWithinBounds) {
     model->start();
     const std::pair<double, double> cases[] = {{2.005, 2}, {2.02, 2.02},   {5, 5},      {0, 0.1},
                                                {-7, 0.1},  {1e300, 86400}, {0.25, 0.25}};
@@ -102,10 +102,10 @@ TEST_F(AppModelTest, EachPeriodEndsWithATick) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return model->systemHistory().size() > 2; }));
 }
 
-TEST_F(AppModelTest, ARunTakesTheTimesThatTheUserIsTold) {
-    const ProcessActions::FreeRAMWaits waits;
-    EXPECT_EQ(waits.beforeSecondPass, std::chrono::seconds(2));
-    EXPECT_EQ(waits.beforeMeasuring, std::chrono::milliseconds(1500));
+TEST_F(AppModelTest, ARunTakesTheDelaysThatTheUserIsTold) {
+    const ProcessActions::FreeRAMDelays delays;
+    EXPECT_EQ(delays.beforeSecondPass, std::chrono::seconds(2));
+    EXPECT_EQ(delays.beforeMeasuring, std::chrono::milliseconds(1500));
 }
 
 TEST_F(AppModelTest, NoNameForgesALineOfTheLog) {
@@ -114,7 +114,7 @@ TEST_F(AppModelTest, NoNameForgesALineOfTheLog) {
     EXPECT_EQ(ActionLogReader::read().size(), 1);
 }
 
-TEST_F(AppModelTest, ObserversHearOfABurstOnceAndReadTheNewValues) {
+TEST_F(AppModelTest, ObserversAreCalledOnceForABurstAndReadTheNewValues) {
     int calls = 0;
     {
         QObject owner;

@@ -69,9 +69,9 @@ TEST_F(CacheCleanupTest, CleansOneTargetAndMeasuresAgain) {
     EXPECT_EQ(target(u"npx cache"_s).lastScanned, fakes.clock->wall);
 }
 
-TEST_F(CacheCleanupTest, PublishesWhatIsBeingWorkedOn) {
+TEST_F(CacheCleanupTest, PublishesTheProgress) {
     QCoro::waitFor(cleanup.rescan());
-    tools->held = true;
+    tools->suspended = true;
     auto scan = cleanup.rescan();
     ASSERT_TRUE(cleanup.isScanning());
     EXPECT_EQ(cleanup.scanProgress()->total, cleanup.targets().size());
@@ -84,7 +84,7 @@ TEST_F(CacheCleanupTest, PublishesWhatIsBeingWorkedOn) {
     auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
     auto other = cleanup.clean(target(u"Docker"_s));
     EXPECT_EQ(*cleanup.cleanProgress(), (CleanupProgress{u"Docker"_s, 0, 3}));
-    tools->held = false;
+    tools->suspended = false;
     while (tools->release(npm))
         ;
     EXPECT_EQ(cleanup.cleanProgress()->done, 2);
@@ -94,10 +94,10 @@ TEST_F(CacheCleanupTest, PublishesWhatIsBeingWorkedOn) {
     EXPECT_TRUE(other.isReady() && cleaning.isReady() && scan.isReady());
 }
 
-TEST_F(CacheCleanupTest, CancellingEndsWhatRunsAndBeginsNothingMore) {
+TEST_F(CacheCleanupTest, CancelEndsRunningCleansAndStartsNoMore) {
     QCoro::waitFor(cleanup.rescan());
     tools->requests.clear();
-    tools->held = true;
+    tools->suspended = true;
     auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
     auto other = cleanup.clean(target(u"Docker"_s));
     ASSERT_EQ(tools->requests.size(), 2);
@@ -105,8 +105,8 @@ TEST_F(CacheCleanupTest, CancellingEndsWhatRunsAndBeginsNothingMore) {
     for (const ToolRequest& request : tools->requests)
         EXPECT_TRUE(request.stop.stop_requested());
     auto later = cleanup.clean(target(u"User logs"_s));
-    EXPECT_FALSE(tools->requests.last().stop.stop_requested()) << "begun after the cancelling";
-    tools->held = false;
+    EXPECT_FALSE(tools->requests.last().stop.stop_requested()) << "started after the cancel";
+    tools->suspended = false;
     releaseAll();
     EXPECT_TRUE(cleaning.isReady() && other.isReady() && later.isReady());
     EXPECT_FALSE(cleanup.isCleaning());
@@ -117,9 +117,9 @@ TEST_F(CacheCleanupTest, CancellingEndsWhatRunsAndBeginsNothingMore) {
 }
 
 TEST_F(CacheCleanupTest, AnOlderScanNeverReplacesANewerOne) {
-    tools->held = true;
+    tools->suspended = true;
     auto older = cleanup.rescan();
-    tools->held = false;
+    tools->suspended = false;
     QCoro::waitFor(cleanup.rescan());
     const auto newest = cleanup.targets();
     tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "99999 x"); };
@@ -128,7 +128,7 @@ TEST_F(CacheCleanupTest, AnOlderScanNeverReplacesANewerOne) {
     EXPECT_EQ(cleanup.targets(), newest);
 }
 
-TEST_F(CacheCleanupTest, TheSamePlansFollowWhateverATargetIsCalled) {
+TEST_F(CacheCleanupTest, ThePlansDoNotDependOnTheName) {
     QList<CacheTarget> targets = CacheTarget::defaults();
     places->elsewhere[u"/tmp"_s] = {home.path(u"everybody's"_s)};
     for (const QStringList& folders : places->elsewhere) {
@@ -151,12 +151,12 @@ TEST_F(CacheCleanupTest, TheSamePlansFollowWhateverATargetIsCalled) {
     }
 }
 
-TEST_F(CacheCleanupTest, MayEndWhileToolsRun) {
-    tools->held = true;
+TEST_F(CacheCleanupTest, MayBeDestroyedWhileToolsRun) {
+    tools->suspended = true;
     auto scan = cleanup.rescan();
     auto cleaning = cleanup.clean(target(u"Docker"_s));
     model.reset();
-    tools->held = false;
+    tools->suspended = false;
     releaseAll();
     EXPECT_TRUE(scan.isReady() && cleaning.isReady());
 }

@@ -33,7 +33,7 @@ protected:
     Platform platform = fakes.platform();
 };
 
-TEST_F(CacheScannerTest, ParsesSizesAndNeverFaults) {
+TEST_F(CacheScannerTest, ParsesSizes) {
     const std::pair<const char*, quint64> cases[] = {
         {"1.5GB", 1500000000},
         {"12.3MB", 12300000},
@@ -78,11 +78,11 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
 
     answerEverythingWith({});
     const CacheTarget gone = scanned(target);
-    EXPECT_EQ(gone.sizeBytes, 0U) << "of a tool that is gone nothing is left from before";
+    EXPECT_EQ(gone.sizeBytes, 0U) << "a missing tool leaves no old figures";
     EXPECT_TRUE(gone.details.isEmpty() && gone.notes.isEmpty() && gone.volumes.isEmpty());
 }
 
-TEST_F(CacheScannerTest, GoesByTheRuleAndNeverByTheName) {
+TEST_F(CacheScannerTest, DependsOnTheRuleAndNotOnTheName) {
     const QString folder = home.makeFolder(u"folder"_s);
     const std::pair<CleanupRule, QStringList> cases[] = {
         {{}, {u"/usr/bin/du"_s, u"cleanup"_s}},
@@ -128,11 +128,11 @@ TEST_F(CacheScannerTest, SaysWhyAFolderIsLeftAlone) {
         EXPECT_EQ(target.notes,
                   QStringList({u"It is not a cache."_s, unread + u" cannot be cleaned: No way."_s}));
         EXPECT_EQ(each(target.listed, &ListedFolder::path), QStringList(unread));
-        EXPECT_EQ(target.listed.first().listing, QByteArray()) << "a part of a listing is none";
+        EXPECT_EQ(target.listed.first().listing, QByteArray()) << "a partial listing is useless";
     }
 }
 
-TEST_F(CacheScannerTest, LeavesTheRecordOutOfTheSize) {
+TEST_F(CacheScannerTest, LeavesTheActionLogOutOfTheSize) {
     const QString logs = home.makeFolder(u"Library/Logs"_s);
     const QString record = home.makeFolder(u"Library/Logs/Tavrin"_s);
     tools->answer = [=](const ToolRequest& request) {
@@ -161,13 +161,13 @@ TEST_F(CacheScannerTest, MeasuresEachExistingPlaceOfATargetOnce) {
     const QString small = home.makeFolder(u"small"_s);
     const QString large = home.makeFolder(u"large"_s);
     const QString inside = home.makeFolder(u"large/inside"_s);
-    const QString link = home.path(u"link"_s);
-    ASSERT_TRUE(QFile::link(small, link));
+    const QString symlink = home.path(u"symlink"_s);
+    ASSERT_TRUE(QFile::link(small, symlink));
     tools->answer = [=](const ToolRequest& request) {
         const bool isLarge = request.arguments.last() == large;
         return ScriptedTools::exited(isLarge ? 0 : 1, isLarge ? "30\t" + large.toUtf8() + "\n" : " 2\tx\n");
     };
-    const QStringList paths = {link, small, home.path(u"missing"_s), inside, large, small, large + u"/"_s};
+    const QStringList paths = {symlink, small, home.path(u"missing"_s), inside, large, small, large + u"/"_s};
     const CacheTarget target = scanned({.name = u"x"_s, .paths = paths});
     const QList<CacheEntry> expected = {{large, 30 * 1024}, {small, 2 * 1024}};
     EXPECT_EQ(target.details, expected);
@@ -185,7 +185,7 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
     for (const auto& name : {u"hangs"_s, u"equal one"_s, u"equal two"_s, u"largest"_s})
         targets.append(
             {.name = name, .paths = {home.makeFolder(name + u"/1"_s), home.makeFolder(name + u"/2"_s)}});
-    tools->held = true;
+    tools->suspended = true;
     tools->answer = [](const ToolRequest& request) {
         return ScriptedTools::exited(0, request.arguments.last().contains(u"largest") ? "9 x" : "1 x");
     };

@@ -30,7 +30,7 @@ protected:
         return target;
     }
 
-    /// `du` finds these one after another, in KiB; everything else exits with `status`.
+    /// Lets `du` find these sizes one after another, in KiB, and everything else exit with `status`.
     void script(const QByteArrayList& kilobytes, int status = 0) {
         tools->answer = [kilobytes, status, next = 0](const ToolRequest& request) mutable {
             if (request.launchPath != u"/usr/bin/du")
@@ -72,7 +72,7 @@ TEST_F(CleanerTest, RemovesWhatWasListedBetweenTwoMeasurements) {
     EXPECT_EQ(steps(), QStringList(u"cleanup remove"_s)) << "of old files nothing is measured";
 }
 
-TEST_F(CleanerTest, ListsFirstWhatWasNeverScannedAndLeavesWhatCameAfterAScan) {
+TEST_F(CleanerTest, ListsAnUnscannedTargetFirstAndLeavesWhatCameAfterAScan) {
     const QString folder = home.makeFolder(u"folder"_s);
     script({});
     EXPECT_TRUE(clean({.name = u"x"_s, .paths = {folder}, .rule = oldFiles}).done);
@@ -106,7 +106,7 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
     }
 }
 
-TEST_F(CleanerTest, LeavesAloneWhatTheSystemObjectsToAndGoesOn) {
+TEST_F(CleanerTest, LeavesProtectedFoldersAloneAndCleansTheOthers) {
     const QString refused = home.makeFolder(u"refused"_s);
     places->objections[refused] = u"No."_s;
     const QString plain = home.makeFolder(u"plain"_s);
@@ -122,7 +122,7 @@ TEST_F(CleanerTest, LeavesAloneWhatTheSystemObjectsToAndGoesOn) {
     EXPECT_EQ(clean({.name = u"x"_s}), (CleanResult{Outcome::success(), 0}));
 }
 
-TEST_F(CleanerTest, BeginsNothingMoreOnceStopped) {
+TEST_F(CleanerTest, StartsNothingMoreOnceStopped) {
     const QStringList folders = {home.makeFolder(u"one"_s), home.makeFolder(u"two"_s)};
     tools->answer = [&](const ToolRequest& request) {
         if (request.launchPath == u"cleanup")
@@ -136,7 +136,7 @@ TEST_F(CleanerTest, BeginsNothingMoreOnceStopped) {
     EXPECT_TRUE(tools->requests.isEmpty());
 }
 
-TEST_F(CleanerTest, TouchesNothingOfAHomeThatIsNotSet) {
+TEST_F(CleanerTest, TouchesNothingWithoutAHome) {
     for (const char* value : {"", "/", "relative"}) {
         qputenv("HOME", value);
         QStringList reached;

@@ -20,7 +20,7 @@ CacheTarget scanned(const QString& name, const CleanupRule& rule, const QList<Li
     return target;
 }
 
-TEST(CleanupPlan, CountsOnceWhatSeveralTargetsHold) {
+TEST(CleanupPlan, CountsOnceWhatSeveralTargetsContain) {
     const TemporaryHome home;
     const QString caches = home.makeFolder(u"caches"_s);
     const QString uv = home.makeFolder(u"caches/uv"_s);
@@ -46,7 +46,7 @@ TEST(CleanupPlan, CountsOnceWhatSeveralTargetsHold) {
     EXPECT_EQ(CleanupPlan::totalBytes(some), 100U + 7 + 50 + 34) << "nothing else is to go";
 }
 
-TEST(CleanupPlan, NamesTheLargestOfWhatGoes) {
+TEST(CleanupPlan, NamesTheLargestEntries) {
     QList<std::pair<QByteArray, quint64>> files;
     for (quint64 i = 1; i <= 200; ++i)
         files.append({"deep/file " + QByteArray::number(i * 7 % 201), i * 7 % 201});
@@ -63,7 +63,7 @@ TEST(CleanupPlan, NamesTheLargestOfWhatGoes) {
     EXPECT_EQ(CleanupPlan::namesOf(target, 300).shown.size(), 201);
 }
 
-TEST(CleanupPlan, ReadsAListingUpToTheFirstRecordThatIsNone) {
+TEST(CleanupPlan, ReadsAListingUpToTheFirstMalformedRecord) {
     const std::pair<QByteArray, QByteArrayList> cases[] = {
         {listingOf({{"two\nlines", 3}, {" caf\xe9 ", 0}}), {"two\nlines", " caf\xe9 "}},
         {listingOf({{"a", 1}}) + "7 8 cut off", {"a"}},

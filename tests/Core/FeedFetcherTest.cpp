@@ -24,7 +24,7 @@ QByteArray feedNamed(const QString& id) {
     return feedOf({{.id = id, .title = u"title"_s, .body = u"body"_s}});
 }
 
-/// The same feed, blown up with blanks.
+/// The same feed, padded with spaces.
 QByteArray paddedFeed(qsizetype size) {
     const QByteArray feed = feedNamed(u"new"_s);
     return feed + QByteArray(size - feed.size(), ' ');
@@ -82,7 +82,7 @@ struct FeedFetcherTest : testing::Test {
         reply(LoopbackServer::response("302 Found", QByteArray(10'000, 'x'),
                                        "Location: " + target.toEncoded() + "\r\n"));
     }
-    /// Bytes without an end, as fast as they are taken.
+    /// Sends bytes without an end, as fast as they are read.
     void pour() {
         server.answer = [this](QSslSocket& client, const QByteArray&) {
             const auto more = [this, &client](qint64 written) {
@@ -95,7 +95,7 @@ struct FeedFetcherTest : testing::Test {
             client.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
         };
     }
-    /// One byte after the other, so that the connection never looks idle.
+    /// Sends one byte after the other, so that the connection never looks idle.
     void drip() {
         server.answer = [](QSslSocket& client, const QByteArray&) {
             auto* timer = new QTimer(&client);
@@ -109,12 +109,12 @@ struct FeedFetcherTest : testing::Test {
 
 } // namespace
 
-TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesWhatIsOnShow) {
+TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesTheMessage) {
     struct Case {
         const char* name;
         std::function<void()> prepare;
         QString shown;
-        std::chrono::milliseconds limit = 30s;
+        std::chrono::milliseconds timeout = 30s;
     };
     const QString now = u"new"_s;
     const QString old = u"old"_s;
@@ -147,18 +147,18 @@ TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesWhatIsOnShow) {
         {"silent", [&] { reply({}); }, old, 600ms},
         {"nobody there", [&] { server.close(); }, old},
     };
-    int firings = 0; // the passes of the main loop that a waiting user interface would get
+    int firings = 0; // passes of the main loop for the user interface
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&firings] { ++firings; });
     timer.start(1);
-    for (const auto& [name, prepare, expected, limit] : cases) {
+    for (const auto& [name, prepare, expected, timeout] : cases) {
         SCOPED_TRACE(name);
         server.present(trusted());
         relay->allow({});
         serve(feedNamed(old));
         QCoro::waitFor(center->refresh());
         ASSERT_EQ(shown(), old);
-        relay->allow({.wholeTransfer = limit});
+        relay->allow({.timeout = timeout});
         prepare();
         firings = 0;
         QElapsedTimer elapsed;
@@ -169,7 +169,7 @@ TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesWhatIsOnShow) {
         EXPECT_GE(firings * 100, elapsed.elapsed());
     }
     EXPECT_FALSE(plainServer.hasPendingConnections());
-    EXPECT_LT(pouredBytes, 16 * MiB); // what fits into buffers, and no more
+    EXPECT_LT(pouredBytes, 16 * MiB); // as much as fits into buffers
 }
 
 TEST_F(FeedFetcherTest, EveryFetchAsksTheOriginAnewAndTellsNothing) {
@@ -187,11 +187,11 @@ TEST_F(FeedFetcherTest, EveryFetchAsksTheOriginAnewAndTellsNothing) {
     }
 }
 
-TEST_F(FeedFetcherTest, NothingIsAskedInTheClearOrOfAHostThatCannotBe) {
-    QUrl inTheClear = server.url(u"/"_s);
-    inTheClear.setScheme(u"http"_s);
-    inTheClear.setPort(plainServer.serverPort());
-    for (const QUrl& url : {inTheClear, QUrl(u"https://feed.invalid/"_s), QUrl(u"file:///etc/hostname"_s),
+TEST_F(FeedFetcherTest, NoRequestGoesOverPlainHttpOrToAnInvalidHost) {
+    QUrl plainHttp = server.url(u"/"_s);
+    plainHttp.setScheme(u"http"_s);
+    plainHttp.setPort(plainServer.serverPort());
+    for (const QUrl& url : {plainHttp, QUrl(u"https://feed.invalid/"_s), QUrl(u"file:///etc/hostname"_s),
                             QUrl(u"https:///x"_s), QUrl()}) {
         auto fetching = relay->fetcher->fetch(url);
         EXPECT_TRUE(fetching.isReady()) << qPrintable(url.toString());
@@ -203,7 +203,7 @@ TEST_F(FeedFetcherTest, NothingIsAskedInTheClearOrOfAHostThatCannotBe) {
     EXPECT_FALSE(MessageCenter::defaultFeedURL().host().isEmpty());
 }
 
-TEST_F(FeedFetcherTest, ACenterThatEndsBreaksItsTransfersOff) {
+TEST_F(FeedFetcherTest, ADestroyedCenterAbortsItsTransfers) {
     bool isHungUp = false;
     server.answer = [&isHungUp](QSslSocket& client, const QByteArray&) {
         QObject::connect(&client, &QSslSocket::disconnected, [&isHungUp] { isHungUp = true; });

@@ -17,7 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What the program knows by heart, written out a second time: a letter that changes by accident shows here.
+// The fixed lists of the program a second time, so that a letter that changes by accident shows.
 
 namespace {
 
@@ -38,14 +38,14 @@ ProcGroup groupOf(const QString& name, const QString& path = {}, const QString& 
     return ProcessGrouper().groupOf({.name = name, .executablePath = path, .arguments = arguments});
 }
 
-/// The text, and what is left of it without its last and its first letter: a pattern that lost a letter still
-/// finds the whole text, but finds one of the others too.
+/// Returns the text, and the text without its last and without its first letter. A pattern that lost a letter
+/// finds one of these too.
 QStringList withShorter(const char* text) {
     const QString whole = QString::fromLatin1(text);
     return {whole, whole.chopped(1), whole.sliced(1)};
 }
 
-bool holdsOne(const QString& text, const Texts& patterns) {
+bool containsOne(const QString& text, const Texts& patterns) {
     return std::ranges::any_of(
         patterns, [&text](const char* pattern) { return text.contains(QLatin1String(pattern)); });
 }
@@ -145,11 +145,10 @@ TEST(FixedLists, GroupPatterns) {
         {containers,
          {"docker", "com.docker", "orbstack", "colima", "podman", "qemu", "lima", "rancher", "containerd",
           "runc"}}};
-    // A name holds a pattern anywhere, and so does a folder but for the patterns of the IDEs: it begins with
-    // one.
+    // Names and folders contain a pattern anywhere, but a folder begins with the pattern of an IDE.
     const auto expected = [&lists](const QString& text, bool isFolder) {
         for (const auto& [group, patterns] : lists) {
-            if (isFolder && group == ides ? beginsWithOne(text, patterns) : holdsOne(text, patterns))
+            if (isFolder && group == ides ? beginsWithOne(text, patterns) : containsOne(text, patterns))
                 return group;
         }
         return other;
@@ -163,30 +162,32 @@ TEST(FixedLists, GroupPatterns) {
                 EXPECT_EQ(groupOf(u"q9"_s, u"/opt/%1/q9"_s.arg(folder.toUpper())), expected(folder, true))
                     << qPrintable(folder);
                 const QString argument = u"--for="_s + part;
-                EXPECT_EQ(groupOf(u"q9"_s, {}, argument) == containers, holdsOne(argument, lists[4].second))
+                EXPECT_EQ(groupOf(u"q9"_s, {}, argument) == containers,
+                          containsOne(argument, lists[4].second))
                     << qPrintable(argument);
             }
         }
     }
-    EXPECT_EQ(groupOf(u"q9"_s, u"/opt/x9-pycharm/q9"_s), other) << "no folder that begins so";
+    EXPECT_EQ(groupOf(u"q9"_s, u"/opt/x9-pycharm/q9"_s), other) << "the folder only contains the pattern";
     for (const char* shell : {"bash", "zsh", "fish", "sh", "dash"})
         EXPECT_EQ(groupOf(QString::fromLatin1(shell)), terminals) << shell;
 }
 
-TEST(FixedLists, RuntimesAndWhatTellsAServerInTheirArguments) {
+TEST(FixedLists, RuntimesAndTheMarksOfServersInTheirArguments) {
     const Texts runtimes = {"node", "npx", "uvx", "uv", "python"};
     const Texts markers = {"modelcontextprotocol", "mcp-server", "mcp_server", "-mcp"};
     for (const char* runtime : runtimes) {
         for (const QString& part : withShorter(runtime)) {
             const QString name = u"x9-%1-9y"_s.arg(part);
-            EXPECT_EQ(groupOf(name, {}, u"/srv/9mcp-server"_s) == ProcGroup::agents, holdsOne(name, runtimes))
+            EXPECT_EQ(groupOf(name, {}, u"/srv/9mcp-server"_s) == ProcGroup::agents,
+                      containsOne(name, runtimes))
                 << qPrintable(name);
         }
     }
     for (const char* marker : markers) {
         for (const QString& part : withShorter(marker)) {
             const QString script = u"/srv/9"_s + part;
-            EXPECT_EQ(groupOf(u"node"_s, {}, script) == ProcGroup::agents, holdsOne(script, markers))
+            EXPECT_EQ(groupOf(u"node"_s, {}, script) == ProcGroup::agents, containsOne(script, markers))
                 << qPrintable(script);
             EXPECT_EQ(groupOf(u"q9"_s, {}, script), ProcGroup::other) << qPrintable(script);
         }
@@ -201,7 +202,7 @@ TEST(FixedLists, ServerNames) {
     for (const char* mark : marks) {
         for (const QString& part : withShorter(mark)) {
             const QString name = u'9' + part + u'9'; // where "-mcp" ends no word
-            EXPECT_EQ(isServer(name), holdsOne(name, marks)) << qPrintable(name);
+            EXPECT_EQ(isServer(name), containsOne(name, marks)) << qPrintable(name);
         }
     }
     EXPECT_TRUE(isServer(u"x9-mcp"_s));
@@ -209,7 +210,7 @@ TEST(FixedLists, ServerNames) {
 }
 
 TEST(FixedLists, SettingsAndTheirDefaults) {
-    // Switches the other way round, numbers one higher.
+    // Switches are inverted, numbers one higher.
     const char* expected = R"([General]
 pref.alertBrowserHog_enabled=false
 pref.alertBrowserHog_percentTotal=26

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-TEST(Formatters, DurationChoosesItsBandBeforeRounding) {
+TEST(Formatters, DurationChoosesItsUnitBeforeRounding) {
     const std::pair<double, const char*> cases[] = {
         {0, "0s"},      {42, "42s"},      {59.6, "60s"},  {60, "1m"},
         {89, "1m"},     {90, "2m"},       {150, "3m"},    {3599, "60m"},

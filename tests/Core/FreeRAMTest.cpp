@@ -52,7 +52,7 @@ TEST_F(FreeRAMTest, FifteenLargestCandidates) {
     EXPECT_EQ(pids.last(), 6);
 }
 
-TEST_F(FreeRAMTest, NoThresholdIsTooWild) {
+TEST_F(FreeRAMTest, AnyThresholdIsAccepted) {
     add(1, "claude", std::numeric_limits<quint64>::max());
     tick();
     const double nan = std::nan("");
@@ -89,9 +89,7 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     add(41, "claude", 7 * MiB);
     tick();
     fakes.relief->answer = [this] {
-        const auto give = [this] {
-            fakes.host->memory.activeBytes -= 204800;
-        }; // which takes the kernel a while
+        const auto give = [this] { fakes.host->memory.activeBytes -= 204800; }; // takes the kernel a while
         QMetaObject::invokeMethod(model.get(), give, Qt::QueuedConnection);
         return Outcome::success();
     };
@@ -106,7 +104,7 @@ TEST_F(FreeRAMTest, ARunReportsMeasuresAndLogs) {
     EXPECT_EQ(model->actionLog().entries().first().timestamp, fakes.clock->wall);
 }
 
-TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
+TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndFreesAtLeastZero) {
     fakes.relief->answer = [] { return Outcome(); };
     tick();
     fakes.host->memory.activeBytes *= 2;
@@ -116,18 +114,18 @@ TEST_F(FreeRAMTest, AnEmptyRunStillNudgesAndNeverFreesLessThanNothing) {
     EXPECT_EQ(logged(), QStringList(u"quit [free RAM]  freed=0 ok"_s));
 }
 
-TEST_F(FreeRAMTest, AnIdTakenByAnotherProcessMeanwhileIsLeftAlone) {
+TEST_F(FreeRAMTest, AReusedPidGetsNoSignal) {
     signalSender->start(41);
     auto run = model->actions().freeRAM({41, 42});
     signalSender->end(41);
-    signalSender->start(41); // during the wait: another process with that id
-    signalSender->start(42); // nobody had this one when the run began
+    signalSender->start(41); // during the delay: another process with that PID
+    signalSender->start(42); // free when the run began
     const FreeRAMResult result = QCoro::waitFor(run);
     EXPECT_EQ(outcomesOf(result), (QStringList{u"quit"_s, u"quit"_s}));
     EXPECT_EQ(signalSender->sent(), (QList<FakeSignals::Sent>{{41, Signal::terminate, 1}}));
 }
 
-TEST_F(FreeRAMTest, AModelThatIsGoneEndsTheRun) {
+TEST_F(FreeRAMTest, TheRunEndsWithItsModel) {
     signalSender->start(41);
     auto run = model->actions().freeRAM({41});
     model.reset();

@@ -21,11 +21,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What of Tavrin's own is told under these rules for as long as it lives.
+/// Records the program's own messages under these filter rules.
 class Trace {
 public:
     explicit Trace(const QString& rules) {
-        told.clear();
+        messages.clear();
         QLoggingCategory::setFilterRules(rules);
         m_before = qInstallMessageHandler(take);
     }
@@ -36,27 +36,27 @@ public:
     Trace(const Trace&) = delete;
     Trace& operator=(const Trace&) = delete;
 
-    static inline QList<std::pair<QString, QString>> told; ///< category and text
+    static inline QList<std::pair<QString, QString>> messages; ///< category and text
     static QSet<QString> categories() {
         QSet<QString> all;
-        for (const auto& [category, text] : told)
+        for (const auto& [category, text] : messages)
             all.insert(category);
         return all;
     }
-    static bool names(const QString& word) {
-        return std::ranges::any_of(told, [&](const auto& each) { return each.second.contains(word); });
+    static bool mentions(const QString& word) {
+        return std::ranges::any_of(messages, [&](const auto& each) { return each.second.contains(word); });
     }
 
 private:
     static void take(QtMsgType, const QMessageLogContext& context, const QString& text) {
         if (QByteArrayView(context.category).startsWith("tavrin."))
-            told.append({QString::fromLatin1(context.category), text});
+            messages.append({QString::fromLatin1(context.category), text});
     }
 
     QtMessageHandler m_before;
 };
 
-/// One failure in every room that has something to tell.
+/// Causes one failure in every logging category.
 void failEverywhere(const TemporaryHome& home) {
     TemporarySettings settings;
     const auto tools = std::make_shared<ScriptedTools>();
@@ -76,22 +76,22 @@ void failEverywhere(const TemporaryHome& home) {
 
 } // namespace
 
-TEST(Log, IsSilentUntilAskedAndNamesNothingOfTheUsersAboveDebugging) {
+TEST(Log, IsSilentByDefaultAndMentionsUserDataOnlyForDebugging) {
     const TemporaryHome home;
     const QSet<QString> all = {u"tavrin.platform"_s, u"tavrin.relief"_s, u"tavrin.cleanup"_s, u"tavrin.mcp"_s,
                                u"tavrin.feed"_s};
     {
         const Trace trace({});
         failEverywhere(home);
-        EXPECT_TRUE(Trace::told.isEmpty());
+        EXPECT_TRUE(Trace::messages.isEmpty());
     }
     {
         const Trace trace(u"tavrin.*=true\ntavrin.*.debug=false"_s);
         failEverywhere(home);
         EXPECT_EQ(Trace::categories(), all);
-        EXPECT_FALSE(Trace::names(home.path()));
+        EXPECT_FALSE(Trace::mentions(home.path()));
     }
     const Trace trace(u"tavrin.*=true"_s);
     failEverywhere(home);
-    EXPECT_TRUE(Trace::names(home.path()));
+    EXPECT_TRUE(Trace::mentions(home.path()));
 }

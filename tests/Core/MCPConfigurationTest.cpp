@@ -17,23 +17,23 @@ namespace {
 
 using MCPInspector::ConfiguredServer;
 
-/// A folder as the current one, for as long as it lives.
-struct WorkingFolder {
-    explicit WorkingFolder(const QString& folder) { QDir::setCurrent(folder); }
-    ~WorkingFolder() { QDir::setCurrent(before); }
+/// Sets the working directory for its lifetime.
+struct WorkingDirectory {
+    explicit WorkingDirectory(const QString& folder) { QDir::setCurrent(folder); }
+    ~WorkingDirectory() { QDir::setCurrent(before); }
     QString before = QDir::currentPath();
 };
 
 struct MCPConfigurationTest : testing::Test {
     TemporaryHome home;
-    WorkingFolder project{home.makeFolder(u"project"_s)};
+    WorkingDirectory project{home.makeFolder(u"project"_s)};
     MCPConfiguration configuration;
 
     QStringList names() { return each(configuration.readConfigured(), &ConfiguredServer::name); }
     bool comesTo(const QStringList& expected) {
         return QTest::qWaitFor([&] { return names() == expected && !configuration.isUnknown(); }, 60'000);
     }
-    /// One server behind so many MiB of history.
+    /// Writes one server after so many MiB of history.
     void makeLargeFile(int megabytes, const QByteArray& server) {
         const QByteArray entry = "{\"display\": \"" + QByteArray(1000, 'x') + "\", \"pasted\": {}},";
         QByteArray text = "{\"history\": [";
@@ -78,7 +78,7 @@ TEST_F(MCPConfigurationTest, TheFirstOfANameWinsAcrossTheFiles) {
     EXPECT_TRUE(each(elsewhere, &ConfiguredServer::name).contains(u"elsewhere"_s));
 }
 
-TEST_F(MCPConfigurationTest, AnEditShowsAndAnUnchangedFileIsNotReadAgain) {
+TEST_F(MCPConfigurationTest, AChangedFileIsReadAndAnUnchangedOneIsNot) {
     EXPECT_EQ(names(), QStringList());
     const QString path = home.makeFile(u".claude.json"_s, R"({"mcpServers": {"one": {}}})");
     EXPECT_EQ(names(), QStringList(u"one"_s));
@@ -88,7 +88,7 @@ TEST_F(MCPConfigurationTest, AnEditShowsAndAnUnchangedFileIsNotReadAgain) {
     home.makeFile(u".claude.json"_s, R"({"mcpServers": {"two": {}}})");
     const timespec times[] = {before.st_atim, before.st_mtim};
     ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
-    EXPECT_EQ(names(), QStringList(u"one"_s)); // to all appearance unchanged, and so not read
+    EXPECT_EQ(names(), QStringList(u"one"_s)); // its status is unchanged
 
     home.makeFile(u".claude.json"_s, R"({"mcpServers": {"three": {}}})");
     EXPECT_EQ(names(), QStringList(u"three"_s));
@@ -96,7 +96,7 @@ TEST_F(MCPConfigurationTest, AnEditShowsAndAnUnchangedFileIsNotReadAgain) {
     EXPECT_EQ(names(), QStringList());
 }
 
-TEST_F(MCPConfigurationTest, WhatIsNoOrdinaryFileIsNeverOpened) {
+TEST_F(MCPConfigurationTest, OnlyRegularFilesAreOpened) {
     ASSERT_EQ(mkfifo(QFile::encodeName(home.path(u".claude.json"_s)).constData(), 0600), 0);
     home.makeFolder(u".claude/mcp.json"_s);
     ASSERT_TRUE(QFile::link(u"/dev/zero"_s, home.path(u"project/.mcp.json"_s)));
@@ -104,7 +104,7 @@ TEST_F(MCPConfigurationTest, WhatIsNoOrdinaryFileIsNeverOpened) {
     EXPECT_FALSE(configuration.isUnknown());
 }
 
-TEST_F(MCPConfigurationTest, ALargeFileIsReadWhileTheLastAnswerStands) {
+TEST_F(MCPConfigurationTest, TheServersStayWhileALargeFileIsRead) {
     makeLargeFile(20, "one");
     QElapsedTimer timer;
     timer.start();
@@ -124,20 +124,20 @@ TEST_F(MCPConfigurationTest, ALargeFileIsReadWhileTheLastAnswerStands) {
 TEST_F(MCPConfigurationTest, AFileThatChangesWhileItIsReadIsReadAgain) {
     makeLargeFile(4, "one");
     EXPECT_EQ(names(), QStringList());
-    makeLargeFile(4, "two"); // over the old content: what has been read so far may be of either
+    makeLargeFile(4, "two"); // over the old content: the read may see parts of both
     for (QStringList seen; seen.isEmpty() || configuration.isUnknown(); seen = names())
         EXPECT_TRUE(seen.isEmpty() || seen == QStringList(u"two"_s)) << qPrintable(seen.join(u' '));
     EXPECT_EQ(names(), QStringList(u"two"_s));
 
     makeLargeFile(4, "three");
     EXPECT_EQ(names(), QStringList(u"two"_s));
-    home.makeFile(u"new"_s, R"({"mcpServers": {"four": {}}})"); // in its place, while the old one is open
+    home.makeFile(u"new"_s, R"({"mcpServers": {"four": {}}})"); // replaces the open file
     ASSERT_EQ(rename(QFile::encodeName(home.path(u"new"_s)), QFile::encodeName(home.path(u".claude.json"_s))),
               0);
     EXPECT_TRUE(comesTo({u"four"_s}));
 }
 
-TEST_F(MCPConfigurationTest, AReadingStopsWithItsOwner) {
+TEST_F(MCPConfigurationTest, AReadStopsWithItsOwner) {
     makeLargeFile(20, "one");
     QElapsedTimer timer;
     {

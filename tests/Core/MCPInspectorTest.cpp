@@ -17,7 +17,7 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-/// What the sampler makes of an executable and its arguments, words apart by blanks.
+/// Makes a sample of an executable and its arguments, separated by spaces.
 ProcSample process(qint32 pid, const QString& name, const QString& arguments = {}, qint32 parent = 0,
                    quint64 rssBytes = 0, const QString& path = {}) {
     const QStringList words = arguments.split(u' ', Qt::SkipEmptyParts);
@@ -37,7 +37,7 @@ bool isServer(const QString& name, const QString& arguments, const QString& path
 
 } // namespace
 
-TEST(MCPInspectorTest, TellsServersByTheirMarks) {
+TEST(MCPInspectorTest, RecognisesServersByTheirMarks) {
     for (const auto& script :
          {u"@modelcontextprotocol/server-filesystem"_s, u"/opt/MCP-Server-github"_s, u"mcp_server_git"_s,
           u"foo-mcp"_s, u"foo-mcp@1.2"_s, u"x9_-mcp/run"_s, u"stitch"_s, u"composio-social"_s,
@@ -50,7 +50,7 @@ TEST(MCPInspectorTest, TellsServersByTheirMarks) {
         EXPECT_FALSE(isServer(u"node"_s, u"node "_s + script)) << qPrintable(script);
 }
 
-TEST(MCPInspectorTest, AServerIsWhatIsRunNotWhatIsNamed) {
+TEST(MCPInspectorTest, TheProgramMakesAServerAndNotItsArguments) {
     EXPECT_TRUE(isServer(u"python3"_s, u"python3 -m mcp_server_git"_s));
     EXPECT_TRUE(isServer(u"mcp-server-time"_s, u"mcp-server-time"_s));
     EXPECT_TRUE(isServer(u"node"_s, u"node /home/u/src/app/node_modules/.bin/mcp-server-filesystem /p"_s));
@@ -70,10 +70,10 @@ TEST(MCPInspectorTest, AServerIsWhatIsRunNotWhatIsNamed) {
         EXPECT_FALSE(isServer(name, arguments)) << qPrintable(arguments);
     EXPECT_FALSE(isServer(u"python3"_s, u"python3 manage.py"_s, u"/opt/mcp-server/venv/bin/python3"_s));
     const QString inHome = QDir::homePath() + u"/mcp-server.d/tool"_s;
-    EXPECT_TRUE(isServer(u"tool"_s, u"tool"_s, inHome)); // of the path only the home itself says nothing
+    EXPECT_TRUE(isServer(u"tool"_s, u"tool"_s, inHome)); // only the home itself is left out
 }
 
-TEST(MCPInspectorTest, EveryHostCountsUnderTheNamesItHasHere) {
+TEST(MCPInspectorTest, RecognisesEveryHost) {
     const std::tuple<const char*, const char*, const char*> hosts[] = {
         {"claude", "claude", "/home/u/.local/share/claude/versions/2.1.4"},
         {"claude", "claude", "/usr/bin/node"},
@@ -122,7 +122,7 @@ TEST(MCPInspectorTest, EveryHostCountsUnderTheNamesItHasHere) {
     }
 }
 
-TEST(MCPInspectorTest, OneRowAServerWithItsLaunchersAndItsHost) {
+TEST(MCPInspectorTest, AServerIsOneRowWithItsLaunchersAndItsHost) {
     const ProcSample host = process(10, u"claude"_s, u"claude"_s, 2, 900);
     const QList<ProcSample> npx = {
         host,
@@ -145,7 +145,7 @@ TEST(MCPInspectorTest, OneRowAServerWithItsLaunchersAndItsHost) {
             EXPECT_EQ(live[0].parentName, isHosted ? u"claude"_s : u"(init or gone)"_s);
         }
     }
-    // A shell that has more to do than to wait, and a server that runs another, are rows of their own.
+    // A shell with another child, and a server that runs another, are rows of their own.
     auto busy = npx;
     busy.append(process(14, u"sleep"_s, u"sleep 1"_s, 12));
     EXPECT_EQ(MCPInspector::detectLive(busy).size(), 2);
@@ -183,7 +183,7 @@ TEST(MCPInspectorTest, AChainEndsAtAHostOrInAnOrphan) {
             .isEmpty());
 }
 
-TEST(MCPInspectorTest, WhoeverKeepsAServerMakesItNoOrphan) {
+TEST(MCPInspectorTest, AServerWithAKeeperIsNoOrphan) {
     using Kind = ProcessKeeper::Kind;
     const QList<ProcSample> processes = {process(1, u"systemd"_s), process(5, u"zsh"_s),
                                          process(6, u"sh"_s, u"sh -c a-mcp"_s, 1),
@@ -221,7 +221,7 @@ TEST(MCPInspectorTest, OrphansComeFirstThenTheLargest) {
     EXPECT_EQ(report.live[1].parentName, u"zsh"_s);
 }
 
-TEST(ServerWatchTest, SaysWhyInWords) {
+TEST(ServerWatchTest, SaysWhyAServerIsInUseOrAnOrphan) {
     FakePlatform fakes;
     ServerWatch watch(fakes.processes, fakes.clock);
     const auto reason = [&watch](const QList<ProcSample>& processes) {
@@ -256,7 +256,7 @@ TEST(ServerWatchTest, SaysWhyInWords) {
     EXPECT_EQ(reason({process(31, u"a-mcp"_s)}), u"run by the service manager as a.service"_s);
 }
 
-TEST(MCPInspectorTest, TheLabelIsTheFirstTellingPiece) {
+TEST(MCPInspectorTest, TheLabelIsTheFirstArgumentWithAMark) {
     const auto label = [](const QString& arguments) {
         ProcSample server = process(1, u"x-mcp"_s);
         server.arguments = arguments;

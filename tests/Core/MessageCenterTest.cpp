@@ -145,7 +145,7 @@ TEST_F(MessageCenterTest, AnyIdCanBeDismissedAndHidesNoOther) {
         EXPECT_EQ(reread.file().boolean(MessageCenter::dismissKey(message(id))), true) << qPrintable(id);
 }
 
-TEST_F(MessageCenterTest, AFailureKeepsWhatWasKnown) {
+TEST_F(MessageCenterTest, AFailureKeepsTheMessages) {
     publish({message(u"a"_s)});
     const std::optional<QByteArray> answers[] = {{}, "", "{\"messages\": [{}]}"};
     for (const auto& answer : answers) {
@@ -159,13 +159,13 @@ TEST_F(MessageCenterTest, AFailureKeepsWhatWasKnown) {
 }
 
 TEST_F(MessageCenterTest, OfOverlappingRefreshesTheLaterCompletionWins) {
-    feed->held = true;
+    feed->suspended = true;
     center.start();
     EXPECT_TRUE(feed->requests.isEmpty()); // never before the start is over
     QCoreApplication::processEvents();
     center.refresh();
     ASSERT_EQ(feed->requests.size(), 2);
-    EXPECT_EQ(feed->requests[0], center.feedURL());
+    EXPECT_EQ(feed->requests[0], QUrl(u"https://feed.example/api/messages.json"_s));
     feed->answer = feedOf({message(u"second"_s)});
     feed->release(1);
     EXPECT_EQ(shown(), u"second"_s);

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A feed of one complete message; a key that is given again replaces the earlier one.
+/// Returns a feed of one complete message. A repeated key replaces the earlier one.
 QByteArray feedWith(const QByteArray& member = {}) {
     return R"({"messages": [{"id": "a", "target": "all", "severity": "info", "title": "t", "body": "b")" +
            (member.isEmpty() ? member : ", " + member) + "}]}";
@@ -82,7 +82,7 @@ TEST(MessageFeedTest, OneFaultRejectsTheWholeFeed) {
         EXPECT_FALSE(Feed::decode(json)) << json.left(200).data();
 }
 
-TEST(MessageFeedTest, OnlyPagesAndPlainLettersAreFollowed) {
+TEST(MessageFeedTest, OnlyPagesAndPlainMailsAreOpened) {
     const auto link = [](const char* url) {
         return Message{.actionURL = QString::fromLatin1(url)}.actionLink();
     };

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Two orphan servers of the user's, one server with a host, one orphan of another user.
+/// Two orphan servers of the user, one server with a host, one orphan of another user.
 struct OrphansTest : ReliefTest {
     OrphansTest() {
         add(10, "claude", 1);
@@ -43,7 +43,7 @@ TEST_F(OrphansTest, TheReportFollowsTheTick) {
     fakes.power->lowPower = true;
     settings.preferences.pauseOnLowPower.set(true);
     tick();
-    EXPECT_EQ(model->mcpReport().orphanCount(), 4); // paused: as of the last full tick
+    EXPECT_EQ(model->mcpReport().orphanCount(), 4); // paused: of the last full tick
     fakes.power->lowPower = false;
     tick();
     EXPECT_EQ(model->mcpReport().orphanCount(), 2);
@@ -53,7 +53,7 @@ TEST_F(OrphansTest, TheReportFollowsTheTick) {
 
 TEST_F(OrphansTest, SwitchingOnRunsAPassAtOnceInThreeLines) {
     EXPECT_FALSE(model->autoOptimizeEnabled());
-    fakes.relief->held = true;
+    fakes.relief->suspended = true;
     model->setAutoOptimizeEnabled(true);
     EXPECT_TRUE(model->autoOptimizeEnabled());
     EXPECT_EQ(logged(), QStringList(u"quit [orphan MCPs] killed=2/2 ok"_s)); // the others await the tool
@@ -90,10 +90,10 @@ TEST_F(OrphansTest, TheTimerRunsEveryHalfHourWhileOn) {
 }
 
 TEST_F(OrphansTest, APassEndsWithItsModel) {
-    fakes.relief->held = true;
+    fakes.relief->suspended = true;
     model->setAutoOptimizeEnabled(true);
     model.reset();
     EXPECT_TRUE(fakes.relief->release());
     letLoopRun();
-    EXPECT_EQ(ActionLogReader::read().size(), 1); // the orphans, and nothing after the model went
+    EXPECT_EQ(ActionLogReader::read().size(), 1); // the orphans, and nothing after the model
 }

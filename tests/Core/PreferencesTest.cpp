@@ -17,7 +17,7 @@ const QString iniFile = QStringLiteral("s.ini");
 
 } // namespace
 
-TEST(Preferences, FreshOnesReadTheDefaultsAndWriteNothing) {
+TEST(Preferences, NewOnesReadTheDefaultsAndWriteNothing) {
     const TemporarySettings settings;
     const Preferences& prefs = settings.preferences;
     EXPECT_EQ(prefs.menuBarFormat(), MenuBarFormat::both);
@@ -50,7 +50,7 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
     }
 }
 
-TEST(Preferences, ADamagedFileIsKeptBesideAndItsReadableValuesStay) {
+TEST(Preferences, ADamagedFileIsCopiedAndItsReadableValuesStay) {
     const TemporaryFolder folder;
     const QByteArray damaged("\0\xff[[\x01\npref.showInDock\n[General]\npref.pauseOnLowPower=true\n", 57);
     const QString path = folder.makeFile(iniFile, damaged);
@@ -63,21 +63,22 @@ TEST(Preferences, ADamagedFileIsKeptBesideAndItsReadableValuesStay) {
     EXPECT_FALSE(again.startAtLogin());
 }
 
-TEST(Preferences, WhatIsNoFileIsLeftAloneAndValuesLastAsLongAsTheProgram) {
+TEST(Preferences, OnlyARegularFileIsReplacedAndValuesLastAsLongAsTheProgram) {
     const TemporaryFolder place;
     const QString pipe = place.path(QStringLiteral("pipe"));
-    const QString link = place.path(QStringLiteral("link"));
+    const QString symlink = place.path(QStringLiteral("symlink"));
     const QString folder = place.makeFolder(QStringLiteral("folder"));
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    ASSERT_TRUE(QFile::link(pipe, link));
-    for (const QString& path : {pipe, link, folder}) {
+    ASSERT_TRUE(QFile::link(pipe, symlink));
+    for (const QString& path : {pipe, symlink, folder}) {
         Preferences prefs(path);
         EXPECT_EQ(prefs.pollIntervalSeconds(), 2) << qPrintable(path);
         prefs.pollIntervalSeconds.set(5);
         EXPECT_EQ(prefs.pollIntervalSeconds(), 5) << qPrintable(path);
     }
     const auto kept = QDir(place.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    EXPECT_EQ(kept, QStringList({QStringLiteral("folder"), QStringLiteral("link"), QStringLiteral("pipe")}));
+    EXPECT_EQ(kept,
+              QStringList({QStringLiteral("folder"), QStringLiteral("pipe"), QStringLiteral("symlink")}));
     EXPECT_FALSE(QFileInfo(pipe).isFile());
 }
 
@@ -130,7 +131,7 @@ TEST(Preferences, TwoWritersKeepEachOthersKeys) {
     EXPECT_FALSE(reread.showInDock());
 }
 
-TEST(Preferences, HistoryLengthFollowsRetentionAndIntervalWithAFloor) {
+TEST(Preferences, HistoryLengthFollowsRetentionAndIntervalWithAMinimum) {
     TemporarySettings settings;
     Preferences& prefs = settings.preferences;
     using enum HistoryRetention;

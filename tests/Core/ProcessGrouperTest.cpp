@@ -10,7 +10,7 @@
 
 using enum ProcGroup;
 
-TEST(ProcessGrouper, FirstRuleThatHoldsDecides) {
+TEST(ProcessGrouper, TheFirstMatchingRuleDecides) {
     const std::tuple<const char*, const char*, const char*, ProcGroup> cases[] = {
         {"node", "", "@modelcontextprotocol/server-filesystem", agents},
         {"node", "", "server.js", other},

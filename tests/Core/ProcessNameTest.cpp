@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Words apart by blanks; "~" stands for a blank within a word.
+/// Splits words at spaces. "~" stands for a space within a word.
 QStringList words(const char* text) {
     QStringList list = QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
     for (QString& word : list)

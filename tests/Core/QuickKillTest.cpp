@@ -74,7 +74,7 @@ TEST(QuickKillPresetTest, Texts) {
     EXPECT_NE(QuickKillPreset::blank().id, QuickKillPreset::blank().id);
 }
 
-TEST(QuickKillPresetTest, TheDocumentReadsBackWhole) {
+TEST(QuickKillPresetTest, TheDocumentReadsBack) {
     TemporarySettings settings;
     Preferences& prefs = settings.preferences;
     EXPECT_EQ(prefs.quickKillPresets(), QuickKillPreset::defaults());

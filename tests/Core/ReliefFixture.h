@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-/// A model over scripted processes, signals and tools, which never waits.
+/// A model over scripted processes, signals and tools, without delays.
 struct ReliefTest : testing::Test {
     TemporaryHome home;
     TemporarySettings settings;
@@ -21,10 +21,10 @@ struct ReliefTest : testing::Test {
 
     ReliefTest() {
         model = std::make_unique<AppModel>(fakes.platform(), settings.preferences);
-        model->actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+        model->actions().setFreeRAMDelays({.beforeSecondPass = {}, .beforeMeasuring = {}});
     }
 
-    /// A process of the user's, unless it says otherwise, that the system lists and signals reach.
+    /// Adds a running process, of the user unless `info` says otherwise.
     void add(qint32 pid, const QByteArray& name, quint64 rssBytes, KernelProcessInfo info = {.uid = 1000},
              const QByteArray& path = {}, const QByteArray& arguments = {}) {
         fakes.processes->add(pid, {.task = TaskInfo{.residentBytes = rssBytes},
@@ -38,7 +38,7 @@ struct ReliefTest : testing::Test {
         for (int i = 0; i < times; ++i)
             QMetaObject::invokeMethod(model.get(), "tick");
     }
-    /// "KIND DETAIL ok", newest first.
+    /// Returns "KIND DETAIL ok" of each entry, newest first.
     QStringList logged() const {
         return each(model->actionLog().entries(), [](const ActionLogEntry& entry) {
             return rawValue(entry.kind) + u' ' + entry.detail +

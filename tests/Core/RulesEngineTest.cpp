@@ -135,13 +135,13 @@ TEST_F(RulesEngineTest, CachesNameTheFirstThreeAboveTheirShare) {
         caches.append({.name = QStringLiteral("c%1").arg(i), .symbol = {}, .sizeBytes = 2 * GiB});
     EXPECT_EQ(only().detail, QStringLiteral("c0 (2 GB), c1 (2 GB), c2 (2 GB)"));
     for (CacheTarget& target : caches)
-        target.sizeBytes = 10 * GiB / 8; // each has its share, and together they have the limit
+        target.sizeBytes = 10 * GiB / 8; // each has its share, and all have the limit
     EXPECT_TRUE(ids().isEmpty());
     ++caches[3].sizeBytes;
     EXPECT_EQ(only().detail, QStringLiteral("c3 (1.3 GB)"));
 }
 
-TEST_F(RulesEngineTest, AllAlertsInTheirOrderAndToTheLetter) {
+TEST_F(RulesEngineTest, AllAlertsInTheirOrderWithTheirTexts) {
     system = {.cpuPercent = 97.5,
               .memUsedBytes = 15 * GiB,
               .memTotalBytes = 16 * GiB,
@@ -181,7 +181,7 @@ TEST_F(RulesEngineTest, AllAlertsInTheirOrderAndToTheLetter) {
                      QStringLiteral("3.0 GB free."), std::nullopt, QStringLiteral("ram")}));
 }
 
-TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrSomebodyElses) {
+TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrAnotherUsers) {
     system.cpuPercent = 95;
     ProcSample ourselves = process(identity.pid, QStringLiteral("tavrin"), ProcGroup::agents, 300, GiB, 5000);
     ProcSample foreign = process(1, QStringLiteral("compactor"), ProcGroup::agents, 200, GiB, 5000);

@@ -45,8 +45,7 @@ TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
         {CpuTicks{.user = large + 12, .system = 6, .idle = 118, .nice = 12}, 62.5}, // 12 + 6 + 12 of 48
         {CpuTicks{.user = large + 12, .system = 6, .idle = 118, .nice = 12}, 0},    // nothing moved
         {std::nullopt, 0},
-        {CpuTicks{.user = large + 22, .system = 6, .idle = 128, .nice = 12},
-         50}, // since the last good reading
+        {CpuTicks{.user = large + 22, .system = 6, .idle = 128, .nice = 12}, 50}, // of the last good reading
     };
     for (const auto& [ticks, load] : steps) {
         fakes.host->ticks = ticks;
@@ -127,7 +126,7 @@ TEST_F(SamplerTest, IdleTimeGrowsBelowHalfAPercentAndSurvivesAWallClockJump) {
     EXPECT_EQ(only().idleSeconds, 0);
 }
 
-TEST_F(SamplerTest, AProcessThatTookAnotherIdIsNewAndSoAreItsChildrensParents) {
+TEST_F(SamplerTest, AReusedPidIsANewProcessAndItsChildrenHaveNewParents) {
     fakes.processes->add(10, {.name = "old", .info = KernelProcessInfo{.startTicks = 1}});
     fakes.processes->add(11, {.name = "child", .info = KernelProcessInfo{.parentPid = 10}});
     burn(10, 5);
@@ -142,7 +141,7 @@ TEST_F(SamplerTest, AProcessThatTookAnotherIdIsNewAndSoAreItsChildrensParents) {
     EXPECT_EQ(processes[1].parentPid, 1);
 
     fakes.processes->listing.clear();
-    fakes.processes->listing.append(0); // the kernel's own id: listed, never shown
+    fakes.processes->listing.append(0); // the kernel's own PID: listed, never shown
     EXPECT_TRUE(sampler.sampleProcesses().isEmpty());
     EXPECT_EQ(sampler.rememberedProcesses(), 0);
 }
@@ -161,7 +160,7 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
         fakes.processes->add(pid,
                              {.path = "/bin/sh", .name = "sh", .info = KernelProcessInfo{.parentPid = 10}});
     for (int i = 0; i < 10; ++i)
-        pass(true); // no longer young
+        pass(true); // longer than a process is young
     for (int i = 0; i < 3; ++i)
         pass(false);
     for (const qint32 pid : {20, 21, 22}) {
@@ -172,7 +171,7 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
     }
     const int hashes = fakes.processes->textHashes;
     EXPECT_EQ(pass(false)[1].name, QStringLiteral("sh"));
-    EXPECT_EQ(fakes.processes->textHashes, hashes); // who has not run has changed nothing
+    EXPECT_EQ(fakes.processes->textHashes, hashes); // a process that has not run is not read
     pass(true);
     pass(true);
     EXPECT_LE(fakes.processes->textHashes, hashes + 3); // they take turns
@@ -183,7 +182,7 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
         EXPECT_EQ(changed[i].arguments, QStringLiteral("/opt/server.js"));
         EXPECT_EQ(changed[i].program, QStringLiteral("/opt/server.js"));
         EXPECT_EQ(changed[i].parentPid, 10);
-        EXPECT_DOUBLE_EQ(changed[i].idleSeconds, 32); // goes on since it was first seen
+        EXPECT_DOUBLE_EQ(changed[i].idleSeconds, 32); // since it was first seen
     }
     fakes.processes->remove(10);
     for (const qint32 pid : {20, 21, 22})
@@ -191,7 +190,7 @@ TEST_F(SamplerTest, AnotherProgramTitleOrParentShowsWithinThreePasses) {
     EXPECT_EQ(pass(false)[0].parentPid, 1);
 }
 
-TEST_F(SamplerTest, AGroupIsFoundWithTheTextsAndKept) {
+TEST_F(SamplerTest, TheGroupIsFoundWithTheTextsAndKept) {
     int asked = 0;
     ProcGroup ofEditors = ProcGroup::ides;
     Sampler grouping(fakes.platform(), [&](const ProcSample& process) {
@@ -219,7 +218,7 @@ TEST_F(SamplerTest, AGroupIsFoundWithTheTextsAndKept) {
     EXPECT_EQ(pass(), ProcGroup::agents);
 }
 
-TEST_F(SamplerTest, ALookAgainSeesTheSameProcessOrNone) {
+TEST_F(SamplerTest, LookAgainFindsTheSameProcessOrNone) {
     fakes.processes->add(10, {.name = "sh", .info = KernelProcessInfo{.parentPid = 3, .startTicks = 5}});
     const ProcSample listed = only();
     fakes.processes->processes[10].name = "vim";
@@ -237,7 +236,7 @@ TEST_F(SamplerTest, ALookAgainSeesTheSameProcessOrNone) {
 
 TEST_F(SamplerTest, TextsAreSharedAndGoWithTheirProcesses) {
     fakes.processes->add(1, {.path = "/bin/steady", .name = "steady"});
-    for (qint32 pid = 2; pid < 2000; ++pid) { // 20 at a time, each under texts of its own
+    for (qint32 pid = 2; pid < 2000; ++pid) { // 20 at a time, each with texts of its own
         const QByteArray name = "program-" + QByteArray::number(pid);
         fakes.processes->add(pid, {.path = "/bin/" + name, .name = name, .arguments = name + " --once"});
         if (pid > 21)
@@ -251,7 +250,7 @@ TEST_F(SamplerTest, TextsAreSharedAndGoWithTheirProcesses) {
     EXPECT_EQ(samples.last().name.constData(), samples.first().name.constData());
 }
 
-TEST_F(SamplerTest, UnreadableProcessIsLeftOutButNotForgotten) {
+TEST_F(SamplerTest, AnUnreadableProcessIsLeftOutAndRemembered) {
     fakes.processes->add(10);
     fakes.processes->add(11);
     sampler.sampleProcesses();
@@ -264,7 +263,7 @@ TEST_F(SamplerTest, UnreadableProcessIsLeftOutButNotForgotten) {
     EXPECT_EQ(fakes.processes->metadataLookUps, 2);
 }
 
-TEST_F(SamplerTest, FailedListingLeavesTheTablesAsTheyAre) {
+TEST_F(SamplerTest, AFailedListingKeepsTheTables) {
     fakes.processes->add(10);
     only();
     fakes.processes->fails = true;

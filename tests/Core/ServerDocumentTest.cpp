@@ -35,7 +35,7 @@ std::string repeated(const std::string& text, int times) {
     return result;
 }
 
-/// A document whose one server stands behind `content`.
+/// Returns a document with one server after `content`.
 std::string behind(const std::string& content) {
     return "{\"x\": " + content + R"(, "mcpServers": {"kept": {}}})";
 }
@@ -102,7 +102,7 @@ TEST(ServerDocumentTest, ABrokenDocumentHasNoServers) {
               QStringList(u"code"_s));
 }
 
-TEST(ServerDocumentTest, WhatIsDeepOrLongHidesNoServer) {
+TEST(ServerDocumentTest, DeepOrLongContentHidesNoServer) {
     const int beyond = 2 * static_cast<int>(JsonText::maxTokenBytes);
     for (const std::string& content :
          {repeated("[", 1'000'000) + repeated("]", 1'000'000),
@@ -141,7 +141,7 @@ TEST(ServerTomlTest, ReadsTheTablesOfServers) {
                                                 {u"zeta"_s, u"npx"_s, {u"-y"_s, u"pé"_s}, u"codex"_s}}));
 }
 
-TEST(ServerTomlTest, ABrokenOrMonstrousDocumentHasNoServers) {
+TEST(ServerTomlTest, ABrokenOrExcessiveDocumentHasNoServers) {
     const std::string valid = "[mcp_servers.a]\ncommand = 'x'\n";
     const int maxBytes = 8 << 20;
     EXPECT_EQ(readToml(valid).size(), 1);
@@ -160,6 +160,5 @@ TEST(ServerTomlTest, ABrokenOrMonstrousDocumentHasNoServers) {
     std::string nested;
     for (int i = 0; i < 7; ++i)
         nested += "x" + repeated(".x", 200) + " = [\n{";
-    EXPECT_EQ(readToml(valid + nested + "x = 1" + repeated("}]", 7)).size(),
-              1); // deep, but can be taken down
+    EXPECT_EQ(readToml(valid + nested + "x = 1" + repeated("}]", 7)).size(), 1); // within the limits
 }

@@ -4,8 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The list on show may be old: the period is long, or sampling pauses to save power.
-TEST_F(ReliefTest, NoActionReachesAProcessThatTookTheIdSinceTheLastTick) {
+TEST_F(ReliefTest, NoActionReachesAProcessThatReusesAPid) {
     using Action = std::function<void()>;
     const QList<std::pair<const char*, Action>> actions = {
         {"quit", [this] { model->actions().quitProcess(model->processes().first()); }},
@@ -33,7 +32,7 @@ TEST_F(ReliefTest, NoActionReachesAProcessThatTookTheIdSinceTheLastTick) {
     }
 }
 
-TEST_F(ReliefTest, AChosenProcessIsTheOneThatWasShownThen) {
+TEST_F(ReliefTest, AnActionReachesOnlyTheChosenProcess) {
     const auto start = fakes.clock->wall;
     add(8, "another", 0);
     add(7, "first", 1, {.start = start, .uid = 1000});

@@ -44,7 +44,7 @@ TEST(NukePreviewTest, TextsForAnApplication) {
               u"Couldn't tell Note to quit (it may not be scriptable). Try the force variant."_s);
 }
 
-TEST(NukePreviewTest, TextsForAnyOtherProcessesListTwentyIds) {
+TEST(NukePreviewTest, TextsForOtherProcessesListTwentyPids) {
     const NukePreview twenty = previewOf(QStringList(20, u"/bin/x"_s), 1 << 20);
     EXPECT_EQ(twenty.dialogTitle(), u"Kill all 20 “Helper” processes?"_s);
     EXPECT_EQ(
@@ -69,7 +69,7 @@ TEST_F(SweepTest, SignalsEveryProcessOfTheNameButNeverTavrin) {
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] bash — 2/3 PIDs ok"_s));
 }
 
-TEST_F(SweepTest, AnIdThatWentToAnotherProgramMeanwhileIsLeftAlone) {
+TEST_F(SweepTest, AReusedPidGetsNoSignal) {
     add(1, "bash", 30);
     add(2, "bash", 20);
     tick();
@@ -82,7 +82,7 @@ TEST_F(SweepTest, AnIdThatWentToAnotherProgramMeanwhileIsLeftAlone) {
     EXPECT_EQ(signalled(), QList<qint32>{2});
 }
 
-TEST_F(SweepTest, WhatATerminalTakesAlongIsNamed) {
+TEST_F(SweepTest, TheProcessesInATerminalAreNamed) {
     add(1, "konsole", 1 << 20);
     add(2, "bash", 1 << 20);
     add(3, "bash", 1 << 20);

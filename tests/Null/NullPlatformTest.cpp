@@ -15,7 +15,7 @@
 #include <QListWidget>
 #include <QSignalSpy>
 
-// Everything above the platform, on a system and a desktop that answer nothing.
+// Runs everything above the platform on the answers of Platform/Null.
 
 TEST(NullPlatform, TheProgramStartsTicksAndStaysUsable) {
     TemporarySettings settings;

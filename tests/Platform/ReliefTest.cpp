@@ -83,7 +83,7 @@ struct ReliefOnProcessesTest : testing::Test {
         platform.processes = processes;
         platform.relief = std::make_shared<FakeRelief>();
         model = std::make_unique<AppModel>(platform, settings.preferences);
-        model->actions().setFreeRAMWaits({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
+        model->actions().setFreeRAMDelays({.beforeSecondPass = 200ms, .beforeMeasuring = {}});
     }
     void tick() { QMetaObject::invokeMethod(model.get(), "tick"); }
 };

@@ -59,13 +59,13 @@ TEST_F(CleanupViewTest, NothingIsKnownBeforeTheFirstScan) {
 }
 
 TEST_F(CleanupViewTest, ScanningShowsHowFarItIs) {
-    fakes.tools->held = true;
+    fakes.tools->suspended = true;
     press(*view, u"Rescan"_s);
     tick();
     EXPECT_FALSE(buttonNamed(*view, u"Rescan"_s)->isEnabled());
     EXPECT_FALSE(shownNames<Spinner>(*view).isEmpty());
     while (model.cleanup().isScanning()) {
-        fakes.tools->held = false; // whatever follows is answered at once
+        fakes.tools->suspended = false; // whatever follows is answered at once
         for (const ToolRequest& request : QList<ToolRequest>(fakes.tools->requests))
             fakes.tools->release(request.arguments.last());
         QCoreApplication::processEvents();
@@ -166,14 +166,14 @@ TEST_F(CleanupViewTest, ACleanCanBeCancelledAndSaysSo) {
     rescan();
     EXPECT_FALSE(buttonNamed(*view, u"Cancel cleaning"_s));
     press(*view, u"Clean All"_s);
-    fakes.tools->held = true;
+    fakes.tools->suspended = true;
     press(*dialog(), u"Clean 2 MB"_s);
     tick();
     EXPECT_TRUE(showsText(*view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
     auto* cancel = buttonNamed(*view, u"Cancel cleaning"_s);
     ASSERT_TRUE(cancel && cancel->focusPolicy() & Qt::TabFocus);
     QTest::keyClick(cancel, Qt::Key_Space);
-    fakes.tools->held = false;
+    fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
     finish();
     EXPECT_TRUE(showsText(*view, u"• Cancelled: cleaned 0 of 1 targets, freed ~0 bytes"_s));
@@ -226,7 +226,7 @@ TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {
     const auto names = u"“a␛.iso”, “b.pdf”, “c” and 2 more"_s;
     const CacheTarget caches{.name = u"A"_s, .symbol = {}, .sizeBytes = 1, .listed = listed};
     const CacheTarget mine{
-        .name = u"B"_s, .symbol = {}, .sizeBytes = 1, .rule = {.holdsUserFiles = true}, .listed = listed};
+        .name = u"B"_s, .symbol = {}, .sizeBytes = 1, .rule = {.hasUserFiles = true}, .listed = listed};
     const CacheTarget containers{.name = u"C"_s,
                                  .symbol = {},
                                  .pruneCommand = u"prune"_s,

@@ -16,7 +16,7 @@ struct FreeRAMSheetTest : ModelFixture {
     QWidget window;
     QPointer<FreeRAMSheet> sheet;
 
-    FreeRAMSheetTest() { model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
+    FreeRAMSheetTest() { model.actions().setFreeRAMDelays({.beforeSecondPass = {}, .beforeMeasuring = {}}); }
     ~FreeRAMSheetTest() override { delete sheet; }
 
     /// Adds agents of 400, 401, ... MiB that have been idle for 20 minutes.
@@ -101,7 +101,7 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
     fakes.signalSender->start(101, {.terminate = SignalResult::notPermitted});
     fakes.signalSender->start(102, {.terminate = SignalResult::other, .kill = SignalResult::other});
     open();
-    fakes.relief->held = true;
+    fakes.relief->suspended = true;
     fakes.host->memory.activeBytes /= 2;
     QTest::keyClick(sheet, Qt::Key_Return);
     EXPECT_FALSE(buttonNamed(*sheet, u"Killing…"_s)->isEnabled());
@@ -123,7 +123,7 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
 TEST_F(FreeRAMSheetTest, ClosedDuringARunItLeavesTheRunToFinish) {
     addIdle(1);
     open();
-    fakes.relief->held = true;
+    fakes.relief->suspended = true;
     QTest::keyClick(sheet, Qt::Key_Return);
     delete sheet;
     EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.relief->release(); }, 1000));

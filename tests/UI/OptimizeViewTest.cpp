@@ -122,7 +122,7 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     show();
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"Sent memory_pressure -l warn"_s);
-    fakes.relief->held = true;
+    fakes.relief->suspended = true;
     press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
     fakes.relief->answer = [] { return Outcome::failure(u"no <agent>"_s); };
@@ -130,7 +130,7 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->toolTip().contains(u"no &lt;agent&gt;"_s));
-    fakes.relief->held = false;
+    fakes.relief->suspended = false;
     fakes.relief->answer = [] { return Outcome::failure(u"no group"_s); };
     press(view, u"Pressure nudge"_s);
     EXPECT_EQ(notice(), u"memory_pressure failed"_s);
@@ -178,14 +178,14 @@ TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
     show();
     QCoro::waitFor(model.cleanup().rescan());
     tick();
-    fakes.tools->held = true;
+    fakes.tools->suspended = true;
     press(view, u"Clean All"_s);
     tick();
     EXPECT_FALSE(view.findChild<ConfirmDialog*>());
     EXPECT_FALSE(buttonNamed(view, u"Clean All"_s)->isEnabled());
     EXPECT_TRUE(showsText(view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
     press(view, u"Cancel cleaning"_s);
-    fakes.tools->held = false;
+    fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
     EXPECT_TRUE(
         QTest::qWaitFor([this] { return notice().startsWith(u"Cancelled: cleaned 0 of 1"_s); }, 2000));

@@ -10,8 +10,8 @@
 #include <cstdlib>
 #include <source_location>
 
-/// What each target defines: takes one input, whatever it is, and returns 0. Called by the fuzzer, or with
-/// the saved inputs by `replay.cpp`.
+/// Takes one input and returns 0. Each target defines it. The fuzzer calls it, or `replay.cpp` with the saved
+/// inputs.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace Fuzz {
@@ -20,7 +20,7 @@ inline QByteArray bytes(const std::uint8_t* data, std::size_t size) {
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
 }
 
-/// `count` texts out of one input: a line "--" ends each. What is missing is empty.
+/// Splits one input into `count` texts at lines of "--". Missing ones are empty.
 inline QList<QByteArray> texts(QByteArray input, qsizetype count) {
     QList<QByteArray> result;
     while (result.size() < count) {
@@ -31,16 +31,16 @@ inline QList<QByteArray> texts(QByteArray input, qsizetype count) {
     return result;
 }
 
-/// Half a surrogate pair, which JSON can name, has no form in UTF-8; a byte order mark is dropped in reading.
+/// Returns whether a text survives UTF-8: half a surrogate pair and a leading byte order mark do not.
 inline bool isText(const QString& text) {
     return text.isValidUtf16() && !text.startsWith(QChar::ByteOrderMark);
 }
 
-/// Ends the program, which the fuzzer and ctest take for a finding, where a promise does not hold.
-inline void require(bool holds, std::source_location place = std::source_location::current()) {
-    if (holds)
+/// Ends the program, which the fuzzer and ctest report, when a condition is false.
+inline void require(bool condition, std::source_location place = std::source_location::current()) {
+    if (condition)
         return;
-    std::fprintf(stderr, "%s:%u: the promise does not hold\n", place.file_name(),
+    std::fprintf(stderr, "%s:%u: the condition is false\n", place.file_name(),
                  static_cast<unsigned>(place.line()));
     std::abort();
 }

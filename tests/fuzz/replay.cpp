@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
             if (!file.open(QIODevice::ReadOnly))
                 return 1;
             const QByteArray input = file.readAll();
-            std::fprintf(stderr, "%s\n", qPrintable(file.fileName())); // the last one named is to blame
+            std::fprintf(stderr, "%s\n", qPrintable(file.fileName())); // the last one printed causes a crash
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()),
                                    static_cast<std::size_t>(input.size()));
             ++fed;

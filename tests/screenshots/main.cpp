@@ -228,7 +228,7 @@ void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     press(view, u"Clean All"_s);
     auto* dialog = window.findChild<ConfirmDialog*>();
     camera.take(*dialog, u"cleanup-confirm-all"_s);
-    stage.fakes.tools->held = true;
+    stage.fakes.tools->suspended = true;
     dialog->findChildren<PushButton*>().last()->click();
     settle();
     camera.take(window, u"cleanup-running"_s);
@@ -240,7 +240,7 @@ void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     scroll->setValue(0);
     window.findChild<RootView*>()->select(RootView::Tab::cleanup);
     stage.model.cleanup().cancel();
-    stage.fakes.tools->held = false;
+    stage.fakes.tools->suspended = false;
     for (const ToolRequest& request : QList<ToolRequest>(stage.fakes.tools->requests))
         stage.fakes.tools->release(request.arguments.last());
     QTest::qWaitFor(
@@ -315,7 +315,7 @@ void shootFreeRAM(Camera& camera) {
     stage.play(150, 24, 13.1);
     stage.fakes.clock->advance(1500);
     stage.play(1, 24, 13.1);
-    stage.model.actions().setFreeRAMWaits({.beforeSecondPass = {}, .beforeMeasuring = {}});
+    stage.model.actions().setFreeRAMDelays({.beforeSecondPass = {}, .beforeMeasuring = {}});
     auto* sheet = new FreeRAMSheet(stage.model, nullptr);
     camera.take(*sheet, u"free-ram"_s);
     stage.fakes.host->memory.activeBytes -= 900 * MiB;

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// What `read`, a member or a function, gives of each element, in their order.
+/// Returns the results of `read`, a member or a function, for each element.
 template <typename List, typename Read> auto each(const List& list, Read read) {
     QList<std::decay_t<decltype(std::invoke(read, *std::begin(list)))>> result;
     for (const auto& element : list)

@@ -6,10 +6,10 @@
 
 #include <functional>
 
-/// A login item that only remembers what it was asked for, and fails for the reason the test gives.
+/// A login item that records the requests and answers with `outcome`.
 class FakeLoginItem : public LoginItem {
 public:
-    QStringList requests; ///< "register" and "unregister"
+    QStringList requests; ///< "register", "unregister" and "replace"
     Outcome outcome = Outcome::success();
     bool installed = true;
     std::function<void()> whenAsked = [] {};

@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QStringList>
 
-/// Every path is where it says, unless the test says otherwise.
+/// Returns every path as its own place, unless the test says otherwise.
 class FakePlaces : public Places {
 public:
     QHash<QString, QStringList> elsewhere;

@@ -17,7 +17,7 @@
 
 #include <algorithm>
 
-// Scripted answers in the place of an operating system: tests set the fields and read what was asked.
+// Scripted answers of an operating system: tests set the fields and read the requests.
 
 class FakeClock : public Clock {
 public:
@@ -63,7 +63,7 @@ struct FakeProcess {
 
 class FakeProcessTable : public ProcessTable {
 public:
-    QList<qint32> listing; ///< what the system lists, in order
+    QList<qint32> listing; ///< the PIDs that the system lists, in order
     QHash<qint32, FakeProcess> processes;
     bool fails = false;
     int metadataLookUps = 0;
@@ -129,7 +129,7 @@ class FakeApplications : public Applications {
 public:
     QHash<QString, Application> byProgram;
     QHash<qint32, Application> byProcess;
-    QHash<qint32, QList<qint32>> inTerminals; ///< by the process that holds them
+    QHash<qint32, QList<qint32>> inTerminals; ///< by the process of the terminal
 
     std::optional<Application> ofProgram(const QString& executable) override {
         return answer(byProgram, executable);
@@ -150,7 +150,7 @@ private:
     }
 };
 
-/// All of them together, each still in reach of the test.
+/// All fakes together.
 struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
     std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();

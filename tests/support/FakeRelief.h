@@ -7,12 +7,12 @@
 
 #include <functional>
 
-/// Gives nothing back: it remembers what was asked for and answers from `answer`, at once or, while `held`,
-/// when the test lets the oldest request go.
+/// Records the requests and answers from `answer`: at once or, while `suspended`, when the test releases the
+/// oldest.
 class FakeRelief : public Relief {
 public:
     std::function<Outcome()> answer = [] { return Outcome::success(); };
-    bool held = false;
+    bool suspended = false;
     QStringList requests; ///< "quit NAME", "force-quit NAME", "reclaim memory", "drop caches"
 
     QCoro::Task<Outcome> quitApplication(QString name, bool force) override {
@@ -21,7 +21,7 @@ public:
     QCoro::Task<Outcome> reclaimMemory() override { return ask(QStringLiteral("reclaim memory")); }
     QCoro::Task<Outcome> dropCaches() override { return ask(QStringLiteral("drop caches")); }
 
-    /// False when no request is held.
+    /// Resumes the oldest request, and returns false when none is suspended.
     bool release() {
         if (m_waiting.isEmpty())
             return false;
@@ -32,7 +32,7 @@ public:
 private:
     QCoro::Task<Outcome> ask(QString request) {
         requests.append(request);
-        if (held) {
+        if (suspended) {
             Turn turn{m_waiting};
             co_await turn;
         }

@@ -5,8 +5,8 @@
 #include <QHash>
 #include <QList>
 
-/// Scripted processes. Like the kernel it tells apart two processes that had the same id one after the
-/// other; every signal is on record.
+/// Scripted processes. Tells apart processes that had the same PID one after the other, and records every
+/// signal.
 class FakeSignals : public Signals, public std::enable_shared_from_this<FakeSignals> {
 public:
     struct Script {
@@ -18,7 +18,7 @@ public:
     struct Sent {
         qint32 pid = 0;
         Signal signal = Signal::probe;
-        int life = 0; ///< 1 for the first process with that id, 2 for the next
+        int life = 0; ///< 1 for the first process with that PID, 2 for the next
 
         bool operator==(const Sent&) const = default;
     };
@@ -28,7 +28,7 @@ public:
     }
     void start(qint32 pid) { start(pid, Script()); }
     void end(qint32 pid) { m_processes[pid].running = false; }
-    /// Every signal that reached a process, or was refused by one, probes left out.
+    /// Returns every signal to a running process, without probes.
     const QList<Sent>& sent() const { return m_sent; }
 
     std::shared_ptr<ProcessHandle> hold(qint32 pid) override {

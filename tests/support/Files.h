@@ -5,13 +5,13 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// What the file holds; "missing" where it cannot be read.
+/// Returns the content of the file, "missing" where it cannot be read.
 inline QByteArray contentOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
 }
 
-/// No file of this process may grow past `bytes` while it lives, as on a full disk.
+/// Keeps the files of this process below `bytes` for its lifetime, as a full disk does.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes) {

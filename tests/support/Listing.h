@@ -5,7 +5,7 @@
 
 #include <utility>
 
-/// A listing of a folder as the program `cleanup` gives it: paths and sizes, the first one's inode being 1.
+/// Returns a listing as the program `cleanup` prints it, with inodes from 1.
 inline QByteArray listingOf(const QList<std::pair<QByteArray, quint64>>& entries,
                             const QByteArray& device = "64") {
     QByteArray text = device + ":2" + '\0';

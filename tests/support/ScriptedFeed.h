@@ -9,30 +9,30 @@
 #include <QJsonObject>
 #include <QList>
 
-/// A feed that answers what the test says: at once or, while `held`, when the test lets a request go.
+/// Answers with `answer`: at once or, while `suspended`, when the test releases a request.
 class ScriptedFeed : public FeedSource {
 public:
     std::optional<QByteArray> answer;
-    bool held = false;
+    bool suspended = false;
     QList<QUrl> requests;
 
     QCoro::Task<std::optional<QByteArray>> fetch(QUrl url) override {
         requests.append(url);
-        if (held) {
+        if (suspended) {
             Turn turn{m_waiting};
             co_await turn;
         }
         co_return answer;
     }
 
-    /// Lets a held request go, counted from the one that has waited longest.
+    /// Resumes a suspended request, counted from the oldest.
     void release(qsizetype index) { m_waiting.takeAt(index).resume(); }
 
 private:
     QList<std::coroutine_handle<>> m_waiting;
 };
 
-/// The document that holds those messages.
+/// Returns the document of these messages.
 inline QByteArray feedOf(const QList<Message>& messages) {
     QJsonArray array;
     for (const Message& message : messages) {

@@ -6,8 +6,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-/// An empty folder of the test's own; in some tests it stands in for "/", "/proc" or "/sys" of a machine that
-/// is not at hand.
+/// An empty folder of the test. Some tests build "/", "/proc" or "/sys" of another machine in it.
 class TemporaryFolder {
 public:
     QString path(const QString& below = {}) const {

@@ -4,7 +4,7 @@
 
 #include <map>
 
-/// HOME in an empty folder of its own, and none of the XDG variables, for as long as it lives.
+/// Sets HOME to an empty folder and unsets the XDG variables for its lifetime.
 class TemporaryHome : public TemporaryFolder {
 public:
     TemporaryHome() {
@@ -23,5 +23,5 @@ public:
     TemporaryHome& operator=(const TemporaryHome&) = delete;
 
 private:
-    std::map<std::string, QByteArray> m_before; ///< null for one that was not set
+    std::map<std::string, QByteArray> m_before; ///< null for an unset one
 };

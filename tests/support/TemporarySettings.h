@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-/// Preferences on a file of the test's own.
+/// Preferences on a file of the test.
 struct TemporarySettings {
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("settings.ini"));

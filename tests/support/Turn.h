@@ -4,7 +4,7 @@
 
 #include <coroutine>
 
-/// What a coroutine of a test awaits to be held: it goes on when the test resumes it from the list.
+/// Suspends the coroutine that awaits it, until the test resumes it from the list.
 struct Turn {
     QList<std::coroutine_handle<>>& waiting;
 

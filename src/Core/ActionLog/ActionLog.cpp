@@ -4,11 +4,7 @@
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
 
-namespace {
-
-constexpr qsizetype newestKept = 200;
-
-} // namespace
+constexpr qsizetype maxEntries = 200;
 
 ActionLog::ActionLog(std::shared_ptr<Clock> clock)
     : m_clock(std::move(clock)) {}
@@ -16,8 +12,8 @@ ActionLog::ActionLog(std::shared_ptr<Clock> clock)
 void ActionLog::log(const ActionLogEntry& entry) {
     QList<ActionLogEntry> entries = m_entries;
     entries.prepend(entry);
-    if (entries.size() > newestKept)
-        entries.resize(newestKept);
+    if (entries.size() > maxEntries)
+        entries.resize(maxEntries);
     publish(m_entries, std::move(entries));
     ActionLogFile::append(entry);
 }

@@ -9,19 +9,19 @@
 
 class Clock;
 
-/// The record of what was done: the newest actions here, all of them in the log file.
+/// The record of the actions: the newest in memory, all in the log file.
 class ActionLog : public Observable {
     Q_OBJECT
 
 public:
     explicit ActionLog(std::shared_ptr<Clock> clock);
 
-    /// Newest first, at most 200.
+    /// Returns the newest 200 actions, newest first.
     const QList<ActionLogEntry>& entries() const { return m_entries; }
 
-    /// Puts an action on record, here and in the log file.
+    /// Adds an action here and to the log file.
     void log(const ActionLogEntry& entry);
-    /// The same, made now, with the control characters of `detail` made visible.
+    /// Adds an action of this moment, with the control characters of `detail` made visible.
     void record(ActionLogEntry::Kind kind, const QString& detail, quint64 freedBytes, bool success);
 
 private:

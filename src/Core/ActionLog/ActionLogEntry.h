@@ -22,7 +22,7 @@ struct ActionLogEntry {
 
 template <>
 inline constexpr std::array rawValueTable<ActionLogEntry::Kind> = {
-    RawValueRow<ActionLogEntry::Kind>{ActionLogEntry::Kind::quit, u"quit"},
-    RawValueRow<ActionLogEntry::Kind>{ActionLogEntry::Kind::forceKill, u"forceKill"},
-    RawValueRow<ActionLogEntry::Kind>{ActionLogEntry::Kind::clean, u"clean"},
+    RawValueRow{ActionLogEntry::Kind::quit, u"quit"},
+    RawValueRow{ActionLogEntry::Kind::forceKill, u"forceKill"},
+    RawValueRow{ActionLogEntry::Kind::clean, u"clean"},
 };

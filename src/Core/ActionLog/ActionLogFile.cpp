@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A crash may have cut a line short, to which the next one must not be joined.
+/// Returns whether a crash cut the last line short. The next line must not continue it.
 bool endsInsideALine(QFile& file) {
     char last = '\n';
     return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
@@ -41,7 +41,7 @@ void ActionLogFile::append(const ActionLogEntry& entry) {
     }
     const qint64 end = file.size();
     const QByteArray line = (endsInsideALine(file) ? "\n" : "") + lineOf(entry);
-    // What a full disk took of a line may end inside a character, and the whole file would be no text.
+    // A partial line may end inside a character, and then the whole file is no valid UTF-8.
     if (file.write(line) < line.size()) {
         qCWarning(Log::platform) << "the log of actions takes no more:" << file.errorString();
         file.resize(end);

@@ -5,19 +5,17 @@
 /// The file of all actions, one line each.
 namespace ActionLogFile {
 
-/// "~/Library/Logs/Tavrin/actions.log" in the user's home folder.
+/// Returns "~/Library/Logs/Tavrin/actions.log".
 QString path();
 
-/// Whether something else than a file stands there. Opening a pipe or a device could wait for ever.
+/// Returns whether something else than a file is there. Opening a pipe or a device could block forever.
 bool isObstructed();
 
-/// The line of one action, its end included: time, kind, "ok" or "fail", freed bytes and detail, separated by
-/// TABs.
+/// Returns a line with its newline: time, kind, "ok" or "fail", freed bytes and detail, separated by TABs.
 QByteArray lineOf(const ActionLogEntry& entry);
 
-/// Adds the line to the action log, its folder made where missing. The line is written by one call on a file
-/// opened for appending, so that two writers never overwrite each other. A line that cannot be written is
-/// lost without a word.
+/// Appends the line to the action log, and makes its folder where it is missing. One write on a file opened
+/// for appending keeps two writers apart. A line that cannot be written is lost.
 void append(const ActionLogEntry& entry);
 
 } // namespace ActionLogFile

@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype fieldsBeforeDetail = 4;
-/// A time, three fields and a detail of one character each, and what separates them.
+/// A time, four fields of one character each, and the separators.
 constexpr qsizetype minLineLength = 29;
 
-/// Cuts the next field off the front of `line`; TABs in a row count as one separator. Empty when no TAB
-/// ends a field, and so nothing can follow it.
+/// Cuts the next field off the front of `line` and returns it. TABs in a row count as one separator. Returns
+/// an empty field when no TAB ends it.
 QByteArrayView takeField(QByteArrayView& line) {
     qsizetype begin = 0;
     while (begin < line.size() && line[begin] == '\t')
@@ -37,18 +37,18 @@ std::optional<quint64> parseCount(QByteArrayView text) {
         text = text.sliced(1);
     if (text.isEmpty())
         return std::nullopt;
-    constexpr quint64 largest = std::numeric_limits<quint64>::max();
+    constexpr quint64 max = std::numeric_limits<quint64>::max();
     quint64 value = 0;
     for (const char character : text) {
         const auto digit = static_cast<quint64>(character - '0');
-        if (character < '0' || character > '9' || value > (largest - digit) / 10)
+        if (character < '0' || character > '9' || value > (max - digit) / 10)
             return std::nullopt;
         value = value * 10 + digit;
     }
     return value;
 }
 
-/// The known words share one text each, which saves a quarter of the memory of a long log.
+/// Returns one shared text for each known kind, which saves a quarter of the memory of a long log.
 QString kindText(QByteArrayView kind) {
     static const auto known = [] {
         QList<std::pair<QByteArray, QString>> words;

@@ -11,23 +11,32 @@
 struct Alert {
     enum class Severity { info, warn, danger };
 
-    QString id; ///< stays the same while the condition lasts
+    QString id; ///< constant while the condition lasts
     Severity severity = Severity::info;
     QString title;
     QString detail;
-    std::optional<qint32> actionPid = std::nullopt; ///< the process that the alert's action acts on
-    std::optional<QString> actionTarget =
-        std::nullopt; ///< the name of the thing that the alert's action acts on
+    std::optional<qint32> actionPid = std::nullopt;     ///< the process that the action acts on
+    std::optional<QString> actionTarget = std::nullopt; ///< the name of the thing that the action acts on
 
     bool operator==(const Alert&) const = default;
 };
 
 template <>
 inline constexpr std::array rawValueTable<Alert::Severity> = {
-    RawValueRow<Alert::Severity>{Alert::Severity::info, u"info"},
-    RawValueRow<Alert::Severity>{Alert::Severity::warn, u"warn"},
-    RawValueRow<Alert::Severity>{Alert::Severity::danger, u"danger"},
+    RawValueRow{Alert::Severity::info, u"info"},
+    RawValueRow{Alert::Severity::warn, u"warn"},
+    RawValueRow{Alert::Severity::danger, u"danger"},
 };
 
-/// Name of the severity's symbol, under resources/symbols.
-QString severitySymbol(Alert::Severity severity);
+/// Returns the name of the severity's symbol under resources/symbols.
+inline QString severitySymbol(Alert::Severity severity) {
+    switch (severity) {
+    case Alert::Severity::info:
+        return QStringLiteral("info.circle.fill");
+    case Alert::Severity::warn:
+        return QStringLiteral("exclamationmark.triangle.fill");
+    case Alert::Severity::danger:
+        return QStringLiteral("exclamationmark.octagon.fill");
+    }
+    return {};
+}

@@ -21,13 +21,13 @@ using Severity = Alert::Severity;
 
 constexpr double GiB = 1073741824.0;
 constexpr double heavySwapGB = 4.0;
-constexpr qsizetype namedCaches = 3;
+constexpr qsizetype maxNamedCaches = 3;
 
 QString oneDecimal(double value) {
     return Formatters::fixed(value, 1);
 }
 
-/// A threshold in bytes; empty for one that no byte count can express, which leaves its rule out.
+/// Returns a threshold in bytes, or an empty optional when no byte count expresses it.
 std::optional<quint64> gigabytes(double value) {
     if (!std::isfinite(value) || value < 0 || value >= std::ldexp(1.0, 34))
         return std::nullopt;
@@ -61,7 +61,7 @@ std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& 
     return std::nullopt;
 }
 
-/// The first of equals, as a stable sort would have it; null when there is none.
+/// Returns the first of the busiest processes that count, null when there is none.
 template <typename Counts> const ProcSample* busiest(const QList<ProcSample>& processes, Counts counts) {
     const ProcSample* top = nullptr;
     for (const ProcSample& process : processes) {
@@ -125,14 +125,14 @@ Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
 
 QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs,
                              const ProcessFilter& maySignal) {
-    const auto minimum = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
-    if (!prefs.alertIdleAgentEnabled() || !minimum)
+    const auto minBytes = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
+    if (!prefs.alertIdleAgentEnabled() || !minBytes)
         return {};
-    const double minimumIdle = prefs.alertIdleAgentMinIdleMin() * 60;
+    const double minIdleSeconds = prefs.alertIdleAgentMinIdleMin() * 60;
     QList<Alert> alerts;
     for (const ProcSample& process : processes) {
-        const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minimumIdle &&
-                               process.rssBytes > *minimum;
+        const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minIdleSeconds &&
+                               process.rssBytes > *minBytes;
         if (qualifies)
             alerts.append(idleAgentAlert(process, maySignal.accepts(process)));
     }
@@ -141,9 +141,7 @@ QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferenc
 
 std::optional<Alert> browserAlert(const SystemSample& system, const QList<GroupRollup>& groups,
                                   const Preferences& prefs) {
-    const auto browsers = std::find_if(groups.begin(), groups.end(), [](const GroupRollup& rollup) {
-        return rollup.group == ProcGroup::browsers;
-    });
+    const auto browsers = std::ranges::find(groups, ProcGroup::browsers, &GroupRollup::group);
     if (!prefs.alertBrowserHogEnabled() || browsers == groups.end() || system.memTotalBytes == 0)
         return std::nullopt;
     const double share =
@@ -177,7 +175,7 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
                  .severity = Severity::info,
                  .title = QCoreApplication::translate("RulesEngine", "Caches reclaimable: %1")
                               .arg(Formatters::bytes(total)),
-                 .detail = big.mid(0, namedCaches).join(u", "_s),
+                 .detail = big.mid(0, maxNamedCaches).join(u", "_s),
                  .actionTarget = u"caches"_s};
 }
 

@@ -23,16 +23,15 @@ namespace {
 
 using Connection = FeedFetcher::Connection;
 
-/// What Qt may hold of a body before it is read here.
-constexpr qint64 readBufferBytes = 64 << 10;
+constexpr qint64 readBufferBytes = 64 << 10; // of Qt, before the body is read here
 
 bool isFetchable(const QUrl& url) {
     const QString host = url.host();
     return url.scheme() == "https"_L1 && !host.isEmpty() && !host.endsWith(".invalid"_L1);
 }
 
-/// On another thread: a proxy's configuration may have to be fetched itself, and the first use of TLS loads
-/// its libraries.
+/// Finds the connection on another thread: the proxy's configuration may have to be fetched, and the first
+/// use of TLS loads its libraries.
 QFuture<Connection> systemConnection(const QUrl& url) {
     const auto promise = std::make_shared<QPromise<Connection>>();
     promise->start();
@@ -57,7 +56,7 @@ QNetworkRequest makeRequest(const QUrl& url, const QSslConfiguration& tls, int r
     request.setMaximumRedirectsAllowed(redirects);
     // Only with HTTP/1.1 does Qt stop reading from the network when its buffer is full.
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    // What is counted against the limit is what came over the network, never what it unpacks to.
+    // The limit counts the bytes on the network, so nothing may unpack to more.
     request.setRawHeader("Accept-Encoding", "identity");
     request.setRawHeader("Accept", "application/json");
     request.setHeader(QNetworkRequest::UserAgentHeader,
@@ -65,10 +64,10 @@ QNetworkRequest makeRequest(const QUrl& url, const QSslConfiguration& tls, int r
     return request;
 }
 
-/// Takes in what has arrived, and breaks the transfer off as soon as there is more than `most`.
-void collect(QNetworkReply& reply, QByteArray& body, qint64 most) {
-    body.append(reply.read(most + 1 - body.size()));
-    if (body.size() > most)
+/// Appends what has arrived, and aborts the transfer beyond `maxBytes`.
+void collect(QNetworkReply& reply, QByteArray& body, qint64 maxBytes) {
+    body.append(reply.read(maxBytes + 1 - body.size()));
+    if (body.size() > maxBytes)
         reply.abort();
 }
 
@@ -96,14 +95,14 @@ QCoro::Task<std::optional<QByteArray>> FeedFetcher::fetch(QUrl url) {
     if (!isFetchable(url))
         co_return std::nullopt;
     const QPointer<FeedFetcher> self(this);
-    const QDeadlineTimer deadline(m_limits.wholeTransfer);
+    const QDeadlineTimer deadline(m_limits.timeout);
     const Limits limits = m_limits;
     auto connecting = m_connection ? QtFuture::makeReadyFuture(*m_connection) : systemConnection(url);
     const Connection connection = co_await connecting;
     if (!self || deadline.hasExpired())
         co_return std::nullopt;
 
-    // One for each transfer: nothing of it, nor its thread, stays for the hours until the next.
+    // One for each transfer, so that its thread does not stay for the hours until the next.
     const QScopedPointer<QNetworkAccessManager, QScopedPointerDeleteLater> network(new QNetworkAccessManager);
     network->setProxy(connection.proxy);
     QNetworkReply* reply = network->get(makeRequest(url, connection.tls, limits.redirects));
@@ -111,7 +110,7 @@ QCoro::Task<std::optional<QByteArray>> FeedFetcher::fetch(QUrl url) {
     const auto body = std::make_shared<QByteArray>();
     connect(reply, &QNetworkReply::redirected, reply, [body] { body->clear(); });
     connect(reply, &QNetworkReply::readyRead, reply,
-            [reply, body, most = limits.bodyBytes] { collect(*reply, *body, most); });
+            [reply, body, limits] { collect(*reply, *body, limits.bodyBytes); });
     connect(this, &FeedFetcher::abandoned, reply, &QNetworkReply::abort);
     QTimer::singleShot(std::chrono::milliseconds(deadline.remainingTime()), reply, &QNetworkReply::abort);
     co_await reply;

@@ -8,14 +8,14 @@
 
 #include <chrono>
 
-/// Fetches the feed over HTTPS, without caches and cookies. A server is believed only with a certificate that
-/// the system trusts; redirects are followed to HTTPS alone.
+/// Fetches the feed over HTTPS, without caches and cookies. The server needs a certificate that the system
+/// trusts. Redirects are followed to HTTPS only.
 class FeedFetcher : public QObject, public FeedSource {
     Q_OBJECT
 
 public:
     struct Limits {
-        std::chrono::milliseconds wholeTransfer = std::chrono::seconds(15); ///< redirects included
+        std::chrono::milliseconds timeout = std::chrono::seconds(15); ///< redirects included
         qint64 bodyBytes = 1 << 20;
         int redirects = 5;
     };
@@ -24,14 +24,14 @@ public:
         QSslConfiguration tls;
     };
 
-    /// With the system's proxy and certificates.
+    /// Uses the system's proxy and certificates.
     FeedFetcher();
-    /// For tests, which have a server and limits of their own.
+    /// Uses the server and the limits of a test.
     FeedFetcher(Connection connection, Limits limits);
     ~FeedFetcher() override;
 
-    /// Empty on anything but a whole body with a status of 200 to 299. Nothing is asked of a host below
-    /// ".invalid", a domain that never resolves: it stands for a feed that no maker has set up yet.
+    /// Returns an empty optional without a whole body and a status of 200 to 299. A host below ".invalid",
+    /// which never resolves, is not asked: it stands for a feed that does not exist yet.
     QCoro::Task<std::optional<QByteArray>> fetch(QUrl url) override;
 
 Q_SIGNALS:

@@ -11,7 +11,7 @@ class FeedSource {
 public:
     virtual ~FeedSource() = default;
 
-    /// The whole document at `url`; empty when it could not be had, for whatever reason. A source that is
-    /// destroyed meanwhile answers so.
+    /// Returns the whole document at `url`. Returns an empty optional after any failure, and when the source
+    /// is destroyed meanwhile.
     virtual QCoro::Task<std::optional<QByteArray>> fetch(QUrl url) = 0;
 };

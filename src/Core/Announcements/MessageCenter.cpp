@@ -20,7 +20,7 @@ bool isDigit(QChar character) {
     return character >= u'0' && character <= u'9';
 }
 
-/// A sign and decimal digits, nothing else; one that is too large for 64 bits is unreadable too.
+/// Reads decimal digits with or without a sign. Anything else, or more than 64 bits, is unreadable.
 qint64 versionNumber(QStringView piece) {
     const bool hasSign = piece.startsWith(u'+') || piece.startsWith(u'-');
     const QStringView digits = piece.mid(hasSign ? 1 : 0);
@@ -63,7 +63,6 @@ QCoro::Task<> MessageCenter::refresh() {
     const QPointer<MessageCenter> self(this);
     auto fetching = m_source->fetch(m_feedURL);
     const std::optional<QByteArray> body = co_await fetching;
-    // A fetch that the center's own end broke off brings nothing.
     if (!body || !self)
         co_return;
     const std::optional<Feed> feed = Feed::decode(*body);

@@ -13,8 +13,8 @@
 class FeedSource;
 class SettingsFile;
 
-/// Fetches the maker's announcements and publishes the one to show. A failure of any kind is silent: what was
-/// known stays, and the next poll tries again.
+/// Fetches the maker's announcements and publishes the one to show. After any failure the known messages
+/// stay, and the next poll tries again.
 class MessageCenter : public Observable {
     Q_OBJECT
 
@@ -22,39 +22,39 @@ public:
     using Message = ::Message;
     using Feed = ::Feed;
 
-    /// That of the running program; made on first use, never destroyed before the program ends.
+    /// Returns the center of the running program, made at the first call.
     static MessageCenter& shared();
 
-    /// `settings` outlives the center; dismissals are kept there.
+    /// `settings` stores the dismissals and outlives the center.
     MessageCenter(std::unique_ptr<FeedSource> source, SettingsFile& settings, QUrl url = defaultFeedURL(),
                   QObject* parent = nullptr);
     ~MessageCenter() override;
 
-    /// "https://HOST/api/messages.json", on the host that the build names.
+    /// Returns "https://HOST/api/messages.json", on the host of the build option.
     static QUrl defaultFeedURL();
 
-    const QUrl& feedURL() const { return m_feedURL; }
-    /// The feed as it was last read, in its own order.
+    /// Returns the last feed in its own order.
     const QList<Message>& allMessages() const { return m_allMessages; }
-    /// Empty when no message qualifies.
+    /// Returns the message to show, or an empty optional.
     const std::optional<Message>& currentMessage() const { return m_currentMessage; }
 
     static constexpr double pollInterval = 43200; ///< seconds
 
-    /// Refreshes on the next pass of the main loop, and then every `pollInterval`.
+    /// Refreshes on the next pass of the main loop and then every `pollInterval`.
     void start();
-    /// One fetch. Of refreshes that overlap the one that completes last has its way.
+    /// Fetches the feed once. Of overlapping refreshes the last to complete wins.
     QCoro::Task<> refresh();
-    /// Chooses anew among the messages that are known.
+    /// Chooses the message to show among the known messages.
     void recompute();
-    /// The message is not shown again: for good, or while this version runs.
+    /// Hides the message for good, or for this version.
     void dismiss(const Message& message);
 
-    /// Under which the settings hold true once the message was dismissed.
+    /// Returns the settings key of the message's dismissal.
     static QString dismissKey(const Message& message);
-    /// "0.0.0" where the program has no version.
+    /// Returns the program's version, "0.0.0" where it has none.
     static QString appVersion();
-    /// -1, 0 or 1, number by number between the dots. What is no number counts as -1, what is missing as 0.
+    /// Returns -1, 0 or 1 after comparing the numbers between the dots. A part that is no number counts as
+    /// -1, a missing one as 0.
     static int compareVersions(const QString& a, const QString& b);
 
 private:

@@ -11,12 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Reads the members of one message object; once one of them is not as it must be, `failed` stays true.
+/// Reads the members of one message object.
 class MessageReader {
 public:
     explicit MessageReader(const QJsonValue& value)
-        : failed(!value.isObject())
-        , m_object(value.toObject()) {}
+        : m_object(value.toObject())
+        , m_hasFailed(!value.isObject()) {}
+
+    /// Returns whether any member so far was of a wrong type.
+    bool hasFailed() const { return m_hasFailed; }
 
     QString text(QLatin1StringView key) { return checkedText(m_object[key]); }
 
@@ -29,29 +32,28 @@ public:
         const QJsonValue value = m_object[key];
         if (isLeftOut(value))
             return std::nullopt;
-        failed |= !value.isBool();
+        m_hasFailed |= !value.isBool();
         return value.toBool();
     }
 
     template <typename E> E oneOf(QLatin1StringView key) {
         const auto read = fromRawValue<E>(text(key));
-        failed |= !read;
+        m_hasFailed |= !read;
         return read.value_or(E());
     }
-
-    bool failed;
 
 private:
     static bool isLeftOut(const QJsonValue& value) { return value.isUndefined() || value.isNull(); }
 
-    /// Escapes can spell half a character, which is no text.
+    /// Escapes can spell half a surrogate pair, which is no text.
     QString checkedText(const QJsonValue& value) {
         const QString text = value.toString();
-        failed |= !value.isString() || !text.isValidUtf16();
+        m_hasFailed |= !value.isString() || !text.isValidUtf16();
         return text;
     }
 
     const QJsonObject m_object;
+    bool m_hasFailed;
 };
 
 std::optional<Message> parseMessage(const QJsonValue& value) {
@@ -66,7 +68,7 @@ std::optional<Message> parseMessage(const QJsonValue& value) {
                              .minVersion = reader.optionalText("minVersion"_L1),
                              .maxVersion = reader.optionalText("maxVersion"_L1),
                              .showOncePerVersion = reader.optionalBoolean("showOncePerVersion"_L1)};
-    return reader.failed ? std::nullopt : std::optional(message);
+    return reader.hasFailed() ? std::nullopt : std::optional(message);
 }
 
 bool isHarmlessMail(const QUrl& url) {

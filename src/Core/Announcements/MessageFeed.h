@@ -10,13 +10,13 @@
 #include <array>
 #include <optional>
 
-/// One announcement of the maker's, as the feed holds it.
+/// One announcement of the feed.
 struct Message {
-    /// Which installations it is for. All four may stand in a feed that several builds read.
+    /// The installations that it is for. Several builds read one feed.
     enum class Target { all, linuxBuild, macBuild, windowsBuild };
     enum class Severity { info, warn, update, upgrade };
 
-    /// The one, beside `all`, that this build answers to.
+    /// The target of this build, beside `all`.
     static constexpr Target ownTarget = Target::linuxBuild;
 
     QString id;
@@ -28,33 +28,33 @@ struct Message {
     std::optional<QString> actionURL = std::nullopt;
     std::optional<QString> minVersion = std::nullopt;
     std::optional<QString> maxVersion = std::nullopt;
-    std::optional<bool> showOncePerVersion = std::nullopt; ///< true: a dismissal holds for one version
+    std::optional<bool> showOncePerVersion = std::nullopt; ///< true: a dismissal lasts for one version
 
     bool operator==(const Message&) const = default;
 
-    /// What `actionURL` leads to; empty unless it is an address that does no more than open a page or a
-    /// letter: "http" or "https" with a host and no user name, or "mailto" with at most a subject and a body,
-    /// because mail programs may attach files that other headers name. A feed can so never open a local file.
+    /// Returns `actionURL` when it only opens a page or a mail: "http" or "https" with a host and no user
+    /// name, or "mailto" with at most a subject and a body. Mail programs may attach local files that other
+    /// headers name.
     std::optional<QUrl> actionLink() const;
 };
 
 template <>
 inline constexpr std::array rawValueTable<Message::Target> = {
-    RawValueRow<Message::Target>{Message::Target::all, u"all"},
-    RawValueRow<Message::Target>{Message::Target::linuxBuild, u"linux"},
-    RawValueRow<Message::Target>{Message::Target::macBuild, u"macos"},
-    RawValueRow<Message::Target>{Message::Target::windowsBuild, u"windows"},
+    RawValueRow{Message::Target::all, u"all"},
+    RawValueRow{Message::Target::linuxBuild, u"linux"},
+    RawValueRow{Message::Target::macBuild, u"macos"},
+    RawValueRow{Message::Target::windowsBuild, u"windows"},
 };
 
 template <>
 inline constexpr std::array rawValueTable<Message::Severity> = {
-    RawValueRow<Message::Severity>{Message::Severity::info, u"info"},
-    RawValueRow<Message::Severity>{Message::Severity::warn, u"warn"},
-    RawValueRow<Message::Severity>{Message::Severity::update, u"update"},
-    RawValueRow<Message::Severity>{Message::Severity::upgrade, u"upgrade"},
+    RawValueRow{Message::Severity::info, u"info"},
+    RawValueRow{Message::Severity::warn, u"warn"},
+    RawValueRow{Message::Severity::update, u"update"},
+    RawValueRow{Message::Severity::upgrade, u"upgrade"},
 };
 
-/// Of several messages the one of the highest rank is shown.
+/// Returns the rank of a severity. The message of the highest rank is shown.
 int severityRank(Message::Severity severity);
 
 /// The document at the feed's address.
@@ -63,7 +63,7 @@ struct Feed {
 
     bool operator==(const Feed&) const = default;
 
-    /// Empty unless the whole document is readable: UTF-8, JSON, and every message complete with values of
-    /// the right types. One bad message rejects the feed; keys that are not listed are ignored.
+    /// Returns an empty optional unless the document is UTF-8, JSON, and every message complete with values
+    /// of the right types. Unknown keys are ignored.
     static std::optional<Feed> decode(const QByteArray& json);
 };

@@ -14,7 +14,7 @@
 
 class ActionLog;
 
-/// The cleanup targets as last measured, and the scans and cleans that run.
+/// The cleanup targets of the last scan, and the scans and cleans that run.
 class CacheCleanup : public Observable {
     Q_OBJECT
 
@@ -25,23 +25,23 @@ public:
     const QList<CacheTarget>& targets() const { return m_targets; }
     /// Empty while no scan runs.
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
-    /// Empty while nothing is being cleaned; cleans that run at the same time are counted together.
+    /// Empty while no clean runs. Cleans that run at the same time are counted together.
     const std::optional<CleanupProgress>& cleanProgress() const { return m_cleanProgress; }
     const CleanupReport& report() const { return m_report; }
     bool isScanning() const { return m_scanProgress.has_value(); }
     bool isCleaning() const { return m_cleanProgress.has_value(); }
 
-    /// Measures every target and publishes them largest first, when all are done. Of scans that overlap only
-    /// the one that began last publishes.
+    /// Measures every target, then publishes all, largest first. Of overlapping scans only the last to begin
+    /// publishes.
     QCoro::Task<> rescan();
     /// Cleans one target, logs it and measures again.
     QCoro::Task<> clean(CacheTarget target);
-    /// Every target whose size is known and above 0: what "Clean All" is about, to be shown before.
+    /// Returns the targets of "Clean All": those with a known size above 0.
     QList<CacheTarget> targetsToClean() const;
-    /// Cleans these targets, one after another, logs each and measures again. How many were cleaned without a
-    /// failure, and how many bytes those freed.
+    /// Cleans these targets one after another, logs each and measures again. Returns how many succeeded, and
+    /// how many bytes those freed.
     QCoro::Task<std::pair<int, quint64>> cleanAll(QList<CacheTarget> targets);
-    /// Ends every clean that runs, and begins none of those that wait. Each that was running has failed.
+    /// Cancels every clean that runs or waits. Those that were running have failed.
     void cancel();
 
 private:

@@ -23,16 +23,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype keptEntries = 100;
-// A stopped container daemon keeps its client waiting for ever.
-constexpr auto containerReportLimit = 2min;
-constexpr int filesPerBreath = 1000;
+constexpr qsizetype maxDetails = 100;
+// A stopped container daemon never answers its client.
+constexpr auto containerTimeout = 2min;
+constexpr int filesPerPause = 1000;
 
 const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
                              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
 
-// Of the volumes, those that no running container uses go. Since version 1.42 of its interface the engine
-// keeps those that were given a name.
+// Prune removes the volumes that no running container uses. Since version 1.42 of its interface the engine
+// keeps named volumes.
 const auto volumesThatGo =
     u"command -v docker >/dev/null 2>&1 && { unnamed=; "
     "case \"$(docker version --format '{{.Server.APIVersion}}')\" in "
@@ -41,7 +41,7 @@ const auto volumesThatGo =
     "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
     "done; } 2>/dev/null || true"_s;
 
-/// Puts the target's places that may be cleaned into words or into a list.
+/// Returns the target's places that may be cleaned, and notes why others may not.
 QStringList openPlaces(CacheTarget& target, const Places& places) {
     QStringList open;
     target.notes.clear();
@@ -56,7 +56,7 @@ QStringList openPlaces(CacheTarget& target, const Places& places) {
     return open;
 }
 
-/// Takes what was found out about a folder; where that is nothing, the target says why.
+/// Adds a folder to its target, with a note where it cannot be cleaned.
 void take(CacheTarget& target, const ListedFolder& folder, const QString& reason) {
     if (folder.listing.isEmpty() && !reason.isEmpty())
         target.notes.append(QCoreApplication::translate("CacheScanner", "%1 cannot be cleaned: %2.")
@@ -65,7 +65,7 @@ void take(CacheTarget& target, const ListedFolder& folder, const QString& reason
     target.sizeBytes += folder.sizeBytes;
 }
 
-bool holdsKeptFolder(const QString& folder) {
+bool containsKeptFolder(const QString& folder) {
     const QString kept = QFileInfo(CleanupPlan::keptFolder()).canonicalFilePath();
     return !kept.isEmpty() && kept.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
 }
@@ -101,7 +101,8 @@ QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
 }
 
 QCoro::Task<> CacheScanner::measure(CacheTarget target) {
-    const CacheTarget measured = co_await scanOne(target);
+    CacheTarget measured = co_await scanOne(target);
+    measured.lastScanned = m_clock->now();
     m_measured.append(measured);
     m_waiting.removeOne(measured.name);
     if (m_progress) {
@@ -122,11 +123,11 @@ QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
     return scanFolders(target);
 }
 
-/// The record that no clean removes is left out.
+/// Leaves out the action log, which no clean removes.
 QCoro::Task<quint64> CacheScanner::measureFolder(QString folder) {
     const quint64 all = co_await Cleaner::directoryBytes(folder, m_tools);
     quint64 kept = 0;
-    if (holdsKeptFolder(folder))
+    if (containsKeptFolder(folder))
         kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
     co_return all - std::min(all, kept);
 }
@@ -144,38 +145,34 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
         target.details.append({folder, bytes});
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
-    target.lastScanned = m_clock->now();
     co_return target;
 }
 
 QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
     const QStringList folders = openPlaces(target, *m_places);
-    if (folders.isEmpty() && target.notes.isEmpty()) {
-        target.lastScanned = m_clock->now();
+    if (folders.isEmpty() && target.notes.isEmpty())
         co_return target;
-    }
     target.listed.clear();
     target.details.clear();
     target.sizeBytes = 0;
     const Instant now = m_clock->now();
-    int sinceBreath = 0;
+    int sincePause = 0;
     for (const QString& folder : folders) {
         const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
         ListedFolder listed{folder, 0, listing.value};
         CleanupPlan::ListingReader reader(listed.listing);
         while (const auto entry = reader.next()) {
             listed.sizeBytes += entry->sizeBytes;
-            if (target.details.size() < keptEntries)
+            if (target.details.size() < maxDetails)
                 target.details.append({folder + u'/' + QFile::decodeName(entry->path), entry->sizeBytes});
-            if (++sinceBreath == filesPerBreath) { // the windows live on this thread too
-                sinceBreath = 0;
+            if (++sincePause == filesPerPause) { // lets the windows on this thread run
+                sincePause = 0;
                 co_await QCoro::sleepFor(0ms);
             }
         }
         take(target, listed, listing.reason);
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
-    target.lastScanned = m_clock->now();
     co_return target;
 }
 
@@ -194,12 +191,11 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
         const QByteArray volumes = co_await askContainers(volumesThatGo);
         target.volumes = parseVolumes(volumes);
     }
-    target.lastScanned = m_clock->now();
     co_return target;
 }
 
 QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
-    const ToolRequest request = CleanupPlan::shellRequest(command, containerReportLimit);
+    const ToolRequest request = CleanupPlan::shellRequest(command, containerTimeout);
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;
 }

@@ -17,31 +17,31 @@ class Places;
 class ToolRunner;
 struct Platform;
 
-/// Measures cleanup targets and lists what of them goes, with the tools of the system and one of ours; it
-/// walks no folder itself. One scanner serves one scan and must outlive it.
+/// Measures cleanup targets and lists what a clean removes, with tools of the system and one of ours. One
+/// scanner serves one scan and outlives it.
 class CacheScanner {
 public:
     using Progress = std::function<void(const CleanupProgress&)>;
 
-    /// `progress` is called whenever a target has been measured; its `target` is the first one still being
-    /// measured, empty at the end.
+    /// Calls `progress` after each measured target. Its `target` is the first that is not measured yet, empty
+    /// at the end.
     explicit CacheScanner(const Platform& platform, Progress progress = {});
 
-    /// The same targets with what a scan finds filled in, from `sizeBytes` on, largest first; of equal
-    /// size, the one that was finished first. All are measured at once, each one's own paths one after
-    /// another. A tool that fails counts as having found nothing.
+    /// Returns the targets with the fields of a scan filled in, largest first, equal sizes in the order of
+    /// completion. Targets are measured in parallel, the paths of one target in sequence. A failed tool has
+    /// found nothing.
     QCoro::Task<QList<CacheTarget>> scan(QList<CacheTarget> targets);
 
-    /// Bytes of a text such as "1.5GB" (steps of 1,000; TB, GB, MB, KB, B or none). 0 for a text that is no
-    /// number, and for a number that is no size: negative, not finite, 2^64 or more.
+    /// Returns the bytes of a text such as "1.5GB" (steps of 1,000; TB, GB, MB, KB, B or none). Returns 0 for
+    /// a text that is no number, and for a number that is negative, not finite, or 2^64 or more.
     static quint64 parseSize(const QString& text);
-    /// The kinds and sizes in a report of the container engine: lines of fields separated by TABs, the kind
-    /// first and the size second. A line with fewer fields is left out.
+    /// Returns the kinds and sizes in a report of the container engine: the first two of the fields of a
+    /// line, separated by TABs. A line with fewer fields is left out.
     static QList<CacheEntry> parseContainerReport(const QByteArray& report);
-    /// What such a report calls reclaimable in its third field, "800MB (66%)" for example, added up. Nothing
-    /// for a report without.
+    /// Returns the sum of the third fields of such a report, the reclaimable part: "800MB (66%)". Returns an
+    /// empty optional without any.
     static std::optional<quint64> parseReclaimable(const QByteArray& report);
-    /// The names in lines of "volume", TAB, NAME; whatever else the user's start files print is left out.
+    /// Returns the names in lines of "volume", TAB, NAME. Other output of the user's start files is left out.
     static QStringList parseVolumes(const QByteArray& report);
 
 private:

@@ -17,7 +17,7 @@ struct CacheEntry {
     bool operator==(const CacheEntry&) const = default;
 };
 
-/// How a target is measured, previewed and cleaned. One with a command of its own is cleaned by that alone.
+/// How a target is measured, previewed and cleaned. A target with a prune command is cleaned by that alone.
 struct CleanupRule {
     enum class Measure {
         folders,   ///< whole folders, which are emptied
@@ -28,8 +28,8 @@ struct CleanupRule {
     Measure measure = Measure::folders;
     int olderThanDays = 0;
     bool screenshotsOnly = false;
-    bool isShared = false;       ///< its folder is everybody's, and programs work in it
-    bool holdsUserFiles = false; ///< nothing that comes back by itself
+    bool isShared = false;     ///< its folder is everybody's, and programs work in it
+    bool hasUserFiles = false; ///< files that no program makes again
 
     bool operator==(const CleanupRule&) const = default;
 };
@@ -38,13 +38,13 @@ struct CleanupRule {
 struct ListedFolder {
     QString path;
     quint64 sizeBytes = 0;
-    QByteArray listing; ///< what of it goes, as the program `cleanup` lists it; empty when that failed
+    QByteArray listing; ///< what a clean removes, as the program `cleanup` lists it; empty after a failure
 
     bool operator==(const ListedFolder&) const = default;
 };
 
-/// A named set of directories that can be cleaned. From `sizeBytes` on, but for `rule`, the fields are what
-/// the last scan found.
+/// A named set of directories that can be cleaned. The fields from `sizeBytes` on, except `rule`, are results
+/// of the last scan.
 struct CacheTarget {
     QString name; ///< unique
     QString symbol;
@@ -54,13 +54,13 @@ struct CacheTarget {
     QList<CacheEntry> details = {};
     std::optional<Instant> lastScanned = std::nullopt;
     CleanupRule rule = {};
-    QList<ListedFolder> listed = {}; ///< what a clean will do, no less and no more
-    quint64 sharedBytes = 0;         ///< the part of `sizeBytes` that another target of the same list has too
-    QStringList volumes = {};        ///< of containers, that go with all that is in them
+    QList<ListedFolder> listed = {}; ///< exactly what a clean removes
+    quint64 sharedBytes = 0;         ///< the part of `sizeBytes` that is in another target of the list too
+    QStringList volumes = {};        ///< of containers, removed with their contents
     QStringList notes = {};          ///< sentences for the user, such as why a folder is left alone
 
     bool operator==(const CacheTarget&) const = default;
 
-    /// The fixed catalogue, nothing measured.
+    /// Returns the fixed catalogue, without results of a scan.
     static const QList<CacheTarget>& defaults();
 };

@@ -30,12 +30,12 @@ void reportFailure(const char* step, const QString& what, const ToolResult& resu
     qCDebug(Log::cleanup) << what << result.errorLine;
 }
 
-/// Printed once the command has succeeded: the user's own start files may end the shell before it begins.
+/// Printed after the command has succeeded. The user's start files may end the shell before it begins.
 const auto done = u"tavrin: done"_s;
 
 QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
     const QString reported = command + u" && echo '"_s + done + u'\'';
-    ToolRequest request = CleanupPlan::shellRequest(reported, CleanupPlan::longest);
+    ToolRequest request = CleanupPlan::shellRequest(reported, CleanupPlan::toolTimeout);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     const bool isDone = result.succeeded() && result.output.trimmed().endsWith(done.toUtf8());
@@ -74,7 +74,7 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
     const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
     const ToolResult result = co_await tools->run(request);
     Result<QByteArray> listing{Outcome::failure(result.errorLine)};
-    if (result.succeeded()) // a part of a listing is none
+    if (result.succeeded()) // a partial listing is useless
         listing = {Outcome::success(), result.output};
     else
         reportFailure("listing", folder, result);
@@ -127,7 +127,7 @@ QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolR
 }
 
 quint64 Cleaner::reportedBytes(const QByteArray& report) {
-    constexpr quint64 largest = std::numeric_limits<quint64>::max() / 1024;
+    constexpr quint64 maxKib = std::numeric_limits<quint64>::max() / 1024;
     const quint64 kib = report.simplified().split(' ').constFirst().toULongLong();
-    return kib <= largest ? kib * 1024 : 0;
+    return kib <= maxKib ? kib * 1024 : 0;
 }

@@ -16,21 +16,21 @@ namespace {
 struct Found {
     Place place;
     QString canonical; ///< empty when nothing exists there
-    bool isLink = false;
+    bool isSymlink = false;
 };
 
-/// A link holds nothing itself: what lies behind it is counted where it really is.
+/// Returns whether `inner` is counted with `outer`. What a symlink leads to is counted at its real place.
 bool covers(const Found& outer, const Found& inner, bool outerIsEarlier) {
     if (outer.canonical.isEmpty() || inner.canonical.isEmpty())
         return outer.place.path == inner.place.path && outerIsEarlier;
-    if (outer.isLink && !inner.isLink)
+    if (outer.isSymlink && !inner.isSymlink)
         return false;
     if (outer.canonical == inner.canonical)
-        return outerIsEarlier || (inner.isLink && !outer.isLink);
-    return !outer.isLink && inner.canonical.startsWith(outer.canonical + u'/');
+        return outerIsEarlier || (inner.isSymlink && !outer.isSymlink);
+    return !outer.isSymlink && inner.canonical.startsWith(outer.canonical + u'/');
 }
 
-/// Links above the folder are looked through once, here; no tool follows one that comes after.
+/// Resolves symlinks above the folder. The tools follow none below.
 QString rootOf(const QString& folder) {
     const QFileInfo info(folder);
     const QString canonical = info.canonicalFilePath();
@@ -52,7 +52,7 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
     request.arguments = arguments;
-    request.timeout = CleanupPlan::longest;
+    request.timeout = CleanupPlan::toolTimeout;
     return request;
 }
 
@@ -60,7 +60,7 @@ QByteArray rootOf(const ListedFolder& folder) {
     return QFile::encodeName(rootOf(folder.path));
 }
 
-/// The bytes of what a target of old files has listed that `isElsewhere` has too.
+/// Returns the listed bytes of a target of old files that another target has too.
 template <typename Test> quint64 listedBytes(const CacheTarget& target, const Test& isElsewhere) {
     quint64 bytes = 0;
     for (const ListedFolder& folder : target.listed) {
@@ -83,20 +83,19 @@ QByteArray deviceOf(const ListedFolder& folder) {
     return folder.listing.left(folder.listing.indexOf(':'));
 }
 
-/// Folders that are emptied as a whole.
+/// Returns the folders that are emptied as a whole.
 QList<Folder> wholeFolders(const QList<CacheTarget>& targets) {
     QList<Folder> folders;
     for (qsizetype i = 0; i < targets.size(); ++i) {
         if (targets[i].rule.measure != CleanupRule::Measure::folders)
             continue;
-        for (const ListedFolder& folder : targets[i].listed) {
+        for (const ListedFolder& folder : targets[i].listed)
             folders.append({i, rootOf(folder), deviceOf(folder), folder.sizeBytes});
-        }
     }
     return folders;
 }
 
-/// `du` counts a folder with the one that holds it only where both are on one file system.
+/// Returns whether `du` counts `inner` with `outer`, which needs one file system.
 bool contains(const Folder& outer, const Folder& inner) {
     if (outer.target == inner.target || outer.device != inner.device)
         return false;
@@ -130,7 +129,7 @@ ToolRequest CleanupPlan::measureRequest(const QString& folder) {
     asked.launchPath = u"/usr/bin/du"_s;
     asked.arguments = {u"-sk"_s, u"-x"_s, rootOf(folder)};
     asked.captureOutput = true;
-    asked.timeout = longest;
+    asked.timeout = toolTimeout;
     return asked;
 }
 
@@ -146,12 +145,12 @@ ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFold
     return asked;
 }
 
-ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milliseconds limit) {
+ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milliseconds timeout) {
     ToolRequest asked;
     asked.launchPath = u"/bin/sh"_s;
-    asked.arguments = QStringList{u"-lc"_s, command};
+    asked.arguments = {u"-lc"_s, command};
     asked.captureOutput = true;
-    asked.timeout = limit;
+    asked.timeout = timeout;
     return asked;
 }
 
@@ -184,25 +183,24 @@ std::optional<CleanupPlan::Entry> CleanupPlan::ListingReader::next() {
     return isNumber ? std::optional(Entry{bytes, record->sliced(second + 1).toByteArray()}) : std::nullopt;
 }
 
-CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype most) {
+CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype maxShown) {
     Names names;
     QList<Entry> largest;
     for (const ListedFolder& folder : target.listed) {
         ListingReader reader(folder.listing);
         while (const auto entry = reader.next()) {
-            if (entry->path.endsWith(
-                    ".trashinfo")) // where a file of the trash came from, no file of the user
+            if (entry->path.endsWith(".trashinfo")) // a record of the trash, no file of the user
                 continue;
             ++names.count;
             largest.append(*entry);
-            if (largest.size() > 2 * most) {
+            if (largest.size() > 2 * maxShown) {
                 std::ranges::stable_sort(largest, std::ranges::greater(), &Entry::sizeBytes);
-                largest.resize(most);
+                largest.resize(maxShown);
             }
         }
     }
     std::ranges::stable_sort(largest, std::ranges::greater(), &Entry::sizeBytes);
-    for (const Entry& entry : largest.first(std::min(most, largest.size())))
+    for (const Entry& entry : largest.first(std::min(maxShown, largest.size())))
         names.shown.append(
             {QFile::decodeName(entry.path.mid(entry.path.lastIndexOf('/') + 1)), entry.sizeBytes});
     return names;
@@ -210,7 +208,7 @@ CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype mos
 
 void CleanupPlan::markShared(QList<CacheTarget>& targets) {
     const QList<Folder> folders = wholeFolders(targets);
-    QSet<QByteArray> listed; // by targets before, of old files
+    QSet<QByteArray> listed; // old files of the targets so far
     for (qsizetype i = 0; i < targets.size(); ++i) {
         CacheTarget& target = targets[i];
         target.sharedBytes = 0;

@@ -9,41 +9,40 @@
 
 #include <optional>
 
-/// What the scanner, the screens and the cleaner must agree on, so that what was measured and shown is what
-/// gets deleted.
+/// What the scanner, the screens and the cleaner share, so that a clean deletes what was measured and shown.
 namespace CleanupPlan {
 
-/// What takes longer than this hangs.
-constexpr std::chrono::minutes longest{30};
+constexpr std::chrono::minutes toolTimeout{30};
 
-/// The target's paths as this system has them, in order and each place once: a path that leads to a place
-/// already listed, or into one, is left out. A place need not exist.
+/// Returns the target's places on this system in their order, existing or not. A path to or into a place of
+/// the list is left out.
 QList<Place> placesOf(const CacheTarget& target, const Places& places);
 
-/// Asks for the size of `folder` with everything below it on its file system.
+/// Asks for the size of `folder` with all below it on its file system.
 ToolRequest measureRequest(const QString& folder);
-/// Asks what of `folder` goes by the rule at that time.
+/// Asks what the rule removes from `folder` at the time `now`.
 ToolRequest listRequest(const CleanupRule& rule, const QString& folder, Instant now);
-/// Asks to remove what a listing holds, from the folder that was listed and no other.
+/// Asks to remove the entries of a listing from the folder that was listed.
 ToolRequest removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
-/// Asks the user's own shell, which finds the tools of vendors where the user put them.
-ToolRequest shellRequest(const QString& command, std::chrono::milliseconds limit);
+/// Asks a login shell, which finds the tools of vendors on the user's path.
+ToolRequest shellRequest(const QString& command, std::chrono::milliseconds timeout);
 
-/// The folder of the action log, which no clean removes.
+/// Returns the folder of the action log, which no clean removes.
 QString keptFolder();
 
-/// One entry of a listing; its path is relative to the folder and need not be text.
+/// One entry of a listing. Its path is relative to the folder, in any encoding.
 struct Entry {
-    quint64 sizeBytes = 0; ///< an old file's length; else what the entry takes with all below it
+    quint64 sizeBytes = 0; ///< the length of an old file, or the space of the entry with all below it
     QByteArray path;
 
     bool operator==(const Entry&) const = default;
 };
 
-/// Reads a listing from the front. Nothing at its end, and at the first record that is none.
+/// Reads a listing from the front.
 class ListingReader {
 public:
     explicit ListingReader(QByteArrayView listing);
+    /// Returns an empty optional at the end and at the first malformed record.
     std::optional<Entry> next();
 
 private:
@@ -52,19 +51,18 @@ private:
     QByteArrayView m_rest;
 };
 
-/// Names of what goes: the `most` largest with their sizes, and how many there are in all.
+/// What a clean removes: the names and sizes of the largest, and the count of all.
 struct Names {
     QList<CacheEntry> shown; ///< without the folders on the way to them
     qsizetype count = 0;
 };
-Names namesOf(const CacheTarget& target, qsizetype most);
+Names namesOf(const CacheTarget& target, qsizetype maxShown);
 
-/// Fills in `sharedBytes`. What lies in the folder of another target, or was listed by an earlier one, is
-/// shared.
+/// Fills in `sharedBytes`: the size of what is in another target's folder or in an earlier listing.
 void markShared(QList<CacheTarget>& targets);
 
-/// What cleaning all of them gives back, what several of them hold counted once. Goes by `sharedBytes`: where
-/// only some targets of a scan are meant, markShared belongs before it.
+/// Returns the size of all targets without their `sharedBytes`. For a part of the targets of a scan, call
+/// markShared first.
 quint64 totalBytes(const QList<CacheTarget>& targets);
 
 } // namespace CleanupPlan

@@ -12,15 +12,15 @@ struct CleanupProgress {
     bool operator==(const CleanupProgress&) const = default;
 };
 
-/// A target whose clean did not come to its end.
+/// A target whose clean failed.
 struct CleanupFailure {
-    QString target; ///< its name
-    QString reason; ///< empty when not known
+    QString target;
+    QString reason; ///< empty when unknown
 
     bool operator==(const CleanupFailure&) const = default;
 };
 
-/// What became of the cleans that began since nothing was being cleaned.
+/// The outcome of the cleans since none ran.
 struct CleanupReport {
     bool wasCancelled = false;
     QList<CleanupFailure> failures = {};

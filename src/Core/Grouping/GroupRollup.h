@@ -13,6 +13,19 @@ struct GroupRollup {
 
     bool operator==(const GroupRollup&) const = default;
 
-    /// Exactly one rollup per group, in group order, zeros included.
+    /// Returns one rollup per group, in group order.
     static QList<GroupRollup> build(const QList<ProcSample>& processes);
 };
+
+inline QList<GroupRollup> GroupRollup::build(const QList<ProcSample>& processes) {
+    QList<GroupRollup> rollups;
+    for (const ProcGroup group : allCases<ProcGroup>())
+        rollups.append({.group = group});
+    for (const ProcSample& process : processes) {
+        GroupRollup& rollup = rollups[static_cast<qsizetype>(process.group)];
+        rollup.rssBytes += process.rssBytes;
+        rollup.cpuPercent += process.cpuPercent;
+        ++rollup.count;
+    }
+    return rollups;
+}

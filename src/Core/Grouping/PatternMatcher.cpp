@@ -41,8 +41,8 @@ void PatternMatcher::insert(const Pattern& pattern) {
     m_facts[state] |= pattern.second;
 }
 
-/// Breadth first, so that the state a failure leads to is complete before it is copied from: afterwards
-/// every state has a successor for every letter and all facts of the patterns that end in it.
+/// Gives every state a successor for every letter and all facts of the patterns that end in it. Breadth
+/// first, so that the state of a failure is complete before it is copied.
 void PatternMatcher::linkFailures() {
     std::vector<quint16> failure(m_facts.size(), 0);
     std::queue<quint16> pending;

@@ -7,9 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// Finds which of many plain texts occur in a text, without regard to case, in one pass over it (the
-/// automaton of Aho and Corasick). Patterns are lower-case ASCII; each stands for a set of facts, one bit
-/// each, and a search gives the union of the facts of all patterns found.
+/// Finds which of many lower-case ASCII patterns occur in a text, in any case, in one pass (the automaton of
+/// Aho and Corasick). Each pattern stands for a set of facts, one bit each.
 class PatternMatcher {
 public:
     using Facts = quint16;
@@ -17,6 +16,7 @@ public:
 
     explicit PatternMatcher(const QList<Pattern>& patterns);
 
+    /// Returns the facts of all patterns found.
     Facts search(QStringView text) const;
 
 private:

@@ -12,14 +12,14 @@ namespace {
 
 using Patterns = std::initializer_list<const char*>;
 
-// A pattern is left out where another one of its list finds the same: "claude" finds "claude-code" too.
+// No pattern contains another of its list: "claude" finds "claude-code" too.
 
 constexpr Patterns agentPatterns = {
     "claude",       "codex",          "aider",      "openhands",  "continue",
     "ollama",       "lm studio",      "lmstudio",   "llama.cpp",  "vllm",
     "cursor-agent", "github copilot", "mcp-server", "mcp_server", "modelcontextprotocol"};
 
-/// Runtimes that may host an MCP server, and what tells one in their arguments.
+/// Runtimes that may run an MCP server, and the marks of one in their arguments.
 constexpr Patterns scriptRuntimes = {"node", "npx", "uv", "python"};
 constexpr Patterns mcpMarkers = {"modelcontextprotocol", "mcp-server", "mcp_server", "-mcp"};
 
@@ -73,7 +73,7 @@ const PatternMatcher& matcher() {
 
 using Facts = PatternMatcher::Facts;
 
-/// Which group a fact speaks for.
+/// The group that a set of facts indicates.
 struct Test {
     Facts facts;
     ProcGroup group;
@@ -82,7 +82,7 @@ constexpr std::array tests = {Test{agent, ProcGroup::agents}, Test{ide | ideFold
                               Test{terminal, ProcGroup::terminals}, Test{browser, ProcGroup::browsers},
                               Test{container, ProcGroup::containers}};
 
-/// Without what speaks for a group that `name` only sounds like.
+/// Removes the facts of a group that `name` only sounds like.
 Facts withoutFalseFriends(Facts found, QStringView name) {
     for (const Test& test : tests) {
         if (found & test.facts && KnownPrograms::onlySoundsLike(test.group, name))
@@ -95,8 +95,8 @@ Facts factsOfName(QStringView name) {
     return withoutFalseFriends(matcher().search(name), name);
 }
 
-/// A path is searched folder by folder: no pattern spans two of them, and each may be a false friend. The
-/// user's home folder and that of the architecture say nothing.
+/// Searches a path folder by folder, because each may be a false friend. The user's home folder and the one
+/// of the architecture are left out.
 Facts factsOfPath(const QString& path) {
     const QStringView rest = ProgramPath::withoutPrefix(path);
     QStringView ownFolder; // right in the home folder
@@ -116,7 +116,7 @@ Facts factsOfPath(const QString& path) {
     return found;
 }
 
-/// The arguments are searched word by word, because no pattern that is looked for in them holds a blank.
+/// Searches the arguments word by word. The patterns for them contain no space.
 Facts factsOfArguments(const QString& arguments) {
     Facts found = 0;
     for (const QStringView word : QStringView(arguments).tokenize(u' '))
@@ -129,7 +129,7 @@ bool isShell(const QString& name) {
                        [&name](QStringView shell) { return name.compare(shell, Qt::CaseInsensitive) == 0; });
 }
 
-/// Whether an argument tells of a server; the user's home folder in front of it does not.
+/// Returns whether an argument contains the mark of a server, outside the user's home folder.
 bool namesServer(const QString& arguments) {
     for (const QStringView word : QStringView(arguments).tokenize(u' ')) {
         if (matcher().search(ProgramPath::withoutPrefix(word)) & mcpMarker)
@@ -138,7 +138,6 @@ bool namesServer(const QString& arguments) {
     return false;
 }
 
-/// By the patterns.
 ProcGroup groupByRules(const ProcSample& process) {
     const Facts name = factsOfName(process.name);
     const Facts path = factsOfPath(process.executablePath);
@@ -155,7 +154,7 @@ ProcGroup groupByRules(const ProcSample& process) {
                                                                       : ProcGroup::other;
 }
 
-/// A script called so is told from others by its folder only.
+/// Returns whether only its folder tells a script of that name from others.
 bool isCommonScriptName(QStringView name) {
     constexpr std::array<QStringView, 11> names = {u"__main__", u"app",    u"cli",    u"dist",
                                                    u"index",    u"main",   u"manage", u"run",
@@ -163,7 +162,7 @@ bool isCommonScriptName(QStringView name) {
     return std::ranges::find(names, name) != names.end();
 }
 
-/// The name of the executable; its process's name where the file is called by a version alone.
+/// Returns the name of the executable, or of its process where the file name is only a version.
 QString executableKey(const ProcSample& process) {
     const QStringView file = ProgramPath::lastComponent(process.executablePath);
     const bool isNamed = std::ranges::any_of(file, [](QChar each) { return each.isLetter(); });

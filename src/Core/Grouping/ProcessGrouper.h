@@ -6,19 +6,19 @@
 
 #include <utility>
 
-/// Puts every process into one of the six groups: the user's own choice for its program, then fixed rules on
-/// its name, path and arguments, then what is known of single programs.
+/// Puts every process into one of the six groups: by the user's choice for its program, then by fixed rules
+/// on its name, path and arguments, then by the table of known programs.
 class ProcessGrouper {
 public:
     using Choices = QHash<QString, ProcGroup>; ///< by `programKey`
 
-    /// Goes by the name, path, arguments and program alone.
+    /// Returns the group for a name, path, arguments and program. The other fields are not read.
     ProcGroup groupOf(const ProcSample& process) const;
 
     void setChoices(Choices choices) { m_choices = std::move(choices); }
 
-    /// What makes two processes the same program to a user: the package or the script that is run, else the
-    /// name of the executable.
+    /// Returns what identifies a program to a user: the package or the script that is run, else the name of
+    /// the executable.
     static QString programKey(const ProcSample& process);
 
 private:

@@ -10,15 +10,14 @@ bool isOneOf(char byte, std::string_view bytes) {
     return bytes.find(byte) != bytes.npos;
 }
 
-/// "\n", or "\u" with four digits; one with anything else in their place ends there, for the parser to
-/// refuse.
+/// Returns whether the escape is over: "\n", "\u" with four digits, or with a digit that is wrong.
 bool isComplete(const std::string& escape) {
     if (escape.size() == 2)
         return escape[1] != 'u';
     return escape.size() == 6 || !std::isxdigit(static_cast<unsigned char>(escape.back()));
 }
 
-/// "\ud83d" with a fourth byte out of `bytes`, which tells the first half of a pair from the second.
+/// Returns whether the escape is half a surrogate pair: "\ud83d" with a fourth byte out of `bytes`.
 bool isHalf(const std::string& escape, std::string_view bytes) {
     return escape.size() == 6 && isOneOf(escape[2], "dD") && isOneOf(escape[3], bytes);
 }
@@ -40,7 +39,7 @@ JsonText::int_type JsonText::underflow() {
 
 JsonText::Run JsonText::runOf(char byte) {
     if (isOneOf(byte, " \t\r\n"))
-        return Run::blanks;
+        return Run::spaces;
     return byte >= '0' && byte <= '9' ? Run::digits : Run::none;
 }
 
@@ -54,7 +53,7 @@ void JsonText::take(char byte) {
     m_run = run;
     m_isInString = byte == '"';
     if (m_runBytes < maxTokenBytes)
-        m_passedOn += byte == '\0' ? '\1' : byte; // the parser would take NUL for the end
+        m_passedOn += byte == '\0' ? '\1' : byte; // NUL would end the parser
 }
 
 void JsonText::takeInString(char byte) {

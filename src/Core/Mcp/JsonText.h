@@ -5,15 +5,15 @@
 #include <streambuf>
 #include <string>
 
-/// A JSON document on its way to a parser that holds one token at a time. What a string, a run of blanks or a
-/// number has beyond 128 KiB, the most that an argument of a program may have (execve(2)), is left out, so
-/// that no document needs more memory than that. Half a surrogate pair, which other programs write where they
-/// cut a text, becomes U+FFFD. A broken document stays broken, but for what is left out of a string.
+/// A JSON document on its way to a parser that keeps one token at a time. A string, a run of spaces or a
+/// number is cut at 128 KiB, the maximum of a program's argument (execve(2)), which bounds the memory. Half a
+/// surrogate pair, which programs write where they cut a text, becomes U+FFFD. A broken document stays
+/// broken, except in a part of a string that is cut.
 class JsonText : public std::streambuf {
 public:
     static constexpr std::size_t maxTokenBytes = 128 << 10;
 
-    /// `source` has to outlive it.
+    /// `source` outlives it.
     explicit JsonText(std::streambuf& source)
         : m_source(source) {}
 
@@ -21,7 +21,7 @@ protected:
     int_type underflow() override;
 
 private:
-    enum class Run { none, blanks, digits };
+    enum class Run { none, spaces, digits };
 
     static Run runOf(char byte);
     void take(char byte);
@@ -34,9 +34,9 @@ private:
     std::array<char, 16 << 10> m_block;
     std::string m_passedOn;
     Run m_run = Run::none;
-    std::size_t m_runBytes = 0; ///< of the string, the blanks or the digits that the text is in
+    std::size_t m_runBytes = 0; ///< of the current string, spaces or digits
     bool m_isInString = false;
     bool m_isSkipping = false; ///< to the end of the string
-    std::string m_escape;      ///< as far as it has come
+    std::string m_escape;      ///< the part read so far
     std::string m_half;        ///< the first half of a surrogate pair whose second half may follow
 };

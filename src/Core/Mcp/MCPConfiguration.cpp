@@ -16,7 +16,7 @@ namespace {
 using MCPInspector::ConfiguredServer;
 using ServerDocument::Form;
 
-constexpr std::size_t beforeProjects = 3; ///< this many files come before the projects of the first
+constexpr std::size_t filesBeforeProjects = 3;
 
 QByteArray inHome(const QString& path) {
     return QFile::encodeName(QDir::homePath() + u'/' + path);
@@ -54,7 +54,7 @@ MCPConfiguration::MCPConfiguration()
 const QList<ConfiguredServer>& MCPConfiguration::readConfigured() {
     bool isChanged = false;
     for (ServerFile& file : m_files)
-        isChanged |= file.look(m_pool);
+        isChanged |= file.refresh(m_pool);
     if (isChanged)
         mergeFiles();
     return m_configured;
@@ -76,7 +76,7 @@ void MCPConfiguration::mergeFiles() {
         }
     };
     for (std::size_t i = 0; i < m_files.size(); ++i) {
-        if (i == beforeProjects)
+        if (i == filesBeforeProjects)
             add(m_files[0].servers().ofProjects);
         add(m_files[i].servers().own);
     }

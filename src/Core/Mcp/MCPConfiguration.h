@@ -2,23 +2,22 @@
 
 #include "Core/Mcp/ServerFile.h"
 
+#include <QList>
 #include <QThreadPool>
 
-#include <QList>
 #include <array>
 
-/// The MCP servers that the configuration files of agents and editors name, as seen from the home folder and
-/// the current folder.
+/// The MCP servers in the configuration files of agents and editors, in the home and working directories.
 class MCPConfiguration {
 public:
     MCPConfiguration();
 
-    /// To be called on every tick. Of servers with one name the first is kept; within a file they are in
-    /// order of name. The files, in this order: "~/.claude.json", "~/.claude/mcp.json", "./.mcp.json", the
-    /// projects of the first, and then those of Cursor, VS Code, Gemini and Codex.
+    /// Reads the changed files and returns the servers in the order of the files, by name within a file:
+    /// those of "~/.claude.json", "~/.claude/mcp.json", "./.mcp.json", the projects of the first, Cursor, VS
+    /// Code, Gemini and Codex. Of servers with one name the first counts. Called on every tick.
     const QList<MCPInspector::ConfiguredServer>& readConfigured();
 
-    /// A file has been found that nobody has read to its end yet.
+    /// Returns whether a file was found that is not read to its end yet.
     bool isUnknown() const;
 
 private:

@@ -20,27 +20,23 @@ using MCPInspector::LiveServer;
 
 enum Fact : PatternMatcher::Facts {
     serverName = 1 << 0,
-    mcpSuffix = 1 << 1, ///< "-mcp" occurs; what stands around it decides
+    mcpSuffix = 1 << 1, ///< "-mcp" occurs; the characters around it decide
 };
 
 constexpr QStringView suffix = u"-mcp";
 
-/// Every process is tested on every tick, so the texts are searched for all marks in one pass. No mark holds
-/// a blank, so none could span two of the three texts.
+constexpr auto serverNames = {"modelcontextprotocol", "mcp-server",     "mcp_server",    "stitch",
+                              "composio-social",      "hostinger-mcp",  "memory-server", "filesystem-server",
+                              "puppeteer-mcp",        "playwright-mcp", "supabase-mcp",  "context7"};
+
+/// Finds all marks in one pass, because every process is tested on every tick.
 const PatternMatcher& marks() {
-    static const PatternMatcher matcher({{"modelcontextprotocol", serverName},
-                                         {"mcp-server", serverName},
-                                         {"mcp_server", serverName},
-                                         {"stitch", serverName},
-                                         {"composio-social", serverName},
-                                         {"hostinger-mcp", serverName},
-                                         {"memory-server", serverName},
-                                         {"filesystem-server", serverName},
-                                         {"puppeteer-mcp", serverName},
-                                         {"playwright-mcp", serverName},
-                                         {"supabase-mcp", serverName},
-                                         {"context7", serverName},
-                                         {"-mcp", mcpSuffix}});
+    static const PatternMatcher matcher = [] {
+        QList<PatternMatcher::Pattern> patterns{{"-mcp", mcpSuffix}};
+        for (const char* name : serverNames)
+            patterns.append({name, serverName});
+        return PatternMatcher(patterns);
+    }();
     return matcher;
 }
 
@@ -49,7 +45,7 @@ bool isLetterOrDigit(QChar character) {
     return (lower >= u'a' && lower <= u'z') || (lower >= u'0' && lower <= u'9');
 }
 
-/// "foo-mcp" as a word of its own: "foo-mcp@1.2" and "foo-mcp/x", but neither "foo-mcpx" nor " -mcp".
+/// Returns whether "foo-mcp" occurs as a word, as in "foo-mcp@1.2", but not "foo-mcpx" or "-mcp" alone.
 bool hasSuffixWord(QStringView text) {
     qsizetype at = text.indexOf(suffix, 0, Qt::CaseInsensitive);
     for (; at >= 0; at = text.indexOf(suffix, at + 1, Qt::CaseInsensitive)) {
@@ -66,8 +62,8 @@ bool tellsServer(QStringView text) {
     return (found & serverName) || ((found & mcpSuffix) && hasSuffixWord(text));
 }
 
-/// Of a path, what tells of the program: not the user's home, and of a tool among a project's packages not
-/// the project.
+/// Returns the part of a path that tells of the program: without the user's home, and without the project of
+/// a package.
 QStringView tellingPart(QStringView path) {
     const qsizetype packages = path.lastIndexOf(u"/node_modules/");
     return packages < 0 ? ProgramPath::withoutPrefix(path) : path.sliced(packages);
@@ -82,12 +78,12 @@ bool tellsServer(const ProcSample& process) {
            !LaunchedProgram::isInterpreter(ProgramPath::lastComponent(process.executablePath));
 }
 
-/// An editor on a server and one in a bundle run their parts by a program of a common name.
+/// Returns whether the path is of an editor's own runtime, whose file name is a common one.
 bool isPartOfEditor(const QString& path) {
     return path.contains("/code-server/"_L1) || path.endsWith("/jbr/bin/java"_L1);
 }
 
-/// The parent by id. The processes of one list can only form a ring where it was read in several steps.
+/// The process tree by PID. It can contain a ring, because the list is not read at one moment.
 class Ancestry {
 public:
     explicit Ancestry(const QList<ProcSample>& processes) {
@@ -100,7 +96,7 @@ public:
 
     const ProcSample* parent(const ProcSample& process) const { return m_byPid.value(process.parentPid); }
     int children(const ProcSample& process) const { return m_children.value(process.pid); }
-    /// The nearest ancestor that `isWanted`; null when there is none.
+    /// Returns the nearest ancestor that `isWanted`, null when there is none.
     template <typename Wanted> const ProcSample* above(const ProcSample& process, Wanted isWanted) const {
         const ProcSample* ancestor = parent(process);
         for (int step = 0; ancestor && step < maxSteps; ++step, ancestor = parent(*ancestor)) {
@@ -124,7 +120,7 @@ bool isLauncher(const ProcSample& process) {
            !MCPInspector::isHost(process);
 }
 
-/// From the server's parent upwards, those that only wait for it.
+/// Returns the ancestors that only wait for the server, from its parent upwards.
 QList<const ProcSample*> launchersOf(const ProcSample& server, const Ancestry& ancestry) {
     QList<const ProcSample*> launchers;
     const ProcSample* ancestor = ancestry.parent(server);
@@ -193,8 +189,7 @@ bool comesFirst(const LiveServer& one, const LiveServer& other) {
 } // namespace
 
 int MCPInspector::Report::orphanCount() const {
-    return static_cast<int>(
-        std::count_if(live.begin(), live.end(), [](const LiveServer& server) { return server.isOrphan; }));
+    return static_cast<int>(std::ranges::count(live, true, &LiveServer::isOrphan));
 }
 
 quint64 MCPInspector::Report::orphanBytes() const {
@@ -240,6 +235,6 @@ QList<LiveServer> MCPInspector::detectLive(const QList<ProcSample>& processes, c
         if (!folded.contains(server))
             live.append(describe(*server, launchers.value(server), ancestry, keeperOf));
     }
-    std::stable_sort(live.begin(), live.end(), comesFirst);
+    std::ranges::stable_sort(live, comesFirst);
     return live;
 }

@@ -5,37 +5,38 @@
 
 #include <QList>
 #include <QStringList>
+
 #include <functional>
 #include <optional>
 
-/// Which MCP servers run right now, and which of them nobody uses any more.
+/// Finds the MCP servers that run, and those that nobody uses any more.
 namespace MCPInspector {
 
 /// A server that a configuration file names.
 struct ConfiguredServer {
     QString name;
-    QString command; ///< "?" where the entry has none
+    QString command; ///< "?" where the file has none
     QStringList args;
     QString scope; ///< where it was found, such as "user" or "project ~/src/app"
 
     bool operator==(const ConfiguredServer&) const = default;
 };
 
-/// A running server. Launchers that only wait for it belong to it.
+/// A running server, with the launchers that only wait for it.
 struct LiveServer {
     qint32 pid = 0;
     qint32 parentPid = 0;
     QString name;
     QString displayLabel;
-    quint64 rssBytes = 0; ///< its launchers' included
+    quint64 rssBytes = 0; ///< with its launchers
     double idleSeconds = 0;
-    QString parentName;    ///< its host, else what started it; "(init or gone)" where that is not in the list
-    bool isOrphan = false; ///< no agent or editor above it, and nothing else that keeps it
+    QString parentName;    ///< its host, else its parent; "(init or gone)" for an unlisted parent
+    bool isOrphan = false; ///< without a host and without a keeper
     Instant startTime;
     QList<ProcessIdentity> launchers;
     std::optional<ProcessIdentity> host; ///< the agent or editor that uses it
-    ProcessKeeper keeper;                ///< asked only where there is no host
-    QString reason;                      ///< why it is judged so, in words; see ServerWatch
+    ProcessKeeper keeper;                ///< set only without a host
+    QString reason;                      ///< why it is in use or an orphan, in words; see ServerWatch
 
     ProcessIdentity identity() const { return {pid, startTime}; }
     bool operator==(const LiveServer&) const = default;
@@ -44,23 +45,21 @@ struct LiveServer {
 struct Report {
     QList<ConfiguredServer> configured;
     QList<LiveServer> live;
-    bool isUnknown = false; ///< there may be more configured: a file has not been read to its end yet
+    bool isUnknown = false; ///< there may be more configured servers: a file is not read to its end yet
 
     int orphanCount() const;
     quint64 orphanBytes() const;
 };
 
-/// Whether it runs a server, by its name, its executable and what it was told to run; no other argument
-/// counts.
+/// Returns whether a process is a server, by its name, its executable and its program.
 bool isMCPServerProcess(const ProcSample& process);
-/// Whether it runs servers of its own: an agent, or an editor that runs agents. Such a process is never a
-/// server.
+/// Returns whether a process runs servers of its own: an agent, or an editor that runs agents.
 bool isHost(const ProcSample& process);
 
-/// Who keeps a process, asked only about servers without a host.
+/// Returns the keeper of a process; called only for servers without a host.
 using KeeperOf = std::function<ProcessKeeper(const ProcSample& process)>;
 
-/// Orphans first, then by resident memory, largest first.
+/// Returns the servers: orphans first, then by resident memory, largest first.
 QList<LiveServer> detectLive(const QList<ProcSample>& processes, const KeeperOf& keeperOf = {});
 
 } // namespace MCPInspector

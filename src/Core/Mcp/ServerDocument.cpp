@@ -18,11 +18,11 @@ using MCPInspector::ConfiguredServer;
 using nlohmann::json;
 
 constexpr std::size_t maxKeptBytes = 8 << 20;
-constexpr std::size_t bytesOfServer = 256; ///< beside its texts, about
+constexpr std::size_t bytesOfServer = 256; // about, without its texts
 
 using ServersByName = std::map<QString, ConfiguredServer>;
 
-/// Keeps the servers of what the parser meets, and nothing else. Every function says whether to go on.
+/// Keeps the servers of a document. Every function returns whether the parser goes on.
 class ServerReader : public json::json_sax_t {
 public:
     explicit ServerReader(const ServerDocument::Form& form)
@@ -45,7 +45,7 @@ public:
     ServerDocument::Servers servers(const QString& scope) const;
 
 private:
-    /// What the parser is in. The path to a server is short; whatever leads elsewhere is only counted.
+    /// The place of the parser. Levels that lead to no server are only counted.
     enum class Place { elsewhere, document, projects, project, servers, server, arguments };
 
     Place placeWithin(bool isObject) const;
@@ -60,12 +60,12 @@ private:
 
     ServerDocument::Form m_form;
     std::vector<Place> m_places;
-    std::size_t m_depthElsewhere = 0; ///< 0: in the last of the places
-    std::string m_key;                ///< the last of the document, a project or a server
+    std::size_t m_depthElsewhere = 0; ///< 0: in the last place
+    std::string m_key;                ///< the last key of the document, a project or a server
     bool m_isInProject = false;
     QString m_folder;
     ConfiguredServer* m_server = nullptr;
-    bool m_isMixed = false; ///< the arguments are not all text
+    bool m_isMixed = false; ///< the arguments are not all strings
     std::size_t m_keptBytes = 0;
     ServersByName m_own;
     std::map<QString, ServersByName> m_ofProjects;
@@ -101,7 +101,7 @@ bool ServerReader::open(bool isObject) {
     }
     const Place within = placeWithin(isObject);
     if (within == Place::elsewhere) {
-        takeScalar(); // among arguments it is as wrong as a number
+        takeScalar(); // as wrong among arguments as a number
         m_depthElsewhere = 1;
         return true;
     }

@@ -7,6 +7,7 @@
 #include <QScopeGuard>
 #include <QThreadPool>
 
+#include <array>
 #include <cerrno>
 #include <memory>
 
@@ -18,6 +19,33 @@
 namespace {
 
 constexpr qint64 maxBytesAtOnce = 64 << 10;
+
+/// The bytes of an open file, a block at a time. It ends early at an error, and once `isUnwanted` says so.
+class FileStream : public std::streambuf {
+public:
+    FileStream(int descriptor, std::function<bool()> isUnwanted)
+        : m_descriptor(descriptor)
+        , m_isUnwanted(std::move(isUnwanted)) {}
+
+protected:
+    int_type underflow() override {
+        if (m_isUnwanted && m_isUnwanted())
+            return traits_type::eof();
+        ssize_t count = 0;
+        do {
+            count = ::read(m_descriptor, m_block.data(), m_block.size());
+        } while (count < 0 && errno == EINTR);
+        if (count <= 0)
+            return traits_type::eof();
+        setg(m_block.data(), m_block.data(), m_block.data() + count);
+        return traits_type::to_int_type(*gptr());
+    }
+
+private:
+    int m_descriptor;
+    std::function<bool()> m_isUnwanted;
+    std::array<char, 16 << 10> m_block;
+};
 
 } // namespace
 
@@ -37,7 +65,7 @@ ServerFile::Version ServerFile::versionOf(const struct stat& status) {
             .modifiedNanoseconds = status.st_mtim.tv_nsec};
 }
 
-bool ServerFile::look(QThreadPool& pool) {
+bool ServerFile::refresh(QThreadPool& pool) {
     struct stat status {};
     if (stat(m_path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return forget();
@@ -54,7 +82,7 @@ bool ServerFile::look(QThreadPool& pool) {
 }
 
 bool ServerFile::takeOver(Reading reading) {
-    // A large file that is written all the time must not keep a processor busy all the time.
+    // A large file that changes all the time is read half of the time at most.
     m_rest.setRemainingTime(reading.duration);
     if (reading.isTorn)
         return false;
@@ -85,13 +113,13 @@ void ServerFile::startReading(QThreadPool& pool) {
         promise->addResult(readFile(path, read, [&promise] { return promise->isCanceled(); }));
         promise->finish();
 #ifdef __GLIBC__
-        malloc_trim(0); // else what a document with many servers needed stays with this thread
+        malloc_trim(0); // else this thread keeps the memory that a large document needed
 #endif
     });
 }
 
 ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& read,
-                                         const FileStream::IsUnwanted& isUnwanted) {
+                                         const std::function<bool()>& isUnwanted) {
     QElapsedTimer timer;
     timer.start();
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -101,7 +129,7 @@ ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& rea
         return {};
     }
     const auto closing = qScopeGuard([descriptor] { close(descriptor); });
-    // Asked of the open file, because the path may lead elsewhere by now.
+    // The status of the open file: the path may lead to another one by now.
     struct stat before {};
     struct stat after {};
     if (fstat(descriptor, &before) != 0 || !S_ISREG(before.st_mode))

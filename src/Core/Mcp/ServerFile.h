@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Core/Mcp/FileStream.h"
 #include "Core/Mcp/ServerDocument.h"
 
 #include <QByteArray>
@@ -12,30 +11,30 @@
 
 class QThreadPool;
 
-/// A configuration file that is looked at on every tick and read when it changed: up to 64 KiB at once, which
-/// takes about a millisecond, and what is larger on another thread.
+/// A configuration file that is checked on every tick and read when it has changed. Up to 64 KiB are read at
+/// once, in about a millisecond, a larger file on another thread.
 class ServerFile {
 public:
     using Servers = ServerDocument::Servers;
     using Read = std::function<Servers(std::streambuf& text)>;
 
-    /// `path` in the encoding of file names.
+    /// `path` is in the encoding of file names.
     ServerFile(QByteArray path, Read read);
-    /// Stops a reading that is under way within some milliseconds.
+    /// Cancels a running read, which ends within some milliseconds.
     ~ServerFile();
     ServerFile(const ServerFile&) = delete;
     ServerFile& operator=(const ServerFile&) = delete;
 
-    /// Takes over what was read and begins to read what is new; whether that changed the servers. While a
-    /// reading is under way, and after one that the file changed under, the last answer stands. A file that
-    /// is missing, no regular file or unreadable has no servers.
-    bool look(QThreadPool& pool);
+    /// Takes the result of a finished read, starts one of a changed file, and returns whether the servers
+    /// changed. They stay during a read, and after one during which the file changed. A file that is missing,
+    /// unreadable or not regular has no servers.
+    bool refresh(QThreadPool& pool);
     const Servers& servers() const { return m_servers; }
-    /// There is no answer yet: before the first look, or while a file is read for the first time.
+    /// Returns whether the file has not been read yet.
     bool isUnknown() const { return m_isUnknown; }
 
 private:
-    /// What tells one content of a file from another without reading it.
+    /// Tells one content of a file from another without reading it.
     struct Version {
         quint64 device = 0;
         quint64 inode = 0;
@@ -48,13 +47,13 @@ private:
     struct Reading {
         Version version;
         Servers servers;
-        bool isTorn = false; ///< the file changed meanwhile
+        bool isTorn = false; ///< the file changed during the read
         std::chrono::milliseconds duration{};
     };
 
     static Version versionOf(const struct stat& status);
     static Reading readFile(const QByteArray& path, const Read& read,
-                            const FileStream::IsUnwanted& isUnwanted = {});
+                            const std::function<bool()>& isUnwanted = {});
     bool takeOver(Reading reading);
     bool forget();
     void stopReading();
@@ -65,6 +64,6 @@ private:
     Version m_version;
     Servers m_servers;
     bool m_isUnknown = true;
-    QFuture<Reading> m_reading; ///< valid while one is under way or has not been taken over
-    QDeadlineTimer m_rest;
+    QFuture<Reading> m_reading; ///< valid while one runs or waits to be taken over
+    QDeadlineTimer m_rest;      ///< runs until the next read may start
 };

@@ -6,8 +6,8 @@
 #include <array>
 #include <istream>
 
-// An assertion of the parser's own would end the program for some broken documents, and a build without assertions
-// would compile as if they held. The parser reports such a document as an error all the same.
+// An assertion of the parser would end the program for some broken documents, and with NDEBUG the compiler
+// would assume that it is true. The parser reports such a document as an error all the same.
 #undef NDEBUG
 #define TOML_ASSERT(expr) static_assert(true)
 #define TOML_EXCEPTIONS 0
@@ -25,8 +25,8 @@ constexpr std::size_t maxBytes = 8 << 20;
 constexpr std::size_t maxServers = 10'000;
 constexpr int maxDotsInLine = 256;
 
-/// Ends where a document goes past what the parser is to be given. The parser keeps the whole text and builds
-/// a table for each dot of a key, which are taken down by recursion.
+/// Ends where a document exceeds the limits. The parser keeps the whole text, builds a table for each dot of
+/// a key, and destroys these by recursion.
 class TomlText : public std::streambuf {
 public:
     explicit TomlText(std::streambuf& source)
@@ -41,14 +41,14 @@ protected:
             return traits_type::eof();
         m_bytes += static_cast<std::size_t>(count);
         m_isRefused = m_bytes > maxBytes || !std::all_of(m_block.begin(), m_block.begin() + count,
-                                                          [this](char byte) { return isTakenIn(byte); });
+                                                         [this](char byte) { return isTakenIn(byte); });
         if (m_isRefused)
             return traits_type::eof();
         setg(m_block.data(), m_block.data(), m_block.data() + count);
         return traits_type::to_int_type(*gptr());
     }
 
-    /// The parser looks for a byte order mark first, and where there is none it goes back to the start.
+    /// Goes back to the start, as the parser does after it found no byte order mark.
     pos_type seekoff(off_type offset, std::ios_base::seekdir from, std::ios_base::openmode) override {
         const bool isStart = offset == 0 && (from == std::ios_base::beg || m_bytes == 0);
         if (!isStart || m_bytes > m_block.size())

@@ -7,9 +7,8 @@
 /// The MCP servers that a TOML document configures.
 namespace ServerToml {
 
-/// The tables [mcp_servers.NAME], in order of name. A document that is broken has none, and so has one of
-/// more than 8 MiB, with more than 10,000 servers or with more nesting than anybody writes: 256 dots in a
-/// line, 16 values within each other.
+/// Returns the tables [mcp_servers.NAME] by name. Returns none for a broken document, more than 8 MiB, more
+/// than 10,000 servers, more than 256 dots in a line or 16 nested values.
 QList<MCPInspector::ConfiguredServer> read(std::streambuf& text, const QString& scope);
 
 } // namespace ServerToml

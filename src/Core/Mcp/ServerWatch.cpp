@@ -15,7 +15,7 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-constexpr double minIdleSeconds = 60; ///< below it a server has only just answered
+constexpr double minIdleSeconds = 60; // below it a server has just answered
 
 /// The reason why a server is an orphan, with how long it has been idle.
 QString withIdleTime(const QString& reason, double seconds) {
@@ -32,13 +32,13 @@ QString timeText(Instant instant) {
     return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(u"HH:mm"_s);
 }
 
-/// The agent or editor itself where an interpreter runs it.
+/// Returns the name of the agent or editor itself where an interpreter runs it.
 QString hostName(const ProcSample& host) {
     const auto* known = KnownPrograms::of(host);
     return known && LaunchedProgram::isInterpreter(host.name) ? known->name.toString() : host.name;
 }
 
-QString nameAndId(const QString& name, qint32 pid) {
+QString nameAndPid(const QString& name, qint32 pid) {
     return u"%1 (%2)"_s.arg(Formatters::visible(name)).arg(pid);
 }
 
@@ -71,7 +71,7 @@ QList<LiveServer> ServerWatch::lookAt(const QList<ProcSample>& processes) const 
         processes, [this](const ProcSample& process) { return m_table->keeper(process.pid); });
 }
 
-/// Begins anew where the id has passed on.
+/// Returns the past of a server, a new one where the PID was reused.
 ServerWatch::Past& ServerWatch::pastOf(const ProcessIdentity& server) {
     Past& past = m_past[server.pid];
     if (past.startTime != server.startTime)
@@ -79,7 +79,7 @@ ServerWatch::Past& ServerWatch::pastOf(const ProcessIdentity& server) {
     return past;
 }
 
-/// Asked once in a server's life.
+/// Asks the system once for each server.
 ProcessKeeper ServerWatch::keeperOf(const ProcSample& process) {
     Past& past = pastOf(process.identity());
     if (!past.keeper)
@@ -105,7 +105,7 @@ void ServerWatch::remember(const LiveServer& server, const QHash<qint32, const P
 }
 
 QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const {
-    const QString host = nameAndId(past.hostName, past.host.pid);
+    const QString host = nameAndPid(past.hostName, past.host.pid);
     if (server.host)
         return past.hostFolder.isEmpty()
                    ? QCoreApplication::translate("ServerWatch", "in use by %1").arg(host)

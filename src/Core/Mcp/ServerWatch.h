@@ -9,27 +9,27 @@
 class Clock;
 class ProcessTable;
 
-/// Follows the running MCP servers from pass to pass: it remembers which host each of them had, and says in
-/// words why a server is in use or an orphan.
+/// Follows the running MCP servers from pass to pass: it remembers the host of each, and says in words why a
+/// server is in use or an orphan.
 class ServerWatch {
 public:
     ServerWatch(std::shared_ptr<ProcessTable> table, std::shared_ptr<Clock> clock);
 
-    /// The servers among the processes of one pass, see MCPInspector.
+    /// Returns the servers among the processes of one pass, see MCPInspector.
     QList<MCPInspector::LiveServer> detectLive(const QList<ProcSample>& processes);
-    /// The same without a trace in what is remembered, for a look between two passes.
+    /// Returns the servers between two passes, and remembers nothing.
     QList<MCPInspector::LiveServer> lookAt(const QList<ProcSample>& processes) const;
 
 private:
-    /// What is known of one server, and of the host that it had last.
+    /// A server and its last host.
     struct Past {
         Instant startTime;
         std::optional<ProcessKeeper> keeper; ///< empty until it is asked
-        ProcessIdentity host;                ///< id 0 while it has had none
+        ProcessIdentity host;                ///< PID 0 before it had one
         QString hostName;
         QString hostFolder;
         std::optional<Instant> hostEnded;
-        bool wasSeen = false; ///< in the pass that goes on
+        bool wasSeen = false; ///< in the current pass
     };
 
     Past& pastOf(const ProcessIdentity& server);
@@ -39,5 +39,5 @@ private:
 
     std::shared_ptr<ProcessTable> m_table;
     std::shared_ptr<Clock> m_clock;
-    QHash<qint32, Past> m_past; ///< by the server's id
+    QHash<qint32, Past> m_past; ///< by the server's PID
 };

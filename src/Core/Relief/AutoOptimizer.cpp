@@ -14,13 +14,9 @@ AutoOptimizer::AutoOptimizer(SafeRelief& relief, ActionLog& log, QObject* parent
 }
 
 void AutoOptimizer::setEnabled(bool enabled) {
-    if (enabled)
-        start();
-    else
-        m_timer.stop();
-}
-
-void AutoOptimizer::start() {
+    m_timer.stop();
+    if (!enabled)
+        return;
     constexpr double millisecondsPerMinute = 60'000;
     m_timer.start(static_cast<int>(intervalMinutes * millisecondsPerMinute));
     tick();

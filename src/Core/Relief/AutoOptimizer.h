@@ -8,31 +8,30 @@
 
 class ActionLog;
 
-/// The relief actions that may be repeated without asking; each is on record when it is done.
+/// The relief actions that may be repeated without asking. Each leaves a line in the log.
 class SafeRelief {
 public:
     virtual ~SafeRelief() = default;
 
-    /// How many orphan MCP servers were signalled.
+    /// Signals the orphan MCP servers, and returns how many.
     virtual int killOrphanMCPs(bool force) = 0;
     /// Asks the system to reclaim memory.
     virtual QCoro::Task<Outcome> nudgeMemory() = 0;
 };
 
-/// Repeats the safe relief actions while it is enabled: once at once, then every 30 minutes.
+/// Repeats the safe relief actions every 30 minutes while it is enabled.
 class AutoOptimizer : public QObject {
     Q_OBJECT
 
 public:
-    /// Both outlive the optimizer.
+    /// `relief` and `log` outlive the optimizer.
     AutoOptimizer(SafeRelief& relief, ActionLog& log, QObject* parent = nullptr);
 
     bool enabled() const { return m_timer.isActive(); }
-    /// Enabling again starts the period anew and runs one more pass.
+    /// Runs a pass and restarts the period each time it is enabled.
     void setEnabled(bool enabled);
 
 private:
-    void start();
     QCoro::Task<> tick();
 
     static constexpr double intervalMinutes = 30;

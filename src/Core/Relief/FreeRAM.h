@@ -15,29 +15,29 @@ struct FreeRamPreview {
     bool operator==(const FreeRamPreview&) const = default;
 };
 
-/// What became of one process of a run: it took the signal or is gone; it had to be killed; no signal could
-/// be delivered; the system refused for lack of permission.
+/// The outcome for one process: it ended on request; it was killed; no signal could be delivered; the system
+/// denied permission.
 enum class KillOutcome { quit, forced, ignored, denied };
 
 template <>
 inline constexpr std::array rawValueTable<KillOutcome> = {
-    RawValueRow<KillOutcome>{KillOutcome::quit, u"quit"},
-    RawValueRow<KillOutcome>{KillOutcome::forced, u"forced"},
-    RawValueRow<KillOutcome>{KillOutcome::ignored, u"ignored"},
-    RawValueRow<KillOutcome>{KillOutcome::denied, u"denied"},
+    RawValueRow{KillOutcome::quit, u"quit"},
+    RawValueRow{KillOutcome::forced, u"forced"},
+    RawValueRow{KillOutcome::ignored, u"ignored"},
+    RawValueRow{KillOutcome::denied, u"denied"},
 };
 
 struct FreeRAMResult {
     struct Record {
         qint32 pid = 0;
-        QString name;       ///< "pid N" for a process that the model did not list
-        quint64 before = 0; ///< its resident bytes when the run started, 0 when not listed
+        QString name;       ///< "pid N" for a process that was not listed
+        quint64 before = 0; ///< resident bytes at the start, 0 when not listed
         KillOutcome outcome = KillOutcome::quit;
 
         bool operator==(const Record&) const = default;
     };
 
-    QList<Record> perPid; ///< in the order asked for
+    QList<Record> perPid; ///< in the order of the request
     bool memoryPressureSignaled = false;
-    quint64 freedBytes = 0; ///< by which the system's used memory went down
+    quint64 freedBytes = 0; ///< the decrease of the system's used memory
 };

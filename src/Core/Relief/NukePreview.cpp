@@ -4,8 +4,8 @@
 
 #include <QCoreApplication>
 #include <QHash>
-
 #include <QStringList>
+
 #include <algorithm>
 #include <numeric>
 
@@ -13,17 +13,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype listedPids = 20;
-constexpr qsizetype listedNames = 10;
+constexpr qsizetype maxListedPids = 20;
+constexpr qsizetype maxListedNames = 10;
 
 QString pidList(const QList<qint32>& pids) {
     QStringList texts;
-    for (const qint32 pid : pids.first(std::min(listedPids, pids.size())))
+    for (const qint32 pid : pids.first(std::min(maxListedPids, pids.size())))
         texts.append(QString::number(pid));
-    return texts.join(u", "_s) + (pids.size() > listedPids ? u"…"_s : QString());
+    return texts.join(u", "_s) + (pids.size() > maxListedPids ? u"…"_s : QString());
 }
 
-/// "bash ×2, node", in the order of the list.
+/// Returns "bash ×2, node" in the order of the list.
 QString nameList(const QList<ProcSample>& processes) {
     QStringList names;
     QHash<QString, int> counts;
@@ -31,8 +31,8 @@ QString nameList(const QList<ProcSample>& processes) {
         if (counts[process.name]++ == 0)
             names.append(process.name);
     }
-    const bool isCut = names.size() > listedNames;
-    names = names.first(std::min(listedNames, names.size()));
+    const bool isCut = names.size() > maxListedNames;
+    names = names.first(std::min(maxListedNames, names.size()));
     for (QString& name : names) {
         if (const int count = counts.value(name); count > 1)
             name += u" ×%1"_s.arg(count);

@@ -7,11 +7,11 @@
 
 #include <optional>
 
-/// A named rule: which of the user's processes one press of its button signals.
+/// A named rule for the user's processes that one press of its button signals.
 struct QuickKillPreset {
     QUuid id;
     QString name;
-    QString pattern;           ///< looked for in name, path and arguments; an empty one matches nothing
+    QString pattern;           ///< searched in name, path and arguments; an empty one matches nothing
     double minIdleMinutes = 0; ///< 0: no condition
     double minRSSMB = 0;       ///< MiB; 0: no condition
     bool force = false;        ///< SIGKILL instead of SIGTERM
@@ -19,19 +19,19 @@ struct QuickKillPreset {
 
     bool operator==(const QuickKillPreset&) const = default;
 
-    /// The built-in list; its ids are new in every run of the program.
+    /// Returns the built-in list, with new ids in every run of the program.
     static const QList<QuickKillPreset>& defaults();
-    /// What the editor starts from: a new id and nothing else set.
+    /// Returns an empty preset with a new id, for the editor.
     static QuickKillPreset blank();
 
-    /// The stored document, a JSON array of objects. Empty bytes when a threshold is no finite number, which
-    /// JSON cannot hold.
+    /// Returns the stored document, a JSON array of objects. Returns nothing when a threshold is not finite,
+    /// because JSON has no such number.
     static QByteArray encode(const QList<QuickKillPreset>& presets);
-    /// Empty unless the whole document is readable: every object with all seven keys of the right types.
+    /// Returns an empty optional unless every object has all seven keys with the right types.
     static std::optional<QList<QuickKillPreset>> decode(const QByteArray& json);
 
-    /// "pattern: claude • idle≥15m • RAM≥500MB"
+    /// Returns "pattern: claude • idle≥15m • RAM≥500MB".
     QString summaryLine() const;
-    /// "NAME: killed 2/3", or "NAME: nothing matched".
+    /// Returns "NAME: killed 2/3" or "NAME: nothing matched".
     QString outcomeMessage(int matched, int killed) const;
 };

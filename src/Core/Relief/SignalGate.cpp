@@ -12,7 +12,7 @@ SignalGate::SignalGate(std::shared_ptr<Signals> sender, const Sampler& sampler)
 std::shared_ptr<ProcessHandle> SignalGate::hold(qint32 pid) const {
     constexpr qint32 nobody = 0;
     const auto handle = m_sender->hold(pid);
-    // Asked only now: the handle stays with whoever had the id when it was taken.
+    // Checked after the handle exists, because a handle stays with its process.
     return m_sampler.isReplaced(pid) ? m_sender->hold(nobody) : handle;
 }
 

@@ -8,16 +8,16 @@ class ProcessHandle;
 class Sampler;
 class Signals;
 
-/// Every signal goes through here: to a process that the last tick listed, and to no other that has its id
-/// by now.
+/// Sends every signal of the program: to a process that the last tick listed, never to one that reuses its
+/// PID.
 class SignalGate {
 public:
-    /// `sampler`, which did the listing, outlives the gate.
+    /// `sampler`, which lists the processes, outlives the gate.
     SignalGate(std::shared_ptr<Signals> sender, const Sampler& sampler);
 
-    /// Never null; a handle to nobody where the id has passed on.
+    /// Returns a handle, never null. It reaches no process where the PID was reused.
     std::shared_ptr<ProcessHandle> hold(qint32 pid) const;
-    /// Asks each to end, or ends it by force. How many of the signals were delivered.
+    /// Asks or forces each process to end, and returns how many signals were delivered.
     int signalAll(const QList<qint32>& pids, bool force) const;
 
 private:

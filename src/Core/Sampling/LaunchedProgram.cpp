@@ -14,10 +14,10 @@ namespace {
 using LaunchedProgram::Reading;
 using Words = std::span<const QString>;
 
-/// How the words behind a program's name are read.
+/// How the words after a program's name are read.
 enum class Reader {
-    script,   ///< options, then a script; "-m" names a module, "-c" and "-e" bring the code along
-    shell,    ///< options, then a script; "-c" brings a command
+    script,   ///< options, then a script; "-m" names a module, "-c" and "-e" contain the code
+    shell,    ///< options, then a script; "-c" contains a command
     java,     ///< options, then a class; "-jar" names an archive
     package,  ///< options, then a package
     container ///< "run", options, then an image
@@ -26,8 +26,8 @@ enum class Reader {
 struct Program {
     QStringView name;
     Reader reader;
-    QStringView optionsWithValue; ///< each between blanks
-    QStringView verbs;            ///< one of them has to come first; none where it is empty
+    QStringView optionsWithValue; ///< each between spaces
+    QStringView verbs;            ///< one of them has to come first, unless it is empty
 };
 
 constexpr QStringView nodeOptions =
@@ -72,11 +72,11 @@ constexpr std::array programs = {
     Program{u"nerdctl", Reader::container, containerOptions, u" run "},
 };
 
-bool holdsWord(QStringView list, QStringView word) {
+bool containsWord(QStringView list, QStringView word) {
     return !word.isEmpty() && list.contains(QString(u' ' + word.toString() + u' '));
 }
 
-/// "python3.11" without its version.
+/// Returns "python" for "python3.11".
 QStringView withoutVersion(QStringView name) {
     qsizetype end = name.size();
     while (end > 0 && (name[end - 1].isDigit() || name[end - 1] == u'.'))
@@ -94,12 +94,17 @@ constexpr int maxNesting = 4;
 
 Reading readCommand(const QString& executable, Words arguments, int depth);
 
-/// Steps over options; the first word that is none, or nothing.
+/// Returns the words after the option in front and its value.
+Words afterOption(Words words, QStringView optionsWithValue) {
+    const bool takesValue = containsWord(optionsWithValue, words.front());
+    return words.subspan(std::min<size_t>(takesValue ? 2 : 1, words.size()));
+}
+
+/// Returns the words after all options.
 Words afterOptions(Words words, QStringView optionsWithValue) {
     while (!words.empty() && words.front().startsWith(u'-') && words.front().size() > 1) {
         const bool isEnd = words.front() == "--"_L1;
-        const bool takesValue = holdsWord(optionsWithValue, words.front());
-        words = words.subspan(std::min<size_t>(takesValue ? 2 : 1, words.size()));
+        words = afterOption(words, optionsWithValue);
         if (isEnd)
             break;
     }
@@ -114,8 +119,7 @@ Reading readScript(const Program& program, Words words, int depth) {
         if (option == "-c"_L1 || option == "-e"_L1 || option == "-p"_L1 || option == "--eval"_L1 ||
             option == "--print"_L1 || option == "-"_L1)
             return {};
-        words = words.subspan(
-            std::min<size_t>(holdsWord(program.optionsWithValue, option) ? 2 : 1, words.size()));
+        words = afterOption(words, program.optionsWithValue);
     }
     if (words.empty())
         return {};
@@ -131,7 +135,7 @@ Reading readScript(const Program& program, Words words, int depth) {
     return {.program = words.front(), .isScript = true};
 }
 
-/// The command of `sh -c COMMAND`, without assignments in front and without quotes around its words.
+/// Returns the words of a shell command, without assignments in front and without quotes.
 QStringList commandWords(const QString& command) {
     QStringList words = command.simplified().split(u' ', Qt::SkipEmptyParts);
     while (!words.isEmpty() && (words.first() == "exec"_L1 || words.first() == "env"_L1 ||
@@ -158,8 +162,7 @@ Reading readShell(const Program& program, Words words, int depth) {
             reading.isLauncher = true;
             return reading;
         }
-        words = words.subspan(
-            std::min<size_t>(holdsWord(program.optionsWithValue, option) ? 2 : 1, words.size()));
+        words = afterOption(words, program.optionsWithValue);
     }
     return words.empty() ? Reading() : Reading{.program = words.front(), .isScript = true};
 }
@@ -170,16 +173,16 @@ Reading readJava(const Program& program, Words words) {
             return i + 1 < words.size() ? Reading{.program = words[i + 1]} : Reading();
         if (!words[i].startsWith(u'-'))
             return {.program = words[i]};
-        i += holdsWord(program.optionsWithValue, words[i]) ? 1 : 0;
+        i += containsWord(program.optionsWithValue, words[i]) ? 1 : 0;
     }
     return {};
 }
 
-/// The options in front of an image either hold their value or are listed with it; all others are switches.
+/// Reads the options of a package or image, which are switches unless the table lists them with a value.
 Reading readPackage(const Program& program, Words words) {
     if (!program.verbs.isEmpty()) {
         words = afterOptions(words, program.optionsWithValue);
-        if (words.empty() || !holdsWord(program.verbs, words.front()))
+        if (words.empty() || !containsWord(program.verbs, words.front()))
             return {};
         words = words.subspan(1);
     }
@@ -187,7 +190,7 @@ Reading readPackage(const Program& program, Words words) {
     return words.empty() ? Reading() : Reading{.program = words.front(), .isLauncher = true};
 }
 
-/// `uv run COMMAND`, `uv tool run PACKAGE` and `uv tool uvx PACKAGE`.
+/// Reads `uv run COMMAND`, `uv tool run PACKAGE` and `uv tool uvx PACKAGE`.
 Reading readUv(Words words, int depth) {
     constexpr QStringView options =
         u" --with --directory --project -p --python --from --index-url --env-file "
@@ -210,7 +213,7 @@ Reading readUv(Words words, int depth) {
     return reading;
 }
 
-/// `arguments` begins with the program's own name.
+/// Reads a command line. `arguments` begins with the program's own name.
 Reading readCommand(const QString& executable, Words arguments, int depth) {
     const QStringView file = ProgramPath::lastComponent(executable);
     const Words words = arguments.empty() ? arguments : arguments.subspan(1);
@@ -248,7 +251,7 @@ bool LaunchedProgram::isInterpreter(QStringView fileName) {
                        program->reader == Reader::java);
 }
 
-/// A title that a program put in the place of its arguments is one text with blanks: "npm exec PACKAGE".
+/// Reads also a title in the place of the arguments, one text with spaces: "npm exec PACKAGE".
 Reading LaunchedProgram::read(const QString& executable, const QStringList& arguments) {
     if (arguments.size() == 1 && arguments.first().contains(u' ')) {
         const QStringList title = arguments.first().split(u' ', Qt::SkipEmptyParts);
@@ -256,7 +259,7 @@ Reading LaunchedProgram::read(const QString& executable, const QStringList& argu
         if (isOfProgram) {
             Reading reading = readCommand(title.first(), Words(title.constData(), title.size()), 0);
             if (reading.program == title.first())
-                reading.program = executable; // the title says nothing of it
+                reading.program = executable; // the title does not name it
             return reading;
         }
     }

@@ -3,21 +3,21 @@
 #include <QString>
 #include <QStringList>
 
-/// What a process really runs, where its executable only reads a script or starts something else.
+/// Finds what a process runs where its executable is an interpreter or a launcher.
 namespace LaunchedProgram {
 
-/// Whether a program of this file name runs scripts ("node", "python3.11", "bash"), in any version of it.
+/// Returns whether a program of this file name, in any version, runs scripts ("node", "python3.11", "bash").
 bool isInterpreter(QStringView fileName);
 
-/// What a command line says.
+/// The meaning of a command line.
 struct Reading {
-    QString program; ///< the script, module, package, image or command; the executable where there is none
-    bool isScript = false;   ///< `program` is the path of a script, as it was given
-    bool isLauncher = false; ///< the program becomes a process of its own, for which this one waits
+    QString program;         ///< the script, module, package, image or command, else the executable
+    bool isScript = false;   ///< `program` is the path of a script as given
+    bool isLauncher = false; ///< this process waits for the program, which has its own
 };
 
-/// `arguments` begins with the program's own name; a title that replaced them is understood as well.
-/// An `executable` that cannot be read is empty; the name among the arguments stands for it.
+/// Reads a command line, or a title in its place. `arguments` begins with the program's own name, which
+/// replaces an empty `executable`.
 Reading read(const QString& executable, const QStringList& arguments);
 
 } // namespace LaunchedProgram

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// One process for good: its id may pass on to another, its start does not.
+/// Identifies one process for good: another process may reuse its PID, but not with its start.
 struct ProcessIdentity {
     qint32 pid = 0;
     Instant startTime;
@@ -28,8 +28,7 @@ struct ProcSample {
     Instant startTime;
     double idleSeconds = 0; ///< since it last used more than 0.5 % CPU
     ProcGroup group = ProcGroup::other;
-    QString program; ///< what is run: the executable, or what an interpreter or launcher was told to run
-                     ///< (a script's path, a module, a package, an image)
+    QString program; ///< the executable, or the script, module, package or image that it was told to run
 
     ProcessIdentity identity() const { return {pid, startTime}; }
     bool operator==(const ProcSample&) const = default;

@@ -2,20 +2,12 @@
 
 #include "Platform/Identity.h"
 
-#include <limits>
-
 namespace {
 
 constexpr int bitsOfMiB = 20;
-constexpr double firstBeyondBytes = 17592186044416.0; // 2^44 MiB are 2^64 bytes
+constexpr double firstUnrepresentableMiB = 0x1p44; // 2^64 bytes
 
 } // namespace
-
-ProcessFilter::ProcessFilter(const Identity& identity)
-    : m_userId(identity.userId())
-    , m_ownPid(identity.processId())
-    , m_minIdleSeconds(-std::numeric_limits<double>::infinity())
-    , m_minRssBytes(0) {}
 
 ProcessFilter::ProcessFilter(const Identity& identity, double minIdleMin, double minRSSMB)
     : m_userId(identity.userId())
@@ -29,7 +21,7 @@ bool ProcessFilter::accepts(const ProcSample& process) const {
 }
 
 std::optional<quint64> ProcessFilter::bytesFromMiB(double mebibytes) {
-    if (!(mebibytes > -1 && mebibytes < firstBeyondBytes))
+    if (!(mebibytes > -1 && mebibytes < firstUnrepresentableMiB))
         return std::nullopt;
     return static_cast<quint64>(mebibytes) << bitsOfMiB;
 }

@@ -2,21 +2,24 @@
 
 #include "Core/Sampling/ProcSample.h"
 
+#include <limits>
+#include <optional>
+
 class Identity;
 
-/// Which processes an action that selects by a rule may select at all: the current user's, never this
-/// program, idle for long enough and large enough.
+/// Accepts the processes that a rule may select: those of the current user, without this program, with a
+/// minimum of idle time and size.
 class ProcessFilter {
 public:
-    /// Without thresholds.
-    explicit ProcessFilter(const Identity& identity);
-    /// Least idle time in minutes, least resident size in MiB, both inclusive. A threshold that is no number
-    /// or that no byte count can express selects nothing.
-    ProcessFilter(const Identity& identity, double minIdleMin, double minRSSMB);
+    /// Takes the minimum of idle time in minutes and of resident size in MiB, both inclusive. Accepts nothing
+    /// when one is NaN or no byte count expresses the size.
+    explicit ProcessFilter(const Identity& identity,
+                           double minIdleMin = -std::numeric_limits<double>::infinity(), double minRSSMB = 0);
 
+    /// Returns whether the rule may select the process.
     bool accepts(const ProcSample& process) const;
 
-    /// The whole MiB of a threshold in bytes. Empty unless it is finite, above -1 and below 2^44.
+    /// Returns the whole MiB in bytes, or an empty optional unless they are finite, above -1 and below 2^44.
     static std::optional<quint64> bytesFromMiB(double mebibytes);
 
 private:

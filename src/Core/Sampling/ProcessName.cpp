@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype maxShortNameLength = 15; // bytes, TASK_COMM_LEN without its NUL (proc(5), comm)
+constexpr qsizetype maxShortNameLength = 15; // bytes, TASK_COMM_LEN without the NUL (proc(5), comm)
 
 struct Row {
     QStringView key;
@@ -24,8 +24,8 @@ std::optional<QStringView> valueOf(const std::array<Row, size>& rows, QStringVie
     return found == rows.end() ? std::nullopt : std::optional(found->value);
 }
 
-/// Applications by executable. They go before the menu, whose names differ from one maker of packages, and
-/// one language, to the next: "Chromium Web Browser", "Visual Studio Code".
+/// Applications by executable. They have priority over the menu, whose names depend on the package and the
+/// language: "Chromium Web Browser", "Visual Studio Code".
 constexpr std::array applications = {
     Row{u"chrome", u"Google Chrome"},
     Row{u"msedge", u"Microsoft Edge"},
@@ -56,14 +56,14 @@ constexpr std::array applications = {
 
 QStringView knownApplication(QStringView executable) {
     const QStringView file = ProgramPath::lastComponent(executable);
-    // As the archives unpack that tools for tests download ("chrome-linux", "chrome-linux64").
+    // The folder of the archives that test tools download ("chrome-linux", "chrome-linux64").
     if (file == u"chrome" && executable.contains(u"/chrome-linux"))
         return u"Chromium";
     return valueOf(applications, file).value_or(QStringView());
 }
 
-/// Values of "--type=". A process whose end takes the application with it is in no table: "zygote", "broker",
-/// "crashpad-handler", "forkserver".
+/// Values of "--type=". The tables leave out processes whose end also ends the application: "zygote",
+/// "broker", "crashpad-handler", "forkserver".
 constexpr std::array chromiumRoles = {
     Row{u"renderer", u" (Renderer)"},
     Row{u"gpu-process", u" (GPU)"},
@@ -76,7 +76,7 @@ constexpr std::array chromiumRoles = {
     Row{u"sharedProcess", u""},
 };
 
-/// The last argument of a child of Firefox, and what it is called where it has not named itself.
+/// The last argument of a child of Firefox, and its default name.
 constexpr std::array firefoxRoles = {
     Row{u"tab", u"Web Content"},
     Row{u"gpu", u"GPU"},
@@ -95,14 +95,14 @@ constexpr std::array firefoxTitles = {
     Row{u"WebCOOP+COEP Co", u"Web Content"},
 };
 
-/// " (ROLE)" of a child process that the application can do without; nothing for all other processes.
+/// Returns " (ROLE)" of a child process that may end without the application, or an empty optional.
 std::optional<QString> chromiumRole(const QStringList& arguments) {
     constexpr auto typeOption = "--type="_L1;
     const auto option = std::ranges::find_if(
         arguments, [&typeOption](const QString& argument) { return argument.startsWith(typeOption); });
     if (option == arguments.end())
         return std::nullopt;
-    // Where editors run extensions, in a utility process for scripts.
+    // Editors run extensions in a utility process for scripts.
     if (arguments.contains("--utility-sub-type=node.mojom.NodeService"_L1))
         return u" (Plugin)"_s;
     const QString type = option->sliced(typeOption.size()).section(u' ', 0, 0);
@@ -120,8 +120,7 @@ std::optional<QString> firefoxRole(const QStringList& arguments, const QByteArra
     return u" ("_s + name.toString() + u')';
 }
 
-/// Chromium, and the fork server of Firefox, overwrite the arguments of a child with one text, words apart by
-/// blanks.
+/// Splits a title: Chromium and the fork server of Firefox overwrite the arguments of a child with one text.
 QStringList splitTitle(const QStringList& arguments) {
     return arguments.size() == 1 ? arguments.first().split(u' ', Qt::SkipEmptyParts) : arguments;
 }
@@ -129,7 +128,7 @@ QStringList splitTitle(const QStringList& arguments) {
 std::optional<QString> helperName(const ProcessName::Facts& facts,
                                   const ProcessName::ApplicationName& applicationName) {
     const QStringList words = splitTitle(facts.arguments);
-    // A process in a sandbox does not show its executable.
+    // The executable of a sandboxed process is unreadable.
     const QString executable =
         facts.executablePath.isEmpty() && !words.isEmpty() ? words.first() : facts.executablePath;
     const QStringView file = ProgramPath::lastComponent(executable);
@@ -148,8 +147,7 @@ std::optional<QString> helperName(const ProcessName::Facts& facts,
     return application + u" Helper"_s + *role;
 }
 
-/// The program's own name as it was started: a title may stand in its place, words apart by blanks. A shell
-/// started by a login has a dash in front.
+/// Returns the program's own name from its arguments or its title, without the dash of a login shell.
 QStringView firstArgument(const QStringList& arguments) {
     if (arguments.isEmpty())
         return {};
@@ -162,7 +160,7 @@ QStringView firstArgument(const QStringList& arguments) {
     return ProgramPath::lastComponent(first);
 }
 
-/// Whether the kernel's name is what it would have made of `whole`; it cuts bytes, not characters.
+/// Returns whether the kernel's name is the beginning of `whole`. The kernel cuts bytes, not characters.
 bool isBeginning(const QByteArray& shortName, QStringView whole) {
     return !shortName.isEmpty() && whole.toUtf8().startsWith(shortName);
 }
@@ -177,7 +175,7 @@ QString ProcessName::of(const Facts& facts, const ApplicationName& applicationNa
          {executable, ProgramPath::lastComponent(facts.script), firstArgument(facts.arguments)}) {
         if (isBeginning(facts.shortName, whole))
             return facts.shortName.size() >= maxShortNameLength ? whole.toString()
-                                                              : QString::fromUtf8(facts.shortName);
+                                                                : QString::fromUtf8(facts.shortName);
     }
     return executable.isEmpty() ? QString::fromUtf8(facts.shortName) : executable.toString();
 }

@@ -6,24 +6,24 @@
 
 #include <functional>
 
-/// What a person would call a process.
+/// Finds the name of a process on screen.
 namespace ProcessName {
 
-/// What the system says of a process.
+/// The answers of the system about a process.
 struct Facts {
-    QByteArray shortName; ///< as the kernel keeps it: of 15 bytes at most, and open to change by the program
+    QByteArray shortName;   ///< of the kernel: at most 15 bytes; the program can change it
     QString executablePath; ///< empty when unreadable
     QStringList arguments;  ///< the first is the program's own name
-    QString script;         ///< what an interpreter runs; empty for other programs
+    QString script;         ///< of an interpreter; empty for other programs
 };
 
-/// The name in the menu of the application that the executable is of; empty when there is none. Asked only
-/// for the child processes of browsers and the like that this file does not know itself.
+/// Returns the name of the executable's application in the menu, empty without one. Called only for unknown
+/// child processes of Chromium, Electron or Firefox.
 using ApplicationName = std::function<QString(const QString& executablePath)>;
 
-/// The short name where it belongs to the program, whole; otherwise the executable's last component. The
-/// child processes of programs built on Chromium, Electron or Firefox are called by application and role:
-/// "Chromium Helper (Renderer)". Empty where the system says nothing.
+/// Returns the whole short name where the program has not changed it, else the executable's last component.
+/// Returns application and role for child processes of Chromium, Electron or Firefox: "Chromium Helper
+/// (Renderer)". Returns an empty name where all facts are empty.
 QString of(const Facts& facts, const ApplicationName& applicationName);
 
 } // namespace ProcessName

@@ -6,22 +6,22 @@
 
 namespace {
 
-constexpr std::array<QStringView, 8> scriptEndings = {u".js", u".mjs", u".cjs", u".ts",
-                                                      u".py", u".sh",  u".rb",  u".pl"};
+constexpr std::array<QStringView, 8> scriptSuffixes = {u".js", u".mjs", u".cjs", u".ts",
+                                                       u".py", u".sh",  u".rb",  u".pl"};
 
-/// Whether `path` is `folder` or lies in it.
+/// Returns whether `path` is `folder` or below it.
 bool isBelow(QStringView path, QStringView folder) {
     return !folder.isEmpty() && path.startsWith(folder) &&
            (path.size() == folder.size() || path[folder.size()] == u'/');
 }
 
-/// "NAME@1.2" without the version.
+/// Returns "NAME" for "NAME@1.2".
 QStringView withoutVersion(QStringView package) {
     const qsizetype version = package.indexOf(u'@', 1);
     return version < 0 ? package : package.first(version);
 }
 
-QStringView folderBehind(QStringView path, QStringView mark) {
+QStringView folderAfter(QStringView path, QStringView mark) {
     const qsizetype found = path.lastIndexOf(mark);
     return found < 0 ? QStringView() : path.sliced(found + mark.size());
 }
@@ -34,9 +34,9 @@ QStringView ProgramPath::lastComponent(QStringView path) {
 
 QStringView ProgramPath::scriptName(QStringView path) {
     QStringView name = lastComponent(path);
-    for (const QStringView ending : scriptEndings) {
-        if (name.size() > ending.size() && name.endsWith(ending))
-            return name.chopped(ending.size());
+    for (const QStringView suffix : scriptSuffixes) {
+        if (name.size() > suffix.size() && name.endsWith(suffix))
+            return name.chopped(suffix.size());
     }
     return name;
 }
@@ -44,9 +44,9 @@ QStringView ProgramPath::scriptName(QStringView path) {
 QStringView ProgramPath::packageName(QStringView program) {
     QStringView package = program;
     if (program.startsWith(u'/')) {
-        package = folderBehind(program, u"/node_modules/");
+        package = folderAfter(program, u"/node_modules/");
         if (package.isEmpty())
-            package = folderBehind(program, u"/site-packages/");
+            package = folderAfter(program, u"/site-packages/");
         if (package.isEmpty() || package.startsWith(u'.'))
             return {};
     }

@@ -3,27 +3,24 @@
 #include <QString>
 #include <QStringView>
 
-/// Parts of the text that says what a process runs: a path, a module or a package.
+/// Parts of a program: a path, a module or a package.
 namespace ProgramPath {
 
-/// What stands behind the last slash; the whole text without one.
+/// Returns the text after the last slash, the whole text without one.
 QStringView lastComponent(QStringView path);
 
-/// The last component without the ending of a script (".js", ".mjs", ".cjs", ".ts", ".py", ".sh", ".rb",
-/// ".pl").
+/// Returns the last component without the suffix of a script, such as ".js" or ".py".
 QStringView scriptName(QStringView path);
 
-/// The package that a path goes through: the folder behind the last "node_modules" or "site-packages",
-/// without its
-/// "@scope/"; of a package's own name likewise what follows the scope, without a version ("@1.2"). Empty when
-/// there is none.
+/// Returns the package of a path, the folder in the last "node_modules" or "site-packages", or of a package's
+/// name. The "@scope/" and the version ("@1.2") are left out. Returns an empty text without a package.
 QStringView packageName(QStringView program);
 
-/// `path` without what says nothing of the program: the user's home folder and the folder of libraries of
-/// this architecture ("/usr/lib/x86_64-linux-gnu") are taken off its front, their slash stays.
+/// Returns `path` without the user's home folder, or the library folder of this architecture
+/// ("/usr/lib/x86_64-linux-gnu"), in front. The slash after it stays.
 QStringView withoutPrefix(QStringView path);
 
-/// As a shell shows a folder: "~" for the user's home folder.
+/// Returns the folder with "~" for the user's home folder.
 QString withTilde(const QString& folder);
 
 } // namespace ProgramPath

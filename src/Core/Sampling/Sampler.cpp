@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr std::size_t maximumPids = 4096;
-constexpr qsizetype partThatMayBeGone = 8; ///< one in so many, before their texts are dropped
-constexpr double busyPercent = 0.5;        ///< below it a process counts as idle
-constexpr quint32 passesBetweenLooks = 3;  ///< at the texts of a process that goes on running
+constexpr std::size_t maxPids = 4096;
+constexpr qsizetype maxGonePart = 8;      // texts are dropped after the end of one process in 8
+constexpr double busyPercent = 0.5;       // below it a process is idle
+constexpr quint32 passesBetweenLooks = 3; // at the texts of a running process
 
 double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
     return std::chrono::duration<double>(to - from).count();
@@ -33,7 +33,7 @@ ThermalState thermalState(int level) {
     }
 }
 
-/// The arguments that are not empty.
+/// Returns the arguments that are not empty.
 QStringList argumentsOf(const QByteArray& argumentArea) {
     QStringList arguments;
     for (const QByteArray& argument : argumentArea.split('\0')) {
@@ -43,7 +43,7 @@ QStringList argumentsOf(const QByteArray& argumentArea) {
     return arguments;
 }
 
-/// The arguments without the program's name; the name alone where there are none.
+/// Returns the arguments without the program's name, or the name alone.
 QString procArgs(QStringList arguments) {
     if (arguments.size() > 1)
         arguments.removeFirst();
@@ -94,7 +94,7 @@ double Sampler::cpuLoad() {
 }
 
 QList<ProcSample> Sampler::sampleProcesses() {
-    std::array<qint32, maximumPids> pids{};
+    std::array<qint32, maxPids> pids{};
     const int listed = m_table->listAllPids(pids);
     if (listed < 1)
         return {};
@@ -114,7 +114,7 @@ QList<ProcSample> Sampler::sampleProcesses() {
         const auto task = m_table->taskInfo(pid);
         if (!task) {
             if (entry != m_known.end())
-                m_left.insert(pid); // it waits to be reaped, its children have another parent
+                m_left.insert(pid); // a zombie, whose children have another parent
             continue;
         }
         if (entry == m_known.end())
@@ -144,8 +144,8 @@ QList<ProcSample> Sampler::sampleProcesses() {
     return result;
 }
 
-/// A process that has not run has changed nothing of itself. One that has just come is looked at every time,
-/// because it may have been listed between its fork and its exec; the others take turns.
+/// Returns whether the texts of a process may have changed: it has run, and it is young or has its turn. A
+/// young process may have been listed between its fork and its exec.
 bool Sampler::isDue(qint32 pid, const Known& process) const {
     const bool isYoung = m_pass - process.firstPass <= passesBetweenLooks;
     const bool hasItsTurn = (static_cast<quint32>(pid) + m_pass) % passesBetweenLooks == 0;
@@ -161,14 +161,14 @@ void Sampler::refreshTexts(qint32 pid, Known& process, Instant now) {
     if (meta.startTicks == process.staticCache.startTicks) {
         meta.startTime = process.staticCache.startTime;
     } else {
-        m_left.insert(pid); // the id has passed on to another process
+        m_left.insert(pid); // the PID was reused
         process.prev = {.pass = process.prev.pass};
         process.firstPass = m_pass;
     }
     process.staticCache = meta;
 }
 
-/// The children of a process that left have another parent now.
+/// Finds the new parents of the children of ended processes.
 void Sampler::refreshParents(QList<ProcSample>& processes) {
     if (m_left.isEmpty())
         return;
@@ -208,7 +208,7 @@ bool Sampler::isReplaced(qint32 pid) const {
     return listed != m_known.cend() && running && running->startTicks != listed->staticCache.startTicks;
 }
 
-/// Turns the process's cumulative time into a share of a core since its last reading, and remembers it.
+/// Returns the share of a core since the last reading, and remembers this one.
 double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
     const bool firstSight = cpu.sampledAt == Uptime();
     const double elapsed = secondsBetween(cpu.sampledAt, now);
@@ -223,14 +223,13 @@ double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
     return percent;
 }
 
-/// Many processes of a machine are copies of each other: the same text then costs memory, and a pass a
-/// trip to it, once.
+/// Returns the stored copy of a text, so that equal processes share one.
 QString Sampler::interned(const QString& text) {
     return *m_texts.insert(text);
 }
 
-/// The texts of processes that went are dropped now and then, as looking for them costs a walk over all. They
-/// must not pile up: the arguments of a compiler are long, and a build starts thousands.
+/// Forgets the processes that the pass did not list. Their texts are dropped in batches, because that walks
+/// over all texts. A build starts thousands of compilers with long arguments.
 void Sampler::evictUnseen() {
     m_gone += m_known.removeIf([this](const auto& entry) {
         if (entry->prev.pass == m_pass)
@@ -238,9 +237,9 @@ void Sampler::evictUnseen() {
         m_left.insert(entry.key());
         return true;
     });
-    if (m_gone * partThatMayBeGone <= m_known.size())
+    if (m_gone * maxGonePart <= m_known.size())
         return;
-    m_texts.removeIf([](const QString& text) { return text.isDetached(); }); // nobody else has it
+    m_texts.removeIf([](const QString& text) { return text.isDetached(); }); // no process has it
     m_gone = 0;
 }
 
@@ -265,7 +264,7 @@ void Sampler::classifyAnew() {
         process.staticCache.group = groupOf(process.staticCache);
 }
 
-/// `now` is the start of a process whose own is not known.
+/// Reads the texts of a process. `now` replaces an unknown start.
 Sampler::StaticMeta Sampler::metaOf(qint32 pid, const ProcessOrigin& origin, Instant now) const {
     const QStringList arguments = argumentsOf(origin.argumentArea);
     StaticMeta meta;

@@ -6,8 +6,8 @@
 
 #include <QHash>
 #include <QSet>
-
 #include <QStringList>
+
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -19,46 +19,46 @@ class ProcessTable;
 struct ProcessOrigin;
 struct Platform;
 
-/// Reads the machine and every process, and keeps the previous readings that turn counters into rates.
-/// Not thread-safe: it lives on the thread of the tick.
+/// Reads the machine and every process, and keeps the previous readings that turn counters into rates. Not
+/// thread-safe.
 class Sampler {
 public:
-    /// Says which group a process belongs to by its name, path, arguments and program. It is asked when a
-    /// process is first seen and when one of these has changed.
+    /// Returns the group for a name, path, arguments and program. Called for a new process, and when one of
+    /// these has changed.
     using Classifier = std::function<ProcGroup(const ProcSample&)>;
 
-    /// Without a classifier every process is in the group `other`.
+    /// Puts every process into the group `other` without a classifier.
     explicit Sampler(const Platform& platform, Classifier classifier = {});
 
-    /// One reading of the whole machine. A figure that the system refuses is 0. The first reading of a
-    /// sampler has no CPU load to report.
+    /// Reads the whole machine. An unavailable figure is 0, and so is the CPU load of the first reading.
     SystemSample sample();
 
-    /// One record per readable process, in the system's order. Empty when the system's listing fails. A
-    /// process that took another program, title or parent shows it within three passes; its CPU and idle time
-    /// go on.
+    /// Returns one record per readable process, in the system's order, none when the listing fails. A new
+    /// program, title or parent of a process shows within three passes; its CPU and idle time go on.
     QList<ProcSample> sampleProcesses();
 
-    /// Asks the classifier anew about every process of the passes to come.
+    /// Calls the classifier again for every process.
     void classifyAnew();
 
-    /// A listed process as it is now: its texts, owner and parent are asked for anew, its figures are those
-    /// of the listing. Empty when it is gone or its id has come to mean another process.
+    /// Returns a listed process with its present texts, owner and parent, and the figures of the listing.
+    /// Returns an empty optional when it has ended.
     std::optional<ProcSample> lookAgain(const ProcSample& listed) const;
 
-    /// Whether the id of a process of the last listing has come to mean another process since. Asks the
-    /// system; false for an id that was not listed or that nobody has.
+    /// Asks the system whether another process reuses the PID of a listed one. Returns false for a PID that
+    /// was not listed or is free.
     bool isReplaced(qint32 pid) const;
 
-    /// How many processes the tables remember; level in the long run.
+    /// Return the sizes of the tables, constant in the long run.
     qsizetype rememberedProcesses() const { return m_known.size(); }
     qsizetype rememberedTexts() const { return m_texts.size(); }
 
 private:
+    using Uptime = std::chrono::steady_clock::time_point;
+
     struct PrevCPU {
         quint64 totalNs = 0;
-        std::chrono::steady_clock::time_point sampledAt; ///< the clock's epoch before the first reading
-        std::chrono::steady_clock::time_point lastNonZero;
+        Uptime sampledAt; ///< the clock's epoch before the first reading
+        Uptime lastNonZero;
         quint32 pass = 0; ///< the last pass that listed the process
     };
     struct StaticMeta {
@@ -73,14 +73,12 @@ private:
         quint64 startTicks = 0;
         quint64 textHash = 0; ///< of the texts above, see ProcessTable
     };
-    /// One entry, so that a pass looks a process up once.
     struct Known {
         PrevCPU prev;
         StaticMeta staticCache;
         quint32 firstPass = 0;
         bool mayHaveChanged = false; ///< it has run since its texts were last compared
     };
-    using Uptime = std::chrono::steady_clock::time_point;
 
     double cpuLoad();
     double cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const;
@@ -101,9 +99,9 @@ private:
     std::shared_ptr<Applications> m_applications;
     Classifier m_classify;
     std::optional<CpuTicks> m_prevHostCPU;
-    QHash<qint32, Known> m_known; ///< by process id
-    QSet<QString> m_texts;        ///< names, paths and arguments, each stored once for all that have it
-    qsizetype m_gone = 0;         ///< processes, since their texts were last dropped
-    QSet<qint32> m_left;          ///< ids that lost their process in this pass
+    QHash<qint32, Known> m_known; ///< by PID
+    QSet<QString> m_texts;        ///< names, paths and arguments, each stored once
+    qsizetype m_gone = 0;         ///< ended processes since texts were last dropped
+    QSet<qint32> m_left;          ///< PIDs that lost their process in this pass
     quint32 m_pass = 0;
 };

@@ -13,13 +13,13 @@ enum class ThermalState { nominal, fair, serious, critical };
 
 template <>
 inline constexpr std::array rawValueTable<ThermalState> = {
-    RawValueRow<ThermalState>{ThermalState::nominal, u"nominal"},
-    RawValueRow<ThermalState>{ThermalState::fair, u"fair"},
-    RawValueRow<ThermalState>{ThermalState::serious, u"serious"},
-    RawValueRow<ThermalState>{ThermalState::critical, u"critical"},
+    RawValueRow{ThermalState::nominal, u"nominal"},
+    RawValueRow{ThermalState::fair, u"fair"},
+    RawValueRow{ThermalState::serious, u"serious"},
+    RawValueRow{ThermalState::critical, u"critical"},
 };
 
-/// The word shown to the user: "Cool", "Warm", "Hot" or "Critical".
+/// Returns "Cool", "Warm", "Hot" or "Critical".
 QString thermalLabel(ThermalState state);
 
 /// One reading of the whole machine.
@@ -33,13 +33,13 @@ struct SystemSample {
     quint64 memWiredBytes = 0;
     quint64 memCompressedBytes = 0;
     quint64 swapUsedBytes = 0;
-    quint64 diskFreeBytes = 0; ///< on the root volume, to an ordinary user
+    quint64 diskFreeBytes = 0; ///< of the root volume, for an ordinary user
     quint64 diskTotalBytes = 0;
     ThermalState thermalState = ThermalState::nominal;
 
     bool operator==(const SystemSample&) const = default;
 
-    /// What is shown before the first real sample; the same value, `id` included, for the whole run.
+    /// Returns the sample before the first reading, always with the same `id`.
     static const SystemSample& zero();
 
     double memUsedPercent() const;  ///< 0 when the total is 0

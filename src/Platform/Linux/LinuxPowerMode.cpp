@@ -46,7 +46,8 @@ void LinuxPowerMode::followDaemon() {
     connect(&m_services, &QDBusServiceWatcher::serviceOwnerChanged, this, &LinuxPowerMode::ask);
     for (const QString& service : services) {
         m_services.addWatchedService(service);
-        // Any sender, because Qt would block on the bus for a name's owner. The signal's contents are ignored.
+        // Any sender, because Qt would block on the bus for a name's owner. The signal's contents are
+        // ignored.
         m_bus.connect(QString(), pathOf(service), propertiesInterface, QStringLiteral("PropertiesChanged"),
                       this, SLOT(ask()));
     }

@@ -60,14 +60,14 @@ QString CleanupTexts::progress(const QString& sentence, const CleanupProgress& p
 }
 
 bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
-    return target.rule.holdsUserFiles || !target.volumes.isEmpty();
+    return target.rule.hasUserFiles || !target.volumes.isEmpty();
 }
 
 QString CleanupTexts::whatGoes(const CacheTarget& target) {
     if (!target.volumes.isEmpty())
         return QCoreApplication::translate("CleanupTexts", "Gone for good: %1").arg(volumesOf(target));
     const QString names = namesOf(target);
-    if (target.rule.holdsUserFiles)
+    if (target.rule.hasUserFiles)
         return names.isEmpty() ? QCoreApplication::translate("CleanupTexts", "Gone for good")
                                : QCoreApplication::translate("CleanupTexts", "Gone for good: %1").arg(names);
     if (names.isEmpty() && target.pruneCommand)
@@ -78,7 +78,7 @@ QString CleanupTexts::whatGoes(const CacheTarget& target) {
 QString CleanupTexts::question(const CacheTarget& target) {
     QStringList paragraphs;
     const QString names = namesOf(target);
-    if (target.rule.holdsUserFiles) {
+    if (target.rule.hasUserFiles) {
         paragraphs.append(
             names.isEmpty()
                 ? QCoreApplication::translate(

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first message once more, and one that is none: it rejects the whole.
+/// Appends an empty message, which rejects the whole feed.
 QByteArray withABadMessage(const QByteArray& json) {
     QJsonObject root = QJsonDocument::fromJson(json).object();
     QJsonArray messages = root["messages"_L1].toArray();

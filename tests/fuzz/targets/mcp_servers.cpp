@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A line each: name, path and arguments, separated by TABs. Each is the parent of the next but one.
+/// Reads a process per line: name, path and arguments, separated by TABs. Each is the parent of the next but
+/// one.
 QList<ProcSample> processesIn(const QByteArray& input) {
     QList<ProcSample> processes;
     for (const QByteArray& line : input.split('\n')) {
@@ -28,7 +29,7 @@ QList<ProcSample> processesIn(const QByteArray& input) {
     return processes;
 }
 
-/// The rule as it reads, one mark after another.
+/// Returns whether the text has a mark, by a plain search.
 bool isServerText(const QString& text) {
     QString lower = text;
     for (QChar& character : lower)
@@ -39,7 +40,7 @@ bool isServerText(const QString& text) {
     return lower.contains(marks);
 }
 
-/// No more than the rule allows: what is run may be known for a host, and launchers belong to their server.
+/// Returns whether the process may be a server. A host or a launcher with a mark is none.
 bool mayBeServer(const ProcSample& process) {
     return isServerText(process.name) || isServerText(process.executablePath) ||
            isServerText(process.program);
@@ -59,7 +60,7 @@ void describesItsProcess(const MCPInspector::LiveServer& server, const QList<Pro
 
 } // namespace
 
-/// A table of processes with names that nobody chose with care.
+/// A table of processes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QList<ProcSample> processes = processesIn(Fuzz::bytes(data, size));
     const MCPInspector::Report report{.configured = {}, .live = MCPInspector::detectLive(processes)};

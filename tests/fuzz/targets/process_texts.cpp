@@ -11,23 +11,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Beyond the kernel's greatest id, so that no CPU clock answers for it.
+/// Beyond the kernel's maximum, so that no CPU clock has this PID.
 constexpr qint32 pid = 5'000'001;
 
-/// procfs with one process, whose files are laid anew for every input.
+/// A procfs with one process, whose files are written for every input.
 class Process {
 public:
     Process() { m_proc.makeFolder(u"5000001"_s); }
 
     std::string root() const { return m_proc.path().toStdString(); }
 
-    void lay(const QList<QByteArray>& texts) {
+    void write(const QList<QByteArray>& texts) {
         const char* names[] = {"stat", "cmdline"};
         for (qsizetype i = 0; i < std::ssize(names); ++i)
             m_proc.makeFile(u"5000001/"_s + QString::fromLatin1(names[i]), texts[i]);
-        const std::string link = root() + "/5000001/exe";
-        unlink(link.c_str());
-        static_cast<void>(!symlink(texts.last().constData(), link.c_str()));
+        const std::string executable = root() + "/5000001/exe";
+        unlink(executable.c_str());
+        static_cast<void>(!symlink(texts.last().constData(), executable.c_str()));
     }
 
 private:
@@ -49,11 +49,11 @@ void checkSample(const ProcSample& sample, const QByteArray& commandLine) {
 
 } // namespace
 
-/// The files of one process, in the order of `Process::lay`, and where its `exe` leads.
+/// The files of one process in the order of `Process::write`, then the target of its symlink `exe`.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static Process process;
     const QList<QByteArray> texts = Fuzz::texts(Fuzz::bytes(data, size), 3);
-    process.lay(texts);
+    process.write(texts);
     const auto table = std::make_shared<LinuxProcessTable>(process.root());
     checkOrigin(table->origin(pid), texts[0]);
 

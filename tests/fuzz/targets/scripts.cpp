@@ -6,8 +6,7 @@ namespace {
 
 using Verb = Tools::AppleScript::Verb;
 
-/// What the program writes for an application of that name is read back, or, for a name that none can have,
-/// not at all.
+/// Checks that the script for an application of that name reads back, or is rejected as a whole.
 void nameComesThrough(const QByteArray& utf8) {
     const QString name = QString::fromUtf8(utf8);
     for (const bool force : {false, true}) {

@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const double number : before.numbers)
             Fuzz::require(std::isfinite(number));
         Fuzz::require(preferences.historyRetentionSamples() >= 60);
-        // One that is changed stays, and takes no other with it.
+        // A changed value stays and changes no other.
         preferences.historyRetention.set(HistoryRetention::oneHour);
         Fuzz::require(valuesOf(preferences) == before);
     }

@@ -19,7 +19,7 @@ void listing(const QByteArray& found) {
     CleanupPlan::ListingReader reader(found);
     qsizetype length = 0;
     while (const auto entry = reader.next())
-        length += entry->path.size() + 3; // two blanks and the end
+        length += entry->path.size() + 3; // two spaces and the end
     Fuzz::require(length <= found.size());
 
     const auto parsed = Tools::CleanupListing::parse(found.toStdString());
@@ -47,7 +47,7 @@ void size(const QString& text) {
 
 } // namespace
 
-/// What a tool printed.
+/// The output of a tool.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length) {
     const QByteArray report = Fuzz::bytes(data, length);
     Fuzz::require(Cleaner::reportedBytes(report) % 1024 == 0);

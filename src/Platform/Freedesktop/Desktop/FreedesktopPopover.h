@@ -20,7 +20,8 @@ public:
     void setContent(QWidget* content, QSize size) override;
     void show(QRect anchor) override;
     void close() override;
-    /// Returns true for a moment after it was closed too, so that the click that closed it does not reopen it.
+    /// Returns true for a moment after it was closed too, so that the click that closed it does not reopen
+    /// it.
     bool isShown() const override;
 
 protected:
