@@ -104,7 +104,7 @@ search() { # TEXT
     xdotool key BackSpace
     xdotool type -- "$1"
 }
-# Opens the menu of the first row of a search; "Up Up" is the last entry but one, the application's.
+# Opens the menu of the first row of a search; "Up Up Up" is the application's entry, before the groups and "Copy".
 row_menu() { # SEARCH ROW KEY...
     search "$1"
     shows "there is a row \"$2\"" "$2"
@@ -112,7 +112,7 @@ row_menu() { # SEARCH ROW KEY...
     xdotool key Menu "${@:3}" Return
 }
 quit_by_menu() { # SEARCH ROW APPLICATION [BUTTON]
-    row_menu "$1" "$2" Up Up
+    row_menu "$1" "$2" Up Up Up
     shows "$3 is to be confirmed" "Quit “$3” and all [0-9]+ helpers\?"
     [ -z "${4:-}" ] || press "$4"
 }
@@ -242,7 +242,7 @@ if command -v xterm >/dev/null; then
     check "the terminal runs a program" pgrep -x sleep >/dev/null
     terminal=$spawned
     to_program
-    row_menu xterm xterm Up Up
+    row_menu xterm xterm Up Up Up
     shows "the terminal is to be confirmed" "Quit “XTerm” and all 1 helpers\?"
     screen describe "Quit “XTerm” .*" | tr '\n' ' ' | grep -qE 'What runs in its terminals ends too .*: sh, sleep\.' ||
         fail "the dialog says what else ends"
