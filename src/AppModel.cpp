@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/Observe.h"
+#include "Platform/Identity.h"
 #include "Platform/PowerMode.h"
 #include "Preferences.h"
 
@@ -34,6 +35,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_platform(std::move(platform))
     , m_preferences(preferences)
     , m_sampler(m_platform, [this](const ProcSample& process) { return m_grouper.groupOf(process); })
+    , m_ledger(m_platform.processMemory, m_platform.clock)
     , m_rules(*m_platform.identity)
     , m_servers(m_platform.processes, m_platform.clock)
     , m_actionLog(m_platform.clock)
@@ -75,15 +77,31 @@ void AppModel::tick() {
         return;
 
     QList<ProcSample> processes = m_sampler.sampleProcesses();
+    m_ledger.tick(processes);
     const QList<GroupRollup> rollups = GroupRollup::build(processes);
     std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
     publish(m_state.processes, std::move(processes));
     publish(m_state.groups, rollups);
     publish(m_state.alerts,
             m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(), m_preferences));
+    if (RulesEngine::needsTrueMemory(sample, rollups, m_preferences))
+        m_ledger.wantOnShow(pidsOf(ProcGroup::browsers));
     publish(m_state.mcpReport, {.configured = m_mcpConfiguration.readConfigured(),
                                 .live = m_servers.detectLive(m_state.processes),
                                 .isUnknown = m_mcpConfiguration.isUnknown()});
+}
+
+QList<qint32> AppModel::pidsOf(ProcGroup group) const {
+    QList<qint32> pids;
+    for (const ProcSample& process : m_state.processes) {
+        if (process.group == group)
+            pids.append(process.pid);
+    }
+    return pids;
+}
+
+MemoryLineUp AppModel::memoryLineUp() const {
+    return MemoryLineUp::of(m_state.systemSample, m_state.processes, m_platform.identity->userId());
 }
 
 void AppModel::appendHistory(const SystemSample& sample) {

@@ -6,6 +6,8 @@
 #include "Core/Grouping/ProcessGrouper.h"
 #include "Core/Mcp/MCPConfiguration.h"
 #include "Core/Mcp/ServerWatch.h"
+#include "Core/Memory/MemoryLedger.h"
+#include "Core/Memory/MemoryLineUp.h"
 #include "Core/Observable.h"
 #include "Core/Relief/AutoOptimizer.h"
 #include "Core/Sampling/Sampler.h"
@@ -40,9 +42,13 @@ public:
     const QList<ProcSample>& processes() const { return m_state.processes; }
     const ProcSample* process(qint32 pid) const { return m_state.process(pid); }
     const QList<GroupRollup>& groups() const { return m_state.groups; }
+    /// Returns the parts of the used memory, by the last full tick.
+    MemoryLineUp memoryLineUp() const;
     const QList<Alert>& alerts() const { return m_state.alerts; }
     const MCPInspector::Report& mcpReport() const { return m_state.mcpReport; }
 
+    /// The ledger of true memory. Views tell it what they show.
+    MemoryLedger& memoryLedger() { return m_ledger; }
     ActionLog& actionLog() { return m_actionLog; }
     const ActionLog& actionLog() const { return m_actionLog; }
     CacheCleanup& cleanup() { return m_cleanup; }
@@ -68,12 +74,14 @@ private:
     void followPollInterval();
     void appendHistory(const SystemSample& sample);
     bool isPaused() const;
+    QList<qint32> pidsOf(ProcGroup group) const;
 
     Platform m_platform;
     Preferences& m_preferences;
     PublishedState m_state;
     ProcessGrouper m_grouper;
     Sampler m_sampler;
+    MemoryLedger m_ledger;
     RulesEngine m_rules;
     MCPConfiguration m_mcpConfiguration;
     ServerWatch m_servers;

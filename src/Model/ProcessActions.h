@@ -32,7 +32,10 @@ public:
     QCoro::Task<Outcome> purgeMemory();
 
     /// Returns the idle processes worth ending: at most 15, largest first. The minima are in minutes and MiB.
-    QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB) const;
+    /// A program of no known group is worth it from a gigabyte on, or with `others`.
+    QList<FreeRamPreview> freeRamCandidates(double minIdleMin, double minRSSMB, bool others = false) const;
+    /// Returns what the end of these processes together gives back.
+    MemoryReturn givesBack(const QList<qint32>& pids) const;
     /// Asks each process to end, kills those that stay, asks the kernel to reclaim memory, and measures.
     /// Takes about 4 seconds and leaves one entry in the log.
     QCoro::Task<FreeRAMResult> freeRAM(QList<qint32> pids);

@@ -62,32 +62,43 @@ QString logDetail(const FreeRAMResult& result) {
     return u"[free RAM] "_s + outcomes.join(u',') + u" freed="_s + QString::number(result.freedBytes);
 }
 
+quint64 decrease(quint64 before, quint64 after) {
+    return before - std::min(before, after);
+}
+
 bool isWorthOffering(const ProcSample& process) {
     return process.group != ProcGroup::other || process.rssBytes >= largeUnknownBytes;
 }
 
 } // namespace
 
-QList<FreeRamPreview> ProcessActions::freeRamCandidates(double minIdleMin, double minRSSMB) const {
+QList<FreeRamPreview> ProcessActions::freeRamCandidates(double minIdleMin, double minRSSMB,
+                                                        bool others) const {
     const ProcessFilter filter(*m_platform.identity, minIdleMin, minRSSMB);
     QList<FreeRamPreview> candidates;
     for (const ProcSample& process : m_state.processes) {
-        if (filter.accepts(process) && isWorthOffering(process)) {
+        if (filter.accepts(process) && (others || isWorthOffering(process))) {
             candidates.append({.pid = process.pid,
                                .name = process.name,
                                .rssBytes = process.rssBytes,
                                .idleSeconds = process.idleSeconds,
-                               .group = process.group});
+                               .group = process.group,
+                               .givesBack = MemoryReturn::ofEnding(process)});
         }
     }
     std::ranges::stable_sort(candidates, std::ranges::greater(), &FreeRamPreview::rssBytes);
     return candidates.mid(0, maxCandidates);
 }
 
+MemoryReturn ProcessActions::givesBack(const QList<qint32>& pids) const {
+    return MemoryReturn::ofEnding(pids, m_state.processes);
+}
+
 QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
     const QPointer<ProcessActions> self(this);
-    const quint64 usedBefore = m_state.systemSample.memUsedBytes;
+    const SystemSample before = m_state.systemSample;
     FreeRAMResult result;
+    result.promised = givesBack(pids);
     Handles handles;
     for (const qint32 pid : pids)
         handles.append(m_gate.hold(pid));
@@ -115,8 +126,9 @@ QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
     if (!self)
         co_return result;
 
-    const quint64 usedAfter = Sampler(m_platform).sample().memUsedBytes;
-    result.freedBytes = usedBefore >= usedAfter ? usedBefore - usedAfter : 0;
+    const SystemSample after = Sampler(m_platform).sample();
+    result.freedBytes = decrease(before.memUsedBytes, after.memUsedBytes);
+    result.freedSwapBytes = decrease(before.swapUsedBytes, after.swapUsedBytes);
     const QString detail = logDetail(result);
     m_log.record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
     co_return result;

@@ -8,6 +8,17 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QList<qint32> pidsOf(const QList<ProcSample>& processes) {
+    QList<qint32> pids;
+    for (const ProcSample& process : processes)
+        pids.append(process.pid);
+    return pids;
+}
+
+} // namespace
+
 NukePreview ProcessActions::previewForName(const QString& name) const {
     QList<ProcSample> named;
     NukePreview::Applications applications;
@@ -18,8 +29,13 @@ NukePreview ProcessActions::previewForName(const QString& name) const {
         applications.append(applicationOf(process));
     }
     NukePreview preview = NukePreview::make(name, named, applications);
-    if (preview.parentAppName)
-        preview.inTerminals = inTerminalsOf(processesOf(*preview.parentAppName));
+    if (!preview.parentAppName) {
+        preview.givesBack = givesBack(preview.pids);
+        return preview;
+    }
+    const QList<ProcSample> owned = processesOf(*preview.parentAppName);
+    preview.inTerminals = inTerminalsOf(owned);
+    preview.givesBack = givesBack(pidsOf(owned));
     return preview;
 }
 
@@ -52,11 +68,8 @@ QList<ProcSample> ProcessActions::processesOf(const QString& application) const 
 }
 
 QList<ProcSample> ProcessActions::inTerminalsOf(const QList<ProcSample>& processes) const {
-    QList<qint32> pids;
-    for (const ProcSample& process : processes)
-        pids.append(process.pid);
     QList<ProcSample> found;
-    for (const qint32 pid : m_platform.applications->inTerminalsOf(pids)) {
+    for (const qint32 pid : m_platform.applications->inTerminalsOf(pidsOf(processes))) {
         if (const ProcSample* sample = m_state.process(pid))
             found.append(*sample);
     }
@@ -68,6 +81,7 @@ NukePreview ProcessActions::previewForApplication(const QString& application) co
     NukePreview preview =
         NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
     preview.inTerminals = inTerminalsOf(owned);
+    preview.givesBack = givesBack(preview.pids);
     return preview;
 }
 

@@ -10,6 +10,7 @@ class Identity;
 class LoginItem;
 class Places;
 class PowerMode;
+class ProcessMemory;
 class ProcessTable;
 class Relief;
 class Signals;
@@ -19,6 +20,7 @@ class ToolRunner;
 struct Platform {
     std::shared_ptr<HostStatistics> host;
     std::shared_ptr<ProcessTable> processes;
+    std::shared_ptr<ProcessMemory> processMemory;
     std::shared_ptr<PowerMode> power;
     std::shared_ptr<Identity> identity;
     std::shared_ptr<Clock> clock;

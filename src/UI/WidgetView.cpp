@@ -132,6 +132,7 @@ void WidgetView::setHover(bool hover) {
 }
 
 void WidgetView::refresh() {
+    m_model.memoryLedger().wantAll();
     refreshGrid();
     refreshGroups();
     refreshAlert();
@@ -148,13 +149,15 @@ void WidgetView::refreshGrid() {
 
 void WidgetView::refreshGroups() {
     QList<GroupRollup> groups = m_model.groups();
-    std::ranges::stable_sort(groups, std::ranges::greater(), &GroupRollup::rssBytes);
+    std::ranges::stable_sort(groups, std::ranges::greater(),
+                             [](const GroupRollup& group) { return group.memory.bytes; });
     m_groupRows.show(std::min(groups.size(), shownGroups), [&groups](PanelRow& row, qsizetype i) {
         row.set({.symbol = groupSymbol(groups[i].group),
                  .tint = Role::secondaryText,
                  .text = Translations::of(groups[i].group),
                  .textRole = Role::primaryText,
-                 .figure = Formatters::bytes(groups[i].rssBytes)});
+                 .figure = groups[i].memory.text(),
+                 .toolTip = groups[i].memory.parts()});
     });
 }
 

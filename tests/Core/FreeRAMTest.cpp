@@ -39,7 +39,10 @@ TEST_F(FreeRAMTest, CandidatesAreTheUsersIdleKnownOrHugeProcesses) {
     EXPECT_EQ(pidsOf(model->actions().freeRamCandidates(15, 500)), (QList<qint32>{6, 1, 2}));
     EXPECT_EQ(pidsOf(model->actions().freeRamCandidates(15.01, 500)), QList<qint32>());
     const FreeRamPreview last = model->actions().freeRamCandidates(0, 500).last();
-    EXPECT_EQ(last, (FreeRamPreview{2, u"claude"_s, 500 * MiB, 900, ProcGroup::agents}));
+    EXPECT_EQ(
+        last,
+        (FreeRamPreview{
+            2, u"claude"_s, 500 * MiB, 900, ProcGroup::agents, {.memoryBytes = 500 * MiB, .isRough = true}}));
 }
 
 TEST_F(FreeRAMTest, FifteenLargestCandidates) {

@@ -85,8 +85,16 @@ TEST(GroupRollup, TotalsEveryGroupInOrder) {
     processes[1] = {.cpuPercent = 5, .rssBytes = 7, .group = other};
     processes[2] = {.cpuPercent = 2.5, .rssBytes = 50, .group = browsers};
     const auto rollups = GroupRollup::build(processes);
-    EXPECT_EQ(rollups[3], (GroupRollup{.group = browsers, .rssBytes = 150, .cpuPercent = 12.5, .count = 2}));
-    EXPECT_EQ(rollups[5], (GroupRollup{.group = other, .rssBytes = 7, .cpuPercent = 5, .count = 1}));
+    EXPECT_EQ(rollups[3], (GroupRollup{.group = browsers,
+                                       .rssBytes = 150,
+                                       .cpuPercent = 12.5,
+                                       .count = 2,
+                                       .memory = SummedMemory::of({processes[0], processes[2]})}));
+    EXPECT_EQ(rollups[5], (GroupRollup{.group = other,
+                                       .rssBytes = 7,
+                                       .cpuPercent = 5,
+                                       .count = 1,
+                                       .memory = SummedMemory::of({processes[1]})}));
 }
 
 TEST(PatternMatcher, AgreesWithPlainSearchesOnOverlappingPatterns) {

@@ -123,10 +123,24 @@ TEST_F(RulesEngineTest, IdleAgentsAboveBothThresholdsInListOrder) {
 }
 
 TEST_F(RulesEngineTest, BrowsersAtTheirShareOfMemory) {
-    groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 4 * GiB;
+    SummedMemory& memory = groups[static_cast<qsizetype>(ProcGroup::browsers)].memory;
+    memory.bytes = 4 * GiB;
     EXPECT_EQ(ids(), QStringList(QStringLiteral("browser_hog")));
-    groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 4 * GiB - 1;
+    memory.bytes = 4 * GiB - 1;
     EXPECT_TRUE(ids().isEmpty());
+    memory.bytes = 6 * GiB;
+    memory.standInBytes = 2 * GiB + 1; // what is known stays below
+    EXPECT_TRUE(ids().isEmpty());
+}
+
+TEST_F(RulesEngineTest, TheTrueMemoryOfBrowsersIsNeededOnceItMayReachTheShare) {
+    groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 3 * GiB;
+    const auto isNeeded = [this] { return RulesEngine::needsTrueMemory(system, groups, prefs); };
+    EXPECT_FALSE(isNeeded());
+    system.swapUsedBytes = GiB;
+    EXPECT_TRUE(isNeeded());
+    prefs.alertBrowserHogEnabled.set(false);
+    EXPECT_FALSE(isNeeded());
 }
 
 TEST_F(RulesEngineTest, CachesNameTheFirstThreeAboveTheirShare) {
@@ -148,7 +162,7 @@ TEST_F(RulesEngineTest, AllAlertsInTheirOrderWithTheirTexts) {
               .swapUsedBytes = 6 * GiB,
               .thermalState = ThermalState::critical};
     processes = {process(7, QStringLiteral("claude"), ProcGroup::agents, 3, 800 * MiB, 930)};
-    groups[static_cast<qsizetype>(ProcGroup::browsers)].rssBytes = 6 * GiB;
+    groups[static_cast<qsizetype>(ProcGroup::browsers)].memory.bytes = 6 * GiB;
     caches = {{.name = QStringLiteral("npm"), .symbol = {}, .sizeBytes = 12 * GiB}};
     for (int tick = 1; tick < 30; ++tick)
         evaluate();

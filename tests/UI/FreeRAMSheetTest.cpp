@@ -50,6 +50,7 @@ TEST_F(FreeRAMSheetTest, TicksTheFiveLargestOnce) {
     EXPECT_EQ(rows(false), (QList<qint32>{106, 105, 104, 103, 102, 101, 100}));
     EXPECT_EQ(rows(true), (QList<qint32>{106, 105, 104, 103, 102}));
     EXPECT_TRUE(showsText(*sheet, u"5 selected • 2 GB targeted"_s));
+    EXPECT_TRUE(showsText(*sheet, u"≤ 2 GB will come back"_s));
     press(*sheet, u"Clear"_s);
     tick();
     EXPECT_EQ(rows(true), QList<qint32>());
@@ -120,6 +121,38 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
     EXPECT_TRUE(sheet.isNull());
 }
 
+TEST_F(FreeRAMSheetTest, SaysWhatComesBackBeforeAndAfter) {
+    addIdle(1);
+    fakes.processMemory->all[100] = {.proportionalBytes = 390 * MiB,
+                                     .uniqueBytes = 320 * MiB,
+                                     .uniqueDirtyBytes = 300 * MiB,
+                                     .proportionalSwapBytes = 20 * MiB};
+    open();
+    for (int i = 0; i < 5; ++i) {
+        tick();
+        model.memoryLedger().waitForSlice();
+    }
+    EXPECT_TRUE(row(0)->accessibleName().endsWith(u"frees ≈ 320 MB"_s))
+        << qPrintable(row(0)->accessibleName());
+    EXPECT_TRUE(showsText(*sheet, u"≈ 320 MB will come back"_s));
+    fakes.host->memory.swapUsedBytes = 30 * MiB;
+    tick();
+    fakes.host->memory.swapUsedBytes = 12 * MiB;
+    QTest::keyClick(sheet, Qt::Key_Return);
+    const QString outcome =
+        u"Promised: 300 MB in memory, 20 MB in swap. Came back: 0 bytes in memory, 18 MB in swap."_s;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return showsText(*sheet, outcome); }, 1000));
+}
+
+TEST_F(FreeRAMSheetTest, OtherProgramsAreListedOnRequest) {
+    addProcesses(1, "unknown", 600 * MiB);
+    addIdle(1);
+    open();
+    EXPECT_EQ(rows(false), QList<qint32>{101});
+    press(*sheet, u"Other programs too"_s);
+    EXPECT_EQ(rows(false), (QList<qint32>{100, 101}));
+}
+
 TEST_F(FreeRAMSheetTest, ClosedDuringARunItLeavesTheRunToFinish) {
     addIdle(1);
     open();
@@ -135,5 +168,5 @@ TEST_F(FreeRAMSheetTest, HostileNamesStayPlain) {
     addIdle(0);
     open();
     EXPECT_EQ(row(0)->accessibleName(),
-              u"<b>claude</b>\u240a, PID 100 • Claude Code & Agents, 500 MB, idle 20m"_s);
+              u"<b>claude</b>\u240a, PID 100 • Claude Code & Agents, 500 MB, idle 20m, frees ≤ 500 MB"_s);
 }

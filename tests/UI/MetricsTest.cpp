@@ -1,3 +1,4 @@
+#include "Core/Memory/MemoryLineUp.h"
 #include "Core/Sampling/SystemSample.h"
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/Sparkline.h"
@@ -30,10 +31,10 @@ TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
         {Metrics::cpu(withCpu(60), {}), u"60%", Role::orange},
         {Metrics::cpu(withCpu(84.9), {}), u"85%", Role::orange},
         {Metrics::cpu(withCpu(85), {}), u"85%", Role::red},
-        {Metrics::memory(withMemory(69.9), {}), u"70%", Role::green},
-        {Metrics::memory(withMemory(70), {}), u"70%", Role::orange},
-        {Metrics::memory(withMemory(88), {}), u"88%", Role::red},
-        {Metrics::memory(SystemSample(), {}), u"0%", Role::green},
+        {Metrics::memory(withMemory(69.9), {}, {}), u"70%", Role::green},
+        {Metrics::memory(withMemory(70), {}, {}), u"70%", Role::orange},
+        {Metrics::memory(withMemory(88), {}, {}), u"88%", Role::red},
+        {Metrics::memory(SystemSample(), {}, {}), u"0%", Role::green},
         {Metrics::disk(withDisk(79.9)), u"80%", Role::green},
         {Metrics::disk(withDisk(80)), u"80%", Role::orange},
         {Metrics::disk(withDisk(92)), u"92%", Role::red},
@@ -50,7 +51,7 @@ TEST(Metrics, SecondLinesTellSizesAndSwap) {
     sample.memUsedBytes = GiB * 3 / 2;
     sample.memTotalBytes = 8 * GiB;
     sample.diskFreeBytes = 512 * GiB / 1024;
-    EXPECT_EQ(Metrics::memory(sample, {}).sub, QStringLiteral("1.5 GB / 8 GB"));
+    EXPECT_EQ(Metrics::memory(sample, {}, {}).sub, QStringLiteral("1.5 GB / 8 GB"));
     EXPECT_EQ(Metrics::disk(sample).sub, QStringLiteral("512 MB free"));
     EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("No swap"));
     sample.swapUsedBytes = 2 * GiB;
@@ -62,7 +63,7 @@ TEST(Metrics, SecondLinesTellSizesAndSwap) {
 
 TEST(Metrics, HistoryGivesOnePointASampleAndZeroWithoutATotal) {
     const QList<SystemSample> history{withMemory(25), SystemSample(), withMemory(50)};
-    EXPECT_EQ(Metrics::memory(withMemory(50), history).history, (QList<double>{25, 0, 50}));
+    EXPECT_EQ(Metrics::memory(withMemory(50), history, {}).history, (QList<double>{25, 0, 50}));
     EXPECT_EQ(Metrics::cpu(withCpu(5), {withCpu(1), withCpu(2)}).history, (QList<double>{1, 2}));
 }
 

@@ -34,8 +34,32 @@ TEST_F(OverviewViewTest, FiguresCanBeReadByAccessibleName) {
     EXPECT_EQ(shownNames<MetricTile>(view),
               (QStringList{QStringLiteral("CPU 0%"), QStringLiteral("Memory 25%"), QStringLiteral("Disk 60%"),
                            QStringLiteral("Thermal Cool")}));
-    EXPECT_EQ(header(ProcGroup::browsers)->accessibleName(), QStringLiteral("Browsers (2), 1 GB, 0% CPU"));
-    EXPECT_EQ(header(ProcGroup::ides)->accessibleName(), QStringLiteral("IDEs (0), 0 bytes, 0% CPU"));
+    EXPECT_EQ(header(ProcGroup::browsers)->accessibleName(),
+              QStringLiteral("Browsers (2), about 1 GB (resident 1 GB, in swap 0 bytes), 0% CPU"));
+    EXPECT_EQ(header(ProcGroup::ides)->accessibleName(),
+              QStringLiteral("IDEs (0), 0 bytes (resident 0 bytes, in swap 0 bytes), 0% CPU"));
+}
+
+TEST_F(OverviewViewTest, GroupsCountSharedMemoryOnceWhenItIsKnown) {
+    addProcesses(2, "chrome", quint64(512) << 20);
+    for (const qint32 pid : {100, 101})
+        fakes.processMemory->all[pid] = {.proportionalBytes = quint64(300) << 20,
+                                         .proportionalDirtyBytes = quint64(200) << 20,
+                                         .anonymousBytes = quint64(200) << 20,
+                                         .swapBytes = quint64(10) << 20};
+    show();
+    model.memoryLedger().waitForSlice();
+    fakes.clock->advance(10);
+    tick(); // the credit allows one process in a tick
+    model.memoryLedger().waitForSlice();
+    tick();
+    EXPECT_EQ(header(ProcGroup::browsers)->accessibleName(),
+              QStringLiteral("Browsers (2), 620 MB (resident 1 GB, in swap 20 MB), 0% CPU"));
+    EXPECT_TRUE(
+        header(ProcGroup::browsers)->toolTip().contains(QStringLiteral("resident 1 GB, in swap 20 MB")));
+    const MetricTile* memory = view.findChildren<MetricTile*>().at(1);
+    EXPECT_TRUE(
+        memory->toolTip().contains(QStringLiteral("Groups 600 MB\nof these, caches of files −200 MB")));
 }
 
 TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {

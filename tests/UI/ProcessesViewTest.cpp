@@ -178,7 +178,7 @@ TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
     EXPECT_EQ(column(u"Procs"_s), (QStringList{u"12"_s, u"1"_s}));
     EXPECT_EQ(table->model()->index(0, 0).data(Qt::AccessibleTextRole), u"helper ×12"_s);
     EXPECT_EQ(table->model()->index(1, 0).data(Qt::AccessibleTextRole), u"single"_s);
-    EXPECT_EQ(column(u"RAM"_s), (QStringList{u"720 MB"_s, u"700 MB"_s}));
+    EXPECT_EQ(column(u"RAM"_s), (QStringList{u"≈ 720 MB"_s, u"≈ 700 MB"_s}));
     pressIn(0, 0);
     EXPECT_EQ(fakes.signalSender->sent().size(), 12);
     EXPECT_EQ(logged().size(), 12);
@@ -295,6 +295,30 @@ TEST_F(ProcessesViewTest, ARowsMenuPutsItsProgramIntoAGroup) {
     EXPECT_EQ(column(u"Group"_s), (QStringList{u"Other"_s, u"Terminals"_s}));
     prefs.programGroupsJSON.set(R"({"zsh": "IDEs", "a&b": "nonsense", "c": 5})");
     EXPECT_EQ(prefs.programGroups(), (QHash<QString, ProcGroup>{{u"zsh"_s, ProcGroup::ides}}));
+}
+
+TEST_F(ProcessesViewTest, OptionalColumnsAreChosenAndRemembered) {
+    addProcesses(2, "helper", 60 * MiB);
+    fakes.processMemory->all[100] = {
+        .proportionalBytes = 50 * MiB, .uniqueBytes = 40 * MiB, .swapBytes = 3 * MiB};
+    fakes.processMemory->totals[101] = {.anonymousBytes = 30 * MiB, .swapBytes = 2 * MiB};
+    show();
+    EXPECT_EQ(column(u"Own"_s), QStringList());
+    for (const int choice : {0, 1}) {
+        QMenu menu;
+        table->fillColumnsMenu(menu);
+        menu.actions().at(choice)->trigger();
+    }
+    model.memoryLedger().waitForSlice();
+    fakes.clock->advance(2);
+    tick();
+    EXPECT_EQ(column(u"Own"_s), (QStringList{u"40 MB"_s, u"—"_s}));
+    EXPECT_EQ(column(u"Swap"_s), (QStringList{u"3 MB"_s, u"2 MB"_s}));
+    EXPECT_EQ(widthsOfAnother().size(), 10);
+    foldDuplicates();
+    EXPECT_EQ(column(u"RAM"_s), QStringList(u"≥ 85 MB"_s));
+    EXPECT_EQ(column(u"Own"_s), QStringList(u"—"_s));
+    EXPECT_EQ(column(u"Swap"_s), QStringList(u"5 MB"_s));
 }
 
 TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {

@@ -56,8 +56,8 @@ TEST_F(WidgetTest, ThreeLargestGroupsAndTheFirstAlert) {
     widget.show(model);
     tick();
     EXPECT_EQ(shownNames<PanelRow>(view()),
-              (QStringList{QStringLiteral("Browsers 600 MB"), QStringLiteral("Terminals 30 bytes"),
-                           QStringLiteral("Claude Code & Agents 20 bytes")}));
+              (QStringList{QStringLiteral("Browsers ≈ 600 MB"), QStringLiteral("Terminals ≈ 30 bytes"),
+                           QStringLiteral("Claude Code & Agents ≈ 20 bytes")}));
     const std::pair<int, QString> cases[] = {
         {1, {}}, {2, QStringLiteral("+ 1 more alert")}, {3, QStringLiteral("+ 2 more alerts")}};
     for (const auto& [agents, text] : cases) {

@@ -7,6 +7,7 @@
 #include "Platform/Identity.h"
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "support/FakePlaces.h"
 #include "support/FakeRelief.h"
@@ -109,6 +110,28 @@ private:
     }
 };
 
+/// Called on the ledger's thread: set the answers and read the requests while no slice runs.
+class FakeProcessMemory : public ProcessMemory {
+public:
+    QHash<qint32, ProcessMemoryUse> all;    ///< refused for a PID without an entry
+    QHash<qint32, ProcessMemoryUse> totals; ///< the same
+    std::chrono::nanoseconds cost{};
+    QStringList readings; ///< "all PID", "totals PID"
+
+    ProcessMemoryReading readAll(qint32 pid) override { return answer(all, pid, QStringLiteral("all %1")); }
+    ProcessMemoryReading readTotals(qint32 pid) override {
+        return answer(totals, pid, QStringLiteral("totals %1"));
+    }
+
+private:
+    ProcessMemoryReading answer(const QHash<qint32, ProcessMemoryUse>& uses, qint32 pid,
+                                const QString& request) {
+        readings.append(request.arg(pid));
+        const auto found = uses.constFind(pid);
+        return {.use = found == uses.cend() ? std::nullopt : std::optional(*found), .cost = cost};
+    }
+};
+
 class FakePowerMode : public PowerMode {
 public:
     bool lowPower = false;
@@ -154,6 +177,7 @@ private:
 struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
     std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();
+    std::shared_ptr<FakeProcessMemory> processMemory = std::make_shared<FakeProcessMemory>();
     std::shared_ptr<FakePowerMode> power = std::make_shared<FakePowerMode>();
     std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
@@ -166,6 +190,7 @@ struct FakePlatform {
     Platform platform() const {
         return {.host = host,
                 .processes = processes,
+                .processMemory = processMemory,
                 .power = power,
                 .identity = identity,
                 .clock = clock,

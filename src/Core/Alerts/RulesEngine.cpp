@@ -139,23 +139,27 @@ QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferenc
     return alerts;
 }
 
+double percentOf(quint64 bytes, const SystemSample& system) {
+    return static_cast<double>(bytes) / static_cast<double>(system.memTotalBytes) * 100;
+}
+
+/// Judges the memory that is known: a resident size counts shared pages for each process.
 std::optional<Alert> browserAlert(const SystemSample& system, const QList<GroupRollup>& groups,
                                   const Preferences& prefs) {
     const auto browsers = std::ranges::find(groups, ProcGroup::browsers, &GroupRollup::group);
     if (!prefs.alertBrowserHogEnabled() || browsers == groups.end() || system.memTotalBytes == 0)
         return std::nullopt;
-    const double share =
-        static_cast<double>(browsers->rssBytes) / static_cast<double>(system.memTotalBytes) * 100;
-    if (!(prefs.alertBrowserHogPercentTotal() <= share))
+    const SummedMemory& memory = browsers->memory;
+    const double limit = prefs.alertBrowserHogPercentTotal();
+    if (!(limit <= percentOf(memory.bytes - memory.standInBytes, system)))
         return std::nullopt;
     return Alert{.id = u"browser_hog"_s,
                  .severity = Severity::info,
-                 .title = QCoreApplication::translate("RulesEngine", "Browsers using %1")
-                              .arg(Formatters::bytes(browsers->rssBytes)),
+                 .title = QCoreApplication::translate("RulesEngine", "Browsers using %1").arg(memory.text()),
                  .detail = QCoreApplication::translate(
                                "RulesEngine",
                                "That's %1 of total RAM. Closing idle tabs frees the most memory fastest.")
-                               .arg(Formatters::percent(share)),
+                               .arg(Formatters::percent(percentOf(memory.bytes, system))),
                  .actionTarget = u"browsers"_s};
 }
 
@@ -180,6 +184,15 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
 }
 
 } // namespace
+
+bool RulesEngine::needsTrueMemory(const SystemSample& system, const QList<GroupRollup>& groups,
+                                  const Preferences& prefs) {
+    const auto browsers = std::ranges::find(groups, ProcGroup::browsers, &GroupRollup::group);
+    if (!prefs.alertBrowserHogEnabled() || browsers == groups.end() || system.memTotalBytes == 0)
+        return false;
+    return prefs.alertBrowserHogPercentTotal() <=
+           percentOf(browsers->rssBytes + system.swapUsedBytes, system);
+}
 
 QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcSample>& processes,
                                    const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,

@@ -22,6 +22,11 @@ public:
                           const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
                           const Preferences& prefs);
 
+    /// Returns whether the alert on browsers may be in force once their true memory is known, which is at
+    /// most their resident memory and all that is in swap.
+    static bool needsTrueMemory(const SystemSample& system, const QList<GroupRollup>& groups,
+                                const Preferences& prefs);
+
 private:
     const Identity& m_identity;
     int m_thermalHotStreak = 0; ///< consecutive evaluations in a serious or critical thermal state

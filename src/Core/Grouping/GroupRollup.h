@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Sampling/ProcSample.h"
+#include "Core/Memory/SummedMemory.h"
 
 #include <QList>
 
@@ -10,6 +10,7 @@ struct GroupRollup {
     quint64 rssBytes = 0;
     double cpuPercent = 0;
     int count = 0;
+    SummedMemory memory; ///< of the members, shared pages once
 
     bool operator==(const GroupRollup&) const = default;
 
@@ -26,6 +27,7 @@ inline QList<GroupRollup> GroupRollup::build(const QList<ProcSample>& processes)
         rollup.rssBytes += process.rssBytes;
         rollup.cpuPercent += process.cpuPercent;
         ++rollup.count;
+        rollup.memory.add(process);
     }
     return rollups;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Sampling/ProcGroup.h"
+#include "Core/Memory/MemoryReturn.h"
 
 #include <QList>
 
@@ -11,6 +11,7 @@ struct FreeRamPreview {
     quint64 rssBytes = 0;
     double idleSeconds = 0;
     ProcGroup group = ProcGroup::other;
+    MemoryReturn givesBack; ///< when it ends alone
 
     bool operator==(const FreeRamPreview&) const = default;
 };
@@ -39,5 +40,7 @@ struct FreeRAMResult {
 
     QList<Record> perPid; ///< in the order of the request
     bool memoryPressureSignaled = false;
-    quint64 freedBytes = 0; ///< the decrease of the system's used memory
+    quint64 freedBytes = 0;     ///< the decrease of the system's used memory
+    quint64 freedSwapBytes = 0; ///< the decrease of its used swap
+    MemoryReturn promised;      ///< at the start
 };

@@ -1,13 +1,13 @@
 #include "Core/Relief/NukePreview.h"
 
 #include "Core/Formatters.h"
+#include "Core/Memory/SummedMemory.h"
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -40,11 +40,6 @@ QString nameList(const QList<ProcSample>& processes) {
     return names.join(u", "_s) + (isCut ? u"…"_s : QString());
 }
 
-quint64 rssOf(const QList<ProcSample>& processes) {
-    return std::accumulate(processes.begin(), processes.end(), quint64{0},
-                           [](quint64 sum, const ProcSample& process) { return sum + process.rssBytes; });
-}
-
 } // namespace
 
 std::optional<QString> NukePreview::bundleOf(const QString& executablePath) {
@@ -69,10 +64,11 @@ NukePreview NukePreview::make(const QString& name, const QList<ProcSample>& proc
         const ProcSample& process = processes[i];
         preview.pids.append(process.pid);
         preview.startTimes.append(process.startTime);
-        preview.totalRSS += process.rssBytes;
+        preview.givesBack += MemoryReturn::ofEnding(process);
         const auto bundle = bundleOf(process.executablePath);
         owners.append(bundle ? bundle : applications.value(i));
     }
+    preview.totalRSS = SummedMemory::of(processes).bytes;
     preview.parentAppName = common(owners);
     return preview;
 }
@@ -91,7 +87,7 @@ QString NukePreview::dialogMessage() const {
         return QCoreApplication::translate("NukePreview", "Tells %1 to quit cleanly — closes all %2 child "
                                                           "processes in one sweep, no per-tab pop-ups. "
                                                           "Frees ≈%3.")
-                   .arg(*parentAppName, count, Formatters::bytes(totalRSS)) +
+                   .arg(*parentAppName, count, Formatters::bytes(givesBack.totalBytes())) +
                terminalsMessage();
     }
     return QCoreApplication::translate(
@@ -106,12 +102,12 @@ QString NukePreview::terminalsMessage() const {
         return {};
     return u"\n\n"_s +
            QCoreApplication::translate("NukePreview", "What runs in its terminals ends too (≈%1): %2.")
-               .arg(Formatters::bytes(rssOf(inTerminals)), nameList(inTerminals));
+               .arg(Formatters::bytes(SummedMemory::of(inTerminals).bytes), nameList(inTerminals));
 }
 
 QString NukePreview::quitButton() const {
     return QCoreApplication::translate("NukePreview", "Quit %1 (≈%2)")
-        .arg(parentAppName.value_or(QString()), Formatters::bytes(totalRSS));
+        .arg(parentAppName.value_or(QString()), Formatters::bytes(givesBack.totalBytes()));
 }
 
 QString NukePreview::forceQuitButton() const {
@@ -121,7 +117,7 @@ QString NukePreview::forceQuitButton() const {
 
 QString NukePreview::killButton() const {
     return QCoreApplication::translate("NukePreview", "Kill %1 (≈%2)")
-        .arg(QString::number(pids.size()), Formatters::bytes(totalRSS));
+        .arg(QString::number(pids.size()), Formatters::bytes(givesBack.totalBytes()));
 }
 
 QString NukePreview::quitOutcome(const QString& appName, bool succeeded) const {
@@ -131,7 +127,7 @@ QString NukePreview::quitOutcome(const QString& appName, bool succeeded) const {
                    "Couldn't tell %1 to quit (it may not be scriptable). Try the force variant.")
             .arg(appName);
     return QCoreApplication::translate("NukePreview", "%1 quit cleanly — %2 helpers closed (≈%3 freed)")
-        .arg(appName, QString::number(pids.size()), Formatters::bytes(totalRSS));
+        .arg(appName, QString::number(pids.size()), Formatters::bytes(givesBack.totalBytes()));
 }
 
 QString NukePreview::killOutcome(int killed) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Sampling/ProcSample.h"
+#include "Core/Memory/MemoryReturn.h"
 
 #include <QList>
 #include <QUuid>
@@ -9,9 +9,10 @@
 struct NukePreview {
     QUuid id;
     QString name;
-    QList<qint32> pids;        ///< in the order of the process list
-    QList<Instant> startTimes; ///< of each, which tells it from a process that reuses its PID
-    quint64 totalRSS = 0;
+    QList<qint32> pids;                   ///< in the order of the process list
+    QList<Instant> startTimes;            ///< of each, which tells it from a process that reuses its PID
+    quint64 totalRSS = 0;                 ///< of all, shared pages once
+    MemoryReturn givesBack;               ///< when all of them end, or the application
     std::optional<QString> parentAppName; ///< the one application that owns all of them
     QList<ProcSample> inTerminals;        ///< run in the application's terminals and end with it
 

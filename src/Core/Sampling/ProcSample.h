@@ -5,6 +5,10 @@
 
 #include <QString>
 
+#include <memory>
+
+struct MemoryFigures;
+
 /// Identifies one process for good: another process may reuse its PID, but not with its start.
 struct ProcessIdentity {
     qint32 pid = 0;
@@ -28,6 +32,7 @@ struct ProcSample {
     Instant startTime;
     double idleSeconds = 0; ///< since it last used more than 0.5 % CPU
     ProcGroup group = ProcGroup::other;
+    std::shared_ptr<const MemoryFigures> memory; ///< null while the ledger has not read them
     QString program; ///< the executable, or the script, module, package or image that it was told to run
 
     ProcessIdentity identity() const { return {pid, startTime}; }

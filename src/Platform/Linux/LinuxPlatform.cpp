@@ -5,6 +5,7 @@
 #include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxPowerMode.h"
+#include "Platform/Linux/LinuxProcessMemory.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "Platform/Linux/LinuxRelief.h"
 #include "Platform/Linux/LinuxSignals.h"
@@ -24,6 +25,7 @@ Platform Platform::native() {
     const auto tools = std::make_shared<UnixToolRunner>();
     return {.host = std::make_shared<LinuxHostStatistics>(),
             .processes = std::make_shared<LinuxProcessTable>(),
+            .processMemory = std::make_shared<LinuxProcessMemory>(),
             .power = std::make_shared<LinuxPowerMode>(),
             .identity = std::make_shared<UnixIdentity>(),
             .clock = std::make_shared<SystemClock>(),

@@ -7,6 +7,7 @@
 #include "Platform/Places.h"
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "Platform/Relief.h"
 #include "Platform/Signals.h"
@@ -36,6 +37,11 @@ class NullProcessTable : public ProcessTable {
     std::optional<quint64> textHash(qint32) override { return {}; }
     QByteArray workingDirectory(qint32) override { return {}; }
     ProcessKeeper keeper(qint32) override { return {}; }
+};
+
+class NullProcessMemory : public ProcessMemory {
+    ProcessMemoryReading readAll(qint32) override { return {}; }
+    ProcessMemoryReading readTotals(qint32) override { return {}; }
 };
 
 class NullPowerMode : public PowerMode {
@@ -96,6 +102,7 @@ void Platform::prepareProgram() {}
 Platform Platform::native() {
     return {.host = std::make_shared<NullHostStatistics>(),
             .processes = std::make_shared<NullProcessTable>(),
+            .processMemory = std::make_shared<NullProcessMemory>(),
             .power = std::make_shared<NullPowerMode>(),
             .identity = std::make_shared<NullIdentity>(),
             .clock = std::make_shared<SystemClock>(),

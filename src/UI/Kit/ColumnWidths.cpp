@@ -16,8 +16,8 @@ QString entry(const QString& id, int width) {
     return QStringLiteral("%1=%2").arg(id).arg(width);
 }
 
-QHash<QString, int> widthsIn(const QString& stored) {
-    QHash<QString, int> widths;
+QMap<QString, int> widthsIn(const QString& stored) {
+    QMap<QString, int> widths;
     for (const QString& each : stored.split(u' ', Qt::SkipEmptyParts))
         widths.insert(each.section(u'=', 0, 0), widthOf(each.section(u'=', 1)));
     return widths;
@@ -39,9 +39,9 @@ void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
     m_isRestoring = true;
     m_key = key;
     m_columns = columns;
-    const QHash<QString, int> stored = widthsIn(m_file.text(key).value_or(QString()));
+    m_stored = widthsIn(m_file.text(key).value_or(QString()));
     for (int i = 0; i < columns.size(); ++i) {
-        const int width = stored.value(columns[i].id);
+        const int width = m_stored.value(columns[i].id);
         if (columns[i].defaultWidth > 0)
             m_header.resizeSection(i, width > 0 ? width : columns[i].defaultWidth);
     }
@@ -49,11 +49,13 @@ void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
 }
 
 void ColumnWidths::store() {
-    QStringList widths;
     for (int i = 0; i < m_columns.size(); ++i) {
         if (m_columns[i].defaultWidth > 0)
-            widths.append(entry(m_columns[i].id, m_header.sectionSize(i)));
+            m_stored.insert(m_columns[i].id, m_header.sectionSize(i));
     }
+    QStringList widths;
+    for (auto width = m_stored.cbegin(); width != m_stored.cend(); ++width)
+        widths.append(entry(width.key(), width.value()));
     m_storeLater.store(m_key, widths.join(u' '));
 }
 

@@ -2,6 +2,8 @@
 
 #include "UI/Kit/StoreLater.h"
 
+#include <QMap>
+
 class QHeaderView;
 
 /// Stores the widths that the user gives the columns of a table, as "group=156 pid=62". A width belongs to
@@ -34,5 +36,6 @@ private:
     StoreLater m_storeLater;
     QString m_key;
     QList<Column> m_columns;
+    QMap<QString, int> m_stored; ///< also of columns that are not shown
     bool m_isRestoring = false;
 };

@@ -15,6 +15,7 @@ public:
         QString text;
         Theme::Role textRole = Theme::Role::primaryText;
         QString figure;
+        QString toolTip = {};
 
         bool operator==(const Content&) const = default;
     };

@@ -18,8 +18,23 @@ constexpr int bytesWidth = 72;
 constexpr int idleWidth = 52;
 constexpr double tickedOpacity = 0.12;
 
+QRectF upperHalf(const QRectF& row) {
+    return row.adjusted(0, 4, 0, -row.height() / 2 + 1);
+}
+
+QRectF lowerHalf(const QRectF& row) {
+    return row.adjusted(0, row.height() / 2, 0, -5);
+}
+
 QString details(const FreeRamPreview& candidate) {
     return CandidateRow::tr("PID %1 • %2").arg(candidate.pid).arg(Translations::of(candidate.group));
+}
+
+/// Returns "frees ≈ 410 MB", or a bound while the process is not read.
+QString givesBack(const FreeRamPreview& candidate) {
+    const QString size = Formatters::bytes(candidate.givesBack.totalBytes());
+    return candidate.givesBack.isRough ? CandidateRow::tr("frees ≤ %1").arg(size)
+                                       : CandidateRow::tr("frees ≈ %1").arg(size);
 }
 
 } // namespace
@@ -42,10 +57,10 @@ void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
     if (candidate == m_candidate)
         return;
     m_candidate = candidate;
-    setAccessibleName(tr("%1, %2, %3, idle %4")
+    setAccessibleName(tr("%1, %2, %3, idle %4, %5")
                           .arg(Formatters::visible(candidate.name), details(candidate),
                                Formatters::bytes(candidate.rssBytes),
-                               Formatters::duration(candidate.idleSeconds)));
+                               Formatters::duration(candidate.idleSeconds), givesBack(candidate)));
     update();
 }
 
@@ -77,17 +92,18 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
     drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
     line.setLeft(line.left() + boxSide + 10);
-    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
-    Painting::drawTabular(painter, Painting::takeRight(line, idleWidth), Qt::AlignRight,
+    QRectF figures = Painting::takeRight(line, bytesWidth + idleWidth);
+    Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
+    Painting::drawTabular(painter, lowerHalf(figures), Qt::AlignRight, givesBack(m_candidate));
+    figures = upperHalf(figures);
+    painter.setFont(Theme::font(TextStyle::caption));
+    Painting::drawTabular(painter, Painting::takeRight(figures, idleWidth), Qt::AlignRight,
                           Formatters::duration(m_candidate.idleSeconds));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
-                          Formatters::bytes(m_candidate.rssBytes));
+    Painting::drawTabular(painter, figures, Qt::AlignRight, Formatters::bytes(m_candidate.rssBytes));
 
-    QRectF upper = line.adjusted(0, 4, 0, -line.height() / 2 + 1);
     painter.setFont(Theme::font(TextStyle::body));
-    Painting::drawElided(painter, upper, Qt::ElideMiddle, Formatters::visible(m_candidate.name));
+    Painting::drawElided(painter, upperHalf(line), Qt::ElideMiddle, Formatters::visible(m_candidate.name));
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
-    Painting::drawElided(painter, line.adjusted(0, line.height() / 2, 0, -5), Qt::ElideRight,
-                         details(m_candidate));
+    Painting::drawElided(painter, lowerHalf(line), Qt::ElideRight, details(m_candidate));
 }

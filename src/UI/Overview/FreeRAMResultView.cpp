@@ -86,6 +86,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     : Card(parent, Role::green)
     , m_freed(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_nudged((new TextLabel(TextStyle::caption))->secondary())
+    , m_promised((new TextLabel(TextStyle::caption))->secondary()->wrapped())
     , m_area(new QScrollArea)
     , m_rowsLayout(makeScrollingPage(m_area, {}, 0)) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
@@ -106,6 +107,7 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     column->setContentsMargins(Theme::cardPadding, 10, Theme::cardPadding, 10);
     column->setSpacing(4);
     column->addLayout(head);
+    column->addWidget(m_promised);
     column->addWidget(m_area);
     hide();
 }
@@ -113,6 +115,11 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
 void FreeRAMResultView::set(const FreeRAMResult& result) {
     m_freed->setPlainText(tr("Freed ~%1").arg(Formatters::bytes(result.freedBytes)));
     m_nudged->setVisible(result.memoryPressureSignaled);
+    const auto size = [](quint64 bytes) { return Formatters::bytes(bytes); };
+    m_promised->setPlainText(tr("Promised: %1 in memory, %2 in swap. Came back: %3 in memory, %4 in swap.")
+                                 .arg(size(result.promised.memoryBytes), size(result.promised.swapBytes),
+                                      size(result.freedBytes), size(result.freedSwapBytes)));
+    m_promised->setVisible(!result.perPid.isEmpty());
     qDeleteAll(m_rows);
     m_rows.clear();
     for (const FreeRAMResult::Record& record : result.perPid) {

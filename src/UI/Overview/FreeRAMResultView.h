@@ -19,6 +19,7 @@ public:
 private:
     TextLabel* m_freed;
     TextLabel* m_nudged;
+    TextLabel* m_promised;
     QScrollArea* m_area;
     QVBoxLayout* m_rowsLayout;
     QList<QWidget*> m_rows;

@@ -13,6 +13,7 @@
 #include "UI/Overview/CandidateRow.h"
 #include "UI/Overview/FreeRAMResultView.h"
 
+#include <QCheckBox>
 #include <QCoroTask>
 #include <QHBoxLayout>
 #include <QPointer>
@@ -37,6 +38,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_minIdle(new LabeledSlider(tr("Min idle: %1 min"), {0, 60, 1}, initialMinIdle, sliderWidth))
     , m_minRSS(new LabeledSlider(tr("Min RAM: %1 MB"), {50, 2000, 50}, initialMinRSS, sliderWidth))
+    , m_others(new QCheckBox(tr("Other programs too")))
     , m_stack(new QStackedWidget)
     , m_rows([this] {
         auto* row = new CandidateRow;
@@ -47,6 +49,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     , m_selectAll(new PushButton(tr("Select all")))
     , m_clear(new PushButton(tr("Clear")))
     , m_count(new TextLabel(TextStyle::callout))
+    , m_back((new TextLabel(TextStyle::caption))->secondary())
     , m_result(new FreeRAMResultView)
     , m_action(new PushButton(QString(), PushButton::Look::prominent)) {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -98,7 +101,13 @@ QLayout* FreeRAMSheet::makeThresholds() {
         connect(slider, &LabeledSlider::valueChanged, this, &FreeRAMSheet::refresh);
     }
     row->addStretch();
-    return row;
+    m_others->setToolTip(tr("Lists programs of no known group under a gigabyte as well"));
+    connect(m_others, &QCheckBox::toggled, this, &FreeRAMSheet::refresh);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Theme::rowSpacing);
+    column->addLayout(row);
+    column->addWidget(m_others);
+    return column;
 }
 
 QWidget* FreeRAMSheet::makeList() {
@@ -120,17 +129,31 @@ QLayout* FreeRAMSheet::makeSelectionBar() {
     bar->addWidget(m_selectAll);
     bar->addWidget(m_clear);
     bar->addStretch();
-    bar->addWidget(m_count);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(m_count, 0, Qt::AlignRight);
+    texts->addWidget(m_back, 0, Qt::AlignRight);
+    bar->addLayout(texts);
     connect(m_selectAll, &QPushButton::clicked, this, [this] { tickFirst(m_candidates.size()); });
     connect(m_clear, &QPushButton::clicked, this, &FreeRAMSheet::clear);
     return bar;
 }
 
 void FreeRAMSheet::refresh() {
-    m_candidates = m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value());
+    m_candidates =
+        m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value(), m_others->isChecked());
     forgetEnded();
+    wantFigures();
     refreshRows();
     refreshButtons();
+}
+
+void FreeRAMSheet::wantFigures() {
+    QList<qint32> listed;
+    for (const FreeRamPreview& candidate : m_candidates)
+        listed.append(candidate.pid);
+    m_model.memoryLedger().wantOnShow(listed);
+    m_model.memoryLedger().wantAsked(tickedPids());
 }
 
 /// Removes the ticks of processes that have ended, also where another process has got the PID.
@@ -153,6 +176,11 @@ void FreeRAMSheet::refreshButtons() {
     m_selectAll->setEnabled(!m_candidates.isEmpty());
     m_clear->setEnabled(count > 0);
     m_count->setPlainText(tr("%1 selected • %2 targeted").arg(count).arg(Formatters::bytes(selectedRAM())));
+    const MemoryReturn back = m_model.actions().givesBack(tickedPids());
+    const QString size = Formatters::bytes(back.totalBytes());
+    m_back->setPlainText(back.isRough ? tr("≤ %1 will come back").arg(size)
+                                      : tr("≈ %1 will come back").arg(size));
+    m_back->setVisible(count > 0);
 
     m_action->setBusy(m_running);
     m_action->setEnabled(!m_running);
@@ -167,10 +195,12 @@ void FreeRAMSheet::refreshButtons() {
 }
 
 quint64 FreeRAMSheet::selectedRAM() const {
-    quint64 total = 0;
-    for (const FreeRamPreview& candidate : m_candidates)
-        total += m_selected.contains(candidate.pid) ? candidate.rssBytes : 0;
-    return total;
+    SummedMemory sum;
+    for (const FreeRamPreview& candidate : m_candidates) {
+        if (m_selected.contains(candidate.pid))
+            sum.add(*m_model.process(candidate.pid));
+    }
+    return sum.bytes;
 }
 
 void FreeRAMSheet::toggle(qint32 pid) {

@@ -12,6 +12,7 @@ class CandidateRow;
 class FreeRAMResultView;
 class LabeledSlider;
 class PushButton;
+class QCheckBox;
 class QStackedWidget;
 class QVBoxLayout;
 class TextLabel;
@@ -32,6 +33,7 @@ private:
     void refreshRows();
     void refreshButtons();
     void forgetEnded();
+    void wantFigures();
     void toggle(qint32 pid);
     void tickFirst(qsizetype count);
     void clear();
@@ -48,12 +50,14 @@ private:
 
     LabeledSlider* m_minIdle;
     LabeledSlider* m_minRSS;
+    QCheckBox* m_others;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
     RowPool<CandidateRow> m_rows;
     PushButton* m_selectAll;
     PushButton* m_clear;
     TextLabel* m_count;
+    TextLabel* m_back;
     FreeRAMResultView* m_result;
     PushButton* m_action;
 };

@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Kit/ToolTip.h"
 #include "UI/Overview/ProcessRow.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
@@ -45,8 +46,9 @@ QSize GroupHeader::sizeHint() const {
 
 void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded) {
     const double share =
-        totalRAM == 0 ? 0
-                      : std::min(1.0, static_cast<double>(rollup.rssBytes) / static_cast<double>(totalRAM));
+        totalRAM == 0
+            ? 0
+            : std::min(1.0, static_cast<double>(rollup.memory.bytes) / static_cast<double>(totalRAM));
     if (rollup == m_rollup && share == m_share && isExpanded == m_expanded)
         return;
     m_rollup = rollup;
@@ -56,13 +58,13 @@ void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpand
     update();
 }
 
-/// Sets the text for screen readers.
+/// Sets the tool tip and the text for screen readers.
 void GroupHeader::describe() {
-    setAccessibleName(
-        tr("%1 (%2), %3, %4 CPU")
-            .arg(Translations::of(m_rollup.group))
-            .arg(m_rollup.count)
-            .arg(Formatters::bytes(m_rollup.rssBytes), Formatters::percent(m_rollup.cpuPercent)));
+    setAccessibleName(tr("%1 (%2), %3, %4 CPU")
+                          .arg(Translations::of(m_rollup.group))
+                          .arg(m_rollup.count)
+                          .arg(m_rollup.memory.description(), Formatters::percent(m_rollup.cpuPercent)));
+    setToolTip(plainToolTip(m_rollup.memory.parts()));
     setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
 }
 
@@ -91,7 +93,7 @@ void GroupHeader::paintEvent(QPaintEvent*) {
 
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth, columnGap), Qt::AlignRight,
-                          Formatters::bytes(m_rollup.rssBytes));
+                          m_rollup.memory.text());
 
     paintLabel(painter, QRectF(line.left(), line.top(), labelWidth, line.height()));
     line.setLeft(line.left() + labelWidth + columnGap);

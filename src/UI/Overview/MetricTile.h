@@ -9,6 +9,7 @@
 #include <optional>
 
 class Sparkline;
+struct MemoryLineUp;
 struct SystemSample;
 
 /// What one dashboard tile shows.
@@ -18,6 +19,7 @@ struct Metric {
     std::optional<QString> sub;
     Theme::Role accent = Theme::Role::green;
     QList<double> history; ///< the points of its sparkline; may be empty
+    QString toolTip = {};
 
     bool operator==(const Metric&) const = default;
 };
@@ -25,11 +27,11 @@ struct Metric {
 /// The tiles' contents. Colours are decided on unrounded figures.
 namespace Metrics {
 Metric cpu(const SystemSample& sample, const QList<SystemSample>& history);
-Metric memory(const SystemSample& sample, const QList<SystemSample>& history);
+Metric memory(const SystemSample& sample, const QList<SystemSample>& history, const MemoryLineUp& lineUp);
 Metric disk(const SystemSample& sample);
 Metric thermal(const SystemSample& sample);
 /// Returns those of the dashboard, in order.
-QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history);
+QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history, const MemoryLineUp& lineUp);
 } // namespace Metrics
 
 /// One tile of the dashboard: a title, a big figure, a second line and a sparkline.

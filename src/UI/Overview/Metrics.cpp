@@ -1,4 +1,5 @@
 #include "Core/Formatters.h"
+#include "Core/Memory/MemoryLineUp.h"
 #include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
 
@@ -26,14 +27,15 @@ Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
             .history = series(history, [](const SystemSample& s) { return s.cpuPercent; })};
 }
 
-Metric memory(const SystemSample& sample, const QList<SystemSample>& history) {
+Metric memory(const SystemSample& sample, const QList<SystemSample>& history, const MemoryLineUp& lineUp) {
     const double used = sample.memUsedPercent();
     return {.title = QCoreApplication::translate("Metrics", "Memory"),
             .value = Formatters::percent(used),
             .sub = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
                                                  Formatters::bytes(sample.memTotalBytes)),
             .accent = Levels::memory(used),
-            .history = series(history, [](const SystemSample& s) { return s.memUsedPercent(); })};
+            .history = series(history, [](const SystemSample& s) { return s.memUsedPercent(); }),
+            .toolTip = lineUp.lines().join(u'\n')};
 }
 
 Metric disk(const SystemSample& sample) {
@@ -57,8 +59,9 @@ Metric thermal(const SystemSample& sample) {
             .history = {}};
 }
 
-QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history) {
-    return {cpu(sample, history), memory(sample, history), disk(sample), thermal(sample)};
+QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history,
+                  const MemoryLineUp& lineUp) {
+    return {cpu(sample, history), memory(sample, history, lineUp), disk(sample), thermal(sample)};
 }
 
 } // namespace Metrics

@@ -57,7 +57,7 @@ QLayout* OverviewView::makeHeader() {
 QLayout* OverviewView::makeTiles() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::gridSpacing);
-    for (qsizetype i = 0; i < Metrics::all({}, {}).size(); ++i) {
+    for (qsizetype i = 0; i < Metrics::all({}, {}, {}).size(); ++i) {
         m_tiles.append(new MetricTile);
         row->addWidget(m_tiles.last(), 1);
     }
@@ -81,13 +81,15 @@ QLayout* OverviewView::makeGroups() {
 }
 
 void OverviewView::refresh() {
+    m_model.memoryLedger().wantAll();
     m_alerts->set(m_model.alerts());
     refreshTiles();
     refreshGroups();
 }
 
 void OverviewView::refreshTiles() {
-    const QList<Metric> metrics = Metrics::all(m_model.systemSample(), m_model.systemHistory());
+    const QList<Metric> metrics =
+        Metrics::all(m_model.systemSample(), m_model.systemHistory(), m_model.memoryLineUp());
     for (qsizetype i = 0; i < metrics.size(); ++i)
         m_tiles[i]->set(metrics[i]);
 }

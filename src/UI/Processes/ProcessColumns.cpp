@@ -1,9 +1,11 @@
 #include "UI/Processes/ProcessColumns.h"
 
 #include "Core/Formatters.h"
+#include "Core/Memory/MemoryFigures.h"
 #include "Core/Translations.h"
 
 #include <QCollator>
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -46,6 +48,18 @@ void byName(QList<ProcSample>& processes) {
                              [&rank](const ProcSample& process) { return rank.value(process.name); });
 }
 
+/// Returns the sum of a figure over the processes of a row, "—" while it is unknown for one of them.
+template <auto figure> QString sumOf(const Row& row) {
+    quint64 sum = 0;
+    for (const ProcSample& process : row.processes.isEmpty() ? QList{row.first} : row.processes) {
+        const auto bytes = process.memory ? process.memory->use.*figure : std::nullopt;
+        if (!bytes)
+            return QStringLiteral("—");
+        sum += *bytes;
+    }
+    return Formatters::bytes(sum);
+}
+
 constexpr ProcessColumn columns[] = {
     {.id = u"name",
      .title = QT_TRANSLATE_NOOP("Columns", "Name"),
@@ -76,11 +90,31 @@ constexpr ProcessColumn columns[] = {
                .label = QT_TRANSLATE_NOOP("Columns", "CPU")}},
     {.id = u"ram",
      .title = QT_TRANSLATE_NOOP("Columns", "RAM"),
-     .text = [](const Row& row) { return Formatters::bytes(row.rssBytes); },
+     .text =
+         [](const Row& row) {
+             return row.processes.isEmpty() ? Formatters::bytes(row.first.rssBytes) : row.memory.text();
+         },
      .width = 84,
      .role = Role::primaryText,
      .isInGrouped = true,
+     .toolTip = [](const Row& row) { return row.processes.isEmpty() ? QString() : row.memory.parts(); },
      .order = {.sort = largestFirst<&ProcSample::rssBytes>, .place = 1}},
+    {.id = u"own",
+     .title = QT_TRANSLATE_NOOP("Columns", "Own"),
+     .text = sumOf<&ProcessMemoryUse::uniqueBytes>,
+     .width = 84,
+     .isInGrouped = true,
+     .isOptional = true,
+     .toolTip =
+         [](const Row&) {
+             return QCoreApplication::translate("Columns", "Memory that no other process shares");
+         }},
+    {.id = u"swap",
+     .title = QT_TRANSLATE_NOOP("Columns", "Swap"),
+     .text = sumOf<&ProcessMemoryUse::swapBytes>,
+     .width = 84,
+     .isInGrouped = true,
+     .isOptional = true},
     {.id = u"threads",
      .title = QT_TRANSLATE_NOOP("Columns", "Threads"),
      .text = [](const Row& row) { return QString::number(row.first.threads); }},
@@ -104,10 +138,20 @@ constexpr ProcessColumn columns[] = {
 
 } // namespace
 
-QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped) {
+QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped, const QStringList& chosen) {
     QList<const ProcessColumn*> result;
     for (const ProcessColumn& column : columns) {
-        if (isGrouped ? column.isInGrouped : column.isInFlat)
+        const bool isHidden = column.isOptional && !chosen.contains(column.id);
+        if (!isHidden && (isGrouped ? column.isInGrouped : column.isInFlat))
+            result.append(&column);
+    }
+    return result;
+}
+
+QList<const ProcessColumn*> ProcessColumns::optional() {
+    QList<const ProcessColumn*> result;
+    for (const ProcessColumn& column : columns) {
+        if (column.isOptional)
             result.append(&column);
     }
     return result;

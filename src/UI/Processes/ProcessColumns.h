@@ -3,6 +3,8 @@
 #include "UI/Processes/ProcessTableRow.h"
 #include "UI/Style/Theme.h"
 
+#include <QStringList>
+
 #include <limits>
 
 /// One column of the Processes section: its header, its cells, its width and its order.
@@ -26,6 +28,7 @@ struct ProcessColumn {
     Theme::Role role = Theme::Role::secondaryText;
     bool isInFlat = true; ///< the table with a row for each process
     bool isInGrouped = false;
+    bool isOptional = false; ///< shown when the user chose it
     QString (*toolTip)(const ProcessTableRow&) = nullptr;
     Order order = {};
 
@@ -35,8 +38,11 @@ struct ProcessColumn {
 /// The table of all columns.
 namespace ProcessColumns {
 
-/// Returns the columns of the flat or of the grouped table, from left to right.
-QList<const ProcessColumn*> shown(bool isGrouped);
+/// Returns the columns of the flat or of the grouped table, from left to right, with the optional ones whose
+/// ids are `chosen`.
+QList<const ProcessColumn*> shown(bool isGrouped, const QStringList& chosen);
+/// Returns the optional columns.
+QList<const ProcessColumn*> optional();
 /// Returns the columns to sort by, in the order of the picker.
 QList<const ProcessColumn*> sortable();
 /// Returns null when there is none.

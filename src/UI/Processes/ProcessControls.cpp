@@ -2,6 +2,7 @@
 
 #include "Core/Translations.h"
 #include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/Slider.h"
 #include "UI/Processes/ProcessColumns.h"
@@ -10,6 +11,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QMenu>
 
 namespace {
 
@@ -43,6 +45,7 @@ ProcessControls::ProcessControls(QWidget* parent)
     second->addWidget(m_minRSS);
     second->addWidget(m_fold, 0, Qt::AlignBottom);
     second->addStretch();
+    second->addWidget(makeColumnsButton(), 0, Qt::AlignBottom);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::rowSpacing);
@@ -54,6 +57,16 @@ ProcessControls::ProcessControls(QWidget* parent)
     connect(m_sort, &QComboBox::currentIndexChanged, this, &ProcessControls::changed);
     connect(m_minRSS, &LabeledSlider::valueChanged, this, &ProcessControls::changed);
     connect(m_fold, &QCheckBox::toggled, this, &ProcessControls::changed);
+}
+
+QWidget* ProcessControls::makeColumnsButton() {
+    auto* button = new PushButton(tr("Columns"));
+    connect(button, &PushButton::clicked, this, [this, button] {
+        QMenu menu;
+        Q_EMIT columnsMenuOpens(menu);
+        menu.exec(button->mapToGlobal(QPoint(0, button->height())));
+    });
+    return button;
 }
 
 ProcessQuery ProcessControls::query() const {

@@ -7,6 +7,7 @@
 class LabeledSlider;
 class PopUpButton;
 class QCheckBox;
+class QMenu;
 class SearchField;
 
 /// The controls of the table: search, group, sort, minimum size, and the grouping by name.
@@ -23,8 +24,12 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// Emitted before the menu of the columns is shown, so that it can be filled.
+    void columnsMenuOpens(QMenu& menu);
 
 private:
+    QWidget* makeColumnsButton();
+
     SearchField* m_search;
     PopUpButton* m_group;
     PopUpButton* m_sort;

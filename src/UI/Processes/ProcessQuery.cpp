@@ -39,7 +39,8 @@ QList<ProcessTableRow> ProcessQuery::flatRows(const QList<ProcSample>& processes
     QList<ProcessTableRow> rows;
     rows.reserve(shown.size());
     for (const ProcSample& process : shown)
-        rows.append({process, {}, process.rssBytes, process.cpuPercent, counts.value(process.name)});
+        rows.append(
+            {.first = process, .cpuPercent = process.cpuPercent, .sameName = counts.value(process.name)});
     return rows;
 }
 
@@ -55,10 +56,11 @@ QList<ProcessTableRow> ProcessQuery::groupedRows(const QList<ProcSample>& proces
         }
         ProcessTableRow& row = rows[index];
         row.processes.append(process);
-        row.rssBytes += process.rssBytes;
+        row.memory.add(process);
         row.cpuPercent += process.cpuPercent;
         ++row.sameName;
     }
-    std::ranges::stable_sort(rows, std::ranges::greater(), &ProcessTableRow::rssBytes);
+    std::ranges::stable_sort(rows, std::ranges::greater(),
+                             [](const ProcessTableRow& row) { return row.memory.bytes; });
     return rows;
 }

@@ -2,11 +2,11 @@
 
 #include "UI/Kit/TableColumn.h"
 
-void ProcessTableModel::setGrouped(bool grouped) {
+void ProcessTableModel::setColumns(bool grouped, const QStringList& chosen) {
     replace({});
     beginResetModel();
     m_isGrouped = grouped;
-    m_columns = ProcessColumns::shown(grouped);
+    m_columns = ProcessColumns::shown(grouped, chosen);
     endResetModel();
 }
 

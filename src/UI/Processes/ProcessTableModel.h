@@ -23,8 +23,9 @@ class ProcessTableModel : public KeyedTableModel<ProcessTableRow, ProcessRowKey>
 public:
     using KeyedTableModel::KeyedTableModel;
 
-    /// Sets whether there is a row for each name. Removes all rows; the caller adds others.
-    void setGrouped(bool grouped);
+    /// Sets whether there is a row for each name, and which optional columns there are. Removes all rows; the
+    /// caller adds others.
+    void setColumns(bool grouped, const QStringList& chosen);
     bool isGrouped() const { return m_isGrouped; }
     const QList<const ProcessColumn*>& columns() const { return m_columns; }
     const ProcessColumn& columnOf(const QModelIndex& index) const { return *m_columns[index.column()]; }
@@ -38,5 +39,5 @@ protected:
 
 private:
     bool m_isGrouped = false;
-    QList<const ProcessColumn*> m_columns = ProcessColumns::shown(m_isGrouped);
+    QList<const ProcessColumn*> m_columns = ProcessColumns::shown(m_isGrouped, {});
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Sampling/ProcSample.h"
+#include "Core/Memory/SummedMemory.h"
 
 #include <QList>
 
@@ -8,7 +8,7 @@
 struct ProcessTableRow {
     ProcSample first;                 ///< the process, or the first of the name
     QList<ProcSample> processes = {}; ///< empty for one process
-    quint64 rssBytes = 0;
+    SummedMemory memory = {};         ///< of all of the name
     double cpuPercent = 0;
     int sameName = 1; ///< the number of processes of that name: on the machine, or in the row
 };

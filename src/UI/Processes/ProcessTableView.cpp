@@ -2,13 +2,17 @@
 
 #include "Preferences.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString shownKey = u"ui.processes.shownColumns"_s;
 
 QString widthsKey(bool isGrouped) {
     return isGrouped ? u"ui.processes.groupedColumns"_s : u"ui.processes.columns"_s;
@@ -29,23 +33,65 @@ ProcessTableView::ProcessTableView(Preferences& preferences, QWidget* parent)
     : TableView(tr("Processes"), parent)
     , m_rows(new ProcessTableModel(this))
     , m_delegate(new ProcessRowDelegate(this))
-    , m_widths(*header(), preferences.file()) {
+    , m_file(preferences.file())
+    , m_widths(*header(), m_file)
+    , m_chosen(m_file.text(shownKey).value_or(QString()).split(u' ', Qt::SkipEmptyParts)) {
     setModel(m_rows);
     setItemDelegate(m_delegate);
     setSelectionMode(ExtendedSelection);
     header()->setSortIndicatorShown(true);
     header()->setSectionsClickable(true);
-    migrateWidths(preferences.file());
-    restoreWidths();
+    header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    migrateWidths(m_file);
+    setColumns(false);
     connect(m_delegate, &ProcessRowDelegate::triggered, this, &ProcessTableView::triggered);
     connect(header(), &QHeaderView::sectionClicked, this, &ProcessTableView::requestSort);
+    connect(header(), &QHeaderView::customContextMenuRequested, this, [this](QPoint at) {
+        QMenu menu;
+        fillColumnsMenu(menu);
+        menu.exec(header()->mapToGlobal(at));
+    });
+}
+
+void ProcessTableView::fillColumnsMenu(QMenu& menu) {
+    for (const ProcessColumn* column : ProcessColumns::optional()) {
+        const QString id = column->id.toString();
+        QAction* choice = menu.addAction(QCoreApplication::translate("Columns", column->title), this,
+                                         [this, id](bool isShown) { chooseColumn(id, isShown); });
+        choice->setCheckable(true);
+        choice->setChecked(m_chosen.contains(id));
+    }
+}
+
+void ProcessTableView::chooseColumn(const QString& id, bool isShown) {
+    m_chosen.removeAll(id);
+    if (isShown)
+        m_chosen.append(id);
+    m_file.store(shownKey, m_chosen.join(u' '));
+    setColumns(m_rows->isGrouped());
+    Q_EMIT columnsChanged();
+}
+
+void ProcessTableView::setColumns(bool isGrouped) {
+    m_rows->setColumns(isGrouped, m_chosen);
+    restoreWidths();
+}
+
+QList<qint32> ProcessTableView::pidsInView() const {
+    QList<qint32> pids;
+    for (QModelIndex index = indexAt({0, 0});
+         index.isValid() && visualRect(index).top() < viewport()->height(); index = indexBelow(index)) {
+        const ProcessTableRow& row = m_rows->row(index.row());
+        pids.append(row.first.pid);
+        for (const ProcSample& process : row.processes)
+            pids.append(process.pid);
+    }
+    return pids;
 }
 
 void ProcessTableView::show(QList<ProcessTableRow> rows, bool isGrouped) {
-    if (isGrouped != m_rows->isGrouped()) {
-        m_rows->setGrouped(isGrouped);
-        restoreWidths();
-    }
+    if (isGrouped != m_rows->isGrouped())
+        setColumns(isGrouped);
     m_rows->replace(std::move(rows));
     scrollToTop();
 }

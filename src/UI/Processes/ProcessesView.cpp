@@ -43,6 +43,8 @@ ProcessesView::ProcessesView(AppModel& model, Preferences& preferences, QWidget*
     connect(search, &QShortcut::activated, m_controls, &ProcessControls::focusSearch);
     connect(m_controls, &ProcessControls::changed, this, &ProcessesView::showQuery);
     connect(m_table, &ProcessTableView::sortRequested, m_controls, &ProcessControls::setSort);
+    connect(m_table, &ProcessTableView::columnsChanged, this, &ProcessesView::showQuery);
+    connect(m_controls, &ProcessControls::columnsMenuOpens, m_table, &ProcessTableView::fillColumnsMenu);
     connect(m_table, &ProcessTableView::triggered, this, &ProcessesView::act);
     connect(m_table, &ProcessTableView::menuOpens, m_menu, &ProcessMenu::fill);
     connect(m_menu, &ProcessMenu::triggered, this, &ProcessesView::act);
@@ -65,6 +67,8 @@ void ProcessesView::showQuery() {
 }
 
 void ProcessesView::refresh() {
+    m_model.memoryLedger().wantAll();
+    m_model.memoryLedger().wantOnShow(m_table->pidsInView());
     const QList<ProcessTableRow> shown = rows();
     m_stack->setCurrentIndex(shown.isEmpty() ? 1 : 0);
     m_table->update(shown);

@@ -1,0 +1,170 @@
+#include "Core/Memory/MemoryLedger.h"
+
+#include "Platform/Clock.h"
+
+#include <QPromise>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr auto maxAge = std::chrono::minutes(2);
+constexpr MemoryPlan::Nanoseconds firstPerMiB = std::chrono::microseconds(20); // small pages, measured
+constexpr quint64 leastTellingBytes = 16 << 20; // below it a cost says little about the cost of a page
+constexpr int weightOfPast = 7;                 // of 8, in the cost per MiB
+
+} // namespace
+
+MemoryLedger::MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock)
+    : m_memory(std::move(memory))
+    , m_clock(std::move(clock))
+    , m_perMiB(firstPerMiB) {
+    m_pool.setMaxThreadCount(1);
+}
+
+MemoryLedger::~MemoryLedger() {
+    m_slice.cancel();
+    m_pool.waitForDone();
+}
+
+void MemoryLedger::tick(QList<ProcSample>& processes) {
+    m_now = m_clock->uptime();
+    ++m_tick;
+    const bool isReading = m_slice.isValid() && !m_slice.isFinished();
+    if (m_slice.isValid() && m_slice.isFinished())
+        takeOver(std::exchange(m_slice, Slice()).takeResult());
+    handOut(processes);
+    m_credit = std::min(MemoryPlan::maxCredit, m_credit + MemoryPlan::creditPerTick);
+    if (!isReading && (m_wantsAll || !m_onShow.isEmpty() || !m_asked.isEmpty()))
+        startSlice(MemoryPlan::slice(wanted(processes), m_credit, m_perMiB), processes);
+    m_wantsAll = false;
+    m_onShow.clear();
+    m_asked.clear();
+}
+
+void MemoryLedger::takeOver(const QList<Result>& results) {
+    for (const Result& result : results) {
+        m_credit -= result.reading.cost;
+        const auto entry = m_entries.find(result.pid);
+        if (entry != m_entries.end())
+            enter(*entry, result);
+    }
+}
+
+void MemoryLedger::enter(Entry& entry, const Result& result) {
+    entry.isRefused |= result.isRefused;
+    entry.readAt = m_now;
+    if (!result.reading.use)
+        return;
+    MemoryFigures figures{.use = *result.reading.use, .readAt = m_now, .isRefused = entry.isRefused};
+    if (figures.isProportional()) {
+        learnCost(entry, result.reading.cost);
+        entry.lastCost = result.reading.cost;
+        entry.costBytes = entry.residentWhenRead;
+        entry.repeats = 0;
+    } else if (entry.figures && entry.figures->isProportional() && entry.keptSize) {
+        ++entry.repeats;
+        figures.use = entry.figures->use; // the shares go on
+        figures.use.anonymousBytes = result.reading.use->anonymousBytes;
+        figures.use.swapBytes = result.reading.use->swapBytes;
+    }
+    entry.figures = std::make_shared<const MemoryFigures>(figures);
+}
+
+void MemoryLedger::learnCost(const Entry& entry, MemoryPlan::Nanoseconds cost) {
+    if (entry.residentWhenRead < leastTellingBytes)
+        return;
+    const auto mebibytes = static_cast<qint64>(entry.residentWhenRead >> 20);
+    m_perMiB = (m_perMiB * weightOfPast + cost / mebibytes) / (weightOfPast + 1);
+}
+
+void MemoryLedger::handOut(QList<ProcSample>& processes) {
+    if (m_entries.isEmpty() && !m_wantsAll && m_onShow.isEmpty() && m_asked.isEmpty())
+        return;
+    for (ProcSample& process : processes) {
+        const auto found = m_entries.find(process.pid);
+        if (found == m_entries.end())
+            continue;
+        if (found->startTime != process.startTime ||
+            (found->figures && m_now - found->figures->readAt > maxAge))
+            continue; // leaves the entry to be forgotten
+        found->tick = m_tick;
+        process.memory = found->figures;
+    }
+    m_entries.removeIf([this](const auto& entry) { return entry->tick != m_tick; });
+}
+
+bool MemoryLedger::isWanted(qint32 pid) const {
+    return m_wantsAll || m_onShow.contains(pid) || m_asked.contains(pid);
+}
+
+QList<MemoryPlan::Process> MemoryLedger::wanted(const QList<ProcSample>& processes) const {
+    QList<MemoryPlan::Process> result;
+    for (const ProcSample& process : processes) {
+        if (!isWanted(process.pid))
+            continue;
+        MemoryPlan::Process known{.pid = process.pid,
+                                  .residentBytes = process.rssBytes,
+                                  .isOnShow = m_onShow.contains(process.pid),
+                                  .isAsked = m_asked.contains(process.pid)};
+        const auto entry = m_entries.constFind(process.pid);
+        if (entry != m_entries.cend()) {
+            known.residentWhenRead = entry->residentWhenRead;
+            known.ageSeconds = std::chrono::duration<double>(m_now - entry->readAt).count();
+            known.lastCost = entry->lastCost;
+            known.costBytes = entry->costBytes;
+            known.repeats = entry->repeats;
+            known.isRefused = entry->isRefused;
+        }
+        result.append(known);
+    }
+    return result;
+}
+
+void MemoryLedger::startSlice(const QList<MemoryPlan::Reading>& readings,
+                              const QList<ProcSample>& processes) {
+    if (readings.isEmpty())
+        return;
+    QSet<qint32> pids;
+    for (const MemoryPlan::Reading& reading : readings)
+        pids.insert(reading.pid);
+    for (const ProcSample& process : processes) {
+        if (!pids.contains(process.pid))
+            continue;
+        Entry& entry = m_entries[process.pid];
+        entry.startTime = process.startTime;
+        entry.tick = m_tick;
+        entry.keptSize = !MemoryPlan::hasChangedSize(process.rssBytes, entry.residentWhenRead);
+        entry.residentWhenRead = process.rssBytes;
+    }
+    QPromise<QList<Result>> promise;
+    m_slice = promise.future();
+    promise.start();
+    const auto run = [memory = m_memory, readings](QPromise<QList<Result>>& into) {
+        QList<Result> results;
+        for (const MemoryPlan::Reading& reading : readings) {
+            if (into.isCanceled())
+                break;
+            results.append(read(*memory, reading));
+        }
+        into.addResult(results);
+        into.finish();
+    };
+    m_pool.start(
+        [run, promise = std::make_shared<QPromise<QList<Result>>>(std::move(promise))] { run(*promise); });
+}
+
+MemoryLedger::Result MemoryLedger::read(ProcessMemory& memory, const MemoryPlan::Reading& wanted) {
+    Result result{.pid = wanted.pid};
+    if (wanted.all) {
+        result.reading = memory.readAll(wanted.pid);
+        if (result.reading.use)
+            return result;
+        result.isRefused = true;
+    }
+    const auto spent = result.reading.cost;
+    result.reading = memory.readTotals(wanted.pid);
+    result.reading.cost += spent;
+    return result;
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Core/Memory/MemoryFigures.h"
+#include "Core/Memory/MemoryPlan.h"
+#include "Core/Sampling/ProcSample.h"
+
+#include <QFuture>
+#include <QHash>
+#include <QSet>
+#include <QThreadPool>
+
+#include <memory>
+#include <optional>
+
+class Clock;
+class ProcessMemory;
+
+/// What each process has in memory and in swap, shared pages divided among those that map them.
+///
+/// Such a figure costs up to a thousand times what a resident size costs. So the ledger reads a slice of the
+/// processes each tick, on a thread of its own, at a processor time of one millisecond a tick on average (see
+/// MemoryPlan), and only what was wanted since the tick before. The figures of a slice are handed out at the
+/// next tick.
+class MemoryLedger {
+public:
+    MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock);
+    ~MemoryLedger();
+
+    /// Wants the figures of all processes at the next tick. Views call it whenever they refresh.
+    void wantAll() { m_wantsAll = true; }
+    /// Wants those of these processes, before others.
+    void wantOnShow(const QList<qint32>& pids) { m_onShow.unite({pids.begin(), pids.end()}); }
+    /// Wants those that a person asked for: first, and whatever they cost.
+    void wantAsked(const QList<qint32>& pids) { m_asked.unite({pids.begin(), pids.end()}); }
+
+    /// Gives each process its figures, where these are at most two minutes old, and starts the next slice.
+    /// Called once a tick with all processes.
+    void tick(QList<ProcSample>& processes);
+
+    /// Waits for the slice under way, in tests and benchmarks only.
+    void waitForSlice() { m_pool.waitForDone(); }
+
+private:
+    struct Entry {
+        Instant startTime;
+        std::shared_ptr<const MemoryFigures> figures;
+        quint64 residentWhenRead = 0;
+        bool keptSize = false; ///< between the last two readings
+        std::chrono::steady_clock::time_point readAt;
+        std::optional<MemoryPlan::Nanoseconds> lastCost;
+        quint64 costBytes = 0;
+        int repeats = 0;
+        bool isRefused = false;
+        quint32 tick = 0; ///< the last that listed the process
+    };
+    struct Result {
+        qint32 pid = 0;
+        bool isRefused = false; ///< all figures were; the reading has the totals
+        ProcessMemoryReading reading;
+    };
+    using Slice = QFuture<QList<Result>>;
+
+    void takeOver(const QList<Result>& results);
+    void enter(Entry& entry, const Result& result);
+    void learnCost(const Entry& entry, MemoryPlan::Nanoseconds cost);
+    void handOut(QList<ProcSample>& processes);
+    bool isWanted(qint32 pid) const;
+    QList<MemoryPlan::Process> wanted(const QList<ProcSample>& processes) const;
+    void startSlice(const QList<MemoryPlan::Reading>& readings, const QList<ProcSample>& processes);
+    static Result read(ProcessMemory& memory, const MemoryPlan::Reading& wanted);
+
+    std::shared_ptr<ProcessMemory> m_memory;
+    std::shared_ptr<Clock> m_clock;
+    QHash<qint32, Entry> m_entries;
+    QSet<qint32> m_onShow;
+    QSet<qint32> m_asked;
+    bool m_wantsAll = false;
+    MemoryPlan::Nanoseconds m_credit = MemoryPlan::maxCredit; ///< negative after a dear reading
+    MemoryPlan::Nanoseconds m_perMiB;
+    std::chrono::steady_clock::time_point m_now;
+    quint32 m_tick = 0;
+    QThreadPool m_pool;
+    Slice m_slice;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QList>
+
+#include <chrono>
+#include <limits>
+#include <optional>
+
+/// Chooses which processes the next slice of the memory ledger reads, and how.
+namespace MemoryPlan {
+
+using Nanoseconds = std::chrono::nanoseconds;
+
+constexpr Nanoseconds creditPerTick = std::chrono::milliseconds(1);
+constexpr Nanoseconds maxCredit = std::chrono::milliseconds(4);
+/// Everything is read again before it is a minute old.
+constexpr double dueSeconds = 45;
+/// Larger processes are read only when a person asks.
+constexpr quint64 maxUnaskedBytes = quint64(4) << 30;
+
+/// A process as the ledger knows it.
+struct Process {
+    qint32 pid = 0;
+    quint64 residentBytes = 0;
+    quint64 residentWhenRead = 0;                                ///< at the last reading of any kind
+    double ageSeconds = std::numeric_limits<double>::infinity(); ///< of the last reading
+    std::optional<Nanoseconds> lastCost;                         ///< of the last reading of all figures
+    quint64 costBytes = 0;                                       ///< its resident size then
+    int repeats = 0;                                             ///< readings of the totals alone since then
+    bool isRefused = false;                                      ///< all figures were refused
+    bool isOnShow = false;
+    bool isAsked = false; ///< by a person
+};
+
+/// Returns whether the process grew or shrank so much since it was read that its figures are no longer true.
+bool hasChangedSize(quint64 residentBytes, quint64 residentWhenRead);
+
+struct Reading {
+    qint32 pid = 0;
+    bool all = false; ///< every figure, else the totals
+
+    bool operator==(const Reading&) const = default;
+};
+
+/// Returns the processor time that a reading of all figures will take, by the cost per MiB of those before.
+Nanoseconds expectedCost(const Process& process, Nanoseconds perMiB);
+
+/// Returns the readings of a slice, those of totals first: what a person asked for, what is on show, new,
+/// grown or due, the largest first in each. Their expected cost stays within `credit`. A process that costs
+/// more than `maxCredit` is read once the credit is full.
+QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, Nanoseconds perMiB);
+
+} // namespace MemoryPlan

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Core/Sampling/ProcSample.h"
+
+#include <QList>
+
+/// What the machine gets back when processes end, in bytes: memory that is in use, and swap.
+struct MemoryReturn {
+    quint64 memoryBytes = 0;
+    quint64 swapBytes = 0;
+    bool isRough = false; ///< at most so much: for what is not read, its resident or its anonymous memory
+
+    MemoryReturn& operator+=(const MemoryReturn& other);
+    quint64 totalBytes() const { return memoryBytes + swapBytes; }
+    bool operator==(const MemoryReturn&) const = default;
+
+    /// Returns what the end of this process alone gives back.
+    static MemoryReturn ofEnding(const ProcSample& process);
+    /// Returns what the end of exactly these processes gives back. `all` are the processes of the machine.
+    ///
+    /// A page that several processes map comes back with the last of them. Processes share pages that count
+    /// when one forked the other and both still run the same program. So the shared pages of such a family
+    /// count once when all of it ends, and not at all while one member stays. Clean pages of files never
+    /// count: the system keeps them as cache.
+    static MemoryReturn ofEnding(const QList<qint32>& pids, const QList<ProcSample>& all);
+};

@@ -1,0 +1,190 @@
+#include "Core/Memory/MemoryLedger.h"
+
+#include "support/Each.h"
+#include "support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint64 MiB = 1 << 20;
+constexpr auto perMiB = 20us;
+
+using MemoryPlan::Process;
+using MemoryPlan::Reading;
+
+QList<Reading> planned(const QList<Process>& processes, std::chrono::nanoseconds credit = 4ms) {
+    return MemoryPlan::slice(processes, credit, perMiB);
+}
+
+/// A process that was read whole.
+Process known(qint32 pid, quint64 residentBytes, double ageSeconds) {
+    return {.pid = pid,
+            .residentBytes = residentBytes,
+            .residentWhenRead = residentBytes,
+            .ageSeconds = ageSeconds,
+            .lastCost = 100us,
+            .costBytes = residentBytes};
+}
+
+struct MemoryLedgerTest : testing::Test {
+    FakePlatform fakes;
+    FakeProcessMemory& memory = *fakes.processMemory;
+    QList<ProcSample> processes;
+    MemoryLedger ledger{fakes.processMemory, fakes.clock};
+
+    void add(qint32 pid, quint64 rssBytes = 10 * MiB) {
+        processes.append({.pid = pid, .rssBytes = rssBytes, .startTime = Instant(std::chrono::seconds(pid))});
+    }
+    /// Runs a tick two seconds later with a slice behind it, and returns what was read in that.
+    QStringList tick() {
+        memory.readings.clear();
+        fakes.clock->advance(2);
+        for (ProcSample& process : processes)
+            process.memory = nullptr;
+        ledger.tick(processes);
+        ledger.waitForSlice();
+        return memory.readings;
+    }
+    QStringList tickForAll() {
+        ledger.wantAll();
+        return tick();
+    }
+};
+
+} // namespace
+
+TEST(MemoryPlanTest, AskedThenShownThenNewThenGrownThenDue) {
+    Process asked = known(1, 10 * MiB, 6);
+    asked.isAsked = true;
+    Process onShow = known(2, 10 * MiB, 6);
+    onShow.isOnShow = true;
+    Process grown = known(5, 30 * MiB, 4);
+    grown.residentWhenRead = 28 * MiB;
+    const Process small = {.pid = 6, .residentBytes = 8 * MiB - 1};
+    const QList<Process> processes = {known(8, 40 * MiB, 44),
+                                      known(7, 40 * MiB, 46),
+                                      small,
+                                      grown,
+                                      {.pid = 3, .residentBytes = 9 * MiB},
+                                      {.pid = 4, .residentBytes = 20 * MiB},
+                                      onShow,
+                                      asked};
+    EXPECT_EQ(
+        planned(processes),
+        (QList<Reading>{{2, false}, {6, false}, {7, false}, {1, true}, {4, true}, {3, true}, {5, true}}));
+}
+
+TEST(MemoryPlanTest, TheTotalsStandForTheWholeFourTimesAtMost) {
+    Process process = known(1, 40 * MiB, 46);
+    process.repeats = 3;
+    EXPECT_EQ(planned({process}), (QList<Reading>{{1, false}}));
+    process.repeats = 4;
+    EXPECT_EQ(planned({process}), (QList<Reading>{{1, true}}));
+    process.isRefused = true;
+    EXPECT_EQ(planned({process}), (QList<Reading>{{1, false}}));
+}
+
+TEST(MemoryPlanTest, ASliceStaysWithinItsCredit) {
+    QList<Process> processes;
+    for (qint32 pid = 1; pid <= 100; ++pid)
+        processes.append({.pid = pid, .residentBytes = 23 * MiB}); // 500 us each
+    EXPECT_EQ(planned(processes, 1ms).size(), 2);
+    EXPECT_EQ(planned(processes, 4ms).size(), 8);
+    EXPECT_EQ(planned(processes, -5ms).size(), 0);
+    for (Process& process : processes)
+        process.residentBytes = MiB;
+    EXPECT_EQ(planned(processes, 4ms).size(), 33) << "half a millisecond of totals";
+}
+
+TEST(MemoryPlanTest, ADearProcessIsReadOnceTheCreditIsFull) {
+    const Process dear{.pid = 1, .residentBytes = 1024 * MiB};
+    const Process cheap{.pid = 2, .residentBytes = 10 * MiB};
+    EXPECT_EQ(planned({dear, cheap}, 3ms), QList<Reading>()) << "saves for the larger";
+    EXPECT_EQ(planned({dear, cheap}, 4ms), (QList<Reading>{{1, true}}));
+}
+
+TEST(MemoryPlanTest, MoreThanFourGigabytesOnlyWhenAsked) {
+    Process huge{.pid = 1, .residentBytes = MemoryPlan::maxUnaskedBytes + 1};
+    EXPECT_EQ(planned({huge}), (QList<Reading>{{1, false}}));
+    huge.isAsked = true;
+    EXPECT_EQ(planned({huge}), (QList<Reading>{{1, true}}));
+}
+
+TEST_F(MemoryLedgerTest, FiguresArriveOneTickLater) {
+    add(1);
+    memory.all[1] = {.proportionalBytes = 3 * MiB, .uniqueBytes = 2 * MiB, .swapBytes = MiB};
+    EXPECT_EQ(tickForAll(), QStringList(u"all 1"_s));
+    EXPECT_FALSE(processes[0].memory);
+    EXPECT_EQ(tickForAll(), QStringList()) << "it is fresh";
+    ASSERT_TRUE(processes[0].memory);
+    EXPECT_EQ(processes[0].memory->use, memory.all[1]);
+    EXPECT_EQ(processes[0].memory->readAt, fakes.clock->steady);
+}
+
+TEST_F(MemoryLedgerTest, NothingIsReadUnlessSomethingWantsIt) {
+    add(1);
+    add(2);
+    memory.all = {{1, {.proportionalBytes = 1}}, {2, {.proportionalBytes = 2}}};
+    EXPECT_EQ(tick(), QStringList());
+    ledger.wantOnShow({2});
+    EXPECT_EQ(tick(), QStringList(u"all 2"_s));
+    EXPECT_EQ(tick(), QStringList()) << "a wish lasts one tick";
+    fakes.clock->advance(117);
+    tick();
+    EXPECT_TRUE(processes[1].memory);
+    tick();
+    EXPECT_FALSE(processes[1].memory) << "figures last two minutes";
+}
+
+TEST_F(MemoryLedgerTest, ARefusedProcessHasItsTotals) {
+    add(1);
+    memory.totals[1] = {.anonymousBytes = 5, .swapBytes = 1};
+    EXPECT_EQ(tickForAll(), (QStringList{u"all 1"_s, u"totals 1"_s}));
+    tickForAll();
+    ASSERT_TRUE(processes[0].memory);
+    EXPECT_EQ(processes[0].memory->use, memory.totals[1]);
+    EXPECT_TRUE(processes[0].memory->isRefused);
+    fakes.clock->advance(45);
+    EXPECT_EQ(tickForAll(), QStringList(u"totals 1"_s)) << "it is not asked for more again";
+}
+
+TEST_F(MemoryLedgerTest, SharesGoOnWhileTheProcessKeepsItsSize) {
+    add(1);
+    memory.all[1] = {.proportionalBytes = 30, .anonymousBytes = 20, .swapBytes = 1};
+    memory.totals[1] = {.anonymousBytes = 21, .swapBytes = 2};
+    tickForAll();
+    tickForAll();
+    fakes.clock->advance(45);
+    EXPECT_EQ(tickForAll(), QStringList(u"totals 1"_s));
+    tickForAll();
+    EXPECT_EQ(processes[0].memory->use,
+              (ProcessMemoryUse{.proportionalBytes = 30, .anonymousBytes = 21, .swapBytes = 2}));
+    processes[0].rssBytes *= 10;
+    EXPECT_EQ(tickForAll(), QStringList(u"all 1"_s));
+}
+
+TEST_F(MemoryLedgerTest, AnotherProcessOfThatPidHasNoFigures) {
+    add(1);
+    memory.all[1] = {.proportionalBytes = 30};
+    tickForAll();
+    processes[0].startTime += std::chrono::seconds(1);
+    EXPECT_EQ(tickForAll(), QStringList(u"all 1"_s));
+    EXPECT_FALSE(processes[0].memory);
+}
+
+TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
+    memory.cost = 10ms;
+    add(1, 500 * MiB);
+    memory.all[1] = {.proportionalBytes = 1};
+    tickForAll();
+    add(2);
+    memory.all[2] = {.proportionalBytes = 2};
+    int ticks = 1;
+    while (tickForAll().isEmpty() && ticks < 50)
+        ++ticks;
+    EXPECT_EQ(ticks, 7) << "4 - 10 ms, and one more each tick";
+}

@@ -1,0 +1,91 @@
+#include "Platform/Linux/LinuxProcessMemory.h"
+
+#include "Platform/Child.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr quint64 MiB = 1 << 20;
+
+char* touched(size_t bytes) {
+    void* area = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    madvise(area, bytes, MADV_NOHUGEPAGE);
+    std::memset(area, 1, bytes);
+    return static_cast<char*>(area);
+}
+
+} // namespace
+
+TEST(ProcessMemoryTest, SharedPagesAreDividedAndOwnOnesAreNot) {
+    constexpr size_t shared = 40 * MiB;
+    constexpr size_t own = 10 * MiB;
+    char* area = touched(shared);
+    std::vector<std::unique_ptr<Child>> children;
+    for (int i = 0; i < 3; ++i) {
+        children.push_back(std::make_unique<Child>([](int socket) {
+            touched(own);
+            char command = 'r';
+            (void)!write(socket, &command, 1);
+            (void)!read(socket, &command, 1);
+        }));
+        children.back()->heard();
+    }
+    LinuxProcessMemory memory;
+    const auto reading = memory.readAll(children[0]->pid());
+    munmap(area, shared);
+    ASSERT_TRUE(reading.use);
+    const ProcessMemoryUse& use = *reading.use;
+    EXPECT_NEAR(double(*use.proportionalDirtyBytes), double(own + shared / 4), 3.0 * MiB);
+    EXPECT_NEAR(double(*use.uniqueDirtyBytes), double(own), 3.0 * MiB);
+    EXPECT_GE(*use.uniqueBytes, *use.uniqueDirtyBytes);
+    EXPECT_GE(*use.anonymousBytes, own + shared);
+    EXPECT_EQ(use.swapBytes.has_value(), use.proportionalSwapBytes.has_value());
+    EXPECT_GT(reading.cost.count(), 0);
+
+    const auto totals = memory.readTotals(children[0]->pid());
+    ASSERT_TRUE(totals.use);
+    EXPECT_NEAR(double(*totals.use->anonymousBytes), double(*use.anonymousBytes), 1.0 * MiB);
+    EXPECT_LT(totals.cost, reading.cost);
+}
+
+TEST(ProcessMemoryTest, AnEndedProcessAndOneWithoutMemoryHaveNoFigures) {
+    LinuxProcessMemory memory;
+    Child child([](int) {});
+    char ended = 0;
+    EXPECT_EQ(child.heard(), ended); // a zombie until it is reaped
+    EXPECT_FALSE(memory.readAll(child.pid()).use);
+    EXPECT_FALSE(memory.readTotals(child.pid()).use);
+    child.end();
+    EXPECT_FALSE(memory.readAll(child.pid()).use);
+    EXPECT_FALSE(memory.readTotals(child.pid()).use);
+    EXPECT_FALSE(LinuxProcessMemory("/nowhere").readAll(getpid()).use);
+}
+
+TEST(ProcessMemoryTest, LinesThatAKernelLacksAreUnknown) {
+    const ProcessMemoryUse old =
+        LinuxProcessMemory::parseRollup("00400000-7ffe ---p 00000000 00:00 0 [rollup]\n"
+                                        "Rss:                 884 kB\n"
+                                        "Pss:                 385 kB\n"
+                                        "Pss_Anon:            301 kB\n"
+                                        "Pss_Shmem:             4 kB\n"
+                                        "Private_Clean:       100 kB\n"
+                                        "Private_Dirty:        92 kB\n"
+                                        "Anonymous:           301 kB\n");
+    EXPECT_EQ(old, (ProcessMemoryUse{.proportionalBytes = 385 << 10,
+                                     .proportionalDirtyBytes = 305 << 10,
+                                     .uniqueBytes = 192 << 10,
+                                     .uniqueDirtyBytes = 92 << 10,
+                                     .anonymousBytes = 301 << 10}));
+    EXPECT_EQ(LinuxProcessMemory::parseRollup("Pss: x kB\nSwap: 99999999999999999999 kB"),
+              ProcessMemoryUse());
+    EXPECT_EQ(LinuxProcessMemory::parseStatus("Name:\ta\nVmSwap:\t     8 kB\n"),
+              (ProcessMemoryUse{.swapBytes = 8 << 10}));
+}
