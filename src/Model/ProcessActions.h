@@ -82,6 +82,7 @@ private:
     QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     std::optional<QString> applicationOf(const ProcSample& process) const;
     QList<ProcSample> processesOf(const QString& application) const;
+    void setApplication(NukePreview& preview, const QList<ProcSample>& owned) const;
     QList<ProcSample> inTerminalsOf(const QList<ProcSample>& processes) const;
 
     Platform m_platform;

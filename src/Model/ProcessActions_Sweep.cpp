@@ -2,9 +2,12 @@
 
 #include "Platform/Applications.h"
 #include "Platform/Identity.h"
+#include "Platform/Log.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/Relief.h"
 
 #include <QPointer>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -34,8 +37,7 @@ NukePreview ProcessActions::previewForName(const QString& name) const {
         return preview;
     }
     const QList<ProcSample> owned = processesOf(*preview.parentAppName);
-    preview.inTerminals = inTerminalsOf(owned);
-    preview.givesBack = givesBack(pidsOf(owned));
+    setApplication(preview, owned);
     return preview;
 }
 
@@ -76,12 +78,28 @@ QList<ProcSample> ProcessActions::inTerminalsOf(const QList<ProcSample>& process
     return found;
 }
 
+/// Sets what ends with an application, and what that gives back. Where its processes are a control group of
+/// their own, the kernel has counted that.
+void ProcessActions::setApplication(NukePreview& preview, const QList<ProcSample>& owned) const {
+    preview.inTerminals = inTerminalsOf(owned);
+    const QList<qint32> pids = pidsOf(owned);
+    preview.givesBack = givesBack(pids);
+    const auto group = m_platform.processMemory->controlGroup(pids.value(0));
+    if (!group ||
+        QSet<qint32>(group->pids.begin(), group->pids.end()) != QSet<qint32>(pids.begin(), pids.end()))
+        return;
+    qCDebug(Log::relief) << "control group" << group->memoryBytes << "cache" << group->cacheBytes << "sum"
+                         << preview.givesBack.memoryBytes;
+    preview.givesBack = {.memoryBytes = group->memoryBytes - group->cacheBytes,
+                         .swapBytes = group->swapBytes};
+    preview.cacheBytes = group->cacheBytes;
+}
+
 NukePreview ProcessActions::previewForApplication(const QString& application) const {
     const QList<ProcSample> owned = processesOf(application);
     NukePreview preview =
         NukePreview::make(application, owned, NukePreview::Applications(owned.size(), application));
-    preview.inTerminals = inTerminalsOf(owned);
-    preview.givesBack = givesBack(preview.pids);
+    setApplication(preview, owned);
     return preview;
 }
 

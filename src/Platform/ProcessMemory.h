@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 #include <chrono>
 #include <optional>
@@ -25,6 +25,14 @@ struct ProcessMemoryReading {
     std::chrono::nanoseconds cost{};     ///< processor time of the look
 };
 
+/// What the kernel counts for a control group and all below it, in bytes.
+struct ControlGroupMemory {
+    QList<qint32> pids;      ///< of all its processes
+    quint64 memoryBytes = 0; ///< in use, with what the kernel keeps for it
+    quint64 cacheBytes = 0;  ///< of these, clean and dirty pages of files, which stay in memory when it ends
+    quint64 swapBytes = 0;
+};
+
 /// Looks at the memory of single processes. Called on any thread.
 class ProcessMemory {
 public:
@@ -34,4 +42,6 @@ public:
     virtual ProcessMemoryReading readAll(qint32 pid) = 0;
     /// Reads `anonymousBytes` and `swapBytes`, at the same small cost for any process of any user.
     virtual ProcessMemoryReading readTotals(qint32 pid) = 0;
+    /// Reads the control group of a process. Returns an empty optional where the kernel counts none.
+    virtual std::optional<ControlGroupMemory> controlGroup(qint32 pid) = 0;
 };

@@ -99,6 +99,23 @@ TEST_F(SweepTest, TheProcessesInATerminalAreNamed) {
     EXPECT_TRUE(model->actions().previewForName(u"bash"_s).inTerminals.isEmpty());
 }
 
+TEST_F(SweepTest, AControlGroupOfItsOwnSaysWhatComesBack) {
+    constexpr quint64 MiB = 1 << 20;
+    add(1, "app", 90 * MiB);
+    add(2, "app", 80 * MiB);
+    tick();
+    for (const qint32 pid : {1, 2})
+        fakes.applications->byProcess[pid] = {.id = u"app"_s, .name = u"App"_s};
+    ControlGroupMemory group{
+        .pids = {2, 1}, .memoryBytes = 100 * MiB, .cacheBytes = 30 * MiB, .swapBytes = 5 * MiB};
+    fakes.processMemory->controlGroups[1] = group;
+    const auto message = [this] { return model->actions().previewForApplication(u"App"_s).dialogMessage(); };
+    EXPECT_TRUE(message().endsWith(u"Frees ≈75 MB. 30 MB of its files stay in the cache."_s));
+    group.pids.append(3); // somebody else's
+    fakes.processMemory->controlGroups[1] = group;
+    EXPECT_TRUE(message().endsWith(u"Frees ≈170 MB."_s));
+}
+
 TEST_F(SweepTest, AnApplicationIsAskedAndNoProcessSignalled) {
     const NukePreview preview = previewOf({u"/A/Note.app/a"_s}, 1024);
     EXPECT_EQ(QCoro::waitFor(model->actions().nukeGracefulApp(preview, u"Note"_s, false)),

@@ -2,11 +2,16 @@
 
 #include "Platform/Child.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <vector>
@@ -67,6 +72,32 @@ TEST(ProcessMemoryTest, AnEndedProcessAndOneWithoutMemoryHaveNoFigures) {
     EXPECT_FALSE(memory.readAll(child.pid()).use);
     EXPECT_FALSE(memory.readTotals(child.pid()).use);
     EXPECT_FALSE(LinuxProcessMemory("/nowhere").readAll(getpid()).use);
+}
+
+TEST(ProcessMemoryTest, AControlGroupIsCountedWithAllBelowIt) {
+    const QTemporaryDir root;
+    const auto write = [&root](const QString& path, const QByteArray& text) {
+        QDir(root.path()).mkpath(QFileInfo(path).path());
+        QFile file(root.filePath(path));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    };
+    write(QStringLiteral("proc/7/cgroup"), "1:name=systemd:/x\n0::/app.scope\n");
+    write(QStringLiteral("group/app.scope/cgroup.procs"), "7\n");
+    write(QStringLiteral("group/app.scope/below/cgroup.procs"), "9\n8\n");
+    LinuxProcessMemory memory(root.filePath(QStringLiteral("proc")).toStdString(),
+                              root.filePath(QStringLiteral("group")).toStdString());
+    EXPECT_FALSE(memory.controlGroup(7)) << "the kernel counts no memory for it";
+    write(QStringLiteral("group/app.scope/memory.current"), "1000\n");
+    write(QStringLiteral("group/app.scope/memory.stat"), "anon 500\nfile 400\nkernel 100\nshmem 150\n");
+    const auto group = memory.controlGroup(7);
+    ASSERT_TRUE(group);
+    QList<qint32> pids = group->pids;
+    std::ranges::sort(pids);
+    EXPECT_EQ(pids, (QList<qint32>{7, 8, 9}));
+    EXPECT_EQ(group->memoryBytes, 1000U);
+    EXPECT_EQ(group->cacheBytes, 250U);
+    EXPECT_EQ(group->swapBytes, 0U);
+    EXPECT_FALSE(memory.controlGroup(8));
 }
 
 TEST(ProcessMemoryTest, LinesThatAKernelLacksAreUnknown) {

@@ -115,12 +115,17 @@ class FakeProcessMemory : public ProcessMemory {
 public:
     QHash<qint32, ProcessMemoryUse> all;    ///< refused for a PID without an entry
     QHash<qint32, ProcessMemoryUse> totals; ///< the same
+    QHash<qint32, ControlGroupMemory> controlGroups;
     std::chrono::nanoseconds cost{};
     QStringList readings; ///< "all PID", "totals PID"
 
     ProcessMemoryReading readAll(qint32 pid) override { return answer(all, pid, QStringLiteral("all %1")); }
     ProcessMemoryReading readTotals(qint32 pid) override {
         return answer(totals, pid, QStringLiteral("totals %1"));
+    }
+    std::optional<ControlGroupMemory> controlGroup(qint32 pid) override {
+        const auto found = controlGroups.constFind(pid);
+        return found == controlGroups.cend() ? std::nullopt : std::optional(*found);
     }
 
 private:

@@ -88,13 +88,20 @@ QString NukePreview::dialogMessage() const {
                                                           "processes in one sweep, no per-tab pop-ups. "
                                                           "Frees ≈%3.")
                    .arg(*parentAppName, count, Formatters::bytes(givesBack.totalBytes())) +
-               terminalsMessage();
+               cacheMessage() + terminalsMessage();
     }
     return QCoreApplication::translate(
                "NukePreview",
                "Sends SIGTERM to all %1 PIDs. Use sparingly — unsaved work in those processes may be lost.")
                .arg(count) +
            u"\n\n"_s + QCoreApplication::translate("NukePreview", "PIDs: %1").arg(pidList(pids));
+}
+
+QString NukePreview::cacheMessage() const {
+    if (cacheBytes == 0)
+        return {};
+    return u' ' + QCoreApplication::translate("NukePreview", "%1 of its files stay in the cache.")
+                      .arg(Formatters::bytes(cacheBytes));
 }
 
 QString NukePreview::terminalsMessage() const {

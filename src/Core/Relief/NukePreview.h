@@ -9,10 +9,11 @@
 struct NukePreview {
     QUuid id;
     QString name;
-    QList<qint32> pids;                   ///< in the order of the process list
-    QList<Instant> startTimes;            ///< of each, which tells it from a process that reuses its PID
-    quint64 totalRSS = 0;                 ///< of all, shared pages once
-    MemoryReturn givesBack;               ///< when all of them end, or the application
+    QList<qint32> pids;        ///< in the order of the process list
+    QList<Instant> startTimes; ///< of each, which tells it from a process that reuses its PID
+    quint64 totalRSS = 0;      ///< of all, shared pages once
+    MemoryReturn givesBack;    ///< when all of them end, or the application
+    quint64 cacheBytes = 0;    ///< of the application's files, which stays; 0 when it is not counted apart
     std::optional<QString> parentAppName; ///< the one application that owns all of them
     QList<ProcSample> inTerminals;        ///< run in the application's terminals and end with it
 
@@ -38,5 +39,6 @@ struct NukePreview {
     QString killOutcome(int killed) const;
 
 private:
+    QString cacheMessage() const;
     QString terminalsMessage() const;
 };

@@ -2,8 +2,12 @@
 
 #include "Platform/Linux/KernelText.h"
 
+#include <QDirIterator>
+#include <QFile>
+
 #include <time.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -26,10 +30,34 @@ std::optional<quint64> sum(std::optional<quint64> first, std::optional<quint64> 
     return first && second ? std::optional(*first + *second) : std::nullopt;
 }
 
+/// Returns a number of the file, empty when the kernel does not count it.
+std::optional<quint64> countIn(const std::string& path) {
+    std::array<char, 64> room;
+    auto text = KernelFile(path).read(room);
+    return KernelText::takeNumber(text);
+}
+
+/// Returns the processes of the group and of all below it.
+QList<qint32> pidsBelow(const QString& group) {
+    QList<qint32> pids;
+    QDirIterator lists(group, {QStringLiteral("cgroup.procs")}, QDir::Files, QDirIterator::Subdirectories);
+    while (lists.hasNext()) {
+        QFile list(lists.next());
+        if (!list.open(QIODevice::ReadOnly))
+            continue;
+        for (const QByteArray& pid : list.readAll().split('\n')) {
+            if (!pid.isEmpty())
+                pids.append(pid.toInt());
+        }
+    }
+    return pids;
+}
+
 } // namespace
 
-LinuxProcessMemory::LinuxProcessMemory(const std::string& root)
-    : m_folder(root) {}
+LinuxProcessMemory::LinuxProcessMemory(const std::string& root, const std::string& controlGroups)
+    : m_folder(root)
+    , m_controlGroups(controlGroups) {}
 
 ProcessMemoryUse LinuxProcessMemory::parseRollup(std::string_view text) {
     const auto dirty = bytesOf(text, "Pss_Dirty:");
@@ -54,6 +82,26 @@ ProcessMemoryReading LinuxProcessMemory::readAll(qint32 pid) {
 
 ProcessMemoryReading LinuxProcessMemory::readTotals(qint32 pid) {
     return read(pid, "status", parseStatus);
+}
+
+std::optional<ControlGroupMemory> LinuxProcessMemory::controlGroup(qint32 pid) {
+    std::array<char, 4096> room;
+    const KernelFile file(m_folder.descriptor(), (std::to_string(pid) + "/cgroup").c_str());
+    const auto path = KernelText::valueOf(file.read(room), "0::");
+    if (!path)
+        return std::nullopt;
+    const std::string group = m_controlGroups + std::string(*path);
+    const auto memory = countIn(group + "/memory.current");
+    const KernelFile statistics(group + "/memory.stat");
+    const std::string_view text = statistics.read(room);
+    const auto files = numberOf(text, "file ");
+    if (!memory || !files)
+        return std::nullopt;
+    const quint64 cache = *files - std::min(*files, numberOf(text, "shmem ").value_or(0));
+    return ControlGroupMemory{.pids = pidsBelow(QString::fromStdString(group)),
+                              .memoryBytes = *memory,
+                              .cacheBytes = std::min(cache, *memory),
+                              .swapBytes = countIn(group + "/memory.swap.current").value_or(0)};
 }
 
 ProcessMemoryReading LinuxProcessMemory::read(qint32 pid, const char* name,

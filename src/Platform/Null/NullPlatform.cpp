@@ -42,6 +42,7 @@ class NullProcessTable : public ProcessTable {
 class NullProcessMemory : public ProcessMemory {
     ProcessMemoryReading readAll(qint32) override { return {}; }
     ProcessMemoryReading readTotals(qint32) override { return {}; }
+    std::optional<ControlGroupMemory> controlGroup(qint32) override { return {}; }
 };
 
 class NullPowerMode : public PowerMode {
