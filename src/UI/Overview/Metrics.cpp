@@ -1,6 +1,6 @@
 #include "Core/Formatters.h"
-#include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
+#include "UI/Style/Levels.h"
 
 #include <QCoreApplication>
 
