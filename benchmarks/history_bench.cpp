@@ -3,8 +3,8 @@
 
 #include "Core/ActionLog/ActionLogReader.h"
 #include "Core/Iso8601.h"
+#include "UI/Kit/TableView.h"
 #include "UI/Settings/HistoryTab.h"
-#include "UI/Settings/HistoryTableView.h"
 #include "UI/Style/Style.h"
 #include "UI/Style/Theme.h"
 
@@ -92,7 +92,7 @@ void measureTab(int lines) {
     HistoryTab tab;
     tab.resize(600, 360);
     tab.show();
-    auto* table = tab.findChild<HistoryTableView*>();
+    auto* table = tab.findChild<TableView*>();
     QScrollBar* bar = table->verticalScrollBar();
     const double page = median([&] {
         bar->setValue((bar->value() + bar->maximum() / 5) % bar->maximum());

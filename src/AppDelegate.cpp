@@ -2,7 +2,7 @@
 
 #include "AppModel.h"
 #include "Core/Announcements/MessageCenter.h"
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 #include "Platform/Desktop/DesktopApplication.h"
 #include "Platform/LoginItem.h"
 #include "Preferences.h"

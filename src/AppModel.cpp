@@ -1,6 +1,6 @@
 #include "AppModel.h"
 
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 #include "Platform/Identity.h"
 #include "Platform/PowerMode.h"
 #include "Preferences.h"

@@ -31,15 +31,8 @@ template <typename T> QVariant storable(const T& value) {
 } // namespace
 
 int spanSeconds(HistoryRetention retention) {
-    switch (retention) {
-    case HistoryRetention::fiveMin:
-        return 300;
-    case HistoryRetention::twentyFive:
-        return 1500;
-    case HistoryRetention::oneHour:
-        return 3600;
-    }
-    return 0;
+    constexpr int seconds[] = {300, 1500, 3600};
+    return seconds[static_cast<int>(retention)];
 }
 
 template <typename T> T Property<T>::operator()() const {

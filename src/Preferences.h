@@ -16,19 +16,19 @@ enum class MenuBarFormat { both, cpuOnly, ramOnly, iconOnly };
 
 template <>
 inline constexpr std::array rawValueTable<MenuBarFormat> = {
-    RawValueRow{MenuBarFormat::both, u"CPU% \u2022 RAM%"},
-    RawValueRow{MenuBarFormat::cpuOnly, u"CPU%"},
-    RawValueRow{MenuBarFormat::ramOnly, u"RAM%"},
-    RawValueRow{MenuBarFormat::iconOnly, u"Icon only"},
+    RawValueRow{MenuBarFormat::both, QT_TRANSLATE_NOOP("Translations", "CPU% • RAM%")},
+    RawValueRow{MenuBarFormat::cpuOnly, QT_TRANSLATE_NOOP("Translations", "CPU%")},
+    RawValueRow{MenuBarFormat::ramOnly, QT_TRANSLATE_NOOP("Translations", "RAM%")},
+    RawValueRow{MenuBarFormat::iconOnly, QT_TRANSLATE_NOOP("Translations", "Icon only")},
 };
 
 enum class HistoryRetention { fiveMin, twentyFive, oneHour };
 
 template <>
 inline constexpr std::array rawValueTable<HistoryRetention> = {
-    RawValueRow{HistoryRetention::fiveMin, u"5 min"},
-    RawValueRow{HistoryRetention::twentyFive, u"25 min"},
-    RawValueRow{HistoryRetention::oneHour, u"1 hour"},
+    RawValueRow{HistoryRetention::fiveMin, QT_TRANSLATE_NOOP("Translations", "5 min")},
+    RawValueRow{HistoryRetention::twentyFive, QT_TRANSLATE_NOOP("Translations", "25 min")},
+    RawValueRow{HistoryRetention::oneHour, QT_TRANSLATE_NOOP("Translations", "1 hour")},
 };
 
 /// Returns the length of a history of that retention in seconds.

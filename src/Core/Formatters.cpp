@@ -37,10 +37,11 @@ QChar picture(QChar character) {
 } // namespace
 
 QString fixed(double value, int decimals) {
-    std::array<char, 400> room; // the largest double has 309 digits before the dot
+    std::array<char, 400> buffer; // the largest double has 309 digits before the dot
     const auto end =
-        std::to_chars(room.data(), room.data() + room.size(), value, std::chars_format::fixed, decimals).ptr;
-    return QString::fromLatin1(room.data(), end - room.data());
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals)
+            .ptr;
+    return QString::fromLatin1(buffer.data(), end - buffer.data());
 }
 
 QString duration(double seconds) {
@@ -109,6 +110,12 @@ QString visible(const QString& text) {
             character = picture(character);
     }
     return result;
+}
+
+QString toolTip(const QString& text) {
+    if (text.isEmpty())
+        return {};
+    return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped());
 }
 
 } // namespace Formatters

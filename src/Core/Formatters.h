@@ -23,4 +23,8 @@ QString percent(double value);
 /// Returns a text that is safe to show: control and format characters become visible pictures.
 QString visible(const QString& text);
 
+/// Returns a tool tip that shows any text literally and wraps it. Qt renders a plain text that looks like
+/// markup, and shows the escapes of an escaped one that does not.
+QString toolTip(const QString& text);
+
 } // namespace Formatters

@@ -1,18 +1,18 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QString>
-#include <QStringView>
 
 #include <array>
 #include <optional>
 
 /// The raw string of one case. An enumeration specialises `rawValueTable<E>` with one row per case, in the
-/// order of declaration.
+/// order of declaration. A string that is also shown is marked for `Translations::of`.
 template <typename E> struct RawValueRow {
     E value;
-    QStringView raw;
+    QAnyStringView raw;
 };
-template <typename E> RawValueRow(E, QStringView) -> RawValueRow<E>;
+template <typename E> RawValueRow(E, QAnyStringView) -> RawValueRow<E>;
 
 template <typename E> inline constexpr auto rawValueTable = nullptr;
 

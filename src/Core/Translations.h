@@ -9,7 +9,8 @@ namespace Translations {
 /// none.
 void install();
 
-/// A text that is stored in English, as it is shown. One that is not marked for translation stays as it is.
+/// Returns the text on screen for one that is stored in English. QT_TRANSLATE_NOOP marks it with the context
+/// "Translations" where it is defined. The name of a product has no mark and is shown as it is.
 QString of(const QString& stored);
 
 template <typename E> QString of(E value) {

@@ -33,13 +33,15 @@ struct VolumeSize {
     bool operator==(const VolumeSize&) const = default;
 };
 
-/// Figures of the whole machine. Each call returns an empty optional when the system refuses the figure.
+/// Figures of the whole machine. Each call returns an empty value when the system refuses the figure, and
+/// where an implementation does not read it.
 class HostStatistics {
 public:
     virtual ~HostStatistics() = default;
 
-    virtual std::optional<CpuTicks> cpuTicks() = 0;
-    virtual MemoryUse memoryUse() = 0;
-    virtual std::optional<VolumeSize> rootVolume() = 0;
-    virtual int thermalLevel() = 0; ///< 0 nominal, 1 fair, 2 serious, 3 critical
+    virtual std::optional<CpuTicks> cpuTicks() { return {}; }
+    virtual MemoryUse memoryUse() { return {}; }
+    virtual std::optional<VolumeSize> rootVolume() { return {}; }
+    /// Returns 0 nominal, 1 fair, 2 serious or 3 critical.
+    virtual int thermalLevel() { return 0; }
 };

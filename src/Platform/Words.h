@@ -11,6 +11,6 @@ struct Words {
     QString statusArea;  ///< as a title
     QString symbol;      ///< an icon that is chosen by name
 
-    /// In the user's language.
+    /// Returns the names in the user's language.
     static Words native();
 };

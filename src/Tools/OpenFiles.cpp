@@ -21,8 +21,8 @@ void addDescriptors(const Folder& folder, std::set<FileIdentity>& found) {
     }
 }
 
-/// proc(5), maps: "address perms offset MAJOR:MINOR INODE path", a line break in the path as "\012". The
-/// device differs from that of stat(2) on Btrfs and overlays, so the path counts.
+/// Adds mapped files (proc(5), maps: "address perms offset MAJOR:MINOR INODE path", a line break in the path
+/// as "\012"). The path counts, because the device differs from that of stat(2) on Btrfs and overlays.
 void addMappings(const std::string& table, std::set<FileIdentity>& found) {
     std::ifstream maps(table);
     std::set<std::string> asked;

@@ -18,8 +18,8 @@ constexpr std::string_view bundleEnding = ".app/";
 /// Compares the real user id (proc(5), status). The owner of the folder is root for a process whose memory is
 /// protected from reading.
 bool isOwn(const std::string& folder) {
-    std::array<char, 4096> room;
-    return KernelText::numberOf(KernelFile(folder + "status").read(room), "Uid:") == getuid();
+    std::array<char, 4096> buffer;
+    return KernelText::numberOf(KernelFile(folder + "status").read(buffer), "Uid:") == getuid();
 }
 
 std::string_view lastComponent(std::string_view path) {

@@ -1,7 +1,7 @@
 #include "UI/BannerButtons.h"
 
 #include "Core/Formatters.h"
-#include "UI/MessageSeverity.h"
+#include "UI/Style/MessageSeverity.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 #include "UI/Style/Theme.h"

@@ -11,7 +11,7 @@ class ActionCapsule : public QAbstractButton {
 public:
     explicit ActionCapsule(QWidget* parent = nullptr);
 
-    /// `caption` is plain text: an ampersand in it marks no key.
+    /// Sets the link and its plain caption, in which an ampersand is a character.
     void set(const QString& caption, const QUrl& link, Message::Severity severity);
 
     QSize sizeHint() const override;

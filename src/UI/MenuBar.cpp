@@ -1,13 +1,13 @@
 #include "UI/MenuBar.h"
 
 #include "AppModel.h"
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
 #include "UI/AppMenu.h"
-#include "UI/Kit/FigureIcon.h"
 #include "UI/MainWindowFinder.h"
 #include "UI/MenuBarPanel.h"
+#include "UI/Style/FigureIcon.h"
 #include "UI/Style/Symbols.h"
 #include "UI/Style/Theme.h"
 
@@ -74,7 +74,7 @@ QString MenuBarController::title(MenuBarFormat format, const SystemSample& sampl
     case MenuBarFormat::ramOnly:
         return tr("RAM %1%").arg(ram);
     case MenuBarFormat::iconOnly:
-        return {};
+        break;
     }
     return {};
 }

@@ -2,7 +2,7 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "UI/Kit/Divider.h"
+#include "UI/Kit/Card.h"
 #include "UI/Kit/FigureColumn.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/OnScreen.h"

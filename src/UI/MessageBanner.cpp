@@ -1,12 +1,12 @@
 #include "UI/MessageBanner.h"
 
 #include "Core/Alerts/Alert.h"
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 #include "UI/BannerButtons.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/SymbolView.h"
-#include "UI/MessageSeverity.h"
+#include "UI/Style/MessageSeverity.h"
 #include "UI/Style/Theme.h"
 
 #include <QAccessible>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/RawValue.h"
-#include "UI/Kit/StoreLater.h"
+#include "Core/StoreLater.h"
 
 #include <QWidget>
 
@@ -59,10 +59,10 @@ private:
 
 template <>
 inline constexpr std::array rawValueTable<RootView::Tab> = {
-    RawValueRow<RootView::Tab>{RootView::Tab::overview, u"Overview"},
-    RawValueRow<RootView::Tab>{RootView::Tab::optimize, u"Optimize"},
-    RawValueRow<RootView::Tab>{RootView::Tab::processes, u"Processes"},
-    RawValueRow<RootView::Tab>{RootView::Tab::cleanup, u"Cleanup"},
+    RawValueRow{RootView::Tab::overview, QT_TRANSLATE_NOOP("Translations", "Overview")},
+    RawValueRow{RootView::Tab::optimize, QT_TRANSLATE_NOOP("Translations", "Optimize")},
+    RawValueRow{RootView::Tab::processes, QT_TRANSLATE_NOOP("Translations", "Processes")},
+    RawValueRow{RootView::Tab::cleanup, QT_TRANSLATE_NOOP("Translations", "Cleanup")},
 };
 
 /// Returns the name of the section's symbol, under resources/symbols.

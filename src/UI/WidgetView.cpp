@@ -3,13 +3,13 @@
 #include "AppModel.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
-#include "UI/Kit/Divider.h"
+#include "UI/Kit/Card.h"
 #include "UI/Kit/IconButton.h"
-#include "UI/Kit/Levels.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PanelRow.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Levels.h"
 #include "UI/Style/Painting.h"
 
 #include <QGraphicsDropShadowEffect>

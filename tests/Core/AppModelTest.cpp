@@ -1,7 +1,7 @@
 #include "Core/ReliefFixture.h"
 
 #include "Core/ActionLog/ActionLogReader.h"
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 
 #include <QCoreApplication>
 #include <QTest>

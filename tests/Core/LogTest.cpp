@@ -3,7 +3,10 @@
 #include "Core/Cleanup/Cleaner.h"
 #include "Core/Mcp/ServerToml.h"
 #include "Core/SettingsFile.h"
+#include "Platform/Freedesktop/DesktopEntries.h"
+#include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Linux/LinuxRelief.h"
+#include "Platform/Linux/ThermalZones.h"
 #include "support/ScriptedFeed.h"
 #include "support/ScriptedTools.h"
 #include "support/TemporaryHome.h"
@@ -72,6 +75,10 @@ void failEverywhere(const TemporaryHome& home) {
     feed->answer = home.path().toUtf8();
     MessageCenter center(std::move(feed), settings.preferences.file());
     QCoro::waitFor(center.refresh());
+    home.makeFile(u"menu/huge.desktop"_s, QByteArray(300 << 10, 'x'));
+    DesktopEntries({home.path(u"menu"_s)}).withId(u"huge"_s);
+    FreedesktopPlaces(home.path(u"mounts"_s).toStdString()).locate(u"~/.cache"_s);
+    const ThermalZones zones(home.path());
 }
 
 } // namespace
@@ -89,6 +96,8 @@ TEST(Log, IsSilentByDefaultAndMentionsUserDataOnlyForDebugging) {
         const Trace trace(u"tavrin.*=true\ntavrin.*.debug=false"_s);
         failEverywhere(home);
         EXPECT_EQ(Trace::categories(), all);
+        for (const QString& text : {u"a desktop entry is left out"_s, u"mounts"_s, u"thermal zone"_s})
+            EXPECT_TRUE(Trace::mentions(text)) << qPrintable(text);
         EXPECT_FALSE(Trace::mentions(home.path()));
     }
     const Trace trace(u"tavrin.*=true"_s);

@@ -1,10 +1,10 @@
 #include "UI/Settings/HistoryTab.h"
 
+#include "Core/Formatters.h"
 #include "UI/Controls.h"
 #include "UI/Kit/ConfirmDialog.h"
-#include "UI/Kit/ToolTip.h"
+#include "UI/Kit/TableView.h"
 #include "UI/ModelFixture.h"
-#include "UI/Settings/HistoryTableView.h"
 #include "UI/Settings/LocalTimeText.h"
 #include "support/Files.h"
 
@@ -36,7 +36,7 @@ struct HistoryTabTest : testing::Test {
     TemporaryHome home;
     QString file = home.makeFile(u"Library/Logs/Tavrin/actions.log"_s, fourLines);
     HistoryTab tab;
-    HistoryTableView* table = tab.findChild<HistoryTableView*>();
+    TableView* table = tab.findChild<TableView*>();
     QAbstractItemModelTester tester{table->model()};
 
     void show() {
@@ -172,7 +172,7 @@ TEST_F(HistoryTabTest, WhatComesFromOutsideStaysPlainAndVisible) {
     const QString cut = toolTip(1, 2);
     EXPECT_TRUE(cut.contains(u">xxx"_s) && cut.endsWith(u"x…</p>"_s) && cut.size() < 5000);
     table->header()->resizeSection(0, 400);
-    EXPECT_EQ(toolTip(0, 2), plainToolTip(u"<b>a</b>␉&amp; \ufffdtxt.exe␇"_s));
+    EXPECT_EQ(toolTip(0, 2), Formatters::toolTip(u"<b>a</b>␉&amp; \ufffdtxt.exe␇"_s));
     tab.grab(); // a megabyte in one cell is painted
 }
 

@@ -1,9 +1,9 @@
+#include "Core/Formatters.h"
 #include "UI/Controls.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/ModelFixture.h"
 
 #include <QScrollBar>
@@ -56,12 +56,12 @@ TEST(PushButtonTest, AnEscapedAmpersandIsReadOnce) {
 TEST(ToolTipTest, ShowsAnyTextAsItStands) {
     for (const QString& text : {u"/home/R&D/\"x\" > y"_s, u"a <b>bold</b> &amp; &lt;"_s,
                                 u"two\nlines,  two  blanks"_s, u"plain"_s}) {
-        ASSERT_TRUE(Qt::mightBeRichText(plainToolTip(text))) << qPrintable(text);
+        ASSERT_TRUE(Qt::mightBeRichText(Formatters::toolTip(text))) << qPrintable(text);
         QTextDocument shown;
-        shown.setHtml(plainToolTip(text));
+        shown.setHtml(Formatters::toolTip(text));
         EXPECT_EQ(shown.toPlainText(), text);
     }
-    EXPECT_EQ(plainToolTip({}), QString());
+    EXPECT_EQ(Formatters::toolTip({}), QString());
 }
 
 TEST(NoticeTest, ALaterTextStaysItsWholeTime) {

@@ -45,8 +45,7 @@ QStringList names() {
     QStringList known;
     for (const QuickKillPreset& preset : QuickKillPreset::defaults())
         known.append(preset.name);
-    known << u"Tavrin"_s << u"claude"_s << u"worker"_s << u"npm / pnpm / yarn"_s << u"Python (uv / pip)"_s
-          << u"Homebrew"_s << u"Docker"_s << u"Xcode DerivedData"_s << u"Cargo / Go / Swift"_s;
+    known << u"Tavrin"_s << u"claude"_s << u"worker"_s;
     return known;
 }
 

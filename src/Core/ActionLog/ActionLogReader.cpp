@@ -52,8 +52,8 @@ std::optional<quint64> parseCount(QByteArrayView text) {
 QString kindText(QByteArrayView kind) {
     static const auto known = [] {
         QList<std::pair<QByteArray, QString>> words;
-        for (const auto& row : rawValueTable<ActionLogEntry::Kind>)
-            words.append({row.raw.toUtf8(), row.raw.toString()});
+        for (const auto kind : allCases<ActionLogEntry::Kind>())
+            words.append({rawValue(kind).toUtf8(), rawValue(kind)});
         return words;
     }();
     for (const auto& [bytes, text] : known) {

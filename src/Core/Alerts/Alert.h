@@ -30,13 +30,7 @@ inline constexpr std::array rawValueTable<Alert::Severity> = {
 
 /// Returns the name of the severity's symbol under resources/symbols.
 inline QString severitySymbol(Alert::Severity severity) {
-    switch (severity) {
-    case Alert::Severity::info:
-        return QStringLiteral("info.circle.fill");
-    case Alert::Severity::warn:
-        return QStringLiteral("exclamationmark.triangle.fill");
-    case Alert::Severity::danger:
-        return QStringLiteral("exclamationmark.octagon.fill");
-    }
-    return {};
+    constexpr QStringView symbols[] = {u"info.circle.fill", u"exclamationmark.triangle.fill",
+                                       u"exclamationmark.octagon.fill"};
+    return symbols[static_cast<int>(severity)].toString();
 }

@@ -12,7 +12,8 @@ class Preferences;
 /// Turns the figures of one tick and the preferences into alerts.
 class RulesEngine {
 public:
-    /// No alert offers to quit this program or a process of another user than `identity`.
+    /// Makes an engine whose alerts offer to quit processes of the user in `identity` only, this program
+    /// excepted.
     explicit RulesEngine(const Identity& identity)
         : m_identity(identity) {}
 

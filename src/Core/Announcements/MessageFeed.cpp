@@ -97,17 +97,8 @@ std::optional<QUrl> Message::actionLink() const {
 }
 
 int severityRank(Message::Severity severity) {
-    switch (severity) {
-    case Message::Severity::warn:
-        return 4;
-    case Message::Severity::update:
-        return 3;
-    case Message::Severity::upgrade:
-        return 2;
-    case Message::Severity::info:
-        return 1;
-    }
-    return 0;
+    constexpr int ranks[] = {1, 4, 3, 2};
+    return ranks[static_cast<int>(severity)];
 }
 
 std::optional<Feed> Feed::decode(const QByteArray& json) {

@@ -23,9 +23,9 @@ public:
     CacheCleanup(const Platform& platform, ActionLog& log);
 
     const QList<CacheTarget>& targets() const { return m_targets; }
-    /// Empty while no scan runs.
+    /// Returns an empty optional while no scan runs.
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
-    /// Empty while no clean runs. Cleans that run at the same time are counted together.
+    /// Returns an empty optional while no clean runs. Cleans that run at the same time are counted together.
     const std::optional<CleanupProgress>& cleanProgress() const { return m_cleanProgress; }
     const CleanupReport& report() const { return m_report; }
     bool isScanning() const { return m_scanProgress.has_value(); }

@@ -4,8 +4,10 @@ using namespace Qt::StringLiterals;
 
 using Measure = CleanupRule::Measure;
 
-const QList<CacheTarget>& CacheTarget::defaults() {
-    static const QList<CacheTarget> catalogue = {
+namespace {
+
+QList<CacheTarget> cachesOfTools() {
+    return {
         {.name = u"npm / pnpm / yarn"_s,
          .symbol = u"shippingbox"_s,
          .paths = {u"~/.npm"_s, u"~/.pnpm-store"_s, u"~/Library/Caches/Yarn"_s, u"~/.yarn/cache"_s}},
@@ -24,25 +26,39 @@ const QList<CacheTarget>& CacheTarget::defaults() {
          .symbol = u"mug"_s,
          .paths = {u"~/Library/Caches/Homebrew"_s},
          .pruneCommand = u"brew cleanup -s"_s},
-        {.name = u"Claude Code plugin cache"_s,
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Claude Code plugin cache")),
          .symbol = u"puzzlepiece.extension"_s,
          .paths = {u"~/.claude/plugins/cache"_s, u"~/.claude/projects/-Users-orlin/memory/.cache"_s}},
-        {.name = u"npx cache"_s, .symbol = u"shippingbox"_s, .paths = {u"~/.npm/_npx"_s}},
-        {.name = u"Playwright browsers"_s,
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "npx cache")),
+         .symbol = u"shippingbox"_s,
+         .paths = {u"~/.npm/_npx"_s}},
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Playwright browsers")),
          .symbol = u"globe.americas"_s,
          .paths = {u"~/Library/Caches/ms-playwright"_s}},
-        {.name = u"User caches"_s, .symbol = u"tray"_s, .paths = {u"~/Library/Caches"_s}},
-        {.name = u"User logs"_s, .symbol = u"scroll"_s, .paths = {u"~/Library/Logs"_s}},
-        {.name = u"Trash"_s, .symbol = u"trash"_s, .paths = {u"~/.Trash"_s}, .rule = {.hasUserFiles = true}},
-        {.name = u"Old /tmp (>7d)"_s,
+    };
+}
+
+QList<CacheTarget> restOfCatalogue() {
+    return {
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "User caches")),
+         .symbol = u"tray"_s,
+         .paths = {u"~/Library/Caches"_s}},
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "User logs")),
+         .symbol = u"scroll"_s,
+         .paths = {u"~/Library/Logs"_s}},
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Trash")),
+         .symbol = u"trash"_s,
+         .paths = {u"~/.Trash"_s},
+         .rule = {.hasUserFiles = true}},
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Old /tmp (>7d)")),
          .symbol = u"clock"_s,
          .paths = {u"/tmp"_s},
          .rule = {.measure = Measure::oldFiles, .olderThanDays = 7, .isShared = true}},
-        {.name = u"Old Downloads (>30d)"_s,
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Old Downloads (>30d)")),
          .symbol = u"arrow.down.circle"_s,
          .paths = {u"~/Downloads"_s},
          .rule = {.measure = Measure::oldFiles, .olderThanDays = 30, .hasUserFiles = true}},
-        {.name = u"Old Desktop screenshots (>30d)"_s,
+        {.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Old Desktop screenshots (>30d)")),
          .symbol = u"camera.viewfinder"_s,
          .paths = {u"~/Desktop"_s},
          .rule = {.measure = Measure::oldFiles,
@@ -55,5 +71,11 @@ const QList<CacheTarget>& CacheTarget::defaults() {
          .pruneCommand = u"docker system prune -af --volumes"_s,
          .rule = {.measure = Measure::containers}},
     };
+}
+
+} // namespace
+
+const QList<CacheTarget>& CacheTarget::defaults() {
+    static const QList<CacheTarget> catalogue = cachesOfTools() + restOfCatalogue();
     return catalogue;
 }

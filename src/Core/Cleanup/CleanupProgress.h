@@ -20,7 +20,7 @@ struct CleanupFailure {
     bool operator==(const CleanupFailure&) const = default;
 };
 
-/// The outcome of the cleans since none ran.
+/// The outcome of the cleans that overlap: it begins when one starts while no other runs.
 struct CleanupReport {
     bool wasCancelled = false;
     QList<CleanupFailure> failures = {};

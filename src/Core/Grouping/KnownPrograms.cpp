@@ -19,7 +19,7 @@ bool comesBefore(QStringView name, QStringView other) {
     return name.compare(other, Qt::CaseInsensitive) < 0;
 }
 
-/// In order of name, to be searched by halves.
+/// Returns the programs by name, for a binary search.
 const std::vector<Program>& programs() {
     static const std::vector<Program> sorted = [] {
         std::vector<Program> all;
@@ -33,7 +33,7 @@ const std::vector<Program>& programs() {
     return sorted;
 }
 
-/// A program's own data folder says whose helper lies in it.
+/// Returns the program whose data folder, such as "~/.NAME", the path leads through; null without one.
 const Program* ofHiddenFolder(QStringView path) {
     for (const QStringView folder : path.split(u'/', Qt::SkipEmptyParts)) {
         const Program* known = folder.startsWith(u'.') ? KnownPrograms::find(folder) : nullptr;
@@ -43,7 +43,7 @@ const Program* ofHiddenFolder(QStringView path) {
     return nullptr;
 }
 
-/// `pattern` may have "*" at either end.
+/// Returns whether the name matches a pattern, which may have "*" at either end.
 bool fits(QStringView name, QStringView pattern) {
     const bool openStart = pattern.startsWith(u'*');
     const bool openEnd = pattern.endsWith(u'*');

@@ -14,15 +14,15 @@ struct Program {
     bool hostsServers = false; ///< an agent, or an editor that runs agents
 };
 
-/// The row of exactly that name, letter case aside; null for a name that is not known.
+/// Returns the row of exactly that name in any case, null for an unknown one.
 const Program* find(QStringView name);
 
-/// The row of what the process runs: found by its name, its executable or its `program`, at last by the
-/// hidden folders that its executable is in. Null when none of them is known.
+/// Returns the row of what the process runs: found by its name, its executable or its `program`, at last by
+/// the hidden folders that its executable is in. Returns null when all are unknown.
 const Program* of(const ProcSample& process);
 
-/// Whether a name or a folder, letter case aside, is known for holding a pattern of that group and being
-/// something else. A folder right in the user's home folder begins with "~/".
+/// Returns whether a name or a folder, in any case, contains a pattern of that group and is known to be
+/// something else. A folder directly in the user's home folder begins with "~/".
 bool onlySoundsLike(ProcGroup group, QStringView name);
 
 } // namespace KnownPrograms

@@ -77,8 +77,8 @@ inline constexpr std::initializer_list<Row> programs = {
      u"virtualbox, virtualboxvm, vmware, vmware-vmx, waydroid, youki"},
 };
 
-/// Names and folders that hold a pattern of a group and are something else: that group's test passes them
-/// over. "*" at either end stands for any text, and "~/" for the user's home folder.
+/// Names and folders that contain a pattern of a group and are something else: that group's test skips them.
+/// "*" at either end stands for any text, and "~/" for the user's home folder.
 struct FalseFriends {
     ProcGroup group;
     Names names;

@@ -99,7 +99,7 @@ Facts factsOfName(QStringView name) {
 /// of the architecture are left out.
 Facts factsOfPath(const QString& path) {
     const QStringView rest = ProgramPath::withoutPrefix(path);
-    QStringView ownFolder; // right in the home folder
+    QStringView ownFolder; // directly in the home folder
     if (rest.size() < path.size() && !path.startsWith(u"/usr/lib/"))
         ownFolder = rest.first(std::max(rest.indexOf(u'/', 1), qsizetype(0)));
     Facts found = 0;

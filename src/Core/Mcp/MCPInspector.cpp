@@ -83,7 +83,7 @@ bool isPartOfEditor(const QString& path) {
     return path.contains("/code-server/"_L1) || path.endsWith("/jbr/bin/java"_L1);
 }
 
-/// The process tree by PID. It can contain a ring, because the list is not read at one moment.
+/// The process tree by PID. It can contain a cycle, because a PID may be reused while the list is read.
 class Ancestry {
 public:
     explicit Ancestry(const QList<ProcSample>& processes) {

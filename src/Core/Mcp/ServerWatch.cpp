@@ -17,7 +17,7 @@ using MCPInspector::LiveServer;
 
 constexpr double minIdleSeconds = 60; // below it a server has just answered
 
-/// The reason why a server is an orphan, with how long it has been idle.
+/// Returns the reason why a server is an orphan, with how long it has been idle.
 QString withIdleTime(const QString& reason, double seconds) {
     if (seconds < minIdleSeconds)
         return reason;

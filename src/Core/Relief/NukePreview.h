@@ -30,7 +30,7 @@ struct NukePreview {
 
     QString dialogTitle() const;
     QString dialogMessage() const;
-    /// The buttons of the dialog: the first two with an owning application, the third without.
+    /// Return the texts of the dialog's buttons: the first two with an owning application, the third without.
     QString quitButton() const;
     QString forceQuitButton() const;
     QString killButton() const;

@@ -11,29 +11,18 @@ enum class ProcGroup { agents, ides, terminals, browsers, containers, other };
 
 template <>
 inline constexpr std::array rawValueTable<ProcGroup> = {
-    RawValueRow{ProcGroup::agents, u"Claude Code & Agents"},
-    RawValueRow{ProcGroup::ides, u"IDEs"},
-    RawValueRow{ProcGroup::terminals, u"Terminals"},
-    RawValueRow{ProcGroup::browsers, u"Browsers"},
-    RawValueRow{ProcGroup::containers, u"Docker & Containers"},
-    RawValueRow{ProcGroup::other, u"Other"},
+    RawValueRow{ProcGroup::agents, QT_TRANSLATE_NOOP("Translations", "Claude Code & Agents")},
+    RawValueRow{ProcGroup::ides, QT_TRANSLATE_NOOP("Translations", "IDEs")},
+    RawValueRow{ProcGroup::terminals, QT_TRANSLATE_NOOP("Translations", "Terminals")},
+    RawValueRow{ProcGroup::browsers, QT_TRANSLATE_NOOP("Translations", "Browsers")},
+    RawValueRow{ProcGroup::containers, QT_TRANSLATE_NOOP("Translations", "Docker & Containers")},
+    RawValueRow{ProcGroup::other, QT_TRANSLATE_NOOP("Translations", "Other")},
 };
 
 /// Returns the name of the group's symbol under resources/symbols.
 inline QString groupSymbol(ProcGroup group) {
-    switch (group) {
-    case ProcGroup::agents:
-        return QStringLiteral("sparkles");
-    case ProcGroup::ides:
-        return QStringLiteral("chevron.left.forwardslash.chevron.right");
-    case ProcGroup::terminals:
-        return QStringLiteral("terminal");
-    case ProcGroup::browsers:
-        return QStringLiteral("globe");
-    case ProcGroup::containers:
-        return QStringLiteral("shippingbox");
-    case ProcGroup::other:
-        return QStringLiteral("square.grid.2x2");
-    }
-    return {};
+    constexpr QStringView symbols[] = {u"sparkles",    u"chevron.left.forwardslash.chevron.right",
+                                       u"terminal",    u"globe",
+                                       u"shippingbox", u"square.grid.2x2"};
+    return symbols[static_cast<int>(group)].toString();
 }

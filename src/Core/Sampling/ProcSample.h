@@ -2,6 +2,7 @@
 
 #include "Core/Instant.h"
 #include "Core/Sampling/ProcGroup.h"
+#include "Platform/ProcessTable.h"
 
 #include <QString>
 
@@ -36,5 +37,11 @@ struct ProcSample {
     QString program; ///< the executable, or the script, module, package or image that it was told to run
 
     ProcessIdentity identity() const { return {pid, startTime}; }
+    /// Sets the figures that the system counts.
+    void setFigures(const TaskInfo& task) {
+        rssBytes = task.residentBytes;
+        virtualBytes = task.virtualBytes;
+        threads = task.threads;
+    }
     bool operator==(const ProcSample&) const = default;
 };

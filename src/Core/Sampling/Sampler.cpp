@@ -12,25 +12,17 @@
 namespace {
 
 constexpr std::size_t maxPids = 4096;
-constexpr qsizetype maxGonePart = 8;      // texts are dropped after the end of one process in 8
-constexpr double busyPercent = 0.5;       // below it a process is idle
-constexpr quint32 passesBetweenLooks = 3; // at the texts of a running process
+constexpr qsizetype maxGonePart = 8;       // texts are dropped after the end of one process in 8
+constexpr double busyPercent = 0.5;        // below it a process is idle
+constexpr quint32 passesBetweenChecks = 3; // at the texts of a running process
 
 double secondsBetween(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to) {
     return std::chrono::duration<double>(to - from).count();
 }
 
 ThermalState thermalState(int level) {
-    switch (level) {
-    case 1:
-        return ThermalState::fair;
-    case 2:
-        return ThermalState::serious;
-    case 3:
-        return ThermalState::critical;
-    default:
-        return ThermalState::nominal;
-    }
+    constexpr auto states = allCases<ThermalState>();
+    return level >= 0 && level < int(states.size()) ? states[level] : ThermalState::nominal;
 }
 
 /// Returns the arguments that are not empty.
@@ -131,13 +123,11 @@ QList<ProcSample> Sampler::sampleProcesses() {
                        .executablePath = meta.path,
                        .arguments = meta.args,
                        .cpuPercent = percent,
-                       .rssBytes = task->residentBytes,
-                       .virtualBytes = task->virtualBytes,
-                       .threads = task->threads,
                        .startTime = meta.startTime,
                        .idleSeconds = secondsBetween(entry->prev.lastNonZero, uptime),
                        .group = meta.group,
                        .program = meta.program});
+        result.last().setFigures(*task);
     }
     evictUnseen();
     refreshParents(result);
@@ -147,8 +137,8 @@ QList<ProcSample> Sampler::sampleProcesses() {
 /// Returns whether the texts of a process may have changed: it has run, and it is young or has its turn. A
 /// young process may have been listed between its fork and its exec.
 bool Sampler::isDue(qint32 pid, const Known& process) const {
-    const bool isYoung = m_pass - process.firstPass <= passesBetweenLooks;
-    const bool hasItsTurn = (static_cast<quint32>(pid) + m_pass) % passesBetweenLooks == 0;
+    const bool isYoung = m_pass - process.firstPass <= passesBetweenChecks;
+    const bool hasItsTurn = (static_cast<quint32>(pid) + m_pass) % passesBetweenChecks == 0;
     return process.mayHaveChanged && process.firstPass != m_pass && (isYoung || hasItsTurn);
 }
 

@@ -3,17 +3,10 @@
 #include <QCoreApplication>
 
 QString thermalLabel(ThermalState state) {
-    switch (state) {
-    case ThermalState::nominal:
-        return QCoreApplication::translate("ThermalState", "Cool");
-    case ThermalState::fair:
-        return QCoreApplication::translate("ThermalState", "Warm");
-    case ThermalState::serious:
-        return QCoreApplication::translate("ThermalState", "Hot");
-    case ThermalState::critical:
-        return QCoreApplication::translate("ThermalState", "Critical");
-    }
-    return {};
+    constexpr const char* labels[] = {
+        QT_TRANSLATE_NOOP("ThermalState", "Cool"), QT_TRANSLATE_NOOP("ThermalState", "Warm"),
+        QT_TRANSLATE_NOOP("ThermalState", "Hot"), QT_TRANSLATE_NOOP("ThermalState", "Critical")};
+    return QCoreApplication::translate("ThermalState", labels[static_cast<int>(state)]);
 }
 
 const SystemSample& SystemSample::zero() {

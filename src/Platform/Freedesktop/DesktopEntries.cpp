@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/DesktopEntries.h"
 
+#include "Platform/Log.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,10 +18,6 @@ constexpr qint64 maxFileBytes = 256 * 1024;
 constexpr qsizetype maxEntries = 5000;
 constexpr qsizetype maxFolders = 500;
 constexpr int maxDepth = 4;
-
-QString fileName(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'/') + 1);
-}
 
 QString folderOf(const QString& path) {
     return path.first(std::max<qsizetype>(path.lastIndexOf(u'/'), 0));
@@ -49,7 +47,7 @@ bool isScript(const QString& path) {
 
 /// Strips "env NAME=VALUE..." off the command.
 QStringList withoutEnv(QStringList command) {
-    if (command.isEmpty() || fileName(command.first()) != u"env")
+    if (command.isEmpty() || DesktopEntry::fileName(command.first()) != u"env")
         return command;
     command.removeFirst();
     while (!command.isEmpty() && command.first().contains(u'='))
@@ -103,9 +101,9 @@ QStringList DesktopEntries::usualFolders() {
     return QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
 }
 
-DesktopEntries::DesktopEntries(QStringList folders, std::chrono::milliseconds timeBetweenLooks)
+DesktopEntries::DesktopEntries(QStringList folders, std::chrono::milliseconds checkInterval)
     : m_folders(std::move(folders))
-    , m_timeBetweenLooks(timeBetweenLooks) {}
+    , m_checkInterval(checkInterval) {}
 
 bool DesktopEntries::isInterpreter(QStringView name) {
     static constexpr std::array<QStringView, 28> exact = {
@@ -123,7 +121,7 @@ bool DesktopEntries::isInterpreter(QStringView name) {
 bool DesktopEntries::isPrivate(const QString& folder) const {
     static constexpr std::array<QStringView, 10> shared = {
         u"bin", u"sbin", u"lib", u"lib64", u"libexec", u"games", u"share", u"local", u"opt", u"applications"};
-    const QString name = fileName(folder);
+    const QString name = DesktopEntry::fileName(folder);
     if (folder.count(u'/') < 2 || name.contains(u"-linux-"_s) ||
         std::find(shared.begin(), shared.end(), name.toLower()) != shared.end())
         return false;
@@ -156,9 +154,9 @@ bool DesktopEntries::hasChanged() const {
 void DesktopEntries::renew() {
     const auto now = std::chrono::steady_clock::now();
     const bool isFirst = m_read.isEmpty();
-    if (!isFirst && now - m_lastLook < m_timeBetweenLooks)
+    if (!isFirst && now - m_lastCheck < m_checkInterval)
         return;
-    m_lastLook = now;
+    m_lastCheck = now;
     if (isFirst || hasChanged())
         read();
 }
@@ -172,6 +170,8 @@ void DesktopEntries::read() {
     m_byScriptName.clear();
     for (const QString& folder : std::as_const(m_folders))
         readFolder(folder, {}, 0);
+    if (m_read.size() >= maxFolders || m_byId.size() >= maxEntries)
+        qCWarning(Log::platform) << "more desktop entries than are read";
     for (const DesktopEntry& entry : std::as_const(m_byId)) {
         if (entry.isListed)
             index(entry);
@@ -194,13 +194,16 @@ void DesktopEntries::readFolder(const QString& root, const QString& below, int d
         readFolder(root, below + u'/' + inner, depth + 1);
 }
 
-/// The first file of an id counts, even if it only hides the entry.
+/// Reads the first file of each id, even if it only hides the entry.
 void DesktopEntries::readFile(const QString& path, const QString& id) {
     if (m_byId.contains(id) || m_byId.size() >= maxEntries)
         return;
     QFile file(path);
-    if (file.size() > maxFileBytes || !file.open(QIODevice::ReadOnly))
+    if (file.size() > maxFileBytes || !file.open(QIODevice::ReadOnly)) {
+        qCInfo(Log::platform) << "a desktop entry is left out:" << file.error() << file.size() << "bytes";
+        qCDebug(Log::platform) << path;
         return;
+    }
     DesktopEntry entry =
         DesktopEntry::parse(file.read(maxFileBytes), messageLocale()).value_or(DesktopEntry());
     entry.id = id;
@@ -212,7 +215,7 @@ void DesktopEntries::readFile(const QString& path, const QString& id) {
 void DesktopEntries::index(const DesktopEntry& entry) {
     const QStringList command = withoutEnv(entry.command);
     const QString file = command.isEmpty() ? QString() : resolved(command.first());
-    if (file.isEmpty() || isInterpreter(fileName(file)) || runsAnother(command, file))
+    if (file.isEmpty() || isInterpreter(DesktopEntry::fileName(file)) || runsAnother(command, file))
         return;
     const Program program{.entry = entry, .file = file, .isScript = isScript(file)};
     m_fileOfId.insert(entry.id, file);
@@ -220,7 +223,7 @@ void DesktopEntries::index(const DesktopEntry& entry) {
     if (isPrivate(folderOf(file)))
         claim(m_byFolder, folderOf(file), program);
     if (program.isScript)
-        claim(m_byScriptName, fileName(file), program);
+        claim(m_byScriptName, DesktopEntry::fileName(file), program);
 }
 
 const DesktopEntries::Program* DesktopEntries::ofProgram(const QString& file) {
@@ -240,7 +243,7 @@ const DesktopEntries::Program* DesktopEntries::ofFile(const QString& file) {
         if (m_byFolder.contains(folder))
             return answer(m_byFolder, folder);
         // /usr/lib/chromium contains what the script /usr/bin/chromium starts, and its crash handler.
-        const QString main = folder + u'/' + fileName(folder);
+        const QString main = folder + u'/' + DesktopEntry::fileName(folder);
         if (const Program* script = ofScriptNamedLike(main); script && QFileInfo(main).isExecutable())
             return script;
     }
@@ -249,7 +252,9 @@ const DesktopEntries::Program* DesktopEntries::ofFile(const QString& file) {
 
 /// An installed script does not start a program of its name that a person built in the home folder.
 const DesktopEntries::Program* DesktopEntries::ofScriptNamedLike(const QString& file) const {
-    const Program* script = isInterpreter(fileName(file)) ? nullptr : answer(m_byScriptName, fileName(file));
+    const Program* script = isInterpreter(DesktopEntry::fileName(file))
+                                ? nullptr
+                                : answer(m_byScriptName, DesktopEntry::fileName(file));
     return script && (!isInHome(file) || isInHome(script->file)) ? script : nullptr;
 }
 
@@ -279,7 +284,7 @@ QStringList DesktopEntries::idsOf(const QString& text) {
         return {mainIdOf(*entry)};
     QStringList byProgram;
     for (const Program& program : std::as_const(m_byFile)) {
-        if (fileName(program.file) == text)
+        if (DesktopEntry::fileName(program.file) == text)
             byProgram.append(program.entry.id);
     }
     return byProgram;

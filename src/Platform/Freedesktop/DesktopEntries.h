@@ -25,7 +25,7 @@ public:
     /// Returns this user's folders of entries by priority (XDG_DATA_HOME, XDG_DATA_DIRS).
     static QStringList usualFolders();
     explicit DesktopEntries(QStringList folders = usualFolders(),
-                            std::chrono::milliseconds timeBetweenLooks = std::chrono::seconds(3));
+                            std::chrono::milliseconds checkInterval = std::chrono::seconds(3));
 
     /// Returns the entry of the program `file`; else of a program in the same private folder; else of the
     /// script that has the file's name or that of a private folder with its program. The file need not exist.
@@ -63,8 +63,8 @@ private:
     QString mainIdOf(const DesktopEntry& entry) const;
 
     QStringList m_folders;
-    std::chrono::milliseconds m_timeBetweenLooks;
-    std::chrono::steady_clock::time_point m_lastLook;
+    std::chrono::milliseconds m_checkInterval;
+    std::chrono::steady_clock::time_point m_lastCheck;
     QList<Folder> m_read; ///< empty before the first reading
     QHash<QString, DesktopEntry> m_byId;
     QHash<QString, QString> m_fileOfId;

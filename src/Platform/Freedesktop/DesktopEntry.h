@@ -18,4 +18,6 @@ struct DesktopEntry {
     static std::optional<DesktopEntry> parse(QByteArrayView text, const QString& locale);
     /// Splits a value of the key Exec. Returns an empty list when its quotes do not match.
     static QStringList arguments(const QString& exec);
+    /// Returns what follows the last slash.
+    static QString fileName(const QString& path) { return path.sliced(path.lastIndexOf(u'/') + 1); }
 };

@@ -18,7 +18,7 @@ const auto interface = QStringLiteral("org.freedesktop.portal.Settings");
 const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const auto colorSchemeKey = QStringLiteral("color-scheme");
 
-/// `Read` wraps its reply in one variant more than the signal does.
+/// Returns the value in its variants: the reply of `Read` has one more than the signal.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();

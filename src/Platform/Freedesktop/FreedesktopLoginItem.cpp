@@ -88,7 +88,7 @@ QString registeredProgram() {
     return {};
 }
 
-/// A shell starts names with "%", which desktops look for before they resolve "%%", and names with "=".
+/// Returns the command for Exec: a shell starts names with "=" and with "%", which desktops mistake.
 QString command(const QString& program) {
     if (!program.contains(u'%') && !program.contains(u'='))
         return quoted(program);

@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
 
+#include "Platform/Log.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -64,14 +66,18 @@ constexpr Row elsewhere[] = {
 std::optional<QString> homeFolder() {
     const QString home = qEnvironmentVariable("HOME");
     const QString canonical = QFileInfo(home).canonicalFilePath();
-    if (!home.startsWith(u'/') || canonical.isEmpty() || canonical == u"/")
+    if (!home.startsWith(u'/') || canonical.isEmpty() || canonical == u"/") {
+        qCWarning(Log::platform) << "HOME names no folder of a user";
         return std::nullopt;
+    }
     return QDir::cleanPath(home);
 }
 
 /// Ignores a relative path, which is invalid in such a variable.
 QString xdgFolder(const char* variable, const QString& otherwise) {
     const QString folder = qEnvironmentVariable(variable);
+    if (!folder.isEmpty() && !folder.startsWith(u'/'))
+        qCInfo(Log::platform) << variable << "is ignored: its path is relative";
     return folder.startsWith(u'/') ? QDir::cleanPath(folder) : otherwise;
 }
 
@@ -224,8 +230,10 @@ QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QSt
 
 bool FreedesktopPlaces::isMountPoint(const QString& folder) const {
     std::ifstream table(m_mountInfo);
-    if (!table)
+    if (!table) {
+        qCWarning(Log::platform) << "the mounts cannot be read";
         return true;
+    }
     for (std::string line; std::getline(table, line);) {
         std::istringstream fields(line);
         std::string id, parent, device, root, mountPoint;

@@ -27,12 +27,12 @@ void KernelFile::close() {
         ::close(std::exchange(m_descriptor, -1));
 }
 
-std::string_view KernelFile::read(std::span<char> room) const {
+std::string_view KernelFile::read(std::span<char> buffer) const {
     ssize_t length = 0;
     do
-        length = pread(m_descriptor, room.data(), room.size(), 0);
+        length = pread(m_descriptor, buffer.data(), buffer.size(), 0);
     while (length < 0 && errno == EINTR);
-    return {room.data(), length > 0 ? static_cast<size_t>(length) : 0};
+    return {buffer.data(), length > 0 ? static_cast<size_t>(length) : 0};
 }
 
 QByteArray KernelFile::symlinkTarget(int directory, const char* path) {

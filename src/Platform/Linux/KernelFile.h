@@ -23,9 +23,9 @@ public:
     int descriptor() const { return m_descriptor; }
     void close();
 
-    /// Reads the current text, cut to the size of `room`. Returns an empty text and sets errno when it is
+    /// Reads the current text, cut to the size of `buffer`. Returns an empty text and sets errno when it is
     /// unreadable (ESRCH: the process is gone).
-    std::string_view read(std::span<char> room) const;
+    std::string_view read(std::span<char> buffer) const;
 
     /// Returns the target of the symlink at `path`, relative as above, or an empty path.
     static QByteArray symlinkTarget(int directory, const char* path);

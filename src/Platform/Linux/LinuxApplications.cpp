@@ -3,6 +3,7 @@
 #include "Platform/Linux/ApplicationUnit.h"
 #include "Platform/Linux/KernelFile.h"
 #include "Platform/Linux/TerminalSessions.h"
+#include "Platform/Log.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -21,10 +22,6 @@ constexpr qint64 maxBytes = 16 * 1024;
 QByteArray textOf(const QString& path) {
     QFile file(path);
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
-}
-
-QString fileName(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'/') + 1);
 }
 
 /// Reads the application's id from flatpak's file in the sandbox (flatpak-metadata(5)).
@@ -58,11 +55,13 @@ std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
         KernelFile::programBehind(AT_FDCWD, QFile::encodeName(folder + u"/exe"_s).constData()));
     if (auto application = ofSandbox(folder, executable))
         return application;
-    if (executable.isEmpty())
+    if (executable.isEmpty()) {
+        qCInfo(Log::platform) << "the executable of a process cannot be read";
         return std::nullopt;
+    }
     if (const auto* program = m_entries.ofFile(executable))
         return toldApart(program->entry);
-    if (DesktopEntries::isInterpreter(fileName(executable)))
+    if (DesktopEntries::isInterpreter(DesktopEntry::fileName(executable)))
         return ofScript(folder);
     const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup"_s).toStdString());
     return unit.kind == ApplicationUnit::Kind::desktop ? ofUnit(unit.id, executable) : std::nullopt;
@@ -77,7 +76,7 @@ std::optional<Application> LinuxApplications::ofSandbox(const QString& folder, c
     return unit.kind == ApplicationUnit::Kind::snap ? ofSnap(unit.id, executable) : std::nullopt;
 }
 
-/// A snap may be unconfined: programs outside its folder were started by a person in it.
+/// Returns the application of a program in the snap's folder. A person starts others in an unconfined snap.
 std::optional<Application> LinuxApplications::ofSnap(const QString& name, const QString& executable) {
     if (!executable.startsWith(u"/snap/"_s + name + u'/') &&
         !executable.startsWith(u"/var/lib/snapd/snap/"_s + name + u'/'))
@@ -112,7 +111,7 @@ std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
 
 std::optional<Application> LinuxApplications::ofUnit(const QString& id, const QString& executable) {
     const auto* program = m_entries.ofId(id);
-    if (!program || fileName(program->file) != fileName(executable))
+    if (!program || DesktopEntry::fileName(program->file) != DesktopEntry::fileName(executable))
         return std::nullopt;
     return toldApart(program->entry);
 }

@@ -65,8 +65,8 @@ LinuxHostStatistics::LinuxHostStatistics(const QString& root)
 }
 
 std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
-    std::array<char, 512> room;
-    auto line = m_stat.read(room);
+    std::array<char, 512> buffer;
+    auto line = m_stat.read(buffer);
     if (!line.starts_with("cpu "))
         return std::nullopt;
     line.remove_prefix(4);
@@ -92,8 +92,8 @@ std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
 }
 
 MemoryUse LinuxHostStatistics::memoryUse() {
-    std::array<char, 8192> room;
-    const auto meminfo = m_meminfo.read(room);
+    std::array<char, 8192> buffer;
+    const auto meminfo = m_meminfo.read(buffer);
     const auto used = usedBytes(meminfo, "MemTotal:", "MemAvailable:");
     const auto wired = std::min(unpageableBytes(meminfo), used);
     const auto compressed = std::min(bytesOf(meminfo, "Zswap:") + zramBytes(), used - wired);
@@ -107,8 +107,8 @@ MemoryUse LinuxHostStatistics::memoryUse() {
 quint64 LinuxHostStatistics::zramBytes() const {
     quint64 sum = 0;
     for (const auto& device : m_zram) {
-        std::array<char, 256> room;
-        auto figures = device.read(room);
+        std::array<char, 256> buffer;
+        auto figures = device.read(buffer);
         std::optional<quint64> used;
         for (int column = 0; column < 3; ++column) // orig_data_size, compr_data_size, mem_used_total
             used = takeNumber(figures);

@@ -82,7 +82,7 @@ void LinuxPowerMode::askNext(int name) {
 }
 
 void LinuxPowerMode::readFirmware() {
-    std::array<char, 64> room;
-    const auto profile = m_platformProfile.read(room);
+    std::array<char, 64> buffer;
+    const auto profile = m_platformProfile.read(buffer);
     m_firmwareSaves = profile == "low-power\n" || profile == "low-power";
 }

@@ -81,8 +81,8 @@ int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
 /// Returns whether a PID was assigned since the last call, by the last PID in `/proc/loadavg`. Returns true
 /// when that is unreadable.
 bool LinuxProcessTable::hasNewPids() {
-    std::array<char, 128> room;
-    const auto text = m_loadAverage.read(room);
+    std::array<char, 128> buffer;
+    const auto text = m_loadAverage.read(buffer);
     const auto newest = text.substr(std::min(text.rfind(' '), text.size()));
     if (!newest.empty() && newest == m_lastPid)
         return false;
@@ -204,8 +204,8 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
 /// Returns an empty optional with errno 0 for a process without memory.
 std::optional<LinuxProcessTable::Pages> LinuxProcessTable::pagesOf(const Process& process) {
     errno = 0;
-    std::array<char, 128> room;
-    auto statm = process.statm.read(room);
+    std::array<char, 128> buffer;
+    auto statm = process.statm.read(buffer);
     const auto virtualPages = KernelText::takeNumber(statm);
     const auto residentPages = KernelText::takeNumber(statm);
     if (!residentPages || *virtualPages == 0)

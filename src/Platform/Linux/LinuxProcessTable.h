@@ -26,7 +26,7 @@ public:
     /// `root` is the mount point of procfs. Raises the program's soft limit on descriptors to the hard one.
     explicit LinuxProcessTable(const std::string& root = "/proc");
 
-    /// May list a process that is gone once more, until a call about it fails.
+    /// Repeats a process that is gone until a call about it fails.
     int listAllPids(std::span<qint32> pids) override;
     /// Returns an empty optional for a process without address space too, such as a zombie.
     std::optional<TaskInfo> taskInfo(qint32 pid) override;

@@ -72,7 +72,7 @@ private:
     SignalResult m_result;
 };
 
-/// EPERM comes from sandboxes that do not know pidfd_open; the kernel needs no permission for it.
+/// Returns true for EPERM too: sandboxes without pidfd_open give it, and the kernel needs no permission.
 bool meansUnsupported(int error) {
     return error == ENOSYS || error == EPERM;
 }

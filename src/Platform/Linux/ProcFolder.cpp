@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr size_t roomSize = 128 * 1024; // some 4,000 processes at 32 bytes each
+constexpr size_t bufferSize = 128 * 1024; // some 4,000 processes at 32 bytes each
 
 /// One record of getdents64(2), followed by the name and a NUL.
 struct Record {
@@ -39,21 +39,21 @@ qint32 pidNamed(const char* name) {
 
 ProcFolder::ProcFolder(const std::string& path)
     : m_folder(AT_FDCWD, path.c_str(), O_DIRECTORY)
-    , m_room(std::make_unique<char[]>(roomSize)) {}
+    , m_buffer(std::make_unique<char[]>(bufferSize)) {}
 
 std::span<const ProcFolder::Row> ProcFolder::rows() {
     m_rows.clear();
     if (lseek(m_folder.descriptor(), 0, SEEK_SET) != 0)
         return {};
     for (;;) {
-        const auto length = syscall(SYS_getdents64, m_folder.descriptor(), m_room.get(), roomSize);
+        const auto length = syscall(SYS_getdents64, m_folder.descriptor(), m_buffer.get(), bufferSize);
         if (length <= 0)
             return length == 0 ? sorted() : std::span<const Row>();
-        takeRows({m_room.get(), static_cast<size_t>(length)});
+        takeRows({m_buffer.get(), static_cast<size_t>(length)});
     }
 }
 
-/// The kernel lists by ascending PID; a copy of procfs on a disk may not.
+/// Sorts by PID where needed: the kernel lists in that order, a copy of procfs on a disk in any.
 std::span<const ProcFolder::Row> ProcFolder::sorted() {
     const auto byPid = [](const Row& a, const Row& b) { return a.pid < b.pid; };
     if (!std::is_sorted(m_rows.begin(), m_rows.end(), byPid))

@@ -29,6 +29,6 @@ private:
     void takeRows(std::span<const char> records);
 
     KernelFile m_folder;
-    std::unique_ptr<char[]> m_room;
+    std::unique_ptr<char[]> m_buffer;
     std::vector<Row> m_rows;
 };

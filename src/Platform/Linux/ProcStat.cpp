@@ -40,6 +40,6 @@ std::optional<ProcStat> ProcStat::parse(std::string_view text) {
 }
 
 std::optional<ProcStat> ProcStat::read(const KernelFile& file) {
-    std::array<char, 1024> room;
-    return parse(file.read(room));
+    std::array<char, 1024> buffer;
+    return parse(file.read(buffer));
 }

@@ -1,6 +1,7 @@
 #include "Platform/Linux/ThermalZones.h"
 
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Log.h"
 
 #include <QDir>
 
@@ -11,8 +12,8 @@ namespace {
 constexpr qint64 fairMargin = 10'000;
 
 std::optional<qint64> readNumber(const KernelFile& file) {
-    std::array<char, 32> room;
-    auto text = file.read(room);
+    std::array<char, 32> buffer;
+    auto text = file.read(buffer);
     return KernelText::takeSignedNumber(text);
 }
 
@@ -31,7 +32,11 @@ ThermalZones::ThermalZones(const QString& sysfs) {
         auto zone = zoneIn(thermal.filePath(name));
         if (zone.temperature.isOpen() && (zone.passive > 0 || zone.hot > 0))
             m_zones.push_back(std::move(zone));
+        else if (!zone.temperature.isOpen())
+            qCInfo(Log::platform) << "no temperature of" << name;
     }
+    if (m_zones.empty())
+        qCInfo(Log::platform) << "no thermal zone with a trip";
 }
 
 ThermalZones::Zone ThermalZones::zoneIn(const QString& folder) {
@@ -45,8 +50,8 @@ ThermalZones::Zone ThermalZones::zoneIn(const QString& folder) {
         const KernelFile type(path(stem + QStringLiteral("type")));
         if (!type.isOpen())
             return zone;
-        std::array<char, 32> room;
-        const auto kind = type.read(room);
+        std::array<char, 32> buffer;
+        const auto kind = type.read(buffer);
         const auto temperature = readNumber(KernelFile(path(stem + QStringLiteral("temp"))));
         if (kind.starts_with("passive"))
             keepLowest(zone.passive, temperature.value_or(0));

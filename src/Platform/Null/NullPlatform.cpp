@@ -22,13 +22,6 @@
 
 namespace {
 
-class NullHostStatistics : public HostStatistics {
-    std::optional<CpuTicks> cpuTicks() override { return {}; }
-    MemoryUse memoryUse() override { return {}; }
-    std::optional<VolumeSize> rootVolume() override { return {}; }
-    int thermalLevel() override { return 0; }
-};
-
 class NullProcessTable : public ProcessTable {
     int listAllPids(std::span<qint32>) override { return 0; }
     std::optional<TaskInfo> taskInfo(qint32) override { return {}; }
@@ -101,7 +94,7 @@ class NullLoginItem : public LoginItem {
 void Platform::prepareProgram() {}
 
 Platform Platform::native() {
-    return {.host = std::make_shared<NullHostStatistics>(),
+    return {.host = std::make_shared<HostStatistics>(),
             .processes = std::make_shared<NullProcessTable>(),
             .processMemory = std::make_shared<NullProcessMemory>(),
             .power = std::make_shared<NullPowerMode>(),

@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -48,7 +47,7 @@ void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
                           .arg(Translations::of(target.name), Formatters::bytes(target.sizeBytes), scanned));
     const QString notes = Formatters::visible(target.notes.join(u' '));
     setAccessibleDescription(notes);
-    setToolTip(plainToolTip(notes));
+    setToolTip(Formatters::toolTip(notes));
     update();
 }
 

@@ -12,7 +12,7 @@ class CacheCard : public QAbstractButton {
 public:
     explicit CacheCard(QWidget* parent = nullptr);
 
-    /// The time of the last scan is shown relative to `now`.
+    /// Shows the target, with the time of its scan relative to `now`.
     void set(const CacheTarget& target, bool isSelected, Instant now);
 
     QSize sizeHint() const override;

@@ -4,7 +4,7 @@
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
-#include "UI/Kit/Divider.h"
+#include "UI/Kit/Card.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/SymbolView.h"

@@ -9,7 +9,7 @@
 /// are shortened in the middle.
 namespace CleanupTexts {
 
-/// "Cleaning NAME (1 of 3)", by a sentence such as "Cleaning %1 (%2 of %3)".
+/// Returns "Cleaning NAME (1 of 3)" for the sentence "Cleaning %1 (%2 of %3)".
 QString progress(const QString& sentence, const CleanupProgress& progress);
 
 /// Returns whether a clean removes what nothing rebuilds.

@@ -34,3 +34,16 @@ protected:
 private:
     std::optional<Theme::Role> m_tint;
 };
+
+/// A line across a column, one point thick.
+class Divider : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Divider(QWidget* parent = nullptr)
+        : QWidget(parent) {
+        setFixedHeight(1);
+        setAutoFillBackground(true);
+        setBackgroundRole(QPalette::Mid);
+    }
+};

@@ -1,6 +1,6 @@
 #include "UI/Kit/ClampedLabel.h"
 
-#include "UI/Kit/ToolTip.h"
+#include "Core/Formatters.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -70,7 +70,7 @@ bool ClampedLabel::event(QEvent* event) {
         return TextLabel::event(event);
     const QStringList shown = lines(width());
     const bool isCut = !shown.isEmpty() && !text().trimmed().endsWith(shown.last());
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut ? plainToolTip(text()) : QString(),
-                       this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       isCut ? Formatters::toolTip(text()) : QString(), this);
     return true;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Kit/StoreLater.h"
+#include "Core/StoreLater.h"
 
 #include <QMap>
 

@@ -1,7 +1,6 @@
 #include "UI/Kit/FormSection.h"
 
 #include "UI/Kit/Card.h"
-#include "UI/Kit/Divider.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QHBoxLayout>

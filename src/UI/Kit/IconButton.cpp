@@ -1,9 +1,8 @@
 #include "UI/Kit/IconButton.h"
 
-#include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
-#include <QPainter>
+#include <QStyleOption>
 
 using Theme::Role;
 
@@ -15,38 +14,33 @@ constexpr int textPadding = 8;
 
 } // namespace
 
-IconButton::IconButton(QString symbol, const QString& help, Role tint, QWidget* parent)
-    : QAbstractButton(parent)
-    , m_symbol(std::move(symbol))
+IconButton::IconButton(const QString& symbol, const QString& help, Role tint, QWidget* parent)
+    : QToolButton(parent)
     , m_tint(tint) {
+    setIcon(Symbols::icon(symbol));
+    setIconSize({symbolSize, symbolSize});
     setToolTip(help);
     setAccessibleName(help);
     setFixedSize(side, side);
-    setFocusPolicy(Qt::TabFocus);
 }
 
-void IconButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Painting::drawFeedback(painter, *this, Theme::controlRadius);
-    const QColor tint = Theme::color(m_tint, isEnabled() ? 1 : 0.4);
-    Symbols::draw(painter, m_symbol, tint, rect(), symbolSize);
+void IconButton::initStyleOption(QStyleOptionToolButton* option) const {
+    QToolButton::initStyleOption(option);
+    option->palette.setColor(QPalette::ButtonText, Theme::color(m_tint, isEnabled() ? 1 : 0.4));
 }
 
 TextButton::TextButton(const QString& text, QWidget* parent)
-    : QAbstractButton(parent) {
+    : QToolButton(parent) {
     setText(text);
+    setToolButtonStyle(Qt::ToolButtonTextOnly);
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
-    setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize TextButton::sizeHint() const {
     return {fontMetrics().horizontalAdvance(text()) + 2 * textPadding, side};
 }
 
-void TextButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Painting::drawFeedback(painter, *this, Theme::controlRadius);
-    painter.setPen(Theme::color(Role::accent));
-    painter.drawText(rect(), Qt::AlignCenter, text());
+void TextButton::initStyleOption(QStyleOptionToolButton* option) const {
+    QToolButton::initStyleOption(option);
+    option->palette.setColor(QPalette::ButtonText, Theme::color(Role::accent));
 }

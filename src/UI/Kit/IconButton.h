@@ -2,26 +2,25 @@
 
 #include "UI/Style/Theme.h"
 
-#include <QAbstractButton>
+#include <QToolButton>
 
 /// A borderless button with a symbol; the help text is its tool tip and its accessible name.
-class IconButton : public QAbstractButton {
+class IconButton : public QToolButton {
     Q_OBJECT
 
 public:
-    IconButton(QString symbol, const QString& help, Theme::Role tint = Theme::Role::secondaryText,
+    IconButton(const QString& symbol, const QString& help, Theme::Role tint = Theme::Role::secondaryText,
                QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:
-    QString m_symbol;
     Theme::Role m_tint;
 };
 
 /// A borderless button with a short text in the accent colour.
-class TextButton : public QAbstractButton {
+class TextButton : public QToolButton {
     Q_OBJECT
 
 public:
@@ -30,5 +29,5 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionToolButton* option) const override;
 };

@@ -12,7 +12,8 @@ class Notice : public QWidget {
     Q_OBJECT
 
 public:
-    /// It hides after `lifetime`, which starts anew with each text. 0 keeps it until it is dismissed.
+    /// Makes a notice that hides after `lifetime`, which starts anew with each text. 0 keeps it until it is
+    /// dismissed.
     Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
 
     void show(const QString& text);

@@ -1,7 +1,6 @@
 #include "UI/Kit/OnScreen.h"
 
 #include "Core/Observable.h"
-#include "Core/Observe.h"
 
 #include <QEvent>
 #include <QWidget>

@@ -1,7 +1,6 @@
 #include "UI/Kit/PanelRow.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -29,7 +28,7 @@ void PanelRow::set(const Content& content) {
     m_content = content;
     m_content.text = Formatters::visible(content.text);
     setAccessibleName(QStringLiteral("%1 %2").arg(m_content.text, m_content.figure).trimmed());
-    setToolTip(plainToolTip(content.toolTip));
+    setToolTip(Formatters::toolTip(content.toolTip));
     setAccessibleDescription(content.toolTip);
     update();
 }

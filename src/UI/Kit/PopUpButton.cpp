@@ -1,21 +1,11 @@
 #include "UI/Kit/PopUpButton.h"
 
 #include "UI/Style/Painting.h"
-#include "UI/Style/Symbols.h"
 
-#include <QPainter>
-
-#include <algorithm>
+#include <QStyleOption>
+#include <QStylePainter>
 
 using Theme::Role;
-
-namespace {
-
-constexpr int padding = 10;
-constexpr int chevronSize = 11;
-constexpr int gap = 6;
-
-} // namespace
 
 PopUpButton::PopUpButton(const QString& label, QWidget* parent)
     : QComboBox(parent)
@@ -30,26 +20,22 @@ QSize PopUpButton::sizeHint() const {
     int widest = 0;
     for (int i = 0; i < count(); ++i)
         widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
-    const int label = fontMetrics().horizontalAdvance(m_label);
-    return {label + widest + 2 * padding + gap + chevronSize, Theme::controlHeight};
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize text(fontMetrics().horizontalAdvance(m_label) + widest, 0);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
 }
 
 void PopUpButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    Painting::drawCard(painter, rect(), Theme::controlRadius);
-    if (isEnabled() && underMouse())
-        Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, 0.7));
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
-    QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
-    Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::secondaryText, opacity),
-                  QRectF(line.right() - chevronSize, 0, chevronSize, height()), chevronSize);
-    line.setRight(line.right() - chevronSize - gap);
-    painter.setFont(font());
+    QRectF line = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     painter.setPen(Theme::color(Role::secondaryText, opacity));
     Painting::drawElided(painter, line, Qt::ElideRight, m_label);
     line.setLeft(line.left() + QFontMetricsF(font()).horizontalAdvance(m_label));
     painter.setPen(Theme::color(Role::primaryText, opacity));
     Painting::drawElided(painter, line.adjusted(0, 0, 1, 0), Qt::ElideRight, currentText());
-    if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
 }

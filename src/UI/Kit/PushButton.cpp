@@ -1,21 +1,11 @@
 #include "UI/Kit/PushButton.h"
 
 #include "UI/Kit/Spinner.h"
-#include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
-#include <QPainter>
+#include <QStyleOption>
 
 using Theme::Role;
-
-namespace {
-
-constexpr int symbolSize = 15;
-constexpr int symbolGap = 6;
-constexpr int padding = 12;
-constexpr int smallPadding = 10;
-
-} // namespace
 
 PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* parent)
     : QPushButton(text, parent)
@@ -25,14 +15,16 @@ PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* 
     setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
     setFixedHeight(Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setIconSize(m_spinner->size());
+    setFlat(look == Look::borderless);
     setAutoDefault(false);
     m_spinner->hide();
+    showLead();
 }
 
 void PushButton::setSymbol(const QString& symbol) {
     m_symbol = symbol;
-    updateGeometry();
-    update();
+    showLead();
 }
 
 void PushButton::setTint(Role tint) {
@@ -41,7 +33,6 @@ void PushButton::setTint(Role tint) {
 }
 
 void PushButton::setSmall() {
-    m_isSmall = true;
     setFont(Theme::font(Theme::TextStyle::callout, QFont::Medium));
     setFixedHeight(Theme::smallControlHeight);
 }
@@ -49,18 +40,13 @@ void PushButton::setSmall() {
 void PushButton::setBusy(bool busy) {
     m_isBusy = busy;
     m_spinner->setVisible(busy);
+    showLead();
     placeSpinner();
-    updateGeometry();
-    update();
 }
 
-int PushButton::contentWidth() const {
-    const int lead = hasLead() ? symbolSize + symbolGap : 0;
-    return lead + fontMetrics().horizontalAdvance(caption());
-}
-
-QSize PushButton::sizeHint() const {
-    return {contentWidth() + 2 * (m_isSmall ? smallPadding : padding), height()};
+void PushButton::showLead() {
+    const bool hasLead = m_isBusy || !m_symbol.isEmpty();
+    setIcon(hasLead ? Symbols::icon(m_isBusy ? QString() : m_symbol) : QIcon());
 }
 
 void PushButton::resizeEvent(QResizeEvent* event) {
@@ -69,7 +55,10 @@ void PushButton::resizeEvent(QResizeEvent* event) {
 }
 
 void PushButton::placeSpinner() {
-    m_spinner->move((width() - contentWidth()) / 2, (height() - m_spinner->height()) / 2);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    m_spinner->move(contents.left(), (height() - m_spinner->height()) / 2);
 }
 
 QColor PushButton::textColor() const {
@@ -83,33 +72,9 @@ QColor PushButton::textColor() const {
     return Theme::color(Role::primaryText, opacity);
 }
 
-void PushButton::drawGround(QPainter& painter) const {
-    if (m_look == Look::prominent && isEnabled()) {
-        const QColor fill = Theme::tileColor(m_tint);
-        Painting::drawCard(painter, rect(), Theme::controlRadius,
-                           isDown() ? fill.darker(125) : (underMouse() ? fill.darker(110) : fill));
-        if (hasFocus()) // the ring's colour cannot be seen on the fill
-            Painting::drawCard(painter, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
-                               Qt::transparent, QColor(255, 255, 255, 190));
-        return;
-    }
-    if (m_look != Look::borderless)
-        Painting::drawCard(painter, rect(), Theme::controlRadius);
-    Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.7);
-}
-
-void PushButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawGround(painter);
-    QRectF area = rect();
-    area.setLeft((width() - contentWidth()) / 2);
-    painter.setFont(font());
-    painter.setPen(textColor());
-    if (hasLead()) {
-        const QRectF lead(area.left(), 0, symbolSize, height());
-        if (!m_isBusy)
-            Symbols::draw(painter, m_symbol, textColor(), lead, symbolSize);
-        area.setLeft(lead.right() + symbolGap);
-    }
-    Painting::drawTabular(painter, area, Qt::AlignLeft, caption());
+void PushButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    option->features.setFlag(QStyleOptionButton::DefaultButton, m_look == Look::prominent && isEnabled());
+    option->palette.setColor(QPalette::Button, Theme::tileColor(m_tint));
+    option->palette.setColor(QPalette::ButtonText, textColor());
 }

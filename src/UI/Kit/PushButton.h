@@ -28,26 +28,18 @@ public:
     /// Shows a spinner in the symbol's place. The caller disables the button.
     void setBusy(bool busy);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// Returns the text as it is displayed, with single ampersands.
-    QString caption() const { return text().replace(QStringLiteral("&&"), QStringLiteral("&")); }
-    bool hasLead() const { return !m_symbol.isEmpty() || m_isBusy; }
-    int contentWidth() const;
+    void showLead();
     void placeSpinner();
     QColor textColor() const;
-    void drawGround(QPainter& painter) const;
 
     Look m_look;
     QString m_symbol;
     Theme::Role m_tint = Theme::Role::accent;
-    bool m_isSmall = false;
     bool m_isBusy = false;
     Spinner* m_spinner;
 };

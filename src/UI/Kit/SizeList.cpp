@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/ScrollingPage.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 
 #include <QEvent>
@@ -45,7 +44,7 @@ public:
             column->addWidget(detail);
             spoken.append(detail->text());
         }
-        setToolTip(plainToolTip(m_name));
+        setToolTip(Formatters::toolTip(m_name));
         setAccessibleName(spoken.join(QStringLiteral(", ")));
     }
 

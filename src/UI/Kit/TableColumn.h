@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QVariant>
 
-/// What a table's model says of the head of a column, which has a title in the context "Columns" and
-/// an alignment.
+/// Returns what a model says of the head of a column, which has a title in the context "Columns" and an
+/// alignment.
 template <typename Column> QVariant headData(const Column& column, int role) {
     if (role == Qt::DisplayRole)
         return QCoreApplication::translate("Columns", column.title);

@@ -1,7 +1,7 @@
 #include "UI/Optimize/MCPCard.h"
 
 #include "Core/Formatters.h"
-#include "UI/Kit/Divider.h"
+#include "UI/Kit/Card.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Optimize/ServerRow.h"

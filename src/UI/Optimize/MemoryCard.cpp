@@ -2,7 +2,6 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/ToolTip.h"
 
 #include <QHBoxLayout>
 
@@ -18,7 +17,7 @@ PushButton* actionButton(const QString& title, const QString& symbol, Role tint)
 
 void explain(QWidget* button, const QString& failure) {
     const QString text = Formatters::visible(failure);
-    button->setToolTip(plainToolTip(text));
+    button->setToolTip(Formatters::toolTip(text));
     button->setAccessibleDescription(text);
 }
 

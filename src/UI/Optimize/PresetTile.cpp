@@ -2,7 +2,6 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -41,7 +40,7 @@ void PresetTile::set(const QuickKillPreset& preset, int matches) {
     const QString name = Formatters::visible(preset.name);
     const QString summary = Formatters::visible(preset.summaryLine());
     setAccessibleName(tr("%1, %2, %3 matching").arg(name, summary).arg(matches));
-    setToolTip(plainToolTip(QStringLiteral("%1\n%2").arg(name, summary)));
+    setToolTip(Formatters::toolTip(QStringLiteral("%1\n%2").arg(name, summary)));
     update();
 }
 

@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -46,7 +45,7 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
         return;
     m_server = server;
     const QString label = Formatters::visible(server.displayLabel);
-    setToolTip(plainToolTip(label + u'\n' + server.reason));
+    setToolTip(Formatters::toolTip(label + u'\n' + server.reason));
     setAccessibleDescription(server.reason);
     setAccessibleName(
         (server.isOrphan ? tr("Orphan %1, PID %2, parent: %3, %4") : tr("Running %1, PID %2, parent: %3, %4"))

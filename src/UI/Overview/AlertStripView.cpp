@@ -1,10 +1,10 @@
 #include "UI/Overview/AlertStripView.h"
 
-#include "UI/Kit/Levels.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Levels.h"
 
 #include <QHBoxLayout>
 

@@ -26,18 +26,13 @@ struct Look {
 };
 
 Look lookOf(KillOutcome outcome) {
-    switch (outcome) {
-    case KillOutcome::quit:
-        return {QStringLiteral("checkmark.circle.fill"), Role::green, FreeRAMResultView::tr("Quit")};
-    case KillOutcome::forced:
-        return {QStringLiteral("bolt.fill"), Role::orange, FreeRAMResultView::tr("Force-killed")};
-    case KillOutcome::ignored:
-        return {QStringLiteral("questionmark.circle.fill"), Role::yellow,
-                FreeRAMResultView::tr("Ignored SIGTERM/KILL")};
-    case KillOutcome::denied:
-        return {QStringLiteral("lock.fill"), Role::red, FreeRAMResultView::tr("Permission denied")};
-    }
-    return {};
+    const Look looks[] = {
+        {QStringLiteral("checkmark.circle.fill"), Role::green, FreeRAMResultView::tr("Quit")},
+        {QStringLiteral("bolt.fill"), Role::orange, FreeRAMResultView::tr("Force-killed")},
+        {QStringLiteral("questionmark.circle.fill"), Role::yellow,
+         FreeRAMResultView::tr("Ignored SIGTERM/KILL")},
+        {QStringLiteral("lock.fill"), Role::red, FreeRAMResultView::tr("Permission denied")}};
+    return looks[static_cast<int>(outcome)];
 }
 
 /// One process: symbol, name, PID and outcome.

@@ -2,9 +2,9 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "Core/Observe.h"
+#include "Core/Observable.h"
 #include "Platform/Words.h"
-#include "UI/Kit/Divider.h"
+#include "UI/Kit/Card.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"

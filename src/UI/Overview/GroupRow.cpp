@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Kit/TextLabel.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Overview/ProcessRow.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
@@ -64,7 +63,7 @@ void GroupHeader::describe() {
                           .arg(Translations::of(m_rollup.group))
                           .arg(m_rollup.count)
                           .arg(m_rollup.memory.description(), Formatters::percent(m_rollup.cpuPercent)));
-    setToolTip(plainToolTip(m_rollup.memory.parts()));
+    setToolTip(Formatters::toolTip(m_rollup.memory.parts()));
     setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
 }
 

@@ -21,8 +21,8 @@ public:
 
     explicit GroupRow(ProcGroup group, QWidget* parent = nullptr);
 
-    /// `totalRAM` is the machine's memory in bytes. `members` are the group's processes in the order to show;
-    /// they are read only when the group is open.
+    /// Shows the group. `totalRAM` is the machine's memory in bytes. `members` are the processes in the order
+    /// to show, and read only when the group is open.
     void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded, const QList<ProcSample>& members);
 
 Q_SIGNALS:

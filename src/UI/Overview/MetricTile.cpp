@@ -1,6 +1,6 @@
 #include "UI/Overview/MetricTile.h"
 
-#include "UI/Kit/ToolTip.h"
+#include "Core/Formatters.h"
 #include "UI/Overview/Sparkline.h"
 #include "UI/Style/Painting.h"
 
@@ -35,7 +35,7 @@ void MetricTile::set(const Metric& metric) {
     tintSparkline();
     setAccessibleName(QStringLiteral("%1 %2").arg(metric.title, metric.value));
     setAccessibleDescription(metric.sub.value_or(QString()));
-    setToolTip(plainToolTip(metric.toolTip));
+    setToolTip(Formatters::toolTip(metric.toolTip));
     update();
 }
 

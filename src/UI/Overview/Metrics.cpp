@@ -1,7 +1,7 @@
 #include "Core/Formatters.h"
 #include "Core/Memory/MemoryLineUp.h"
-#include "UI/Kit/Levels.h"
 #include "UI/Overview/MetricTile.h"
+#include "UI/Style/Levels.h"
 
 #include <QCoreApplication>
 

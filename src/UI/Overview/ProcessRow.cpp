@@ -3,7 +3,6 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
@@ -57,7 +56,7 @@ void ProcessRow::set(const ProcSample& process) {
     m_name = name;
     m_cpu = cpu;
     m_memory = memory;
-    setToolTip(plainToolTip(Formatters::visible(process.executablePath)));
+    setToolTip(Formatters::toolTip(Formatters::visible(process.executablePath)));
     setAccessibleName(tr("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
     update();
 }

@@ -1,11 +1,21 @@
 #pragma once
 
-#include "UI/Processes/ProcessTableRow.h"
+#include "Core/Memory/SummedMemory.h"
 #include "UI/Style/Theme.h"
 
+#include <QList>
 #include <QStringList>
 
 #include <limits>
+
+/// One row of the flat or the grouped table: one process, or all of one name.
+struct ProcessTableRow {
+    ProcSample first;                 ///< the process, or the first of the name
+    QList<ProcSample> processes = {}; ///< empty for one process
+    SummedMemory memory = {};         ///< of all of the name
+    double cpuPercent = 0;
+    int sameName = 1; ///< the number of processes of that name: on the machine, or in the row
+};
 
 /// One column of the Processes section: its header, its cells, its width and its order.
 struct ProcessColumn {

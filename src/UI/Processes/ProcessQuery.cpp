@@ -1,7 +1,5 @@
 #include "UI/Processes/ProcessQuery.h"
 
-#include "UI/Processes/ProcessColumns.h"
-
 #include <QHash>
 
 #include <algorithm>

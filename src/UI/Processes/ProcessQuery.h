@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Processes/ProcessTableRow.h"
+#include "UI/Processes/ProcessColumns.h"
 
 #include <optional>
 

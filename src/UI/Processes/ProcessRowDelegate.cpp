@@ -2,7 +2,6 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/TableView.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -35,15 +34,8 @@ QRect buttonRect(const QRect& cell, int position) {
 }
 
 QString symbolOf(RowAction action) {
-    switch (action) {
-    case RowAction::quit:
-        return QStringLiteral("stop.circle");
-    case RowAction::forceKill:
-        return QStringLiteral("xmark.octagon");
-    case RowAction::sweep:
-        return QStringLiteral("bolt.fill");
-    }
-    return {};
+    constexpr QStringView symbols[] = {u"stop.circle", u"xmark.octagon", u"bolt.fill"};
+    return symbols[static_cast<int>(action)].toString();
 }
 
 Role tintOf(RowAction action, const ProcessTableRow& row) {
@@ -181,6 +173,6 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                 text = helpOf(action, row, model.isGrouped());
         }
     }
-    QToolTip::showText(event->globalPos(), plainToolTip(text), view);
+    QToolTip::showText(event->globalPos(), Formatters::toolTip(text), view);
     return true;
 }

@@ -1,7 +1,7 @@
 #include "UI/Settings/HistoryRowDelegate.h"
 
+#include "Core/Formatters.h"
 #include "UI/Kit/TableView.h"
-#include "UI/Kit/ToolTip.h"
 #include "UI/Settings/LocalTimeText.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
@@ -113,6 +113,6 @@ bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(maxPainted)) <=
                                                               option.rect.width() - 2 * padding;
     const QString shown = text.size() > maxInToolTip ? text.left(maxInToolTip) + u'…' : text;
-    QToolTip::showText(event->globalPos(), isWhole ? QString() : plainToolTip(shown), view);
+    QToolTip::showText(event->globalPos(), isWhole ? QString() : Formatters::toolTip(shown), view);
     return true;
 }

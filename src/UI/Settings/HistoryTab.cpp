@@ -6,12 +6,13 @@
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PopUpButton.h"
-#include "UI/Settings/HistoryTableModel.h"
-#include "UI/Settings/HistoryTableView.h"
+#include "UI/Kit/TableView.h"
+#include "UI/Settings/HistoryRowDelegate.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QSaveFile>
 #include <QShortcut>
 #include <QShowEvent>
@@ -43,12 +44,34 @@ QString exportFolder() {
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
+/// Makes the table, which is sorted by its heads.
+TableView* makeTable(HistoryTableModel* rows) {
+    using Column = HistoryTableModel::Column;
+    constexpr int detail = static_cast<int>(Column::detail);
+    auto* table = new TableView(HistoryTab::tr("Action history"));
+    table->setModel(rows);
+    table->setItemDelegate(new HistoryRowDelegate(table));
+    table->setSelectionMode(QTreeView::ExtendedSelection);
+    table->setTabKeyNavigation(false);
+    QHeaderView* head = table->header();
+    for (int section = 0; section < HistoryTableModel::columns; ++section) {
+        if (section != detail)
+            head->resizeSection(section, HistoryRowDelegate::widthOf(static_cast<Column>(section)));
+    }
+    head->setSectionResizeMode(detail, QHeaderView::Stretch);
+    head->setSectionResizeMode(static_cast<int>(Column::ok), QHeaderView::Fixed);
+    head->setSortIndicator(static_cast<int>(Column::time), Qt::DescendingOrder);
+    table->setSortingEnabled(true);
+    QObject::connect(head, &QHeaderView::sortIndicatorChanged, table, &QTreeView::scrollToTop);
+    return table;
+}
+
 } // namespace
 
 HistoryTab::HistoryTab(QWidget* parent)
     : QWidget(parent)
     , m_rows(new HistoryTableModel(this))
-    , m_table(new HistoryTableView(m_rows))
+    , m_table(makeTable(m_rows))
     , m_stack(new QStackedWidget) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);

@@ -3,8 +3,8 @@
 #include <QWidget>
 
 class HistoryTableModel;
-class HistoryTableView;
 class QStackedWidget;
+class TableView;
 
 /// The History tab of the settings: the entries of the action log, newest first, with a filter, export and
 /// clearing. The file is read when the tab appears and on Refresh only.
@@ -28,6 +28,6 @@ private:
     void showRows();
 
     HistoryTableModel* m_rows;
-    HistoryTableView* m_table;
+    TableView* m_table;
     QStackedWidget* m_stack;
 };

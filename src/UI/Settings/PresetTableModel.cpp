@@ -2,7 +2,6 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/TableColumn.h"
-#include "UI/Kit/ToolTip.h"
 
 #include <cmath>
 
@@ -63,7 +62,7 @@ QVariant PresetTableModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::AccessibleTextRole) // what the drawings say
         return index.column() != Column::force ? text : preset.force ? tr("Force") : tr("No force");
     if (role == Qt::ToolTipRole)
-        return plainToolTip(text.toString());
+        return Formatters::toolTip(text.toString());
     return cellData(column(index.column()), preset, role);
 }
 

@@ -40,9 +40,9 @@ private:
 
 template <>
 inline constexpr std::array rawValueTable<SettingsScene::Tab> = {
-    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::general, u"General"},
-    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::sampling, u"Sampling"},
-    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::alerts, u"Alerts"},
-    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::quickKills, u"Quick Kills"},
-    RawValueRow<SettingsScene::Tab>{SettingsScene::Tab::history, u"History"},
+    RawValueRow{SettingsScene::Tab::general, QT_TRANSLATE_NOOP("Translations", "General")},
+    RawValueRow{SettingsScene::Tab::sampling, QT_TRANSLATE_NOOP("Translations", "Sampling")},
+    RawValueRow{SettingsScene::Tab::alerts, QT_TRANSLATE_NOOP("Translations", "Alerts")},
+    RawValueRow{SettingsScene::Tab::quickKills, QT_TRANSLATE_NOOP("Translations", "Quick Kills")},
+    RawValueRow{SettingsScene::Tab::history, QT_TRANSLATE_NOOP("Translations", "History")},
 };

@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <cmath>
@@ -67,13 +68,21 @@ void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.restore();
 }
 
+void drawFeedback(QPainter& painter, const QRectF& area, QStyle::State state, double radius, double hovered,
+                  double pressed) {
+    if (state & QStyle::State_Enabled && state & (QStyle::State_MouseOver | QStyle::State_Sunken))
+        drawCard(painter, area, radius,
+                 Theme::color(Theme::Role::hoverFill, state & QStyle::State_Sunken ? pressed : hovered));
+    if (state & QStyle::State_HasFocus)
+        drawFocusRing(painter, area, radius);
+}
+
 void drawFeedback(QPainter& painter, const QAbstractButton& button, double radius, double hovered,
                   double pressed) {
-    if (button.isEnabled() && (button.underMouse() || button.isDown()))
-        drawCard(painter, button.rect(), radius,
-                 Theme::color(Theme::Role::hoverFill, button.isDown() ? pressed : hovered));
-    if (button.hasFocus())
-        drawFocusRing(painter, button.rect(), radius);
+    QStyleOption option;
+    option.initFrom(&button);
+    option.state.setFlag(QStyle::State_Sunken, button.isDown());
+    drawFeedback(painter, option.rect, option.state, radius, hovered, pressed);
 }
 
 void drawBadge(QPainter& painter, const QRectF& area, Theme::Role role, const QFont& font,

@@ -4,6 +4,7 @@
 
 #include <QRectF>
 #include <QString>
+#include <QStyle>
 
 class QAbstractButton;
 class QPainter;
@@ -22,6 +23,8 @@ void drawCard(QPainter& painter, const QRectF& area, double radius = Theme::card
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius);
 
 /// Draws the light of a button that is hovered or pressed, in the strengths given, and the focus ring.
+void drawFeedback(QPainter& painter, const QRectF& area, QStyle::State state, double radius,
+                  double hovered = 1, double pressed = 1);
 void drawFeedback(QPainter& painter, const QAbstractButton& button, double radius, double hovered = 1,
                   double pressed = 1);
 

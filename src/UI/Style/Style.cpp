@@ -4,6 +4,7 @@
 #include "UI/Style/Symbols.h"
 
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -17,15 +18,26 @@ constexpr QSizeF switchTrack(34, 20);
 constexpr int knobInset = 2;
 constexpr int switchGap = 8;
 constexpr int fieldPadding = 6;
+constexpr int buttonPadding = 12;
+constexpr int smallButtonPadding = 10;
+constexpr int buttonGap = 6;
+constexpr int comboPadding = 10;
+constexpr int comboChevronSize = 11;
 constexpr int sliderTrackHeight = 4;
 constexpr int thumbInset = 3;
 constexpr int minThumbLength = 36;
 constexpr int sectionPadding = 8;
 constexpr int chevronSize = 10;
 
-bool isOurs(const QWidget* widget) {
+/// Returns whether the widget is in a window of the program, also in the panel of the tray.
+bool isInOurWindow(const QWidget* widget) {
     const QWidget* window = widget ? widget->window() : nullptr;
-    return window && window->windowType() != Qt::Popup && !qobject_cast<const QFileDialog*>(window);
+    return window && !qobject_cast<const QFileDialog*>(window) && !qobject_cast<const QMessageBox*>(window);
+}
+
+/// Returns false in a drop-down list too.
+bool isOurs(const QWidget* widget) {
+    return isInOurWindow(widget) && widget->window()->windowType() != Qt::Popup;
 }
 
 /// Returns null unless the option is that of a vertical scroll bar which this style draws.
@@ -70,6 +82,78 @@ void drawCheckBox(QPainter& painter, const QStyleOptionButton& box, const QWidge
     painter.setFont(Theme::font(Theme::TextStyle::body));
     painter.setPen(Theme::color(Role::primaryText, opacity));
     Painting::drawElided(painter, line, Qt::ElideRight, box.text);
+}
+
+/// Returns the text as it is displayed, with single ampersands.
+QString caption(const QStyleOptionButton& button) {
+    return QString(button.text).replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
+/// Returns the area of the symbol and the text.
+QRect buttonContents(const QStyleOptionButton& button) {
+    const int lead = button.icon.isNull() ? 0 : button.iconSize.width() + buttonGap;
+    const int width = lead + button.fontMetrics.horizontalAdvance(caption(button));
+    return {(button.rect.width() - width) / 2, 0, width, button.rect.height()};
+}
+
+void drawButtonGround(QPainter& painter, const QStyleOptionButton& button) {
+    const QRectF area = button.rect;
+    if (button.features & QStyleOptionButton::DefaultButton) {
+        const QColor fill = button.palette.color(QPalette::Button);
+        const QColor hovered = button.state & QStyle::State_MouseOver ? fill.darker(110) : fill;
+        Painting::drawCard(painter, area, Theme::controlRadius,
+                           button.state & QStyle::State_Sunken ? fill.darker(125) : hovered);
+        if (button.state & QStyle::State_HasFocus) // the ring's colour cannot be seen on the fill
+            Painting::drawCard(painter, area.adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
+                               Qt::transparent, QColor(255, 255, 255, 190));
+        return;
+    }
+    if (!(button.features & QStyleOptionButton::Flat))
+        Painting::drawCard(painter, area, Theme::controlRadius);
+    Painting::drawFeedback(painter, area, button.state, Theme::controlRadius, 0.7);
+}
+
+void drawPushButton(QPainter& painter, const QStyleOptionButton& button) {
+    drawButtonGround(painter, button);
+    QRectF line = buttonContents(button);
+    painter.setPen(button.palette.color(QPalette::ButtonText));
+    if (!button.icon.isNull()) {
+        const int side = button.iconSize.width();
+        button.icon.paint(&painter, buttonContents(button).adjusted(0, 0, side - int(line.width()), 0));
+        line.setLeft(line.left() + side + buttonGap);
+    }
+    Painting::drawTabular(painter, line, Qt::AlignLeft, caption(button));
+}
+
+/// Draws the symbol, or the text where there is none.
+void drawToolButton(QPainter& painter, const QStyleOptionToolButton& button) {
+    Painting::drawFeedback(painter, button.rect, button.state, Theme::controlRadius);
+    painter.setPen(button.palette.color(QPalette::ButtonText));
+    if (button.icon.isNull())
+        painter.drawText(button.rect, Qt::AlignCenter, button.text);
+    else
+        button.icon.paint(
+            &painter, QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, button.iconSize, button.rect));
+}
+
+/// Returns the area of the text.
+QRect comboBoxField(const QStyleOptionComboBox& box) {
+    return box.rect.adjusted(comboPadding, 0, -comboPadding - comboChevronSize - buttonGap, 0);
+}
+
+/// Draws all but the text.
+void drawComboBox(QPainter& painter, const QStyleOptionComboBox& box) {
+    const QRectF area = box.rect;
+    const bool isEnabled = box.state & QStyle::State_Enabled;
+    Painting::drawCard(painter, area, Theme::controlRadius);
+    if (isEnabled && box.state & QStyle::State_MouseOver)
+        Painting::drawCard(painter, area, Theme::controlRadius, Theme::color(Role::hoverFill, 0.7));
+    const QRectF chevron(area.right() - comboPadding - comboChevronSize, 0, comboChevronSize, area.height());
+    Symbols::draw(painter, QStringLiteral("chevron.down"),
+                  Theme::color(Role::secondaryText, isEnabled ? 1 : Theme::disabledOpacity), chevron,
+                  comboChevronSize);
+    if (box.state & QStyle::State_HasFocus)
+        Painting::drawFocusRing(painter, area, Theme::controlRadius);
 }
 
 void drawHeaderGround(QPainter& painter, const QStyleOption& header) {
@@ -188,10 +272,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                         const QWidget* widget) const {
-    const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option);
-    if (element == CE_CheckBox && box && isOurs(widget))
-        drawCheckBox(*painter, *box, widget);
+    if (element == CE_PushButton && button && isInOurWindow(widget))
+        drawPushButton(*painter, *button);
+    else if (element == CE_CheckBox && button && isOurs(widget))
+        drawCheckBox(*painter, *button, widget);
     else if (element == CE_Header && section && isOurs(widget))
         drawHeaderSection(*painter, *section);
     else if (element == CE_HeaderEmptyArea && isOurs(widget))
@@ -203,7 +289,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control == CC_ScrollBar && slimBar(option, widget))
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ToolButton && button && isInOurWindow(widget))
+        drawToolButton(*painter, *button);
+    else if (control == CC_ComboBox && combo && isInOurWindow(widget))
+        drawComboBox(*painter, *combo);
+    else if (control == CC_ScrollBar && slimBar(option, widget))
         drawScrollBar(*painter, *slider);
     else if (control == CC_Slider && slider && slider->orientation == Qt::Horizontal)
         drawSlider(*painter, *slider);
@@ -214,6 +306,13 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const {
     const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && box && isInOurWindow(widget)) {
+        const int height = widget->height(); // the option has the size of the text
+        const int padding = height < Theme::controlHeight ? smallButtonPadding : buttonPadding;
+        return {buttonContents(*box).width() + 2 * padding, height};
+    }
+    if (type == CT_ComboBox && isInOurWindow(widget))
+        return {contents.width() + 2 * comboPadding + buttonGap + comboChevronSize, Theme::controlHeight};
     if (type == CT_CheckBox && box && isOurs(widget)) {
         const int text =
             box->text.isEmpty() ? 0 : switchGap + box->fontMetrics.horizontalAdvance(box->text) + 2;
@@ -227,6 +326,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == SE_PushButtonContents && button && isInOurWindow(widget))
+        return buttonContents(*button);
     if (element == SE_LineEditContents && isOurs(widget))
         return option->rect.adjusted(fieldPadding, 0, -fieldPadding, 0);
     if (element == SE_CheckBoxClickRect && isOurs(widget))
@@ -236,6 +338,9 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
 
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                             const QWidget* widget) const {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField && combo && isInOurWindow(widget))
+        return comboBoxField(*combo);
     const QStyleOptionSlider* bar = control == CC_ScrollBar ? slimBar(option, widget) : nullptr;
     return bar ? scrollBarPart(*bar, part) : QProxyStyle::subControlRect(control, option, part, widget);
 }

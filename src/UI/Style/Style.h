@@ -4,8 +4,9 @@
 
 class QStyleOptionSlider;
 
-/// Draws the standard widgets: check boxes as switches, text fields, sliders, vertical scroll bars and table
-/// headers. Fusion draws the rest, and Qt's own dialogs and drop-down lists.
+/// Draws the standard widgets: buttons, check boxes as switches, text fields, frames of combo boxes, sliders,
+/// vertical scroll bars and table headers. Fusion draws the rest, and Qt's own dialogs and drop-down lists.
+/// The palette of a button's option has the colours of its text and, for a default button, of its ground.
 class Style : public QProxyStyle {
     Q_OBJECT
 

@@ -2,9 +2,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
+
+#include <algorithm>
 
 namespace Symbols {
 namespace {
@@ -30,6 +33,21 @@ QPixmap render(const QString& name, const QColor& tint, int pixels) {
     return QPixmap::fromImage(image);
 }
 
+class SymbolEngine : public QIconEngine {
+public:
+    explicit SymbolEngine(QString name)
+        : m_name(std::move(name)) {}
+
+    void paint(QPainter* painter, const QRect& area, QIcon::Mode, QIcon::State) override {
+        if (!m_name.isEmpty())
+            draw(*painter, m_name, painter->pen().color(), area, std::min(area.width(), area.height()));
+    }
+    QIconEngine* clone() const override { return new SymbolEngine(*this); }
+
+private:
+    QString m_name;
+};
+
 } // namespace
 
 QStringList names() {
@@ -50,6 +68,10 @@ QPixmap pixmap(const QString& name, const QColor& tint, int size, double deviceP
     }
     result.setDevicePixelRatio(devicePixelRatio);
     return result;
+}
+
+QIcon icon(const QString& name) {
+    return QIcon(new SymbolEngine(name));
 }
 
 void draw(QPainter& painter, const QString& name, const QColor& tint, const QRectF& area, int size) {

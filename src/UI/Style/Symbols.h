@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QIcon>
 #include <QPixmap>
 #include <QRectF>
 #include <QStringList>
@@ -15,6 +16,9 @@ QStringList names();
 
 /// Returns a square drawing of `size` device-independent pixels, sharp at `devicePixelRatio`.
 QPixmap pixmap(const QString& name, const QColor& tint, int size, double devicePixelRatio);
+
+/// Returns the symbol in the colour of the painter's pen, for the style. An empty name gives a blank.
+QIcon icon(const QString& name);
 
 /// Draws the symbol centred in `area`.
 void draw(QPainter& painter, const QString& name, const QColor& tint, const QRectF& area, int size);

@@ -56,7 +56,7 @@ void FreedesktopDesktopApplication::setActivationPolicy(ActivationPolicy policy)
         X11Window::setSkipTaskbar(window, policy == ActivationPolicy::accessory);
 }
 
-/// Window managers forget a window's state when it is unmapped.
+/// Hides a window from the task bar each time it is shown: window managers forget the state of a hidden one.
 bool FreedesktopDesktopApplication::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show && m_policy == ActivationPolicy::accessory) {
         auto* window = qobject_cast<QWidget*>(watched);

@@ -1,4 +1,4 @@
-#include "UI/MessageSeverity.h"
+#include "UI/Style/MessageSeverity.h"
 
 using Severity = Message::Severity;
 

@@ -25,29 +25,14 @@ constexpr Theme::Role disk(double percent) {
 }
 
 constexpr Theme::Role thermal(ThermalState state) {
-    switch (state) {
-    case ThermalState::nominal:
-        return Theme::Role::green;
-    case ThermalState::fair:
-        return Theme::Role::yellow;
-    case ThermalState::serious:
-        return Theme::Role::orange;
-    case ThermalState::critical:
-        return Theme::Role::red;
-    }
-    return Theme::Role::green;
+    constexpr Theme::Role roles[] = {Theme::Role::green, Theme::Role::yellow, Theme::Role::orange,
+                                     Theme::Role::red};
+    return roles[static_cast<int>(state)];
 }
 
 constexpr Theme::Role alert(Alert::Severity severity) {
-    switch (severity) {
-    case Alert::Severity::info:
-        return Theme::Role::blue;
-    case Alert::Severity::warn:
-        return Theme::Role::orange;
-    case Alert::Severity::danger:
-        return Theme::Role::red;
-    }
-    return Theme::Role::blue;
+    constexpr Theme::Role roles[] = {Theme::Role::blue, Theme::Role::orange, Theme::Role::red};
+    return roles[static_cast<int>(severity)];
 }
 
 } // namespace Levels

@@ -1,4 +1,4 @@
-#include "UI/Kit/FigureIcon.h"
+#include "UI/Style/FigureIcon.h"
 
 #include "UI/Style/Symbols.h"
 
