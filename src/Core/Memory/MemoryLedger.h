@@ -38,7 +38,7 @@ public:
     void tick(QList<ProcSample>& processes);
 
     /// Waits for the slice under way, in tests and benchmarks only.
-    void waitForSlice() { m_pool.waitForDone(); }
+    void waitForSlice() { m_slice.waitForFinished(); }
 
 private:
     struct Entry {
