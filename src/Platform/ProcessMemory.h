@@ -12,6 +12,7 @@ struct ProcessMemoryUse {
     std::optional<quint64> proportionalDirtyBytes; ///< of these, what cannot be dropped and read again
     std::optional<quint64> uniqueBytes;            ///< pages that no other process maps
     std::optional<quint64> uniqueDirtyBytes;       ///< of these, what cannot be dropped and read again
+    std::optional<quint64> dirtyBytes;             ///< as the last, whoever else maps them
     std::optional<quint64> anonymousBytes;         ///< pages of no file, whoever else maps them
     std::optional<quint64> swapBytes;
     std::optional<quint64> proportionalSwapBytes; ///< divided as the pages in memory are

@@ -78,11 +78,11 @@ TEST(MemoryPlanTest, AskedThenShownThenNewThenGrownThenDue) {
         (QList<Reading>{{2, false}, {6, false}, {7, false}, {1, true}, {4, true}, {3, true}, {5, true}}));
 }
 
-TEST(MemoryPlanTest, TheTotalsStandForTheWholeFourTimesAtMost) {
+TEST(MemoryPlanTest, TheTotalsStandForTheWholeNineTimesAtMost) {
     Process process = known(1, 40 * MiB, 46);
-    process.repeats = 3;
+    process.repeats = 8;
     EXPECT_EQ(planned({process}), (QList<Reading>{{1, false}}));
-    process.repeats = 4;
+    process.repeats = 9;
     EXPECT_EQ(planned({process}), (QList<Reading>{{1, true}}));
     process.isRefused = true;
     EXPECT_EQ(planned({process}), (QList<Reading>{{1, false}}));

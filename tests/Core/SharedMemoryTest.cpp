@@ -16,16 +16,18 @@ std::shared_ptr<const MemoryFigures> figures(const ProcessMemoryUse& use, bool i
         MemoryFigures{.use = use, .readAt = {}, .isRefused = isRefused});
 }
 
-/// A process with 1 MiB of its own, 3 MiB of shared pages in its share, and 1 MiB of those clean.
+/// A process with 1 MiB of its own and a share of 3 MiB in other pages, 1 MiB of it clean. It maps 7 MiB of
+/// dirty pages, and its page tables take 1 MiB.
 ProcSample sharing(qint32 pid, qint32 parent, const QString& path = u"/bin/a"_s) {
     return {.pid = pid,
             .parentPid = parent,
             .executablePath = path,
-            .rssBytes = 100 * MiB,
+            .rssBytes = 512 * MiB,
             .memory = figures({.proportionalBytes = 4 * MiB,
                                .proportionalDirtyBytes = 3 * MiB,
                                .uniqueBytes = MiB,
                                .uniqueDirtyBytes = MiB,
+                               .dirtyBytes = 7 * MiB,
                                .swapBytes = 2 * MiB,
                                .proportionalSwapBytes = MiB})};
 }
@@ -42,15 +44,15 @@ TEST(SummedMemoryTest, AddsSharesAndSwapAndSaysHowTrueItIs) {
     withoutSwapLines.memory = figures({.proportionalBytes = MiB});
 
     EXPECT_EQ(SummedMemory::of({read, withoutSwapLines}),
-              (SummedMemory{.bytes = 6 * MiB, .swapBytes = MiB, .residentBytes = 200 * MiB}));
+              (SummedMemory{.bytes = 6 * MiB, .swapBytes = MiB, .residentBytes = 1024 * MiB}));
     EXPECT_EQ(SummedMemory::of({read, refused}),
               (SummedMemory{
-                  .bytes = 8 * MiB, .swapBytes = 2 * MiB, .residentBytes = 109 * MiB, .certainty = atLeast}));
+                  .bytes = 8 * MiB, .swapBytes = 2 * MiB, .residentBytes = 521 * MiB, .certainty = atLeast}));
     const SummedMemory unknown = SummedMemory::of({read, unread, refused});
     EXPECT_EQ(unknown, (SummedMemory{.bytes = 15 * MiB,
                                      .swapBytes = 2 * MiB,
                                      .standInBytes = 7 * MiB,
-                                     .residentBytes = 116 * MiB,
+                                     .residentBytes = 528 * MiB,
                                      .certainty = about}));
     EXPECT_EQ(unknown.text(), u"≈ 15 MB"_s);
     EXPECT_EQ(SummedMemory::of({refused}).text(), u"≥ 3 MB"_s);
@@ -58,22 +60,27 @@ TEST(SummedMemoryTest, AddsSharesAndSwapAndSaysHowTrueItIs) {
 }
 
 TEST(MemoryReturnTest, SharedPagesComeBackWithTheLastOfTheirFamily) {
-    const QList<ProcSample> all = {
+    QList<ProcSample> all = {
         sharing(10, 1, u"/bin/shell"_s),
-        sharing(11, 10),
+        sharing(11, 10), // a family with 12 and 13
         sharing(12, 11),
-        sharing(13, 11), // one family
-        sharing(20, 1, u"/bin/b"_s),
-        sharing(21, 1, u"/bin/b"_s), // orphans of one program
+        sharing(13, 11),
+        sharing(20, 1, u"/bin/b"_s), // orphans of one program
+        sharing(21, 1, u"/bin/b"_s),
         sharing(30, 10, u"/bin/c"_s),
+        sharing(40, 10, u"/bin/d"_s), // maps 1 MiB of what its children share
+        sharing(41, 40, u"/bin/d"_s),
+        sharing(42, 40, u"/bin/d"_s),
     };
+    all[7].memory = figures({.proportionalDirtyBytes = 3 * MiB, .dirtyBytes = MiB});
     const std::pair<QList<qint32>, MemoryReturn> rows[] = {
-        {{12}, {.memoryBytes = MiB, .swapBytes = MiB}},
-        {{12, 13}, {.memoryBytes = 2 * MiB, .swapBytes = 2 * MiB}},
-        {{11, 12, 13}, {.memoryBytes = 9 * MiB, .swapBytes = 3 * MiB}},
-        {{20}, {.memoryBytes = MiB, .swapBytes = MiB}},
-        {{20, 21}, {.memoryBytes = 6 * MiB, .swapBytes = 2 * MiB}},
-        {{30, 99}, {.memoryBytes = MiB, .swapBytes = MiB}},
+        {{12}, {.memoryBytes = 2 * MiB, .swapBytes = MiB}},
+        {{12, 13}, {.memoryBytes = 4 * MiB, .swapBytes = 2 * MiB}},
+        {{11, 12, 13}, {.memoryBytes = 12 * MiB, .swapBytes = 3 * MiB}},
+        {{20}, {.memoryBytes = 2 * MiB, .swapBytes = MiB}},
+        {{20, 21}, {.memoryBytes = 8 * MiB, .swapBytes = 2 * MiB}},
+        {{30, 99}, {.memoryBytes = 2 * MiB, .swapBytes = MiB}},
+        {{41, 42}, {.memoryBytes = 10 * MiB, .swapBytes = 2 * MiB}},
         {{}, {}},
     };
     for (const auto& [ending, expected] : rows) {

@@ -52,8 +52,8 @@ std::optional<quint64> parseCount(QByteArrayView text) {
 QString kindText(QByteArrayView kind) {
     static const auto known = [] {
         QList<std::pair<QByteArray, QString>> words;
-        for (const auto kind : allCases<ActionLogEntry::Kind>())
-            words.append({rawValue(kind).toUtf8(), rawValue(kind)});
+        for (const auto each : allCases<ActionLogEntry::Kind>())
+            words.append({rawValue(each).toUtf8(), rawValue(each)});
         return words;
     }();
     for (const auto& [bytes, text] : known) {

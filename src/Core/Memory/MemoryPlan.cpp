@@ -11,7 +11,7 @@ constexpr Nanoseconds creditForTotals = creditPerTick / 2; // so that small proc
 constexpr Nanoseconds leastCost = std::chrono::microseconds(40); // opening, and the mappings of any process
 constexpr quint64 MiB = 1 << 20;
 constexpr quint64 smallBytes = 8 * MiB; // read by its totals at first
-constexpr int maxRepeats = 4;           // of the totals, while the process keeps its size
+constexpr int maxRepeats = 9;           // of the totals, while the process keeps its size
 constexpr double freshSeconds = 5;      // on show
 
 /// In the order of reading. What is settled is not read.

@@ -19,8 +19,8 @@ struct MemoryReturn {
     /// Returns what the end of exactly these processes gives back. `all` are the processes of the machine.
     ///
     /// A page that several processes map comes back with the last of them. Processes share pages that count
-    /// when one forked the other and both still run the same program. So the shared pages of such a family
-    /// count once when all of it ends, and not at all while one member stays. Clean pages of files never
-    /// count: the system keeps them as cache.
+    /// when one forked the other and both still run the same program. Such a family gives back what it holds
+    /// together, less all pages of those that stay. Clean pages of files never count, because the system
+    /// keeps them as cache; page tables do.
     static MemoryReturn ofEnding(const QList<qint32>& pids, const QList<ProcSample>& all);
 };

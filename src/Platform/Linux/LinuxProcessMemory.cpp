@@ -67,6 +67,7 @@ ProcessMemoryUse LinuxProcessMemory::parseRollup(std::string_view text) {
                 dirty ? dirty : sum(bytesOf(text, "Pss_Anon:"), bytesOf(text, "Pss_Shmem:")),
             .uniqueBytes = sum(uniqueDirty, bytesOf(text, "Private_Clean:")),
             .uniqueDirtyBytes = uniqueDirty,
+            .dirtyBytes = sum(uniqueDirty, bytesOf(text, "Shared_Dirty:")),
             .anonymousBytes = bytesOf(text, "Anonymous:"),
             .swapBytes = bytesOf(text, "Swap:"),
             .proportionalSwapBytes = bytesOf(text, "SwapPss:")};
