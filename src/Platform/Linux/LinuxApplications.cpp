@@ -15,16 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 maxBytes = 16 * 1024;
+constexpr qint64 maxTextBytes = 16 * 1024;
 
 /// Reads a file of procfs or of a sandbox, which may be anything. Returns an empty text on failure.
 QByteArray textOf(const QString& path) {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
-}
-
-QString fileName(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'/') + 1);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxTextBytes)
+                                                                      : QByteArray();
 }
 
 /// Reads the application's id from flatpak's file in the sandbox (flatpak-metadata(5)).
@@ -62,7 +59,7 @@ std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
         return std::nullopt;
     if (const auto* program = m_entries.ofFile(executable))
         return toldApart(program->entry);
-    if (DesktopEntries::isInterpreter(fileName(executable)))
+    if (DesktopEntries::isInterpreter(QFileInfo(executable).fileName()))
         return ofScript(folder);
     const auto unit = ApplicationUnit::of(textOf(folder + u"/cgroup"_s).toStdString());
     return unit.kind == ApplicationUnit::Kind::desktop ? ofUnit(unit.id, executable) : std::nullopt;
@@ -112,7 +109,7 @@ std::optional<Application> LinuxApplications::ofScript(const QString& folder) {
 
 std::optional<Application> LinuxApplications::ofUnit(const QString& id, const QString& executable) {
     const auto* program = m_entries.ofId(id);
-    if (!program || fileName(program->file) != fileName(executable))
+    if (!program || QFileInfo(program->file).fileName() != QFileInfo(executable).fileName())
         return std::nullopt;
     return toldApart(program->entry);
 }

@@ -10,7 +10,7 @@ using Theme::Role;
 namespace {
 
 constexpr int side = 26;
-constexpr int symbolSize = 18;
+constexpr int iconSymbolSize = 18;
 constexpr int textPadding = 8;
 
 } // namespace
@@ -29,7 +29,7 @@ void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::drawFeedback(painter, *this, Theme::controlRadius);
     const QColor tint = Theme::color(m_tint, isEnabled() ? 1 : 0.4);
-    Symbols::draw(painter, m_symbol, tint, rect(), symbolSize);
+    Symbols::draw(painter, m_symbol, tint, rect(), iconSymbolSize);
 }
 
 TextButton::TextButton(const QString& text, QWidget* parent)

@@ -11,9 +11,9 @@ using Theme::Role;
 
 namespace {
 
-constexpr int padding = 10;
-constexpr int chevronSize = 11;
-constexpr int gap = 6;
+constexpr int popUpPadding = 10;
+constexpr int popUpChevronSize = 11;
+constexpr int popUpGap = 6;
 
 } // namespace
 
@@ -31,7 +31,7 @@ QSize PopUpButton::sizeHint() const {
     for (int i = 0; i < count(); ++i)
         widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
     const int label = fontMetrics().horizontalAdvance(m_label);
-    return {label + widest + 2 * padding + gap + chevronSize, Theme::controlHeight};
+    return {label + widest + 2 * popUpPadding + popUpGap + popUpChevronSize, Theme::controlHeight};
 }
 
 void PopUpButton::paintEvent(QPaintEvent*) {
@@ -40,10 +40,10 @@ void PopUpButton::paintEvent(QPaintEvent*) {
     if (isEnabled() && underMouse())
         Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, 0.7));
     const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
-    QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
+    QRectF line = QRectF(rect()).adjusted(popUpPadding, 0, -popUpPadding, 0);
     Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::secondaryText, opacity),
-                  QRectF(line.right() - chevronSize, 0, chevronSize, height()), chevronSize);
-    line.setRight(line.right() - chevronSize - gap);
+                  QRectF(line.right() - popUpChevronSize, 0, popUpChevronSize, height()), popUpChevronSize);
+    line.setRight(line.right() - popUpChevronSize - popUpGap);
     painter.setFont(font());
     painter.setPen(Theme::color(Role::secondaryText, opacity));
     Painting::drawElided(painter, line, Qt::ElideRight, m_label);

@@ -10,9 +10,9 @@ using Theme::Role;
 
 namespace {
 
-constexpr int symbolSize = 15;
+constexpr int buttonSymbolSize = 15;
 constexpr int symbolGap = 6;
-constexpr int padding = 12;
+constexpr int buttonPadding = 12;
 constexpr int smallPadding = 10;
 
 } // namespace
@@ -55,12 +55,12 @@ void PushButton::setBusy(bool busy) {
 }
 
 int PushButton::contentWidth() const {
-    const int lead = hasLead() ? symbolSize + symbolGap : 0;
+    const int lead = hasLead() ? buttonSymbolSize + symbolGap : 0;
     return lead + fontMetrics().horizontalAdvance(caption());
 }
 
 QSize PushButton::sizeHint() const {
-    return {contentWidth() + 2 * (m_isSmall ? smallPadding : padding), height()};
+    return {contentWidth() + 2 * (m_isSmall ? smallPadding : buttonPadding), height()};
 }
 
 void PushButton::resizeEvent(QResizeEvent* event) {
@@ -106,9 +106,9 @@ void PushButton::paintEvent(QPaintEvent*) {
     painter.setFont(font());
     painter.setPen(textColor());
     if (hasLead()) {
-        const QRectF lead(area.left(), 0, symbolSize, height());
+        const QRectF lead(area.left(), 0, buttonSymbolSize, height());
         if (!m_isBusy)
-            Symbols::draw(painter, m_symbol, textColor(), lead, symbolSize);
+            Symbols::draw(painter, m_symbol, textColor(), lead, buttonSymbolSize);
         area.setLeft(lead.right() + symbolGap);
     }
     Painting::drawTabular(painter, area, Qt::AlignLeft, caption());

@@ -12,9 +12,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 42;
+constexpr int candidateRowHeight = 42;
 constexpr int boxSide = 16;
-constexpr int bytesWidth = 72;
+constexpr int candidateBytesWidth = 72;
 constexpr int idleWidth = 52;
 constexpr double tickedOpacity = 0.12;
 
@@ -27,14 +27,14 @@ QString details(const FreeRamPreview& candidate) {
 CandidateRow::CandidateRow(QWidget* parent)
     : QAbstractButton(parent) {
     setCheckable(true);
-    setFixedHeight(rowHeight);
+    setFixedHeight(candidateRowHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_candidate.pid, [this](qint32 pid) { Q_EMIT ticked(pid); });
 }
 
 QSize CandidateRow::sizeHint() const {
-    return {400, rowHeight};
+    return {400, candidateRowHeight};
 }
 
 void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
@@ -81,7 +81,7 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     Painting::drawTabular(painter, Painting::takeRight(line, idleWidth), Qt::AlignRight,
                           Formatters::duration(m_candidate.idleSeconds));
     painter.setPen(Theme::color(Role::primaryText));
-    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, candidateBytesWidth), Qt::AlignRight,
                           Formatters::bytes(m_candidate.rssBytes));
 
     QRectF upper = line.adjusted(0, 4, 0, -line.height() / 2 + 1);

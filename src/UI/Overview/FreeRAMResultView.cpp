@@ -16,16 +16,16 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 22;
+constexpr int resultRowHeight = 22;
 constexpr int maxRowsShown = 5;
 
-struct Look {
+struct ResultLook {
     QString symbol;
     Role role;
     QString text;
 };
 
-Look lookOf(KillOutcome outcome) {
+ResultLook lookOf(KillOutcome outcome) {
     switch (outcome) {
     case KillOutcome::quit:
         return {QStringLiteral("checkmark.circle.fill"), Role::green, FreeRAMResultView::tr("Quit")};
@@ -47,7 +47,7 @@ public:
         : m_look(lookOf(record.outcome))
         , m_name(Formatters::visible(record.name))
         , m_pid(QStringLiteral("(%1)").arg(record.pid)) {
-        setFixedHeight(rowHeight);
+        setFixedHeight(resultRowHeight);
         setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_pid, m_look.text));
     }
 
@@ -75,7 +75,7 @@ protected:
     }
 
 private:
-    Look m_look;
+    ResultLook m_look;
     QString m_name;
     QString m_pid;
 };
@@ -120,6 +120,6 @@ void FreeRAMResultView::set(const FreeRAMResult& result) {
         m_rowsLayout->addWidget(m_rows.last());
     }
     const auto shown = std::min<qsizetype>(m_rows.size(), maxRowsShown);
-    m_area->setFixedHeight(static_cast<int>(shown) * rowHeight);
+    m_area->setFixedHeight(static_cast<int>(shown) * resultRowHeight);
     m_area->setVisible(!m_rows.isEmpty());
 }

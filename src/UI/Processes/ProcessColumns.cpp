@@ -46,7 +46,7 @@ void byName(QList<ProcSample>& processes) {
                              [&rank](const ProcSample& process) { return rank.value(process.name); });
 }
 
-constexpr ProcessColumn columns[] = {
+constexpr ProcessColumn processColumns[] = {
     {.id = u"name",
      .title = QT_TRANSLATE_NOOP("Columns", "Name"),
      .text = [](const Row& row) { return Formatters::visible(row.first.name); },
@@ -106,7 +106,7 @@ constexpr ProcessColumn columns[] = {
 
 QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped) {
     QList<const ProcessColumn*> result;
-    for (const ProcessColumn& column : columns) {
+    for (const ProcessColumn& column : processColumns) {
         if (isGrouped ? column.isInGrouped : column.isInFlat)
             result.append(&column);
     }
@@ -115,7 +115,7 @@ QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped) {
 
 QList<const ProcessColumn*> ProcessColumns::sortable() {
     QList<const ProcessColumn*> result;
-    for (const ProcessColumn& column : columns) {
+    for (const ProcessColumn& column : processColumns) {
         if (column.order.sort)
             result.append(&column);
     }
@@ -124,6 +124,6 @@ QList<const ProcessColumn*> ProcessColumns::sortable() {
 }
 
 const ProcessColumn* ProcessColumns::withId(QStringView id) {
-    const auto* found = std::ranges::find(columns, id, &ProcessColumn::id);
-    return found == std::ranges::end(columns) ? nullptr : found;
+    const auto* found = std::ranges::find(processColumns, id, &ProcessColumn::id);
+    return found == std::ranges::end(processColumns) ? nullptr : found;
 }
