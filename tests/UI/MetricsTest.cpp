@@ -1,14 +1,16 @@
 #include "Core/Sampling/SystemSample.h"
+
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/Sparkline.h"
+#include "support/Bytes.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using Theme::Role;
 
 namespace {
-
-constexpr quint64 GiB = quint64(1) << 30;
 
 SystemSample withCpu(double percent) {
     return {.cpuPercent = percent};
@@ -50,13 +52,13 @@ TEST(Metrics, SecondLinesTellSizesAndSwap) {
     sample.memUsedBytes = GiB * 3 / 2;
     sample.memTotalBytes = 8 * GiB;
     sample.diskFreeBytes = 512 * GiB / 1024;
-    EXPECT_EQ(Metrics::memory(sample, {}).sub, QStringLiteral("1.5 GB / 8 GB"));
-    EXPECT_EQ(Metrics::disk(sample).sub, QStringLiteral("512 MB free"));
-    EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("No swap"));
+    EXPECT_EQ(Metrics::memory(sample, {}).sub, u"1.5 GB / 8 GB"_s);
+    EXPECT_EQ(Metrics::disk(sample).sub, u"512 MB free"_s);
+    EXPECT_EQ(Metrics::thermal(sample).sub, u"No swap"_s);
     sample.swapUsedBytes = 2 * GiB;
     sample.thermalState = ThermalState::serious;
-    EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("Swap 2 GB"));
-    EXPECT_EQ(Metrics::thermal(sample).value, QStringLiteral("Hot"));
+    EXPECT_EQ(Metrics::thermal(sample).sub, u"Swap 2 GB"_s);
+    EXPECT_EQ(Metrics::thermal(sample).value, u"Hot"_s);
     EXPECT_EQ(Metrics::thermal(sample).accent, Role::orange);
 }
 

@@ -8,6 +8,8 @@
 
 #include <QEnterEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct WidgetTest : ModelFixture {
@@ -55,18 +57,16 @@ TEST_F(WidgetTest, ThreeLargestGroupsAndTheFirstAlert) {
     addProcesses(1, "claude", 20);
     widget.show(model);
     tick();
-    EXPECT_EQ(shownNames<PanelRow>(view()),
-              (QStringList{QStringLiteral("Browsers 600 MB"), QStringLiteral("Terminals 30 bytes"),
-                           QStringLiteral("Claude Code & Agents 20 bytes")}));
-    const std::pair<int, QString> cases[] = {
-        {1, {}}, {2, QStringLiteral("+ 1 more alert")}, {3, QStringLiteral("+ 2 more alerts")}};
+    EXPECT_EQ(shownNames<PanelRow>(view()), (QStringList{u"Browsers 600 MB"_s, u"Terminals 30 bytes"_s,
+                                                         u"Claude Code & Agents 20 bytes"_s}));
+    const std::pair<int, QString> cases[] = {{1, {}}, {2, u"+ 1 more alert"_s}, {3, u"+ 2 more alerts"_s}};
     for (const auto& [agents, text] : cases) {
         fakes.processes->listing.clear();
         addProcesses(agents, "ollama", quint64(501) << 20);
         tick();
         fakes.clock->advance(3600);
         tick();
-        EXPECT_EQ(shownNames<PanelRow>(view()).last(), QStringLiteral("Idle agent — ollama"));
+        EXPECT_EQ(shownNames<PanelRow>(view()).last(), u"Idle agent — ollama"_s);
         EXPECT_EQ(overflow(), text) << agents;
     }
 }
@@ -77,7 +77,7 @@ TEST_F(WidgetTest, HeaderButtonsOnlyUnderThePointer) {
     EXPECT_TRUE(shown().isEmpty());
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
     QCoreApplication::sendEvent(&view(), &enter);
-    EXPECT_EQ(shown(), (QStringList{QStringLiteral("Open dashboard"), QStringLiteral("Hide widget")}));
+    EXPECT_EQ(shown(), (QStringList{u"Open dashboard"_s, u"Hide widget"_s}));
     QTest::mouseClick(view().findChildren<IconButton*>().last(), Qt::LeftButton);
     EXPECT_FALSE(widget.isVisible());
     QEvent leave(QEvent::Leave);
@@ -87,7 +87,7 @@ TEST_F(WidgetTest, HeaderButtonsOnlyUnderThePointer) {
 
 TEST_F(WidgetTest, OpenDashboardNeverFallsBackToTheSettings) {
     QWidget settingsWindow;
-    settingsWindow.setWindowTitle(QStringLiteral("Settings"));
+    settingsWindow.setWindowTitle(u"Settings"_s);
     desktop.application->own = {&settingsWindow};
     desktop.application->policy = ActivationPolicy::accessory;
     widget.show(model);
