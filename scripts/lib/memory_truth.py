@@ -126,9 +126,9 @@ PROGRAMS = [
     ("huge pages", huge_pages, 3, None),
     ("half in swap", half_swapped, 6, None),
     ("four node servers", nodes, 6, "node"),
-    ("chromium, ten tabs", browser(["chromium", "--headless=new", "--no-sandbox", "--disable-gpu",
-                                    "--user-data-dir={folder}", "--remote-debugging-port=0"]), 30, "chromium"),
-    ("firefox, ten tabs", browser(["firefox-esr", "--headless", "--profile", "{folder}"]), 30, "firefox-esr"),
+    ("chromium, ten tabs", browser(["chromium", "--no-first-run", "--no-sandbox", "--disable-gpu",
+                                    "--user-data-dir={folder}"]), 30, "chromium"),
+    ("firefox, ten tabs", browser(["firefox-esr", "--profile", "{folder}"]), 30, "firefox-esr"),
 ]
 
 

@@ -19,7 +19,7 @@
 namespace {
 
 constexpr QSize panelSize(320, 360);
-constexpr int symbolSize = 16;
+constexpr int traySymbolSize = 16;
 
 int rounded(double percent) {
     return static_cast<int>(std::lround(percent));
@@ -88,7 +88,7 @@ void MenuBarController::update(const SystemSample& sample) {
     const bool iconOnly = format == MenuBarFormat::iconOnly;
     const QPixmap symbol =
         Symbols::pixmap(QStringLiteral("waveform.path.ecg"), Theme::color(Theme::Role::primaryText),
-                        symbolSize, qApp->devicePixelRatio());
+                        traySymbolSize, qApp->devicePixelRatio());
     m_desktop.statusItem->show({.title = text,
                                 .symbol = iconOnly ? QIcon(symbol) : QIcon(),
                                 .compact = FigureIcon::make(figures(format, sample)),

@@ -21,9 +21,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int symbolWidth = 16;
-constexpr int padding = 14;
-constexpr int spacing = 8;
+constexpr int panelSymbolWidth = 16;
+constexpr int panelPadding = 14;
+constexpr int panelSpacing = 8;
 
 TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
@@ -32,7 +32,7 @@ TextLabel* caption(const QString& text) {
 }
 
 PanelRow* addRow(QVBoxLayout* column, TextStyle style) {
-    auto* row = new PanelRow(style, symbolWidth);
+    auto* row = new PanelRow(style, panelSymbolWidth);
     column->addWidget(row);
     return row;
 }
@@ -72,8 +72,8 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     m_processRows.reserve(shownProcesses);
     m_alertRows.reserve(shownAlerts);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, 10, padding, padding);
-    column->setSpacing(spacing);
+    column->setContentsMargins(panelPadding, 10, panelPadding, panelPadding);
+    column->setSpacing(panelSpacing);
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
     column->addLayout(makeStatistics());
@@ -83,7 +83,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
 
     auto* alerts = new QVBoxLayout(m_alertSection);
     alerts->setContentsMargins(0, 0, 0, 0);
-    alerts->setSpacing(spacing);
+    alerts->setSpacing(panelSpacing);
     alerts->addWidget(new Divider);
     alerts->addWidget(caption(tr("Alerts")));
     alerts->addLayout(m_alertColumn);
@@ -113,7 +113,7 @@ QLayout* MenuBarPanel::makeHeader() {
 
 QLayout* MenuBarPanel::makeStatistics() {
     auto* row = new QHBoxLayout;
-    row->setSpacing(spacing);
+    row->setSpacing(panelSpacing);
     const QStringList labels{tr("CPU"), tr("RAM"), tr("Disk"), tr("Therm")};
     for (std::size_t i = 0; i < m_statistics.size(); ++i) {
         m_statistics[i] = new FigureColumn(labels[static_cast<qsizetype>(i)]);

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int symbolFrame = 22;
 constexpr int itemSpacing = 12;
-constexpr QMargins padding(14, 10, 14, 10);
+constexpr QMargins bannerPadding(14, 10, 14, 10);
 /// Aligns the title's first line with the middle of the symbol.
 constexpr int titleDrop = 2;
 constexpr int maxTitleLines = 2;
@@ -58,7 +58,7 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     texts->addWidget(m_body);
     texts->addStretch();
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(padding);
+    row->setContentsMargins(bannerPadding);
     row->setSpacing(itemSpacing);
     row->addWidget(m_symbol, 0, Qt::AlignTop);
     row->addLayout(texts, 1);

@@ -30,12 +30,12 @@ constexpr int sidebarTopMargin = 12;
 constexpr int titleTopMargin = 16;
 
 /// In the order of RootView::Tab.
-constexpr QStringView symbols[] = {u"gauge", u"wand.and.stars", u"list.bullet.rectangle", u"trash"};
+constexpr QStringView sectionSymbols[] = {u"gauge", u"wand.and.stars", u"list.bullet.rectangle", u"trash"};
 
 } // namespace
 
 QString tabSymbol(RootView::Tab tab) {
-    return symbols[static_cast<std::size_t>(tab)].toString();
+    return sectionSymbols[static_cast<std::size_t>(tab)].toString();
 }
 
 RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)

@@ -24,8 +24,8 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int padding = 12;
-constexpr int spacing = 10;
+constexpr int widgetPadding = 12;
+constexpr int widgetSpacing = 10;
 constexpr int tileSpacing = 8;
 constexpr double cornerRadius = 14;
 constexpr int groupSymbolWidth = 14;
@@ -45,8 +45,8 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
     , m_alertSection(makeAlert()) {
     setFixedWidth(cardWidth);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(spacing);
+    column->setContentsMargins(widgetPadding, widgetPadding, widgetPadding, widgetPadding);
+    column->setSpacing(widgetSpacing);
     column->addLayout(makeHeader());
     column->addLayout(makeGrid());
     column->addWidget(new Divider);

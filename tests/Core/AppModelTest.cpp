@@ -75,16 +75,6 @@ TEST_F(AppModelTest, LowPowerPausesAllButTheSystemSample) {
     EXPECT_TRUE(model->processes().isEmpty());
 }
 
-TEST_F(AppModelTest, AlertsFollowTheTick) {
-    fakes.host->memory.totalBytes = quint64(2) << 30;
-    tick();
-    ASSERT_EQ(model->alerts().size(), 1);
-    EXPECT_EQ(model->alerts().first().id, QStringLiteral("ram_low"));
-    settings.preferences.alertRAMLowEnabled.set(false);
-    tick();
-    EXPECT_TRUE(model->alerts().isEmpty());
-}
-
 TEST_F(AppModelTest, TheTimerFollowsThePollIntervalWithinBounds) {
     model->start();
     const std::pair<double, double> cases[] = {{2.005, 2}, {2.02, 2.02},   {5, 5},      {0, 0.1},

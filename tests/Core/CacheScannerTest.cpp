@@ -13,10 +13,10 @@ namespace {
 
 using Measure = CleanupRule::Measure;
 
-constexpr CleanupRule oldFiles{.measure = Measure::oldFiles, .olderThanDays = 30};
-
 class CacheScannerTest : public testing::Test {
 protected:
+    static constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
+
     CacheTarget scanned(const CacheTarget& target) {
         CacheScanner scanner(platform);
         return QCoro::waitFor(scanner.scan({target})).value(0);
@@ -80,22 +80,6 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
     const CacheTarget gone = scanned(target);
     EXPECT_EQ(gone.sizeBytes, 0U) << "a missing tool leaves no old figures";
     EXPECT_TRUE(gone.details.isEmpty() && gone.notes.isEmpty() && gone.volumes.isEmpty());
-}
-
-TEST_F(CacheScannerTest, DependsOnTheRuleAndNotOnTheName) {
-    const QString folder = home.makeFolder(u"folder"_s);
-    const std::pair<CleanupRule, QStringList> cases[] = {
-        {{}, {u"/usr/bin/du"_s, u"cleanup"_s}},
-        {oldFiles, {u"cleanup"_s}},
-        {{.measure = Measure::containers}, {u"/bin/sh"_s}},
-    };
-    for (const auto& [rule, programs] : cases) {
-        for (const auto& name : {u"Docker"_s, u"Old /tmp (>7d)"_s, u"x"_s}) {
-            tools->requests.clear();
-            scanned({.name = name, .paths = {folder}, .rule = rule});
-            EXPECT_EQ(each(tools->requests, &ToolRequest::launchPath), programs) << name.toStdString();
-        }
-    }
 }
 
 TEST_F(CacheScannerTest, AddsUpAllOldFilesAndKeepsTheFirstHundred) {

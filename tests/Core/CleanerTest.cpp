@@ -14,11 +14,12 @@ using Cleaner::CleanResult;
 
 namespace {
 
-constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
 const Instant now{std::chrono::seconds(1'700'000'000)};
 
 class CleanerTest : public testing::Test {
 protected:
+    static constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
+
     CleanResult clean(const CacheTarget& target) {
         tools->requests.clear();
         return QCoro::waitFor(Cleaner::clean(target, tools, places, now, stop.get_token()));

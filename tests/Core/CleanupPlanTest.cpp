@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 7};
+constexpr CleanupRule weekOldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 7};
 
 CacheTarget scanned(const QString& name, const CleanupRule& rule, const QList<ListedFolder>& listed) {
     CacheTarget target{.name = name, .rule = rule, .listed = listed};
@@ -34,8 +34,9 @@ TEST(CleanupPlan, CountsOnceWhatSeveralTargetsContain) {
         scanned(u"caches"_s, {}, {{caches, 1000, here}}),
         scanned(u"uv"_s, {}, {{uv, 100, here}, {namesake, 7, here}, {mounted, 50, listingOf({}, "65")}}),
         scanned(u"caches again"_s, {}, {{caches, 1000, here}}),
-        scanned(u"old"_s, oldFiles, {{home.path(), 35, listingOf({{"caches/a", 5}, {"downloads/b", 30}})}}),
-        scanned(u"older"_s, oldFiles, {{downloads, 34, listingOf({{"b", 30}, {"c", 4}})}}),
+        scanned(u"old"_s, weekOldFiles,
+                {{home.path(), 35, listingOf({{"caches/a", 5}, {"downloads/b", 30}})}}),
+        scanned(u"older"_s, weekOldFiles, {{downloads, 34, listingOf({{"b", 30}, {"c", 4}})}}),
     };
     CleanupPlan::markShared(targets);
     EXPECT_EQ(each(targets, &CacheTarget::sharedBytes), QList<quint64>({10, 0, 100, 1000, 5, 30}));

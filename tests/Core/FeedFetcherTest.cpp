@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype MiB = 1 << 20;
+constexpr qsizetype feedLimit = 1 << 20;
 
 QByteArray feedNamed(const QString& id) {
     return feedOf({{.id = id, .title = u"title"_s, .body = u"body"_s}});
@@ -139,9 +139,9 @@ TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesTheMessage) {
         {"redirect in circles", [&] { redirect(server.url(u"/again"_s)); }, old},
         {"redirect elsewhere", [&] { redirect(otherServer.url(u"/moved"_s)); }, now},
         {"a stranger's certificate", [&] { server.present(SelfSigned::make()), serve(good); }, old},
-        {"1 MiB", [&] { serve(paddedFeed(MiB)); }, now},
-        {"1 MiB and a byte", [&] { serve(paddedFeed(MiB + 1)); }, old},
-        {"2 MiB", [&] { serve(paddedFeed(2 * MiB)); }, old},
+        {"1 MiB", [&] { serve(paddedFeed(feedLimit)); }, now},
+        {"1 MiB and a byte", [&] { serve(paddedFeed(feedLimit + 1)); }, old},
+        {"2 MiB", [&] { serve(paddedFeed(2 * feedLimit)); }, old},
         {"without end", [&] { pour(); }, old},
         {"dripping", [&] { drip(); }, old, 600ms},
         {"silent", [&] { reply({}); }, old, 600ms},
@@ -169,7 +169,7 @@ TEST_F(FeedFetcherTest, OnlyAWholeGoodAnswerChangesTheMessage) {
         EXPECT_GE(firings * 100, elapsed.elapsed());
     }
     EXPECT_FALSE(plainServer.hasPendingConnections());
-    EXPECT_LT(pouredBytes, 16 * MiB); // as much as fits into buffers
+    EXPECT_LT(pouredBytes, 16 * feedLimit); // as much as fits into buffers
 }
 
 TEST_F(FeedFetcherTest, EveryFetchAsksTheOriginAnewAndTellsNothing) {

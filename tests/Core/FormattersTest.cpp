@@ -1,5 +1,7 @@
 #include "Core/Formatters.h"
 
+#include "support/Bytes.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -34,9 +36,6 @@ TEST(Formatters, AgoCountsWholeUnits) {
 }
 
 TEST(Formatters, BytesStepBy1024WithAtMostOneDecimal) {
-    constexpr quint64 KiB = 1024;
-    constexpr quint64 MiB = KiB * 1024;
-    constexpr quint64 GiB = MiB * 1024;
     const std::pair<quint64, const char*> cases[] = {
         {0, "0 bytes"},        {1, "1 byte"},           {1023, "1023 bytes"},
         {KiB, "1 KB"},         {KiB * 3 / 2, "1.5 KB"}, {MiB - 1, "1 MB"},

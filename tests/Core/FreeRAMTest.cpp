@@ -13,8 +13,6 @@ namespace {
 using FreeRAMTest = ReliefTest;
 using Reply = SignalResult;
 
-constexpr quint64 MiB = 1 << 20;
-
 QList<qint32> pidsOf(const QList<FreeRamPreview>& candidates) {
     return each(candidates, &FreeRamPreview::pid);
 }

@@ -105,7 +105,7 @@ TEST_F(MCPConfigurationTest, OnlyRegularFilesAreOpened) {
 }
 
 TEST_F(MCPConfigurationTest, TheServersStayWhileALargeFileIsRead) {
-    makeLargeFile(20, "one");
+    makeLargeFile(8, "one");
     QElapsedTimer timer;
     timer.start();
     EXPECT_EQ(names(), QStringList());
@@ -113,7 +113,7 @@ TEST_F(MCPConfigurationTest, TheServersStayWhileALargeFileIsRead) {
     EXPECT_TRUE(configuration.isUnknown());
     ASSERT_TRUE(comesTo({u"one"_s}));
 
-    makeLargeFile(5, "two");
+    makeLargeFile(2, "two");
     EXPECT_EQ(names(), QStringList(u"one"_s));
     EXPECT_FALSE(configuration.isUnknown());
     ASSERT_TRUE(comesTo({u"two"_s}));

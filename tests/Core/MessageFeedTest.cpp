@@ -57,21 +57,6 @@ TEST(MessageFeedTest, OneFaultRejectsTheWholeFeed) {
         R"({"messages": [)" + good,
         R"({"messages": [)" + good + R"(, {"id": "x"}, )" + good + "]}",
         R"({"messages": [)" + good + ", \"text\"]}",
-        feedWith(R"("id": 7)"),
-        feedWith(R"("id": null)"),
-        feedWith(R"("title": ["t"])"),
-        feedWith(R"("body": true)"),
-        feedWith(R"("target": "everyone")"),
-        feedWith(R"("target": "All")"),
-        feedWith(R"("severity": "alert")"),
-        feedWith(R"("severity": "Info")"),
-        feedWith(R"("severity": "")"),
-        feedWith(R"("actionLabel": 1)"),
-        feedWith(R"("actionURL": {})"),
-        feedWith(R"("minVersion": 1.2)"),
-        feedWith(R"("maxVersion": false)"),
-        feedWith(R"("showOncePerVersion": 1)"),
-        feedWith(R"("showOncePerVersion": "true")"),
         feedWith("\"title\": \"caf\xe9\""),
         feedWith("\"unlisted\": \"\xc0\xaf\""),
         feedWith(R"("title": "\ud83d")"),
@@ -80,6 +65,13 @@ TEST(MessageFeedTest, OneFaultRejectsTheWholeFeed) {
     };
     for (const QByteArray& json : faulty)
         EXPECT_FALSE(Feed::decode(json)) << json.left(200).data();
+    const QByteArray fields =
+        R"("id": 7|"id": null|"title": ["t"]|"body": true|"target": "everyone"|"target": "All"|)"
+        R"("severity": "alert"|"severity": "Info"|"severity": ""|"actionLabel": 1|)"
+        R"("actionURL": {}|"minVersion": 1.2|"maxVersion": false|"showOncePerVersion": 1|)"
+        R"("showOncePerVersion": "true")";
+    for (const QByteArray& field : fields.split('|'))
+        EXPECT_FALSE(Feed::decode(feedWith(field))) << field.data();
 }
 
 TEST(MessageFeedTest, OnlyPagesAndPlainMailsAreOpened) {

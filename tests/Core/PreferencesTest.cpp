@@ -11,18 +11,17 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString iniFile = QStringLiteral("s.ini");
+const QString iniFile = u"s.ini"_s;
 
 } // namespace
 
 TEST(Preferences, NewOnesReadTheDefaultsAndWriteNothing) {
     const TemporarySettings settings;
-    const Preferences& prefs = settings.preferences;
-    EXPECT_EQ(prefs.menuBarFormat(), MenuBarFormat::both);
-    EXPECT_TRUE(prefs.quickKillPresetsJSON().isEmpty());
-    EXPECT_EQ(prefs.historyRetentionSamples(), 750);
+    EXPECT_EQ(settings.preferences.historyRetentionSamples(), 750);
     EXPECT_FALSE(QFile::exists(settings.path));
 }
 
@@ -57,7 +56,7 @@ TEST(Preferences, ADamagedFileIsCopiedAndItsReadableValuesStay) {
     Preferences prefs(path);
     EXPECT_TRUE(prefs.pauseOnLowPower());
     prefs.startAtLogin.set(false);
-    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged")), damaged);
+    EXPECT_EQ(contentOf(path + u".damaged"_s), damaged);
     const Preferences again(path);
     EXPECT_TRUE(again.pauseOnLowPower());
     EXPECT_FALSE(again.startAtLogin());
@@ -65,9 +64,9 @@ TEST(Preferences, ADamagedFileIsCopiedAndItsReadableValuesStay) {
 
 TEST(Preferences, OnlyARegularFileIsReplacedAndValuesLastAsLongAsTheProgram) {
     const TemporaryFolder place;
-    const QString pipe = place.path(QStringLiteral("pipe"));
-    const QString symlink = place.path(QStringLiteral("symlink"));
-    const QString folder = place.makeFolder(QStringLiteral("folder"));
+    const QString pipe = place.path(u"pipe"_s);
+    const QString symlink = place.path(u"symlink"_s);
+    const QString folder = place.makeFolder(u"folder"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     ASSERT_TRUE(QFile::link(pipe, symlink));
     for (const QString& path : {pipe, symlink, folder}) {
@@ -77,8 +76,7 @@ TEST(Preferences, OnlyARegularFileIsReplacedAndValuesLastAsLongAsTheProgram) {
         EXPECT_EQ(prefs.pollIntervalSeconds(), 5) << qPrintable(path);
     }
     const auto kept = QDir(place.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    EXPECT_EQ(kept,
-              QStringList({QStringLiteral("folder"), QStringLiteral("pipe"), QStringLiteral("symlink")}));
+    EXPECT_EQ(kept, QStringList({u"folder"_s, u"pipe"_s, u"symlink"_s}));
     EXPECT_FALSE(QFileInfo(pipe).isFile());
 }
 
@@ -92,12 +90,6 @@ TEST(Preferences, AWriteIsAnnouncedFirstAndOnDiskAtOnce) {
     EXPECT_EQ(seenWhileAnnounced, 2.0);
     EXPECT_EQ(prefs.pollIntervalSeconds(), 10.0);
     EXPECT_TRUE(contentOf(settings.path).contains("pref.pollIntervalSeconds=10"));
-
-    prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
-    prefs.quickKillPresetsJSON.set("[{\"a\":\"\xc3\xa9, b\"}]");
-    const Preferences reread(settings.path);
-    EXPECT_EQ(reread.menuBarFormat(), MenuBarFormat::ramOnly);
-    EXPECT_EQ(reread.quickKillPresetsJSON(), QByteArray("[{\"a\":\"\xc3\xa9, b\"}]"));
 }
 
 TEST(Preferences, AFullDiskLosesNothing) {

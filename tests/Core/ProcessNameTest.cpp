@@ -31,7 +31,6 @@ constexpr bool script = true;
 TEST(LaunchedProgram, IsWhatAnInterpreterOrLauncherWasToldToRun) {
     const CommandLine runs[] = {
         {"/usr/bin/sleep", "sleep 1000", "/usr/bin/sleep"},
-        {"/usr/bin/vim", "vim mcp-server.md", "/usr/bin/vim"},
         {"/usr/bin/node", "node", "/usr/bin/node"},
         {"/usr/bin/node", "node /opt/x/server.js --port 1", "/opt/x/server.js", !launcher, script},
         {"/opt/node-22/bin/node", "node --import tsx -r dotenv/config app.ts", "app.ts", !launcher, script},
@@ -51,7 +50,6 @@ TEST(LaunchedProgram, IsWhatAnInterpreterOrLauncherWasToldToRun) {
         {"/usr/bin/uv", "uv pip install mcp-server", "/usr/bin/uv"},
         {"/usr/bin/dash", "sh -c mcp-server-filesystem~\"$@\" /p", "mcp-server-filesystem", launcher},
         {"/usr/bin/bash", "bash -lc A=1~exec~node~/srv/mcp-server.js", "/srv/mcp-server.js", launcher},
-        {"/usr/bin/bash", "-bash", "/usr/bin/bash"},
         {"/usr/bin/bash", "/bin/bash /opt/start-server.sh", "/opt/start-server.sh", !launcher, script},
         {"/usr/bin/docker", "docker run -i --rm -e TOKEN --name x ghcr.io/a/b-mcp-server stdio",
          "ghcr.io/a/b-mcp-server", launcher},
@@ -71,7 +69,6 @@ TEST(LaunchedProgram, IsWhatAnInterpreterOrLauncherWasToldToRun) {
 
 TEST(ProcessName, IsWhatAPersonWouldCallIt) {
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-        {"sleep", "/usr/bin/sleep", "sleep 1", "sleep"},
         {"python3", "/usr/bin/python3.11", "python3 x.py", "python3"},
         {"qemu-system-x86", "/usr/bin/qemu-system-x86_64", "qemu", "qemu-system-x86_64"},
         {"a-worker-in-its", "", "/opt/bin/a-worker-in-its-pool", "a-worker-in-its-pool"},
@@ -80,7 +77,6 @@ TEST(ProcessName, IsWhatAPersonWouldCallIt) {
          "gnome-tweaks-with-more"},
         {"MainThread", "/usr/bin/node", "node /opt/mcp.js", "node"},
         {"node-MainThread", "/opt/node-26/bin/node", "node /opt/mcp.js", "node"},
-        {"node", "/usr/bin/node", "node /opt/mcp.js", "node"},
         {"npm exec @model", "/usr/bin/node", "npm~exec~@modelcontextprotocol/server-x~/p", "node"},
         {"claude", "/usr/bin/node", "claude", "claude"},
         {"claude", "/home/u/.local/share/claude/versions/2.1.42", "claude --resume", "claude"},
@@ -88,7 +84,6 @@ TEST(ProcessName, IsWhatAPersonWouldCallIt) {
         {"sh", "/usr/bin/busybox", "/bin/sh", "sh"},
         {"tmux: server", "/usr/bin/tmux", "tmux", "tmux"},
         {"gmain", "", "", "gmain"},
-        {"chromium", "/usr/lib/chromium/chromium", "/usr/lib/chromium/chromium", "chromium"},
         {"chromium", "/usr/lib/chromium/chromium", "/usr/lib/chromium/chromium --type=zygote", "chromium"},
         {"chrome_crashpad", "/opt/google/chrome/chrome_crashpad_handler",
          "/opt/google/chrome/chrome_crashpad_handler", "chrome_crashpad_handler"},

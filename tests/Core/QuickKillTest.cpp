@@ -13,8 +13,6 @@ namespace {
 using QuickKillTest = ReliefTest;
 using Counts = ProcessActions::QuickKillResult;
 
-constexpr quint64 MiB = 1 << 20;
-
 } // namespace
 
 TEST_F(QuickKillTest, MatchesNamePathAndArgumentsInAnyCase) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "AppModel.h"
+#include "support/Bytes.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
+#include "support/Logged.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -38,12 +40,6 @@ struct ReliefTest : testing::Test {
         for (int i = 0; i < times; ++i)
             QMetaObject::invokeMethod(model.get(), "tick");
     }
-    /// Returns "KIND DETAIL ok" of each entry, newest first.
-    QStringList logged() const {
-        return each(model->actionLog().entries(), [](const ActionLogEntry& entry) {
-            return rawValue(entry.kind) + u' ' + entry.detail +
-                   QLatin1String(entry.success ? " ok" : " fail");
-        });
-    }
+    QStringList logged() const { return loggedIn(model->actionLog()); }
     QList<qint32> signalled() const { return each(signalSender->sent(), &FakeSignals::Sent::pid); }
 };

@@ -1,15 +1,15 @@
 #include "Core/Alerts/RulesEngine.h"
 
+#include "support/Bytes.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/TemporarySettings.h"
 
 #include <gtest/gtest.h>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-constexpr quint64 GiB = quint64(1) << 30;
-constexpr quint64 MiB = quint64(1) << 20;
+namespace {
 
 struct RulesEngineTest : testing::Test {
     TemporarySettings settings;
@@ -49,9 +49,9 @@ ProcSample process(qint32 pid, const QString& name, ProcGroup group, double cpu,
 TEST_F(RulesEngineTest, FreeMemoryBelowItsThresholdAndBelowTwiceIt) {
     const std::pair<double, QString> cases[] = {
         {4.0, {}},
-        {3.5, QStringLiteral("3.5 GB free.")},
-        {2.0, QStringLiteral("2.0 GB free.")},
-        {1.94, QStringLiteral("Only 1.9 GB free — consider quitting top hogs or cleaning caches.")},
+        {3.5, u"3.5 GB free."_s},
+        {2.0, u"2.0 GB free."_s},
+        {1.94, u"Only 1.9 GB free — consider quitting top hogs or cleaning caches."_s},
     };
     for (const auto& [freeGB, detail] : cases) {
         system.memUsedBytes = system.memTotalBytes - static_cast<quint64>(freeGB * double(GiB));
@@ -67,14 +67,14 @@ TEST_F(RulesEngineTest, SaturatedCpuNamesTheFirstOfTheBusiest) {
     EXPECT_TRUE(ids().isEmpty());
     system.cpuPercent = 85.1;
     Alert alert = only();
-    EXPECT_EQ(alert.detail, QStringLiteral("85% total — top: —"));
+    EXPECT_EQ(alert.detail, u"85% total — top: —"_s);
     EXPECT_FALSE(alert.actionPid.has_value());
 
-    processes = {process(1, QStringLiteral("a"), ProcGroup::other, 10, 0, 0),
-                 process(2, QStringLiteral("%1 b"), ProcGroup::other, 90, 0, 0),
-                 process(3, QStringLiteral("c"), ProcGroup::other, 90, 0, 0)};
+    processes = {process(1, u"a"_s, ProcGroup::other, 10, 0, 0),
+                 process(2, u"%1 b"_s, ProcGroup::other, 90, 0, 0),
+                 process(3, u"c"_s, ProcGroup::other, 90, 0, 0)};
     alert = only();
-    EXPECT_EQ(alert.detail, QStringLiteral("85% total — top: %1 b"));
+    EXPECT_EQ(alert.detail, u"85% total — top: %1 b"_s);
     EXPECT_EQ(alert.actionPid, 2);
 }
 
@@ -89,7 +89,7 @@ TEST_F(RulesEngineTest, HeatIsAnAlertFromTheThirtiethTickOn) {
     EXPECT_TRUE(tick(ThermalState::serious, 29).isEmpty());
     EXPECT_TRUE(tick(ThermalState::fair, 1).isEmpty());
     EXPECT_TRUE(tick(ThermalState::critical, 29).isEmpty());
-    EXPECT_EQ(tick(ThermalState::serious, 1), QStringList{QStringLiteral("thermal")});
+    EXPECT_EQ(tick(ThermalState::serious, 1), QStringList{u"thermal"_s});
     prefs.alertThermalEnabled.set(false);
     EXPECT_TRUE(tick(ThermalState::serious, 5).isEmpty());
     prefs.alertThermalEnabled.set(true);
@@ -106,16 +106,15 @@ TEST_F(RulesEngineTest, SwapHasNoSwitch) {
     system.swapUsedBytes = 4 * GiB;
     EXPECT_TRUE(ids().isEmpty());
     system.swapUsedBytes = 4 * GiB + 1;
-    EXPECT_EQ(only().detail, QStringLiteral("4.0 GB swapped — system will feel sluggish."));
+    EXPECT_EQ(only().detail, u"4.0 GB swapped — system will feel sluggish."_s);
 }
 
 TEST_F(RulesEngineTest, IdleAgentsAboveBothThresholdsInListOrder) {
     const auto agent = [](qint32 pid, quint64 rss, double idle) {
-        return process(pid, QStringLiteral("claude"), ProcGroup::agents, 0, rss, idle);
+        return process(pid, u"claude"_s, ProcGroup::agents, 0, rss, idle);
     };
     processes = {agent(1, 800 * MiB, 901), agent(2, 700 * MiB, 900), agent(3, 500 * MiB, 5000),
-                 agent(4, 500 * MiB + 1, 1800),
-                 process(5, QStringLiteral("x"), ProcGroup::other, 0, 900 * MiB, 5000)};
+                 agent(4, 500 * MiB + 1, 1800), process(5, u"x"_s, ProcGroup::other, 0, 900 * MiB, 5000)};
     const auto alerts = evaluate();
     ASSERT_EQ(alerts.size(), 2);
     EXPECT_EQ(alerts[0].actionPid, 1);
@@ -146,13 +145,13 @@ TEST_F(RulesEngineTest, TheTrueMemoryOfBrowsersIsNeededOnceItMayReachTheShare) {
 TEST_F(RulesEngineTest, CachesNameTheFirstThreeAboveTheirShare) {
     prefs.alertCachesBigGB.set(10);
     for (int i = 0; i < 8; ++i)
-        caches.append({.name = QStringLiteral("c%1").arg(i), .symbol = {}, .sizeBytes = 2 * GiB});
-    EXPECT_EQ(only().detail, QStringLiteral("c0 (2 GB), c1 (2 GB), c2 (2 GB)"));
+        caches.append({.name = u"c%1"_s.arg(i), .symbol = {}, .sizeBytes = 2 * GiB});
+    EXPECT_EQ(only().detail, u"c0 (2 GB), c1 (2 GB), c2 (2 GB)"_s);
     for (CacheTarget& target : caches)
         target.sizeBytes = 10 * GiB / 8; // each has its share, and all have the limit
     EXPECT_TRUE(ids().isEmpty());
     ++caches[3].sizeBytes;
-    EXPECT_EQ(only().detail, QStringLiteral("c3 (1.3 GB)"));
+    EXPECT_EQ(only().detail, u"c3 (1.3 GB)"_s);
 }
 
 TEST_F(RulesEngineTest, AllAlertsInTheirOrderWithTheirTexts) {
@@ -168,56 +167,49 @@ TEST_F(RulesEngineTest, AllAlertsInTheirOrderWithTheirTexts) {
         evaluate();
     using enum Alert::Severity;
     const QList<Alert> expected = {
-        {QStringLiteral("ram_low"), danger, QStringLiteral("Free RAM low"),
-         QStringLiteral("Only 1.0 GB free — consider quitting top hogs or cleaning caches."), std::nullopt,
-         QStringLiteral("ram")},
-        {QStringLiteral("cpu_hot"), warn, QStringLiteral("CPU saturated"),
-         QStringLiteral("98% total — top: claude"), 7},
-        {QStringLiteral("thermal"), danger, QStringLiteral("Computer is running hot (Critical)"),
-         QStringLiteral("Linux is throttling — reduce parallel agentic work or quit Docker/ollama.")},
-        {QStringLiteral("swap_high"), warn, QStringLiteral("Heavy swap usage"),
-         QStringLiteral("6.0 GB swapped — system will feel sluggish.")},
-        {QStringLiteral("idle_agent_7"), warn, QStringLiteral("Idle agent — claude"),
-         QStringLiteral("Idle 16 min, 800 MB RAM. Quit?"), 7},
-        {QStringLiteral("browser_hog"), info, QStringLiteral("Browsers using 6 GB"),
-         QStringLiteral("That's 38% of total RAM. Closing idle tabs frees the most memory fastest."),
-         std::nullopt, QStringLiteral("browsers")},
-        {QStringLiteral("caches_big"), info, QStringLiteral("Caches reclaimable: 12 GB"),
-         QStringLiteral("npm (12 GB)"), std::nullopt, QStringLiteral("caches")}};
+        {u"ram_low"_s, danger, u"Free RAM low"_s,
+         u"Only 1.0 GB free — consider quitting top hogs or cleaning caches."_s, std::nullopt, u"ram"_s},
+        {u"cpu_hot"_s, warn, u"CPU saturated"_s, u"98% total — top: claude"_s, 7},
+        {u"thermal"_s, danger, u"Computer is running hot (Critical)"_s,
+         u"Linux is throttling — reduce parallel agentic work or quit Docker/ollama."_s},
+        {u"swap_high"_s, warn, u"Heavy swap usage"_s, u"6.0 GB swapped — system will feel sluggish."_s},
+        {u"idle_agent_7"_s, warn, u"Idle agent — claude"_s, u"Idle 16 min, 800 MB RAM. Quit?"_s, 7},
+        {u"browser_hog"_s, info, u"Browsers using 6 GB"_s,
+         u"That's 38% of total RAM. Closing idle tabs frees the most memory fastest."_s, std::nullopt,
+         u"browsers"_s},
+        {u"caches_big"_s, info, u"Caches reclaimable: 12 GB"_s, u"npm (12 GB)"_s, std::nullopt, u"caches"_s}};
     const auto alerts = evaluate();
     ASSERT_EQ(alerts.size(), expected.size());
     for (qsizetype i = 0; i < alerts.size(); ++i)
         EXPECT_EQ(alerts[i], expected[i]) << qPrintable(alerts[i].id + alerts[i].title + alerts[i].detail);
 
     system.memUsedBytes = 13 * GiB;
-    EXPECT_EQ(evaluate().first(),
-              (Alert{QStringLiteral("ram_warn"), warn, QStringLiteral("RAM getting tight"),
-                     QStringLiteral("3.0 GB free."), std::nullopt, QStringLiteral("ram")}));
+    EXPECT_EQ(evaluate().first(), (Alert{u"ram_warn"_s, warn, u"RAM getting tight"_s, u"3.0 GB free."_s,
+                                         std::nullopt, u"ram"_s}));
 }
 
 TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrAnotherUsers) {
     system.cpuPercent = 95;
-    ProcSample ourselves = process(identity.pid, QStringLiteral("tavrin"), ProcGroup::agents, 300, GiB, 5000);
-    ProcSample foreign = process(1, QStringLiteral("compactor"), ProcGroup::agents, 200, GiB, 5000);
+    ProcSample ourselves = process(identity.pid, u"tavrin"_s, ProcGroup::agents, 300, GiB, 5000);
+    ProcSample foreign = process(1, u"compactor"_s, ProcGroup::agents, 200, GiB, 5000);
     foreign.uid = 0;
-    const ProcSample mine = process(2, QStringLiteral("build"), ProcGroup::other, 90, GiB, 0);
-    const QString idle = QStringLiteral("Idle 83 min, 1 GB RAM.");
+    const ProcSample mine = process(2, u"build"_s, ProcGroup::other, 90, GiB, 0);
+    const QString idle = u"Idle 83 min, 1 GB RAM."_s;
     processes = {ourselves, foreign, mine};
     auto alerts = evaluate();
-    EXPECT_EQ(each(alerts, &Alert::detail),
-              (QStringList{QStringLiteral("95% total — top: build"), idle, idle}));
+    EXPECT_EQ(each(alerts, &Alert::detail), (QStringList{u"95% total — top: build"_s, idle, idle}));
     EXPECT_EQ(each(alerts, &Alert::actionPid), (QList<std::optional<qint32>>{2, std::nullopt, std::nullopt}));
 
     processes = {ourselves, foreign};
-    EXPECT_EQ(evaluate().first().detail, QStringLiteral("95% total — top: compactor"));
+    EXPECT_EQ(evaluate().first().detail, u"95% total — top: compactor"_s);
     EXPECT_EQ(evaluate().first().actionPid, std::nullopt);
     processes = {ourselves};
-    EXPECT_EQ(evaluate().first().detail, QStringLiteral("95% total — top: —"));
+    EXPECT_EQ(evaluate().first().detail, u"95% total — top: —"_s);
 }
 
 TEST_F(RulesEngineTest, ThresholdsThatNoByteCountExpressesSkipTheirRule) {
-    caches.append({.name = QStringLiteral("c"), .symbol = {}, .sizeBytes = 100 * GiB});
-    processes = {process(1, QStringLiteral("claude"), ProcGroup::agents, 0, 9 * GiB, 1e6)};
+    caches.append({.name = u"c"_s, .symbol = {}, .sizeBytes = 100 * GiB});
+    processes = {process(1, u"claude"_s, ProcGroup::agents, 0, 9 * GiB, 1e6)};
     ASSERT_EQ(ids().size(), 2);
     for (const double bad : {-1.0, 1e300}) {
         prefs.alertCachesBigGB.set(bad);

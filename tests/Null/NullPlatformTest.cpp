@@ -15,6 +15,8 @@
 #include <QListWidget>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 // Runs everything above the platform on the answers of Platform/Null.
 
 TEST(NullPlatform, TheProgramStartsTicksAndStaysUsable) {
@@ -48,6 +50,5 @@ TEST(NullPlatform, TheProgramStartsTicksAndStaysUsable) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return nudge.isReady() && scan.isReady(); }));
     EXPECT_FALSE(model.actionLog().entries().first().success);
     EXPECT_FALSE(model.cleanup().isScanning());
-    EXPECT_EQ(model.actions().quickKill(QStringLiteral("node"), QStringLiteral("node"), 0, 0, false).matched,
-              0);
+    EXPECT_EQ(model.actions().quickKill(u"node"_s, u"node"_s, 0, 0, false).matched, 0);
 }

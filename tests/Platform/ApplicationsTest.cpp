@@ -27,14 +27,14 @@ constexpr auto elf = "\177ELF";
 class ApplicationsTest : public testing::Test {
 protected:
     ApplicationsTest() {
-        program("usr/bin/chromium", "#!/bin/sh\n");
-        program("usr/lib/chromium/chromium", elf);
-        program("usr/lib/firefox/firefox", elf);
-        program("usr/bin/konsole", elf);
-        program("usr/bin/tweaks", "#!/usr/bin/python3\n");
-        program("usr/bin/notes", "#!/bin/sh\nexec electron /usr/lib/notes/app.asar\n");
-        program("usr/bin/music", "#!/bin/sh\nexec electron /usr/lib/music/app.asar\n");
-        program("srv/app/build/app", elf);
+        m_folder.makeProgram(u"usr/bin/chromium"_s, "#!/bin/sh\n");
+        m_folder.makeProgram(u"usr/lib/chromium/chromium"_s, elf);
+        m_folder.makeProgram(u"usr/lib/firefox/firefox"_s, elf);
+        m_folder.makeProgram(u"usr/bin/konsole"_s, elf);
+        m_folder.makeProgram(u"usr/bin/tweaks"_s, "#!/usr/bin/python3\n");
+        m_folder.makeProgram(u"usr/bin/notes"_s, "#!/bin/sh\nexec electron /usr/lib/notes/app.asar\n");
+        m_folder.makeProgram(u"usr/bin/music"_s, "#!/bin/sh\nexec electron /usr/lib/music/app.asar\n");
+        m_folder.makeProgram(u"srv/app/build/app"_s, elf);
         entry("app", "App", "@/srv/app/build/app");
         entry("chromium", "Chromium Web Browser", "@/usr/bin/chromium %U");
         entry("firefox", "Firefox", "@/usr/lib/firefox/firefox %u");
@@ -47,11 +47,6 @@ protected:
     }
 
     QString here(const char* text) const { return QString::fromUtf8(text).replace(u'@', m_folder.path()); }
-
-    void program(const char* path, const char* text) {
-        const QString file = m_folder.makeFile(QString::fromUtf8(path), text);
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
 
     void entry(const char* id, const char* name, const char* exec) {
         m_folder.makeFile(u"usr/share/applications/"_s + QString::fromUtf8(id) + u".desktop"_s,

@@ -21,10 +21,8 @@ struct LoginItemTest : testing::Test {
 
     /// Makes a program that writes its own path to the file `started`.
     QString makeProgram(const QString& below) const {
-        const QString path = home.makeFile(below, "#!/bin/sh\nprintf %s \"$0\" > \"$HOME/started.new\"\n"
-                                                  "mv \"$HOME/started.new\" \"$HOME/started\"\n");
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        return path;
+        return home.makeProgram(below, "#!/bin/sh\nprintf %s \"$0\" > \"$HOME/started.new\"\n"
+                                       "mv \"$HOME/started.new\" \"$HOME/started\"\n");
     }
     QStringList autostartFolder() const {
         return QDir(home.path(u".config/autostart"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
@@ -32,7 +30,7 @@ struct LoginItemTest : testing::Test {
 };
 
 /// Returns the output of the tool, with a prefix when it fails.
-QByteArray outputOf(const QString& tool, const QStringList& arguments) {
+QByteArray errorsOf(const QString& tool, const QStringList& arguments) {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(tool, arguments);
@@ -50,8 +48,8 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
         const QString program = makeProgram(folder + u"/tavrin"_s);
         FreedesktopLoginItem item(program);
         EXPECT_EQ(item.registerItem(), Outcome::success()) << qPrintable(folder);
-        EXPECT_EQ(outputOf(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
-        EXPECT_EQ(outputOf(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
+        EXPECT_EQ(errorsOf(u"desktop-file-validate"_s, {entry}), QByteArray()) << qPrintable(folder);
+        EXPECT_EQ(errorsOf(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
         const QString started = home.path(u"started"_s);
         EXPECT_TRUE(QTest::qWaitFor([&started] { return QFile::exists(started); }));
         EXPECT_EQ(QString::fromUtf8(contentOf(started)), program);

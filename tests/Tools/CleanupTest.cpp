@@ -1,9 +1,7 @@
 #include "Tools/Cleanup.h"
 
+#include "Tools/ToolProcess.h"
 #include "support/TemporaryFolder.h"
-
-#include <QCoreApplication>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -17,20 +15,8 @@ using namespace Tools;
 
 namespace {
 
-struct Ended {
-    int status = -1;
-    QByteArray output;
-    QByteArray error;
-};
-
-Ended run(const QStringList& arguments, const QByteArray& input = {}) {
-    QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + u"/../libexec/tavrin/cleanup"_s, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    process.waitForFinished();
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError().trimmed()};
+EndedTool run(const QStringList& arguments, const QByteArray& input = {}) {
+    return runTool(u"cleanup"_s, arguments, input);
 }
 
 } // namespace
@@ -111,7 +97,7 @@ TEST(Cleanup, RemovesFromTheFolderThatWasListedAndNoOther) {
     EXPECT_EQ(run({u"remove"_s, folder}, listing).status, 0) << "it is gone, and nothing is left to do";
     ASSERT_TRUE(QFile::link(tree.path(u"outside"_s), folder));
     for (const QString& verb : {u"list"_s, u"remove"_s}) {
-        const Ended linked = run({verb, folder}, listing);
+        const EndedTool linked = run({verb, folder}, listing);
         EXPECT_EQ(linked.status, 1);
         EXPECT_FALSE(linked.error.isEmpty());
     }
@@ -166,7 +152,7 @@ TEST(Cleanup, GoesAsDeepAsAPathCanBe) {
         ASSERT_EQ(mkdir(path.c_str(), 0700), 0);
     }
     const QStringList arguments = {u"remove"_s, tree.path(u"folder"_s)};
-    const Ended ended = run(arguments, run({u"list"_s, tree.path(u"folder"_s)}).output);
+    const EndedTool ended = run(arguments, run({u"list"_s, tree.path(u"folder"_s)}).output);
     EXPECT_EQ(ended.status, 0) << ended.error.constData();
     EXPECT_TRUE(QDir(tree.path(u"folder"_s)).isEmpty());
 }

@@ -1,8 +1,9 @@
 #include "Tools/MemoryReclaim.h"
 
+#include "Tools/ToolProcess.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QTemporaryFile>
 
 #include <gtest/gtest.h>
@@ -14,19 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Ended {
-    int status = -1;
-    QByteArray error;
-};
-
-Ended runTool(const QString& name, const QStringList& arguments) {
-    QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + u"/../libexec/tavrin/"_s + name, arguments);
-    process.waitForFinished();
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardError()};
-}
 
 /// Returns the pages that the kernel has reclaimed from the group (cgroup v2, memory.stat: pgsteal).
 quint64 pagesTakenBack(const std::string& group) {
@@ -54,7 +42,7 @@ TEST(Programs, RefuseWhatTheyDoNotUnderstand) {
         {u"purge"_s, {u"--now"_s}},
     };
     for (const auto& [tool, arguments] : refused) {
-        const Ended ended = runTool(tool, arguments);
+        const EndedTool ended = runTool(tool, arguments);
         EXPECT_EQ(ended.status, 2) << qPrintable(tool + u' ' + arguments.join(u' '));
         EXPECT_FALSE(ended.error.isEmpty()) << qPrintable(tool);
     }
@@ -72,7 +60,7 @@ TEST(Programs, MemoryPressureAsksTheKernelOfThisMachineOrSaysWhyNot) {
     const quint64 before = group ? pagesTakenBack(*group) : 0;
     QElapsedTimer time;
     time.start();
-    const Ended ended = runTool(u"memory_pressure"_s, {u"-l"_s, u"warn"_s});
+    const EndedTool ended = runTool(u"memory_pressure"_s, {u"-l"_s, u"warn"_s});
     EXPECT_LT(time.elapsed(), 5000);
     EXPECT_EQ(ended.status, group ? 0 : 126) << ended.error.constData();
     EXPECT_EQ(ended.error.isEmpty(), group.has_value());
@@ -81,7 +69,7 @@ TEST(Programs, MemoryPressureAsksTheKernelOfThisMachineOrSaysWhyNot) {
 }
 
 TEST(Programs, TheAdministratorRunsNothingFromABuildTree) {
-    const Ended ended = runTool(
+    const EndedTool ended = runTool(
         u"osascript"_s, {u"-e"_s, u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s});
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(ended.error.contains("build tree") || ended.error.contains("others can change"))

@@ -7,6 +7,8 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Writes an executable script and returns its path.
@@ -33,24 +35,23 @@ TEST(Purge, AsksForCleanCachesAlone) {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root gets as far as the file";
     TemporaryFolder tree;
-    tree.makeFile(QStringLiteral("drop_caches"), {});
+    tree.makeFile(u"drop_caches"_s, {});
     EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/drop_caches"), 0);
-    EXPECT_EQ(contentOf(tree.path() + QStringLiteral("/drop_caches")), "1");
+    EXPECT_EQ(contentOf(tree.path() + u"/drop_caches"_s), "1");
     EXPECT_EQ(Tools::dropCleanCaches(tree.path().toStdString() + "/missing"), 1);
     EXPECT_EQ(Tools::dropCleanCaches("/dev/full"), 1);
 }
 
 TEST(PurgeDeathTest, TheAdministratorsPromptGetsTheProgramAndGivesTheStatus) {
     TemporaryFolder tree;
-    const std::string prompt =
-        script(tree, QStringLiteral("pkexec"), "echo \"asked for $*\" >&2; exit 126\n");
+    const std::string prompt = script(tree, u"pkexec"_s, "echo \"asked for $*\" >&2; exit 126\n");
     EXPECT_EXIT(_exit(Tools::runAsAdministrator("/bin/true", prompt)), testing::ExitedWithCode(126),
                 "asked for --disable-internal-agent /bin/true\n");
 }
 
 TEST(PurgeDeathTest, TheAdministratorIsNeverAskedForWhatOthersCanChange) {
     TemporaryFolder tree; // owned by the user, or in a folder that all may write
-    const std::string program = script(tree, QStringLiteral("purge"), "exit 0\n");
+    const std::string program = script(tree, u"purge"_s, "exit 0\n");
     EXPECT_EXIT(_exit(Tools::runAsAdministrator(program, "/bin/true")), testing::ExitedWithCode(1),
                 "nothing that others can change: .*/");
     EXPECT_EQ(Tools::whyUntrusted("/bin/true"), "");

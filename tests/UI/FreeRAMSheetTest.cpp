@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint64 MiB = 1 << 20;
-
 struct FreeRAMSheetTest : ModelFixture {
     QWidget window;
     QPointer<FreeRAMSheet> sheet;

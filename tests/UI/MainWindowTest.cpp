@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QSplitter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct MainWindowTest : ModelFixture {
@@ -28,8 +30,8 @@ TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
     EXPECT_FALSE(window.isVisible());
     window.show();
     EXPECT_EQ(window.findChild<RootView*>()->tab(), RootView::Tab::overview);
-    EXPECT_EQ(window.findChild<QListWidget*>()->item(0)->text(), QStringLiteral("Overview"));
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Tavrin"));
+    EXPECT_EQ(window.findChild<QListWidget*>()->item(0)->text(), u"Overview"_s);
+    EXPECT_EQ(window.windowTitle(), u"Tavrin"_s);
     EXPECT_GE(window.centralWidget()->width(), 1000);
     EXPECT_GE(window.centralWidget()->height(), 680);
 }
@@ -54,8 +56,8 @@ TEST_F(MainWindowTest, SizePlaceAndSidebarOutlastTheProgram) {
 }
 
 TEST_F(MainWindowTest, DamagedPlacesAndScreensThatAreGoneDoNoHarm) {
-    const QString place = QStringLiteral("ui.window.place");
-    const QString sidebar = QStringLiteral("ui.window.sidebarWidth");
+    const QString place = u"ui.window.place"_s;
+    const QString sidebar = u"ui.window.sidebarWidth"_s;
     QByteArray farAway;
     {
         MainWindow window(model, prefs, messages);
@@ -67,7 +69,7 @@ TEST_F(MainWindowTest, DamagedPlacesAndScreensThatAreGoneDoNoHarm) {
          {farAway, farAway.left(20), QByteArray(farAway).replace(8, 24, QByteArray(24, '\xff')),
           QByteArray("@Rect(1 2 3 4)"), QByteArray(5000, '\0')}) {
         prefs.file().store(place, stored);
-        prefs.file().store(sidebar, QStringLiteral("wide"));
+        prefs.file().store(sidebar, u"wide"_s);
         MainWindow window(model, prefs, messages);
         window.show();
         EXPECT_GE(window.width(), 1000);

@@ -8,6 +8,8 @@
 #include "UI/ModelFixture.h"
 #include "UI/Widget.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct MenuBarTest : ModelFixture {
@@ -42,15 +44,15 @@ TEST_F(MenuBarTest, TitleByFormatWithHalvesAwayFromZero) {
 }
 
 TEST_F(MenuBarTest, TitleFollowsTicksAndTheFormatAtOnce) {
-    EXPECT_EQ(shownTitle(), QStringLiteral("•••"));
+    EXPECT_EQ(shownTitle(), u"•••"_s);
     tick();
-    EXPECT_EQ(shownTitle(), QStringLiteral("CPU 0% • RAM 0%"));
+    EXPECT_EQ(shownTitle(), u"CPU 0% • RAM 0%"_s);
     prefs.menuBarFormat.set(MenuBarFormat::iconOnly);
     EXPECT_EQ(shownTitle(), QString());
     EXPECT_FALSE(desktop.statusItem->content.symbol.isNull());
-    EXPECT_EQ(desktop.statusItem->content.toolTip, QStringLiteral("Tavrin"));
+    EXPECT_EQ(desktop.statusItem->content.toolTip, u"Tavrin"_s);
     prefs.menuBarFormat.set(MenuBarFormat::ramOnly);
-    EXPECT_EQ(shownTitle(), QStringLiteral("RAM 0%"));
+    EXPECT_EQ(shownTitle(), u"RAM 0%"_s);
     EXPECT_TRUE(desktop.statusItem->content.symbol.isNull());
 }
 
@@ -73,10 +75,9 @@ TEST_F(MenuBarTest, PanelShowsUpToFiveProcessesAndThreeAlerts) {
         tick();
         fakes.clock->advance(3600);
         tick();
-        QStringList expected(std::min(5, agents), QStringLiteral("claude 600 MB"));
-        expected +=
-            QStringList(std::min<qsizetype>(5 - expected.size(), others), QStringLiteral("plain 10 bytes"));
-        expected += QStringList(std::min(3, agents), QStringLiteral("Idle agent — claude"));
+        QStringList expected(std::min(5, agents), u"claude 600 MB"_s);
+        expected += QStringList(std::min<qsizetype>(5 - expected.size(), others), u"plain 10 bytes"_s);
+        expected += QStringList(std::min(3, agents), u"Idle agent — claude"_s);
         EXPECT_EQ(shownNames<PanelRow>(panel()), expected) << others << ' ' << agents;
     }
 }
@@ -86,17 +87,16 @@ TEST_F(MenuBarTest, PanelStatistics) {
     tick();
     click();
     EXPECT_EQ(shownNames<FigureColumn>(panel()),
-              (QStringList{QStringLiteral("CPU 0%"), QStringLiteral("RAM 0%"), QStringLiteral("Disk 60%"),
-                           QStringLiteral("Therm Warm")}));
+              (QStringList{u"CPU 0%"_s, u"RAM 0%"_s, u"Disk 60%"_s, u"Therm Warm"_s}));
 }
 
 TEST_F(MenuBarTest, OpenBringsTheMainWindowForwardWithItsTaskBarEntry) {
     QWidget settingsWindow;
-    settingsWindow.setWindowTitle(QStringLiteral("Tavrin Settings"));
+    settingsWindow.setWindowTitle(u"Tavrin Settings"_s);
     QWidget other;
-    other.setWindowTitle(QStringLiteral("Report"));
+    other.setWindowTitle(u"Report"_s);
     QWidget main;
-    main.setWindowTitle(QStringLiteral("Cleanup"));
+    main.setWindowTitle(u"Cleanup"_s);
     FakeApplication& application = *desktop.application;
     const std::pair<QList<QWidget*>, QWidget*> cases[] = {{{&settingsWindow, &other, &main}, &main},
                                                           {{&settingsWindow, &other}, &other},
@@ -107,18 +107,9 @@ TEST_F(MenuBarTest, OpenBringsTheMainWindowForwardWithItsTaskBarEntry) {
         application.forward = nullptr;
         application.policy = ActivationPolicy::accessory;
         click();
-        press(panel(), QStringLiteral("Open"));
+        press(panel(), u"Open"_s);
         EXPECT_EQ(application.forward, forward);
         EXPECT_EQ(application.policy, ActivationPolicy::regular);
         EXPECT_FALSE(desktop.popover->shown);
     }
-}
-
-TEST_F(MenuBarTest, WidgetButtonTogglesOnePanel) {
-    click();
-    for (const bool visible : {true, false, true}) {
-        press(panel(), QStringLiteral("Toggle floating widget"));
-        EXPECT_EQ(widget.isVisible(), visible);
-    }
-    EXPECT_EQ(desktop.panels->size(), 1);
 }

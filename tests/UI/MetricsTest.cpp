@@ -1,15 +1,17 @@
 #include "Core/Memory/MemoryLineUp.h"
 #include "Core/Sampling/SystemSample.h"
+
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/Sparkline.h"
+#include "support/Bytes.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using Theme::Role;
 
 namespace {
-
-constexpr quint64 GiB = quint64(1) << 30;
 
 SystemSample withCpu(double percent) {
     return {.cpuPercent = percent};
@@ -56,8 +58,8 @@ TEST(Metrics, SecondLinesTellSizesAndSwap) {
     EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("No swap"));
     sample.swapUsedBytes = 2 * GiB;
     sample.thermalState = ThermalState::serious;
-    EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("Swap 2 GB"));
-    EXPECT_EQ(Metrics::thermal(sample).value, QStringLiteral("Hot"));
+    EXPECT_EQ(Metrics::thermal(sample).sub, u"Swap 2 GB"_s);
+    EXPECT_EQ(Metrics::thermal(sample).value, u"Hot"_s);
     EXPECT_EQ(Metrics::thermal(sample).accent, Role::orange);
 }
 

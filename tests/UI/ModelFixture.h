@@ -1,9 +1,11 @@
 #pragma once
 
 #include "AppModel.h"
+#include "support/Bytes.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/Listing.h"
+#include "support/Logged.h"
 #include "support/TemporaryHome.h"
 #include "support/TemporarySettings.h"
 
@@ -39,13 +41,7 @@ struct ModelFixture : testing::Test {
         }
     }
 
-    /// Returns the actions as "KIND DETAIL ok", the newest first.
-    QStringList logged() const {
-        return each(model.actionLog().entries(), [](const ActionLogEntry& entry) {
-            return rawValue(entry.kind) + u' ' + entry.detail +
-                   QLatin1String(entry.success ? " ok" : " fail");
-        });
-    }
+    QStringList logged() const { return loggedIn(model.actionLog()); }
 
     /// Lets `du` find 2 MiB in the npm folder until it is cleaned, and nothing anywhere else.
     void fillNpmFolder() {

@@ -7,6 +7,8 @@
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/ProcessRow.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct OverviewViewTest : ModelFixture {
@@ -72,7 +74,7 @@ TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {
     tick();
     EXPECT_EQ(rows().size(), 3);
     click(ProcGroup::terminals);
-    EXPECT_EQ(rows(), QStringList{QStringLiteral("103 bash, CPU 0%, memory 20 bytes")});
+    EXPECT_EQ(rows(), QStringList{u"103 bash, CPU 0%, memory 20 bytes"_s});
     QTest::keyClick(header(ProcGroup::terminals), Qt::Key_Return);
     EXPECT_TRUE(rows().isEmpty());
     QTest::keyClick(header(ProcGroup::terminals), Qt::Key_Space);
@@ -84,49 +86,46 @@ TEST_F(OverviewViewTest, FiftyMembersAreShownAndTheRestCounted) {
     show();
     click(ProcGroup::browsers);
     EXPECT_EQ(rows().size(), 50);
-    EXPECT_TRUE(shows(QStringLiteral("… +1 more in Processes tab")));
+    EXPECT_TRUE(shows(u"… +1 more in Processes tab"_s));
     fakes.processes->remove(100);
     tick();
     EXPECT_EQ(rows().size(), 50);
-    EXPECT_FALSE(shows(QStringLiteral("… +1 more in Processes tab")));
-    EXPECT_FALSE(shows(QStringLiteral("… +0 more in Processes tab")));
+    EXPECT_FALSE(shows(u"… +1 more in Processes tab"_s));
+    EXPECT_FALSE(shows(u"… +0 more in Processes tab"_s));
 }
 
 TEST_F(OverviewViewTest, NamesFromOutsideArePlainText) {
     addProcesses(1, "<b>bold</b>\nnew\xe2\x80\xae", 10);
     show();
     click(ProcGroup::other);
-    EXPECT_EQ(rows().value(0), QStringLiteral("100 <b>bold</b>\u240anew\ufffd, CPU 0%, memory 10 bytes"));
+    EXPECT_EQ(rows().value(0), u"100 <b>bold</b>\u240anew\ufffd, CPU 0%, memory 10 bytes"_s);
 }
 
 TEST_F(OverviewViewTest, AlertsReplaceTheHealthyCardAndBack) {
     show();
-    EXPECT_TRUE(shows(QStringLiteral("System looks healthy.")));
+    EXPECT_TRUE(shows(u"System looks healthy."_s));
     fakes.host->memory.totalBytes = quint64(1) << 30;
     fakes.host->memory.swapUsedBytes = quint64(5) << 30;
     tick();
-    EXPECT_FALSE(shows(QStringLiteral("System looks healthy.")));
+    EXPECT_FALSE(shows(u"System looks healthy."_s));
     EXPECT_EQ(shownNames<AlertCard>(view).size(), 2);
-    EXPECT_TRUE(shows(QStringLiteral("Free RAM low")));
+    EXPECT_TRUE(shows(u"Free RAM low"_s));
     fakes.host->memory.totalBytes = quint64(16) << 30;
     tick();
     EXPECT_EQ(shownNames<AlertCard>(view),
-              QStringList{QStringLiteral("Heavy swap usage. 5.0 GB swapped — system will feel sluggish.")});
+              QStringList{u"Heavy swap usage. 5.0 GB swapped — system will feel sluggish."_s});
 }
 
 TEST_F(OverviewViewTest, HiddenItDoesNoWorkAndShownItCatchesUp) {
-    show();
+    view.show();
+    EXPECT_TRUE(shownNames<GroupRow>(view).isEmpty()) << "nothing is known before the first tick";
+    tick();
     view.hide();
     fakes.host->thermal = 3;
     tick();
-    EXPECT_EQ(shownNames<MetricTile>(view).last(), QStringLiteral("Thermal Cool"));
+    EXPECT_EQ(shownNames<MetricTile>(view).last(), u"Thermal Cool"_s);
     view.show();
-    EXPECT_EQ(shownNames<MetricTile>(view).last(), QStringLiteral("Thermal Critical"));
-}
-
-TEST_F(OverviewViewTest, NothingIsShownOfGroupsBeforeTheFirstTick) {
-    view.show();
-    EXPECT_TRUE(shownNames<GroupRow>(view).isEmpty());
+    EXPECT_EQ(shownNames<MetricTile>(view).last(), u"Thermal Critical"_s);
 }
 
 TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
@@ -137,7 +136,7 @@ TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
     const auto buttons = view.findChildren<ProcessRow*>().at(0)->findChildren<IconButton*>();
     QTest::mouseClick(buttons[0], Qt::LeftButton);
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
-    EXPECT_EQ(buttons[1]->toolTip(), QStringLiteral("Force kill (SIGKILL)"));
+    EXPECT_EQ(buttons[1]->toolTip(), u"Force kill (SIGKILL)"_s);
 
     QTest::mousePress(buttons[1], Qt::LeftButton);
     fakes.processes->processes[101].task->residentBytes = 30; // takes the first row's place
@@ -148,22 +147,20 @@ TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
     fakes.signalSender->end(101);
     QTest::mouseClick(buttons[1], Qt::LeftButton);
     EXPECT_EQ(logged(),
-              (QStringList{QStringLiteral("forceKill pid=101 fail"), QStringLiteral("forceKill pid=100 ok"),
-                           QStringLiteral("quit pid=100 ok")}));
+              (QStringList{u"forceKill pid=101 fail"_s, u"forceKill pid=100 ok"_s, u"quit pid=100 ok"_s}));
 }
 
 TEST_F(OverviewViewTest, AnAlertsQuitEndsTheProcessItNames) {
     addProcesses(1, "claude", quint64(900) << 20);
     show();
-    EXPECT_EQ(buttonNamed(view, QStringLiteral("Quit")), nullptr);
+    EXPECT_EQ(buttonNamed(view, u"Quit"_s), nullptr);
     fakes.clock->advance(1000);
     tick();
-    press(view, QStringLiteral("Quit"));
+    press(view, u"Quit"_s);
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
     fakes.processes->remove(100);
     QMetaObject::invokeMethod(&model, "tick"); // gone, but not yet off the screen
-    press(view, QStringLiteral("Quit"));
+    press(view, u"Quit"_s);
     EXPECT_EQ(fakes.signalSender->sent().size(), 1);
-    EXPECT_EQ(logged(),
-              (QStringList{QStringLiteral("quit pid=100 fail"), QStringLiteral("quit pid=100 ok")}));
+    EXPECT_EQ(logged(), (QStringList{u"quit pid=100 fail"_s, u"quit pid=100 ok"_s}));
 }

@@ -22,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint64 MiB = 1 << 20;
-
 struct ProcessesViewTest : ModelFixture {
     ProcessesView view{model, prefs};
     ProcessTableView* table = view.findChild<ProcessTableView*>();

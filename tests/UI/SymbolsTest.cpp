@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QImage drawing(const QString& name) {
@@ -30,7 +32,7 @@ bool hasInk(const QImage& image) {
 TEST(Symbols, EveryDrawingHasInkOfItsOwnAndTakesTheTint) {
     const QStringList names = Symbols::names();
     ASSERT_GE(names.size(), 60);
-    const QImage dot = drawing(QStringLiteral("unknown"));
+    const QImage dot = drawing(u"unknown"_s);
     for (const QString& name : names) {
         const QImage image = drawing(name);
         EXPECT_TRUE(hasInk(image)) << qPrintable(name);
@@ -57,14 +59,13 @@ TEST(Symbols, RecordsAndSectionsNameDrawingsThatExist) {
 }
 
 TEST(Symbols, UnknownNamesGiveTheNeutralDot) {
-    const QImage dot = drawing(QStringLiteral("unknown"));
-    for (const auto& name : {QString(), QStringLiteral("no.such.symbol"), QStringLiteral("../icons/tavrin"),
-                             QStringLiteral("trash/../bell")})
+    const QImage dot = drawing(u"unknown"_s);
+    for (const auto& name : {QString(), u"no.such.symbol"_s, u"../icons/tavrin"_s, u"trash/../bell"_s})
         EXPECT_EQ(drawing(name), dot) << qPrintable(name);
 }
 
 TEST(Symbols, AreSharpOnDenseScreens) {
-    const QPixmap pixmap = Symbols::pixmap(QStringLiteral("gauge"), Qt::black, 18, 2);
+    const QPixmap pixmap = Symbols::pixmap(u"gauge"_s, Qt::black, 18, 2);
     EXPECT_EQ(pixmap.size(), QSize(36, 36));
     EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(18, 18));
 }

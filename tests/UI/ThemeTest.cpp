@@ -50,13 +50,6 @@ TEST(Theme, SchemeReachesTheApplicationsPalette) {
     EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 200);
 }
 
-TEST(Theme, StylesKeepTheirRatiosToTheDesktopsFont) {
-    const double body = Theme::font(Theme::TextStyle::body).pointSizeF();
-    EXPECT_DOUBLE_EQ(body, QApplication::font().pointSizeF());
-    EXPECT_NEAR(Theme::font(Theme::TextStyle::title).pointSizeF() / body, 22.0 / 13, 0.01);
-    EXPECT_NEAR(Theme::font(Theme::TextStyle::caption).pointSizeF() / body, 10.0 / 13, 0.01);
-}
-
 TEST(Theme, ATintedLabelFollowsTheScheme) {
     QWidget window;
     auto* label = new TextLabel(Theme::TextStyle::body, {}, &window);

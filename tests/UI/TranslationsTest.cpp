@@ -162,17 +162,3 @@ TEST_F(TranslationsTest, TheTrayAndTheWidget) {
         EXPECT_FALSE(hasLetters(untranslated(action->text()))) << qPrintable(action->text());
     EXPECT_TRUE(desktop.statusItem->content.title.startsWith(u'['));
 }
-
-TEST(Translations, EnglishCountsOneApart) {
-    for (const auto& [context, text, forms] :
-         {std::tuple("Formatters", "%n byte(s)", QStringList{u"0 bytes"_s, u"1 byte"_s, u"2 bytes"_s}),
-          std::tuple("Formatters", "%n day(s) ago",
-                     QStringList{u"0 days ago"_s, u"1 day ago"_s, u"2 days ago"_s}),
-          std::tuple("CleanupTexts", "%n volume(s), %1",
-                     QStringList{u"0 volumes, %1"_s, u"1 volume, %1"_s, u"2 volumes, %1"_s}),
-          std::tuple("WidgetView", "+ %n more alert(s)",
-                     QStringList{u"+ 0 more alerts"_s, u"+ 1 more alert"_s, u"+ 2 more alerts"_s})}) {
-        for (int n = 0; n < 3; ++n)
-            EXPECT_EQ(QCoreApplication::translate(context, text, nullptr, n), forms[n]) << text << n;
-    }
-}

@@ -8,6 +8,8 @@
 
 #include <QEnterEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct WidgetTest : ModelFixture {
@@ -66,7 +68,7 @@ TEST_F(WidgetTest, ThreeLargestGroupsAndTheFirstAlert) {
         tick();
         fakes.clock->advance(3600);
         tick();
-        EXPECT_EQ(shownNames<PanelRow>(view()).last(), QStringLiteral("Idle agent — ollama"));
+        EXPECT_EQ(shownNames<PanelRow>(view()).last(), u"Idle agent — ollama"_s);
         EXPECT_EQ(overflow(), text) << agents;
     }
 }
@@ -77,7 +79,7 @@ TEST_F(WidgetTest, HeaderButtonsOnlyUnderThePointer) {
     EXPECT_TRUE(shown().isEmpty());
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
     QCoreApplication::sendEvent(&view(), &enter);
-    EXPECT_EQ(shown(), (QStringList{QStringLiteral("Open dashboard"), QStringLiteral("Hide widget")}));
+    EXPECT_EQ(shown(), (QStringList{u"Open dashboard"_s, u"Hide widget"_s}));
     QTest::mouseClick(view().findChildren<IconButton*>().last(), Qt::LeftButton);
     EXPECT_FALSE(widget.isVisible());
     QEvent leave(QEvent::Leave);
@@ -87,7 +89,7 @@ TEST_F(WidgetTest, HeaderButtonsOnlyUnderThePointer) {
 
 TEST_F(WidgetTest, OpenDashboardNeverFallsBackToTheSettings) {
     QWidget settingsWindow;
-    settingsWindow.setWindowTitle(QStringLiteral("Settings"));
+    settingsWindow.setWindowTitle(u"Settings"_s);
     desktop.application->own = {&settingsWindow};
     desktop.application->policy = ActivationPolicy::accessory;
     widget.show(model);

@@ -7,12 +7,14 @@
 #include <cstdio>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QCoro::Task<ToolResult> runShell(QString command) {
     ToolRequest request;
-    request.launchPath = QStringLiteral("/bin/sh");
-    request.arguments = QStringList({QStringLiteral("-c"), command});
+    request.launchPath = u"/bin/sh"_s;
+    request.arguments = QStringList({u"-c"_s, command});
     request.captureOutput = true;
     UnixToolRunner runner;
     const ToolResult result = co_await runner.run(request);

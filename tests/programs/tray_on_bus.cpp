@@ -6,6 +6,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void say(const char* word) {
@@ -22,9 +24,9 @@ public:
                               "</interface>");
     }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-        if (message.member() == QStringLiteral("Get"))
+        if (message.member() == u"Get"_s)
             return bus.send(message.createReply(QVariant::fromValue(QDBusVariant(true))));
-        if (message.member() != QStringLiteral("RegisterStatusNotifierItem"))
+        if (message.member() != u"RegisterStatusNotifierItem"_s)
             return false;
         say("item");
         return bus.send(message.createReply());
@@ -37,8 +39,8 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     TrayOnBus tray;
     auto bus = QDBusConnection::sessionBus();
-    bus.registerVirtualObject(QStringLiteral("/StatusNotifierWatcher"), &tray);
-    if (!bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher")))
+    bus.registerVirtualObject(u"/StatusNotifierWatcher"_s, &tray);
+    if (!bus.registerService(u"org.kde.StatusNotifierWatcher"_s))
         return 1;
     say("tray");
     return QCoreApplication::exec();

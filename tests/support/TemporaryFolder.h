@@ -23,6 +23,11 @@ public:
             qFatal("cannot write %s", qPrintable(path(below)));
         return path(below);
     }
+    QString makeProgram(const QString& below, const QByteArray& content) const {
+        const QString file = makeFile(below, content);
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return file;
+    }
 
 private:
     QTemporaryDir m_folder;

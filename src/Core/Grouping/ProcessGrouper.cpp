@@ -39,7 +39,7 @@ constexpr Patterns browserPatterns = {"chrome", "chromium", "safari", "firefox",
 constexpr Patterns containerPatterns = {"docker", "orbstack", "colima",     "podman", "qemu",
                                         "lima",   "rancher",  "containerd", "runc"};
 
-enum Fact : PatternMatcher::Facts {
+enum GroupFact : PatternMatcher::Facts {
     agent = 1 << 0,
     scriptRuntime = 1 << 1,
     mcpMarker = 1 << 2,
@@ -50,7 +50,8 @@ enum Fact : PatternMatcher::Facts {
     container = 1 << 7,
 };
 
-void append(QList<PatternMatcher::Pattern>& list, Patterns patterns, Fact fact, const char* prefix = "") {
+void append(QList<PatternMatcher::Pattern>& list, Patterns patterns, GroupFact fact,
+            const char* prefix = "") {
     for (const char* pattern : patterns)
         list.append({QByteArray(prefix) + pattern, fact});
 }

@@ -27,11 +27,11 @@ QByteArray inConfigurationHome(const QString& path) {
                              path);
 }
 
-ServerFile::Read json(const QString& scope, const Form& form = {}) {
+ServerFile::Read jsonFile(const QString& scope, const Form& form = {}) {
     return [scope, form](std::streambuf& text) { return ServerDocument::read(text, form, scope); };
 }
 
-ServerFile::Read toml(const QString& scope) {
+ServerFile::Read tomlFile(const QString& scope) {
     return [scope](std::streambuf& text) {
         return ServerFile::Servers{.own = ServerToml::read(text, scope), .ofProjects = {}};
     };
@@ -40,14 +40,14 @@ ServerFile::Read toml(const QString& scope) {
 } // namespace
 
 MCPConfiguration::MCPConfiguration()
-    : m_files{{{inHome(u".claude.json"_s), json(u"user"_s, {.hasProjects = true})},
-               {inHome(u".claude/mcp.json"_s), json(u"user (alt)"_s)},
-               {"./.mcp.json", json(u"project (cwd)"_s)},
-               {inHome(u".cursor/mcp.json"_s), json(u"cursor"_s, {.hasComments = true})},
+    : m_files{{{inHome(u".claude.json"_s), jsonFile(u"user"_s, {.hasProjects = true})},
+               {inHome(u".claude/mcp.json"_s), jsonFile(u"user (alt)"_s)},
+               {"./.mcp.json", jsonFile(u"project (cwd)"_s)},
+               {inHome(u".cursor/mcp.json"_s), jsonFile(u"cursor"_s, {.hasComments = true})},
                {inConfigurationHome(u"Code/User/mcp.json"_s),
-                json(u"VS Code"_s, {.member = "servers", .hasComments = true})},
-               {inHome(u".gemini/settings.json"_s), json(u"gemini"_s, {.hasComments = true})},
-               {inHome(u".codex/config.toml"_s), toml(u"codex"_s)}}} {
+                jsonFile(u"VS Code"_s, {.member = "servers", .hasComments = true})},
+               {inHome(u".gemini/settings.json"_s), jsonFile(u"gemini"_s, {.hasComments = true})},
+               {inHome(u".codex/config.toml"_s), tomlFile(u"codex"_s)}}} {
     m_pool.setMaxThreadCount(1);
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-enum Fact : PatternMatcher::Facts {
+enum ServerFact : PatternMatcher::Facts {
     serverName = 1 << 0,
     mcpSuffix = 1 << 1, ///< "-mcp" occurs; the characters around it decide
 };

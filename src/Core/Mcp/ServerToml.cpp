@@ -21,7 +21,7 @@ namespace {
 
 using MCPInspector::ConfiguredServer;
 
-constexpr std::size_t maxBytes = 8 << 20;
+constexpr std::size_t maxTomlBytes = 8 << 20;
 constexpr std::size_t maxServers = 10'000;
 constexpr int maxDotsInLine = 256;
 
@@ -40,8 +40,8 @@ protected:
         if (count <= 0)
             return traits_type::eof();
         m_bytes += static_cast<std::size_t>(count);
-        m_isRefused = m_bytes > maxBytes || !std::all_of(m_block.begin(), m_block.begin() + count,
-                                                         [this](char byte) { return isTakenIn(byte); });
+        m_isRefused = m_bytes > maxTomlBytes || !std::all_of(m_block.begin(), m_block.begin() + count,
+                                                             [this](char byte) { return isTakenIn(byte); });
         if (m_isRefused)
             return traits_type::eof();
         setg(m_block.data(), m_block.data(), m_block.data() + count);

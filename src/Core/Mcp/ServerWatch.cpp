@@ -15,11 +15,11 @@ namespace {
 
 using MCPInspector::LiveServer;
 
-constexpr double minIdleSeconds = 60; // below it a server has just answered
+constexpr double minQuietSeconds = 60; // below it a server has just answered
 
 /// Returns the reason why a server is an orphan, with how long it has been idle.
 QString withIdleTime(const QString& reason, double seconds) {
-    if (seconds < minIdleSeconds)
+    if (seconds < minQuietSeconds)
         return reason;
     const bool isHours = seconds >= 3600;
     return (isHours ? QCoreApplication::translate("ServerWatch", "%1, no CPU for %2 h")

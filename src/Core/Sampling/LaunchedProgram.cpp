@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using LaunchedProgram::Reading;
-using Words = std::span<const QString>;
+using Arguments = std::span<const QString>;
 
 /// How the words after a program's name are read.
 enum class Reader {
@@ -23,7 +23,7 @@ enum class Reader {
     container ///< "run", options, then an image
 };
 
-struct Program {
+struct Runner {
     QStringView name;
     Reader reader;
     QStringView optionsWithValue; ///< each between spaces
@@ -42,34 +42,34 @@ constexpr QStringView containerOptions = u" -a --add-host --annotation --attach 
                                          u"--stop-signal --tmpfs -u --user --userns "
                                          u"--ulimit -v --volume --volumes-from -w --workdir ";
 
-constexpr std::array programs = {
-    Program{u"node", Reader::script, nodeOptions, u""},
-    Program{u"nodejs", Reader::script, nodeOptions, u""},
-    Program{u"bun", Reader::script, nodeOptions, u""},
-    Program{u"deno", Reader::script, u" -c --config --import-map --cert --lock ", u""},
-    Program{u"python", Reader::script, u" -W -X ", u""},
-    Program{u"pypy", Reader::script, u" -W -X ", u""},
-    Program{u"ruby", Reader::script, u" -r -I -C ", u""},
-    Program{u"perl", Reader::script, u"", u""},
-    Program{u"php", Reader::script, u" -c -d ", u""},
-    Program{u"java", Reader::java, u" -cp -classpath --class-path -p --module-path ", u""},
-    Program{u"sh", Reader::shell, u" -o -O ", u""},
-    Program{u"bash", Reader::shell, u" -o -O --rcfile --init-file ", u""},
-    Program{u"dash", Reader::shell, u" -o ", u""},
-    Program{u"zsh", Reader::shell, u" -o ", u""},
-    Program{u"fish", Reader::shell, u" -C --init-command ", u""},
-    Program{u"npx", Reader::package, u" -p --package -c --call -w --workspace --cache --registry ", u""},
-    Program{u"npx-cli", Reader::package, u" -p --package -c --call -w --workspace ", u""},
-    Program{u"npm", Reader::package, u" -p --package -c --call -w --workspace --prefix ", u" exec x "},
-    Program{u"npm-cli", Reader::package, u" -p --package -c --call -w --workspace --prefix ", u" exec x "},
-    Program{u"pnpm", Reader::package, u" --package -C --dir ", u" dlx exec "},
-    Program{u"yarn", Reader::package, u" -p --package ", u" dlx exec "},
-    Program{u"bunx", Reader::package, u" -p --package ", u""},
-    Program{u"uvx", Reader::package, u" --from --with -p --python --index-url -w --directory ", u""},
-    Program{u"pipx", Reader::package, u" --spec --python ", u" run "},
-    Program{u"docker", Reader::container, containerOptions, u" run "},
-    Program{u"podman", Reader::container, containerOptions, u" run "},
-    Program{u"nerdctl", Reader::container, containerOptions, u" run "},
+constexpr std::array runners = {
+    Runner{u"node", Reader::script, nodeOptions, u""},
+    Runner{u"nodejs", Reader::script, nodeOptions, u""},
+    Runner{u"bun", Reader::script, nodeOptions, u""},
+    Runner{u"deno", Reader::script, u" -c --config --import-map --cert --lock ", u""},
+    Runner{u"python", Reader::script, u" -W -X ", u""},
+    Runner{u"pypy", Reader::script, u" -W -X ", u""},
+    Runner{u"ruby", Reader::script, u" -r -I -C ", u""},
+    Runner{u"perl", Reader::script, u"", u""},
+    Runner{u"php", Reader::script, u" -c -d ", u""},
+    Runner{u"java", Reader::java, u" -cp -classpath --class-path -p --module-path ", u""},
+    Runner{u"sh", Reader::shell, u" -o -O ", u""},
+    Runner{u"bash", Reader::shell, u" -o -O --rcfile --init-file ", u""},
+    Runner{u"dash", Reader::shell, u" -o ", u""},
+    Runner{u"zsh", Reader::shell, u" -o ", u""},
+    Runner{u"fish", Reader::shell, u" -C --init-command ", u""},
+    Runner{u"npx", Reader::package, u" -p --package -c --call -w --workspace --cache --registry ", u""},
+    Runner{u"npx-cli", Reader::package, u" -p --package -c --call -w --workspace ", u""},
+    Runner{u"npm", Reader::package, u" -p --package -c --call -w --workspace --prefix ", u" exec x "},
+    Runner{u"npm-cli", Reader::package, u" -p --package -c --call -w --workspace --prefix ", u" exec x "},
+    Runner{u"pnpm", Reader::package, u" --package -C --dir ", u" dlx exec "},
+    Runner{u"yarn", Reader::package, u" -p --package ", u" dlx exec "},
+    Runner{u"bunx", Reader::package, u" -p --package ", u""},
+    Runner{u"uvx", Reader::package, u" --from --with -p --python --index-url -w --directory ", u""},
+    Runner{u"pipx", Reader::package, u" --spec --python ", u" run "},
+    Runner{u"docker", Reader::container, containerOptions, u" run "},
+    Runner{u"podman", Reader::container, containerOptions, u" run "},
+    Runner{u"nerdctl", Reader::container, containerOptions, u" run "},
 };
 
 bool containsWord(QStringView list, QStringView word) {
@@ -84,24 +84,24 @@ QStringView withoutVersion(QStringView name) {
     return name.first(end);
 }
 
-const Program* programNamed(QStringView fileName) {
+const Runner* runnerNamed(QStringView fileName) {
     const QStringView plain = withoutVersion(ProgramPath::scriptName(fileName));
-    const auto found = std::ranges::find(programs, plain, &Program::name);
-    return found == programs.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(runners, plain, &Runner::name);
+    return found == runners.end() ? nullptr : &*found;
 }
 
 constexpr int maxNesting = 4;
 
-Reading readCommand(const QString& executable, Words arguments, int depth);
+Reading readCommand(const QString& executable, Arguments arguments, int depth);
 
 /// Returns the words after the option in front and its value.
-Words afterOption(Words words, QStringView optionsWithValue) {
+Arguments afterOption(Arguments words, QStringView optionsWithValue) {
     const bool takesValue = containsWord(optionsWithValue, words.front());
     return words.subspan(std::min<size_t>(takesValue ? 2 : 1, words.size()));
 }
 
 /// Returns the words after all options.
-Words afterOptions(Words words, QStringView optionsWithValue) {
+Arguments afterOptions(Arguments words, QStringView optionsWithValue) {
     while (!words.empty() && words.front().startsWith(u'-') && words.front().size() > 1) {
         const bool isEnd = words.front() == "--"_L1;
         words = afterOption(words, optionsWithValue);
@@ -111,7 +111,7 @@ Words afterOptions(Words words, QStringView optionsWithValue) {
     return words;
 }
 
-Reading readScript(const Program& program, Words words, int depth) {
+Reading readScript(const Runner& runner, Arguments words, int depth) {
     while (!words.empty() && words.front().startsWith(u'-')) {
         const QString& option = words.front();
         if (option == "-m"_L1)
@@ -119,17 +119,17 @@ Reading readScript(const Program& program, Words words, int depth) {
         if (option == "-c"_L1 || option == "-e"_L1 || option == "-p"_L1 || option == "--eval"_L1 ||
             option == "--print"_L1 || option == "-"_L1)
             return {};
-        words = afterOption(words, program.optionsWithValue);
+        words = afterOption(words, runner.optionsWithValue);
     }
     if (words.empty())
         return {};
-    const bool isRunVerb = program.name == u"deno" || program.name == u"bun";
+    const bool isRunVerb = runner.name == u"deno" || runner.name == u"bun";
     if (isRunVerb && words.front() == "x"_L1)
         return readCommand(u"bunx"_s, words, depth + 1);
     if (isRunVerb && words.front() == "run"_L1)
-        return readScript(program, words.subspan(1), depth);
+        return readScript(runner, words.subspan(1), depth);
     // A package runner is itself a script.
-    const Program* inner = programNamed(ProgramPath::lastComponent(words.front()));
+    const Runner* inner = runnerNamed(ProgramPath::lastComponent(words.front()));
     if (inner && inner->reader == Reader::package && depth < maxNesting)
         return readCommand(words.front(), words, depth + 1);
     return {.program = words.front(), .isScript = true};
@@ -148,7 +148,7 @@ QStringList commandWords(const QString& command) {
     return words;
 }
 
-Reading readShell(const Program& program, Words words, int depth) {
+Reading readShell(const Runner& runner, Arguments words, int depth) {
     while (!words.empty() && words.front().startsWith(u'-')) {
         const QString& option = words.front();
         const bool isCommand = !option.startsWith("--"_L1) && option.endsWith(u'c');
@@ -157,41 +157,41 @@ Reading readShell(const Program& program, Words words, int depth) {
             if (command.isEmpty())
                 return {};
             Reading reading =
-                readCommand(command.first(), Words(command.constData(), command.size()), depth + 1);
+                readCommand(command.first(), Arguments(command.constData(), command.size()), depth + 1);
             reading.isScript = false;
             reading.isLauncher = true;
             return reading;
         }
-        words = afterOption(words, program.optionsWithValue);
+        words = afterOption(words, runner.optionsWithValue);
     }
     return words.empty() ? Reading() : Reading{.program = words.front(), .isScript = true};
 }
 
-Reading readJava(const Program& program, Words words) {
+Reading readJava(const Runner& runner, Arguments words) {
     for (size_t i = 0; i < words.size(); ++i) {
         if (words[i] == "-jar"_L1 || words[i] == "-m"_L1 || words[i] == "--module"_L1)
             return i + 1 < words.size() ? Reading{.program = words[i + 1]} : Reading();
         if (!words[i].startsWith(u'-'))
             return {.program = words[i]};
-        i += containsWord(program.optionsWithValue, words[i]) ? 1 : 0;
+        i += containsWord(runner.optionsWithValue, words[i]) ? 1 : 0;
     }
     return {};
 }
 
 /// Reads the options of a package or image, which are switches unless the table lists them with a value.
-Reading readPackage(const Program& program, Words words) {
-    if (!program.verbs.isEmpty()) {
-        words = afterOptions(words, program.optionsWithValue);
-        if (words.empty() || !containsWord(program.verbs, words.front()))
+Reading readPackage(const Runner& runner, Arguments words) {
+    if (!runner.verbs.isEmpty()) {
+        words = afterOptions(words, runner.optionsWithValue);
+        if (words.empty() || !containsWord(runner.verbs, words.front()))
             return {};
         words = words.subspan(1);
     }
-    words = afterOptions(words, program.optionsWithValue);
+    words = afterOptions(words, runner.optionsWithValue);
     return words.empty() ? Reading() : Reading{.program = words.front(), .isLauncher = true};
 }
 
 /// Reads `uv run COMMAND`, `uv tool run PACKAGE` and `uv tool uvx PACKAGE`.
-Reading readUv(Words words, int depth) {
+Reading readUv(Arguments words, int depth) {
     constexpr QStringView options =
         u" --with --directory --project -p --python --from --index-url --env-file "
         u"--extra --group --with-requirements ";
@@ -214,29 +214,29 @@ Reading readUv(Words words, int depth) {
 }
 
 /// Reads a command line. `arguments` begins with the program's own name.
-Reading readCommand(const QString& executable, Words arguments, int depth) {
+Reading readCommand(const QString& executable, Arguments arguments, int depth) {
     const QStringView file = ProgramPath::lastComponent(executable);
-    const Words words = arguments.empty() ? arguments : arguments.subspan(1);
+    const Arguments words = arguments.empty() ? arguments : arguments.subspan(1);
     const Reading itself{.program = executable};
     if (depth > maxNesting)
         return itself;
     Reading reading;
     if (file == u"uv") {
         reading = readUv(words, depth);
-    } else if (const Program* program = programNamed(file)) {
-        switch (program->reader) {
+    } else if (const Runner* runner = runnerNamed(file)) {
+        switch (runner->reader) {
         case Reader::script:
-            reading = readScript(*program, words, depth);
+            reading = readScript(*runner, words, depth);
             break;
         case Reader::shell:
-            reading = readShell(*program, words, depth);
+            reading = readShell(*runner, words, depth);
             break;
         case Reader::java:
-            reading = readJava(*program, words);
+            reading = readJava(*runner, words);
             break;
         case Reader::package:
         case Reader::container:
-            reading = readPackage(*program, words);
+            reading = readPackage(*runner, words);
             break;
         }
     }
@@ -246,18 +246,18 @@ Reading readCommand(const QString& executable, Words arguments, int depth) {
 } // namespace
 
 bool LaunchedProgram::isInterpreter(QStringView fileName) {
-    const Program* program = programNamed(fileName);
-    return program && (program->reader == Reader::script || program->reader == Reader::shell ||
-                       program->reader == Reader::java);
+    const Runner* runner = runnerNamed(fileName);
+    return runner && (runner->reader == Reader::script || runner->reader == Reader::shell ||
+                      runner->reader == Reader::java);
 }
 
 /// Reads also a title in the place of the arguments, one text with spaces: "npm exec PACKAGE".
 Reading LaunchedProgram::read(const QString& executable, const QStringList& arguments) {
     if (arguments.size() == 1 && arguments.first().contains(u' ')) {
         const QStringList title = arguments.first().split(u' ', Qt::SkipEmptyParts);
-        const bool isOfProgram = !title.isEmpty() && programNamed(ProgramPath::lastComponent(title.first()));
+        const bool isOfProgram = !title.isEmpty() && runnerNamed(ProgramPath::lastComponent(title.first()));
         if (isOfProgram) {
-            Reading reading = readCommand(title.first(), Words(title.constData(), title.size()), 0);
+            Reading reading = readCommand(title.first(), Arguments(title.constData(), title.size()), 0);
             if (reading.program == title.first())
                 reading.program = executable; // the title does not name it
             return reading;
@@ -265,5 +265,5 @@ Reading LaunchedProgram::read(const QString& executable, const QStringList& argu
     }
     const bool isUnknown = executable.isEmpty() && !arguments.isEmpty();
     return readCommand(isUnknown ? arguments.first() : executable,
-                       Words(arguments.constData(), arguments.size()), 0);
+                       Arguments(arguments.constData(), arguments.size()), 0);
 }

@@ -16,7 +16,7 @@ bool isBelow(QStringView path, QStringView folder) {
 }
 
 /// Returns "NAME" for "NAME@1.2".
-QStringView withoutVersion(QStringView package) {
+QStringView withoutPackageVersion(QStringView package) {
     const qsizetype version = package.indexOf(u'@', 1);
     return version < 0 ? package : package.first(version);
 }
@@ -57,7 +57,7 @@ QStringView ProgramPath::packageName(QStringView program) {
         package = package.sliced(scopeEnd + 1);
     }
     const qsizetype end = package.indexOf(u'/');
-    return withoutVersion(end < 0 ? package : package.first(end));
+    return withoutPackageVersion(end < 0 ? package : package.first(end));
 }
 
 QStringView ProgramPath::withoutPrefix(QStringView path) {

@@ -13,7 +13,7 @@
 namespace {
 
 const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
-const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
+const auto portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const auto interface = QStringLiteral("org.freedesktop.portal.Settings");
 const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const auto colorSchemeKey = QStringLiteral("color-scheme");
@@ -34,13 +34,13 @@ FreedesktopAppearance::FreedesktopAppearance(QObject* parent)
         qCInfo(Log::platform) << "no session bus:" << bus.lastError().name();
         return;
     }
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+    bus.connect(service, portalPath, interface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     ask();
 }
 
 void FreedesktopAppearance::ask() {
-    auto message = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    auto message = QDBusMessage::createMethodCall(service, portalPath, interface, QStringLiteral("Read"));
     message << appearanceGroup << colorSchemeKey;
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

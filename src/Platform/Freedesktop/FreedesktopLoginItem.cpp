@@ -60,7 +60,7 @@ QByteArray value(QString text) {
 }
 
 /// Undoes `value`.
-QString textOf(const QByteArray& value) {
+QString unescapedValue(const QByteArray& value) {
     QString text;
     bool isEscaped = false;
     for (const QChar character : QString::fromUtf8(value)) {
@@ -83,7 +83,7 @@ QString registeredProgram() {
     constexpr QByteArrayView key = "TryExec=";
     for (const QByteArray& line : file.read(maxEntryBytes).split('\n')) {
         if (line.startsWith(key))
-            return textOf(line.mid(key.size()));
+            return unescapedValue(line.mid(key.size()));
     }
     return {};
 }

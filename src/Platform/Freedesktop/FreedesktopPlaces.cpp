@@ -17,7 +17,7 @@ namespace {
 
 enum class Base { home, cacheHome, settingsHome, dataHome, stateHome, downloads, desktop, pictures };
 
-struct Row {
+struct KnownPlace {
     QStringView path;
     Base base;
     QStringView below;         ///< one component may be "*" for every folder there
@@ -26,7 +26,7 @@ struct Row {
 
 // Folders that Linux keeps elsewhere, in the order of the result. Logs have no common folder, and one called
 // "logs" may contain conversations: only known folders of logs and those in the state home are listed.
-constexpr Row elsewhere[] = {
+constexpr KnownPlace elsewhere[] = {
     {u"~/Library/Caches", Base::cacheHome, u""},
     {u"~/Library/Caches/Homebrew", Base::cacheHome, u"Homebrew"},
     {u"~/Library/Caches/Yarn", Base::cacheHome, u"yarn"},
@@ -174,12 +174,12 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
     if (stands)
         places.append({asItStands, objection(asItStands, *home)});
     const QString toCaches = objectionToCacheHome(folderOf(Base::cacheHome, *home), *home);
-    for (const Row& row : elsewhere) {
-        if (row.path != path || (stands && !row.isAdditional))
+    for (const KnownPlace& known : elsewhere) {
+        if (known.path != path || (stands && !known.isAdditional))
             continue;
-        const QString pattern = QDir::cleanPath(folderOf(row.base, *home) + u'/' + row.below.toString());
+        const QString pattern = QDir::cleanPath(folderOf(known.base, *home) + u'/' + known.below.toString());
         for (const QString& place : expanded(pattern)) {
-            const bool isCache = row.base == Base::cacheHome && !toCaches.isEmpty();
+            const bool isCache = known.base == Base::cacheHome && !toCaches.isEmpty();
             places.append({place, isCache ? toCaches : objection(place, *home)});
         }
     }

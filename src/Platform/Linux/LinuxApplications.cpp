@@ -16,12 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 maxBytes = 16 * 1024;
+constexpr qint64 maxTextBytes = 16 * 1024;
 
 /// Reads a file of procfs or of a sandbox, which may be anything. Returns an empty text on failure.
 QByteArray textOf(const QString& path) {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(maxTextBytes)
+                                                                      : QByteArray();
 }
 
 /// Reads the application's id from flatpak's file in the sandbox (flatpak-metadata(5)).

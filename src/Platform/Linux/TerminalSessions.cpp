@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Row {
+struct TerminalProcess {
     qint32 pid = 0;
     qint32 parentPid = 0;
     qint32 session = 0;
@@ -22,25 +22,25 @@ struct Row {
     bool leads() const { return pid == session; }
 };
 
-std::string textOf(const QString& path) {
+std::string procText(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
 /// Lists the processes with a terminal.
-QList<Row> rowsIn(const QString& root) {
-    QList<Row> rows;
+QList<TerminalProcess> processesIn(const QString& root) {
+    QList<TerminalProcess> processes;
     for (const QString& name : QDir(root).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
-        const auto stat = ProcStat::parse(textOf(root + u'/' + name + u"/stat"_s));
+        const auto stat = ProcStat::parse(procText(root + u'/' + name + u"/stat"_s));
         if (stat && stat->terminal != 0)
-            rows.append({name.toInt(), stat->parentPid, stat->session, stat->terminal});
+            processes.append({name.toInt(), stat->parentPid, stat->session, stat->terminal});
     }
-    return rows;
+    return processes;
 }
 
 /// Reads SigIgn of proc(5): bit N - 1 for signal N.
 bool ignoresHangUp(qint32 pid, const QString& root) {
-    const std::string status = textOf(root + u'/' + QString::number(pid) + u"/status"_s);
+    const std::string status = procText(root + u'/' + QString::number(pid) + u"/status"_s);
     const auto mask = KernelText::valueOf(status, "SigIgn:").value_or(std::string_view());
     const auto bits = QByteArrayView(mask.data(), static_cast<qsizetype>(mask.size())).trimmed();
     return (bits.toByteArray().toULongLong(nullptr, 16) >> (SIGHUP - 1) & 1) != 0;
@@ -49,26 +49,26 @@ bool ignoresHangUp(qint32 pid, const QString& root) {
 } // namespace
 
 QList<qint32> TerminalSessions::startedFrom(const QList<qint32>& pids, const QString& root) {
-    const QList<Row> rows = rowsIn(root);
+    const QList<TerminalProcess> processes = processesIn(root);
     QSet<qint32> found(pids.begin(), pids.end());
     QSet<qint32> sessions;
     for (bool isNew = true; isNew;) {
         isNew = false;
-        for (const Row& leader : rows) {
+        for (const TerminalProcess& leader : processes) {
             if (!leader.leads() || sessions.contains(leader.session) || !found.contains(leader.parentPid))
                 continue;
             sessions.insert(leader.session);
             isNew = true;
-            for (const Row& row : rows) {
-                if (row.session == leader.session && row.terminal == leader.terminal)
-                    found.insert(row.pid);
+            for (const TerminalProcess& process : processes) {
+                if (process.session == leader.session && process.terminal == leader.terminal)
+                    found.insert(process.pid);
             }
         }
     }
     QList<qint32> result;
-    for (const Row& row : rows) {
-        if (found.contains(row.pid) && !pids.contains(row.pid) && !ignoresHangUp(row.pid, root))
-            result.append(row.pid);
+    for (const TerminalProcess& process : processes) {
+        if (found.contains(process.pid) && !pids.contains(process.pid) && !ignoresHangUp(process.pid, root))
+            result.append(process.pid);
     }
     return result;
 }

@@ -13,7 +13,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int minHeight = 110;
+constexpr int minCacheCardHeight = 110;
 constexpr int lineGap = 6;
 
 QString scannedText(const std::optional<Instant>& scanned, Instant now) {
@@ -33,7 +33,7 @@ CacheCard::CacheCard(QWidget* parent)
 }
 
 QSize CacheCard::sizeHint() const {
-    return {220, minHeight};
+    return {220, minCacheCardHeight};
 }
 
 void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {

@@ -18,11 +18,11 @@ using Theme::TextStyle;
 namespace {
 
 constexpr QSize minSize(460, 480);
-constexpr qsizetype maxNames = 20;
+constexpr qsizetype maxListedNames = 20;
 
 /// Adds what a clean removes besides the entries of the breakdown.
 void addNames(SizeList& list, const CacheTarget& target) {
-    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxNames);
+    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxListedNames);
     const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
     const qsizetype shown = isInBreakdown ? target.details.size() : names.shown.size();
     if (!isInBreakdown && shown > 0) {

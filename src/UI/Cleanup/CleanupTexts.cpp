@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype maxNames = 3;
+constexpr qsizetype maxQuotedNames = 3;
 constexpr qsizetype maxNameLength = 40;
 const auto paragraph = u"\n\n"_s;
 
@@ -27,7 +27,7 @@ QString quoted(const QString& name) {
 /// Returns the first few of `count` names: "“a”, “b” and 12 more".
 QString listed(const QStringList& names, qsizetype count) {
     QStringList items;
-    for (const QString& name : names.first(std::min(maxNames, names.size())))
+    for (const QString& name : names.first(std::min(maxQuotedNames, names.size())))
         items.append(quoted(name));
     if (items.isEmpty())
         return {};
@@ -40,7 +40,7 @@ QString listed(const QStringList& names, qsizetype count) {
 }
 
 QString namesOf(const CacheTarget& target) {
-    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxNames);
+    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxQuotedNames);
     QStringList shown;
     for (const CacheEntry& entry : names.shown)
         shown.append(entry.path);

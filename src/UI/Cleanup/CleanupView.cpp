@@ -24,7 +24,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int minCardWidth = 220;
-constexpr int cardGap = 12;
+constexpr int cacheCardGap = 12;
 
 } // namespace
 
@@ -103,7 +103,7 @@ QWidget* CleanupView::makeGrid() {
     margins.setTop(0);
     auto* area = new QScrollArea;
     auto* column = makeScrollingPage(area, margins, 0);
-    m_grid = new FlowGrid(minCardWidth, cardGap);
+    m_grid = new FlowGrid(minCardWidth, cacheCardGap);
     column->addLayout(m_grid);
     column->addStretch();
     area->setFocusPolicy(Qt::NoFocus);

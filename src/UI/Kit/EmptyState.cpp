@@ -7,15 +7,15 @@
 
 namespace {
 
-constexpr int minHeight = 120;
-constexpr int symbolSize = 30;
+constexpr int minEmptyHeight = 120;
+constexpr int emptySymbolSize = 30;
 
 } // namespace
 
 EmptyState::EmptyState(const QString& symbol, const QString& headline, const QString& text, QWidget* parent)
     : QWidget(parent) {
-    setMinimumHeight(minHeight);
-    auto* icon = new SymbolView(symbolSize, symbolSize);
+    setMinimumHeight(minEmptyHeight);
+    auto* icon = new SymbolView(emptySymbolSize, emptySymbolSize);
     icon->set(symbol, Theme::Role::secondaryText);
     auto* title = new TextLabel(Theme::TextStyle::headline);
     title->setPlainText(headline);

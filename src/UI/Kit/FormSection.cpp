@@ -9,7 +9,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int cellPadding = 7;
+constexpr int formRowPadding = 7;
 constexpr int minRowHeight = 24;
 
 } // namespace
@@ -40,7 +40,7 @@ QVBoxLayout* FormSection::addCell() {
         m_rows->addLayout(line);
     }
     m_last = new QVBoxLayout;
-    m_last->setContentsMargins(Theme::cardPadding, cellPadding, Theme::cardPadding, cellPadding);
+    m_last->setContentsMargins(Theme::cardPadding, formRowPadding, Theme::cardPadding, formRowPadding);
     m_last->setSpacing(4);
     m_rows->addLayout(m_last);
     return m_last;

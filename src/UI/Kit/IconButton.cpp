@@ -9,7 +9,7 @@ using Theme::Role;
 namespace {
 
 constexpr int side = 26;
-constexpr int symbolSize = 18;
+constexpr int iconSymbolSize = 18;
 constexpr int textPadding = 8;
 
 } // namespace

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int gap = 8;
+constexpr int panelRowGap = 8;
 constexpr int verticalPadding = 3;
 
 } // namespace
@@ -43,12 +43,12 @@ void PanelRow::paintEvent(QPaintEvent*) {
     QRectF line(rect());
     const QRectF symbol(line.left(), line.top(), m_symbolWidth, line.height());
     Symbols::draw(painter, m_content.symbol, Theme::color(m_content.tint), symbol, m_symbolWidth);
-    line.setLeft(symbol.right() + gap);
+    line.setLeft(symbol.right() + panelRowGap);
 
     Painting::setTextStyle(painter, Theme::TextStyle::caption, Theme::Role::secondaryText);
     Painting::drawTabular(painter, line, Qt::AlignRight, m_content.figure);
     if (!m_content.figure.isEmpty())
-        line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_content.figure) - gap);
+        line.setRight(line.right() - Painting::tabularWidth(painter.font(), m_content.figure) - panelRowGap);
 
     Painting::setTextStyle(painter, m_style, m_content.textRole);
     Painting::drawElided(painter, line, Qt::ElideMiddle, m_content.text);

@@ -14,7 +14,7 @@ namespace {
 constexpr int leadLeft = 6;
 constexpr int leadRoom = 18;
 constexpr int trailRoom = 20;
-constexpr int symbolSize = 14;
+constexpr int searchSymbolSize = 14;
 
 } // namespace
 
@@ -48,5 +48,5 @@ void SearchField::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
     Symbols::draw(painter, QStringLiteral("magnifyingglass"), Theme::color(Role::secondaryText),
-                  QRectF(leadLeft, 0, leadRoom, height()), symbolSize);
+                  QRectF(leadLeft, 0, leadRoom, height()), searchSymbolSize);
 }

@@ -10,7 +10,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 34;
+constexpr int sidebarRowHeight = 34;
 constexpr int inset = 10;
 
 QColor rowFill(QStyle::State state) {
@@ -41,5 +41,5 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 }
 
 QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
-    return {0, rowHeight};
+    return {0, sidebarRowHeight};
 }

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int lineHeight = 26;
 constexpr int edge = 3; ///< room for the ring round the viewport
-constexpr int padding = 9;
+constexpr int sizeRowPadding = 9;
 constexpr int maxDetailLines = 2;
 constexpr int detailGap = 5;
 
@@ -72,7 +72,8 @@ private:
 
 SizeList::SizeList(const QString& accessibleName, QWidget* parent)
     : QScrollArea(parent)
-    , m_rows(makeScrollingPage(this, {padding, padding / 2, padding, padding / 2}, 0)) {
+    , m_rows(makeScrollingPage(this, {sizeRowPadding, sizeRowPadding / 2, sizeRowPadding, sizeRowPadding / 2},
+                               0)) {
     m_rows->addStretch();
     setViewportMargins(edge, edge, edge, edge);
     // The card below is visible through both.

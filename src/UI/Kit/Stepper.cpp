@@ -15,7 +15,7 @@ using Theme::Role;
 namespace {
 
 constexpr int buttonWidth = 28;
-constexpr int symbolSize = 12;
+constexpr int stepSymbolSize = 12;
 constexpr double disabledOpacity = 0.35;
 
 /// One half of the stepper, which draws the ground of both.
@@ -33,7 +33,7 @@ protected:
         QPainter painter(this);
         Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.9, 1.6);
         Symbols::draw(painter, m_symbol, Theme::color(Role::primaryText, isEnabled() ? 1 : disabledOpacity),
-                      rect(), symbolSize);
+                      rect(), stepSymbolSize);
     }
 
 private:

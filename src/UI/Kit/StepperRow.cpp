@@ -11,7 +11,7 @@ using Theme::Role;
 
 namespace {
 
-constexpr int gap = 10;
+constexpr int stepperGap = 10;
 
 } // namespace
 
@@ -58,13 +58,13 @@ void StepperRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     QRectF line = rect();
-    line.setRight(m_stepper->x() - gap);
+    line.setRight(m_stepper->x() - stepperGap);
     painter.setFont(font());
     painter.setPen(Theme::color(Role::primaryText, opacity));
     const QString label = text(m_look.label);
     Painting::drawTabular(painter, line, Qt::AlignLeft, label);
 
-    line.setLeft(line.left() + Painting::tabularWidth(font(), label) + gap);
+    line.setLeft(line.left() + Painting::tabularWidth(font(), label) + stepperGap);
     painter.setPen(Theme::color(Role::secondaryText, opacity));
     const QString value = text(m_look.value);
     if (Painting::tabularWidth(font(), value) <= line.width())

@@ -17,7 +17,7 @@ using Theme::Role;
 
 namespace {
 
-constexpr int headerHeight = 28;
+constexpr int tableHeaderHeight = 28;
 constexpr int minSection = 40;
 
 } // namespace
@@ -37,7 +37,7 @@ TableView::TableView(const QString& name, QWidget* parent)
     useSlimScrollBar(this);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
-    header()->setFixedHeight(headerHeight);
+    header()->setFixedHeight(tableHeaderHeight);
     header()->setMinimumSectionSize(minSection);
     QPalette clear = palette(); // the delegate draws the background of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);

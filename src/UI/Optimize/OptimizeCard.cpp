@@ -9,7 +9,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int padding = 16;
+constexpr int optimizeCardPadding = 16;
 constexpr int headerSymbol = 20;
 
 } // namespace
@@ -32,7 +32,8 @@ OptimizeCard::OptimizeCard(const QString& title, const QString& subtitle, const 
     header->addWidget(icon);
     header->addLayout(texts, 1);
 
-    m_content->setContentsMargins(padding, padding, padding, padding);
+    m_content->setContentsMargins(optimizeCardPadding, optimizeCardPadding, optimizeCardPadding,
+                                  optimizeCardPadding);
     m_content->setSpacing(12);
     m_content->addLayout(header);
     setSubtitle(subtitle);

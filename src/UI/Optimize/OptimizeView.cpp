@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int cardGap = 18;
+constexpr int optimizeCardGap = 18;
 constexpr int noticeHeight = 48; // as the head of the card behind it
 constexpr auto noticeLifetime = 6s;
 
@@ -38,7 +38,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     , m_mcp(new MCPCard)
     , m_caches(new CachesCard)
     , m_auto(new AutoOptimizeCard) {
-    auto* column = makeScrollingPage(this, Theme::pageMargins, cardGap);
+    auto* column = makeScrollingPage(this, Theme::pageMargins, optimizeCardGap);
     const QList<QWidget*> parts = {m_memory, m_quickKills, m_mcp, m_caches, m_auto};
     for (QWidget* part : parts)
         column->addWidget(part);

@@ -12,24 +12,24 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int tileHeight = 52;
-constexpr int padding = 10;
-constexpr int symbolWidth = 18;
-constexpr int badgeHeight = 18;
-constexpr int badgePadding = 6;
+constexpr int presetTileHeight = 52;
+constexpr int tilePadding = 10;
+constexpr int tileSymbolWidth = 18;
+constexpr int tileBadgeHeight = 18;
+constexpr int tileBadgePadding = 6;
 
 } // namespace
 
 PresetTile::PresetTile(QWidget* parent)
     : QAbstractButton(parent) {
-    setFixedHeight(tileHeight);
+    setFixedHeight(presetTileHeight);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_preset, [this](const auto& preset) { Q_EMIT killRequested(preset); });
 }
 
 QSize PresetTile::sizeHint() const {
-    return {240, tileHeight};
+    return {240, presetTileHeight};
 }
 
 void PresetTile::set(const QuickKillPreset& preset, int matches) {
@@ -51,16 +51,16 @@ void PresetTile::paintEvent(QPaintEvent*) {
                        hits ? Theme::color(Role::red, 0.4) : Theme::color(Role::gray, 0.25));
     Painting::drawFeedback(painter, *this, Theme::cardRadius, 0.6);
 
-    QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
+    QRectF line = QRectF(rect()).adjusted(tilePadding, 0, -tilePadding, 0);
     Symbols::draw(painter, m_preset.symbol, Theme::color(hits ? Role::red : Role::secondaryText),
-                  QRectF(line.left(), 0, symbolWidth, height()), symbolWidth);
-    line.setLeft(line.left() + symbolWidth + padding);
+                  QRectF(line.left(), 0, tileSymbolWidth, height()), tileSymbolWidth);
+    line.setLeft(line.left() + tileSymbolWidth + tilePadding);
     if (hits) {
         const QFont font = Theme::font(TextStyle::caption, QFont::Bold);
         const QString count = QString::number(m_matches);
         const double width =
-            std::max<double>(badgeHeight, Painting::tabularWidth(font, count) + 2 * badgePadding);
-        const QRectF badge(line.right() - width, (height() - badgeHeight) / 2.0, width, badgeHeight);
+            std::max<double>(tileBadgeHeight, Painting::tabularWidth(font, count) + 2 * tileBadgePadding);
+        const QRectF badge(line.right() - width, (height() - tileBadgeHeight) / 2.0, width, tileBadgeHeight);
         Painting::drawBadge(painter, badge, Role::red, font, count);
         line.setRight(badge.left() - Theme::rowSpacing);
     }

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int columns = 2;
+constexpr int tileColumns = 2;
 constexpr int tileGap = 10;
 
 } // namespace
@@ -20,11 +20,11 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
         auto* tile = new PresetTile;
         connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
         const int index = m_grid->count();
-        m_grid->addWidget(tile, index / columns, index % columns);
+        m_grid->addWidget(tile, index / tileColumns, index % tileColumns);
         return tile;
     }) {
     m_grid->setSpacing(tileGap);
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < tileColumns; ++column)
         m_grid->setColumnStretch(column, 1);
     content()->addLayout(m_grid);
 }

@@ -15,9 +15,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 28;
-constexpr int bytesWidth = 80;
-constexpr int pidWidth = 86;
+constexpr int serverRowHeight = 28;
+constexpr int serverBytesWidth = 80;
+constexpr int serverPidWidth = 86;
 constexpr int parentWidth = 170;
 
 QFont monospaced() {
@@ -30,7 +30,7 @@ QFont monospaced() {
 
 ServerRow::ServerRow(QWidget* parent)
     : QWidget(parent) {
-    setFixedHeight(rowHeight);
+    setFixedHeight(serverRowHeight);
     auto* quit = new IconButton(QStringLiteral("stop.circle"), tr("Quit"));
     m_buttonWidth = quit->width();
     actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
@@ -59,12 +59,12 @@ void ServerRow::paintEvent(QPaintEvent*) {
     QRectF line = rect();
     Painting::takeRight(line, m_buttonWidth);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
-    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, serverBytesWidth), Qt::AlignRight,
                           Formatters::bytes(m_server.rssBytes));
     painter.setPen(Theme::color(Role::secondaryText));
     Painting::drawElided(painter, Painting::takeRight(line, parentWidth), Qt::ElideRight,
                          tr("parent: %1").arg(Formatters::visible(m_server.parentName)));
-    Painting::drawTabular(painter, Painting::takeRight(line, pidWidth), Qt::AlignLeft,
+    Painting::drawTabular(painter, Painting::takeRight(line, serverPidWidth), Qt::AlignLeft,
                           tr("PID %1").arg(m_server.pid));
 
     constexpr int symbolSize = 12;

@@ -8,8 +8,8 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int padding = 10;
-constexpr int minWidth = 92;
+constexpr int statPadding = 10;
+constexpr int minStatWidth = 92;
 constexpr double letterSpacing = 0.5;
 
 QFont labelFont() {
@@ -41,13 +41,13 @@ void StatBox::set(const QString& value, Theme::Role role) {
 
 QSize StatBox::sizeHint() const {
     const int heights = QFontMetrics(labelFont()).height() + QFontMetrics(valueFont()).height();
-    return {minWidth, heights + Theme::textGap + 2 * padding};
+    return {minStatWidth, heights + Theme::textGap + 2 * statPadding};
 }
 
 void StatBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1));
-    QRectF area = QRectF(rect()).adjusted(padding, padding, -padding, -padding);
+    QRectF area = QRectF(rect()).adjusted(statPadding, statPadding, -statPadding, -statPadding);
     const double labelHeight = QFontMetricsF(labelFont()).height();
     painter.setFont(labelFont());
     painter.setPen(Theme::color(Theme::Role::secondaryText));

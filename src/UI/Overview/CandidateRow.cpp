@@ -12,9 +12,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 42;
+constexpr int candidateRowHeight = 42;
 constexpr int boxSide = 16;
-constexpr int bytesWidth = 72;
+constexpr int candidateBytesWidth = 72;
 constexpr int idleWidth = 52;
 constexpr double tickedOpacity = 0.12;
 
@@ -42,14 +42,14 @@ QString givesBack(const FreeRamPreview& candidate) {
 CandidateRow::CandidateRow(QWidget* parent)
     : QAbstractButton(parent) {
     setCheckable(true);
-    setFixedHeight(rowHeight);
+    setFixedHeight(candidateRowHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_candidate.pid, [this](qint32 pid) { Q_EMIT ticked(pid); });
 }
 
 QSize CandidateRow::sizeHint() const {
-    return {400, rowHeight};
+    return {400, candidateRowHeight};
 }
 
 void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
@@ -92,7 +92,7 @@ void CandidateRow::paintEvent(QPaintEvent*) {
     QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
     drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
     line.setLeft(line.left() + boxSide + 10);
-    QRectF figures = Painting::takeRight(line, bytesWidth + idleWidth);
+    QRectF figures = Painting::takeRight(line, candidateBytesWidth + idleWidth);
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
     Painting::drawTabular(painter, lowerHalf(figures), Qt::AlignRight, givesBack(m_candidate));
     figures = upperHalf(figures);

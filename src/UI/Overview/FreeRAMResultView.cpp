@@ -16,17 +16,17 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 22;
+constexpr int resultRowHeight = 22;
 constexpr int maxRowsShown = 5;
 
-struct Look {
+struct ResultLook {
     QString symbol;
     Role role;
     QString text;
 };
 
-Look lookOf(KillOutcome outcome) {
-    const Look looks[] = {
+ResultLook lookOf(KillOutcome outcome) {
+    const ResultLook looks[] = {
         {QStringLiteral("checkmark.circle.fill"), Role::green, FreeRAMResultView::tr("Quit")},
         {QStringLiteral("bolt.fill"), Role::orange, FreeRAMResultView::tr("Force-killed")},
         {QStringLiteral("questionmark.circle.fill"), Role::yellow,
@@ -42,7 +42,7 @@ public:
         : m_look(lookOf(record.outcome))
         , m_name(Formatters::visible(record.name))
         , m_pid(QStringLiteral("(%1)").arg(record.pid)) {
-        setFixedHeight(rowHeight);
+        setFixedHeight(resultRowHeight);
         setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_pid, m_look.text));
     }
 
@@ -70,7 +70,7 @@ protected:
     }
 
 private:
-    Look m_look;
+    ResultLook m_look;
     QString m_name;
     QString m_pid;
 };
@@ -122,6 +122,6 @@ void FreeRAMResultView::set(const FreeRAMResult& result) {
         m_rowsLayout->addWidget(m_rows.last());
     }
     const auto shown = std::min<qsizetype>(m_rows.size(), maxRowsShown);
-    m_area->setFixedHeight(static_cast<int>(shown) * rowHeight);
+    m_area->setFixedHeight(static_cast<int>(shown) * resultRowHeight);
     m_area->setVisible(!m_rows.isEmpty());
 }

@@ -28,7 +28,7 @@ namespace {
 constexpr QSize sheetSize(560, 660);
 constexpr double initialMinIdle = 10; // minutes
 constexpr double initialMinRSS = 300; // MiB
-constexpr int sliderWidth = 200;
+constexpr int thresholdSliderWidth = 200;
 constexpr qsizetype preselected = 5;
 
 } // namespace
@@ -36,8 +36,8 @@ constexpr qsizetype preselected = 5;
 FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     : QDialog(parent)
     , m_model(model)
-    , m_minIdle(new LabeledSlider(tr("Min idle: %1 min"), {0, 60, 1}, initialMinIdle, sliderWidth))
-    , m_minRSS(new LabeledSlider(tr("Min RAM: %1 MB"), {50, 2000, 50}, initialMinRSS, sliderWidth))
+    , m_minIdle(new LabeledSlider(tr("Min idle: %1 min"), {0, 60, 1}, initialMinIdle, thresholdSliderWidth))
+    , m_minRSS(new LabeledSlider(tr("Min RAM: %1 MB"), {50, 2000, 50}, initialMinRSS, thresholdSliderWidth))
     , m_others(new QCheckBox(tr("Other programs too")))
     , m_stack(new QStackedWidget)
     , m_rows([this] {

@@ -18,13 +18,13 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int headerHeight = 44;
+constexpr int groupHeaderHeight = 44;
 constexpr int labelWidth = 230;
-constexpr int bytesWidth = 84;
-constexpr int cpuWidth = 84;
+constexpr int groupBytesWidth = 84;
+constexpr int groupCpuWidth = 84;
 constexpr int chevronWidth = 16;
-constexpr int chevronSize = 12;
-constexpr int barHeight = 6;
+constexpr int groupChevronSize = 12;
+constexpr int groupBarHeight = 6;
 constexpr int columnGap = 12;
 
 } // namespace
@@ -32,7 +32,7 @@ constexpr int columnGap = 12;
 GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     : QAbstractButton(parent) {
     m_rollup.group = group;
-    setFixedHeight(headerHeight);
+    setFixedHeight(groupHeaderHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
@@ -40,7 +40,7 @@ GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
 }
 
 QSize GroupHeader::sizeHint() const {
-    return {labelWidth + bytesWidth + cpuWidth, headerHeight};
+    return {labelWidth + groupBytesWidth + groupCpuWidth, groupHeaderHeight};
 }
 
 void GroupHeader::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded) {
@@ -83,20 +83,21 @@ void GroupHeader::paintEvent(QPaintEvent*) {
     const auto secondary = Theme::color(Role::secondaryText);
     const auto chevron = m_expanded ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
     Symbols::draw(painter, chevron, secondary, Painting::takeRight(line, chevronWidth, columnGap),
-                  chevronSize);
+                  groupChevronSize);
 
     painter.setFont(Theme::font(TextStyle::caption));
     painter.setPen(secondary);
     const auto cpu = tr("• %1 CPU").arg(Formatters::percent(m_rollup.cpuPercent));
-    Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth, columnGap), Qt::AlignRight, cpu);
+    Painting::drawTabular(painter, Painting::takeRight(line, groupCpuWidth, columnGap), Qt::AlignRight, cpu);
 
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
-    Painting::drawTabular(painter, Painting::takeRight(line, bytesWidth, columnGap), Qt::AlignRight,
+    Painting::drawTabular(painter, Painting::takeRight(line, groupBytesWidth, columnGap), Qt::AlignRight,
                           m_rollup.memory.text());
 
     paintLabel(painter, QRectF(line.left(), line.top(), labelWidth, line.height()));
     line.setLeft(line.left() + labelWidth + columnGap);
-    const QRectF bar(line.left(), qRound(line.center().y() - barHeight / 2.0), line.width(), barHeight);
+    const QRectF bar(line.left(), qRound(line.center().y() - groupBarHeight / 2.0), line.width(),
+                     groupBarHeight);
     Painting::drawProgress(painter, bar, m_share, Theme::color(Role::accent));
 
     if (hasFocus())

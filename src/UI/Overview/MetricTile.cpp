@@ -13,14 +13,14 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int tileHeight = 130;
+constexpr int metricTileHeight = 130;
 
 } // namespace
 
 MetricTile::MetricTile(QWidget* parent)
     : QWidget(parent)
     , m_sparkline(new Sparkline(this)) {
-    setMinimumHeight(tileHeight);
+    setMinimumHeight(metricTileHeight);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding,
                                Theme::cardPadding);

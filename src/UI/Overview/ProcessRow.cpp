@@ -15,16 +15,16 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int rowHeight = 26;
-constexpr int pidWidth = 60;
-constexpr int cpuWidth = 50;
+constexpr int processRowHeight = 26;
+constexpr int processPidWidth = 60;
+constexpr int processCpuWidth = 50;
 constexpr int memoryWidth = 80;
 
 } // namespace
 
 ProcessRow::ProcessRow(QWidget* parent)
     : QWidget(parent) {
-    setFixedHeight(rowHeight);
+    setFixedHeight(processRowHeight);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, Theme::cardPadding, 0);
     row->setSpacing(Theme::textGap);
@@ -67,12 +67,12 @@ void ProcessRow::paintEvent(QPaintEvent*) {
     Painting::takeRight(line, m_buttonsWidth);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, memoryWidth), Qt::AlignRight, m_memory);
-    Painting::drawTabular(painter, Painting::takeRight(line, cpuWidth), Qt::AlignRight, m_cpu);
+    Painting::drawTabular(painter, Painting::takeRight(line, processCpuWidth), Qt::AlignRight, m_cpu);
 
     painter.setPen(Theme::color(Role::secondaryText));
     Painting::drawTabular(painter, line, Qt::AlignLeft, QString::number(m_process.pid));
 
-    line.setLeft(line.left() + pidWidth);
+    line.setLeft(line.left() + processPidWidth);
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
     Painting::drawElided(painter, line, Qt::ElideMiddle, m_name);
 }

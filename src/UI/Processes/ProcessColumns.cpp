@@ -60,7 +60,7 @@ template <auto figure> QString sumOf(const Row& row) {
     return Formatters::bytes(sum);
 }
 
-constexpr ProcessColumn columns[] = {
+constexpr ProcessColumn processColumns[] = {
     {.id = u"name",
      .title = QT_TRANSLATE_NOOP("Columns", "Name"),
      .text = [](const Row& row) { return Formatters::visible(row.first.name); },
@@ -140,7 +140,7 @@ constexpr ProcessColumn columns[] = {
 
 QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped, const QStringList& chosen) {
     QList<const ProcessColumn*> result;
-    for (const ProcessColumn& column : columns) {
+    for (const ProcessColumn& column : processColumns) {
         const bool isHidden = column.isOptional && !chosen.contains(column.id);
         if (!isHidden && (isGrouped ? column.isInGrouped : column.isInFlat))
             result.append(&column);
@@ -150,7 +150,7 @@ QList<const ProcessColumn*> ProcessColumns::shown(bool isGrouped, const QStringL
 
 QList<const ProcessColumn*> ProcessColumns::optional() {
     QList<const ProcessColumn*> result;
-    for (const ProcessColumn& column : columns) {
+    for (const ProcessColumn& column : processColumns) {
         if (column.isOptional)
             result.append(&column);
     }
@@ -159,7 +159,7 @@ QList<const ProcessColumn*> ProcessColumns::optional() {
 
 QList<const ProcessColumn*> ProcessColumns::sortable() {
     QList<const ProcessColumn*> result;
-    for (const ProcessColumn& column : columns) {
+    for (const ProcessColumn& column : processColumns) {
         if (column.order.sort)
             result.append(&column);
     }
@@ -168,6 +168,6 @@ QList<const ProcessColumn*> ProcessColumns::sortable() {
 }
 
 const ProcessColumn* ProcessColumns::withId(QStringView id) {
-    const auto* found = std::ranges::find(columns, id, &ProcessColumn::id);
-    return found == std::ranges::end(columns) ? nullptr : found;
+    const auto* found = std::ranges::find(processColumns, id, &ProcessColumn::id);
+    return found == std::ranges::end(processColumns) ? nullptr : found;
 }

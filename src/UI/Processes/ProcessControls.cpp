@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int sliderWidth = 140;
+constexpr int filterSliderWidth = 140;
 
 } // namespace
 
@@ -24,7 +24,8 @@ ProcessControls::ProcessControls(QWidget* parent)
     , m_search(new SearchField(tr("Search name or path")))
     , m_group(new PopUpButton(tr("Group")))
     , m_sort(new PopUpButton(tr("Sort")))
-    , m_minRSS(new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, sliderWidth))
+    , m_minRSS(
+          new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, filterSliderWidth))
     , m_fold(new QCheckBox(tr("Group duplicates"))) {
     m_group->addItem(tr("All"));
     for (const ProcGroup group : allCases<ProcGroup>())

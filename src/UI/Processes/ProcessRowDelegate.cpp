@@ -18,18 +18,18 @@ namespace {
 
 using Kind = ProcessColumn::Kind;
 
-constexpr int padding = 8;
+constexpr int cellPadding = 8;
 constexpr int buttonSide = ProcessColumn::buttonSide;
 constexpr int buttonSymbol = 17;
-constexpr int badgeHeight = 14;
-constexpr int badgePadding = 5;
+constexpr int rowBadgeHeight = 14;
+constexpr int rowBadgePadding = 5;
 
 const ProcessTableModel& modelOf(const QModelIndex& index) {
     return *static_cast<const ProcessTableModel*>(index.model());
 }
 
 QRect buttonRect(const QRect& cell, int position) {
-    return {cell.left() + padding / 2 + position * buttonSide, cell.center().y() - buttonSide / 2 + 1,
+    return {cell.left() + cellPadding / 2 + position * buttonSide, cell.center().y() - buttonSide / 2 + 1,
             buttonSide, buttonSide};
 }
 
@@ -62,14 +62,14 @@ void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const Q
 QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, qsizetype count) {
     const QString text = QStringLiteral("×%1").arg(count);
     const QFont font = Theme::font(TextStyle::caption2, QFont::Bold);
-    const double width = Painting::tabularWidth(font, text) + 2 * badgePadding;
+    const double width = Painting::tabularWidth(font, text) + 2 * rowBadgePadding;
     const double nameWidth = QFontMetricsF(painter.font()).horizontalAdvance(name) + 1;
-    const double left = std::min(area.left() + nameWidth + padding, area.right() - width);
-    const QRectF badge(left, area.center().y() - badgeHeight / 2.0, width, badgeHeight);
+    const double left = std::min(area.left() + nameWidth + cellPadding, area.right() - width);
+    const QRectF badge(left, area.center().y() - rowBadgeHeight / 2.0, width, rowBadgeHeight);
     painter.save();
     Painting::drawBadge(painter, badge, Role::orange, font, text);
     painter.restore();
-    area.setRight(left - padding / 2.0);
+    area.setRight(left - cellPadding / 2.0);
     return area;
 }
 
@@ -78,7 +78,7 @@ void paintName(QPainter& painter, QRectF area, const ProcessTableModel& model, c
     if (model.isGrouped()) {
         const QRectF icon(area.left(), area.top(), Theme::iconSize, area.height());
         Symbols::draw(painter, groupSymbol(row.first.group), Theme::color(Role::secondaryText), icon, 15);
-        area.setLeft(icon.right() + padding);
+        area.setLeft(icon.right() + cellPadding);
         if (row.processes.size() > 1)
             area = paintBadge(painter, area, text, row.processes.size());
     }
@@ -115,7 +115,7 @@ void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         return;
     }
     const QString text = index.data(Qt::DisplayRole).toString();
-    const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
+    const QRectF area = QRectF(option.rect).adjusted(cellPadding, 0, -cellPadding, 0);
     Painting::setTextStyle(*painter, TextStyle::callout, column.role);
     if (column.kind == Kind::name)
         paintName(*painter, area, model, model.row(index.row()), text);

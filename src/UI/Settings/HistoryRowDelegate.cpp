@@ -21,10 +21,10 @@ namespace {
 
 using Column = HistoryTableModel::Column;
 
-constexpr int padding = 8;
-constexpr int rowHeight = 26;
+constexpr int historyPadding = 8;
+constexpr int historyRowHeight = 26;
 constexpr int okWidth = 40;
-constexpr int symbolSize = 14;
+constexpr int historySymbolSize = 14;
 /// Of a detail, which may be a megabyte long. This is more than any window is wide.
 constexpr qsizetype maxPainted = 2000;
 constexpr qsizetype maxInToolTip = 4000;
@@ -58,7 +58,7 @@ double maxTimeWidth() {
 void paintOutcome(QPainter& painter, const QRectF& area, bool success) {
     Symbols::draw(painter,
                   success ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("xmark.octagon.fill"),
-                  Theme::color(success ? Role::green : Role::red), area, symbolSize);
+                  Theme::color(success ? Role::green : Role::red), area, historySymbolSize);
 }
 
 } // namespace
@@ -66,12 +66,13 @@ void paintOutcome(QPainter& painter, const QRectF& area, bool success) {
 int HistoryRowDelegate::widthOf(Column column) {
     switch (column) {
     case Column::time:
-        return qRound(maxTimeWidth()) + 1 + 2 * padding;
+        return qRound(maxTimeWidth()) + 1 + 2 * historyPadding;
     case Column::kind:
         return qRound(QFontMetricsF(fontOf(column)).horizontalAdvance(QStringLiteral("forceKill"))) + 1 +
-               2 * padding;
+               2 * historyPadding;
     case Column::freed:
-        return qRound(Painting::tabularWidth(fontOf(column), QStringLiteral("1023.9 MB"))) + 1 + 2 * padding;
+        return qRound(Painting::tabularWidth(fontOf(column), QStringLiteral("1023.9 MB"))) + 1 +
+               2 * historyPadding;
     case Column::ok:
         return okWidth;
     case Column::detail:
@@ -90,7 +91,7 @@ void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         return;
     }
     const QString text = index.data(Qt::DisplayRole).toString();
-    const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
+    const QRectF area = QRectF(option.rect).adjusted(historyPadding, 0, -historyPadding, 0);
     painter->setFont(fontOf(column));
     painter->setPen(Theme::color(column == Column::time || column == Column::kind ? Role::secondaryText
                                                                                   : Role::primaryText));
@@ -101,7 +102,7 @@ void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 }
 
 QSize HistoryRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
-    return {okWidth, rowHeight};
+    return {okWidth, historyRowHeight};
 }
 
 bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
@@ -111,7 +112,7 @@ bool HistoryRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const QString text = index.data(Qt::DisplayRole).toString();
     const QFontMetricsF metrics(fontOf(columnOf(index)));
     const bool isWhole = columnOf(index) == Column::ok || metrics.horizontalAdvance(text.left(maxPainted)) <=
-                                                              option.rect.width() - 2 * padding;
+                                                              option.rect.width() - 2 * historyPadding;
     const QString shown = text.size() > maxInToolTip ? text.left(maxInToolTip) + u'…' : text;
     QToolTip::showText(event->globalPos(), isWhole ? QString() : Formatters::toolTip(shown), view);
     return true;

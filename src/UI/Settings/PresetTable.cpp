@@ -20,33 +20,33 @@ using Theme::TextStyle;
 
 namespace {
 
-using Column = PresetTableModel::Column;
-
-constexpr int rowHeight = 32;
-constexpr int padding = 8;
-constexpr int symbolSize = 16;
+constexpr int presetRowHeight = 32;
+constexpr int presetPadding = 8;
+constexpr int presetSymbolSize = 16;
 
 class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {40, rowHeight}; }
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return {40, presetRowHeight};
+    }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         TableView::paintGround(*painter, option);
         const QString text = index.data(Qt::DisplayRole).toString();
-        const QRectF area = QRectF(option.rect).adjusted(padding, 0, -padding, 0);
+        const QRectF area = QRectF(option.rect).adjusted(presetPadding, 0, -presetPadding, 0);
         const int column = index.column();
-        if (column == Column::symbol || column == Column::force) {
-            const QRectF symbolArea(area.left(), area.top(), symbolSize, area.height());
-            const Role tint =
-                text == u"bolt.fill" && column == Column::force ? Role::orange : Role::secondaryText;
-            Symbols::draw(*painter, text, Theme::color(tint), symbolArea, symbolSize);
+        if (column == PresetTableModel::symbol || column == PresetTableModel::force) {
+            const QRectF symbolArea(area.left(), area.top(), presetSymbolSize, area.height());
+            const Role tint = text == u"bolt.fill" && column == PresetTableModel::force ? Role::orange
+                                                                                        : Role::secondaryText;
+            Symbols::draw(*painter, text, Theme::color(tint), symbolArea, presetSymbolSize);
             return;
         }
         Painting::setTextStyle(*painter, TextStyle::callout,
-                               column == Column::name ? Role::primaryText : Role::secondaryText);
+                               column == PresetTableModel::name ? Role::primaryText : Role::secondaryText);
         const bool isFigure = PresetTableModel::column(column).alignment == Qt::AlignRight;
         if (isFigure && Painting::tabularWidth(painter->font(), text) <= area.width())
             Painting::drawTabular(*painter, area, Qt::AlignRight, text);
@@ -66,7 +66,7 @@ PresetTable::PresetTable(QWidget* parent)
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
         header()->resizeSection(column, PresetTableModel::column(column).width);
     }
-    header()->setSectionResizeMode(Column::name, QHeaderView::Stretch); // takes the remaining width
+    header()->setSectionResizeMode(PresetTableModel::name, QHeaderView::Stretch); // takes the remaining width
 }
 
 void PresetTable::show(const QList<QuickKillPreset>& presets) {
@@ -104,7 +104,7 @@ void PresetTable::addButtons(int row) {
         buttons->addWidget(button);
     }
     buttons->addStretch();
-    setIndexWidget(m_rows->index(row, Column::actions), cell);
+    setIndexWidget(m_rows->index(row, PresetTableModel::actions), cell);
 }
 
 const QuickKillPreset* PresetTable::preset(const QModelIndex& index) const {

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int sheetWidth = 540;
 constexpr int fieldWidth = 220;
-constexpr int symbolSize = 20;
+constexpr int editorSymbolSize = 20;
 
 } // namespace
 
@@ -27,7 +27,7 @@ QuickKillEditorSheet::QuickKillEditorSheet(const QString& title, const QuickKill
     : QDialog(parent)
     , m_preset(preset)
     , m_onSave(std::move(onSave))
-    , m_symbol(new SymbolView(symbolSize, Theme::iconColumn))
+    , m_symbol(new SymbolView(editorSymbolSize, Theme::iconColumn))
     , m_save(new PushButton(tr("Save"), PushButton::Look::prominent)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);

@@ -18,14 +18,14 @@
 namespace {
 
 constexpr QSize windowSize(640, 460);
-constexpr int barHeight = 62;
+constexpr int tabBarHeight = 62;
 
 /// Names of symbols, in the order of SettingsScene::Tab.
-constexpr QStringView symbols[] = {u"gear", u"waveform", u"bell", u"xmark.octagon",
-                                   u"clock.arrow.circlepath"};
+constexpr QStringView tabSymbols[] = {u"gear", u"waveform", u"bell", u"xmark.octagon",
+                                      u"clock.arrow.circlepath"};
 
 QString tabSymbol(SettingsScene::Tab tab) {
-    return symbols[static_cast<std::size_t>(tab)].toString();
+    return tabSymbols[static_cast<std::size_t>(tab)].toString();
 }
 
 } // namespace
@@ -37,7 +37,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWi
     setWindowTitle(tr("Tavrin Settings"));
     setFixedSize(windowSize);
     auto* bar = new QWidget;
-    bar->setFixedHeight(barHeight);
+    bar->setFixedHeight(tabBarHeight);
     bar->setLayout(m_row);
     bar->setAccessibleName(tr("Tabs"));
     m_row->setContentsMargins(0, 0, 0, 1);
@@ -95,7 +95,7 @@ void SettingsScene::addActions() {
 
 void SettingsScene::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRect bar(0, 0, width(), barHeight);
+    const QRect bar(0, 0, width(), tabBarHeight);
     painter.fillRect(bar, Theme::color(Theme::Role::sidebarFill));
     painter.fillRect(0, bar.bottom(), width(), 1, Theme::color(Theme::Role::separator));
 }

@@ -11,10 +11,10 @@ using Theme::Role;
 
 namespace {
 
-constexpr int minWidth = 72;
-constexpr int padding = 10;
+constexpr int minTabWidth = 72;
+constexpr int tabPadding = 10;
 constexpr int tabHeight = 50;
-constexpr int symbolSize = 20;
+constexpr int tabSymbolSize = 20;
 constexpr int symbolTop = 5;
 constexpr int labelHeight = 20;
 
@@ -32,7 +32,7 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
 }
 
 QSize TabButton::sizeHint() const {
-    return {std::max(minWidth, fontMetrics().horizontalAdvance(text()) + 2 * padding), tabHeight};
+    return {std::max(minTabWidth, fontMetrics().horizontalAdvance(text()) + 2 * tabPadding), tabHeight};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {
@@ -44,7 +44,7 @@ void TabButton::paintEvent(QPaintEvent*) {
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
     const QColor ink = Theme::color(isChecked() ? Role::accent : Role::secondaryText);
-    Symbols::draw(painter, m_symbol, ink, QRectF(0, symbolTop, width(), symbolSize), symbolSize);
+    Symbols::draw(painter, m_symbol, ink, QRectF(0, symbolTop, width(), tabSymbolSize), tabSymbolSize);
     painter.setFont(font());
     painter.setPen(ink);
     painter.drawText(QRectF(0, height() - labelHeight - 3, width(), labelHeight), Qt::AlignCenter, text());

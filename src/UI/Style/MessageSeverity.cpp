@@ -6,16 +6,16 @@ namespace MessageSeverity {
 
 namespace {
 
-struct Look {
+struct SeverityLook {
     QStringView symbol;
     Theme::Role role;
 };
 
 /// In the order of Severity.
-constexpr Look looks[] = {{u"info.circle.fill", Theme::Role::blue},
-                          {u"exclamationmark.triangle.fill", Theme::Role::orange},
-                          {u"arrow.down.circle.fill", Theme::Role::accent},
-                          {u"sparkles", Theme::Role::lime}};
+constexpr SeverityLook looks[] = {{u"info.circle.fill", Theme::Role::blue},
+                                  {u"exclamationmark.triangle.fill", Theme::Role::orange},
+                                  {u"arrow.down.circle.fill", Theme::Role::accent},
+                                  {u"sparkles", Theme::Role::lime}};
 
 /// Returns whether the action button is filled with the severity's colour in full.
 bool isSolid(Severity severity) {

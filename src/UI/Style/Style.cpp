@@ -27,7 +27,7 @@ constexpr int sliderTrackHeight = 4;
 constexpr int thumbInset = 3;
 constexpr int minThumbLength = 36;
 constexpr int sectionPadding = 8;
-constexpr int chevronSize = 10;
+constexpr int sortChevronSize = 10;
 
 /// Returns whether the widget is in a window of the program, also in the panel of the tray.
 bool isInOurWindow(const QWidget* widget) {
@@ -171,7 +171,7 @@ void drawChevron(QPainter& painter, const QRectF& area, bool isUp) {
         painter.translate(-area.center());
     }
     Symbols::draw(painter, QStringLiteral("chevron.down"), Theme::color(Role::primaryText), area,
-                  chevronSize);
+                  sortChevronSize);
     painter.restore();
 }
 
@@ -182,7 +182,7 @@ void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
     painter.setPen(Theme::color(isSorted ? Role::primaryText : Role::secondaryText));
     const QRectF area = section.rect;
     const double width = QFontMetricsF(painter.font()).horizontalAdvance(section.text);
-    const double room = isSorted ? chevronSize + 2 : 0;
+    const double room = isSorted ? sortChevronSize + 2 : 0;
     // A narrow column has less padding.
     const double inset = std::clamp((area.width() - width - room) / 2, 2.0, double(sectionPadding));
     QRectF line = area.adjusted(inset, 0, -inset, 0);
@@ -191,8 +191,8 @@ void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
     else if (section.textAlignment & Qt::AlignHCenter)
         line.setLeft(std::max(line.left(), line.center().x() - (width + room) / 2));
     Painting::drawElided(painter, line.adjusted(0, 0, 1 - room, 0), Qt::ElideRight, section.text);
-    const QRectF chevron(std::min(line.left() + width + 2, line.right() - chevronSize), area.top(),
-                         chevronSize, area.height());
+    const QRectF chevron(std::min(line.left() + width + 2, line.right() - sortChevronSize), area.top(),
+                         sortChevronSize, area.height());
     if (isSorted)
         drawChevron(painter, chevron, section.sortIndicator == QStyleOptionHeader::SortDown);
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+class Camera;
+
+// Each takes the pictures of a part of the program.
+
+void shootSections(Camera& camera);
+void shootFreeRAM(Camera& camera);
+void shootPanels(Camera& camera);
+void shootHistory(Camera& camera);
+void shootBanners(Camera& camera);
+void shootSettings(Camera& camera);
+void shootSheets(Camera& camera);

@@ -1,0 +1,69 @@
+#include "Camera.h"
+#include "Screens.h"
+
+#include "UI/Style/FigureIcon.h"
+#include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
+#include "UI/Style/Theme.h"
+
+#include <QApplication>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPixmap blank(QSize size, double ratio) {
+    QPixmap sheet(size * ratio);
+    sheet.setDevicePixelRatio(ratio);
+    sheet.fill(Theme::color(Theme::Role::windowFill));
+    return sheet;
+}
+
+/// Returns every symbol at 16, 24 and 48 points with its name.
+QPixmap contactSheet(double ratio) {
+    constexpr int columns = 5;
+    constexpr QSize cell(250, 92);
+    const QStringList names = Symbols::names();
+    const int rows = (static_cast<int>(names.size()) + columns - 1) / columns;
+    QPixmap sheet = blank(QSize(columns * cell.width(), rows * cell.height()), ratio);
+    QPainter painter(&sheet);
+    Painting::setTextStyle(painter, Theme::TextStyle::caption, Theme::Role::secondaryText);
+    const QColor ink = Theme::color(Theme::Role::primaryText);
+    for (int i = 0; i < names.size(); ++i) {
+        const QPoint corner(i % columns * cell.width() + 12, i / columns * cell.height() + 8);
+        int x = corner.x();
+        for (const int size : {16, 24, 48}) {
+            Symbols::draw(painter, names[i], ink, QRectF(x, corner.y(), size, 48), size);
+            x += size + 16;
+        }
+        painter.drawText(QPoint(corner.x(), corner.y() + 70), names[i]);
+    }
+    return sheet;
+}
+
+/// Returns the tray icons on a light or a dark tray, at their real sizes and enlarged.
+QPixmap traySheet(double ratio) {
+    const QList<QStringList> contents{{}, {u"7"_s}, {u"100"_s}, {u"23"_s, u"61"_s}, {u"100"_s, u"99"_s}};
+    QPixmap sheet = blank(QSize(760, 300), ratio);
+    QPainter painter(&sheet);
+    int x = 16;
+    for (const QStringList& figures : contents) {
+        const QIcon icon = FigureIcon::make(figures);
+        painter.drawPixmap(x, 16, icon.pixmap(22));
+        painter.drawPixmap(x + 30, 16, icon.pixmap(44));
+        painter.drawPixmap(x, 80, icon.pixmap(22).scaled(132, 132));
+        x += 148;
+    }
+    return sheet;
+}
+
+} // namespace
+
+void shootSheets(Camera& camera) {
+    for (const bool dark : {false, true}) {
+        Theme::apply(dark);
+        camera.save(contactSheet(qApp->devicePixelRatio()), u"symbols"_s, dark);
+        camera.save(traySheet(qApp->devicePixelRatio()), u"tray"_s, dark);
+    }
+}
