@@ -100,7 +100,6 @@ TEST_F(SweepTest, TheProcessesInATerminalAreNamed) {
 }
 
 TEST_F(SweepTest, AControlGroupOfItsOwnSaysWhatComesBack) {
-    constexpr quint64 MiB = 1 << 20;
     add(1, "app", 90 * MiB);
     add(2, "app", 80 * MiB);
     tick();

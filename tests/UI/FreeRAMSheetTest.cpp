@@ -123,7 +123,7 @@ TEST_F(FreeRAMSheetTest, SaysWhatComesBackBeforeAndAfter) {
     addIdle(1);
     fakes.processMemory->all[100] = {.proportionalBytes = 390 * MiB,
                                      .uniqueBytes = 320 * MiB,
-                                     .uniqueDirtyBytes = 299 * MiB,
+                                     .uniqueDirtyBytes = 300 * MiB - 400 * MiB / 512,
                                      .proportionalSwapBytes = 20 * MiB};
     open();
     for (int i = 0; i < 5; ++i) {

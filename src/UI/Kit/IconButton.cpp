@@ -18,7 +18,7 @@ IconButton::IconButton(const QString& symbol, const QString& help, Role tint, QW
     : QToolButton(parent)
     , m_tint(tint) {
     setIcon(Symbols::icon(symbol));
-    setIconSize({symbolSize, symbolSize});
+    setIconSize({iconSymbolSize, iconSymbolSize});
     setToolTip(help);
     setAccessibleName(help);
     setFixedSize(side, side);
