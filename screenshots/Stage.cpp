@@ -100,6 +100,7 @@ void Stage::play(int ticks, double load, double usedGB) {
         fakes.clock->advance(2);
         for (FakeProcess& process : fakes.processes->processes)
             process.task->cpuTimeNs += m_cpuTimePerTick[process.name];
+        model.memoryLedger().wantAll();
         QMetaObject::invokeMethod(&model, "tick");
         model.memoryLedger().waitForSlice();
     }
