@@ -1,5 +1,6 @@
 #include "Core/Memory/MemoryLedger.h"
 
+#include "support/Bytes.h"
 #include "support/Each.h"
 #include "support/FakePlatform.h"
 
@@ -10,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint64 MiB = 1 << 20;
 constexpr auto perMiB = 20us;
 
 using MemoryPlan::Process;

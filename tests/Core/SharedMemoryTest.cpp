@@ -3,13 +3,13 @@
 #include "Core/Memory/MemoryReturn.h"
 #include "Core/Memory/SummedMemory.h"
 
+#include "support/Bytes.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr quint64 MiB = 1 << 20;
 
 std::shared_ptr<const MemoryFigures> figures(const ProcessMemoryUse& use, bool isRefused = false) {
     return std::make_shared<const MemoryFigures>(

@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxProcessMemory.h"
 
 #include "Platform/Child.h"
+#include "support/Bytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,8 +18,6 @@
 #include <vector>
 
 namespace {
-
-constexpr quint64 MiB = 1 << 20;
 
 char* touched(size_t bytes) {
     void* area = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);

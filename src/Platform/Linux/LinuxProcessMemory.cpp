@@ -21,7 +21,7 @@ std::chrono::nanoseconds threadTime() {
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-std::optional<quint64> bytesOf(std::string_view text, std::string_view key) {
+std::optional<quint64> lineBytes(std::string_view text, std::string_view key) {
     const auto kib = numberOf(text, key);
     return kib ? std::optional(*kib * 1024) : std::nullopt;
 }
@@ -60,21 +60,21 @@ LinuxProcessMemory::LinuxProcessMemory(const std::string& root, const std::strin
     , m_controlGroups(controlGroups) {}
 
 ProcessMemoryUse LinuxProcessMemory::parseRollup(std::string_view text) {
-    const auto dirty = bytesOf(text, "Pss_Dirty:");
-    const auto uniqueDirty = bytesOf(text, "Private_Dirty:");
-    return {.proportionalBytes = bytesOf(text, "Pss:"),
+    const auto dirty = lineBytes(text, "Pss_Dirty:");
+    const auto uniqueDirty = lineBytes(text, "Private_Dirty:");
+    return {.proportionalBytes = lineBytes(text, "Pss:"),
             .proportionalDirtyBytes =
-                dirty ? dirty : sum(bytesOf(text, "Pss_Anon:"), bytesOf(text, "Pss_Shmem:")),
-            .uniqueBytes = sum(uniqueDirty, bytesOf(text, "Private_Clean:")),
+                dirty ? dirty : sum(lineBytes(text, "Pss_Anon:"), lineBytes(text, "Pss_Shmem:")),
+            .uniqueBytes = sum(uniqueDirty, lineBytes(text, "Private_Clean:")),
             .uniqueDirtyBytes = uniqueDirty,
-            .dirtyBytes = sum(uniqueDirty, bytesOf(text, "Shared_Dirty:")),
-            .anonymousBytes = bytesOf(text, "Anonymous:"),
-            .swapBytes = bytesOf(text, "Swap:"),
-            .proportionalSwapBytes = bytesOf(text, "SwapPss:")};
+            .dirtyBytes = sum(uniqueDirty, lineBytes(text, "Shared_Dirty:")),
+            .anonymousBytes = lineBytes(text, "Anonymous:"),
+            .swapBytes = lineBytes(text, "Swap:"),
+            .proportionalSwapBytes = lineBytes(text, "SwapPss:")};
 }
 
 ProcessMemoryUse LinuxProcessMemory::parseStatus(std::string_view text) {
-    return {.anonymousBytes = bytesOf(text, "RssAnon:"), .swapBytes = bytesOf(text, "VmSwap:")};
+    return {.anonymousBytes = lineBytes(text, "RssAnon:"), .swapBytes = lineBytes(text, "VmSwap:")};
 }
 
 ProcessMemoryReading LinuxProcessMemory::readAll(qint32 pid) {

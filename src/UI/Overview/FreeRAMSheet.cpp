@@ -57,14 +57,6 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     setWindowTitle(tr("Free RAM"));
     resize(sheetSize);
 
-    auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
-    title->setPlainText(windowTitle());
-    auto* close = new PushButton(tr("Close"));
-    connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    auto* header = new QHBoxLayout;
-    header->addWidget(title, 1);
-    header->addWidget(close);
-
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
     explanation->setPlainText(
         tr("Tick the processes you want to terminate. SIGTERM is sent first; anything still running after "
@@ -77,7 +69,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::sheetMargins);
     column->setSpacing(12);
-    column->addLayout(header);
+    column->addLayout(makeHeader());
     column->addWidget(explanation);
     column->addLayout(makeThresholds());
     column->addWidget(new Divider);
@@ -91,6 +83,17 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     tickFirst(preselected);
     m_action->setFocus();
     observe(&m_model, this, [this] { refresh(); });
+}
+
+QLayout* FreeRAMSheet::makeHeader() {
+    auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
+    title->setPlainText(windowTitle());
+    auto* close = new PushButton(tr("Close"));
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    auto* header = new QHBoxLayout;
+    header->addWidget(title, 1);
+    header->addWidget(close);
+    return header;
 }
 
 QLayout* FreeRAMSheet::makeThresholds() {

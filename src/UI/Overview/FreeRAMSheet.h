@@ -26,6 +26,7 @@ public:
     FreeRAMSheet(AppModel& model, QWidget* parent);
 
 private:
+    QLayout* makeHeader();
     QLayout* makeThresholds();
     QWidget* makeList();
     QLayout* makeSelectionBar();
