@@ -97,6 +97,7 @@ void Stage::play(int ticks, double load, double usedGB) {
         counters.idle += static_cast<quint64>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
         const double used = usedGB - 1.5 * (ticks - i) / ticks + 0.15 * std::sin(i / 11.0);
         fakes.host->memory.activeBytes = static_cast<quint64>(used * double(GiB));
+        fakes.host->memory.programBytes = fakes.host->memory.activeBytes * 9 / 10;
         fakes.clock->advance(2);
         for (FakeProcess& process : fakes.processes->processes)
             process.task->cpuTimeNs += m_cpuTimePerTick[process.name];

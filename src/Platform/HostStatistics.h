@@ -21,6 +21,8 @@ struct MemoryUse {
     quint64 compressedBytes = 0; ///< taken by the compressor
     quint64 swapUsedBytes = 0;
     quint64 totalBytes = 0; ///< physical memory
+    /// Anonymous and shared memory of all programs; the rest of what is used is the kernel's.
+    std::optional<quint64> programBytes = {};
 
     bool operator==(const MemoryUse&) const = default;
 };

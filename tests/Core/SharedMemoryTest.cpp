@@ -100,8 +100,7 @@ TEST(MemoryReturnTest, AnUnreadProcessGivesAtMostWhatIsKnown) {
 TEST(MemoryLineUpTest, ThePartsOfTheUsedMemory) {
     SystemSample sample;
     sample.memUsedBytes = 20 * MiB;
-    sample.memWiredBytes = 4 * MiB;
-    sample.memCompressedBytes = MiB;
+    sample.memProgramBytes = 15 * MiB;
     ProcSample mine = sharing(1, 0);
     mine.uid = 1000;
     ProcSample other{
@@ -111,6 +110,9 @@ TEST(MemoryLineUpTest, ThePartsOfTheUsedMemory) {
     EXPECT_EQ(lineUp.lines(),
               (QStringList{u"Groups 4 MB"_s, u"of these, caches of files −1 MB"_s, u"Other users 2 MB"_s,
                            u"Kernel 5 MB"_s, u"Shared memory and the rest 10 MB"_s, u"Used 20 MB"_s}));
+    SystemSample untold = sample;
+    untold.memProgramBytes.reset();
+    EXPECT_TRUE(MemoryLineUp::of(untold, {mine, other}, 1000).lines().isEmpty());
     other.memory = nullptr;
     EXPECT_TRUE(MemoryLineUp::of(sample, {mine, other}, 1000).lines().isEmpty());
 }

@@ -196,3 +196,11 @@ TEST(HostStatistics, TheThermalLevelIsThatOfTheWorstZone) {
 }
 
 } // namespace
+
+TEST(HostStatistics, TellsWhatProgramsHold) {
+    TemporaryFolder tree;
+    tree.makeFile(u"proc/meminfo"_s, typical + "AnonPages: 300000 kB\nShmem: 20000 kB\n");
+    EXPECT_EQ(LinuxHostStatistics(tree.path()).memoryUse().programBytes, 320000U * 1024);
+    tree.makeFile(u"proc/meminfo"_s, typical + "AnonPages: 300000 kB\n");
+    EXPECT_FALSE(LinuxHostStatistics(tree.path()).memoryUse().programBytes);
+}

@@ -49,6 +49,7 @@ TEST_F(OverviewViewTest, GroupsCountSharedMemoryOnceWhenItIsKnown) {
                                          .proportionalDirtyBytes = quint64(200) << 20,
                                          .anonymousBytes = quint64(200) << 20,
                                          .swapBytes = quint64(10) << 20};
+    fakes.host->memory.programBytes = quint64(500) << 20;
     show();
     model.memoryLedger().waitForSlice();
     fakes.clock->advance(10);

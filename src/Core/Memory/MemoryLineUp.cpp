@@ -21,9 +21,10 @@ QString line(const char* part, quint64 bytes) {
 
 MemoryLineUp MemoryLineUp::of(const SystemSample& sample, const QList<ProcSample>& processes,
                               quint32 userId) {
+    const quint64 programs = sample.memProgramBytes.value_or(0);
     MemoryLineUp lineUp{.usedBytes = sample.memUsedBytes,
-                        .kernelBytes = sample.memWiredBytes + sample.memCompressedBytes,
-                        .isKnown = !processes.isEmpty()};
+                        .kernelBytes = sample.memUsedBytes - std::min(sample.memUsedBytes, programs),
+                        .isKnown = sample.memProgramBytes && !processes.isEmpty()};
     for (const ProcSample& process : processes) {
         const ProcessMemoryUse use = process.memory ? process.memory->use : ProcessMemoryUse();
         const quint64 anonymous = use.anonymousBytes.value_or(0);

@@ -64,6 +64,7 @@ SystemSample Sampler::sample() {
     sample.memUsedBytes = memory.activeBytes + memory.wiredBytes + memory.compressedBytes;
     sample.memWiredBytes = memory.wiredBytes;
     sample.memCompressedBytes = memory.compressedBytes;
+    sample.memProgramBytes = memory.programBytes;
     sample.memTotalBytes = memory.totalBytes;
     sample.swapUsedBytes = memory.swapUsedBytes;
     const VolumeSize root = m_host->rootVolume().value_or(VolumeSize());

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QUuid>
 
+#include <optional>
+
 #include <array>
 
 enum class ThermalState { nominal, fair, serious, critical };
@@ -32,6 +34,7 @@ struct SystemSample {
     quint64 memTotalBytes = 0;
     quint64 memWiredBytes = 0;
     quint64 memCompressedBytes = 0;
+    std::optional<quint64> memProgramBytes = {}; ///< anonymous and shared memory of all programs
     quint64 swapUsedBytes = 0;
     quint64 diskFreeBytes = 0; ///< of the root volume, for an ordinary user
     quint64 diskTotalBytes = 0;

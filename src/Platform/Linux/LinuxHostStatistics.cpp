@@ -48,6 +48,12 @@ quint64 unpageableBytes(std::string_view meminfo) {
     return sum;
 }
 
+std::optional<quint64> programBytes(std::string_view meminfo) {
+    const auto anonymous = numberOf(meminfo, "AnonPages:");
+    const auto shared = numberOf(meminfo, "Shmem:");
+    return anonymous && shared ? std::optional((*anonymous + *shared) * kib) : std::nullopt;
+}
+
 } // namespace
 
 LinuxHostStatistics::LinuxHostStatistics(const QString& root)
@@ -101,7 +107,8 @@ MemoryUse LinuxHostStatistics::memoryUse() {
             .wiredBytes = wired,
             .compressedBytes = compressed,
             .swapUsedBytes = usedBytes(meminfo, "SwapTotal:", "SwapFree:"),
-            .totalBytes = bytesOf(meminfo, "MemTotal:")};
+            .totalBytes = bytesOf(meminfo, "MemTotal:"),
+            .programBytes = programBytes(meminfo)};
 }
 
 quint64 LinuxHostStatistics::zramBytes() const {
