@@ -1,6 +1,6 @@
-// Measures the ledger of true memory with 1,000 sleeping processes and a tick every two seconds of a clock that it
-// moves itself. Standard output has one "NAME VALUE" a line: the processor time of a tick with its slice, on
-// average over ten minutes, and the age of the figures at the end.
+// Measures the ledger of true memory with 1,000 sleeping processes and a tick every two seconds of a clock
+// that it moves itself. Standard output has one "NAME VALUE" a line: the processor time of a tick with its
+// slice, on average over ten minutes, and the age of the figures at the end.
 
 #include "Children.h"
 #include "Core/Memory/MemoryLedger.h"
