@@ -69,13 +69,14 @@ int main(int argc, char** argv) {
         clock->step();
         processes = sampler.sampleProcesses();
         pids = withDescendants(roots, processes);
+        ledger.wantAll(); // what others share with them stays
         ledger.wantAsked(pids);
         ledger.tick(processes);
         ledger.waitForSlice();
         members.clear();
         std::ranges::copy_if(processes, std::back_inserter(members),
                              [&pids](const ProcSample& process) { return pids.contains(process.pid); });
-        isRough = !std::ranges::all_of(members, isRead);
+        isRough = !std::ranges::all_of(processes, isRead);
     }
     const SummedMemory sum = SummedMemory::of(members);
     const MemoryReturn back = MemoryReturn::ofEnding(pids, processes);

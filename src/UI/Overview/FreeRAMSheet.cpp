@@ -155,6 +155,7 @@ void FreeRAMSheet::wantFigures() {
     QList<qint32> listed;
     for (const FreeRamPreview& candidate : m_candidates)
         listed.append(candidate.pid);
+    m_model.memoryLedger().wantAll(); // what others share with the ticked ones stays
     m_model.memoryLedger().wantOnShow(listed);
     m_model.memoryLedger().wantAsked(tickedPids());
 }
