@@ -177,7 +177,7 @@ TEST_F(MemoryLedgerTest, AnotherProcessOfThatPidHasNoFigures) {
 }
 
 TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
-    memory.cost = 10ms;
+    memory.cost = 40ms;
     add(1, 500 * MiB);
     memory.all[1] = {.proportionalBytes = 1};
     tickForAll();
@@ -186,5 +186,5 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     int ticks = 1;
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
-    EXPECT_EQ(ticks, 7) << "4 - 10 ms, and one more each tick";
+    EXPECT_EQ(ticks, 11) << "30 - 40 ms, and one more each tick";
 }

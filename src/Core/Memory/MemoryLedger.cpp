@@ -10,6 +10,7 @@
 namespace {
 
 constexpr auto maxAge = std::chrono::minutes(2);
+constexpr MemoryPlan::Nanoseconds maxSavings = 30 * MemoryPlan::creditPerTick; // of a minute without readings
 constexpr MemoryPlan::Nanoseconds firstPerMiB = std::chrono::microseconds(20); // small pages, measured
 constexpr quint64 leastTellingBytes = 16 << 20; // below it a cost says little about the cost of a page
 constexpr int weightOfPast = 7;                 // of 8, in the cost per MiB
@@ -19,6 +20,7 @@ constexpr int weightOfPast = 7;                 // of 8, in the cost per MiB
 MemoryLedger::MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock)
     : m_memory(std::move(memory))
     , m_clock(std::move(clock))
+    , m_credit(maxSavings)
     , m_perMiB(firstPerMiB) {
     m_pool.setMaxThreadCount(1);
 }
@@ -35,9 +37,10 @@ void MemoryLedger::tick(QList<ProcSample>& processes) {
     if (m_slice.isValid() && m_slice.isFinished())
         takeOver(std::exchange(m_slice, Slice()).takeResult());
     handOut(processes);
-    m_credit = std::min(MemoryPlan::maxCredit, m_credit + MemoryPlan::creditPerTick);
+    m_credit = std::min(maxSavings, m_credit + MemoryPlan::creditPerTick);
     if (!isReading && (m_wantsAll || !m_onShow.isEmpty() || !m_asked.isEmpty()))
-        startSlice(MemoryPlan::slice(wanted(processes), m_credit, m_perMiB), processes);
+        startSlice(MemoryPlan::slice(wanted(processes), std::min(m_credit, MemoryPlan::maxCredit), m_perMiB),
+                   processes);
     m_wantsAll = false;
     m_onShow.clear();
     m_asked.clear();
