@@ -5,8 +5,8 @@
 #include "Children.h"
 #include "Core/Memory/MemoryLedger.h"
 #include "Core/Sampling/Sampler.h"
-#include "Platform/Clock.h"
 #include "Platform/Platform.h"
+#include "SteppedClock.h"
 
 #include <QCoreApplication>
 
@@ -21,16 +21,6 @@ namespace {
 constexpr int sleepers = 1000;
 constexpr int ticks = 300;
 constexpr auto interval = std::chrono::seconds(2);
-
-class SteppedClock : public Clock {
-public:
-    std::chrono::system_clock::time_point now() override { return std::chrono::system_clock::now(); }
-    std::chrono::steady_clock::time_point uptime() override { return m_uptime; }
-    void step() { m_uptime += interval; }
-
-private:
-    std::chrono::steady_clock::time_point m_uptime{std::chrono::hours(1)};
-};
 
 double processMicroseconds() {
     timespec time{};
@@ -67,7 +57,7 @@ int main(int argc, char** argv) {
     QList<ProcSample> processes;
     double spent = 0;
     for (int tick = 0; tick < ticks; ++tick) {
-        clock->step();
+        clock->step(interval);
         processes = sampler.sampleProcesses();
         const double before = processMicroseconds();
         ledger.wantAll();

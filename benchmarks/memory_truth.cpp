@@ -8,8 +8,8 @@
 #include "Core/Memory/MemoryReturn.h"
 #include "Core/Memory/SummedMemory.h"
 #include "Core/Sampling/Sampler.h"
-#include "Platform/Clock.h"
 #include "Platform/Platform.h"
+#include "SteppedClock.h"
 
 #include <QCoreApplication>
 
@@ -20,16 +20,6 @@
 namespace {
 
 constexpr int maxTicks = 4000;
-
-class SteppedClock : public Clock {
-public:
-    std::chrono::system_clock::time_point now() override { return std::chrono::system_clock::now(); }
-    std::chrono::steady_clock::time_point uptime() override { return m_uptime; }
-    void step() { m_uptime += std::chrono::milliseconds(1); }
-
-private:
-    std::chrono::steady_clock::time_point m_uptime{std::chrono::hours(1)};
-};
 
 QList<qint32> withDescendants(QList<qint32> pids, const QList<ProcSample>& processes) {
     bool hasGrown = true;
@@ -66,7 +56,7 @@ int main(int argc, char** argv) {
     QList<ProcSample> members;
     bool isRough = true;
     for (int tick = 0; tick < maxTicks && isRough; ++tick) {
-        clock->step();
+        clock->step(std::chrono::milliseconds(1));
         processes = sampler.sampleProcesses();
         pids = withDescendants(roots, processes);
         ledger.wantAll(); // what others share with them stays
