@@ -75,7 +75,7 @@ private:
     QSet<qint32> m_onShow;
     QSet<qint32> m_asked;
     bool m_wantsAll = false;
-    MemoryPlan::Nanoseconds m_credit = MemoryPlan::maxCredit; ///< negative after a dear reading
+    MemoryPlan::Nanoseconds m_credit; ///< negative after a dear reading
     MemoryPlan::Nanoseconds m_perMiB;
     std::chrono::steady_clock::time_point m_now;
     quint32 m_tick = 0;
