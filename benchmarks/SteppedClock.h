@@ -2,13 +2,13 @@
 
 #include "Platform/Clock.h"
 
-/// A clock whose uptime moves only when it is told to.
+/// A clock whose uptime can be moved ahead.
 class SteppedClock : public Clock {
 public:
     std::chrono::system_clock::time_point now() override { return std::chrono::system_clock::now(); }
-    std::chrono::steady_clock::time_point uptime() override { return m_uptime; }
-    void step(std::chrono::milliseconds time) { m_uptime += time; }
+    std::chrono::steady_clock::time_point uptime() override { return std::chrono::steady_clock::now() + m_ahead; }
+    void step(std::chrono::milliseconds time) { m_ahead += time; }
 
 private:
-    std::chrono::steady_clock::time_point m_uptime{std::chrono::hours(1)};
+    std::chrono::milliseconds m_ahead{};
 };

@@ -28,10 +28,14 @@ double processMicroseconds() {
     return static_cast<double>(time.tv_sec) * 1e6 + static_cast<double>(time.tv_nsec) / 1e3;
 }
 
-/// Returns the ages of the figures in ascending order, infinity for what is not read.
-std::vector<double> ages(const QList<ProcSample>& processes, std::chrono::steady_clock::time_point now) {
+/// Returns the ages in ascending order of the figures of the processes that started before `limit`, infinity
+/// for what is not read.
+std::vector<double> ages(const QList<ProcSample>& processes, Instant limit,
+                         std::chrono::steady_clock::time_point now) {
     std::vector<double> ages;
     for (const ProcSample& process : processes) {
+        if (process.startTime >= limit)
+            continue;
         const bool isRead = process.memory != nullptr;
         ages.push_back(isRead ? std::chrono::duration<double>(now - process.memory->readAt).count()
                               : std::numeric_limits<double>::infinity());
@@ -55,6 +59,7 @@ int main(int argc, char** argv) {
     Sampler sampler(platform);
     MemoryLedger ledger(platform.processMemory, clock);
     QList<ProcSample> processes;
+    const Instant start = clock->now();
     double spent = 0;
     for (int tick = 0; tick < ticks; ++tick) {
         clock->step(interval);
@@ -66,7 +71,7 @@ int main(int argc, char** argv) {
         spent += processMicroseconds() - before;
     }
     std::printf("ledger_us_per_tick_1000 %.0f\n", spent / ticks);
-    const std::vector<double> seconds = ages(processes, clock->uptime());
+    const std::vector<double> seconds = ages(processes, start, clock->uptime());
     std::printf("ledger_age_seconds_median %.0f\n", seconds[seconds.size() / 2]);
     std::printf("ledger_age_seconds_max %.0f\n", seconds.back());
     return 0;

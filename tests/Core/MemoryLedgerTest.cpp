@@ -16,8 +16,9 @@ constexpr auto perMiB = 20us;
 using MemoryPlan::Process;
 using MemoryPlan::Reading;
 
-QList<Reading> planned(const QList<Process>& processes, std::chrono::nanoseconds credit = 4ms) {
-    return MemoryPlan::slice(processes, credit, perMiB);
+QList<Reading> planned(const QList<Process>& processes, std::chrono::nanoseconds credit = 4ms,
+                       double secondsSinceLast = 50) {
+    return MemoryPlan::slice(processes, credit, perMiB, secondsSinceLast);
 }
 
 /// A process that was read whole.
@@ -65,7 +66,7 @@ TEST(MemoryPlanTest, AskedThenShownThenNewThenGrownThenDue) {
     Process grown = known(5, 30 * MiB, 4);
     grown.residentWhenRead = 28 * MiB;
     const Process small = {.pid = 6, .residentBytes = 8 * MiB - 1};
-    const QList<Process> processes = {known(8, 40 * MiB, 44),
+    const QList<Process> processes = {known(8, 40 * MiB, 10),
                                       known(7, 40 * MiB, 46),
                                       small,
                                       grown,
@@ -97,7 +98,15 @@ TEST(MemoryPlanTest, ASliceStaysWithinItsCredit) {
     EXPECT_EQ(planned(processes, -5ms).size(), 0);
     for (Process& process : processes)
         process.residentBytes = MiB;
-    EXPECT_EQ(planned(processes, 4ms).size(), 33) << "half a millisecond of totals";
+    EXPECT_EQ(planned(processes, 1ms).size(), 50) << "three quarters for totals";
+}
+
+TEST(MemoryPlanTest, EachSliceTakesItsPartOfTheTurnOldestFirst) {
+    QList<Process> processes;
+    for (qint32 pid = 1; pid <= 100; ++pid)
+        processes.append(known(pid, 40 * MiB, 10 + 0.3 * pid));
+    EXPECT_EQ(planned(processes, 4ms, 1), (QList<Reading>{{100, false}, {99, false}}));
+    EXPECT_EQ(planned(processes, 4ms, 600).size(), 100);
 }
 
 TEST(MemoryPlanTest, ADearProcessIsReadOnceTheCreditIsFull) {
@@ -186,5 +195,5 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     int ticks = 1;
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
-    EXPECT_EQ(ticks, 11) << "30 - 40 ms, and one more each tick";
+    EXPECT_EQ(ticks, 26) << "15 - 40 ms, and one more each tick";
 }

@@ -10,8 +10,9 @@
 namespace {
 
 constexpr auto maxAge = std::chrono::minutes(2);
-constexpr MemoryPlan::Nanoseconds maxSavings = 30 * MemoryPlan::creditPerTick; // of a minute without readings
+constexpr MemoryPlan::Nanoseconds maxSavings = 15 * MemoryPlan::creditPerTick; // totals of 1,000 processes
 constexpr MemoryPlan::Nanoseconds firstPerMiB = std::chrono::microseconds(20); // small pages, measured
+constexpr MemoryPlan::Nanoseconds handOverCost = std::chrono::microseconds(40); // to the thread and back
 constexpr quint64 leastTellingBytes = 16 << 20; // below it a cost says little about the cost of a page
 constexpr int weightOfPast = 7;                 // of 8, in the cost per MiB
 
@@ -39,8 +40,7 @@ void MemoryLedger::tick(QList<ProcSample>& processes) {
     handOut(processes);
     m_credit = std::min(maxSavings, m_credit + MemoryPlan::creditPerTick);
     if (!isReading && (m_wantsAll || !m_onShow.isEmpty() || !m_asked.isEmpty()))
-        startSlice(MemoryPlan::slice(wanted(processes), std::min(m_credit, MemoryPlan::maxCredit), m_perMiB),
-                   processes);
+        startSlice(processes);
     m_wantsAll = false;
     m_onShow.clear();
     m_asked.clear();
@@ -125,10 +125,16 @@ QList<MemoryPlan::Process> MemoryLedger::wanted(const QList<ProcSample>& process
     return result;
 }
 
-void MemoryLedger::startSlice(const QList<MemoryPlan::Reading>& readings,
-                              const QList<ProcSample>& processes) {
-    if (readings.isEmpty())
-        return;
+void MemoryLedger::startSlice(const QList<ProcSample>& processes) {
+    const std::chrono::duration<double> sinceLast = m_now - std::exchange(m_plannedAt, m_now);
+    const auto readings = MemoryPlan::slice(wanted(processes), std::min(m_credit, MemoryPlan::maxCredit),
+                                            m_perMiB, sinceLast.count());
+    if (!readings.isEmpty())
+        read(readings, processes);
+    m_credit -= m_clock->uptime() - m_now + handOverCost; // planning costs as well
+}
+
+void MemoryLedger::read(const QList<MemoryPlan::Reading>& readings, const QList<ProcSample>& processes) {
     QSet<qint32> pids;
     for (const MemoryPlan::Reading& reading : readings)
         pids.insert(reading.pid);
@@ -149,7 +155,7 @@ void MemoryLedger::startSlice(const QList<MemoryPlan::Reading>& readings,
         for (const MemoryPlan::Reading& reading : readings) {
             if (into.isCanceled())
                 break;
-            results.append(read(*memory, reading));
+            results.append(resultOf(*memory, reading));
         }
         into.addResult(results);
         into.finish();
@@ -158,7 +164,7 @@ void MemoryLedger::startSlice(const QList<MemoryPlan::Reading>& readings,
         [run, promise = std::make_shared<QPromise<QList<Result>>>(std::move(promise))] { run(*promise); });
 }
 
-MemoryLedger::Result MemoryLedger::read(ProcessMemory& memory, const MemoryPlan::Reading& wanted) {
+MemoryLedger::Result MemoryLedger::resultOf(ProcessMemory& memory, const MemoryPlan::Reading& wanted) {
     Result result{.pid = wanted.pid};
     if (wanted.all) {
         result.reading = memory.readAll(wanted.pid);

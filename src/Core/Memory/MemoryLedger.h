@@ -66,8 +66,9 @@ private:
     void handOut(QList<ProcSample>& processes);
     bool isWanted(qint32 pid) const;
     QList<MemoryPlan::Process> wanted(const QList<ProcSample>& processes) const;
-    void startSlice(const QList<MemoryPlan::Reading>& readings, const QList<ProcSample>& processes);
-    static Result read(ProcessMemory& memory, const MemoryPlan::Reading& wanted);
+    void startSlice(const QList<ProcSample>& processes);
+    void read(const QList<MemoryPlan::Reading>& readings, const QList<ProcSample>& processes);
+    static Result resultOf(ProcessMemory& memory, const MemoryPlan::Reading& wanted);
 
     std::shared_ptr<ProcessMemory> m_memory;
     std::shared_ptr<Clock> m_clock;
@@ -78,6 +79,7 @@ private:
     MemoryPlan::Nanoseconds m_credit; ///< negative after a dear reading
     MemoryPlan::Nanoseconds m_perMiB;
     std::chrono::steady_clock::time_point m_now;
+    std::chrono::steady_clock::time_point m_plannedAt;
     quint32 m_tick = 0;
     QThreadPool m_pool;
     Slice m_slice;

@@ -13,8 +13,9 @@ using Nanoseconds = std::chrono::nanoseconds;
 
 constexpr Nanoseconds creditPerTick = std::chrono::milliseconds(1);
 constexpr Nanoseconds maxCredit = std::chrono::milliseconds(4);
-/// Everything is read again before it is a minute old.
-constexpr double dueSeconds = 45;
+/// Everything is read again once in a turn. Each slice reads its part of it, the oldest first, so that no
+/// burst of readings is followed by another a turn later.
+constexpr double turnSeconds = 50;
 /// Larger processes are read only when a person asks.
 constexpr quint64 maxUnaskedBytes = quint64(4) << 30;
 
@@ -45,9 +46,10 @@ struct Reading {
 /// Returns the processor time that a reading of all figures will take, by the cost per MiB of those before.
 Nanoseconds expectedCost(const Process& process, Nanoseconds perMiB);
 
-/// Returns the readings of a slice, those of totals first: what a person asked for, what is on show, new,
-/// grown or due, the largest first in each. Their expected cost stays within `credit`. A process that costs
-/// more than `maxCredit` is read once the credit is full.
-QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, Nanoseconds perMiB);
+/// Returns the readings of a slice, those of totals first: what a person asked for, what is on show, new or
+/// grown, the largest first in each, then what is due after the seconds since the last slice. Their expected
+/// cost stays within `credit`. A process that costs more than `maxCredit` is read once the credit is full.
+QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, Nanoseconds perMiB,
+                     double secondsSinceLast);
 
 } // namespace MemoryPlan
