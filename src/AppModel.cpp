@@ -140,3 +140,5 @@ void AppModel::chooseGroup(const QList<ProcSample>& processes, std::optional<Pro
     publish(m_state.processes, std::move(regrouped));
     publish(m_state.groups, GroupRollup::build(m_state.processes));
 }
+
+void AppModel::wantSessions() {}

@@ -46,6 +46,10 @@ public:
     MemoryLineUp memoryLineUp() const;
     const QList<Alert>& alerts() const { return m_state.alerts; }
     const MCPInspector::Report& mcpReport() const { return m_state.mcpReport; }
+    const SessionReport& sessionReport() const { return m_state.sessions; }
+    /// Wants the sessions at the next tick, and at once if nothing wanted them at the last. Views call it
+    /// whenever they refresh, before they read the report.
+    void wantSessions();
 
     /// The ledger of true memory. Views tell it what they show.
     MemoryLedger& memoryLedger() { return m_ledger; }

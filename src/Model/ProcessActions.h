@@ -6,6 +6,8 @@
 #include "Core/Relief/NukePreview.h"
 #include "Core/Relief/SignalGate.h"
 #include "Core/Sampling/Sampler.h"
+#include "Core/Sessions/Session.h"
+#include "Core/Sessions/SessionEnding.h"
 #include "Model/PublishedState.h"
 #include "Platform/Platform.h"
 
@@ -63,6 +65,17 @@ public:
     /// Signals the user's orphan servers that still are orphans, with their launchers. Returns how many
     /// servers got a signal.
     int killOrphanMCPs(bool force) override;
+
+    /// Return what ends with a session, with left-overs and with duplicates, and what that gives back.
+    SessionEnding endingOf(const Session& session) const;
+    SessionEnding endingOf(const QList<LeftOver>& leftOvers) const;
+    SessionEnding endingOf(const QList<DuplicateServers>& duplicates) const;
+    /// Asks the host to end, then what is left of its processes, kills those that stay, and measures. Takes
+    /// up to 9 seconds and leaves one entry in the log.
+    QCoro::Task<SessionEndResult> endSession(SessionEnding ending);
+    /// Stops the processes of a session until `resumeSession`, or until this program ends.
+    Outcome pauseSession(const Session& session);
+    Outcome resumeSession(const Session& session);
 
     /// Returns the processes of exactly that name, without this program.
     NukePreview previewForName(const QString& name) const;

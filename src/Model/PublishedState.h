@@ -5,6 +5,7 @@
 #include "Core/Mcp/MCPInspector.h"
 #include "Core/Sampling/ProcSample.h"
 #include "Core/Sampling/SystemSample.h"
+#include "Core/Sessions/Session.h"
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ struct PublishedState {
     QList<GroupRollup> groups;   ///< one per group, in group order; empty before the first tick
     QList<Alert> alerts;
     MCPInspector::Report mcpReport; ///< of the last full tick
+    SessionReport sessions;         ///< empty unless something wanted it at the last full tick
 
     /// Returns a process of the last full tick, null for a PID that it did not list.
     const ProcSample* process(qint32 pid) const {
