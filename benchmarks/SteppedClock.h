@@ -6,7 +6,9 @@
 class SteppedClock : public Clock {
 public:
     std::chrono::system_clock::time_point now() override { return std::chrono::system_clock::now(); }
-    std::chrono::steady_clock::time_point uptime() override { return std::chrono::steady_clock::now() + m_ahead; }
+    std::chrono::steady_clock::time_point uptime() override {
+        return std::chrono::steady_clock::now() + m_ahead;
+    }
     void step(std::chrono::milliseconds time) { m_ahead += time; }
 
 private:

@@ -3,6 +3,7 @@
 // "warm_" is one run straight after another.
 
 #include "AppModel.h"
+#include "CacheEviction.h"
 #include "Children.h"
 #include "Core/Sampling/Sampler.h"
 #include "KernelFloor.h"
@@ -21,7 +22,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -30,25 +30,6 @@ constexpr std::array sizes = {200, 1000, 4000};
 constexpr int repetitions = 31;
 
 volatile std::sig_atomic_t interrupted = 0;
-
-/// Evicts the CPU's caches, as other programs do in the two seconds between two ticks.
-class CacheEviction {
-public:
-    CacheEviction()
-        : m_bytes(2 * std::max<size_t>(lastLevelCache(), 16 << 20)) {}
-
-    void run() {
-        for (size_t at = 0; at < m_bytes.size(); at += 64)
-            ++m_bytes[at];
-    }
-
-private:
-    static size_t lastLevelCache() {
-        return static_cast<size_t>(std::max(0L, sysconf(_SC_LEVEL3_CACHE_SIZE)));
-    }
-
-    std::vector<char> m_bytes;
-};
 
 double microsecondsFor(const std::function<void()>& work) {
     const auto start = std::chrono::steady_clock::now();

@@ -100,7 +100,8 @@ void AppModel::followSessions(const QList<MCPInspector::LiveServer>& servers) {
     m_sessions.follow(m_state.processes);
     const bool hasRule = m_preferences.alertSessionBigEnabled();
     m_hasSessions = std::exchange(m_wantsSessions, false) || hasRule;
-    publishSessions(m_hasSessions ? m_sessions.report(servers) : SessionReport());
+    if (m_hasSessions || m_state.sessions != SessionReport())
+        publishSessions(m_hasSessions ? m_sessions.report(servers) : SessionReport());
     if (!hasRule)
         return;
     for (const Session& session : m_state.sessions.sessions)
@@ -112,8 +113,7 @@ void AppModel::publishSessions(SessionReport report) {
         if (m_actions.pausedSessions().contains(session.host))
             session.state = SessionState::paused;
     }
-    if (report != m_state.sessions)
-        publish(m_state.sessions, std::move(report));
+    publish(m_state.sessions, std::move(report));
 }
 
 void AppModel::wantSessions() {

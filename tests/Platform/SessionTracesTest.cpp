@@ -57,13 +57,15 @@ TEST(SessionTracesTest, ListeningSocketsAndTheirOwner) {
     ASSERT_TRUE(four.listen(QHostAddress::LocalHost));
     ASSERT_TRUE(six.listen(QHostAddress::Any));
     LinuxListeningPorts ports;
+    LinuxListeningPorts tables("/proc");
     const QList<quint64> own = ports.socketsOf(getpid());
-    for (const quint16 port : {four.serverPort(), six.serverPort()}) {
-        const auto all = ports.sockets();
-        const auto found = std::ranges::find(all, port, &ListeningSocket::port);
-        ASSERT_NE(found, all.end()) << port;
-        EXPECT_EQ(found->uid, getuid());
-        EXPECT_TRUE(own.contains(found->id)) << port;
+    for (const QList<ListeningSocket>& all : {ports.sockets(), tables.sockets()}) {
+        for (const quint16 port : {four.serverPort(), six.serverPort()}) {
+            const auto found = std::ranges::find(all, port, &ListeningSocket::port);
+            ASSERT_NE(found, all.end()) << port;
+            EXPECT_EQ(found->uid, getuid());
+            EXPECT_TRUE(own.contains(found->id)) << port;
+        }
     }
     EXPECT_EQ(ports.socketsOf(1 << 30), QList<quint64>());
     EXPECT_EQ(LinuxListeningPorts("/nonexistent").sockets(), QList<ListeningSocket>());

@@ -176,8 +176,8 @@ QList<SessionProcess> SessionFinder::processesOf(const Members& members, const Q
         const ProcSample& process = m_tree->at(member.place);
         const QList<quint16> ports = m_ports.of(process.pid);
         processes.append({.process = process,
-                          .part = partOf(process, m_members.isAgent(process), servers.contains(process.pid),
-                                         !ports.isEmpty()),
+                          .part = partOf(process, m_members.isAgent(member.place),
+                                         servers.contains(process.pid), !ports.isEmpty()),
                           .depth = member.depth,
                           .ports = ports});
     }

@@ -10,6 +10,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +34,11 @@ std::size_t index(int place) {
     return static_cast<std::size_t>(place);
 }
 
+/// Compares texts that mostly are one and the same, without a look at their characters.
+bool isSame(const QString& one, const QString& other) {
+    return (one.constData() == other.constData() && one.size() == other.size()) || one == other;
+}
+
 } // namespace
 
 SessionMembers::SessionMembers(const Platform& platform)
@@ -43,37 +49,56 @@ SessionMembers::SessionMembers(const Platform& platform)
 
 void SessionMembers::follow(const ProcessTree& tree) {
     ++m_pass;
+    record(tree);
     findHosts(tree);
     assign(tree);
-    forgetEnded();
 }
 
-SessionMembers::Process& SessionMembers::recordOf(const ProcSample& process) {
-    Process& record = m_processes[process.pid];
-    if (record.startTime != process.startTime)
-        record = {.startTime = process.startTime};
-    const bool isNew = record.pass == 0;
-    if (isNew || record.name != process.name || record.program != process.program) {
-        record.name = process.name;
-        record.program = process.program;
-        record.isAgent = runsAgent(process);
+void SessionMembers::record(const ProcessTree& tree) {
+    m_records.resize(index(tree.size()));
+    m_agents.clear();
+    for (int place = 0; place < tree.size(); ++place) {
+        const ProcSample& process = tree.at(place);
+        Process& record = m_processes[process.pid];
+        if (record.pass == 0 || record.startTime != process.startTime)
+            record = {.startTime = process.startTime};
+        const bool isNew = record.pass == 0;
+        m_mayHaveUnread |= isNew;
+        if (isNew || !isSame(record.name, process.name) || !isSame(record.program, process.program)) {
+            record.name = process.name;
+            record.program = process.program;
+            record.isAgent = runsAgent(process);
+            record.isManager = process.pid == initPid || process.name == Words::native().initProcess ||
+                               process.name == "systemd"_L1;
+        }
+        record.pass = m_pass;
+        m_records[index(place)] = &record;
+        if (record.isAgent && isOfUser(process))
+            m_agents.push_back(place);
     }
-    record.pass = m_pass;
-    return record;
-}
-
-bool SessionMembers::isAgent(const ProcSample& process) {
-    return recordOf(process).isAgent;
+    if (m_processes.size() == m_records.size())
+        return;
+    std::erase_if(m_processes, [this](const auto& entry) { return entry.second.pass != m_pass; });
+    m_inherited.removeIf([this](const auto& entry) { return !m_processes.contains(entry.key()); });
 }
 
 std::optional<ProcessInheritance> SessionMembers::inheritance(const ProcessIdentity& process) const {
-    const auto found = m_processes.constFind(process.pid);
-    return found != m_processes.cend() && found->startTime == process.startTime ? found->inherited
-                                                                                : std::nullopt;
+    const auto found = m_processes.find(process.pid);
+    const bool isKnown =
+        found != m_processes.end() && found->second.startTime == process.startTime && found->second.isRead;
+    return isKnown ? std::optional(m_inherited.value(process.pid).facts) : std::nullopt;
 }
 
 bool SessionMembers::isOfUser(const ProcSample& process) const {
     return process.uid == m_identity->userId();
+}
+
+bool SessionMembers::isBelowAgent(const ProcessTree& tree, int place) const {
+    for (int above = tree.parent(place); above != none; above = tree.parent(above)) {
+        if (recordAt(above).isAgent && isOfUser(tree.at(above)))
+            return true;
+    }
+    return false;
 }
 
 /// Finds the agents without another above them. Each has a session.
@@ -81,15 +106,11 @@ void SessionMembers::findHosts(const ProcessTree& tree) {
     m_hostAt.assign(index(tree.size()), none);
     for (Known& session : m_known)
         session.isRunning = false;
-    for (const int place : tree.parentsFirst()) {
-        const ProcSample& process = tree.at(place);
-        const int parent = tree.parent(place);
-        const bool isAgent = recordOf(process).isAgent && isOfUser(process);
-        m_hostAt[index(place)] = parent != none && m_hostAt[index(parent)] != none ? m_hostAt[index(parent)]
-                                 : isAgent                                         ? place
-                                                                                   : none;
-        if (m_hostAt[index(place)] == place)
-            m_known[sessionOfHost(process)].isRunning = true;
+    for (const int place : m_agents) {
+        if (isBelowAgent(tree, place))
+            continue;
+        m_hostAt[index(place)] = place;
+        m_known[sessionOfHost(tree.at(place))].isRunning = true;
     }
     for (Known& session : m_known) {
         if (session.host && !session.isRunning && !session.ended)
@@ -111,21 +132,28 @@ int SessionMembers::sessionOfHost(const ProcSample& host) {
 void SessionMembers::assign(const ProcessTree& tree) {
     m_sessionAt.assign(index(tree.size()), none);
     m_isUsed.assign(index(tree.size()), false);
+    QSet<int> inUse;
     for (const int place : tree.parentsFirst()) {
         const int session = sessionBelow(tree, place);
+        m_mayHaveUnread |= session != recordAt(place).session;
         m_sessionAt[index(place)] = session;
-        recordOf(tree.at(place)).session = session;
+        recordAt(place).session = session;
+        if (session != none)
+            inUse.insert(session);
     }
+    forget(inUse);
 }
 
 int SessionMembers::sessionBelow(const ProcessTree& tree, int place) {
     const ProcSample& process = tree.at(place);
     const int parent = tree.parent(place);
     const int above = parent != none ? m_sessionAt[index(parent)] : none;
-    const int host = m_hostAt[index(place)];
+    int& host = m_hostAt[index(place)];
+    if (host == none && parent != none)
+        host = m_hostAt[index(parent)];
     if (host != none && host != place)
         return m_sessionAt[index(host)];
-    const int own = recordOf(process).session;
+    const int own = recordAt(place).session;
     const int kept = own != none && m_known.contains(own) ? own : above;
     if (host == place) // below another session's process, or adopted by one, it is a part of that
         return kept != none && m_known.value(kept).isRunning ? kept : sessionOfHost(process);
@@ -136,11 +164,9 @@ int SessionMembers::sessionBelow(const ProcessTree& tree, int place) {
     return m_isUsed[index(place)] ? none : kept;
 }
 
-void SessionMembers::forgetEnded() {
-    QSet<int> inUse;
-    m_processes.removeIf([this](const auto& entry) { return entry->pass != m_pass; });
-    for (const Process& process : m_processes)
-        inUse.insert(process.session);
+void SessionMembers::forget(const QSet<int>& inUse) {
+    if (m_known.size() == inUse.size())
+        return;
     m_known.removeIf([&inUse](const auto& entry) { return !inUse.contains(entry.key()); });
     const auto isForgotten = [this](const auto& entry) { return !m_known.contains(entry.value()); };
     m_sessionOfHost.removeIf(isForgotten);
@@ -151,32 +177,39 @@ void SessionMembers::addWord(int session, const QString& id, const QString& fold
     const auto known = m_known.find(session);
     if (known == m_known.end())
         return;
-    if (!id.isEmpty())
+    if (!id.isEmpty() && !known->ids.contains(id)) {
         known->ids.insert(id);
+        m_hasNews = true;
+    }
     if (!folder.isEmpty())
         known->folder = folder;
 }
 
 void SessionMembers::readInheritance(const ProcessTree& tree) {
     int reads = 0;
-    bool hasAdopted = false;
-    for (const int place : tree.parentsFirst()) {
-        const ProcSample& process = tree.at(place);
-        const bool isMember = m_sessionAt[index(place)] != none;
-        if (!isOfUser(process) || !(isMember || isTop(tree, place)))
+    for (const int place : std::exchange(m_mayHaveUnread, false) ? tree.parentsFirst() : std::vector<int>()) {
+        const bool isWanted = !recordAt(place).isRead && isOfUser(tree.at(place)) &&
+                              (m_sessionAt[index(place)] != none || isTop(tree, place));
+        if (!isWanted)
             continue;
-        if (!recordOf(process).inherited) {
-            if (reads == readsPerPass)
-                continue;
-            ++reads;
-            readMember(tree, place);
+        if (reads == readsPerPass) {
+            m_mayHaveUnread = true;
+            break;
         }
-        hasAdopted |= adopt(tree, place);
+        ++reads;
+        readMember(tree, place);
+        m_hasNews = true;
     }
-    if (!hasAdopted)
-        return;
-    assign(tree);
-    forgetEnded();
+    if (std::exchange(m_hasNews, false))
+        adoptAll(tree);
+}
+
+void SessionMembers::adoptAll(const ProcessTree& tree) {
+    bool hasAdopted = false;
+    for (const int place : tree.parentsFirst())
+        hasAdopted |= adopt(tree, place);
+    if (hasAdopted)
+        assign(tree);
 }
 
 /// Returns whether nothing of the user's is above the process: what lost its parent is there.
@@ -184,53 +217,60 @@ bool SessionMembers::isTop(const ProcessTree& tree, int place) const {
     if (tree.at(place).pid == initPid)
         return false;
     const int parent = tree.parent(place);
-    return parent == none || tree.at(parent).pid == initPid || !isOfUser(tree.at(parent)) ||
-           tree.at(parent).name == Words::native().initProcess || tree.at(parent).name == "systemd"_L1;
+    return parent == none || recordAt(parent).isManager || !isOfUser(tree.at(parent));
 }
 
 /// Reads what a process inherited. What it says of its session is learnt from a member.
 void SessionMembers::readMember(const ProcessTree& tree, int place) {
     const ProcSample& process = tree.at(place);
-    Process& record = recordOf(process);
-    record.inherited = m_table->inheritance(process.pid, AgentTable::variables());
-    record.mark = AgentTable::markIn(record.inherited->variables);
+    recordAt(place).isRead = true;
+    Inherited& inherited = m_inherited[process.pid];
+    inherited.facts = m_table->inheritance(process.pid, AgentTable::variables());
+    inherited.mark = AgentTable::markIn(inherited.facts.variables);
     const auto session = m_known.find(m_sessionAt[index(place)]);
     if (session == m_known.end())
         return;
-    const int leader = tree.find(record.inherited->sessionLeader);
+    const int leader = tree.find(inherited.facts.sessionLeader);
     if (leader != none && m_sessionAt[index(leader)] == session.key())
-        m_sessionOfLeader.insert(record.inherited->sessionLeader, session.key());
-    if (session->host == process.identity()) {
-        session->folder = QDir::cleanPath(QString::fromUtf8(m_table->workingDirectory(process.pid)));
-        const int parent = tree.parent(place);
-        const QByteArray& group = record.inherited->controlGroup;
-        if (parent != none && group != m_table->inheritance(tree.at(parent).pid, {}).controlGroup)
-            session->controlGroup = group;
-        return;
-    }
-    // An id that the host itself inherited is of another session.
-    const auto host = session->host ? m_processes.value(session->host->pid).mark : std::nullopt;
-    if (session->isRunning && record.mark && record.mark->agent == session->agent && record.mark != host)
-        session->ids.insert(record.mark->id);
+        m_sessionOfLeader.insert(inherited.facts.sessionLeader, session.key());
+    if (session->host == process.identity())
+        readHost(tree, place, *session);
+    else if (session->isRunning && inherited.mark && inherited.mark->agent == session->agent &&
+             inherited.mark != markOf(session->host->pid))
+        session->ids.insert(inherited.mark->id); // one that the host itself inherited is of another session
+}
+
+void SessionMembers::readHost(const ProcessTree& tree, int place, Known& session) {
+    const ProcSample& host = tree.at(place);
+    session.folder = QDir::cleanPath(QString::fromUtf8(m_table->workingDirectory(host.pid)));
+    const int parent = tree.parent(place);
+    const QByteArray group = m_inherited.value(host.pid).facts.controlGroup;
+    if (parent != none && group != m_table->inheritance(tree.at(parent).pid, {}).controlGroup)
+        session.controlGroup = group;
+}
+
+std::optional<AgentTable::Mark> SessionMembers::markOf(qint32 pid) const {
+    return m_inherited.value(pid).mark;
 }
 
 /// Gives a process that lost its parent to the session that it inherited from. Returns whether it did.
 bool SessionMembers::adopt(const ProcessTree& tree, int place) {
-    const ProcSample& process = tree.at(place);
-    Process& record = recordOf(process);
-    if (!isTop(tree, place) || !record.inherited || m_isUsed[index(place)])
+    Process& record = recordAt(place);
+    if (!record.isRead || m_isUsed[index(place)] || !isTop(tree, place))
         return false;
+    const ProcSample& process = tree.at(place);
     if (m_hostAt[index(place)] == place)
         return adoptAgent(process, record);
     if (record.session != none || m_directUse.contains(process))
         return false;
-    record.session = sessionInherited(tree, process, record);
+    record.session = sessionInherited(tree, process);
     return record.session != none;
 }
 
 /// An agent that another one started in the background is a part of its session while that runs.
 bool SessionMembers::adoptAgent(const ProcSample& process, Process& record) {
-    const int session = record.mark ? sessionWithId(*record.mark) : none;
+    const auto mark = markOf(process.pid);
+    const int session = mark ? sessionWithId(*mark) : none;
     const Known other = m_known.value(session);
     if (session == record.session || !other.isRunning || other.host == process.identity())
         return false;
@@ -238,18 +278,18 @@ bool SessionMembers::adoptAgent(const ProcSample& process, Process& record) {
     return true;
 }
 
-int SessionMembers::sessionInherited(const ProcessTree& tree, const ProcSample& process,
-                                     const Process& record) {
-    if (record.mark)
-        return sessionOfMark(*record.mark, process);
-    const qint32 leader = record.inherited->sessionLeader;
+int SessionMembers::sessionInherited(const ProcessTree& tree, const ProcSample& process) {
+    const Inherited inherited = m_inherited.value(process.pid);
+    if (inherited.mark)
+        return sessionOfMark(*inherited.mark, process);
+    const qint32 leader = inherited.facts.sessionLeader;
     const int ofLeader = m_sessionOfLeader.value(leader, none);
     const int leaderAt = tree.find(leader);
     // The number of a process session is not used again while a process has it.
     if (ofLeader != none && leader != process.pid &&
         (leaderAt == none || m_sessionAt[index(leaderAt)] == ofLeader))
         return ofLeader;
-    const QByteArray& group = record.inherited->controlGroup;
+    const QByteArray& group = inherited.facts.controlGroup;
     for (auto known = m_known.cbegin(); known != m_known.cend(); ++known) {
         if (!known->controlGroup.isEmpty() && known->controlGroup == group)
             return known.key();
@@ -258,11 +298,13 @@ int SessionMembers::sessionInherited(const ProcessTree& tree, const ProcSample& 
 }
 
 int SessionMembers::sessionWithId(const AgentTable::Mark& mark) const {
+    int found = none;
     for (auto known = m_known.cbegin(); known != m_known.cend(); ++known) {
-        if (known->agent == mark.agent && known->ids.contains(mark.id))
-            return known.key();
+        const bool isNamed = known->agent == mark.agent && known->ids.contains(mark.id);
+        if (isNamed && (found == none || known->isRunning))
+            found = known.key(); // a conversation that was taken up again has the id of the ended one
     }
-    return none;
+    return found;
 }
 
 /// Returns the session with that id. An id that none is known to have may be an earlier one of a running

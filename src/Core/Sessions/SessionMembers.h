@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 class Clock;
@@ -55,33 +56,43 @@ public:
     const QHash<int, Known>& known() const { return m_known; }
     /// Returns what was read of a process; empty before that.
     std::optional<ProcessInheritance> inheritance(const ProcessIdentity& process) const;
-    /// Returns whether the process runs an agent.
-    bool isAgent(const ProcSample& process);
+    /// Returns whether the process at a place runs an agent.
+    bool isAgent(int place) const { return m_records[static_cast<std::size_t>(place)]->isAgent; }
 
 private:
+    /// What every tick needs of every process.
     struct Process {
         Instant startTime;
         QString name; ///< this and the program tell whether it has become something else
         QString program;
-        bool isAgent = false;
         int session = none;
-        std::optional<ProcessInheritance> inherited;
-        std::optional<AgentTable::Mark> mark;
         quint32 pass = 0;
+        bool isAgent = false;
+        bool isManager = false; ///< of services: what lost its parent is below it
+        bool isRead = false;    ///< `m_inherited` has it
+    };
+    struct Inherited {
+        ProcessInheritance facts;
+        std::optional<AgentTable::Mark> mark;
     };
 
-    Process& recordOf(const ProcSample& process);
+    void record(const ProcessTree& tree);
+    Process& recordAt(int place) const { return *m_records[static_cast<std::size_t>(place)]; }
     bool isOfUser(const ProcSample& process) const;
+    bool isBelowAgent(const ProcessTree& tree, int place) const;
     void findHosts(const ProcessTree& tree);
     int sessionOfHost(const ProcSample& host);
     void assign(const ProcessTree& tree);
     int sessionBelow(const ProcessTree& tree, int place);
-    void forgetEnded();
+    void forget(const QSet<int>& inUse);
     bool isTop(const ProcessTree& tree, int place) const;
     void readMember(const ProcessTree& tree, int place);
+    void readHost(const ProcessTree& tree, int place, Known& session);
+    void adoptAll(const ProcessTree& tree);
     bool adopt(const ProcessTree& tree, int place);
     bool adoptAgent(const ProcSample& process, Process& record);
-    int sessionInherited(const ProcessTree& tree, const ProcSample& process, const Process& record);
+    std::optional<AgentTable::Mark> markOf(qint32 pid) const;
+    int sessionInherited(const ProcessTree& tree, const ProcSample& process);
     int sessionWithId(const AgentTable::Mark& mark) const;
     int sessionOfMark(const AgentTable::Mark& mark, const ProcSample& process);
 
@@ -89,7 +100,10 @@ private:
     std::shared_ptr<Identity> m_identity;
     std::shared_ptr<Clock> m_clock;
     DirectUse m_directUse;
-    QHash<qint32, Process> m_processes; ///< by PID
+    std::unordered_map<qint32, Process> m_processes; ///< by PID
+    std::vector<Process*> m_records;                 ///< those at each place
+    QHash<qint32, Inherited> m_inherited;            ///< by PID
+    std::vector<int> m_agents;                       ///< the places of agents
     QHash<int, Known> m_known;
     QHash<qint32, int> m_sessionOfHost;   ///< by PID
     QHash<qint32, int> m_sessionOfLeader; ///< by the leader of a process session
@@ -97,5 +111,7 @@ private:
     std::vector<int> m_sessionAt;
     std::vector<bool> m_isUsed; ///< at or below a program that a person uses directly
     int m_lastNumber = 0;
+    bool m_mayHaveUnread = false;
+    bool m_hasNews = false; ///< something was learnt that may tell whose a process is
     quint32 m_pass = 0;
 };
