@@ -85,6 +85,8 @@ public:
     Property<double> alertBrowserHogPercentTotal{*this, u"pref.alertBrowserHog_percentTotal", 25.0};
     Property<bool> alertCachesBigEnabled{*this, u"pref.alertCachesBig_enabled", true};
     Property<double> alertCachesBigGB{*this, u"pref.alertCachesBig_gb", 5.0};
+    Property<bool> alertSessionBigEnabled{*this, u"pref.alertSessionBig_enabled", false};
+    Property<double> alertSessionBigGB{*this, u"pref.alertSessionBig_gb", 8.0};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.

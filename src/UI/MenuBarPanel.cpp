@@ -7,7 +7,9 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PanelRow.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Sessions/SessionTexts.h"
 #include "UI/Style/Painting.h"
 #include "UI/Widget.h"
 
@@ -62,6 +64,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     : QWidget(parent)
     , m_model(model)
     , m_widget(widget)
+    , m_sessions(new PushButton(QString(), PushButton::Look::borderless, QStringLiteral("bubble.prompt")))
     , m_processColumn(new QVBoxLayout)
     , m_processRows([this] { return addRow(m_processColumn, TextStyle::callout); })
     , m_alertSection(new QWidget)
@@ -77,6 +80,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
     column->addLayout(makeStatistics());
+    column->addWidget(m_sessions, 0, Qt::AlignLeft);
     column->addWidget(new Divider);
     column->addWidget(caption(tr("Top 5 by RAM")));
     column->addLayout(m_processColumn);
@@ -90,6 +94,9 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addWidget(m_alertSection);
     column->addStretch();
 
+    m_sessions->setSmall();
+    m_sessions->hide();
+    connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
     refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
@@ -123,7 +130,9 @@ QLayout* MenuBarPanel::makeStatistics() {
 }
 
 void MenuBarPanel::refresh() {
+    m_model.wantSessions();
     refreshStatistics();
+    refreshSessions();
     refreshProcesses();
     refreshAlerts();
 }
@@ -134,6 +143,12 @@ void MenuBarPanel::refreshStatistics() {
     m_statistics[1]->setFigure(Formatters::percent(sample.memUsedPercent()));
     m_statistics[2]->setFigure(Formatters::percent(sample.diskUsedPercent()));
     m_statistics[3]->setFigure(thermalLabel(sample.thermalState));
+}
+
+void MenuBarPanel::refreshSessions() {
+    const QString summary = SessionTexts::summary(m_model.sessionReport());
+    m_sessions->setText(summary);
+    m_sessions->setVisible(!summary.isEmpty());
 }
 
 void MenuBarPanel::refreshProcesses() {
