@@ -26,6 +26,8 @@ namespace {
 constexpr int panelSymbolWidth = 16;
 constexpr int panelPadding = 14;
 constexpr int panelSpacing = 8;
+constexpr int sessionsHeight = 20; ///< the panel is full with three alerts
+constexpr int buttonPadding = 10;  ///< before the symbol of a button without a border
 
 TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
@@ -79,8 +81,11 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->setSpacing(panelSpacing);
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
-    column->addLayout(makeStatistics());
-    column->addWidget(m_sessions, 0, Qt::AlignLeft);
+    auto* figures = new QVBoxLayout;
+    figures->setSpacing(2);
+    figures->addLayout(makeStatistics());
+    figures->addLayout(makeSessions());
+    column->addLayout(figures);
     column->addWidget(new Divider);
     column->addWidget(caption(tr("Top 5 by RAM")));
     column->addLayout(m_processColumn);
@@ -94,9 +99,6 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addWidget(m_alertSection);
     column->addStretch();
 
-    m_sessions->setSmall();
-    m_sessions->hide();
-    connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
     refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
@@ -126,6 +128,19 @@ QLayout* MenuBarPanel::makeStatistics() {
         m_statistics[i] = new FigureColumn(labels[static_cast<qsizetype>(i)]);
         row->addWidget(m_statistics[i], 1);
     }
+    return row;
+}
+
+QLayout* MenuBarPanel::makeSessions() {
+    m_sessions->setSmall();
+    m_sessions->setFixedHeight(sessionsHeight);
+    m_sessions->hide();
+    connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addSpacing(-buttonPadding); // the symbol stands above those of the rows
+    row->addWidget(m_sessions);
+    row->addStretch();
     return row;
 }
 

@@ -33,6 +33,7 @@ protected:
 private:
     QLayout* makeHeader();
     QLayout* makeStatistics();
+    QLayout* makeSessions();
     void refresh();
     void refreshStatistics();
     void refreshSessions();

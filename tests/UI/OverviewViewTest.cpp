@@ -65,6 +65,16 @@ TEST_F(OverviewViewTest, GroupsCountSharedMemoryOnceWhenItIsKnown) {
         memory->toolTip().contains(QStringLiteral("Groups 600 MB\nof these, caches of files −200 MB")));
 }
 
+TEST_F(OverviewViewTest, AGroupsNoteIsInItsToolTipAndDescription) {
+    GroupRow row(ProcGroup::agents);
+    const auto* shown = row.findChild<GroupHeader*>();
+    row.setNote(u"5 sessions"_s);
+    EXPECT_EQ(shown->accessibleDescription(), u"Collapsed, 5 sessions"_s);
+    EXPECT_TRUE(shown->toolTip().contains(u"\n5 sessions"_s));
+    row.setNote({});
+    EXPECT_EQ(shown->accessibleDescription(), u"Collapsed"_s);
+}
+
 TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {
     addProcesses(3, "chrome", 10);
     addProcesses(1, "bash", 20);

@@ -15,13 +15,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Returns the time of a day that is today, else also the day.
-QString timeText(Instant instant) {
+QDateTime local(Instant instant) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(instant.time_since_epoch());
-    const auto time = QDateTime::fromSecsSinceEpoch(seconds.count());
-    const QLocale locale;
-    return time.date() == QDate::currentDate() ? locale.toString(time.time(), QLocale::ShortFormat)
-                                               : locale.toString(time, QLocale::ShortFormat);
+    return QDateTime::fromSecsSinceEpoch(seconds.count());
+}
+
+/// Returns the time of a day, with the day unless it is that of `now`.
+QString timeText(Instant instant, Instant now) {
+    const QDateTime time = local(instant);
+    return time.date() == local(now).date() ? QLocale().toString(time.time(), QLocale::ShortFormat)
+                                            : QLocale().toString(time, QLocale::ShortFormat);
 }
 
 QString host(const QString& agent, const QString& folder) {
@@ -44,19 +47,19 @@ QString titleOf(const LeftOver& leftOver) {
 }
 
 QString titleOf(const DuplicateServers& servers) {
-    return QCoreApplication::translate("Remains", "%1 runs %n time(s) under %2", nullptr,
-                                       serverCount(servers) + 1)
+    const int n = serverCount(servers) + 1; // with the newest
+    return QCoreApplication::translate("Remains", "%1 runs %n time(s) under %2", nullptr, n)
         .arg(Formatters::visible(servers.label), host(servers.agent, servers.folder));
 }
 
-QString detailsOf(const LeftOver& leftOver) {
+QString detailsOf(const LeftOver& leftOver, Instant now) {
     const QString parts = SessionTexts::partCounts(leftOver.processes);
-    return leftOver.ended
-               ? QCoreApplication::translate("Remains", "ended %1: %2").arg(timeText(*leftOver.ended), parts)
-               : parts;
+    return leftOver.ended ? QCoreApplication::translate("Remains", "ended %1: %2")
+                                .arg(timeText(*leftOver.ended, now), parts)
+                          : parts;
 }
 
-QString detailsOf(const DuplicateServers& servers) {
+QString detailsOf(const DuplicateServers& servers, Instant) {
     return QCoreApplication::translate("Remains", "%n older one(s)", nullptr, serverCount(servers));
 }
 
@@ -72,8 +75,12 @@ QString Remains::title() const {
     return std::visit([](const auto& each) { return titleOf(each); }, what);
 }
 
-QString Remains::details() const {
-    return std::visit([](const auto& each) { return detailsOf(each); }, what);
+QString Remains::details(Instant now) const {
+    return std::visit([now](const auto& each) { return detailsOf(each, now); }, what);
+}
+
+QString Remains::symbol() const {
+    return std::holds_alternative<LeftOver>(what) ? u"tray"_s : u"rectangle.on.rectangle"_s;
 }
 
 QString Remains::endText() const {

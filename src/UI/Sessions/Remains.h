@@ -17,8 +17,9 @@ struct Remains {
     QString key() const;
     /// Returns "Left by claude in ~/src/app".
     QString title() const;
-    /// Returns "ended 14:02: 3 servers, 1 browser".
-    QString details() const;
+    /// Returns "ended 14:02: 3 servers, 1 browser", with the day unless it is that of `now`.
+    QString details(Instant now) const;
+    QString symbol() const;
     /// Returns the text of the button that ends it.
     QString endText() const;
     const QList<SessionProcess>& processes() const;

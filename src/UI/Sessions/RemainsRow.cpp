@@ -6,6 +6,7 @@
 #include "UI/Sessions/SessionTexts.h"
 #include "UI/Sessions/SessionTree.h"
 #include "UI/Style/Painting.h"
+#include "UI/Style/Symbols.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int figureGap = 14;
+constexpr int remainsSymbolSize = 14;
 
 /// Returns the width of the buttons of both kinds, so that the figures stand below each other.
 int widestButton() {
@@ -35,9 +37,10 @@ int widestButton() {
 
 } // namespace
 
-void RemainsHeader::set(const Remains& remains) {
+void RemainsHeader::set(const Remains& remains, Instant now) {
+    m_symbol = remains.symbol();
     m_title = remains.title();
-    m_details = remains.details();
+    m_details = remains.details(now);
     m_memory = remains.memory().text();
     m_parts = SessionTexts::memoryParts(remains.memory());
     setAccessibleName(u"%1, %2, %3"_s.arg(m_title, m_details, remains.memory().description()));
@@ -57,6 +60,9 @@ void RemainsHeader::paintEvent(QPaintEvent*) {
     const QRectF memory = Painting::takeRight(line, memoryWidth, figureGap);
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText, QFont::Medium);
     Painting::drawTabular(painter, memory, Qt::AlignRight, m_memory);
+    const QRectF symbol(line.left() - 1, line.top(), remainsSymbolSize, line.height());
+    Symbols::draw(painter, m_symbol, Theme::color(Role::secondaryText), symbol, remainsSymbolSize);
+    line.setLeft(line.left() + symbolColumn);
     Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
     Painting::drawElided(painter, upperLine(line), Qt::ElideMiddle, m_title);
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
@@ -92,11 +98,13 @@ RemainsRow::RemainsRow(QWidget* parent)
 
 void RemainsRow::set(const Remains& remains, const Setting& setting) {
     m_remains = remains;
-    m_header->set(remains);
+    m_header->set(remains, setting.now);
     m_header->setExpanded(setting.isExpanded);
     m_end->setText(remains.endText());
-    m_end->setEnabled(!setting.isEnding);
-    m_end->setBusy(setting.isEnding);
+    if (m_end->isEnabled() == setting.isEnding) {
+        m_end->setEnabled(!setting.isEnding);
+        m_end->setBusy(setting.isEnding);
+    }
     if (setting.isExpanded)
         m_tree->set(remains.processes(), setting.now);
     m_tree->setVisible(setting.isExpanded);

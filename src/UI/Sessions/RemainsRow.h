@@ -13,13 +13,14 @@ class RemainsHeader : public RowHeader {
 public:
     using RowHeader::RowHeader;
 
-    void set(const Remains& remains);
+    void set(const Remains& remains, Instant now);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void describeState() override;
 
 private:
+    QString m_symbol;
     QString m_title;
     QString m_details;
     QString m_memory;

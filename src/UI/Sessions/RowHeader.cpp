@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOption>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -71,7 +72,10 @@ void RowHeader::keyPressEvent(QKeyEvent* event) {
 
 QRectF RowHeader::paintGround(QPainter& painter) const {
     const QRectF ground = QRectF(rect()).adjusted(2, 2, -2, -2);
-    Painting::drawFeedback(painter, *this, Theme::controlRadius);
+    QStyleOption option;
+    option.initFrom(this);
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    Painting::drawFeedback(painter, ground, option.state, Theme::controlRadius);
     QRectF line = ground.adjusted(Theme::cardPadding - 2, 0, 0, 0);
     const auto chevron = m_expanded ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
     Symbols::draw(painter, chevron, Theme::color(Role::secondaryText),

@@ -12,6 +12,7 @@ class RowHeader : public QAbstractButton {
 public:
     static constexpr int height = 50;
     static constexpr int chevronColumn = 24; ///< with the gap beside it
+    static constexpr int symbolColumn = 22;  ///< with the gap beside it
     static constexpr int memoryWidth = 92;
 
     explicit RowHeader(QWidget* parent = nullptr);
@@ -31,10 +32,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     /// Draws the light, the focus ring and the chevron. Returns what is left of the line.
     QRectF paintGround(QPainter& painter) const;
-    /// Draws a text above another in the middle of `cell`, in the styles of a row. The first has tabular
-    /// digits.
+    /// Return the place of a body text and of a caption below it, together in the middle of `cell`.
     static QRectF upperLine(const QRectF& cell);
     static QRectF lowerLine(const QRectF& cell);
+    /// Sets the description, which says whether the row is open.
     virtual void describeState() = 0;
 
 private:

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int maxListHeight = 220;
+constexpr int maxListHeight = 260;
 constexpr SessionPart parts[] = {SessionPart::agent, SessionPart::server, SessionPart::devServer,
                                  SessionPart::browser, SessionPart::command};
 
@@ -76,13 +76,15 @@ void SessionDialogs::askEnd(QWidget* parent, QObject* owner, const Question& que
 
 void SessionDialogs::askPause(QWidget* parent, QObject* owner, const Session& session,
                               const std::function<void()>& act) {
-    const QString text = QCoreApplication::translate(
+    const QString effect = QCoreApplication::translate(
+        "SessionDialogs", "Stops the session and all that it started: they keep their memory and use no "
+                          "processor time until you resume them, or close this program.");
+    const QString afterwards = QCoreApplication::translate(
         "SessionDialogs",
-        "Stops the session and all that it started: they keep their memory and use no processor time until "
-        "you resume them, or close this program.\n\nThe terminal's shell may report the agent as stopped. "
-        "After Resume, type fg there.");
+        "The terminal's shell may report the agent as stopped. After Resume, type fg there.");
     auto* dialog = new ConfirmDialog(
-        parent, QCoreApplication::translate("SessionDialogs", "Pause %1?").arg(session.title()), text);
+        parent, QCoreApplication::translate("SessionDialogs", "Pause %1?").arg(session.title()),
+        effect + u"\n\n"_s + afterwards);
     auto* button =
         dialog->addAction(QCoreApplication::translate("SessionDialogs", "Pause"), PushButton::Look::normal);
     QObject::connect(button, &QPushButton::clicked, owner, act);

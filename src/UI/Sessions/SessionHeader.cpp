@@ -18,11 +18,18 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int stateSymbolSize = 12;
-constexpr int stateColumn = 22;
 constexpr int cpuWidth = 46;
 constexpr QSize sparklineSize(56, 24);
 constexpr int figureGap = 14;
 constexpr int barHeight = 4;
+
+/// Returns the parts in one line, without those at the end that do not fit.
+QString fitting(QStringList parts, const QFontMetricsF& metrics, double width) {
+    const QString bullet = u" • "_s;
+    while (parts.size() > 2 && metrics.horizontalAdvance(parts.join(bullet)) > width)
+        parts.removeLast();
+    return parts.join(bullet);
+}
 
 } // namespace
 
@@ -39,15 +46,15 @@ SessionHeader::Texts SessionHeader::textsOf(const Session& session, Instant now)
         if (!text.isEmpty())
             aside.append(Formatters::visible(text));
     }
-    QStringList details{SessionTexts::lastActive(session, now),
-                        SessionTexts::processCount(session.processes.size())};
+    QStringList details{SessionTexts::processCount(session.processes.size())};
     if (!session.folder.isEmpty() || !session.version.isEmpty())
         details.append(SessionTexts::agent(session));
     if (session.memory.swapBytes > 0)
         details.append(tr("%1 in swap").arg(Formatters::bytes(session.memory.swapBytes)));
     return {.heading = SessionTexts::heading(session),
             .aside = aside.join(u" • "_s),
-            .details = details.join(u" • "_s),
+            .lastActive = SessionTexts::lastActive(session, now),
+            .details = details,
             .memory = session.memory.text(),
             .cpu = Formatters::percent(session.cpuPercent)};
 }
@@ -68,8 +75,8 @@ void SessionHeader::set(const Session& session, Instant now, quint64 largestByte
     setAccessibleName(
         tr("%1, %2, %3, %4 CPU, %5")
             .arg(m_texts.aside.isEmpty() ? m_texts.heading : m_texts.heading + u", "_s + m_texts.aside,
-                 SessionTexts::lookOf(m_state).text, QString(m_texts.details).replace(u" • "_s, u", "_s),
-                 m_texts.cpu, session.memory.description()));
+                 SessionTexts::lookOf(m_state).text + u", "_s + tr("last active %1").arg(m_texts.lastActive),
+                 m_texts.details.join(u", "_s), m_texts.cpu, session.memory.description()));
     setToolTip(Formatters::toolTip(
         u"%1\n%2\n%3"_s.arg(Formatters::visible(session.folder.isEmpty() ? session.agent : session.folder),
                             m_texts.aside, m_parts)));
@@ -120,7 +127,8 @@ void SessionHeader::paintFigures(QPainter& painter, QRectF& line) {
     Painting::drawProgress(painter, bar, m_share, Theme::color(tint()));
 
     const QRectF cpu = Painting::takeRight(line, cpuWidth, figureGap);
-    Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
+    const bool isBusy = m_texts.cpu != Formatters::percent(0);
+    Painting::setTextStyle(painter, TextStyle::callout, isBusy ? Role::primaryText : Role::secondaryText);
     Painting::drawTabular(painter, upperLine(cpu), Qt::AlignRight, m_texts.cpu);
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, lowerLine(cpu), Qt::AlignRight, tr("CPU"));
@@ -131,7 +139,7 @@ void SessionHeader::paintTexts(QPainter& painter, QRectF line) {
     const SessionTexts::StateLook look = SessionTexts::lookOf(m_state);
     Symbols::draw(painter, look.symbol, Theme::color(look.role),
                   QRectF(line.left(), line.top(), stateSymbolSize, line.height()), stateSymbolSize);
-    line.setLeft(line.left() + stateColumn);
+    line.setLeft(line.left() + symbolColumn);
 
     QRectF upper = upperLine(line);
     Painting::setTextStyle(painter, TextStyle::body, Role::primaryText, QFont::Medium);
@@ -139,7 +147,7 @@ void SessionHeader::paintTexts(QPainter& painter, QRectF line) {
     upper.setLeft(upper.left() + QFontMetricsF(painter.font()).horizontalAdvance(m_texts.heading) +
                   Theme::rowSpacing);
     Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
-    if (upper.width() > stateColumn)
+    if (upper.width() > symbolColumn)
         Painting::drawElided(painter, upper, Qt::ElideRight, m_texts.aside);
 
     QRectF lower = lowerLine(line);
@@ -147,5 +155,7 @@ void SessionHeader::paintTexts(QPainter& painter, QRectF line) {
     Painting::drawElided(painter, lower, Qt::ElideRight, look.text);
     lower.setLeft(lower.left() + QFontMetricsF(painter.font()).horizontalAdvance(look.text));
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
-    Painting::drawElided(painter, lower, Qt::ElideRight, u" • "_s + m_texts.details);
+    Painting::drawElided(painter, lower, Qt::ElideRight,
+                         fitting(QStringList{QString(), m_texts.lastActive} + m_texts.details,
+                                 QFontMetricsF(painter.font()), lower.width()));
 }

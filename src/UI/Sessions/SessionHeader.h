@@ -26,7 +26,8 @@ private:
     struct Texts {
         QString heading; ///< the project
         QString aside;   ///< the name and what it waits for
-        QString details; ///< what follows the state: activity, processes, agent, swap
+        QString lastActive;
+        QStringList details; ///< what follows: processes, agent, swap
         QString memory;
         QString cpu;
 
@@ -42,7 +43,6 @@ private:
     SessionState m_state = SessionState::idle;
     Texts m_texts;
     QString m_parts;
-    QString m_waitingFor;
     QList<double> m_trend;
     double m_share = 0;
     Sparkline* m_sparkline;

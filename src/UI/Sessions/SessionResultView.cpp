@@ -71,7 +71,7 @@ QLayout* SessionResultView::makeResume(const QString& command) {
     connect(copy, &QPushButton::clicked, this, [command] { QGuiApplication::clipboard()->setText(command); });
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
-    row->addWidget(text, 1);
+    row->addWidget(text, 1, Qt::AlignVCenter);
     row->addWidget(copy);
     return row;
 }

@@ -70,12 +70,7 @@ void SessionRow::set(const Session& session, const Setting& setting) {
     if (hadFocus)
         (isPaused ? m_resume : m_pause)->setFocus();
     m_folder->setEnabled(!session.folder.isEmpty());
-    m_isEnding = setting.isEnding;
-    for (QAbstractButton* button :
-         {static_cast<QAbstractButton*>(m_pause), static_cast<QAbstractButton*>(m_resume),
-          static_cast<QAbstractButton*>(m_end)})
-        button->setEnabled(!m_isEnding);
-    m_end->setBusy(m_isEnding);
+    showEnding(setting.isEnding);
     if (setting.isExpanded)
         m_tree->set(session.processes, setting.now);
     m_tree->setVisible(setting.isExpanded);
@@ -83,6 +78,16 @@ void SessionRow::set(const Session& session, const Setting& setting) {
         m_isFirst = setting.isFirst;
         update();
     }
+}
+
+void SessionRow::showEnding(bool isEnding) {
+    if (isEnding == m_isEnding)
+        return;
+    m_isEnding = isEnding;
+    m_pause->setEnabled(!isEnding);
+    m_resume->setEnabled(!isEnding);
+    m_end->setEnabled(!isEnding);
+    m_end->setBusy(isEnding);
 }
 
 void SessionRow::paintEvent(QPaintEvent*) {

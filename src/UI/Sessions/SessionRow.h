@@ -43,6 +43,7 @@ protected:
 
 private:
     IconButton* addButton(const QString& symbol, const QString& help, SessionAction action);
+    void showEnding(bool isEnding);
     void fill(QMenu& menu);
 
     Session m_session;

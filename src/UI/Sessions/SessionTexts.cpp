@@ -76,7 +76,7 @@ StateLook lookOf(SessionState state) {
     case SessionState::waiting:
         return {u"bell"_s, Role::orange, QCoreApplication::translate("SessionTexts", "Waiting for you")};
     case SessionState::paused:
-        return {u"pause"_s, Role::indigo, QCoreApplication::translate("SessionTexts", "Paused")};
+        return {u"pause.fill"_s, Role::indigo, QCoreApplication::translate("SessionTexts", "Paused")};
     case SessionState::idle:
         break;
     }
@@ -96,7 +96,8 @@ QString headingOf(SessionPart part) {
 }
 
 QString count(qsizetype sessions) {
-    return QCoreApplication::translate("SessionTexts", "%n session(s)", nullptr, static_cast<int>(sessions));
+    const int n = static_cast<int>(sessions);
+    return QCoreApplication::translate("SessionTexts", "%n session(s)", nullptr, n);
 }
 
 QString summary(const SessionReport& report) {
@@ -109,8 +110,8 @@ QString summary(const SessionReport& report) {
 }
 
 QString processCount(qsizetype processes) {
-    return QCoreApplication::translate("SessionTexts", "%n process(es)", nullptr,
-                                       static_cast<int>(processes));
+    const int n = static_cast<int>(processes);
+    return QCoreApplication::translate("SessionTexts", "%n process(es)", nullptr, n);
 }
 
 QString partCounts(const QList<SessionProcess>& processes) {

@@ -28,6 +28,8 @@ namespace {
 
 enum Page { list, nothing, noMatch };
 
+constexpr int emptyTextWidth = 460;
+
 /// The button of a row that has the focus, by the session and its place in the row. The rows are reused, so
 /// the focus has to follow its session.
 class FocusKeeper {
@@ -87,11 +89,17 @@ SessionsView::SessionsView(AppModel& model, Preferences& preferences, QWidget* p
     , m_leftOverRows(makeRemainsPool(m_leftOvers))
     , m_duplicateRows(makeRemainsPool(m_duplicates)) {
     m_stack->addWidget(makePage());
-    m_stack->addWidget(new EmptyState(
+    m_stack->addWidget(makeEmptyPage(
         QStringLiteral("bubble.prompt"), tr("No sessions"),
         tr("Coding agents that run in a terminal or an editor appear here, each with its MCP servers, dev "
            "servers, browsers and commands, and with what an ended one left running.")));
-    m_stack->addWidget(makeNoMatch());
+    auto* clear = new PushButton(tr("Clear search"));
+    connect(clear, &QPushButton::clicked, m_controls, &SessionControls::clearSearch);
+    m_stack->addWidget(makeEmptyPage(
+        QStringLiteral("magnifyingglass"), tr("No sessions match"),
+        tr("Every word of the search has to be in the agent, the project, the name, the state, a process or "
+           "a port of the session."),
+        clear));
 
     auto* top = new QVBoxLayout;
     top->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding, 0);
@@ -162,18 +170,18 @@ SessionsView::Group SessionsView::addGroup(QVBoxLayout* page, const QString& tit
     return group;
 }
 
-QWidget* SessionsView::makeNoMatch() {
+/// Returns what takes the place of the list, with a button that helps, if any.
+QWidget* SessionsView::makeEmptyPage(const QString& symbol, const QString& headline, const QString& text,
+                                     QWidget* button) {
     auto* page = new QWidget;
-    auto* clear = new PushButton(tr("Clear search"));
-    connect(clear, &QPushButton::clicked, m_controls, &SessionControls::clearSearch);
+    auto* state = new EmptyState(symbol, headline, text);
+    state->setFixedWidth(emptyTextWidth);
     auto* column = new QVBoxLayout(page);
-    column->addStretch();
-    column->addWidget(new EmptyState(
-        QStringLiteral("magnifyingglass"), tr("No sessions match"),
-        tr("Every word of the search has to be in the agent, the project, the name, the state, a process or "
-           "a port of the session.")));
-    column->addWidget(clear, 0, Qt::AlignHCenter);
-    column->addStretch();
+    column->addStretch(2);
+    column->addWidget(state, 0, Qt::AlignHCenter);
+    if (button)
+        column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addStretch(3);
     return page;
 }
 
@@ -218,6 +226,8 @@ void SessionsView::showReport() {
     showRemains(m_duplicates, m_duplicateRows, duplicates);
     const bool isEmpty =
         m_report.sessions.isEmpty() && m_report.leftOvers.isEmpty() && m_report.duplicates.isEmpty();
+    orderTabs();
+    m_controls->setVisible(!isEmpty);
     const bool hasRows = !sessions.isEmpty() || !leftOvers.isEmpty() || !duplicates.isEmpty();
     m_stack->setCurrentIndex(hasRows || m_results->count() > 0 ? list : isEmpty ? nothing : noMatch);
 }
@@ -248,6 +258,18 @@ void SessionsView::showRemains(const Group& group, RowPool<RemainsRow>& pool, co
                              .isEnding = m_actions->isEnding(key)});
     });
     group.widget->setVisible(!remains.isEmpty());
+}
+
+/// Lets Tab go through the rows from top to bottom: a row that is made later would be last.
+void SessionsView::orderTabs() {
+    QList<QAbstractButton*> buttons;
+    for (const Group& group : {m_sessions, m_leftOvers, m_duplicates})
+        buttons += group.widget->findChildren<QAbstractButton*>();
+    if (buttons.size() == m_tabStops)
+        return;
+    m_tabStops = buttons.size();
+    for (qsizetype i = 1; i < buttons.size(); ++i)
+        setTabOrder(buttons[i - 1], buttons[i]);
 }
 
 void SessionsView::toggle(const QString& key) {

@@ -42,11 +42,13 @@ private:
     Group addGroup(QVBoxLayout* page, const QString& title);
     RowPool<RemainsRow> makeRemainsPool(const Group& group);
     QWidget* makePage();
-    QWidget* makeNoMatch();
+    QWidget* makeEmptyPage(const QString& symbol, const QString& headline, const QString& text,
+                           QWidget* button = nullptr);
     void refresh();
     void showReport();
     void showSessions(const QList<Session>& sessions);
     void showRemains(const Group& group, RowPool<RemainsRow>& pool, const QList<Remains>& remains);
+    void orderTabs();
     void toggle(const QString& key);
     void step(const QWidget* from, int rows);
 
@@ -60,6 +62,7 @@ private:
     SessionReport m_report;
     SessionOrder m_order;
     QSet<QString> m_expanded; ///< keys of the open rows
+    qsizetype m_tabStops = 0; ///< buttons whose tab order is set
     Group m_sessions{};
     Group m_leftOvers{};
     Group m_duplicates{};
