@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "Core/Observable.h"
+#include "Core/Sampling/ProgramPath.h"
 #include "Platform/Identity.h"
 #include "Platform/PowerMode.h"
 #include "Preferences.h"
@@ -36,8 +37,9 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_preferences(preferences)
     , m_sampler(m_platform, [this](const ProcSample& process) { return m_grouper.groupOf(process); })
     , m_ledger(m_platform.processMemory, m_platform.clock)
-    , m_rules(*m_platform.identity)
+    , m_rules(*m_platform.identity, [this](const ProcSample& process) { return projectOf(process); })
     , m_servers(m_platform.processes, m_platform.clock)
+    , m_sessions(m_platform)
     , m_actionLog(m_platform.clock)
     , m_cleanup(m_platform, m_actionLog)
     , m_actions(m_platform, m_state, m_sampler, m_servers, m_actionLog)
@@ -77,18 +79,51 @@ void AppModel::tick() {
         return;
 
     QList<ProcSample> processes = m_sampler.sampleProcesses();
+    m_actions.pausedSessions().wake(processes);
     m_ledger.tick(processes);
     const QList<GroupRollup> rollups = GroupRollup::build(processes);
     std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
     publish(m_state.processes, std::move(processes));
     publish(m_state.groups, rollups);
-    publish(m_state.alerts,
-            m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(), m_preferences));
+    MCPInspector::Report mcpReport{.configured = m_mcpConfiguration.readConfigured(),
+                                   .live = m_servers.detectLive(m_state.processes),
+                                   .isUnknown = m_mcpConfiguration.isUnknown()};
+    followSessions(mcpReport.live);
+    publish(m_state.alerts, m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(),
+                                             m_preferences, m_state.sessions.sessions));
     if (RulesEngine::needsTrueMemory(sample, rollups, m_preferences))
         m_ledger.wantOnShow(pidsOf(ProcGroup::browsers));
-    publish(m_state.mcpReport, {.configured = m_mcpConfiguration.readConfigured(),
-                                .live = m_servers.detectLive(m_state.processes),
-                                .isUnknown = m_mcpConfiguration.isUnknown()});
+    publish(m_state.mcpReport, std::move(mcpReport));
+}
+
+void AppModel::followSessions(const QList<MCPInspector::LiveServer>& servers) {
+    m_sessions.follow(m_state.processes);
+    const bool hasRule = m_preferences.alertSessionBigEnabled();
+    m_hasSessions = std::exchange(m_wantsSessions, false) || hasRule;
+    publishSessions(m_hasSessions ? m_sessions.report(servers) : SessionReport());
+    if (!hasRule)
+        return;
+    for (const Session& session : m_state.sessions.sessions)
+        m_ledger.wantOnShow(session.pids());
+}
+
+void AppModel::publishSessions(SessionReport report) {
+    for (Session& session : report.sessions) {
+        if (m_actions.pausedSessions().contains(session.host))
+            session.state = SessionState::paused;
+    }
+    if (report != m_state.sessions)
+        publish(m_state.sessions, std::move(report));
+}
+
+void AppModel::wantSessions() {
+    m_wantsSessions = true;
+    if (!std::exchange(m_hasSessions, true))
+        publishSessions(m_sessions.report(m_state.mcpReport.live));
+}
+
+QString AppModel::projectOf(const ProcSample& process) const {
+    return ProgramPath::withTilde(QString::fromUtf8(m_platform.processes->workingDirectory(process.pid)));
 }
 
 QList<qint32> AppModel::pidsOf(ProcGroup group) const {
@@ -140,5 +175,3 @@ void AppModel::chooseGroup(const QList<ProcSample>& processes, std::optional<Pro
     publish(m_state.processes, std::move(regrouped));
     publish(m_state.groups, GroupRollup::build(m_state.processes));
 }
-
-void AppModel::wantSessions() {}

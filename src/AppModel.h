@@ -11,6 +11,7 @@
 #include "Core/Observable.h"
 #include "Core/Relief/AutoOptimizer.h"
 #include "Core/Sampling/Sampler.h"
+#include "Core/Sessions/SessionFinder.h"
 #include "Model/ProcessActions.h"
 #include "Model/PublishedState.h"
 #include "Platform/Platform.h"
@@ -74,6 +75,9 @@ private Q_SLOTS:
     void tick();
 
 private:
+    void followSessions(const QList<MCPInspector::LiveServer>& servers);
+    void publishSessions(SessionReport report);
+    QString projectOf(const ProcSample& process) const;
     void bindTimer(double intervalSeconds);
     void followPollInterval();
     void appendHistory(const SystemSample& sample);
@@ -89,6 +93,9 @@ private:
     RulesEngine m_rules;
     MCPConfiguration m_mcpConfiguration;
     ServerWatch m_servers;
+    SessionFinder m_sessions;
+    bool m_wantsSessions = false;
+    bool m_hasSessions = false; ///< the report is of the last full tick
     ActionLog m_actionLog;
     CacheCleanup m_cleanup;
     ProcessActions m_actions;

@@ -6,6 +6,7 @@
 #include "Core/Relief/NukePreview.h"
 #include "Core/Relief/SignalGate.h"
 #include "Core/Sampling/Sampler.h"
+#include "Core/Sessions/PausedSessions.h"
 #include "Core/Sessions/Session.h"
 #include "Core/Sessions/SessionEnding.h"
 #include "Model/PublishedState.h"
@@ -76,6 +77,16 @@ public:
     /// Stops the processes of a session until `resumeSession`, or until this program ends.
     Outcome pauseSession(const Session& session);
     Outcome resumeSession(const Session& session);
+    const PausedSessions& pausedSessions() const { return m_paused; }
+
+    struct SessionDelays {
+        std::chrono::milliseconds forHost{5000}; ///< to save
+        std::chrono::milliseconds forOthers{2000};
+        std::chrono::milliseconds betweenLooks{250};
+        std::chrono::milliseconds beforeMeasuring{1500};
+    };
+    /// Replaces the delays, in tests only.
+    void setSessionDelays(SessionDelays delays) { m_sessionDelays = delays; }
 
     /// Returns the processes of exactly that name, without this program.
     NukePreview previewForName(const QString& name) const;
@@ -89,6 +100,8 @@ public:
     QCoro::Task<QString> nukeGracefulApp(NukePreview preview, QString appName, bool force);
 
 private:
+    SessionEnding endingOf(const QString& title, const QList<SessionProcess>& processes) const;
+    bool mayEnd(const ProcSample& process, const SessionEnding& ending) const;
     void signalChosen(const ProcSample& chosen, bool force);
     int signalServer(const MCPInspector::LiveServer& server, bool force);
     QList<ProcSample> reinspectedOrphans() const;
@@ -105,4 +118,6 @@ private:
     ActionLog& m_log;
     SignalGate m_gate;
     FreeRAMDelays m_freeRAMDelays;
+    SessionDelays m_sessionDelays;
+    PausedSessions m_paused;
 };

@@ -3,7 +3,6 @@
 #include "Core/Sampling/ProcessFilter.h"
 #include "Platform/Identity.h"
 #include "Platform/Relief.h"
-#include "Platform/Signals.h"
 
 #include <QCoroTimer>
 #include <QPointer>
@@ -21,32 +20,6 @@ using Handles = QList<std::shared_ptr<ProcessHandle>>;
 constexpr qsizetype maxCandidates = 15;
 /// A process of no known group is offered from a decimal gigabyte on.
 constexpr quint64 largeUnknownBytes = 1'000'000'000;
-
-KillOutcome outcomeOf(SignalResult result, KillOutcome delivered, KillOutcome gone) {
-    switch (result) {
-    case SignalResult::delivered:
-        return delivered;
-    case SignalResult::notPermitted:
-        return KillOutcome::denied;
-    case SignalResult::noSuchProcess:
-        return gone;
-    case SignalResult::other:
-        break;
-    }
-    return KillOutcome::ignored;
-}
-
-KillOutcome askToEnd(ProcessHandle& process) {
-    return outcomeOf(process.send(Signal::terminate), KillOutcome::quit, KillOutcome::ignored);
-}
-
-/// Kills a process also after a failed probe, which says nothing about its end.
-KillOutcome killIfPresent(ProcessHandle& process) {
-    const SignalResult probed = process.send(Signal::probe);
-    if (probed == SignalResult::noSuchProcess || probed == SignalResult::notPermitted)
-        return KillOutcome::quit;
-    return outcomeOf(process.send(Signal::kill), KillOutcome::forced, KillOutcome::quit);
-}
 
 void runSecondPass(QList<Record>& records, const Handles& handles) {
     for (qsizetype i = 0; i < records.size(); ++i) {

@@ -7,6 +7,7 @@ class Applications;
 class Clock;
 class HostStatistics;
 class Identity;
+class ListeningPorts;
 class LoginItem;
 class Places;
 class PowerMode;
@@ -21,6 +22,7 @@ struct Platform {
     std::shared_ptr<HostStatistics> host;
     std::shared_ptr<ProcessTable> processes;
     std::shared_ptr<ProcessMemory> processMemory;
+    std::shared_ptr<ListeningPorts> listeningPorts;
     std::shared_ptr<PowerMode> power;
     std::shared_ptr<Identity> identity;
     std::shared_ptr<Clock> clock;

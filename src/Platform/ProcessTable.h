@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
+#include <QHash>
 #include <QtGlobal>
 
 #include <chrono>
@@ -35,6 +37,15 @@ struct ProcessOrigin {
     quint64 textHash = 0; ///< of the texts above
 };
 
+/// What a process got from those that started it, and keeps when they have ended.
+struct ProcessInheritance {
+    qint32 sessionLeader = 0;                ///< of its process session (setsid(2)); 0 when unknown
+    QByteArray controlGroup;                 ///< empty when unknown
+    QHash<QByteArray, QByteArray> variables; ///< of those asked for, the ones in its environment
+
+    bool operator==(const ProcessInheritance&) const = default;
+};
+
 /// The service manager or container that keeps a process running.
 struct ProcessKeeper {
     enum class Kind { none, service, container };
@@ -64,4 +75,6 @@ public:
     /// Returns an empty path when the working directory is unreadable.
     virtual QByteArray workingDirectory(qint32 pid) = 0;
     virtual ProcessKeeper keeper(qint32 pid) = 0;
+    /// Asks for environment variables by name. An unreadable environment has none.
+    virtual ProcessInheritance inheritance(qint32 pid, const QByteArrayList& variables) = 0;
 };

@@ -5,7 +5,7 @@
 #include <memory>
 
 /// The signals this program sends; the values are the ones kill(2) takes.
-enum class Signal { probe = 0, kill = 9, terminate = 15 };
+enum class Signal { probe = 0, kill = 9, terminate = 15, resume = 18, pause = 19 };
 
 /// The result of sending a signal, as of kill(2).
 enum class SignalResult {

@@ -195,5 +195,5 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     int ticks = 1;
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
-    EXPECT_EQ(ticks, 26) << "15 - 40 ms, and one more each tick";
+    EXPECT_EQ(ticks, 27) << "15 - 40 ms, the hand-over, and one more each tick";
 }

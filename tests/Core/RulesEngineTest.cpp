@@ -217,3 +217,26 @@ TEST_F(RulesEngineTest, ThresholdsThatNoByteCountExpressesSkipTheirRule) {
         EXPECT_TRUE(ids().isEmpty()) << bad;
     }
 }
+
+TEST_F(RulesEngineTest, ALargeSessionByWhatIsKnownOfIt) {
+    Session session{.host = {.pid = 7}, .agent = u"claude"_s, .folder = u"/src/app"_s};
+    session.processes.resize(3);
+    session.memory = {.bytes = 19 * GiB / 2};
+    const auto alerts = [&] { return rules.evaluate(system, processes, groups, caches, prefs, {session}); };
+    EXPECT_EQ(alerts(), QList<Alert>()) << "it is off at first";
+    prefs.alertSessionBigEnabled.set(true);
+    ASSERT_EQ(alerts().size(), 1);
+    EXPECT_EQ(alerts()[0].id, u"session_big_7"_s);
+    EXPECT_EQ(alerts()[0].title, u"claude in /src/app holds 9.5 GB"_s);
+    EXPECT_EQ(alerts()[0].actionPid, std::nullopt);
+    session.memory.standInBytes = 2 * GiB;
+    EXPECT_EQ(alerts(), QList<Alert>());
+}
+
+TEST_F(RulesEngineTest, AnIdleAgentIsNamedWithItsProject) {
+    RulesEngine named(identity, [](const ProcSample&) { return u"~/src/app"_s; });
+    processes = {process(7, u"claude"_s, ProcGroup::agents, 0, 800 * MiB, 960)};
+    const auto alerts = named.evaluate(system, processes, groups, caches, prefs);
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_EQ(alerts[0].title, u"Idle agent — claude in ~/src/app"_s);
+}

@@ -5,6 +5,7 @@
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
+#include "Platform/ListeningPorts.h"
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/ProcessMemory.h"
@@ -60,6 +61,7 @@ struct FakeProcess {
     std::optional<KernelProcessInfo> info = KernelProcessInfo{};
     QByteArray folder = {};
     ProcessKeeper keeper = {};
+    ProcessInheritance inheritance = {};
 };
 
 class FakeProcessTable : public ProcessTable {
@@ -69,6 +71,7 @@ public:
     bool fails = false;
     int metadataLookUps = 0;
     int textHashes = 0;
+    QList<qint32> inheritances; ///< the PIDs whose inheritance was read
 
     FakeProcess& add(qint32 pid, FakeProcess process = {}) {
         listing.append(pid);
@@ -103,6 +106,10 @@ public:
     }
     QByteArray workingDirectory(qint32 pid) override { return processes.value(pid).folder; }
     ProcessKeeper keeper(qint32 pid) override { return processes.value(pid).keeper; }
+    ProcessInheritance inheritance(qint32 pid, const QByteArrayList&) override {
+        inheritances.append(pid);
+        return processes.value(pid).inheritance;
+    }
 
 private:
     static quint64 hashOf(const FakeProcess& process) {
@@ -134,6 +141,23 @@ private:
         readings.append(request.arg(pid));
         const auto found = uses.constFind(pid);
         return {.use = found == uses.cend() ? std::nullopt : std::optional(*found), .cost = cost};
+    }
+};
+
+class FakeListeningPorts : public ListeningPorts {
+public:
+    QList<ListeningSocket> listening;
+    QHash<qint32, QList<quint64>> byProcess;
+    QList<qint32> searched; ///< the PIDs whose sockets were read
+    int listings = 0;
+
+    QList<ListeningSocket> sockets() override {
+        ++listings;
+        return listening;
+    }
+    QList<quint64> socketsOf(qint32 pid) override {
+        searched.append(pid);
+        return byProcess.value(pid);
     }
 };
 
@@ -183,6 +207,7 @@ struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
     std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();
     std::shared_ptr<FakeProcessMemory> processMemory = std::make_shared<FakeProcessMemory>();
+    std::shared_ptr<FakeListeningPorts> listeningPorts = std::make_shared<FakeListeningPorts>();
     std::shared_ptr<FakePowerMode> power = std::make_shared<FakePowerMode>();
     std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
@@ -196,6 +221,7 @@ struct FakePlatform {
         return {.host = host,
                 .processes = processes,
                 .processMemory = processMemory,
+                .listeningPorts = listeningPorts,
                 .power = power,
                 .identity = identity,
                 .clock = clock,

@@ -65,7 +65,9 @@ private:
             return process->script.probe;
         m_sent.append({.pid = pid, .signal = signal, .life = life});
         const SignalResult result = signal == Signal::kill ? process->script.kill : process->script.terminate;
-        if (result == SignalResult::delivered && (signal == Signal::kill || process->script.endsOnTerminate))
+        const bool isEnd =
+            signal == Signal::kill || (signal == Signal::terminate && process->script.endsOnTerminate);
+        if (result == SignalResult::delivered && isEnd)
             process->running = false;
         return result;
     }

@@ -112,10 +112,16 @@ std::optional<Alert> swapAlert(const SystemSample& system) {
                          .arg(oneDecimal(swap))};
 }
 
-Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
+QString idleAgentTitle(const QString& name, const QString& project) {
+    return project.isEmpty()
+               ? QCoreApplication::translate("RulesEngine", "Idle agent — %1").arg(name)
+               : QCoreApplication::translate("RulesEngine", "Idle agent — %1 in %2").arg(name, project);
+}
+
+Alert idleAgentAlert(const ProcSample& process, const QString& project, bool maySignal) {
     return {.id = u"idle_agent_%1"_s.arg(process.pid),
             .severity = Severity::warn,
-            .title = QCoreApplication::translate("RulesEngine", "Idle agent — %1").arg(process.name),
+            .title = idleAgentTitle(process.name, project),
             .detail =
                 (maySignal ? QCoreApplication::translate("RulesEngine", "Idle %1 min, %2 RAM. Quit?")
                            : QCoreApplication::translate("RulesEngine", "Idle %1 min, %2 RAM."))
@@ -124,7 +130,7 @@ Alert idleAgentAlert(const ProcSample& process, bool maySignal) {
 }
 
 QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs,
-                             const ProcessFilter& maySignal) {
+                             const ProcessFilter& maySignal, const RulesEngine::ProjectOf& projectOf) {
     const auto minBytes = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
     if (!prefs.alertIdleAgentEnabled() || !minBytes)
         return {};
@@ -134,7 +140,8 @@ QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferenc
         const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minIdleSeconds &&
                                process.rssBytes > *minBytes;
         if (qualifies)
-            alerts.append(idleAgentAlert(process, maySignal.accepts(process)));
+            alerts.append(idleAgentAlert(process, projectOf ? projectOf(process) : QString(),
+                                         maySignal.accepts(process)));
     }
     return alerts;
 }
@@ -183,6 +190,27 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
                  .actionTarget = u"caches"_s};
 }
 
+/// Judges the memory that is known, like the alert on browsers.
+QList<Alert> sessionAlerts(const QList<Session>& sessions, const Preferences& prefs) {
+    const auto limit = gigabytes(prefs.alertSessionBigGB());
+    if (!prefs.alertSessionBigEnabled() || !limit)
+        return {};
+    QList<Alert> alerts;
+    for (const Session& session : sessions) {
+        if (session.memory.bytes - session.memory.standInBytes <= *limit)
+            continue;
+        alerts.append({.id = u"session_big_%1"_s.arg(session.host.pid),
+                       .severity = Severity::warn,
+                       .title = QCoreApplication::translate("RulesEngine", "%1 holds %2")
+                                    .arg(session.title(), session.memory.text()),
+                       .detail = QCoreApplication::translate(
+                           "RulesEngine", "With %n process(es) that it started. End it in Sessions.", nullptr,
+                           static_cast<int>(session.processes.size() - 1)),
+                       .actionTarget = u"sessions"_s});
+    }
+    return alerts;
+}
+
 } // namespace
 
 bool RulesEngine::needsTrueMemory(const SystemSample& system, const QList<GroupRollup>& groups,
@@ -196,7 +224,7 @@ bool RulesEngine::needsTrueMemory(const SystemSample& system, const QList<GroupR
 
 QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcSample>& processes,
                                    const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
-                                   const Preferences& prefs) {
+                                   const Preferences& prefs, const QList<Session>& sessions) {
     QList<Alert> alerts;
     const auto add = [&alerts](const std::optional<Alert>& alert) {
         if (alert)
@@ -210,8 +238,9 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     if (prefs.alertThermalEnabled() && m_thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));
     add(swapAlert(system));
-    alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity)));
+    alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity), m_projectOf));
     add(browserAlert(system, groups, prefs));
     add(cachesAlert(caches, prefs));
+    alerts.append(sessionAlerts(sessions, prefs));
     return alerts;
 }

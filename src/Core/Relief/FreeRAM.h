@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Memory/MemoryReturn.h"
+#include "Core/Relief/KillOutcome.h"
 
 #include <QList>
 
@@ -14,18 +15,6 @@ struct FreeRamPreview {
     MemoryReturn givesBack; ///< when it ends alone
 
     bool operator==(const FreeRamPreview&) const = default;
-};
-
-/// The outcome for one process: it ended on request; it was killed; no signal could be delivered; the system
-/// denied permission.
-enum class KillOutcome { quit, forced, ignored, denied };
-
-template <>
-inline constexpr std::array rawValueTable<KillOutcome> = {
-    RawValueRow{KillOutcome::quit, u"quit"},
-    RawValueRow{KillOutcome::forced, u"forced"},
-    RawValueRow{KillOutcome::ignored, u"ignored"},
-    RawValueRow{KillOutcome::denied, u"denied"},
 };
 
 struct FreeRAMResult {

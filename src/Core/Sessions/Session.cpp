@@ -10,6 +10,13 @@ QString Session::project() const {
     return ProgramPath::withTilde(folder);
 }
 
+QList<qint32> Session::pids() const {
+    QList<qint32> pids;
+    for (const SessionProcess& each : processes)
+        pids.append(each.process.pid);
+    return pids;
+}
+
 QString Session::title() const {
     return folder.isEmpty() ? agent
                             : QCoreApplication::translate("Session", "%1 in %2").arg(agent, project());

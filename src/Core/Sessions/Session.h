@@ -46,6 +46,7 @@ struct Session {
 
     /// Returns the folder as a shell shows it, "~/src/app".
     QString project() const;
+    QList<qint32> pids() const;
     /// Returns "claude in ~/src/app".
     QString title() const;
     bool operator==(const Session&) const = default;
@@ -64,8 +65,8 @@ struct LeftOver {
 
 /// Servers with the same arguments under one host: all but the newest.
 struct DuplicateServers {
-    QString label; ///< of the server
-    ProcessIdentity host;
+    QString label;        ///< of the server
+    ProcessIdentity host; ///< of the session
     QString agent;
     QString folder;
     QList<SessionProcess> older; ///< with their launchers

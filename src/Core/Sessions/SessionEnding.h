@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/Memory/MemoryReturn.h"
-#include "Core/Relief/FreeRAM.h"
+#include "Core/Relief/KillOutcome.h"
 #include "Core/Sampling/ProcSample.h"
 
 #include <QList>
@@ -13,6 +13,7 @@ struct SessionEnding {
     QString title;                       ///< "claude in ~/src/app", "left-overs", "duplicates"
     std::optional<ProcessIdentity> host; ///< asked first and given time to save
     QList<ProcSample> processes;         ///< all of them, the host first
+    QList<ProcessIdentity> owners;       ///< the hosts of the running sessions that they belong to
     MemoryReturn givesBack;
     QString resumeCommand; ///< empty where there is none
 

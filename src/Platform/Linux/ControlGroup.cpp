@@ -1,5 +1,7 @@
 #include "Platform/Linux/ControlGroup.h"
 
+#include "Platform/Linux/Environment.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -22,8 +24,9 @@ bool beginsWithOne(const QByteArray& name, const auto& prefixes) {
     return std::ranges::any_of(prefixes, [&name](QByteArrayView prefix) { return name.startsWith(prefix); });
 }
 
-/// Returns the names of the groups from the root down, in the unified hierarchy ("0::") or systemd's own.
-QList<QByteArray> groupsOf(const QByteArray& cgroupFile) {
+} // namespace
+
+QByteArray ControlGroup::path(const QByteArray& cgroupFile) {
     QByteArray path;
     for (const QByteArray& line : cgroupFile.split('\n')) {
         const bool isUnified = line.startsWith("0::");
@@ -33,14 +36,12 @@ QList<QByteArray> groupsOf(const QByteArray& cgroupFile) {
         if (isNamed && line.size() > begin + 1)
             path = line.mid(begin + 1);
     }
-    return path.split('/');
+    return path;
 }
-
-} // namespace
 
 ProcessKeeper ControlGroup::keeper(const QByteArray& cgroupFile) {
     ProcessKeeper keeper;
-    const QList<QByteArray> groups = groupsOf(cgroupFile);
+    const QList<QByteArray> groups = path(cgroupFile).split('/'); // from the root down
     for (qsizetype i = 0; i < groups.size(); ++i) {
         const QByteArray& group = groups[i];
         const bool isNumbered =
@@ -54,10 +55,5 @@ ProcessKeeper ControlGroup::keeper(const QByteArray& cgroupFile) {
 }
 
 qint32 ControlGroup::mainPid(const QByteArray& environment) {
-    constexpr QByteArrayView variable = "SYSTEMD_EXEC_PID=";
-    for (const QByteArray& entry : environment.split('\0')) {
-        if (entry.startsWith(variable))
-            return entry.mid(variable.size()).toInt();
-    }
-    return 0;
+    return Environment::variables(environment, {"SYSTEMD_EXEC_PID"}).value("SYSTEMD_EXEC_PID").toInt();
 }

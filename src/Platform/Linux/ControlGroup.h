@@ -10,6 +10,10 @@ namespace ControlGroup {
 /// application.
 ProcessKeeper keeper(const QByteArray& cgroupFile);
 
+/// Returns the group's path in `/proc/N/cgroup`, in the unified hierarchy or systemd's own; empty without
+/// one.
+QByteArray path(const QByteArray& cgroupFile);
+
 /// Returns SYSTEMD_EXEC_PID from the text of `/proc/N/environ`, or 0.
 qint32 mainPid(const QByteArray& environment);
 

@@ -4,6 +4,7 @@
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
+#include "Platform/Linux/LinuxListeningPorts.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxProcessMemory.h"
 #include "Platform/Linux/LinuxProcessTable.h"
@@ -26,6 +27,7 @@ Platform Platform::native() {
     return {.host = std::make_shared<LinuxHostStatistics>(),
             .processes = std::make_shared<LinuxProcessTable>(),
             .processMemory = std::make_shared<LinuxProcessMemory>(),
+            .listeningPorts = std::make_shared<LinuxListeningPorts>(),
             .power = std::make_shared<LinuxPowerMode>(),
             .identity = std::make_shared<UnixIdentity>(),
             .clock = std::make_shared<SystemClock>(),

@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxProcessTable.h"
 
 #include "Platform/Linux/ControlGroup.h"
+#include "Platform/Linux/Environment.h"
 #include "Platform/Linux/KernelText.h"
 #include "Platform/Log.h"
 #include "Platform/Unix/DescriptorLimit.h"
@@ -307,6 +308,13 @@ ProcessKeeper LinuxProcessTable::keeper(qint32 pid) {
     if (keeper.kind == ProcessKeeper::Kind::service)
         keeper.mainPid = ControlGroup::mainPid(wholeFile(pid, "/environ"));
     return keeper;
+}
+
+ProcessInheritance LinuxProcessTable::inheritance(qint32 pid, const QByteArrayList& variables) {
+    const auto stat = readStat(pid);
+    return {.sessionLeader = stat ? stat->session : 0,
+            .controlGroup = ControlGroup::path(wholeFile(pid, "/cgroup")),
+            .variables = Environment::variables(wholeFile(pid, "/environ"), variables)};
 }
 
 QByteArray LinuxProcessTable::executablePath(qint32 pid) const {

@@ -42,6 +42,7 @@ public:
     QByteArray workingDirectory(qint32 pid) override;
     /// Reads `/proc/N/cgroup` and a service's SYSTEMD_EXEC_PID in `/proc/N/environ` (systemd.exec(5)).
     ProcessKeeper keeper(qint32 pid) override;
+    ProcessInheritance inheritance(qint32 pid, const QByteArrayList& variables) override;
 
 private:
     struct Process {

@@ -3,6 +3,7 @@
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
+#include "Platform/ListeningPorts.h"
 #include "Platform/LoginItem.h"
 #include "Platform/Places.h"
 #include "Platform/Platform.h"
@@ -30,12 +31,18 @@ class NullProcessTable : public ProcessTable {
     std::optional<quint64> textHash(qint32) override { return {}; }
     QByteArray workingDirectory(qint32) override { return {}; }
     ProcessKeeper keeper(qint32) override { return {}; }
+    ProcessInheritance inheritance(qint32, const QByteArrayList&) override { return {}; }
 };
 
 class NullProcessMemory : public ProcessMemory {
     ProcessMemoryReading readAll(qint32) override { return {}; }
     ProcessMemoryReading readTotals(qint32) override { return {}; }
     std::optional<ControlGroupMemory> controlGroup(qint32) override { return {}; }
+};
+
+class NullListeningPorts : public ListeningPorts {
+    QList<ListeningSocket> sockets() override { return {}; }
+    QList<quint64> socketsOf(qint32) override { return {}; }
 };
 
 class NullPowerMode : public PowerMode {
@@ -97,6 +104,7 @@ Platform Platform::native() {
     return {.host = std::make_shared<HostStatistics>(),
             .processes = std::make_shared<NullProcessTable>(),
             .processMemory = std::make_shared<NullProcessMemory>(),
+            .listeningPorts = std::make_shared<NullListeningPorts>(),
             .power = std::make_shared<NullPowerMode>(),
             .identity = std::make_shared<NullIdentity>(),
             .clock = std::make_shared<SystemClock>(),
