@@ -100,10 +100,10 @@ inline LeftOver leftOver(qint32 pid) {
 inline DuplicateServers duplicates(qint32 pid, const Session& host) {
     DuplicateServers result{
         .label = QStringLiteral("context7"), .host = host.host, .agent = host.agent, .folder = host.folder};
-    for (int i = 0; i < 3; ++i) {
-        result.older << process(pid + 2 * i, QStringLiteral("npx"), SessionPart::server, 0, 22 * MiB)
-                     << process(pid + 2 * i + 1, QStringLiteral("context7"), SessionPart::server, 1,
-                                48 * MiB);
+    for (int i = 0; i < 3; ++i, pid += 2) {
+        result.older.append(process(pid, QStringLiteral("npx"), SessionPart::server, 1, 22 * MiB));
+        result.older.append(process(pid + 1, QStringLiteral("context7"), SessionPart::server, 2, 48 * MiB));
+        result.older.last().process.parentPid = pid;
     }
     for (const SessionProcess& member : result.older)
         result.memory.add(member.process);

@@ -276,6 +276,32 @@ TEST_F(SessionsViewTest, AnEndIsAskedAboutAndMeansTheSessionThatWasPressed) {
     EXPECT_EQ(question(), u"End claude in /srv/shop?"_s);
 }
 
+TEST_F(SessionsViewTest, WhileAnEndRunsItsRowIsBusyAndThenTheResultIsShown) {
+    using namespace std::chrono_literals;
+    model.actions().setSessionDelays(
+        {.forHost = 20ms, .forOthers = 20ms, .betweenLooks = 5ms, .beforeMeasuring = 5ms});
+    addProcesses(2, "claude", 100 * MiB);
+    fakes.signalSender->start(100, {.endsOnTerminate = true});
+    tick();
+    Session running{.host = model.process(100)->identity(), .agent = u"claude"_s, .folder = u"/srv/app"_s};
+    for (const qint32 pid : {100, 101})
+        running.processes.append({.process = *model.process(pid)});
+    view->show({.sessions = {running}});
+    press(*row(0), u"End session"_s);
+    press(*dialog(), u"End session"_s);
+    EXPECT_FALSE(buttonNamed(*row(0), u"End session"_s)->isEnabled());
+    EXPECT_FALSE(buttonNamed(*row(0), u"Pause"_s)->isEnabled());
+    QTest::keyClick(header(0), Qt::Key_Delete);
+    settle();
+    EXPECT_FALSE(dialog()) << "an end under way is not asked about again";
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        const QStringList names = shownNames<QWidget>(*view);
+        return names.contains(u"claude (100) Quit"_s) && names.contains(u"claude (101) Force-killed"_s);
+    }));
+    EXPECT_TRUE(showsText(*view, u"claude in /srv/app: ended 2 of 2, freed ~0 bytes"_s));
+    EXPECT_TRUE(buttonNamed(*row(0), u"End session"_s)->isEnabled());
+}
+
 TEST_F(SessionsViewTest, ThePageMayCloseWhileAnEndRuns) {
     view->show({.sessions = {large(100, u"/srv/shop"_s)}});
     QTest::keyClick(header(0), Qt::Key_Delete);

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
+#include <QSet>
 
 #include <algorithm>
 
@@ -36,10 +37,12 @@ QString host(const QString& agent, const QString& folder) {
 
 /// Returns the number of servers: a launcher counts together with what it launched.
 int serverCount(const DuplicateServers& servers) {
-    const auto top = std::ranges::min_element(servers.older, {}, &SessionProcess::depth);
-    if (top == servers.older.end())
-        return 0;
-    return static_cast<int>(std::ranges::count(servers.older, top->depth, &SessionProcess::depth));
+    QSet<qint32> pids;
+    for (const SessionProcess& member : servers.older)
+        pids.insert(member.process.pid);
+    return static_cast<int>(std::ranges::count_if(servers.older, [&pids](const SessionProcess& member) {
+        return !pids.contains(member.process.parentPid);
+    }));
 }
 
 QString titleOf(const LeftOver& leftOver) {
@@ -66,9 +69,11 @@ QString detailsOf(const DuplicateServers& servers, Instant) {
 } // namespace
 
 QString Remains::key() const {
+    if (processes().isEmpty())
+        return {};
     if (const auto* servers = std::get_if<DuplicateServers>(&what))
-        return keyOf(servers->host) + u' ' + servers->label;
-    return processes().isEmpty() ? QString() : keyOf(processes().first().process.identity());
+        return keyOf(servers->host) + u' ' + processes().last().process.arguments;
+    return keyOf(processes().first().process.identity());
 }
 
 QString Remains::title() const {

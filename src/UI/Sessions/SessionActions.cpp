@@ -39,6 +39,7 @@ void SessionActions::act(SessionAction action, const Session& session) {
 
 void SessionActions::confirmEnd(const Session& session) {
     ask(keyOf(session.host), {.title = tr("End %1?").arg(session.title()),
+                              .subject = session.title(),
                               .button = tr("End session"),
                               .ending = m_model.actions().endingOf(session),
                               .processes = session.processes});
@@ -46,29 +47,36 @@ void SessionActions::confirmEnd(const Session& session) {
 
 void SessionActions::confirmEnd(const Remains& remains) {
     ask(remains.key(), {.title = remains.endText() + u'?',
+                        .subject = remains.title(),
                         .button = remains.endText(),
                         .ending = remains.ending(m_model.actions()),
                         .processes = remains.processes()});
 }
 
 void SessionActions::ask(const QString& key, const SessionDialogs::Question& question) {
-    SessionDialogs::askEnd(m_page->window(), this, question,
-                           [this, key, ending = question.ending] { end(key, ending); });
+    SessionDialogs::askEnd(m_page->window(), this, question, [this, key, question] { end(key, question); });
 }
 
-void SessionActions::end(const QString& key, const SessionEnding& ending) {
+void SessionActions::end(const QString& key, const SessionDialogs::Question& question) {
     if (m_ending.contains(key))
         return;
     m_ending.insert(key);
     Q_EMIT endingChanged();
-    m_model.actions().endSession(ending).then(
-        [self = QPointer<SessionActions>(this), key](const SessionEndResult& result) {
-            if (!self)
-                return;
-            self->m_ending.remove(key);
-            Q_EMIT self->endingChanged();
-            Q_EMIT self->ended(result);
+    m_model.actions()
+        .endSession(question.ending)
+        .then([self = QPointer<SessionActions>(this), key,
+               subject = question.subject](SessionEndResult result) {
+            if (self)
+                self->finish(key, subject, std::move(result));
         });
+}
+
+/// Shows the result under the name that the user saw; that of the ending is the log's.
+void SessionActions::finish(const QString& key, const QString& subject, SessionEndResult result) {
+    result.title = subject;
+    m_ending.remove(key);
+    Q_EMIT endingChanged();
+    Q_EMIT ended(result);
 }
 
 void SessionActions::confirmPause(const Session& session) {

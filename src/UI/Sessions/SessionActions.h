@@ -38,7 +38,8 @@ private:
     void openFolder(const Session& session);
     void copyDetails(const Session& session);
     void ask(const QString& key, const SessionDialogs::Question& question);
-    void end(const QString& key, const SessionEnding& ending);
+    void end(const QString& key, const SessionDialogs::Question& question);
+    void finish(const QString& key, const QString& subject, SessionEndResult result);
     void report(const Outcome& outcome, const QString& text);
 
     AppModel& m_model;

@@ -14,6 +14,7 @@ namespace SessionDialogs {
 /// What is asked about.
 struct Question {
     QString title;                   ///< "End claude in ~/src/app?"
+    QString subject;                 ///< "claude in ~/src/app", for the result
     QString button;                  ///< "End session"
     SessionEnding ending;            ///< what ends
     QList<SessionProcess> processes; ///< what they are

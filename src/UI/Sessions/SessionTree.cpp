@@ -32,11 +32,11 @@ SessionProcessRow::SessionProcessRow(int trailing, QWidget* parent)
     setFixedHeight(treeRowHeight);
 }
 
-void SessionProcessRow::set(const SessionProcess& member, Instant now) {
+void SessionProcessRow::set(const SessionProcess& member, int depth, Instant now) {
     const ProcSample& process = member.process;
     const SummedMemory memory = SessionTexts::memoryOf(member);
     m_part = member.part;
-    m_depth = std::min(member.depth, maxIndented);
+    m_depth = std::min(depth, maxIndented);
     m_name = Formatters::visible(process.name);
     m_ports = SessionTexts::ports(member);
     m_memory = memory.text();
@@ -97,5 +97,8 @@ SessionTree::SessionTree(int trailing, QWidget* parent)
 }
 
 void SessionTree::set(const QList<SessionProcess>& processes, Instant now) {
-    m_rows.show(processes.size(), [&](SessionProcessRow& row, qsizetype i) { row.set(processes[i], now); });
+    const auto top = std::ranges::min_element(processes, {}, &SessionProcess::depth);
+    m_rows.show(processes.size(), [&](SessionProcessRow& row, qsizetype i) {
+        row.set(processes[i], processes[i].depth - top->depth, now);
+    });
 }

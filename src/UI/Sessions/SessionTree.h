@@ -15,7 +15,8 @@ public:
     /// `trailing` is the width of the column right of the memory.
     explicit SessionProcessRow(int trailing, QWidget* parent = nullptr);
 
-    void set(const SessionProcess& process, Instant now);
+    /// `depth` is that below the rows of the tree that stand leftmost.
+    void set(const SessionProcess& process, int depth, Instant now);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

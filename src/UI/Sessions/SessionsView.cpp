@@ -189,10 +189,8 @@ void SessionsView::refresh() {
     m_model.wantSessions();
     const SessionReport& report = m_model.sessionReport();
     QList<qint32> pids;
-    for (const Session& session : report.sessions) {
-        for (const SessionProcess& member : session.processes)
-            pids.append(member.process.pid);
-    }
+    for (const Session& session : report.sessions)
+        pids += session.pids();
     m_model.memoryLedger().wantOnShow(pids);
     show(report);
 }
