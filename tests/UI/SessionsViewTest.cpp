@@ -280,7 +280,8 @@ TEST_F(SessionsViewTest, WhileAnEndRunsItsRowIsBusyAndThenTheResultIsShown) {
     using namespace std::chrono_literals;
     model.actions().setSessionDelays(
         {.forHost = 20ms, .forOthers = 20ms, .betweenLooks = 5ms, .beforeMeasuring = 5ms});
-    addProcesses(2, "claude", 100 * MiB);
+    addProcesses(1, "claude", 100 * MiB);
+    addProcesses(1, "node", 100 * MiB);
     fakes.signalSender->start(100, {.endsOnTerminate = true});
     tick();
     Session running{.host = model.process(100)->identity(), .agent = u"claude"_s, .folder = u"/srv/app"_s};
@@ -296,7 +297,7 @@ TEST_F(SessionsViewTest, WhileAnEndRunsItsRowIsBusyAndThenTheResultIsShown) {
     EXPECT_FALSE(dialog()) << "an end under way is not asked about again";
     EXPECT_TRUE(QTest::qWaitFor([this] {
         const QStringList names = shownNames<QWidget>(*view);
-        return names.contains(u"claude (100) Quit"_s) && names.contains(u"claude (101) Force-killed"_s);
+        return names.contains(u"claude (100) Quit"_s) && names.contains(u"node (101) Force-killed"_s);
     }));
     EXPECT_TRUE(showsText(*view, u"claude in /srv/app: ended 2 of 2, freed ~0 bytes"_s));
     EXPECT_TRUE(buttonNamed(*row(0), u"End session"_s)->isEnabled());
