@@ -107,9 +107,11 @@ void shootSessions(Camera& camera) {
     QMetaObject::invokeMethod(&stage.model, "tick");
     MainWindow window(stage.model, stage.prefs, stage.messages);
     window.findChild<RootView*>()->select(RootView::Tab::sessions);
-    camera.take(window, u"sessions-none"_s);
-
+    window.show();
+    settle();
     auto* view = window.findChild<SessionsView*>();
+    view->show(SessionReport());
+    camera.take(window, u"sessions-none"_s);
     SessionReport report = several();
     view->show(report);
     camera.take(window, u"sessions"_s);

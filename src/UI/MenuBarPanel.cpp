@@ -25,6 +25,7 @@ namespace {
 
 constexpr int panelSymbolWidth = 16;
 constexpr int panelPadding = 14;
+constexpr int panelEdge = 10; ///< above and below
 constexpr int panelSpacing = 8;
 constexpr int sessionsHeight = 20; ///< the panel is full with three alerts
 constexpr int buttonPadding = 10;  ///< before the symbol of a button without a border
@@ -77,7 +78,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     m_processRows.reserve(shownProcesses);
     m_alertRows.reserve(shownAlerts);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(panelPadding, 10, panelPadding, panelPadding);
+    column->setContentsMargins(panelPadding, panelEdge, panelPadding, panelEdge);
     column->setSpacing(panelSpacing);
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
