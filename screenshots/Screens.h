@@ -10,4 +10,5 @@ void shootPanels(Camera& camera);
 void shootHistory(Camera& camera);
 void shootBanners(Camera& camera);
 void shootSettings(Camera& camera);
+void shootSessions(Camera& camera);
 void shootSheets(Camera& camera);

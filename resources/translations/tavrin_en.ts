@@ -71,6 +71,82 @@
     </message>
 </context>
 <context>
+    <name>Remains</name>
+    <message numerus="yes">
+        <source>%n older one(s)</source>
+        <translation>
+            <numerusform>%n older one</numerusform>
+            <numerusform>%n older ones</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 runs %n time(s) under %2</source>
+        <translation>
+            <numerusform>%1 runs %n time under %2</numerusform>
+            <numerusform>%1 runs %n times under %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SessionTexts</name>
+    <message numerus="yes">
+        <source>%n agent(s)</source>
+        <translation>
+            <numerusform>%n agent</numerusform>
+            <numerusform>%n agents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n server(s)</source>
+        <translation>
+            <numerusform>%n server</numerusform>
+            <numerusform>%n servers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dev server(s)</source>
+        <translation>
+            <numerusform>%n dev server</numerusform>
+            <numerusform>%n dev servers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n browser(s)</source>
+        <translation>
+            <numerusform>%n browser</numerusform>
+            <numerusform>%n browsers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n command(s)</source>
+        <translation>
+            <numerusform>%n command</numerusform>
+            <numerusform>%n commands</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n idle</source>
+        <translation>
+            <numerusform>%n idle</numerusform>
+            <numerusform>%n idle</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n session(s)</source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n process(es)</source>
+        <translation>
+            <numerusform>%n process</numerusform>
+            <numerusform>%n processes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>WidgetView</name>
     <message numerus="yes">
         <source>+ %n more alert(s)</source>

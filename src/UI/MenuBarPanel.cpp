@@ -7,7 +7,9 @@
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PanelRow.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Sessions/SessionTexts.h"
 #include "UI/Style/Painting.h"
 #include "UI/Widget.h"
 
@@ -23,7 +25,10 @@ namespace {
 
 constexpr int panelSymbolWidth = 16;
 constexpr int panelPadding = 14;
+constexpr int panelEdge = 10; ///< above and below
 constexpr int panelSpacing = 8;
+constexpr int sessionsHeight = 20; ///< the panel is full with three alerts
+constexpr int buttonPadding = 10;  ///< before the symbol of a button without a border
 
 TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
@@ -62,6 +67,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     : QWidget(parent)
     , m_model(model)
     , m_widget(widget)
+    , m_sessions(new PushButton(QString(), PushButton::Look::borderless, QStringLiteral("bubble.prompt")))
     , m_processColumn(new QVBoxLayout)
     , m_processRows([this] { return addRow(m_processColumn, TextStyle::callout); })
     , m_alertSection(new QWidget)
@@ -72,11 +78,15 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     m_processRows.reserve(shownProcesses);
     m_alertRows.reserve(shownAlerts);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(panelPadding, 10, panelPadding, panelPadding);
+    column->setContentsMargins(panelPadding, panelEdge, panelPadding, panelEdge);
     column->setSpacing(panelSpacing);
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
-    column->addLayout(makeStatistics());
+    auto* figures = new QVBoxLayout;
+    figures->setSpacing(2);
+    figures->addLayout(makeStatistics());
+    figures->addLayout(makeSessions());
+    column->addLayout(figures);
     column->addWidget(new Divider);
     column->addWidget(caption(tr("Top 5 by RAM")));
     column->addLayout(m_processColumn);
@@ -122,8 +132,23 @@ QLayout* MenuBarPanel::makeStatistics() {
     return row;
 }
 
+QLayout* MenuBarPanel::makeSessions() {
+    m_sessions->setSmall();
+    m_sessions->setFixedHeight(sessionsHeight);
+    m_sessions->hide();
+    connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addSpacing(-buttonPadding); // the symbol stands above those of the rows
+    row->addWidget(m_sessions);
+    row->addStretch();
+    return row;
+}
+
 void MenuBarPanel::refresh() {
+    m_model.wantSessions();
     refreshStatistics();
+    refreshSessions();
     refreshProcesses();
     refreshAlerts();
 }
@@ -134,6 +159,12 @@ void MenuBarPanel::refreshStatistics() {
     m_statistics[1]->setFigure(Formatters::percent(sample.memUsedPercent()));
     m_statistics[2]->setFigure(Formatters::percent(sample.diskUsedPercent()));
     m_statistics[3]->setFigure(thermalLabel(sample.thermalState));
+}
+
+void MenuBarPanel::refreshSessions() {
+    const QString summary = SessionTexts::summary(m_model.sessionReport());
+    m_sessions->setText(summary);
+    m_sessions->setVisible(!summary.isEmpty());
 }
 
 void MenuBarPanel::refreshProcesses() {

@@ -10,6 +10,7 @@
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
 #include "UI/Processes/ProcessesView.h"
+#include "UI/Sessions/SessionsView.h"
 #include "UI/Style/Theme.h"
 
 #include <QEvent>
@@ -30,7 +31,8 @@ constexpr int sidebarTopMargin = 12;
 constexpr int titleTopMargin = 16;
 
 /// In the order of RootView::Tab.
-constexpr QStringView sectionSymbols[] = {u"gauge", u"wand.and.stars", u"list.bullet.rectangle", u"trash"};
+constexpr QStringView sectionSymbols[] = {u"gauge", u"wand.and.stars", u"list.bullet.rectangle", u"trash",
+                                          u"bubble.prompt"};
 
 } // namespace
 
@@ -85,6 +87,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     addSection(Tab::optimize, new OptimizeView(model, preferences));
     addSection(Tab::processes, new ProcessesView(model, preferences));
     addSection(Tab::cleanup, new CleanupView(model));
+    addSection(Tab::sessions, new SessionsView(model, preferences));
     tintSidebar();
     select(Tab::overview);
 }

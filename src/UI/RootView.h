@@ -23,7 +23,7 @@ class RootView : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Tab { overview, optimize, processes, cleanup };
+    enum class Tab { overview, optimize, processes, cleanup, sessions };
 
     static constexpr QSize minimumContent{1000, 680};
 
@@ -63,6 +63,7 @@ inline constexpr std::array rawValueTable<RootView::Tab> = {
     RawValueRow{RootView::Tab::optimize, QT_TRANSLATE_NOOP("Translations", "Optimize")},
     RawValueRow{RootView::Tab::processes, QT_TRANSLATE_NOOP("Translations", "Processes")},
     RawValueRow{RootView::Tab::cleanup, QT_TRANSLATE_NOOP("Translations", "Cleanup")},
+    RawValueRow{RootView::Tab::sessions, QT_TRANSLATE_NOOP("Translations", "Sessions")},
 };
 
 /// Returns the name of the section's symbol, under resources/symbols.

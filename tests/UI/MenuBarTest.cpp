@@ -8,6 +8,8 @@
 #include "UI/ModelFixture.h"
 #include "UI/Widget.h"
 
+#include <QLayout>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -112,4 +114,25 @@ TEST_F(MenuBarTest, OpenBringsTheMainWindowForwardWithItsTaskBarEntry) {
         EXPECT_EQ(application.policy, ActivationPolicy::regular);
         EXPECT_FALSE(desktop.popover->shown);
     }
+}
+
+TEST_F(MenuBarTest, TheSessionsAreALineThatOpensTheMainWindow) {
+    tick();
+    click();
+    EXPECT_FALSE(buttonNamed(panel(), u"1 session, ≈ 600 MB, 1 idle"_s));
+    addProcesses(1, "claude", 600 * MiB);
+    tick();
+    fakes.clock->advance(3600);
+    tick();
+    QWidget main;
+    main.setWindowTitle(u"Sessions"_s);
+    desktop.application->own = {&main};
+    press(panel(), u"1 session, ≈ 600 MB, 1 idle"_s);
+    EXPECT_EQ(desktop.application->forward, &main);
+    click();
+    addProcesses(5, "claude", 600 * MiB);
+    tick();
+    fakes.clock->advance(3600);
+    tick();
+    EXPECT_LE(panel().layout()->minimumSize().height(), panel().height()) << "with three alerts";
 }

@@ -65,6 +65,18 @@ TEST_F(OverviewViewTest, GroupsCountSharedMemoryOnceWhenItIsKnown) {
         memory->toolTip().contains(QStringLiteral("Groups 600 MB\nof these, caches of files −200 MB")));
 }
 
+TEST_F(OverviewViewTest, TheAgentsSayHowManySessionsRun) {
+    addProcesses(2, "claude", 10);
+    show();
+    tick();
+    EXPECT_EQ(header(ProcGroup::agents)->accessibleDescription(), u"Collapsed, 2 sessions"_s);
+    EXPECT_TRUE(header(ProcGroup::agents)->toolTip().contains(u"\n2 sessions"_s));
+    for (const qint32 pid : {100, 101})
+        fakes.processes->remove(pid);
+    tick();
+    EXPECT_EQ(header(ProcGroup::agents)->accessibleDescription(), u"Collapsed"_s);
+}
+
 TEST_F(OverviewViewTest, AtMostOneGroupIsOpenAndStaysOpenAcrossTicks) {
     addProcesses(3, "chrome", 10);
     addProcesses(1, "bash", 20);

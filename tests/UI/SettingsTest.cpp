@@ -79,6 +79,8 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         {Tab::alerts, u"Browser RAM dominance"_s, {}, u"pref.alertBrowserHog_enabled=false"_s},
         {Tab::alerts, u"Threshold"_s, u"More"_s, u"pref.alertCachesBig_gb=6"_s},
         {Tab::alerts, u"Caches reclaimable"_s, {}, u"pref.alertCachesBig_enabled=false"_s},
+        {Tab::alerts, u"Large session"_s, {}, u"pref.alertSessionBig_enabled=true"_s},
+        {Tab::alerts, u"Session holds more than"_s, u"More"_s, u"pref.alertSessionBig_gb=9"_s},
     };
     for (const auto& [tab, name, choice, line] : cases) {
         window.select(tab);
@@ -107,11 +109,11 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         }
         shown.append(shownNames<StepperRow>(again));
     }
-    EXPECT_EQ(shown,
-              (QStringList{u"Show floating widget on launch"_s, u"Icon only"_s,
-                           u"Pause sampling on Low Power Mode"_s, u"5s"_s, u"1 hour"_s,
-                           u"Free RAM threshold 2.5 GB"_s, u"CPU threshold 90%"_s, u"Min idle 14 min"_s,
-                           u"Min RAM 600 MB"_s, u"Of total RAM 20%"_s, u"Threshold 6 GB"_s}));
+    EXPECT_EQ(shown, (QStringList{u"Show floating widget on launch"_s, u"Icon only"_s,
+                                  u"Pause sampling on Low Power Mode"_s, u"5s"_s, u"1 hour"_s,
+                                  u"Large session"_s, u"Free RAM threshold 2.5 GB"_s, u"CPU threshold 90%"_s,
+                                  u"Min idle 14 min"_s, u"Min RAM 600 MB"_s, u"Of total RAM 20%"_s,
+                                  u"Threshold 6 GB"_s, u"Session holds more than 9 GB"_s}));
 }
 
 TEST_F(SettingsTest, ChangesFromElsewhereShowAtOnce) {

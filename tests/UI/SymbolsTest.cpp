@@ -4,6 +4,7 @@
 #include "Core/Cleanup/CacheTarget.h"
 #include "Core/Sampling/ProcGroup.h"
 #include "UI/RootView.h"
+#include "UI/Sessions/SessionTexts.h"
 
 #include <QImage>
 
@@ -52,6 +53,12 @@ TEST(Symbols, RecordsAndSectionsNameDrawingsThatExist) {
         used << severitySymbol(severity);
     for (const auto tab : allCases<RootView::Tab>())
         used << tabSymbol(tab);
+    for (const auto state :
+         {SessionState::working, SessionState::idle, SessionState::waiting, SessionState::paused})
+        used << SessionTexts::lookOf(state).symbol;
+    for (const auto part : {SessionPart::agent, SessionPart::server, SessionPart::devServer,
+                            SessionPart::browser, SessionPart::command})
+        used << SessionTexts::symbolOf(part);
     for (const CacheTarget& target : CacheTarget::defaults())
         used << target.symbol;
     for (const QString& name : used)

@@ -12,6 +12,10 @@
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Processes/ProcessMenu.h"
 #include "UI/RootView.h"
+#include "UI/SampleSessions.h"
+#include "UI/Sessions/SessionDialogs.h"
+#include "UI/Sessions/SessionResultView.h"
+#include "UI/Sessions/SessionsView.h"
 #include "UI/Settings/QuickKillEditorSheet.h"
 #include "UI/Settings/SettingsScene.h"
 #include "UI/Widget.h"
@@ -135,6 +139,28 @@ TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
     new CacheDetailDrawer(npm, &window);
     (new FreeRAMSheet(model, &window))->show();
     new QuickKillEditorSheet(QString(), QuickKillPreset::blank(), {}, &window);
+    Session session = SampleSessions::large(100, QString());
+    session.name.clear();
+    LeftOver leftOver = SampleSessions::leftOver(200);
+    leftOver.folder.clear();
+    leftOver.ended.reset(); // a time is in the user's locale
+    DuplicateServers duplicates = SampleSessions::duplicates(300, session);
+    duplicates.label = session.agent;
+    for (auto* processes : {&session.processes, &leftOver.processes, &duplicates.older}) {
+        for (SessionProcess& member : *processes) {
+            member.process.name = session.agent;
+            member.process.arguments.clear();
+        }
+    }
+    auto& sessions = *window.findChild<SessionsView*>();
+    sessions.show({.sessions = {session}, .leftOvers = {leftOver}, .duplicates = {duplicates}});
+    for (auto* header : sessions.findChildren<RowHeader*>())
+        header->click();
+    sessions.addResult({.records = {{.pid = 1}}, .resumeCommand = session.agent});
+    SessionEnding ending = SampleSessions::endingOf(session);
+    ending.resumeCommand = session.agent;
+    SessionDialogs::askEnd(&window, &window, {.ending = ending, .processes = session.processes}, [] {});
+    SessionDialogs::askPause(&window, &window, session, [] {});
     QMenu menu(&window);
     ProcessMenu(model).fill(menu, {.first = model.processes().first(), .sameName = 2}, false);
     settle();

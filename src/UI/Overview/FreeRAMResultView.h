@@ -3,8 +3,7 @@
 #include "Core/Relief/FreeRAM.h"
 #include "UI/Kit/Card.h"
 
-class QScrollArea;
-class QVBoxLayout;
+class OutcomeList;
 class TextLabel;
 
 /// What a run freed, and the outcome for each process. Hidden at first.
@@ -20,7 +19,5 @@ private:
     TextLabel* m_freed;
     TextLabel* m_nudged;
     TextLabel* m_promised;
-    QScrollArea* m_area;
-    QVBoxLayout* m_rowsLayout;
-    QList<QWidget*> m_rows;
+    OutcomeList* m_outcomes;
 };

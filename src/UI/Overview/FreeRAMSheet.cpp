@@ -12,6 +12,7 @@
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/CandidateRow.h"
 #include "UI/Overview/FreeRAMResultView.h"
+#include "UI/Overview/ReturnTexts.h"
 
 #include <QCheckBox>
 #include <QCoroTask>
@@ -181,9 +182,7 @@ void FreeRAMSheet::refreshButtons() {
     m_clear->setEnabled(count > 0);
     m_count->setPlainText(tr("%1 selected • %2 targeted").arg(count).arg(Formatters::bytes(selectedRAM())));
     const MemoryReturn back = m_model.actions().givesBack(tickedPids());
-    const QString size = Formatters::bytes(back.totalBytes());
-    m_back->setPlainText(back.isRough ? tr("≤ %1 will come back").arg(size)
-                                      : tr("≈ %1 will come back").arg(size));
+    m_back->setPlainText(ReturnTexts::promise(back));
     m_back->setVisible(count > 0);
 
     m_action->setBusy(m_running);

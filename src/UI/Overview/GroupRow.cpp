@@ -63,8 +63,17 @@ void GroupHeader::describe() {
                           .arg(Translations::of(m_rollup.group))
                           .arg(m_rollup.count)
                           .arg(m_rollup.memory.description(), Formatters::percent(m_rollup.cpuPercent)));
-    setToolTip(Formatters::toolTip(m_rollup.memory.parts()));
-    setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
+    const QString state = m_expanded ? tr("Expanded") : tr("Collapsed");
+    const bool hasNote = !m_note.isEmpty();
+    setToolTip(Formatters::toolTip(m_rollup.memory.parts() + (hasNote ? u'\n' + m_note : QString())));
+    setAccessibleDescription(hasNote ? QStringLiteral("%1, %2").arg(state, m_note) : state);
+}
+
+void GroupHeader::setNote(const QString& note) {
+    if (note == m_note)
+        return;
+    m_note = note;
+    describe();
 }
 
 void GroupHeader::keyPressEvent(QKeyEvent* event) {
@@ -155,6 +164,10 @@ void GroupRow::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded,
     if (isExpanded)
         showMembers(members);
     m_body->setVisible(isExpanded);
+}
+
+void GroupRow::setNote(const QString& note) {
+    m_header->setNote(note);
 }
 
 void GroupRow::showMembers(const QList<ProcSample>& members) {

@@ -24,6 +24,8 @@ public:
     /// Shows the group. `totalRAM` is the machine's memory in bytes. `members` are the processes in the order
     /// to show, and read only when the group is open.
     void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded, const QList<ProcSample>& members);
+    /// Sets a line for the tool tip and the description, or none.
+    void setNote(const QString& note);
 
 Q_SIGNALS:
     void toggled();
@@ -48,6 +50,7 @@ public:
     explicit GroupHeader(ProcGroup group, QWidget* parent = nullptr);
 
     void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded);
+    void setNote(const QString& note);
 
     QSize sizeHint() const override;
 
@@ -62,4 +65,5 @@ private:
     GroupRollup m_rollup;
     double m_share = 0;
     bool m_expanded = false;
+    QString m_note;
 };

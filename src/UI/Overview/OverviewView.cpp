@@ -9,6 +9,7 @@
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
 #include "UI/Overview/MetricTile.h"
+#include "UI/Sessions/SessionTexts.h"
 
 #include <QHBoxLayout>
 
@@ -81,6 +82,7 @@ QLayout* OverviewView::makeGroups() {
 }
 
 void OverviewView::refresh() {
+    m_model.wantSessions();
     m_model.memoryLedger().wantAll();
     m_alerts->set(m_model.alerts());
     refreshTiles();
@@ -96,6 +98,9 @@ void OverviewView::refreshTiles() {
 
 void OverviewView::refreshGroups() {
     const QList<GroupRollup>& groups = m_model.groups();
+    const qsizetype sessions = m_model.sessionReport().sessions.size();
+    m_groupRows[static_cast<qsizetype>(ProcGroup::agents)]->setNote(
+        sessions > 0 ? SessionTexts::count(sessions) : QString());
     for (GroupRow* row : std::as_const(m_groupRows))
         row->setVisible(!groups.isEmpty());
     for (const GroupRollup& rollup : groups) {

@@ -16,6 +16,8 @@ AlertsTab::AlertsTab(Preferences& prefs, QWidget* parent)
             {{{tr("Of total RAM"), u"%1%"_s}, {10, 80, 5}, prefs.alertBrowserHogPercentTotal}});
     addRule(tr("Caches"), tr("Caches reclaimable"), prefs.alertCachesBigEnabled,
             {{{tr("Threshold"), tr("%1 GB")}, {1, 50, 1}, prefs.alertCachesBigGB}});
+    addRule(tr("Sessions"), tr("Large session"), prefs.alertSessionBigEnabled,
+            {{{tr("Session holds more than"), tr("%1 GB")}, {1, 64, 1}, prefs.alertSessionBigGB}});
 }
 
 void AlertsTab::addRule(const QString& title, const QString& toggle, Property<bool>& enabled,

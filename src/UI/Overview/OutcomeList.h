@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Core/Relief/FreeRAM.h"
+
+#include <QScrollArea>
+
+#include <optional>
+
+class QVBoxLayout;
+
+/// How each of several processes ended. Scrolls when they are many.
+class OutcomeList : public QScrollArea {
+    Q_OBJECT
+
+public:
+    struct Line {
+        qint32 pid = 0;
+        QString name;
+        std::optional<KillOutcome> outcome; ///< empty for a process that belonged to something else
+    };
+
+    explicit OutcomeList(QWidget* parent = nullptr);
+
+    /// Shows the lines, and hides the list when there are none.
+    void set(const QList<Line>& lines);
+
+private:
+    QVBoxLayout* m_column;
+    QList<QWidget*> m_rows;
+};
