@@ -83,14 +83,21 @@ TEST_F(SessionsTest, WhatAPersonUsesIsNobodysByInheritance) {
     add(101 + 1, 101, "claude"); // in the multiplexer
     add(200, 1, "chromium", "chromium --headless --remote-debugging-port=0").inheritance = withId("A");
     add(201, 200, "chromium", "chromium --type=renderer");
-    EXPECT_EQ(sessions(), (QStringList{u"102: 102"_s, u"11: 11 200"_s}));
+    for (const auto& [handler, folder] : {std::pair(202, "/usr/bin/"), std::pair(203, "/opt/other/")}) {
+        FakeProcess& process = add(handler, 1, "chrome_crashpad_handler");
+        process.path = QByteArray(folder) + "chrome_crashpad_handler";
+        process.inheritance = withId("A");
+        fakes.applications->byProgram[QString::fromUtf8(process.path)] = {u"chromium"_s, u"Chromium"_s};
+    }
+    EXPECT_EQ(sessions(), (QStringList{u"102: 102"_s, u"11: 11 200 201 202"_s}));
     add(50, 11, "bash");
     add(51, 50, "tmux");
     add(52, 51, "bash");
     pass();
     end(50);
     reparent(51);
-    EXPECT_EQ(sessions(), (QStringList{u"102: 102"_s, u"11: 11 200"_s})) << "also if it was below the agent";
+    EXPECT_EQ(sessions(), (QStringList{u"102: 102"_s, u"11: 11 200 201 202"_s}))
+        << "also if it was below the agent";
 }
 
 TEST_F(SessionsTest, WhatAnEndedSessionLeft) {

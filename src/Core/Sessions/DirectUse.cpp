@@ -49,3 +49,8 @@ bool DirectUse::contains(const ProcSample& process) const {
     return process.group == ProcGroup::terminals || isLoginDaemon(process.name) ||
            m_applications->ofProgram(process.executablePath).has_value();
 }
+
+bool DirectUse::isCrashHandler(const ProcSample& process) {
+    const QStringView file = ProgramPath::lastComponent(process.executablePath);
+    return file.endsWith(u"crashpad_handler") || file == u"crashhelper";
+}

@@ -15,6 +15,8 @@ public:
     /// Returns true for terminals and their multiplexers, for editors, for browsers that no program
     /// controls, for every other application of the menu, for containers, and for the daemons of a login.
     bool contains(const ProcSample& process) const;
+    /// Returns whether the process waits for the crash of another, with which it ends.
+    static bool isCrashHandler(const ProcSample& process);
 
 private:
     std::shared_ptr<Applications> m_applications;

@@ -159,9 +159,18 @@ int SessionMembers::sessionBelow(const ProcessTree& tree, int place) {
         return kept != none && m_known.value(kept).isRunning ? kept : sessionOfHost(process);
     if (parent != none && m_isUsed[index(parent)])
         m_isUsed[index(place)] = true;
-    else if (kept != none)
+    else if (kept != none && !isHelper(tree, place))
         m_isUsed[index(place)] = m_directUse.contains(process);
     return m_isUsed[index(place)] ? none : kept;
+}
+
+/// Returns whether a process is a part of the controlled browser that is its parent, or a crash handler.
+bool SessionMembers::isHelper(const ProcessTree& tree, int place) const {
+    const int parent = tree.parent(place);
+    const bool isBelow = parent != none && m_sessionAt[index(parent)] != none;
+    return DirectUse::isCrashHandler(tree.at(place)) ||
+           (isBelow && tree.at(place).group == ProcGroup::browsers &&
+            tree.at(parent).group == ProcGroup::browsers);
 }
 
 void SessionMembers::forget(const QSet<int>& inUse) {
@@ -208,6 +217,7 @@ void SessionMembers::adoptAll(const ProcessTree& tree) {
     bool hasAdopted = false;
     for (const int place : tree.parentsFirst())
         hasAdopted |= adopt(tree, place);
+    m_hasNews = hasAdopted; // it may tell at the next tick whose others are
     if (hasAdopted)
         assign(tree);
 }
@@ -261,10 +271,29 @@ bool SessionMembers::adopt(const ProcessTree& tree, int place) {
     const ProcSample& process = tree.at(place);
     if (m_hostAt[index(place)] == place)
         return adoptAgent(process, record);
-    if (record.session != none || m_directUse.contains(process))
+    if (record.session != none)
         return false;
-    record.session = sessionInherited(tree, process);
-    return record.session != none;
+    const bool isCrashHandler = DirectUse::isCrashHandler(process);
+    if (!isCrashHandler && m_directUse.contains(process))
+        return false;
+    const int session = sessionInherited(tree, process);
+    if (isCrashHandler && !hasProgramBeside(tree, session, process))
+        return false;
+    record.session = session;
+    return session != none;
+}
+
+/// Returns whether a process of the session runs a program from the same folder.
+bool SessionMembers::hasProgramBeside(const ProcessTree& tree, int session, const ProcSample& process) const {
+    const auto folderOf = [](const QString& path) {
+        return QStringView(path).first(path.lastIndexOf(u'/') + 1);
+    };
+    for (int place = 0; place < tree.size(); ++place) {
+        if (m_sessionAt[index(place)] == session &&
+            folderOf(tree.at(place).executablePath) == folderOf(process.executablePath))
+            return true;
+    }
+    return false;
 }
 
 /// An agent that another one started in the background is a part of its session while that runs.
@@ -282,12 +311,11 @@ int SessionMembers::sessionInherited(const ProcessTree& tree, const ProcSample& 
     const Inherited inherited = m_inherited.value(process.pid);
     if (inherited.mark)
         return sessionOfMark(*inherited.mark, process);
+    // The number of a process session is not used again while a process has it.
     const qint32 leader = inherited.facts.sessionLeader;
     const int ofLeader = m_sessionOfLeader.value(leader, none);
-    const int leaderAt = tree.find(leader);
-    // The number of a process session is not used again while a process has it.
-    if (ofLeader != none && leader != process.pid &&
-        (leaderAt == none || m_sessionAt[index(leaderAt)] == ofLeader))
+    const int place = tree.find(leader);
+    if (ofLeader != none && leader != process.pid && (place == none || m_sessionAt[index(place)] == ofLeader))
         return ofLeader;
     const QByteArray& group = inherited.facts.controlGroup;
     for (auto known = m_known.cbegin(); known != m_known.cend(); ++known) {

@@ -83,6 +83,7 @@ private:
     void findHosts(const ProcessTree& tree);
     int sessionOfHost(const ProcSample& host);
     void assign(const ProcessTree& tree);
+    bool isHelper(const ProcessTree& tree, int place) const;
     int sessionBelow(const ProcessTree& tree, int place);
     void forget(const QSet<int>& inUse);
     bool isTop(const ProcessTree& tree, int place) const;
@@ -93,6 +94,7 @@ private:
     bool adoptAgent(const ProcSample& process, Process& record);
     std::optional<AgentTable::Mark> markOf(qint32 pid) const;
     int sessionInherited(const ProcessTree& tree, const ProcSample& process);
+    bool hasProgramBeside(const ProcessTree& tree, int session, const ProcSample& process) const;
     int sessionWithId(const AgentTable::Mark& mark) const;
     int sessionOfMark(const AgentTable::Mark& mark, const ProcSample& process);
 
