@@ -6,19 +6,19 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto perMiB = 20us;
 
 using MemoryPlan::Process;
 using MemoryPlan::Reading;
 
 QList<Reading> planned(const QList<Process>& processes, std::chrono::nanoseconds credit = 4ms,
                        double secondsSinceLast = 50) {
-    return MemoryPlan::slice(processes, credit, perMiB, secondsSinceLast);
+    return MemoryPlan::slice(processes, credit, {}, secondsSinceLast);
 }
 
 /// A process that was read whole.
@@ -90,15 +90,16 @@ TEST(MemoryPlanTest, TheTotalsStandForTheWholeNineTimesAtMost) {
 }
 
 TEST(MemoryPlanTest, ASliceStaysWithinItsCredit) {
+    const auto counts = [](const QList<Reading>& readings) {
+        const auto whole = std::ranges::count(readings, true, &Reading::all);
+        return std::pair(int(whole), int(readings.size() - whole));
+    };
     QList<Process> processes;
     for (qint32 pid = 1; pid <= 100; ++pid)
-        processes.append({.pid = pid, .residentBytes = 23 * MiB}); // 500 us each
-    EXPECT_EQ(planned(processes, 1ms).size(), 2);
-    EXPECT_EQ(planned(processes, 4ms).size(), 8);
-    EXPECT_EQ(planned(processes, -5ms).size(), 0);
-    for (Process& process : processes)
-        process.residentBytes = MiB;
-    EXPECT_EQ(planned(processes, 1ms).size(), 50) << "three quarters for totals";
+        processes.append({.pid = pid, .residentBytes = 23 * MiB}); // 500 us each, or 15 us for the totals
+    EXPECT_EQ(counts(planned(processes, 1ms)), std::pair(0, 53)) << "four fifths for totals";
+    EXPECT_EQ(counts(planned(processes, 4ms)), std::pair(5, 95));
+    EXPECT_EQ(counts(planned(processes, -5ms)), std::pair(0, 0));
 }
 
 TEST(MemoryPlanTest, EachSliceTakesItsPartOfTheTurnOldestFirst) {
@@ -112,8 +113,18 @@ TEST(MemoryPlanTest, EachSliceTakesItsPartOfTheTurnOldestFirst) {
 TEST(MemoryPlanTest, ADearProcessIsReadOnceTheCreditIsFull) {
     const Process dear{.pid = 1, .residentBytes = 1024 * MiB};
     const Process cheap{.pid = 2, .residentBytes = 10 * MiB};
-    EXPECT_EQ(planned({dear, cheap}, 3ms), QList<Reading>()) << "saves for the larger";
-    EXPECT_EQ(planned({dear, cheap}, 4ms), (QList<Reading>{{1, true}}));
+    EXPECT_EQ(planned({dear, cheap}, 3ms), (QList<Reading>{{1, false}, {2, false}}))
+        << "saves for the larger";
+    EXPECT_EQ(planned({dear, cheap}, 4ms), (QList<Reading>{{2, false}, {1, true}}));
+}
+
+TEST(MemoryPlanTest, TotalsStandInForWhatHasToWait) {
+    Process rough = known(1, 40 * MiB, 11);
+    rough.lastCost.reset();
+    EXPECT_EQ(planned({rough}, 4ms), (QList<Reading>{{1, true}}));
+    EXPECT_EQ(planned({rough}, 500us), (QList<Reading>{{1, false}}));
+    rough.ageSeconds = 9;
+    EXPECT_EQ(planned({rough}, 500us), QList<Reading>()) << "they are fresh";
 }
 
 TEST(MemoryPlanTest, MoreThanFourGigabytesOnlyWhenAsked) {
@@ -195,5 +206,5 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     int ticks = 1;
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
-    EXPECT_EQ(ticks, 27) << "15 - 40 ms, the hand-over, and one more each tick";
+    EXPECT_EQ(ticks, 36) << "a debt of 26.5 ms, and 0.75 less each tick";
 }

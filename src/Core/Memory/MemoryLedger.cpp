@@ -10,19 +10,20 @@
 namespace {
 
 constexpr auto maxAge = std::chrono::minutes(2);
-constexpr MemoryPlan::Nanoseconds maxSavings = 15 * MemoryPlan::creditPerTick; // totals of 1,000 processes
-constexpr MemoryPlan::Nanoseconds firstPerMiB = std::chrono::microseconds(20); // small pages, measured
-constexpr MemoryPlan::Nanoseconds handOverCost = std::chrono::microseconds(40); // to the thread and back
+constexpr MemoryPlan::Nanoseconds maxSavings = 15 * MemoryPlan::creditPerTick;   // totals of 1,000 processes
+constexpr MemoryPlan::Nanoseconds handOverCost = std::chrono::microseconds(150); // to the thread and back
 constexpr quint64 leastTellingBytes = 16 << 20; // below it a cost says little about the cost of a page
-constexpr int weightOfPast = 7;                 // of 8, in the cost per MiB
+
+MemoryPlan::Nanoseconds average(MemoryPlan::Nanoseconds past, MemoryPlan::Nanoseconds present) {
+    return (past * 7 + present) / 8;
+}
 
 } // namespace
 
 MemoryLedger::MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock)
     : m_memory(std::move(memory))
     , m_clock(std::move(clock))
-    , m_credit(maxSavings)
-    , m_perMiB(firstPerMiB) {
+    , m_credit(maxSavings) {
     m_pool.setMaxThreadCount(1);
 }
 
@@ -61,6 +62,8 @@ void MemoryLedger::enter(Entry& entry, const Result& result) {
     if (!result.reading.use)
         return;
     MemoryFigures figures{.use = *result.reading.use, .readAt = m_now, .isRefused = entry.isRefused};
+    if (!figures.isProportional() && !result.isRefused)
+        m_costs.totals = average(m_costs.totals, result.reading.cost);
     if (figures.isProportional()) {
         learnCost(entry, result.reading.cost);
         entry.lastCost = result.reading.cost;
@@ -79,7 +82,7 @@ void MemoryLedger::learnCost(const Entry& entry, MemoryPlan::Nanoseconds cost) {
     if (entry.residentWhenRead < leastTellingBytes)
         return;
     const auto mebibytes = static_cast<qint64>(entry.residentWhenRead >> 20);
-    m_perMiB = (m_perMiB * weightOfPast + cost / mebibytes) / (weightOfPast + 1);
+    m_costs.perMiB = average(m_costs.perMiB, cost / mebibytes);
 }
 
 void MemoryLedger::handOut(QList<ProcSample>& processes) {
@@ -128,7 +131,7 @@ QList<MemoryPlan::Process> MemoryLedger::wanted(const QList<ProcSample>& process
 void MemoryLedger::startSlice(const QList<ProcSample>& processes) {
     const std::chrono::duration<double> sinceLast = m_now - std::exchange(m_plannedAt, m_now);
     const auto readings = MemoryPlan::slice(wanted(processes), std::min(m_credit, MemoryPlan::maxCredit),
-                                            m_perMiB, sinceLast.count());
+                                            m_costs, sinceLast.count());
     if (!readings.isEmpty())
         read(readings, processes);
     m_credit -= m_clock->uptime() - m_now + handOverCost; // planning costs as well

@@ -77,7 +77,7 @@ private:
     QSet<qint32> m_asked;
     bool m_wantsAll = false;
     MemoryPlan::Nanoseconds m_credit; ///< negative after a dear reading
-    MemoryPlan::Nanoseconds m_perMiB;
+    MemoryPlan::Costs m_costs;
     std::chrono::steady_clock::time_point m_now;
     std::chrono::steady_clock::time_point m_plannedAt;
     quint32 m_tick = 0;

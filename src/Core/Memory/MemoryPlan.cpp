@@ -1,12 +1,13 @@
 #include "Core/Memory/MemoryPlan.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 
 namespace MemoryPlan {
 namespace {
 
-constexpr Nanoseconds totalsCost = std::chrono::microseconds(15);
 constexpr Nanoseconds leastCost = std::chrono::microseconds(40); // opening, and the mappings of any process
 constexpr quint64 MiB = 1 << 20;
 constexpr quint64 smallBytes = 8 * MiB; // read by its totals at first
@@ -15,15 +16,16 @@ constexpr double freshSeconds = 5;      // on show
 constexpr double dueSeconds = 10;
 
 /// In the order of reading. What is settled is not read.
-enum class Urgency { asked, onShow, unread, grown, due, rough, settled };
+enum class Urgency { asked, onShow, unread, grown, rough, due, settled };
 
 struct Candidate {
     Urgency urgency = Urgency::settled;
     quint64 residentBytes = 0;
     double ageSeconds = 0;
-    Reading reading;
+    qint32 pid = 0;
     Nanoseconds cost{};
 };
+using Candidates = QList<Candidate>;
 
 bool isTooLarge(const Process& process) {
     return process.residentBytes > maxUnaskedBytes && !process.isAsked;
@@ -40,9 +42,9 @@ Urgency urgencyOf(const Process& process) {
         return Urgency::unread;
     if (hasChangedSize(process.residentBytes, process.residentWhenRead))
         return Urgency::grown;
-    if (process.ageSeconds > dueSeconds)
-        return Urgency::due;
-    return isRough ? Urgency::rough : Urgency::settled;
+    if (isRough)
+        return Urgency::rough;
+    return process.ageSeconds > dueSeconds ? Urgency::due : Urgency::settled;
 }
 
 /// Returns whether all figures are wanted, and not the totals alone.
@@ -56,51 +58,55 @@ bool wantsAll(const Process& process, Urgency urgency) {
     return urgency == Urgency::asked || !mayRepeat;
 }
 
-Candidate candidateOf(const Process& process, Nanoseconds perMiB) {
-    const Urgency urgency = urgencyOf(process);
-    const bool all = wantsAll(process, urgency);
-    return {.urgency = urgency,
-            .residentBytes = process.residentBytes,
-            .ageSeconds = process.ageSeconds,
-            .reading = {.pid = process.pid, .all = all},
-            .cost = all ? expectedCost(process, perMiB) : totalsCost};
-}
-
 bool comesBefore(const Candidate& a, const Candidate& b) {
     if (a.urgency != b.urgency)
         return a.urgency < b.urgency;
     return a.urgency == Urgency::due ? a.ageSeconds > b.ageSeconds : a.residentBytes > b.residentBytes;
 }
 
-/// Returns those that are not settled in the order of reading, with the oldest `dueCount` of what is due.
-QList<Candidate> candidatesIn(const QList<Process>& processes, Nanoseconds perMiB, qsizetype dueCount) {
-    QList<Candidate> candidates;
+/// Returns the processes that want all their figures, in the order of reading.
+Candidates wholeIn(const QList<Process>& processes, const Costs& costs) {
+    Candidates whole;
     for (const Process& process : processes) {
-        const Candidate candidate = candidateOf(process, perMiB);
-        if (candidate.urgency != Urgency::settled)
-            candidates.append(candidate);
+        const Urgency urgency = urgencyOf(process);
+        if (urgency != Urgency::settled && wantsAll(process, urgency))
+            whole.append({urgency, process.residentBytes, process.ageSeconds, process.pid,
+                          expectedCost(process, costs)});
     }
-    std::ranges::stable_sort(candidates, comesBefore);
-    const auto due = std::ranges::equal_range(candidates, Urgency::due, {}, &Candidate::urgency);
-    const auto first = due.begin() + std::min<qsizetype>(dueCount, std::ranges::ssize(due));
-    candidates.erase(first, due.end());
-    return candidates;
+    std::ranges::stable_sort(whole, comesBefore);
+    return whole;
 }
 
-/// Appends the readings of one kind until one exceeds the credit, which then grows for it. Returns their
-/// cost.
-Nanoseconds take(const QList<Candidate>& candidates, bool all, Nanoseconds credit, bool mayExceed,
-                 QList<Reading>& readings) {
-    Nanoseconds spent{};
-    for (const Candidate& candidate : candidates) {
-        if (candidate.reading.all != all)
-            continue;
-        const bool isFirst = spent == Nanoseconds();
-        if (spent + candidate.cost > credit && !(isFirst && mayExceed))
-            break;
-        readings.append(candidate.reading);
-        spent += candidate.cost;
+/// Returns those whose totals are worth a reading: that have none, that do not get more, and the oldest
+/// `dueCount` of what is due. Totals are good enough until there is credit for all figures.
+Candidates totalsIn(const QList<Process>& processes, const Costs& costs, qsizetype dueCount) {
+    Candidates totals;
+    for (const Process& process : processes) {
+        Urgency urgency = urgencyOf(process);
+        const bool isDue = process.ageSeconds > dueSeconds;
+        if (urgency > Urgency::unread && (isDue || wantsAll(process, urgency)))
+            urgency = isDue ? Urgency::due : Urgency::settled;
+        if (urgency != Urgency::settled)
+            totals.append({urgency, process.residentBytes, process.ageSeconds, process.pid, costs.totals});
     }
+    std::ranges::stable_sort(totals, comesBefore);
+    const auto due = std::ranges::equal_range(totals, Urgency::due, {}, &Candidate::urgency);
+    totals.erase(due.begin() + std::min<qsizetype>(dueCount, std::ranges::ssize(due)), due.end());
+    return totals;
+}
+
+/// Cuts the candidates to those that fit into the credit, up to the first that does not: the credit then
+/// grows for it. Returns their cost.
+Nanoseconds cut(Candidates& candidates, Nanoseconds credit, bool mayExceed) {
+    Nanoseconds spent{};
+    qsizetype count = 0;
+    for (; count < candidates.size(); ++count) {
+        const bool fits = spent + candidates[count].cost <= credit || (count == 0 && mayExceed);
+        if (!fits)
+            break;
+        spent += candidates[count].cost;
+    }
+    candidates.resize(count);
     return spent;
 }
 
@@ -111,25 +117,34 @@ bool hasChangedSize(quint64 residentBytes, quint64 residentWhenRead) {
     return larger - std::min(residentBytes, residentWhenRead) > std::max(MiB, larger / 20);
 }
 
-Nanoseconds expectedCost(const Process& process, Nanoseconds perMiB) {
+Nanoseconds expectedCost(const Process& process, const Costs& costs) {
     const auto mebibytes = static_cast<double>(process.residentBytes) / static_cast<double>(MiB);
-    const auto bySize = Nanoseconds(static_cast<qint64>(mebibytes * static_cast<double>(perMiB.count())));
+    const auto bySize =
+        Nanoseconds(static_cast<qint64>(mebibytes * static_cast<double>(costs.perMiB.count())));
     if (!process.lastCost || process.costBytes == 0)
         return leastCost + bySize;
     const double growth = static_cast<double>(process.residentBytes) / static_cast<double>(process.costBytes);
     return Nanoseconds(static_cast<qint64>(static_cast<double>(process.lastCost->count()) * growth));
 }
 
-QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, Nanoseconds perMiB,
+QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, const Costs& costs,
                      double secondsSinceLast) {
     const double turns = std::min(1.0, secondsSinceLast / turnSeconds);
     const auto dueCount = static_cast<qsizetype>(std::ceil(turns * static_cast<double>(processes.size())));
-    const QList<Candidate> candidates = candidatesIn(processes, perMiB, dueCount);
+    Candidates totals = totalsIn(processes, costs, dueCount);
+    const Nanoseconds spent = cut(totals, credit * 4 / 5, false);
+    Candidates whole = wholeIn(processes, costs);
+    cut(whole, credit - spent, credit >= maxCredit);
+    QSet<qint32> wholePids;
+    for (const Candidate& candidate : whole)
+        wholePids.insert(candidate.pid);
     QList<Reading> readings;
-    const bool isFull = credit >= maxCredit;
-    const Nanoseconds forTotals = credit * 3 / 4; // so that small processes wait for no large one
-    const Nanoseconds spent = take(candidates, false, forTotals, false, readings);
-    take(candidates, true, credit - spent, isFull, readings);
+    for (const Candidate& candidate : totals) {
+        if (!wholePids.contains(candidate.pid))
+            readings.append({.pid = candidate.pid, .all = false});
+    }
+    for (const Candidate& candidate : whole)
+        readings.append({.pid = candidate.pid, .all = true});
     return readings;
 }
 

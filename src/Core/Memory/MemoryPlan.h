@@ -11,7 +11,8 @@ namespace MemoryPlan {
 
 using Nanoseconds = std::chrono::nanoseconds;
 
-constexpr Nanoseconds creditPerTick = std::chrono::milliseconds(1);
+/// Of a millisecond. The rest is for what is not counted, such as page faults of the thread.
+constexpr Nanoseconds creditPerTick = std::chrono::microseconds(900);
 constexpr Nanoseconds maxCredit = std::chrono::milliseconds(4);
 /// Everything is read again once in a turn. Each slice reads its part of it, the oldest first, so that no
 /// burst of readings is followed by another a turn later.
@@ -43,13 +44,19 @@ struct Reading {
     bool operator==(const Reading&) const = default;
 };
 
-/// Returns the processor time that a reading of all figures will take, by the cost per MiB of those before.
-Nanoseconds expectedCost(const Process& process, Nanoseconds perMiB);
+/// What readings cost, by those before.
+struct Costs {
+    Nanoseconds perMiB = std::chrono::microseconds(20); ///< of small pages, for all figures; measured
+    Nanoseconds totals = std::chrono::microseconds(15);
+};
+
+/// Returns the processor time that a reading of all figures will take.
+Nanoseconds expectedCost(const Process& process, const Costs& costs);
 
 /// Returns the readings of a slice, those of totals first: what a person asked for, what is on show, new or
 /// grown, the largest first in each, then what is due after the seconds since the last slice. Their expected
 /// cost stays within `credit`. A process that costs more than `maxCredit` is read once the credit is full.
-QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, Nanoseconds perMiB,
+QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, const Costs& costs,
                      double secondsSinceLast);
 
 } // namespace MemoryPlan
