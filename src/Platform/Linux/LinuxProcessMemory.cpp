@@ -22,8 +22,8 @@ std::chrono::nanoseconds threadTime() {
 }
 
 std::optional<quint64> lineBytes(std::string_view text, std::string_view key) {
-    const auto kib = numberOf(text, key);
-    return kib ? std::optional(*kib * 1024) : std::nullopt;
+    const auto size = numberOf(text, key); // in KiB
+    return size ? std::optional(*size * 1024) : std::nullopt;
 }
 
 std::optional<quint64> sum(std::optional<quint64> first, std::optional<quint64> second) {
