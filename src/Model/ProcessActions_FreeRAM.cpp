@@ -1,5 +1,6 @@
 #include "Model/ProcessActions.h"
 
+#include "Core/Memory/FreedMemory.h"
 #include "Core/Sampling/ProcessFilter.h"
 #include "Platform/Identity.h"
 #include "Platform/Relief.h"
@@ -33,10 +34,6 @@ QString logDetail(const FreeRAMResult& result) {
     for (const Record& record : result.perPid)
         outcomes.append(QString::number(record.pid) + u':' + rawValue(record.outcome));
     return u"[free RAM] "_s + outcomes.join(u',') + u" freed="_s + QString::number(result.freedBytes);
-}
-
-quint64 decrease(quint64 before, quint64 after) {
-    return before - std::min(before, after);
 }
 
 bool isWorthOffering(const ProcSample& process) {
@@ -99,9 +96,9 @@ QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
     if (!self)
         co_return result;
 
-    const SystemSample after = Sampler(m_platform).sample();
-    result.freedBytes = decrease(before.memUsedBytes, after.memUsedBytes);
-    result.freedSwapBytes = decrease(before.swapUsedBytes, after.swapUsedBytes);
+    const FreedMemory freed = FreedMemory::between(before, Sampler(m_platform).sample());
+    result.freedBytes = freed.memoryBytes;
+    result.freedSwapBytes = freed.swapBytes;
     const QString detail = logDetail(result);
     m_log.record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
     co_return result;

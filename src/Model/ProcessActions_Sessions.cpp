@@ -1,5 +1,6 @@
 #include "Model/ProcessActions.h"
 
+#include "Core/Memory/FreedMemory.h"
 #include "Platform/Identity.h"
 #include "Platform/Signals.h"
 
@@ -12,8 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Record = SessionEndResult::Record;
 
 /// A process that is to end.
 struct Target {
@@ -52,16 +51,13 @@ SessionEndResult resultOf(const SessionEnding& ending, const Targets& targets) {
 }
 
 QString logDetail(const SessionEndResult& result) {
-    const auto forced = std::ranges::count(result.records, KillOutcome::forced, &Record::outcome);
+    const auto forced =
+        std::ranges::count(result.records, KillOutcome::forced, &SessionEndResult::Record::outcome);
     return u"[session] %1 — ended=%2/%3 forced=%4 freed=%5"_s.arg(result.title)
         .arg(result.endedCount())
         .arg(result.records.size())
         .arg(forced)
         .arg(result.freedBytes);
-}
-
-quint64 decrease(quint64 before, quint64 after) {
-    return before - std::min(before, after);
 }
 
 /// Waits until the first `count` targets have ended, at most for `limit`.
@@ -165,9 +161,9 @@ QCoro::Task<SessionEndResult> ProcessActions::endSession(SessionEnding ending) {
     SessionEndResult result = resultOf(ending, *targets);
     if (!self)
         co_return result;
-    const SystemSample after = Sampler(m_platform).sample();
-    result.freedBytes = decrease(before.memUsedBytes, after.memUsedBytes);
-    result.freedSwapBytes = decrease(before.swapUsedBytes, after.swapUsedBytes);
+    const FreedMemory freed = FreedMemory::between(before, Sampler(m_platform).sample());
+    result.freedBytes = freed.memoryBytes;
+    result.freedSwapBytes = freed.swapBytes;
     const QString detail = logDetail(result);
     m_log.record(ActionLogEntry::Kind::quit, detail, result.freedBytes, true);
     co_return result;
