@@ -206,5 +206,5 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     int ticks = 1;
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
-    EXPECT_EQ(ticks, 36) << "a debt of 26.5 ms, and 0.75 less each tick";
+    EXPECT_EQ(ticks, 14) << "a debt of 10.3 ms, and 0.75 less each tick";
 }

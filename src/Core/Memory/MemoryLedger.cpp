@@ -10,7 +10,8 @@
 namespace {
 
 constexpr auto maxAge = std::chrono::minutes(2);
-constexpr MemoryPlan::Nanoseconds maxSavings = 15 * MemoryPlan::creditPerTick;   // totals of 1,000 processes
+constexpr MemoryPlan::Nanoseconds maxSavings =
+    33 * MemoryPlan::creditPerTick; // so that first figures come soon
 constexpr MemoryPlan::Nanoseconds handOverCost = std::chrono::microseconds(150); // to the thread and back
 constexpr quint64 leastTellingBytes = 16 << 20; // below it a cost says little about the cost of a page
 
