@@ -6,6 +6,7 @@
 
 #include <QProcess>
 #include <QTcpServer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -34,7 +35,12 @@ TEST(SessionTracesTest, AProcessTellsWhatItInherited) {
     ASSERT_TRUE(child.waitForStarted());
     const auto pid = static_cast<qint32>(child.processId());
     LinuxProcessTable table;
-    const ProcessInheritance found = table.inheritance(pid, {"zz_SESSION", "zz_MISSING", "SESSION"});
+    ProcessInheritance found;
+    // The kernel closes the pipe that tells of the start before it sets up the environment.
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        found = table.inheritance(pid, {"zz_SESSION", "zz_MISSING", "SESSION"});
+        return !found.variables.isEmpty();
+    }));
     EXPECT_EQ(found.sessionLeader, pid);
     EXPECT_EQ(found.variables, (QHash<QByteArray, QByteArray>{{"zz_SESSION", "a=b"}}));
     EXPECT_EQ(found.controlGroup, table.inheritance(getpid(), {}).controlGroup);
