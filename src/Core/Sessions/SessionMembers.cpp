@@ -25,6 +25,11 @@ bool runsAgent(const ProcSample& process) {
     return process.group == ProcGroup::agents && MCPInspector::isHost(process);
 }
 
+/// Returns whether a process may not have its environment yet, which exec(2) sets up last.
+bool isStarting(const ProcSample& process, Instant now) {
+    return process.startTime <= now && now - process.startTime < std::chrono::seconds(1);
+}
+
 QString agentName(const ProcSample& host) {
     const auto* known = KnownPrograms::of(host);
     return AgentTable::typedName(known ? known->name.toString() : host.name);
@@ -196,11 +201,16 @@ void SessionMembers::addWord(int session, const QString& id, const QString& fold
 
 void SessionMembers::readInheritance(const ProcessTree& tree) {
     int reads = 0;
+    const Instant now = m_clock->now();
     for (const int place : std::exchange(m_mayHaveUnread, false) ? tree.parentsFirst() : std::vector<int>()) {
         const bool isWanted = !recordAt(place).isRead && isOfUser(tree.at(place)) &&
                               (m_sessionAt[index(place)] != none || isTop(tree, place));
         if (!isWanted)
             continue;
+        if (isStarting(tree.at(place), now)) {
+            m_mayHaveUnread = true;
+            continue;
+        }
         if (reads == readsPerPass) {
             m_mayHaveUnread = true;
             break;
