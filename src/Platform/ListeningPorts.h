@@ -19,7 +19,7 @@ public:
 
     /// Returns all listening sockets, none when the system does not tell.
     virtual QList<ListeningSocket> sockets() = 0;
-    /// Returns the ids of all sockets that a process has open, none when they are unreadable. Costs about a
-    /// microsecond for each open file.
+    /// Returns the ids of all sockets that a process has open, none when they are unreadable. Costs a
+    /// system call for each open file.
     virtual QList<quint64> socketsOf(qint32 pid) = 0;
 };

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int readsPerPass = 50; // of 20 to 40 µs each; an environment of 2 MiB takes a millisecond
+constexpr int readsPerPass = 50; // each opens three files
 constexpr qint32 initPid = 1;
 
 bool runsAgent(const ProcSample& process) {

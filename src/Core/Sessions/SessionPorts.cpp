@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int searchesPerTick = 50; // of 30 to 100 µs each
+constexpr int searchesPerTick = 50; // each reads a link for every open file
 
 } // namespace
 
