@@ -9,6 +9,7 @@
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
+#include "UI/Kit/AccessibleScrollArea.h"
 #include "UI/Style/Style.h"
 #include "UI/Style/ThemeFollower.h"
 
@@ -33,6 +34,7 @@ TavrinApp::TavrinApp(int& argc, char** argv)
     setDesktopFileName(QStringLiteral("tavrin"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     setStyle(new Style);
+    installAccessibleScrollAreas();
     setQuitOnLastWindowClosed(false);
     new ThemeFollower(Platform::makeAppearance(), this);
 }

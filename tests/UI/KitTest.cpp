@@ -1,11 +1,13 @@
 #include "Core/Formatters.h"
 #include "UI/Controls.h"
+#include "UI/Kit/AccessibleScrollArea.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
 #include "UI/ModelFixture.h"
 
+#include <QAccessible>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextDocument>
@@ -134,4 +136,17 @@ TEST(StepperTest, HalvesEndWithTheRangeAndRepeatWhilePressed) {
     EXPECT_FALSE(more->isEnabled());
     QTest::mouseRelease(more, Qt::LeftButton);
     EXPECT_EQ(row.value(), 60);
+}
+
+TEST(AccessibleScrollAreaTest, AChildThatHasGoneIsNoChild) {
+    installAccessibleScrollAreas();
+    SizeList list(u"What goes"_s);
+    list.show();
+    QAccessibleInterface* area = QAccessible::queryAccessibleInterface(&list);
+    const int count = area->childCount();
+    ASSERT_GT(count, 0);
+    EXPECT_EQ(area->text(QAccessible::Name), u"What goes"_s);
+    EXPECT_EQ(area->child(0)->object(), list.viewport());
+    for (const int index : {-1, count, count + 1000})
+        EXPECT_EQ(area->child(index), nullptr) << index;
 }
