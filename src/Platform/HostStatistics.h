@@ -20,6 +20,7 @@ struct MemoryUse {
     quint64 wiredBytes = 0;      ///< cannot be paged out
     quint64 compressedBytes = 0; ///< taken by the compressor
     quint64 swapUsedBytes = 0;
+    quint64 swapTotalBytes = 0;
     quint64 totalBytes = 0; ///< physical memory
     /// Anonymous and shared memory of all programs; the rest of what is used is the kernel's.
     std::optional<quint64> programBytes = {};

@@ -6,8 +6,10 @@
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
 #include "Platform/ListeningPorts.h"
+#include "Platform/MemoryKills.h"
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
+#include "Platform/Pressure.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "support/FakePlaces.h"
@@ -202,12 +204,36 @@ private:
     }
 };
 
+class FakePressure : public Pressure {
+public:
+    std::optional<PressureLevel> memory() override { return memoryLevel; }
+    std::optional<PressureLevel> disk() override { return diskLevel; }
+
+    std::optional<PressureLevel> memoryLevel;
+    std::optional<PressureLevel> diskLevel;
+};
+
+class FakeMemoryKills : public MemoryKills {
+public:
+    std::optional<quint64> count() override { return counted; }
+    QCoro::Task<QList<RecordedKill>> since(std::chrono::system_clock::time_point time) override {
+        askedSince.append(time);
+        co_return record;
+    }
+
+    std::optional<quint64> counted = 0;
+    QList<RecordedKill> record;
+    QList<std::chrono::system_clock::time_point> askedSince;
+};
+
 /// All fakes together.
 struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
     std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();
     std::shared_ptr<FakeProcessMemory> processMemory = std::make_shared<FakeProcessMemory>();
     std::shared_ptr<FakeListeningPorts> listeningPorts = std::make_shared<FakeListeningPorts>();
+    std::shared_ptr<FakePressure> pressure = std::make_shared<FakePressure>();
+    std::shared_ptr<FakeMemoryKills> memoryKills = std::make_shared<FakeMemoryKills>();
     std::shared_ptr<FakePowerMode> power = std::make_shared<FakePowerMode>();
     std::shared_ptr<FakeIdentity> identity = std::make_shared<FakeIdentity>();
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
@@ -222,6 +248,8 @@ struct FakePlatform {
                 .processes = processes,
                 .processMemory = processMemory,
                 .listeningPorts = listeningPorts,
+                .pressure = pressure,
+                .memoryKills = memoryKills,
                 .power = power,
                 .identity = identity,
                 .clock = clock,

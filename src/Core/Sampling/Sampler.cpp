@@ -5,6 +5,7 @@
 #include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/Platform.h"
+#include "Platform/Pressure.h"
 #include "Platform/ProcessTable.h"
 
 #include <array>
@@ -51,6 +52,7 @@ quint64 busy(const CpuTicks& ticks) {
 Sampler::Sampler(const Platform& platform, Classifier classifier)
     : m_host(platform.host)
     , m_table(platform.processes)
+    , m_pressure(platform.pressure)
     , m_clock(platform.clock)
     , m_applications(platform.applications)
     , m_classify(std::move(classifier)) {}
@@ -67,10 +69,13 @@ SystemSample Sampler::sample() {
     sample.memProgramBytes = memory.programBytes;
     sample.memTotalBytes = memory.totalBytes;
     sample.swapUsedBytes = memory.swapUsedBytes;
+    sample.swapTotalBytes = memory.swapTotalBytes;
     const VolumeSize root = m_host->rootVolume().value_or(VolumeSize());
     sample.diskFreeBytes = root.freeBytes;
     sample.diskTotalBytes = root.totalBytes;
     sample.thermalState = thermalState(m_host->thermalLevel());
+    sample.memoryPressure = m_pressure->memory();
+    sample.diskPressure = m_pressure->disk();
     return sample;
 }
 

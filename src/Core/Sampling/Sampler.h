@@ -15,6 +15,7 @@
 
 class Applications;
 class Clock;
+class Pressure;
 class ProcessTable;
 struct ProcessOrigin;
 struct Platform;
@@ -95,6 +96,7 @@ private:
 
     std::shared_ptr<HostStatistics> m_host;
     std::shared_ptr<ProcessTable> m_table;
+    std::shared_ptr<Pressure> m_pressure;
     std::shared_ptr<Clock> m_clock;
     std::shared_ptr<Applications> m_applications;
     Classifier m_classify;

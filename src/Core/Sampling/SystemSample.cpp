@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 QString thermalLabel(ThermalState state) {
     constexpr const char* labels[] = {
         QT_TRANSLATE_NOOP("ThermalState", "Cool"), QT_TRANSLATE_NOOP("ThermalState", "Warm"),
@@ -29,4 +31,9 @@ double SystemSample::diskUsedPercent() const {
         return 0;
     const double used = static_cast<double>(diskTotalBytes) - static_cast<double>(diskFreeBytes);
     return used / static_cast<double>(diskTotalBytes) * 100;
+}
+
+quint64 SystemSample::leftBytes() const {
+    return memTotalBytes - std::min(memUsedBytes, memTotalBytes) + swapTotalBytes -
+           std::min(swapUsedBytes, swapTotalBytes);
 }

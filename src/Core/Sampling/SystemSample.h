@@ -2,6 +2,7 @@
 
 #include "Core/Instant.h"
 #include "Core/RawValue.h"
+#include "Platform/Pressure.h"
 
 #include <QList>
 #include <QString>
@@ -36,9 +37,12 @@ struct SystemSample {
     quint64 memCompressedBytes = 0;
     std::optional<quint64> memProgramBytes = {}; ///< anonymous and shared memory of all programs
     quint64 swapUsedBytes = 0;
+    quint64 swapTotalBytes = 0;
     quint64 diskFreeBytes = 0; ///< of the root volume, for an ordinary user
     quint64 diskTotalBytes = 0;
     ThermalState thermalState = ThermalState::nominal;
+    std::optional<PressureLevel> memoryPressure = {}; ///< empty where the system does not tell
+    std::optional<PressureLevel> diskPressure = {};
 
     bool operator==(const SystemSample&) const = default;
 
@@ -47,4 +51,6 @@ struct SystemSample {
 
     double memUsedPercent() const;  ///< 0 when the total is 0
     double diskUsedPercent() const; ///< 0 when the total is 0
+    /// Returns the bytes that programs can still get, in memory and in swap; 0 when the total is 0.
+    quint64 leftBytes() const;
 };

@@ -8,12 +8,13 @@
 class QMenu;
 
 /// The content of a status item: the title, or the symbol for an empty one. Where only an icon fits it is
-/// `compact` with `toolTip`.
+/// `compact` with `toolTip`. A mark that is not null stands beside the title.
 struct StatusContent {
     QString title;
     QIcon symbol;
-    QIcon compact; ///< with the figures drawn in
+    QIcon compact; ///< with the figures, and the mark, drawn in
     QString toolTip;
+    QIcon mark = {};
 };
 
 /// The program's item in the status area.

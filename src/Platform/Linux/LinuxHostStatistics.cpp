@@ -107,6 +107,7 @@ MemoryUse LinuxHostStatistics::memoryUse() {
             .wiredBytes = wired,
             .compressedBytes = compressed,
             .swapUsedBytes = usedBytes(meminfo, "SwapTotal:", "SwapFree:"),
+            .swapTotalBytes = bytesOf(meminfo, "SwapTotal:"),
             .totalBytes = bytesOf(meminfo, "MemTotal:"),
             .programBytes = programBytes(meminfo)};
 }

@@ -5,7 +5,9 @@
 #include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxListeningPorts.h"
+#include "Platform/Linux/LinuxMemoryKills.h"
 #include "Platform/Linux/LinuxPowerMode.h"
+#include "Platform/Linux/LinuxPressure.h"
 #include "Platform/Linux/LinuxProcessMemory.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "Platform/Linux/LinuxRelief.h"
@@ -28,6 +30,8 @@ Platform Platform::native() {
             .processes = std::make_shared<LinuxProcessTable>(),
             .processMemory = std::make_shared<LinuxProcessMemory>(),
             .listeningPorts = std::make_shared<LinuxListeningPorts>(),
+            .pressure = std::make_shared<LinuxPressure>(),
+            .memoryKills = std::make_shared<LinuxMemoryKills>(tools),
             .power = std::make_shared<LinuxPowerMode>(),
             .identity = std::make_shared<UnixIdentity>(),
             .clock = std::make_shared<SystemClock>(),

@@ -5,9 +5,11 @@
 #include "Platform/Identity.h"
 #include "Platform/ListeningPorts.h"
 #include "Platform/LoginItem.h"
+#include "Platform/MemoryKills.h"
 #include "Platform/Places.h"
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
+#include "Platform/Pressure.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "Platform/Relief.h"
@@ -105,6 +107,8 @@ Platform Platform::native() {
             .processes = std::make_shared<NullProcessTable>(),
             .processMemory = std::make_shared<NullProcessMemory>(),
             .listeningPorts = std::make_shared<NullListeningPorts>(),
+            .pressure = std::make_shared<Pressure>(),
+            .memoryKills = std::make_shared<MemoryKills>(),
             .power = std::make_shared<NullPowerMode>(),
             .identity = std::make_shared<NullIdentity>(),
             .clock = std::make_shared<SystemClock>(),

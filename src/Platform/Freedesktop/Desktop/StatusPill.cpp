@@ -15,6 +15,8 @@ namespace {
 constexpr int pillHeight = 26;
 constexpr int padding = 12;
 constexpr int symbolSize = 16;
+constexpr int markSize = 12;
+constexpr int markGap = 6;
 constexpr int screenMargin = 8;
 
 } // namespace
@@ -46,11 +48,15 @@ void StatusPill::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
 }
 
+int StatusPill::markRoom() const {
+    return m_content.mark.isNull() ? 0 : markSize + markGap;
+}
+
 /// Keeps the right edge in place: wider figures grow to the left.
 void StatusPill::fit() {
     const int content =
         m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
-    const QSize wanted(content + 2 * padding, pillHeight);
+    const QSize wanted(content + markRoom() + 2 * padding, pillHeight);
     if (WaylandWindow::isWayland()) {
         setFixedSize(wanted); // tiling compositors let windows of fixed size float
         return;
@@ -70,10 +76,13 @@ void StatusPill::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), pillHeight / 2.0,
                             pillHeight / 2.0);
     painter.setPen(palette().color(QPalette::WindowText));
+    const QRect room = rect().adjusted(padding + markRoom(), 0, -padding, 0);
+    if (!m_content.mark.isNull())
+        m_content.mark.paint(&painter, QRect(padding, (height() - markSize) / 2, markSize, markSize));
     if (m_content.title.isEmpty())
-        m_content.symbol.paint(&painter, rect().adjusted(padding, 0, -padding, 0));
+        m_content.symbol.paint(&painter, room);
     else
-        painter.drawText(rect(), Qt::AlignCenter, m_content.title);
+        painter.drawText(room, Qt::AlignCenter, m_content.title);
 }
 
 void StatusPill::mousePressEvent(QMouseEvent* event) {

@@ -28,6 +28,7 @@ protected:
 
 private:
     void fit();
+    int markRoom() const;
 
     StatusContent m_content;
     QPointer<QMenu> m_menu;
