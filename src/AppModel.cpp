@@ -2,6 +2,7 @@
 
 #include "Core/Observable.h"
 #include "Core/Sampling/ProgramPath.h"
+#include "Platform/Clock.h"
 #include "Platform/Identity.h"
 #include "Platform/PowerMode.h"
 #include "Preferences.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr double minIntervalSeconds = 0.1;
 constexpr double maxIntervalSeconds = 86400;
 constexpr double intervalTolerance = 0.01;
+constexpr qsizetype maxIncidents = 20;
 
 double effectiveInterval(double stored) {
     if (!std::isfinite(stored))
@@ -43,7 +45,9 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_actionLog(m_platform.clock)
     , m_cleanup(m_platform, m_actionLog)
     , m_actions(m_platform, m_state, m_sampler, m_servers, m_actionLog)
+    , m_memoryWatch(m_platform, m_actionLog)
     , m_optimizer(m_actions, m_actionLog) {
+    connect(&m_memoryWatch, &MemoryWatch::stalled, this, &AppModel::tickEarly);
     connect(&m_actionLog, &Observable::objectWillChange, this, &Observable::objectWillChange);
     connect(&m_cleanup, &Observable::objectWillChange, this, &Observable::objectWillChange);
     connect(&m_timer, &QTimer::timeout, this, &AppModel::tick);
@@ -72,6 +76,7 @@ void AppModel::followPollInterval() {
 }
 
 void AppModel::tick() {
+    m_lastTick = m_platform.clock->uptime();
     const SystemSample sample = m_sampler.sample();
     publish(m_state.systemSample, sample);
     appendHistory(sample);
@@ -88,18 +93,45 @@ void AppModel::tick() {
     MCPInspector::Report mcpReport{.configured = m_mcpConfiguration.readConfigured(),
                                    .live = m_servers.detectLive(m_state.processes),
                                    .isUnknown = m_mcpConfiguration.isUnknown()};
+    m_memoryWatch.tick(sample, m_state.processes, rollups);
     followSessions(mcpReport.live);
-    publish(m_state.alerts, m_rules.evaluate(sample, m_state.processes, rollups, m_cleanup.targets(),
-                                             m_preferences, m_state.sessions.sessions));
+    publishAlerts();
     if (RulesEngine::needsTrueMemory(sample, rollups, m_preferences))
         m_ledger.wantOnShow(pidsOf(ProcGroup::browsers));
+    m_ledger.wantOnShow(m_memoryWatch.suspects());
     publish(m_state.mcpReport, std::move(mcpReport));
+}
+
+/// A stall is heard between two ticks, and what is on show has to be of that moment. A machine that is short
+/// of memory is not sampled more than twice a second for that.
+void AppModel::tickEarly() {
+    constexpr auto leastInterval = std::chrono::milliseconds(500);
+    if (!m_timer.isActive() || m_platform.clock->uptime() - m_lastTick < leastInterval)
+        return;
+    m_timer.start(); // the next tick is a whole interval away
+    tick();
+}
+
+void AppModel::publishAlerts() {
+    const QList<Alert> before = m_state.alerts;
+    const MemoryOutlook outlook = m_memoryWatch.outlook(m_state.systemSample, m_state.sessions.sessions);
+    publish(m_state.alerts,
+            m_rules.evaluate(m_state.systemSample, m_state.processes, m_state.groups, m_cleanup.targets(),
+                             m_preferences, m_state.sessions.sessions, outlook));
+    const QList<Incident> incidents = m_memoryWatch.incidents(before, m_state.alerts);
+    if (!incidents.isEmpty())
+        publish(m_state.incidents, (incidents + m_state.incidents).mid(0, maxIncidents));
+}
+
+const Incident* AppModel::incident(const QString& alertId) const {
+    const auto found = std::ranges::find(m_state.incidents, alertId, &Incident::alertId);
+    return found == m_state.incidents.end() ? nullptr : &*found;
 }
 
 void AppModel::followSessions(const QList<MCPInspector::LiveServer>& servers) {
     m_sessions.follow(m_state.processes);
     const bool hasRule = m_preferences.alertSessionBigEnabled();
-    m_hasSessions = std::exchange(m_wantsSessions, false) || hasRule;
+    m_hasSessions = std::exchange(m_wantsSessions, false) || hasRule || m_memoryWatch.wantsSessions();
     if (m_hasSessions || m_state.sessions != SessionReport())
         publishSessions(m_hasSessions ? m_sessions.report(servers) : SessionReport());
     if (!hasRule)

@@ -12,6 +12,7 @@
 #include "Core/Relief/AutoOptimizer.h"
 #include "Core/Sampling/Sampler.h"
 #include "Core/Sessions/SessionFinder.h"
+#include "Model/MemoryWatch.h"
 #include "Model/ProcessActions.h"
 #include "Model/PublishedState.h"
 #include "Platform/Platform.h"
@@ -46,6 +47,8 @@ public:
     /// Returns the parts of the used memory, by the last full tick.
     MemoryLineUp memoryLineUp() const;
     const QList<Alert>& alerts() const { return m_state.alerts; }
+    /// Returns what went on before an alert of severity danger or a kill, null where nothing was kept.
+    const Incident* incident(const QString& alertId) const;
     const MCPInspector::Report& mcpReport() const { return m_state.mcpReport; }
     const SessionReport& sessionReport() const { return m_state.sessions; }
     /// Wants the sessions at the next tick, and at once if nothing wanted them at the last. Views call it
@@ -77,6 +80,8 @@ private Q_SLOTS:
 private:
     void followSessions(const QList<MCPInspector::LiveServer>& servers);
     void publishSessions(SessionReport report);
+    void publishAlerts();
+    void tickEarly();
     QString projectOf(const ProcSample& process) const;
     void bindTimer(double intervalSeconds);
     void followPollInterval();
@@ -99,7 +104,9 @@ private:
     ActionLog m_actionLog;
     CacheCleanup m_cleanup;
     ProcessActions m_actions;
+    MemoryWatch m_memoryWatch;
     AutoOptimizer m_optimizer;
     QTimer m_timer;
+    std::chrono::steady_clock::time_point m_lastTick;
     QMetaObject::Connection m_pollIntervalConnection;
 };

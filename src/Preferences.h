@@ -87,6 +87,9 @@ public:
     Property<double> alertCachesBigGB{*this, u"pref.alertCachesBig_gb", 5.0};
     Property<bool> alertSessionBigEnabled{*this, u"pref.alertSessionBig_enabled", false};
     Property<double> alertSessionBigGB{*this, u"pref.alertSessionBig_gb", 8.0};
+    Property<bool> alertPressureEnabled{*this, u"pref.alertPressure_enabled", true};
+    Property<bool> alertForecastEnabled{*this, u"pref.alertForecast_enabled", true};
+    Property<bool> alertMemoryKillEnabled{*this, u"pref.alertMemoryKill_enabled", true};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.

@@ -3,6 +3,7 @@
 #include "Core/Alerts/Alert.h"
 #include "Core/Grouping/GroupRollup.h"
 #include "Core/Mcp/MCPInspector.h"
+#include "Core/Pressure/FlightRecorder.h"
 #include "Core/Sampling/ProcSample.h"
 #include "Core/Sampling/SystemSample.h"
 #include "Core/Sessions/Session.h"
@@ -17,6 +18,7 @@ struct PublishedState {
     QList<ProcSample> processes; ///< largest resident memory first
     QList<GroupRollup> groups;   ///< one per group, in group order; empty before the first tick
     QList<Alert> alerts;
+    QList<Incident> incidents;      ///< newest first
     MCPInspector::Report mcpReport; ///< of the last full tick
     SessionReport sessions;         ///< empty unless something wanted it at the last full tick
 

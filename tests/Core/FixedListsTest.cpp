@@ -65,7 +65,7 @@ TEST(FixedLists, RawValuesLabelsAndSymbols) {
     expectRawValues<ThermalState>(u"nominal|fair|serious|critical"_s);
     expectRawValues<ProcGroup>(u"Claude Code & Agents|IDEs|Terminals|Browsers|Docker & Containers|Other"_s);
     expectRawValues<Alert::Severity>(u"info|warn|danger"_s);
-    expectRawValues<ActionLogEntry::Kind>(u"quit|forceKill|clean"_s);
+    expectRawValues<ActionLogEntry::Kind>(u"quit|forceKill|clean|kernel"_s);
     expectRawValues<KillOutcome>(u"quit|forced|ignored|denied"_s);
     expectRawValues<Message::Target>(u"all|linux|macos|windows"_s);
     expectRawValues<Message::Severity>(u"info|warn|update|upgrade"_s);

@@ -80,6 +80,12 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         {Tab::alerts, u"Threshold"_s, u"More"_s, u"pref.alertCachesBig_gb=6"_s},
         {Tab::alerts, u"Caches reclaimable"_s, {}, u"pref.alertCachesBig_enabled=false"_s},
         {Tab::alerts, u"Large session"_s, {}, u"pref.alertSessionBig_enabled=true"_s},
+        {Tab::alerts, u"Programs wait for memory"_s, {}, u"pref.alertPressure_enabled=false"_s},
+        {Tab::alerts, u"Memory full within 30 minutes"_s, {}, u"pref.alertForecast_enabled=false"_s},
+        {Tab::alerts,
+         u"What was ended because memory ran out"_s,
+         {},
+         u"pref.alertMemoryKill_enabled=false"_s},
         {Tab::alerts, u"Session holds more than"_s, u"More"_s, u"pref.alertSessionBig_gb=9"_s},
     };
     for (const auto& [tab, name, choice, line] : cases) {

@@ -8,9 +8,9 @@
 
 #include <array>
 
-/// One action taken by the user or the optimizer.
+/// One action taken by the user or the optimizer, or a kill by the system.
 struct ActionLogEntry {
-    enum class Kind { quit, forceKill, clean };
+    enum class Kind { quit, forceKill, clean, kernel };
 
     QUuid id;
     Instant timestamp;
@@ -25,4 +25,5 @@ inline constexpr std::array rawValueTable<ActionLogEntry::Kind> = {
     RawValueRow{ActionLogEntry::Kind::quit, u"quit"},
     RawValueRow{ActionLogEntry::Kind::forceKill, u"forceKill"},
     RawValueRow{ActionLogEntry::Kind::clean, u"clean"},
+    RawValueRow{ActionLogEntry::Kind::kernel, u"kernel"},
 };

@@ -9,6 +9,8 @@
 #include "Preferences.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +24,12 @@ using Severity = Alert::Severity;
 constexpr double GiB = 1073741824.0;
 constexpr double heavySwapGB = 4.0;
 constexpr qsizetype maxNamedCaches = 3;
+constexpr qsizetype maxShownKills = 3;
+
+QTime timeOfDay(Instant at) {
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(at.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time();
+}
 
 QString oneDecimal(double value) {
     return Formatters::fixed(value, 1);
@@ -59,6 +67,90 @@ std::optional<Alert> memoryAlert(const SystemSample& system, const Preferences& 
                      .actionTarget = u"ram"_s};
     }
     return std::nullopt;
+}
+
+/// Returns the alert on programs that wait for memory.
+std::optional<Alert> pressureAlert(const SystemSample& system, const MemoryOutlook& outlook,
+                                   const Preferences& prefs) {
+    if (!prefs.alertPressureEnabled() || !outlook.pressure)
+        return std::nullopt;
+    const double waited = system.memoryPressure.value_or(PressureLevel()).some;
+    return Alert{.id = u"pressure"_s,
+                 .severity = *outlook.pressure,
+                 .title = QCoreApplication::translate("RulesEngine", "Programs wait for memory"),
+                 .detail = QCoreApplication::translate(
+                               "RulesEngine", "%1 of the last ten seconds. Free RAM, or quit what grows.")
+                               .arg(Formatters::percent(waited)),
+                 .actionTarget = u"ram"_s};
+}
+
+/// Returns whole minutes, in steps of five from ten on, so that the text stays the same for a while.
+int shownMinutes(double seconds) {
+    const double minutes = seconds / 60;
+    return minutes < 10 ? std::max(1, int(std::lround(minutes))) : 5 * int(std::lround(minutes / 5));
+}
+
+QString forecastTitle(const MemoryForecast& forecast) {
+    const int minutes = shownMinutes(forecast.secondsLeft);
+    if (!forecast.grower)
+        return QCoreApplication::translate("RulesEngine", "Memory full in about %1 min").arg(minutes);
+    const QString pace =
+        Formatters::bytes(static_cast<quint64>(std::max(0.0, forecast.grower->bytesPerSecond) * 60));
+    return (forecast.grower->kind == Grower::Kind::group
+                ? QCoreApplication::translate("RulesEngine", "Memory full in about %1 min — %2 grow %3/min")
+                : QCoreApplication::translate("RulesEngine", "Memory full in about %1 min — %2 grows %3/min"))
+        .arg(QString::number(minutes), forecast.grower->title, pace);
+}
+
+/// Returns the alert on memory that will be full. It acts on whoever grows, if that is the user's to end.
+std::optional<Alert> forecastAlert(const QList<ProcSample>& processes, const MemoryOutlook& outlook,
+                                   const Preferences& prefs, const ProcessFilter& maySignal) {
+    if (!prefs.alertForecastEnabled() || !outlook.forecast)
+        return std::nullopt;
+    Alert alert{.id = u"memory_full"_s,
+                .severity = Severity::danger,
+                .title = forecastTitle(*outlook.forecast),
+                .detail = QCoreApplication::translate("RulesEngine", "%1 are left, with swap.")
+                              .arg(Formatters::bytes(outlook.forecast->leftBytes))};
+    const auto& grower = outlook.forecast->grower;
+    if (!grower || grower->kind == Grower::Kind::group)
+        return alert;
+    const auto process = std::ranges::find(processes, grower->process, &ProcSample::identity);
+    if (process == processes.end() || !maySignal.accepts(*process))
+        return alert;
+    alert.actionPid = process->pid;
+    alert.actionTarget = grower->kind == Grower::Kind::session ? u"session"_s : u"process"_s;
+    return alert;
+}
+
+QString killTitle(const MemoryKill& kill) {
+    const QString by = kill.by.isEmpty() ? QCoreApplication::translate("RulesEngine", "The kernel") : kill.by;
+    const QString at = QLocale().toString(timeOfDay(kill.at), QLocale::ShortFormat);
+    if (kill.pid == 0)
+        return QCoreApplication::translate("RulesEngine", "%1 ended %2 at %3 because memory ran out")
+            .arg(by, kill.name, at);
+    const QString size = kill.bytes ? u", "_s + Formatters::bytes(*kill.bytes) : QString();
+    return QCoreApplication::translate("RulesEngine", "%1 ended %2 (PID %3%4) at %5 because memory ran out")
+        .arg(by, kill.name, QString::number(kill.pid), size, at);
+}
+
+/// Returns one alert for each of the newest kills.
+QList<Alert> killAlerts(const MemoryOutlook& outlook, const Preferences& prefs) {
+    QList<Alert> alerts;
+    if (!prefs.alertMemoryKillEnabled())
+        return alerts;
+    for (const MemoryKill& kill : outlook.kills.mid(0, maxShownKills)) {
+        alerts.append(
+            {.id = kill.id(),
+             .severity = Severity::info,
+             .title = killTitle(kill),
+             .detail = kill.isGuess
+                           ? QCoreApplication::translate(
+                                 "RulesEngine",
+                                 "Judged by what vanished then: the system's record is not readable.")
+                           : QString()});
+    }
+    return alerts;
 }
 
 /// Returns the first of the busiest processes that count, null when there is none.
@@ -224,13 +316,17 @@ bool RulesEngine::needsTrueMemory(const SystemSample& system, const QList<GroupR
 
 QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcSample>& processes,
                                    const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
-                                   const Preferences& prefs, const QList<Session>& sessions) {
+                                   const Preferences& prefs, const QList<Session>& sessions,
+                                   const MemoryOutlook& outlook) {
     QList<Alert> alerts;
     const auto add = [&alerts](const std::optional<Alert>& alert) {
         if (alert)
             alerts.append(*alert);
     };
+    const ProcessFilter maySignal(m_identity);
     add(memoryAlert(system, prefs));
+    add(forecastAlert(processes, outlook, prefs, maySignal));
+    add(pressureAlert(system, outlook, prefs));
     add(cpuAlert(system, processes, prefs, m_identity));
     const bool hot =
         system.thermalState == ThermalState::serious || system.thermalState == ThermalState::critical;
@@ -238,9 +334,10 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     if (prefs.alertThermalEnabled() && m_thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));
     add(swapAlert(system));
-    alerts.append(idleAgentAlerts(processes, prefs, ProcessFilter(m_identity), m_projectOf));
+    alerts.append(idleAgentAlerts(processes, prefs, maySignal, m_projectOf));
     add(browserAlert(system, groups, prefs));
     add(cachesAlert(caches, prefs));
     alerts.append(sessionAlerts(sessions, prefs));
+    alerts.append(killAlerts(outlook, prefs));
     return alerts;
 }

@@ -3,6 +3,7 @@
 #include "Core/Alerts/Alert.h"
 #include "Core/Cleanup/CacheTarget.h"
 #include "Core/Grouping/GroupRollup.h"
+#include "Core/Pressure/MemoryOutlook.h"
 #include "Core/Sampling/ProcSample.h"
 #include "Core/Sampling/SystemSample.h"
 #include "Core/Sessions/Session.h"
@@ -26,11 +27,12 @@ public:
         , m_projectOf(std::move(projectOf)) {}
 
     /// Returns the alerts in force, in the order of the rules. `processes` are grouped, largest resident
-    /// memory first. `sessions` are needed for the alert on large ones only. Counts hot ticks: call it once
-    /// per full tick.
+    /// memory first. `sessions` are needed for the alert on large ones only, `outlook` for those on pressure,
+    /// on memory that will be full, and on kills. Counts hot ticks: call it once per full tick.
     QList<Alert> evaluate(const SystemSample& system, const QList<ProcSample>& processes,
                           const QList<GroupRollup>& groups, const QList<CacheTarget>& caches,
-                          const Preferences& prefs, const QList<Session>& sessions = {});
+                          const Preferences& prefs, const QList<Session>& sessions = {},
+                          const MemoryOutlook& outlook = {});
 
     /// Returns whether the alert on browsers may be in force once their true memory is known, which is at
     /// most their resident memory and all that is in swap.

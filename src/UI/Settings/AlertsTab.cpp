@@ -6,6 +6,10 @@ AlertsTab::AlertsTab(Preferences& prefs, QWidget* parent)
     : SettingsForm(prefs, tr("Alerts"), parent) {
     addRule(tr("Memory"), tr("Low RAM warning"), prefs.alertRAMLowEnabled,
             {{{tr("Free RAM threshold"), tr("%1 GB"), 1}, {0.5, 16, 0.5}, prefs.alertRAMLowFreeGB}});
+    addRule(tr("Memory pressure"), tr("Programs wait for memory"), prefs.alertPressureEnabled, {});
+    addRule(tr("Forecast"), tr("Memory full within 30 minutes"), prefs.alertForecastEnabled, {});
+    addRule(tr("Out of memory"), tr("What was ended because memory ran out"), prefs.alertMemoryKillEnabled,
+            {});
     addRule(tr("CPU"), tr("CPU saturation"), prefs.alertCPUHotEnabled,
             {{{tr("CPU threshold"), u"%1%"_s}, {50, 100, 5}, prefs.alertCPUHotPercent}});
     addRule(tr("Thermal"), tr("Thermal pressure warning"), prefs.alertThermalEnabled, {});
