@@ -10,6 +10,7 @@
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/Overview/IncidentDialog.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 
@@ -123,9 +124,14 @@ void shootSections(Camera& camera) {
     Stage pressed;
     pressed.fakes.host->memory.swapUsedBytes = 5 * GiB;
     pressed.fakes.host->thermal = 2;
-    pressed.play(150, 92, 14.6);
+    pressed.play(140, 85, 13.9);
+    pressed.fakes.pressure->memoryLevel = PressureLevel{.some = 12, .full = 3};
+    pressed.play(10, 92, 14.6);
     MainWindow busy(pressed.model, pressed.prefs, pressed.messages);
     camera.take(busy, u"overview-alerts"_s);
     busy.resize(1600, 1000);
     camera.take(busy, u"overview-alerts-large"_s);
+    auto* incident = new IncidentDialog(*pressed.model.incident(u"ram_low"_s));
+    camera.take(*incident, u"incident"_s);
+    delete incident;
 }

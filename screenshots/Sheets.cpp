@@ -42,18 +42,41 @@ QPixmap contactSheet(double ratio) {
     return sheet;
 }
 
-/// Returns the tray icons on a light or a dark tray, at their real sizes and enlarged.
+QPixmap grey(const QPixmap& picture) {
+    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const int level = qGray(pixel);
+            image.setPixel(x, y, qRgba(level, level, level, qAlpha(pixel)));
+        }
+    }
+    QPixmap result = QPixmap::fromImage(image);
+    result.setDevicePixelRatio(picture.devicePixelRatio());
+    return result;
+}
+
+/// Returns the tray icons, with each mark, on a light or a dark tray: at their real sizes, without colours,
+/// and enlarged.
 QPixmap traySheet(double ratio) {
+    using Severity = Alert::Severity;
     const QList<QStringList> contents{{}, {u"7"_s}, {u"100"_s}, {u"23"_s, u"61"_s}, {u"100"_s, u"99"_s}};
-    QPixmap sheet = blank(QSize(760, 300), ratio);
+    const std::optional<Severity> marks[] = {{}, Severity::info, Severity::warn, Severity::danger};
+    QPixmap sheet = blank(QSize(760, 4 * 220), ratio);
     QPainter painter(&sheet);
-    int x = 16;
-    for (const QStringList& figures : contents) {
-        const QIcon icon = FigureIcon::make(figures);
-        painter.drawPixmap(x, 16, icon.pixmap(22));
-        painter.drawPixmap(x + 30, 16, icon.pixmap(44));
-        painter.drawPixmap(x, 80, icon.pixmap(22).scaled(132, 132));
-        x += 148;
+    int y = 16;
+    for (const auto& worst : marks) {
+        int x = 16;
+        for (const QStringList& figures : contents) {
+            const QIcon icon = FigureIcon::make(figures, worst);
+            painter.drawPixmap(x, y, icon.pixmap(16));
+            painter.drawPixmap(x + 24, y, icon.pixmap(22));
+            painter.drawPixmap(x + 54, y, icon.pixmap(44));
+            painter.drawPixmap(x + 106, y, grey(icon.pixmap(22)));
+            painter.drawPixmap(x, y + 56, icon.pixmap(22).scaled(132, 132));
+            x += 148;
+        }
+        y += 220;
     }
     return sheet;
 }

@@ -1,6 +1,7 @@
 #include "UI/MenuBar.h"
 
 #include "AppModel.h"
+#include "Core/Formatters.h"
 #include "Core/Observable.h"
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -33,6 +35,16 @@ QStringList figures(MenuBarFormat format, const SystemSample& sample) {
     if (format == MenuBarFormat::cpuOnly)
         return {cpu};
     return format == MenuBarFormat::ramOnly ? QStringList{ram} : QStringList();
+}
+
+/// Returns the first of the gravest alerts, null when there is none.
+const Alert* worstOf(const QList<Alert>& alerts) {
+    const auto worst = std::ranges::max_element(alerts, {}, &Alert::severity);
+    return worst == alerts.end() ? nullptr : &*worst;
+}
+
+QString toolTip(const QString& figures, const Alert* worst) {
+    return worst ? figures + u'\n' + Formatters::visible(worst->title) : figures;
 }
 
 } // namespace
@@ -82,7 +94,12 @@ QString MenuBarController::title(MenuBarFormat format, const SystemSample& sampl
 void MenuBarController::update(const SystemSample& sample) {
     const MenuBarFormat format = m_preferences.menuBarFormat();
     const QString text = title(format, sample);
-    const Shown shown{.format = format, .title = text, .dark = Theme::isDark()};
+    const Alert* worst = worstOf(m_model.alerts());
+    const Shown shown{.format = format,
+                      .title = text,
+                      .dark = Theme::isDark(),
+                      .worst = worst ? std::optional(worst->severity) : std::nullopt,
+                      .worstTitle = worst ? worst->title : QString()};
     if (std::exchange(m_shown, shown) == shown)
         return;
     const bool iconOnly = format == MenuBarFormat::iconOnly;
@@ -91,8 +108,9 @@ void MenuBarController::update(const SystemSample& sample) {
                         traySymbolSize, qApp->devicePixelRatio());
     m_desktop.statusItem->show({.title = text,
                                 .symbol = iconOnly ? QIcon(symbol) : QIcon(),
-                                .compact = FigureIcon::make(figures(format, sample)),
-                                .toolTip = iconOnly ? QStringLiteral("Tavrin") : text});
+                                .compact = FigureIcon::make(figures(format, sample), shown.worst),
+                                .toolTip = toolTip(iconOnly ? QStringLiteral("Tavrin") : text, worst),
+                                .mark = shown.worst ? FigureIcon::mark(*shown.worst) : QIcon()});
 }
 
 void MenuBarController::togglePopover() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Alerts/Alert.h"
 #include "Platform/Desktop/Desktop.h"
 #include "Preferences.h"
 
@@ -32,6 +33,8 @@ private:
         MenuBarFormat format;
         QString title;
         bool dark;
+        std::optional<Alert::Severity> worst;
+        QString worstTitle;
 
         bool operator==(const Shown&) const = default;
     };

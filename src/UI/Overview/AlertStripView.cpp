@@ -39,9 +39,12 @@ AlertCard::AlertCard(QWidget* parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
     , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
-    , m_quit(new PushButton(tr("Quit"), PushButton::Look::prominent)) {
-    m_quit->setSmall();
-    actOnPressed(m_quit, m_actionPid, [this](qint32 pid) { Q_EMIT quitRequested(pid); });
+    , m_details(new PushButton(tr("Details")))
+    , m_action(new PushButton(QString(), PushButton::Look::prominent)) {
+    m_details->setSmall();
+    m_action->setSmall();
+    actOnPressed(m_action, m_alert, [this](const Alert& alert) { Q_EMIT actionRequested(alert); });
+    actOnPressed(m_details, m_alert, [this](const Alert& alert) { Q_EMIT detailsRequested(alert.id); });
     auto* texts = new QVBoxLayout;
     texts->setSpacing(Theme::textGap);
     texts->addWidget(m_title);
@@ -49,17 +52,20 @@ AlertCard::AlertCard(QWidget* parent)
     auto* row = cardLayout(this);
     row->addWidget(m_symbol, 0, Qt::AlignTop);
     row->addLayout(texts, 1);
-    row->addWidget(m_quit, 0, Qt::AlignVCenter);
+    row->addWidget(m_details, 0, Qt::AlignVCenter);
+    row->addWidget(m_action, 0, Qt::AlignVCenter);
 }
 
-void AlertCard::set(const Alert& alert) {
+void AlertCard::set(const Alert& alert, bool hasDetails) {
     setTint(Levels::alert(alert.severity));
     m_symbol->set(severitySymbol(alert.severity), Levels::alert(alert.severity));
     m_title->setPlainText(alert.title);
     m_detail->setPlainText(alert.detail);
     m_detail->setVisible(!alert.detail.isEmpty());
-    m_actionPid = alert.actionPid.value_or(0);
-    m_quit->setVisible(alert.actionPid.has_value());
+    m_alert = alert;
+    m_details->setVisible(hasDetails);
+    m_action->setText(alert.actionTarget == QStringLiteral("session") ? tr("End session…") : tr("Quit"));
+    m_action->setVisible(alert.actionPid.has_value());
     setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_detail->text()));
 }
 
@@ -69,7 +75,8 @@ AlertStripView::AlertStripView(QWidget* parent)
     , m_healthy(makeHealthyCard())
     , m_cards([this] {
         auto* card = new AlertCard;
-        connect(card, &AlertCard::quitRequested, this, &AlertStripView::quitRequested);
+        connect(card, &AlertCard::actionRequested, this, &AlertStripView::actionRequested);
+        connect(card, &AlertCard::detailsRequested, this, &AlertStripView::detailsRequested);
         m_column->addWidget(card);
         return card;
     }) {
@@ -78,7 +85,9 @@ AlertStripView::AlertStripView(QWidget* parent)
     m_column->addWidget(m_healthy);
 }
 
-void AlertStripView::set(const QList<Alert>& alerts) {
+void AlertStripView::set(const QList<Alert>& alerts,
+                         const std::function<bool(const QString& alertId)>& hasDetails) {
     m_healthy->setVisible(alerts.isEmpty());
-    m_cards.show(alerts.size(), [&alerts](AlertCard& card, qsizetype i) { card.set(alerts[i]); });
+    m_cards.show(alerts.size(),
+                 [&](AlertCard& card, qsizetype i) { card.set(alerts[i], hasDetails(alerts[i].id)); });
 }

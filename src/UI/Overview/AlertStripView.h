@@ -4,6 +4,8 @@
 #include "UI/Kit/Card.h"
 #include "UI/Kit/RowPool.h"
 
+#include <functional>
+
 class PushButton;
 class QVBoxLayout;
 class SymbolView;
@@ -16,18 +18,21 @@ class AlertCard : public Card {
 public:
     explicit AlertCard(QWidget* parent = nullptr);
 
-    void set(const Alert& alert);
+    /// With `hasDetails` it offers to tell what went on before.
+    void set(const Alert& alert, bool hasDetails);
 
 Q_SIGNALS:
-    /// Emitted with the process that the alert named when the button was pressed.
-    void quitRequested(qint32 pid);
+    /// Emitted with the alert that the card showed when the button was pressed.
+    void actionRequested(const Alert& alert);
+    void detailsRequested(const QString& alertId);
 
 private:
     SymbolView* m_symbol;
     TextLabel* m_title;
     TextLabel* m_detail;
-    PushButton* m_quit;
-    qint32 m_actionPid = 0;
+    PushButton* m_details;
+    PushButton* m_action;
+    Alert m_alert;
 };
 
 /// A card for each alert, or one that says that there is none.
@@ -37,10 +42,12 @@ class AlertStripView : public QWidget {
 public:
     explicit AlertStripView(QWidget* parent = nullptr);
 
-    void set(const QList<Alert>& alerts);
+    /// `hasDetails` tells of which alerts more is known.
+    void set(const QList<Alert>& alerts, const std::function<bool(const QString& alertId)>& hasDetails);
 
 Q_SIGNALS:
-    void quitRequested(qint32 pid);
+    void actionRequested(const Alert& alert);
+    void detailsRequested(const QString& alertId);
 
 private:
     QVBoxLayout* m_column;

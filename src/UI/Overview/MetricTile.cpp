@@ -41,6 +41,7 @@ void MetricTile::set(const Metric& metric) {
 
 void MetricTile::tintSparkline() {
     m_sparkline->set(m_metric.history, Theme::color(m_metric.accent));
+    m_sparkline->setSecond(m_metric.pressure, Theme::color(Role::purple));
 }
 
 void MetricTile::changeEvent(QEvent* event) {

@@ -20,6 +20,7 @@ struct Metric {
     Theme::Role accent = Theme::Role::green;
     QList<double> history; ///< the points of its sparkline; may be empty
     QString toolTip = {};
+    QList<double> pressure = {}; ///< the points of a second line, in percent; empty while there was none
 
     bool operator==(const Metric&) const = default;
 };

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 template <typename Figure> QList<double> series(const QList<SystemSample>& history, Figure figure) {
@@ -27,15 +29,52 @@ Metric cpu(const SystemSample& sample, const QList<SystemSample>& history) {
             .history = series(history, [](const SystemSample& s) { return s.cpuPercent; })};
 }
 
+namespace {
+
+constexpr double leastShownPressure = 0.5; // percent; less is rounded to nothing
+
+QString memoryText(const SystemSample& sample) {
+    const QString size = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
+                                                       Formatters::bytes(sample.memTotalBytes));
+    const double pressure = sample.memoryPressure.value_or(PressureLevel()).some;
+    return pressure < leastShownPressure ? size
+                                         : size + QCoreApplication::translate("Metrics", " • pressure %1 %")
+                                                      .arg(Formatters::fixed(pressure, 0));
+}
+
+QStringList pressureLines(const SystemSample& sample) {
+    QStringList lines;
+    if (const auto& level = sample.memoryPressure)
+        lines.append(
+            QCoreApplication::translate(
+                "Metrics", "Programs waited %1 % of the last ten seconds for memory, all of them %2 %")
+                .arg(Formatters::fixed(level->some, 0), Formatters::fixed(level->full, 0)));
+    if (const auto& level = sample.diskPressure)
+        lines.append(QCoreApplication::translate("Metrics", "… and %1 % for disks, all of them %2 %")
+                         .arg(Formatters::fixed(level->some, 0), Formatters::fixed(level->full, 0)));
+    return lines;
+}
+
+/// Returns the pressure of the history, nothing when there was none.
+QList<double> pressureSeries(const QList<SystemSample>& history) {
+    const QList<double> points = series(
+        history, [](const SystemSample& s) { return s.memoryPressure.value_or(PressureLevel()).some; });
+    const bool hasAny =
+        std::ranges::any_of(points, [](double percent) { return percent >= leastShownPressure; });
+    return hasAny ? points : QList<double>();
+}
+
+} // namespace
+
 Metric memory(const SystemSample& sample, const QList<SystemSample>& history, const MemoryLineUp& lineUp) {
     const double used = sample.memUsedPercent();
     return {.title = QCoreApplication::translate("Metrics", "Memory"),
             .value = Formatters::percent(used),
-            .sub = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
-                                                 Formatters::bytes(sample.memTotalBytes)),
+            .sub = memoryText(sample),
             .accent = Levels::memory(used),
             .history = series(history, [](const SystemSample& s) { return s.memUsedPercent(); }),
-            .toolTip = lineUp.lines().join(u'\n')};
+            .toolTip = (lineUp.lines() + pressureLines(sample)).join(u'\n'),
+            .pressure = pressureSeries(history)};
 }
 
 Metric disk(const SystemSample& sample) {

@@ -8,6 +8,7 @@
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/Overview/IncidentDialog.h"
 #include "UI/Overview/MetricTile.h"
 #include "UI/Sessions/SessionTexts.h"
 
@@ -37,7 +38,8 @@ OverviewView::OverviewView(AppModel& model, QWidget* parent)
     column->addStretch();
     setAccessibleName(tr("Overview"));
 
-    connect(m_alerts, &AlertStripView::quitRequested, this, &OverviewView::quitAlerted);
+    connect(m_alerts, &AlertStripView::actionRequested, this, &OverviewView::actOn);
+    connect(m_alerts, &AlertStripView::detailsRequested, this, &OverviewView::showDetails);
     refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
@@ -84,7 +86,7 @@ QLayout* OverviewView::makeGroups() {
 void OverviewView::refresh() {
     m_model.wantSessions();
     m_model.memoryLedger().wantAll();
-    m_alerts->set(m_model.alerts());
+    m_alerts->set(m_model.alerts(), [this](const QString& id) { return m_model.incident(id) != nullptr; });
     refreshTiles();
     refreshGroups();
 }
@@ -120,11 +122,21 @@ QList<ProcSample> OverviewView::members(ProcGroup group) const {
     return result;
 }
 
-void OverviewView::quitAlerted(qint32 pid) {
+void OverviewView::actOn(const Alert& alert) {
+    const qint32 pid = alert.actionPid.value_or(0);
+    if (alert.actionTarget == QStringLiteral("session")) {
+        Q_EMIT endSessionRequested(pid);
+        return;
+    }
     ProcSample named;
     named.pid = pid;
     const ProcSample* process = m_model.process(pid);
     m_model.actions().quitProcess(process ? *process : named);
+}
+
+void OverviewView::showDetails(const QString& alertId) {
+    if (const Incident* incident = m_model.incident(alertId))
+        (new IncidentDialog(*incident, window()))->open();
 }
 
 void OverviewView::toggle(ProcGroup group) {

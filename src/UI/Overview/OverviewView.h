@@ -8,6 +8,7 @@
 #include <optional>
 
 class AlertStripView;
+struct Alert;
 class AppModel;
 class GroupRow;
 class MetricTile;
@@ -21,6 +22,8 @@ public:
 
 Q_SIGNALS:
     void widgetToggled();
+    /// Emitted when the user wants to end the session with that host.
+    void endSessionRequested(qint32 host);
 
 private:
     QLayout* makeHeader();
@@ -30,7 +33,8 @@ private:
     void refreshTiles();
     void refreshGroups();
     void toggle(ProcGroup group);
-    void quitAlerted(qint32 pid);
+    void actOn(const Alert& alert);
+    void showDetails(const QString& alertId);
     QList<ProcSample> members(ProcGroup group) const;
 
     AppModel& m_model;

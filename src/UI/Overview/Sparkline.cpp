@@ -50,13 +50,23 @@ QPolygonF Sparkline::points(const QList<double>& values, const QSizeF& size) {
     return line;
 }
 
+void Sparkline::setSecond(const QList<double>& values, const QColor& color) {
+    m_secondValues = values;
+    m_secondColor = color;
+    update();
+}
+
 void Sparkline::paintEvent(QPaintEvent*) {
-    QColor ink = m_color;
-    ink.setAlphaF(0.7F);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
     // A stroke is centred on its line: its outer half needs room.
     painter.translate(0, 0.75);
-    painter.drawPolyline(thinned(points(m_values, QSizeF(width(), height() - 1.5))));
+    drawLine(painter, m_values, m_color);
+    drawLine(painter, m_secondValues, m_secondColor);
+}
+
+void Sparkline::drawLine(QPainter& painter, const QList<double>& values, QColor ink) const {
+    ink.setAlphaF(0.7F);
+    painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
+    painter.drawPolyline(thinned(points(values, QSizeF(width(), height() - 1.5))));
 }

@@ -13,6 +13,8 @@ public:
     explicit Sparkline(QWidget* parent = nullptr);
 
     void set(const QList<double>& values, const QColor& color);
+    /// Draws a second line over the first, on a scale of its own; none for an empty list.
+    void setSecond(const QList<double>& values, const QColor& color);
 
     /// Returns the line in an area of `size`, empty with fewer than two values. The top of the area is the
     /// largest value, or 1 if that is larger.
@@ -22,6 +24,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void drawLine(QPainter& painter, const QList<double>& values, QColor ink) const;
+
     QList<double> m_values;
     QColor m_color;
+    QList<double> m_secondValues;
+    QColor m_secondColor;
 };
