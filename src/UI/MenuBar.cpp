@@ -14,7 +14,6 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -35,12 +34,6 @@ QStringList figures(MenuBarFormat format, const SystemSample& sample) {
     if (format == MenuBarFormat::cpuOnly)
         return {cpu};
     return format == MenuBarFormat::ramOnly ? QStringList{ram} : QStringList();
-}
-
-/// Returns the first of the gravest alerts, null when there is none.
-const Alert* worstOf(const QList<Alert>& alerts) {
-    const auto worst = std::ranges::max_element(alerts, {}, &Alert::severity);
-    return worst == alerts.end() ? nullptr : &*worst;
 }
 
 QString toolTip(const QString& figures, const Alert* worst) {
@@ -94,7 +87,7 @@ QString MenuBarController::title(MenuBarFormat format, const SystemSample& sampl
 void MenuBarController::update(const SystemSample& sample) {
     const MenuBarFormat format = m_preferences.menuBarFormat();
     const QString text = title(format, sample);
-    const Alert* worst = worstOf(m_model.alerts());
+    const Alert* worst = Alert::worstOf(m_model.alerts());
     const Shown shown{.format = format,
                       .title = text,
                       .dark = Theme::isDark(),

@@ -60,6 +60,7 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
 QLayout* WidgetView::makeHeader() {
     auto* symbol = new SymbolView(16, 16);
     symbol->set(QStringLiteral("waveform.path.ecg"), Role::accent);
+    m_worst = new SymbolView(16, 16);
     auto* name = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();
     name->setPlainText(QStringLiteral("Tavrin"));
     m_open = new IconButton(QStringLiteral("arrow.up.left.and.arrow.down.right"), tr("Open dashboard"));
@@ -71,6 +72,8 @@ QLayout* WidgetView::makeHeader() {
     row->setSpacing(4);
     row->addWidget(symbol);
     row->addWidget(name);
+    row->addSpacing(tileSpacing);
+    row->addWidget(m_worst);
     row->addStretch();
     for (IconButton* button : {m_open, m_hide}) {
         // Keeps its room while hidden, so that the card does not change under the pointer.
@@ -164,8 +167,12 @@ void WidgetView::refreshGroups() {
 void WidgetView::refreshAlert() {
     const QList<Alert>& alerts = m_model.alerts();
     m_alertSection->setVisible(!alerts.isEmpty());
+    m_worst->setVisible(!alerts.isEmpty());
     if (alerts.isEmpty())
         return;
+    const Alert& worst = *Alert::worstOf(alerts);
+    m_worst->set(severitySymbol(worst.severity), Levels::alert(worst.severity));
+    m_worst->setToolTip(Formatters::toolTip(worst.title));
     m_alert->set({.symbol = severitySymbol(alerts.first().severity),
                   .tint = Levels::alert(alerts.first().severity),
                   .text = alerts.first().title,

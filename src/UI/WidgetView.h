@@ -11,6 +11,7 @@ class AppModel;
 class IconButton;
 class MiniTile;
 class PanelRow;
+class SymbolView;
 class TextLabel;
 class QGraphicsDropShadowEffect;
 class QVBoxLayout;
@@ -55,6 +56,7 @@ private:
     QVBoxLayout* m_groupColumn = nullptr;
     RowPool<PanelRow> m_groupRows;
     QWidget* m_alertSection;
+    SymbolView* m_worst = nullptr; ///< the severity of the gravest alert
     PanelRow* m_alert;
     TextLabel* m_more;
 };

@@ -2,8 +2,10 @@
 
 #include "Core/RawValue.h"
 
+#include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -19,6 +21,9 @@ struct Alert {
     std::optional<QString> actionTarget = std::nullopt; ///< the name of the thing that the action acts on
 
     bool operator==(const Alert&) const = default;
+
+    /// Returns the first of the gravest alerts, null when there is none.
+    static const Alert* worstOf(const QList<Alert>& alerts);
 };
 
 template <>
@@ -27,6 +32,11 @@ inline constexpr std::array rawValueTable<Alert::Severity> = {
     RawValueRow{Alert::Severity::warn, u"warn"},
     RawValueRow{Alert::Severity::danger, u"danger"},
 };
+
+inline const Alert* Alert::worstOf(const QList<Alert>& alerts) {
+    const auto worst = std::ranges::max_element(alerts, {}, &Alert::severity);
+    return worst == alerts.end() ? nullptr : &*worst;
+}
 
 /// Returns the name of the severity's symbol under resources/symbols.
 inline QString severitySymbol(Alert::Severity severity) {
