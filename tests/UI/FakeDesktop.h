@@ -3,9 +3,11 @@
 #include "Platform/Desktop/Desktop.h"
 #include "Platform/Desktop/DesktopApplication.h"
 #include "Platform/Desktop/FloatingPanel.h"
+#include "Platform/Desktop/Notifications.h"
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
 
+#include <QMap>
 #include <QWidget>
 
 #include <functional>
@@ -81,10 +83,25 @@ public:
     }
 };
 
+class FakeNotifications : public Notifications {
+public:
+    QMap<QString, Notification> shown; ///< by key
+    int calls = 0;                     ///< of `show`
+    std::optional<bool> available = true;
+
+    void show(const Notification& notification) override {
+        ++calls;
+        shown[notification.key] = notification;
+    }
+    void withdraw(const QString& key) override { shown.remove(key); }
+    std::optional<bool> isAvailable() const override { return available; }
+};
+
 struct FakeDesktop {
     std::shared_ptr<FakeStatusItem> statusItem = std::make_shared<FakeStatusItem>();
     std::shared_ptr<FakePopover> popover = std::make_shared<FakePopover>();
     std::shared_ptr<FakeApplication> application = std::make_shared<FakeApplication>();
+    std::shared_ptr<FakeNotifications> notifications = std::make_shared<FakeNotifications>();
     std::shared_ptr<QList<FakePanel*>> panels = std::make_shared<QList<FakePanel*>>(); ///< all ever made
     std::function<void()> whenPanelMade = [] {};
 
@@ -92,6 +109,7 @@ struct FakeDesktop {
         return {.statusItem = statusItem,
                 .popover = popover,
                 .application = application,
+                .notifications = notifications,
                 .makePanel = [list = panels, made = whenPanelMade] {
                     made();
                     auto panel = std::make_unique<FakePanel>();

@@ -5,6 +5,7 @@
 
 class DesktopApplication;
 class FloatingPanel;
+class Notifications;
 class Popover;
 class StatusItem;
 
@@ -13,6 +14,7 @@ struct Desktop {
     std::shared_ptr<StatusItem> statusItem;
     std::shared_ptr<Popover> popover;
     std::shared_ptr<DesktopApplication> application;
+    std::shared_ptr<Notifications> notifications;
     std::function<std::unique_ptr<FloatingPanel>()> makePanel;
 
     /// Makes the services of the desktop this program was built for. Needs a running QApplication.

@@ -1,6 +1,7 @@
 #include "Platform/Desktop/Desktop.h"
 #include "Platform/Desktop/DesktopApplication.h"
 #include "Platform/Desktop/FloatingPanel.h"
+#include "Platform/Desktop/Notifications.h"
 #include "Platform/Desktop/Popover.h"
 #include "Platform/Desktop/StatusItem.h"
 
@@ -32,6 +33,12 @@ class NullDesktopApplication : public DesktopApplication {
     void setActivationPolicy(ActivationPolicy) override {}
 };
 
+class NullNotifications : public Notifications {
+    void show(const Notification&) override {}
+    void withdraw(const QString&) override {}
+    std::optional<bool> isAvailable() const override { return false; }
+};
+
 class NullFloatingPanel : public FloatingPanel {
     void setContent(QWidget* content) override { m_content.reset(content); }
     void placeBottomLeft(QPoint) override {}
@@ -48,5 +55,6 @@ Desktop Desktop::native() {
     return {.statusItem = std::make_shared<NullStatusItem>(),
             .popover = std::make_shared<NullPopover>(),
             .application = std::make_shared<NullDesktopApplication>(),
+            .notifications = std::make_shared<NullNotifications>(),
             .makePanel = [] { return std::make_unique<NullFloatingPanel>(); }};
 }
