@@ -90,6 +90,22 @@ public:
     Property<bool> alertPressureEnabled{*this, u"pref.alertPressure_enabled", true};
     Property<bool> alertForecastEnabled{*this, u"pref.alertForecast_enabled", true};
     Property<bool> alertMemoryKillEnabled{*this, u"pref.alertMemoryKill_enabled", true};
+    Property<bool> notifyRAMLow{*this, u"pref.notifyRAMLow", true};
+    Property<bool> notifyRAMTight{*this, u"pref.notifyRAMTight", false};
+    Property<bool> notifyPressure{*this, u"pref.notifyPressure", true};
+    Property<bool> notifyMemoryFull{*this, u"pref.notifyMemoryFull", true};
+    Property<bool> notifyCPUHot{*this, u"pref.notifyCPUHot", false};
+    Property<bool> notifyThermal{*this, u"pref.notifyThermal", true};
+    Property<bool> notifySwapHigh{*this, u"pref.notifySwapHigh", false};
+    Property<bool> notifyIdleAgent{*this, u"pref.notifyIdleAgent", false};
+    Property<bool> notifyBrowserHog{*this, u"pref.notifyBrowserHog", false};
+    Property<bool> notifyCachesBig{*this, u"pref.notifyCachesBig", false};
+    Property<bool> notifySessionBig{*this, u"pref.notifySessionBig", false};
+    Property<bool> notifyCleaned{*this, u"pref.notifyCleaned", true};
+    Property<bool> notifyQuietEnabled{*this, u"pref.notifyQuiet_enabled", false};
+    /// In minutes since midnight. The quiet time may go over midnight; it is empty where both are equal.
+    Property<double> notifyQuietFrom{*this, u"pref.notifyQuiet_from", 22 * 60};
+    Property<double> notifyQuietTo{*this, u"pref.notifyQuiet_to", 7 * 60};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.

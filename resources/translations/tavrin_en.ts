@@ -71,6 +71,23 @@
     </message>
 </context>
 <context>
+    <name>NotificationPlan</name>
+    <message numerus="yes">
+        <source>%n large session(s)</source>
+        <translation>
+            <numerusform>%n large session</numerusform>
+            <numerusform>%n large sessions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n idle agent(s)</source>
+        <translation>
+            <numerusform>%n idle agent</numerusform>
+            <numerusform>%n idle agents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Remains</name>
     <message numerus="yes">
         <source>%n older one(s)</source>

@@ -58,16 +58,20 @@ QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(CacheTarget target, QSt
     const Cleaner::CleanResult result = co_await cleaning;
     if (!self)
         co_return result;
-    if (!result.done)
-        reportFailure({target.name, result.reason});
+    noteResult(target, result);
     countCleans(1);
     m_log.record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);
     co_return result;
 }
 
-void CacheCleanup::reportFailure(const CleanupFailure& failure) {
+void CacheCleanup::noteResult(const CacheTarget& target, const Cleaner::CleanResult& result) {
     CleanupReport report = m_report;
-    report.failures.append(failure);
+    if (result.done) {
+        ++report.cleaned;
+        report.freedBytes += result.freedBytes;
+    } else {
+        report.failures.append({target.name, result.reason});
+    }
     publish(m_report, report);
 }
 

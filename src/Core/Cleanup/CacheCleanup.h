@@ -47,7 +47,7 @@ public:
 private:
     void expectCleans(int count);
     void countCleans(int done);
-    void reportFailure(const CleanupFailure& failure);
+    void noteResult(const CacheTarget& target, const Cleaner::CleanResult& result);
     QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail, std::stop_token stop);
 
     Platform m_platform;

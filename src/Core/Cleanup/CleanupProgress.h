@@ -24,6 +24,8 @@ struct CleanupFailure {
 struct CleanupReport {
     bool wasCancelled = false;
     QList<CleanupFailure> failures = {};
+    int cleaned = 0;        ///< targets that did not fail
+    quint64 freedBytes = 0; ///< by these
 
     bool operator==(const CleanupReport&) const = default;
 };
