@@ -121,7 +121,7 @@ private:
         constexpr int opened = 700;
         constexpr int each = 40;
         if (tick == opened) {
-            m_settings = new SettingsScene(m_preferences, m_loginItem);
+            m_settings = new SettingsScene(m_preferences, m_loginItem, *m_desktop.notifications);
             m_settings->setAttribute(Qt::WA_DeleteOnClose);
             m_settings->show();
         } else if (tick == opened + each * static_cast<int>(allCases<SettingsScene::Tab>().size())) {

@@ -2,6 +2,7 @@
 #include "Screens.h"
 #include "Stage.h"
 
+#include "UI/FakeDesktop.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/MenuBarPanel.h"
 #include "UI/Overview/FreeRAMSheet.h"
@@ -95,7 +96,8 @@ void shootHistory(Camera& camera) {
 void shootSettings(Camera& camera) {
     TemporarySettings settings;
     FakeLoginItem loginItem;
-    SettingsScene window(settings.preferences, loginItem);
+    FakeNotifications notifications;
+    SettingsScene window(settings.preferences, loginItem, notifications);
     const auto shoot = [&](SettingsScene::Tab tab, const QString& name) {
         window.select(tab);
         camera.take(window, u"settings-"_s + name);

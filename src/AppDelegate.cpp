@@ -55,7 +55,7 @@ void AppDelegate::bringForward() {
 
 void AppDelegate::openSettings() {
     if (!m_settings || !m_settings->isVisible()) { // a closed one is deleted later
-        m_settings = new SettingsScene(m_preferences, *m_loginItem);
+        m_settings = new SettingsScene(m_preferences, *m_loginItem, *m_desktop.notifications);
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
         const QRect around =
             m_mainWindow->isVisible() ? m_mainWindow->geometry() : m_settings->screen()->availableGeometry();

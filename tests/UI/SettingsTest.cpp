@@ -1,6 +1,7 @@
 #include "UI/Settings/SettingsScene.h"
 
 #include "UI/Controls.h"
+#include "UI/FakeDesktop.h"
 #include "UI/ModelFixture.h"
 #include "UI/Settings/TabButton.h"
 #include "support/FakeLoginItem.h"
@@ -18,7 +19,8 @@ struct SettingsTest : testing::Test {
     TemporarySettings settings;
     Preferences& prefs = settings.preferences;
     FakeLoginItem loginItem;
-    SettingsScene window{prefs, loginItem};
+    FakeNotifications notifications;
+    SettingsScene window{prefs, loginItem, notifications};
 
     void SetUp() override {
         window.show();
@@ -87,6 +89,14 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
          {},
          u"pref.alertMemoryKill_enabled=false"_s},
         {Tab::alerts, u"Session holds more than"_s, u"More"_s, u"pref.alertSessionBig_gb=9"_s},
+        {Tab::alerts, u"Notify: Sessions"_s, {}, u"pref.notifySessionBig=true"_s},
+        {Tab::alerts, u"Notify of memory pressure"_s, {}, u"pref.notifyPressure=false"_s},
+        {Tab::alerts, u"Notify before memory is full"_s, {}, u"pref.notifyMemoryFull=false"_s},
+        {Tab::alerts, u"Notify of heavy swap usage"_s, {}, u"pref.notifySwapHigh=true"_s},
+        {Tab::alerts, u"Notify of a finished long clean"_s, {}, u"pref.notifyCleaned=false"_s},
+        {Tab::alerts, u"Quiet time"_s, {}, u"pref.notifyQuiet_enabled=true"_s},
+        {Tab::alerts, u"Quiet from"_s, u"More"_s, u"pref.notifyQuiet_from=1350"_s},
+        {Tab::alerts, u"Quiet until"_s, u"Less"_s, u"pref.notifyQuiet_to=390"_s},
     };
     for (const auto& [tab, name, choice, line] : cases) {
         window.select(tab);
@@ -100,7 +110,7 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
                                                                   << stored().data();
     }
     Preferences reread(settings.path);
-    SettingsScene again(reread, loginItem);
+    SettingsScene again(reread, loginItem, notifications);
     again.show();
     QStringList shown;
     for (const Tab tab : {Tab::general, Tab::sampling, Tab::alerts}) {
@@ -115,11 +125,71 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         }
         shown.append(shownNames<StepperRow>(again));
     }
-    EXPECT_EQ(shown, (QStringList{u"Show floating widget on launch"_s, u"Icon only"_s,
-                                  u"Pause sampling on Low Power Mode"_s, u"5s"_s, u"1 hour"_s,
-                                  u"Large session"_s, u"Free RAM threshold 2.5 GB"_s, u"CPU threshold 90%"_s,
-                                  u"Min idle 14 min"_s, u"Min RAM 600 MB"_s, u"Of total RAM 20%"_s,
-                                  u"Threshold 6 GB"_s, u"Session holds more than 9 GB"_s}));
+    EXPECT_EQ(shown, (QStringList{u"Show floating widget on launch"_s,
+                                  u"Icon only"_s,
+                                  u"Pause sampling on Low Power Mode"_s,
+                                  u"5s"_s,
+                                  u"1 hour"_s,
+                                  u"Notify"_s,
+                                  u"Notify"_s,
+                                  u"Large session"_s,
+                                  u"Notify"_s,
+                                  u"Notify of heavy swap usage"_s,
+                                  u"Quiet time"_s,
+                                  u"Free RAM threshold 2.5 GB"_s,
+                                  u"CPU threshold 90%"_s,
+                                  u"Min idle 14 min"_s,
+                                  u"Min RAM 600 MB"_s,
+                                  u"Of total RAM 20%"_s,
+                                  u"Threshold 6 GB"_s,
+                                  u"Session holds more than 9 GB"_s,
+                                  u"Quiet from 22:30"_s,
+                                  u"Quiet until 06:30"_s}));
+}
+
+TEST_F(SettingsTest, EachRuleHasItsSwitchOfNotifications) {
+    const std::pair<QString, Property<bool>*> switches[] = {
+        {u"Notify: Memory"_s, &prefs.notifyRAMLow},
+        {u"Notify when RAM is getting tight"_s, &prefs.notifyRAMTight},
+        {u"Notify: CPU"_s, &prefs.notifyCPUHot},
+        {u"Notify: Thermal"_s, &prefs.notifyThermal},
+        {u"Notify: Idle agents"_s, &prefs.notifyIdleAgent},
+        {u"Notify: Browsers"_s, &prefs.notifyBrowserHog},
+        {u"Notify: Caches"_s, &prefs.notifyCachesBig},
+    };
+    window.select(Tab::alerts);
+    for (const auto& [name, property] : switches) {
+        const bool before = (*property)();
+        click(window, name);
+        EXPECT_NE((*property)(), before) << qPrintable(name);
+    }
+    EXPECT_FALSE(control<QCheckBox>(window, u"Notify: Sessions"_s)->isEnabled()); // its rule is off
+}
+
+TEST_F(SettingsTest, TheQuietTimeGoesAroundTheClock) {
+    window.select(Tab::alerts);
+    EXPECT_FALSE(control<StepperRow>(window, u"Quiet from 22:00"_s)->isEnabled());
+    click(window, u"Quiet time"_s);
+    for (int i = 0; i < 4; ++i)
+        step(window, u"More"_s, u"Quiet from"_s);
+    EXPECT_TRUE(control<StepperRow>(window, u"Quiet from 00:00"_s));
+    step(window, u"Less"_s, u"Quiet from"_s);
+    EXPECT_EQ(prefs.notifyQuietFrom(), 23 * 60 + 30);
+    prefs.notifyQuietFrom.set(-1e300); // stored by another hand
+    settle();
+    EXPECT_TRUE(control<StepperRow>(window, u"Quiet from 00:00"_s));
+}
+
+TEST_F(SettingsTest, SaysThatNothingShowsNotifications) {
+    const QString missing = u"This desktop has no service that shows notifications."_s;
+    window.select(Tab::alerts);
+    EXPECT_FALSE(showsText(window, missing));
+    notifications.available = false;
+    Q_EMIT notifications.availabilityChanged();
+    EXPECT_TRUE(showsText(window, missing));
+    notifications.available.reset(); // unknown
+    Q_EMIT notifications.availabilityChanged();
+    EXPECT_FALSE(showsText(window, missing));
 }
 
 TEST_F(SettingsTest, ChangesFromElsewhereShowAtOnce) {
@@ -172,7 +242,7 @@ TEST_F(SettingsTest, TheLoginItemFollowsTheSwitchAndSaysWhyItCannot) {
     EXPECT_FALSE(isOn(u"Start at login"_s));
     EXPECT_FALSE(prefs.startAtLogin());
     {
-        SettingsScene another(prefs, loginItem);
+        SettingsScene another(prefs, loginItem, notifications);
         another.show();
         EXPECT_FALSE(showsText(another, u"Couldn't unregister: <b>disk</b> full"_s));
     }

@@ -169,7 +169,8 @@ TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
 
 TEST_F(TranslationsTest, TheSettings) {
     FakeLoginItem loginItem;
-    SettingsScene window(prefs, loginItem);
+    const FakeNotifications notifications;
+    SettingsScene window(prefs, loginItem, notifications);
     window.show();
     settle();
     expectTranslated(window);

@@ -59,7 +59,7 @@ Stepper::Stepper(const Range& range, QWidget* parent)
 QAbstractButton* Stepper::addButton(const QString& symbol, double by) {
     auto* button = new Half(symbol);
     layout()->addWidget(button);
-    connect(button, &QAbstractButton::clicked, this, [this, by] { change(m_value + by); });
+    connect(button, &QAbstractButton::clicked, this, [this, by] { stepBy(by); });
     return button;
 }
 
@@ -74,6 +74,16 @@ void Stepper::setValue(double value) {
     enableButtons();
 }
 
+void Stepper::stepBy(double amount) {
+    const double next = m_value + amount;
+    if (m_range.wraps && next > m_range.to)
+        change(m_range.from);
+    else if (m_range.wraps && next < m_range.from)
+        change(m_range.to);
+    else
+        change(next);
+}
+
 void Stepper::change(double value) {
     const double next = std::clamp(value, m_range.from, m_range.to);
     if (next == m_value)
@@ -83,8 +93,8 @@ void Stepper::change(double value) {
 }
 
 void Stepper::enableButtons() {
-    m_less->setEnabled(m_value != m_range.from);
-    m_more->setEnabled(m_value != m_range.to);
+    m_less->setEnabled(m_range.wraps || m_value != m_range.from);
+    m_more->setEnabled(m_range.wraps || m_value != m_range.to);
 }
 
 QSize Stepper::sizeHint() const {
@@ -95,11 +105,11 @@ void Stepper::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Right:
-        change(m_value + m_range.step);
+        stepBy(m_range.step);
         break;
     case Qt::Key_Down:
     case Qt::Key_Left:
-        change(m_value - m_range.step);
+        stepBy(-m_range.step);
         break;
     case Qt::Key_Home:
         change(m_range.from);

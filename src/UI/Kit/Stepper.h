@@ -13,6 +13,7 @@ public:
         double from;
         double to;
         double step;
+        bool wraps = false; ///< The step after the last value is to the first, as on a clock.
     };
 
     explicit Stepper(const Range& range, QWidget* parent = nullptr);
@@ -35,6 +36,7 @@ protected:
 
 private:
     QAbstractButton* addButton(const QString& symbol, double by);
+    void stepBy(double amount);
     void change(double value);
     void enableButtons();
 

@@ -39,6 +39,8 @@ void StepperRow::setValue(double value) {
 }
 
 QString StepperRow::text(const QString& pattern) const {
+    if (m_look.number)
+        return QString(pattern).replace(QStringLiteral("%1"), m_look.number(value()));
     const double number = m_look.decimals == 0 ? std::trunc(value()) + 0.0 : value(); // + 0: no "-0"
     return QString(pattern).replace(QStringLiteral("%1"), QString::number(number, 'f', m_look.decimals));
 }

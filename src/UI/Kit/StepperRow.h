@@ -2,6 +2,8 @@
 
 #include "UI/Kit/Stepper.h"
 
+#include <functional>
+
 /// The row of a form with a label, a number in its unit and the stepper that changes it.
 class StepperRow : public QWidget {
     Q_OBJECT
@@ -11,7 +13,8 @@ public:
     struct Look {
         QString label;
         QString value;
-        int decimals = 0; ///< 0 drops the fraction, 1 rounds to one digit
+        int decimals = 0;                           ///< 0 drops the fraction, 1 rounds to one digit
+        std::function<QString(double)> number = {}; ///< writes the number in another way
     };
 
     StepperRow(Look look, const Stepper::Range& range, QWidget* parent = nullptr);

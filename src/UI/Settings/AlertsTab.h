@@ -2,12 +2,15 @@
 
 #include "UI/Settings/SettingsForm.h"
 
-/// The switches and the thresholds of the alert rules.
+class Notifications;
+
+/// The switches and the thresholds of the alert rules, and what the desktop is told of.
 class AlertsTab : public SettingsForm {
     Q_OBJECT
 
 public:
-    explicit AlertsTab(Preferences& preferences, QWidget* parent = nullptr);
+    /// `notifications` outlives the tab.
+    AlertsTab(Preferences& preferences, const Notifications& notifications, QWidget* parent = nullptr);
 
 private:
     struct Threshold {
@@ -16,6 +19,9 @@ private:
         Property<double>& property;
     };
 
-    void addRule(const QString& title, const QString& toggle, Property<bool>& enabled,
-                 const QList<Threshold>& thresholds);
+    FormSection* addRule(const QString& title, const QString& toggle, Property<bool>& enabled,
+                         const QList<Threshold>& thresholds, Property<bool>& notify);
+    void addNotify(FormSection* section, const QString& text, const QString& name, Property<bool>& property,
+                   const Property<bool>& condition);
+    void addNotifications(Preferences& preferences, const Notifications& notifications);
 };

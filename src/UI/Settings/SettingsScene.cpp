@@ -30,7 +30,8 @@ QString tabSymbol(SettingsScene::Tab tab) {
 
 } // namespace
 
-SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWidget* parent)
+SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem,
+                             const Notifications& notifications, QWidget* parent)
     : QWidget(parent)
     , m_row(new QHBoxLayout)
     , m_contents(new QStackedWidget) {
@@ -52,7 +53,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem, QWi
 
     addTab(Tab::general, new GeneralTab(preferences, loginItem));
     addTab(Tab::sampling, new SamplingTab(preferences));
-    addTab(Tab::alerts, new AlertsTab(preferences));
+    addTab(Tab::alerts, new AlertsTab(preferences, notifications));
     addTab(Tab::quickKills, new QuickKillsTab(preferences));
     addTab(Tab::history, new HistoryTab);
     addActions();

@@ -7,6 +7,7 @@
 #include <array>
 
 class LoginItem;
+class Notifications;
 class Preferences;
 class QHBoxLayout;
 class QStackedWidget;
@@ -19,7 +20,8 @@ class SettingsScene : public QWidget {
 public:
     enum class Tab { general, sampling, alerts, quickKills, history };
 
-    SettingsScene(Preferences& preferences, LoginItem& loginItem, QWidget* parent = nullptr);
+    SettingsScene(Preferences& preferences, LoginItem& loginItem, const Notifications& notifications,
+                  QWidget* parent = nullptr);
 
     Tab tab() const { return m_tab; }
     void select(Tab tab);
