@@ -3,9 +3,11 @@
 #include "AppModel.h"
 #include "Core/Announcements/MessageCenter.h"
 #include "Core/Observable.h"
+#include "Platform/Clock.h"
 #include "Platform/Desktop/DesktopApplication.h"
 #include "Platform/LoginItem.h"
 #include "Preferences.h"
+#include "UI/AlertNotifier.h"
 #include "UI/MainWindow.h"
 #include "UI/MainWindowFinder.h"
 #include "UI/MenuBar.h"
@@ -33,6 +35,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     m_menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
     QObject::connect(m_menuBar.get(), &MenuBarController::settingsRequested, m_menuBar.get(),
                      [this] { openSettings(); });
+    startNotifying();
     applyActivationPolicy();
     if (m_preferences.showWidgetOnLaunch())
         m_widget.show(m_model);
@@ -47,6 +50,32 @@ void AppDelegate::openMainWindow() {
     QObject::connect(m_mainWindow.get(), &MainWindow::settingsRequested, m_mainWindow.get(),
                      [this] { openSettings(); });
     m_mainWindow->show();
+}
+
+/// Shows in the main window what the user chooses in a notification.
+void AppDelegate::startNotifying() {
+    m_notifier = std::make_unique<AlertNotifier>(m_model, m_preferences, m_desktop.notifications,
+                                                 std::make_shared<SystemClock>());
+    AlertNotifier* notifier = m_notifier.get();
+    RootView& root = m_mainWindow->root();
+    QObject::connect(notifier, &AlertNotifier::showRequested, &root, [this, &root](RootView::Tab tab) {
+        bringForward();
+        root.select(tab);
+    });
+    QObject::connect(notifier, &AlertNotifier::freeRAMRequested, &root, [this, &root] {
+        bringForward();
+        root.openFreeRAM();
+    });
+    QObject::connect(notifier, &AlertNotifier::endRequested, &root,
+                     [this, &root](const ProcessIdentity& host) {
+                         bringForward();
+                         root.confirmEnd(host);
+                     });
+    QObject::connect(notifier, &AlertNotifier::quitRequested, &root,
+                     [this, &root](const ProcSample& process) {
+                         bringForward();
+                         root.confirmQuit(process);
+                     });
 }
 
 void AppDelegate::bringForward() {

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class AlertNotifier;
 class AppModel;
 class LoginItem;
 class MainWindow;
@@ -30,6 +31,7 @@ public:
 
 private:
     void openMainWindow();
+    void startNotifying();
     void applyActivationPolicy();
     void registerLoginItemIfFirstLaunch();
 
@@ -42,4 +44,5 @@ private:
     std::unique_ptr<MainWindow> m_mainWindow;
     QPointer<SettingsScene> m_settings;
     std::unique_ptr<MenuBarController> m_menuBar;
+    std::unique_ptr<AlertNotifier> m_notifier;
 };

@@ -17,6 +17,8 @@ class MainWindow : public QMainWindow {
 public:
     MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent = nullptr);
 
+    RootView& root() { return *m_root; }
+
 Q_SIGNALS:
     void widgetToggled();
     void settingsRequested();

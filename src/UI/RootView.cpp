@@ -10,9 +10,11 @@
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
 #include "UI/Processes/ProcessesView.h"
+#include "UI/Processes/QuitDialog.h"
 #include "UI/Sessions/SessionsView.h"
 #include "UI/Style/Theme.h"
 
+#include <QDialog>
 #include <QEvent>
 #include <QListWidget>
 #include <QMenu>
@@ -42,12 +44,15 @@ QString tabSymbol(RootView::Tab tab) {
 
 RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QWidget(parent)
+    , m_model(model)
     , m_storeLater(preferences.file())
     , m_sidebar(new QListWidget)
     , m_menuButton(new IconButton(QStringLiteral("gear"), tr("Menu")))
     , m_banner(new MessageBanner(messages))
     , m_title(new TextLabel(Theme::TextStyle::title2, QFont::Bold))
-    , m_sections(new QStackedWidget) {
+    , m_sections(new QStackedWidget)
+    , m_overview(new OverviewView(model))
+    , m_sessionsView(new SessionsView(model, preferences)) {
     m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
     m_sidebar->setFrameShape(QFrame::NoFrame);
     m_sidebar->setMinimumWidth(sidebarMinimum);
@@ -81,15 +86,18 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     frame->addWidget(split);
 
     connect(m_sidebar, &QListWidget::currentRowChanged, this, &RootView::showSection);
-    auto* overview = new OverviewView(model);
-    connect(overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
-    addSection(Tab::overview, overview);
-    addSection(Tab::optimize, new OptimizeView(model, preferences));
-    addSection(Tab::processes, new ProcessesView(model, preferences));
-    addSection(Tab::cleanup, new CleanupView(model));
-    addSection(Tab::sessions, new SessionsView(model, preferences));
+    addSections(preferences);
     tintSidebar();
     select(Tab::overview);
+}
+
+void RootView::addSections(Preferences& preferences) {
+    connect(m_overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
+    addSection(Tab::overview, m_overview);
+    addSection(Tab::optimize, new OptimizeView(m_model, preferences));
+    addSection(Tab::processes, new ProcessesView(m_model, preferences));
+    addSection(Tab::cleanup, new CleanupView(m_model));
+    addSection(Tab::sessions, m_sessionsView);
 }
 
 /// Returns the selected section under its title, with the announcement above them.
@@ -139,6 +147,30 @@ RootView::Tab RootView::tab() const {
 
 void RootView::select(Tab tab) {
     m_sidebar->setCurrentRow(static_cast<int>(tab));
+}
+
+bool RootView::hasDialog() const {
+    const auto dialogs = window()->findChildren<QDialog*>();
+    return std::ranges::any_of(dialogs, [](const QDialog* dialog) { return dialog->isVisible(); });
+}
+
+void RootView::openFreeRAM() {
+    if (hasDialog())
+        return;
+    select(Tab::overview);
+    m_overview->openFreeRAM();
+}
+
+void RootView::confirmEnd(const ProcessIdentity& host) {
+    if (hasDialog())
+        return;
+    select(Tab::sessions);
+    m_sessionsView->confirmEnd(host);
+}
+
+void RootView::confirmQuit(const ProcSample& process) {
+    if (!hasDialog())
+        QuitDialog::ask(window(), m_model, process);
 }
 
 void RootView::changeEvent(QEvent* event) {

@@ -11,12 +11,16 @@ class AppModel;
 class IconButton;
 class MessageBanner;
 class MessageCenter;
+class OverviewView;
 class Preferences;
 class QListWidget;
 class QMenu;
 class QSplitter;
 class QStackedWidget;
+class SessionsView;
 class TextLabel;
+struct ProcSample;
+struct ProcessIdentity;
 
 /// The content of the main window: a sidebar, and the selected section under the current announcement.
 class RootView : public QWidget {
@@ -31,6 +35,10 @@ public:
 
     Tab tab() const;
     void select(Tab tab);
+    /// Open a dialog over the window, in its section, unless one is open already.
+    void openFreeRAM();
+    void confirmEnd(const ProcessIdentity& host);
+    void confirmQuit(const ProcSample& process);
     /// Sets the menu that the button at the foot of the sidebar opens. Does not own it.
     void setMenu(QMenu* menu);
 
@@ -45,16 +53,21 @@ private:
     QWidget* makeDetail();
     void restoreSidebar(QSplitter* split, const SettingsFile& file);
     void showSection(int row);
+    void addSections(Preferences& preferences);
     /// Adds a section. The calls have to be in the order of Tab.
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();
+    bool hasDialog() const;
 
+    AppModel& m_model;
     StoreLater m_storeLater;
     QListWidget* m_sidebar;
     IconButton* m_menuButton;
     MessageBanner* m_banner;
     TextLabel* m_title;
     QStackedWidget* m_sections;
+    OverviewView* m_overview;
+    SessionsView* m_sessionsView;
 };
 
 template <>

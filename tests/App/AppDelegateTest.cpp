@@ -5,6 +5,8 @@
 #include "UI/FakeDesktop.h"
 #include "UI/MainWindow.h"
 #include "UI/ModelFixture.h"
+#include "UI/Overview/FreeRAMSheet.h"
+#include "UI/RootView.h"
 #include "UI/Settings/SettingsScene.h"
 #include "support/FakeLoginItem.h"
 #include "support/ScriptedFeed.h"
@@ -135,6 +137,20 @@ TEST_F(AppDelegateTest, OneSettingsWindowThatOpensOnGeneral) {
     EXPECT_TRUE(windows<SettingsScene>().constFirst()->isVisible());
     delegate.reset();
     EXPECT_TRUE(windows<SettingsScene>().isEmpty());
+}
+
+TEST_F(AppDelegateTest, ANotificationsActionBringsTheWindowForward) {
+    launch();
+    MainWindow& main = *windows<MainWindow>().constFirst();
+    main.close();
+    main.root().select(RootView::Tab::cleanup);
+    desktop.application->own = {&main};
+    desktop.application->forward = nullptr;
+    Q_EMIT desktop.notifications->invoked(u"thermal"_s, u"show"_s);
+    EXPECT_EQ(desktop.application->forward, &main);
+    EXPECT_EQ(main.root().tab(), RootView::Tab::overview);
+    Q_EMIT desktop.notifications->invoked(u"memory"_s, u"free_ram"_s);
+    EXPECT_TRUE(main.findChild<FreeRAMSheet*>());
 }
 
 TEST_F(AppDelegateTest, SettingsTakeEffectWithoutARestart) {

@@ -47,7 +47,7 @@ QLayout* OverviewView::makeHeader() {
     auto* freeRAM = new PushButton(tr("Free RAM"), PushButton::Look::normal, QStringLiteral("memorychip"));
     auto* widget = new PushButton(tr("Floating Widget"), PushButton::Look::normal,
                                   QStringLiteral("rectangle.on.rectangle"));
-    connect(freeRAM, &QPushButton::clicked, this, [this] { (new FreeRAMSheet(m_model, window()))->open(); });
+    connect(freeRAM, &QPushButton::clicked, this, &OverviewView::openFreeRAM);
     connect(widget, &QPushButton::clicked, this, &OverviewView::widgetToggled);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
@@ -55,6 +55,10 @@ QLayout* OverviewView::makeHeader() {
     row->addWidget(freeRAM);
     row->addWidget(widget);
     return row;
+}
+
+void OverviewView::openFreeRAM() {
+    (new FreeRAMSheet(m_model, window()))->open();
 }
 
 QLayout* OverviewView::makeTiles() {

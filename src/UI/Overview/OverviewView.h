@@ -20,6 +20,9 @@ class OverviewView : public QScrollArea {
 public:
     explicit OverviewView(AppModel& model, QWidget* parent = nullptr);
 
+    /// Opens the sheet that frees memory.
+    void openFreeRAM();
+
 Q_SIGNALS:
     void widgetToggled();
     /// Emitted when the user wants to end the session with that host.

@@ -293,6 +293,14 @@ void SessionsView::step(const QWidget* from, int rows) {
     m_area->ensureWidgetVisible(headers[next], 0, Theme::pagePadding);
 }
 
+void SessionsView::confirmEnd(const ProcessIdentity& host) {
+    m_model.wantSessions();
+    const QList<Session>& sessions = m_model.sessionReport().sessions;
+    const auto found = std::ranges::find(sessions, host, &Session::host);
+    if (found != sessions.end())
+        m_actions->act(SessionAction::end, *found);
+}
+
 void SessionsView::addResult(const SessionEndResult& result) {
     auto* view = new SessionResultView(result);
     connect(view, &SessionResultView::dismissed, this, [this, view] {

@@ -31,6 +31,8 @@ public:
     void show(const SessionReport& report);
     /// Puts the result of an end above the sessions until it is dismissed.
     void addResult(const SessionEndResult& result);
+    /// Asks whether to end the session of that host, if it runs.
+    void confirmEnd(const ProcessIdentity& host);
 
 private:
     /// A title above a card of rows.
