@@ -115,6 +115,12 @@ void shootSettings(Camera& camera) {
     QScrollBar* scroll = window.findChild<AlertsTab*>()->verticalScrollBar();
     scroll->setValue(scroll->maximum());
     shoot(SettingsScene::Tab::alerts, u"alerts-end"_s);
+    settings.preferences.notifyQuietEnabled.set(true);
+    notifications.available = false;
+    Q_EMIT notifications.availabilityChanged();
+    QCoreApplication::sendPostedEvents();
+    scroll->setValue(scroll->maximum());
+    shoot(SettingsScene::Tab::alerts, u"alerts-no-notifications"_s);
     auto* table = window.findChild<PresetTable*>();
     shoot(SettingsScene::Tab::quickKills, u"quick-kills"_s);
     table->setCurrentIndex(table->model()->index(3, 0));
