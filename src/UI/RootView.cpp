@@ -93,6 +93,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
 
 void RootView::addSections(Preferences& preferences) {
     connect(m_overview, &OverviewView::widgetToggled, this, &RootView::widgetToggled);
+    connect(m_overview, &OverviewView::endSessionRequested, this, &RootView::confirmEnd);
     addSection(Tab::overview, m_overview);
     addSection(Tab::optimize, new OptimizeView(m_model, preferences));
     addSection(Tab::processes, new ProcessesView(m_model, preferences));

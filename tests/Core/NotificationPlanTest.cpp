@@ -11,9 +11,9 @@ using namespace std::chrono_literals;
 namespace {
 
 using Action = ConditionNotice::Action;
-using Severity = Alert::Severity;
 
-Alert alertOf(const QString& id, Severity severity = Severity::danger, const QString& title = u"title"_s) {
+Alert alertOf(const QString& id, Alert::Severity severity = Alert::Severity::danger,
+              const QString& title = u"title"_s) {
     return {.id = id, .severity = severity, .title = title, .detail = u"detail"_s};
 }
 
@@ -40,7 +40,7 @@ struct NotificationPlanTest : testing::Test {
 
     const QList<Alert> none;
     const QList<Alert> low{alertOf(u"ram_low"_s)};
-    const QList<Alert> tight{alertOf(u"ram_warn"_s, Severity::warn)};
+    const QList<Alert> tight{alertOf(u"ram_warn"_s, Alert::Severity::warn)};
     const QStringList nothing;
     const QStringList shown{u"+memory"_s};
     const QStringList withdrawn{u"-memory"_s};
@@ -78,7 +78,7 @@ TEST_F(NotificationPlanTest, EachAlertHasTheSwitchOfItsRule) {
 
 TEST_F(NotificationPlanTest, ANoticeSaysWhatTheAlertSaysAndOffersWhatHelps) {
     Alert alert{.id = u"ram_low"_s,
-                .severity = Severity::danger,
+                .severity = Alert::Severity::danger,
                 .title = u"Free RAM low"_s,
                 .detail = u"Only 1 GB free."_s,
                 .actionTarget = u"ram"_s};
@@ -87,7 +87,7 @@ TEST_F(NotificationPlanTest, ANoticeSaysWhatTheAlertSaysAndOffersWhatHelps) {
                                                .body = u"Only 1 GB free."_s,
                                                .isDanger = true,
                                                .actions = {Action::show, Action::freeRAM}}));
-    alert = alertOf(u"pressure"_s, Severity::warn);
+    alert = alertOf(u"pressure"_s, Alert::Severity::warn);
     EXPECT_FALSE(first({alert}).isDanger);
 
     const std::tuple<std::optional<QString>, std::optional<qint32>, QList<Action>> forecasts[] = {
@@ -115,12 +115,12 @@ TEST_F(NotificationPlanTest, SeveralAlertsOfARuleAreSummedUp) {
     prefs.notifyIdleAgent.set(true);
     QList<Alert> alerts;
     for (int i = 1; i <= 2; ++i)
-        alerts.append(alertOf(u"idle_agent_%1"_s.arg(i), Severity::warn, u"agent %1"_s.arg(i)));
+        alerts.append(alertOf(u"idle_agent_%1"_s.arg(i), Alert::Severity::warn, u"agent %1"_s.arg(i)));
     ConditionNotice notice = first(alerts);
     EXPECT_EQ(notice.title, u"2 idle agents"_s);
     EXPECT_EQ(notice.body, u"agent 1\nagent 2"_s);
     for (int i = 3; i <= 5; ++i)
-        alerts.append(alertOf(u"idle_agent_%1"_s.arg(i), Severity::warn, u"agent %1"_s.arg(i)));
+        alerts.append(alertOf(u"idle_agent_%1"_s.arg(i), Alert::Severity::warn, u"agent %1"_s.arg(i)));
     now.uptime += 10s;
     notice = first(alerts);
     EXPECT_EQ(notice.title, u"5 idle agents"_s);

@@ -132,6 +132,21 @@ TEST(TrendTest, ARecordedBuildIsNoLeakAndHidesNone) {
     EXPECT_LE(errors[errors.size() / 2], 0.2);
 }
 
+TEST(TrendTest, ARecordedLeakIsForeseen) {
+    Series leak = recorded("memory_left_leak.txt");
+    ASSERT_GT(leak.size(), 50u);
+    const double end = leak.back(); // the machine was spared: full is what was left at the end
+    for (double& left : leak)
+        left -= end;
+    std::size_t count = leak.size() / 2;
+    while (!judged(leak, count) && count < leak.size() * 3 / 5)
+        ++count;
+    const auto fall = judged(leak, count);
+    ASSERT_TRUE(fall);
+    const double truth = static_cast<double>(leak.size() - count) * stepSeconds;
+    EXPECT_NEAR(fall->secondsLeft(), truth, 0.2 * truth);
+}
+
 TEST(TrendTest, TooLittleIsNoAnswer) {
     EXPECT_FALSE(Trend::steadyFall({}, {}));
     const std::vector<double> seconds{0, 10, 20};

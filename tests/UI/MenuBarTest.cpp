@@ -58,6 +58,31 @@ TEST_F(MenuBarTest, TitleFollowsTicksAndTheFormatAtOnce) {
     EXPECT_TRUE(desktop.statusItem->content.symbol.isNull());
 }
 
+TEST_F(MenuBarTest, TheGravestAlertIsAMarkThatNoColourIsNeededFor) {
+    const auto picture = [this] {
+        const QImage image = desktop.statusItem->content.compact.pixmap(16).toImage();
+        return image.convertToFormat(QImage::Format_Grayscale8);
+    };
+    tick();
+    const QImage none = picture();
+    EXPECT_TRUE(desktop.statusItem->content.mark.isNull());
+    fakes.host->memory.swapUsedBytes = 5 * GiB;
+    tick();
+    const QImage warning = picture();
+    EXPECT_TRUE(desktop.statusItem->content.toolTip.endsWith(u"\nHeavy swap usage"_s));
+    fakes.host->memory.activeBytes = 15 * GiB;
+    tick();
+    EXPECT_TRUE(desktop.statusItem->content.toolTip.endsWith(u"\nFree RAM low"_s));
+    EXPECT_FALSE(desktop.statusItem->content.mark.isNull());
+    const QImage danger = picture();
+    EXPECT_NE(none, warning);
+    EXPECT_NE(warning.copy(11, 0, 5, 4), danger.copy(11, 0, 5, 4)) << "only the danger reaches the edge";
+    fakes.host->memory.activeBytes = 4 * GiB;
+    fakes.host->memory.swapUsedBytes = 0;
+    tick();
+    EXPECT_TRUE(desktop.statusItem->content.mark.isNull());
+}
+
 TEST_F(MenuBarTest, ClickOpensThePanelAtTheItemAndASecondClosesIt) {
     click();
     EXPECT_TRUE(desktop.popover->shown);

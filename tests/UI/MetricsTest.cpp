@@ -27,6 +27,20 @@ SystemSample withDisk(double usedPercent) {
 
 } // namespace
 
+TEST(Metrics, MemoryTellsThePressureWhileThereIsAny) {
+    SystemSample sample = withMemory(50);
+    EXPECT_FALSE(Metrics::memory(sample, {sample}, {}).sub->contains(u"pressure"));
+    sample.memoryPressure = PressureLevel{.some = 0.4};
+    EXPECT_FALSE(Metrics::memory(sample, {sample}, {}).sub->contains(u"pressure"));
+    EXPECT_TRUE(Metrics::memory(sample, {sample}, {}).pressure.isEmpty());
+    sample.memoryPressure = PressureLevel{.some = 12.4, .full = 3};
+    const Metric metric = Metrics::memory(sample, {withMemory(50), sample}, {});
+    EXPECT_TRUE(metric.sub->endsWith(u"• pressure 12 %"));
+    EXPECT_EQ(metric.pressure, (QList<double>{0, 12.4}));
+    EXPECT_TRUE(
+        metric.toolTip.contains(u"Programs waited 12 % of the last ten seconds for memory, all of them 3 %"));
+}
+
 TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
     const std::tuple<Metric, const char16_t*, Role> cases[] = {
         {Metrics::cpu(withCpu(59.9), {}), u"60%", Role::green},

@@ -4,6 +4,7 @@
 #include "UI/ModelFixture.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/Overview/IncidentDialog.h"
 #include "UI/Overview/MetricTile.h"
 #include "UI/Overview/ProcessRow.h"
 
@@ -127,6 +128,42 @@ TEST_F(OverviewViewTest, AlertsReplaceTheHealthyCardAndBack) {
     tick();
     EXPECT_EQ(shownNames<AlertCard>(view),
               QStringList{u"Heavy swap usage. 5.0 GB swapped — system will feel sluggish."_s});
+}
+
+TEST_F(OverviewViewTest, AnAlertTellsWhatWentOnBeforeAndAsksForTheSessionItNames) {
+    show();
+    fakes.host->memory.activeBytes = 8 * GiB;
+    for (int i = 0; i < 31; ++i) { // java takes 1 GiB a minute of the 7 that are left
+        fakes.clock->advance(10);
+        fakes.host->memory.activeBytes += GiB / 6;
+        tick();
+    }
+    const auto cards = view.findChildren<AlertCard*>();
+    const auto full = std::ranges::find_if(
+        cards, [](const AlertCard* card) { return card->accessibleName().startsWith(u"Memory full"); });
+    ASSERT_NE(full, cards.end());
+    const auto buttons = (*full)->findChildren<PushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    EXPECT_FALSE(buttons[1]->isVisible()) << "nobody is named";
+    buttons[0]->click();
+    auto* dialog = view.findChild<IncidentDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(showsText(*dialog, u"Largest processes then"_s));
+    dialog->close();
+
+    QList<qint32> asked;
+    QObject::connect(&view, &OverviewView::endSessionRequested, &view,
+                     [&asked](const ProcessIdentity& host) { asked.append(host.pid); });
+    AlertStripView strip;
+    QObject::connect(&strip, &AlertStripView::actionRequested, &strip,
+                     [&asked](const Alert& alert) { asked.append(*alert.actionPid); });
+    strip.set({{.id = u"memory_full"_s, .title = u"full"_s, .actionPid = 7, .actionTarget = u"session"_s}},
+              [](const QString&) { return false; });
+    auto* end = strip.findChild<AlertCard*>()->findChildren<PushButton*>().value(1);
+    EXPECT_EQ(end->text(), u"End session…"_s);
+    end->click();
+    EXPECT_EQ(asked, QList<qint32>{7});
+    EXPECT_TRUE(fakes.signalSender->sent().isEmpty());
 }
 
 TEST_F(OverviewViewTest, HiddenItDoesNoWorkAndShownItCatchesUp) {

@@ -128,14 +128,15 @@ QList<ProcSample> OverviewView::members(ProcGroup group) const {
 
 void OverviewView::actOn(const Alert& alert) {
     const qint32 pid = alert.actionPid.value_or(0);
+    const ProcSample* listed = m_model.process(pid);
     if (alert.actionTarget == QStringLiteral("session")) {
-        Q_EMIT endSessionRequested(pid);
+        if (listed)
+            Q_EMIT endSessionRequested(listed->identity());
         return;
     }
     ProcSample named;
     named.pid = pid;
-    const ProcSample* process = m_model.process(pid);
-    m_model.actions().quitProcess(process ? *process : named);
+    m_model.actions().quitProcess(listed ? *listed : named);
 }
 
 void OverviewView::showDetails(const QString& alertId) {

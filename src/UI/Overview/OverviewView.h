@@ -26,7 +26,7 @@ public:
 Q_SIGNALS:
     void widgetToggled();
     /// Emitted when the user wants to end the session with that host.
-    void endSessionRequested(qint32 host);
+    void endSessionRequested(const ProcessIdentity& host);
 
 private:
     QLayout* makeHeader();
