@@ -26,11 +26,12 @@ bool isNew(const Alert& alert, const QList<Alert>& before) {
     return std::ranges::find(before, alert.id, &Alert::id) == before.end();
 }
 
-QString largestThen(const QList<Moment>& moments) {
+/// Names the largest processes of the last tick but one.
+QString largestBefore(const QList<Moment>& moments) {
     QStringList named;
-    if (moments.isEmpty())
+    if (moments.size() < 2)
         return {};
-    for (const Moment::Process& process : moments.last().largest.mid(0, maxNamedInLog))
+    for (const Moment::Process& process : moments[moments.size() - 2].largest.mid(0, maxNamedInLog))
         named.append(u"%1 %2"_s.arg(process.name, Formatters::bytes(process.rssBytes)));
     return named.join(u", "_s);
 }
@@ -43,6 +44,7 @@ MemoryWatch::MemoryWatch(const Platform& platform, ActionLog& log)
     connect(platform.pressure.get(), &Pressure::memoryStalled, this, &MemoryWatch::hear);
     connect(platform.memoryKills.get(), &MemoryKills::groupEnded, this,
             [this](const QString& group, const QString& by) {
+                m_largest = largestBefore(m_recorder.moments());
                 enter({.at = m_platform.clock->now(), .name = group, .bytes = {}, .by = by});
             });
 }
@@ -85,6 +87,7 @@ void MemoryWatch::followKills(const SystemSample& system, const QList<ProcSample
         return;
     if (!m_recordSince) {
         m_recordSince = m_lastTick - recordMargin;
+        m_largest = largestBefore(m_recorder.moments());
         return;
     }
     m_isNaming = true;
@@ -110,8 +113,6 @@ void MemoryWatch::enter(const MemoryKill& kill) {
         m_entered.resize(maxKills);
     const QString who = kill.by.isEmpty() ? u"kernel"_s : kill.by;
     m_log.record(ActionLogEntry::Kind::kernel,
-                 u"[%1] %2 pid=%3 — largest then: %4"_s.arg(who, kill.name)
-                     .arg(kill.pid)
-                     .arg(largestThen(m_recorder.moments())),
+                 u"[%1] %2 pid=%3 — largest before: %4"_s.arg(who, kill.name).arg(kill.pid).arg(m_largest),
                  kill.bytes.value_or(0), true);
 }

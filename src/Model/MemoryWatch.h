@@ -50,5 +50,6 @@ private:
     QList<MemoryKill> m_entered; ///< newest first
     bool m_isNaming = false;
     Instant m_lastTick;
+    QString m_largest;                    ///< the processes before the kill that is being named
     std::optional<Instant> m_recordSince; ///< where the record is read from at the next tick
 };

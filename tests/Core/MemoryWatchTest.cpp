@@ -132,6 +132,8 @@ TEST_F(MemoryWatchTest, AKillIsNamedByTheRecord) {
     EXPECT_EQ(kills(), QStringList(u"The kernel ended chrome (PID 400, 2 GB)"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).kind, u"kernel"_s);
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 2 * GiB);
+    EXPECT_TRUE(ActionLogReader::read().value(0).detail.startsWith(
+        u"[kernel] chrome pid=400 — largest before: cc1plus 900 MB, chrome 500 MB"_s));
     pass(5); // the record still has it
     EXPECT_EQ(ActionLogReader::read().size(), 1);
     EXPECT_NE(model->incident(model->alerts().last().id), nullptr);
