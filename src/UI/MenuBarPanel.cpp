@@ -27,8 +27,8 @@ constexpr int panelSymbolWidth = 16;
 constexpr int panelPadding = 14;
 constexpr int panelEdge = 10; ///< above and below
 constexpr int panelSpacing = 8;
-constexpr int sessionsHeight = 20; ///< the panel is full with three alerts
-constexpr int buttonPadding = 10;  ///< before the symbol of a button without a border
+constexpr int sessionsHeight = 20;    ///< the panel is full with three alerts
+constexpr int flatButtonPadding = 10; ///< before the symbol of a button without a border
 
 TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
@@ -139,7 +139,7 @@ QLayout* MenuBarPanel::makeSessions() {
     connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
     auto* row = new QHBoxLayout;
     row->setSpacing(0);
-    row->addSpacing(-buttonPadding); // the symbol stands above those of the rows
+    row->addSpacing(-flatButtonPadding); // the symbol stands above those of the rows
     row->addWidget(m_sessions);
     row->addStretch();
     return row;

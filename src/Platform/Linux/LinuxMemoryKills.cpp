@@ -17,14 +17,14 @@ constexpr std::size_t vmstatBytes = 16384;
 constexpr auto journalTimeout = std::chrono::seconds(2);
 constexpr int maxJournalLines = 50;
 
-QString textOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+QByteArray ownGroup(const QString& root) {
+    QFile file(root + u"/proc/self/cgroup"_s);
+    return file.open(QIODevice::ReadOnly) ? ControlGroup::path(file.readAll()) : QByteArray();
 }
 
 KernelFile groupEvents(const QString& root) {
-    const QByteArray group = ControlGroup::path(textOf(root + u"/proc/self/cgroup"_s).toUtf8());
-    return KernelFile((QFile::encodeName(root) + "/sys/fs/cgroup" + group + "/memory.events").toStdString());
+    return KernelFile(
+        (QFile::encodeName(root) + "/sys/fs/cgroup" + ownGroup(root) + "/memory.events").toStdString());
 }
 
 std::optional<quint64> numberIn(const KernelFile& file, std::string_view key) {

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int maxListHeight = 260;
+constexpr int sessionListHeight = 260;
 constexpr SessionPart parts[] = {SessionPart::agent, SessionPart::server, SessionPart::devServer,
                                  SessionPart::browser, SessionPart::command};
 
@@ -42,7 +42,7 @@ SizeList* listOf(const SessionDialogs::Question& question) {
         }
     }
     list->setAccessibleDescription(spoken.join(u"; "_s));
-    list->fit(ConfirmDialog::textWidth, maxListHeight);
+    list->fit(ConfirmDialog::textWidth, sessionListHeight);
     return list;
 }
 

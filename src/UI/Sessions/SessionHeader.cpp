@@ -20,7 +20,7 @@ namespace {
 constexpr int stateSymbolSize = 12;
 constexpr int cpuWidth = 46;
 constexpr QSize sparklineSize(56, 24);
-constexpr int figureGap = 14;
+constexpr int headerFigureGap = 14;
 constexpr int barHeight = 4;
 
 /// Returns the parts in one line, without those at the end that do not fit.
@@ -106,33 +106,33 @@ void SessionHeader::changeEvent(QEvent* event) {
 
 void SessionHeader::resizeEvent(QResizeEvent* event) {
     RowHeader::resizeEvent(event);
-    const int right = width() - figureGap - memoryWidth - figureGap - cpuWidth - figureGap;
+    const int right = width() - headerFigureGap - memoryWidth - headerFigureGap - cpuWidth - headerFigureGap;
     m_sparkline->move(right - m_sparkline->width(), (height - m_sparkline->height()) / 2);
 }
 
 void SessionHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line = paintGround(painter);
-    line.setRight(width() - figureGap);
+    line.setRight(width() - headerFigureGap);
     paintFigures(painter, line);
     paintTexts(painter, line);
 }
 
 void SessionHeader::paintFigures(QPainter& painter, QRectF& line) {
-    const QRectF memory = Painting::takeRight(line, memoryWidth, figureGap);
+    const QRectF memory = Painting::takeRight(line, memoryWidth, headerFigureGap);
     Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText, QFont::Medium);
     Painting::drawTabular(painter, upperLine(memory), Qt::AlignRight, m_texts.memory);
     const QRectF below = lowerLine(memory);
     const QRectF bar(below.left(), qRound(below.center().y() - barHeight / 2.0), below.width(), barHeight);
     Painting::drawProgress(painter, bar, m_share, Theme::color(tint()));
 
-    const QRectF cpu = Painting::takeRight(line, cpuWidth, figureGap);
+    const QRectF cpu = Painting::takeRight(line, cpuWidth, headerFigureGap);
     const bool isBusy = m_texts.cpu != Formatters::percent(0);
     Painting::setTextStyle(painter, TextStyle::callout, isBusy ? Role::primaryText : Role::secondaryText);
     Painting::drawTabular(painter, upperLine(cpu), Qt::AlignRight, m_texts.cpu);
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, lowerLine(cpu), Qt::AlignRight, tr("CPU"));
-    Painting::takeRight(line, sparklineSize.width(), figureGap);
+    Painting::takeRight(line, sparklineSize.width(), headerFigureGap);
 }
 
 void SessionHeader::paintTexts(QPainter& painter, QRectF line) {

@@ -22,7 +22,7 @@ constexpr int indent = 18;
 constexpr int maxIndented = 8; ///< deeper ones stand as far to the right as this depth
 constexpr int partSymbolSize = 14;
 constexpr int portsGap = 12;
-constexpr int columnGap = 14;
+constexpr int treeColumnGap = 14;
 
 } // namespace
 
@@ -57,10 +57,10 @@ void SessionProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line(rect());
     line.setLeft(Theme::cardPadding + RowHeader::chevronColumn + m_depth * indent);
-    const QRectF age = Painting::takeRight(line, m_trailing, columnGap);
+    const QRectF age = Painting::takeRight(line, m_trailing, treeColumnGap);
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     Painting::drawTabular(painter, age, Qt::AlignLeft, m_age);
-    const QRectF memory = Painting::takeRight(line, RowHeader::memoryWidth, columnGap);
+    const QRectF memory = Painting::takeRight(line, RowHeader::memoryWidth, treeColumnGap);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);
     Painting::drawTabular(painter, memory, Qt::AlignRight, m_memory);
 
