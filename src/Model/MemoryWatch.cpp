@@ -22,6 +22,11 @@ bool isShortOfMemory(const SystemSample& system) {
     return static_cast<double>(system.leftBytes()) < shortShare * static_cast<double>(system.memTotalBytes);
 }
 
+/// Returns whether a program runs that ends others when memory is short, and leaves its word in the record.
+bool hasGuard(const QList<ProcSample>& processes) {
+    return std::ranges::find(processes, u"earlyoom"_s, &ProcSample::name) != processes.end();
+}
+
 bool isNew(const Alert& alert, const QList<Alert>& before) {
     return std::ranges::find(before, alert.id, &Alert::id) == before.end();
 }
@@ -81,8 +86,9 @@ QList<Incident> MemoryWatch::incidents(const QList<Alert>& before, const QList<A
 
 /// Asks for names at the tick after the one that saw a kill: what was killed may be listed once more.
 void MemoryWatch::followKills(const SystemSample& system, const QList<ProcSample>& processes) {
+    const bool isGuarded = isShortOfMemory(system) && hasGuard(processes);
     const bool isWorthAsking =
-        m_kills.follow(m_platform.memoryKills->count(), processes, isShortOfMemory(system), system.timestamp);
+        m_kills.follow(m_platform.memoryKills->count(), processes, isGuarded, system.timestamp);
     if (m_isNaming || !isWorthAsking)
         return;
     if (!m_recordSince) {

@@ -167,9 +167,15 @@ TEST_F(MemoryWatchTest, AGuardOfTheMemoryIsHeardWhenMemoryIsShort) {
     fakes.memoryKills->record = {{.pid = 400, .name = u"chrome"_s, .bytes = 400 * MiB, .by = u"earlyoom"_s}};
     end(400);
     pass(3);
-    EXPECT_TRUE(fakes.memoryKills->askedSince.isEmpty()) << "there was enough memory";
+    add(403, 1, "chrome").task->residentBytes = 500 * MiB;
     fakes.host->memory.activeBytes = 16 * GiB;
     fakes.host->memory.swapUsedBytes = GiB;
+    pass();
+    end(403);
+    pass(3);
+    EXPECT_TRUE(fakes.memoryKills->askedSince.isEmpty()) << "nobody guards the memory";
+    add(50, 1, "earlyoom");
+    pass();
     fakes.memoryKills->record[0].pid = 401;
     end(401);
     pass(3);

@@ -19,7 +19,7 @@ QString MemoryKill::id() const {
     return QStringLiteral("memory_kill_%1_%2_%3").arg(pid).arg(seconds).arg(pid == 0 ? name : QString());
 }
 
-bool KernelKills::follow(std::optional<quint64> count, const QList<ProcSample>& processes, bool isShort,
+bool KernelKills::follow(std::optional<quint64> count, const QList<ProcSample>& processes, bool isGuarded,
                          Instant now) {
     const auto before = std::exchange(m_count, count);
     const quint64 risen = before && count && *count > *before ? *count - *before : 0;
@@ -27,12 +27,12 @@ bool KernelKills::follow(std::optional<quint64> count, const QList<ProcSample>& 
     m_now = now;
     if (!m_isAsking)
         m_vanished.clear();
-    if (m_unnamed > 0 || isShort || m_isAsking)
+    if (m_unnamed > 0 || isGuarded || m_isAsking)
         noteVanished(processes);
     m_previous = processes;
     const bool hasVanished = std::ranges::any_of(
         m_vanished, [](const ProcSample& process) { return process.rssBytes >= leastVanishedBytes; });
-    m_isAsking |= m_unnamed > 0 || (isShort && hasVanished);
+    m_isAsking |= m_unnamed > 0 || (isGuarded && hasVanished);
     return m_isAsking;
 }
 

@@ -27,8 +27,9 @@ struct MemoryKill {
 class KernelKills {
 public:
     /// Takes the count and the processes of a tick. Returns whether the record is worth reading: the count
-    /// has risen, or something large vanished while memory was short.
-    bool follow(std::optional<quint64> count, const QList<ProcSample>& processes, bool isShort, Instant now);
+    /// has risen, or something large vanished while a program that ends others may do so.
+    bool follow(std::optional<quint64> count, const QList<ProcSample>& processes, bool isGuarded,
+                Instant now);
 
     /// Returns what was ended since the last call, by the record and by what vanished up to now.
     QList<MemoryKill> take(const QList<RecordedKill>& record);
