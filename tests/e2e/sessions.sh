@@ -80,9 +80,8 @@ press "Dismiss"
 
 start_agent "$home/src/app" ":"
 killed=$spawned
-sleep 1
+shows "a new session appears with what it started" "~/src/app, .*, 3 processes, .*"
 workers=$(of 10000)
-shows "a new session appears" "1 session, .*"
 kill -KILL "$killed"
 shows "what it left is named" "Left by claude in ~/src/app, .*"
 press "End left-overs"
