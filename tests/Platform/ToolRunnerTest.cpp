@@ -170,6 +170,17 @@ TEST(ToolRunner, AnswersForToolsThatLinuxLacks) {
         EXPECT_EQ(runner.programFor(path), path);
 }
 
+TEST(ToolRunner, PrefersTheFasterProgramToTheSystemsWhereItCanBeRun) {
+    const TemporaryFolder tools;
+    const UnixToolRunner runner(tools.path());
+    EXPECT_EQ(runner.programFor(u"/usr/bin/du"_s), u"/usr/bin/du"_s);
+    const QString ours = tools.makeProgram(u"du"_s, "#!/bin/sh\n");
+    EXPECT_EQ(runner.programFor(u"/usr/bin/du"_s), ours);
+    EXPECT_EQ(runner.programFor(u"/bin/du"_s), u"/bin/du"_s);
+    ASSERT_TRUE(QFile::setPermissions(ours, QFile::ReadOwner));
+    EXPECT_EQ(runner.programFor(u"/usr/bin/du"_s), u"/usr/bin/du"_s);
+}
+
 TEST(ToolRunner, HearsWhatToolsOfOurOwnComplainAbout) {
     const TemporaryFolder tree;
     const std::tuple<const char*, bool, int, QString> cases[] = {

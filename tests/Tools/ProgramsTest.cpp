@@ -40,6 +40,9 @@ TEST(Programs, RefuseWhatTheyDoNotUnderstand) {
         {u"osascript"_s, {u"-e"_s, u"do shell script \"id\""_s}},
         {u"osascript"_s, {u"tell application \"Notes\" to quit"_s}},
         {u"purge"_s, {u"--now"_s}},
+        {u"du"_s, {u"-sk"_s, u"-x"_s}},
+        {u"du"_s, {u"-sk"_s, u"-x"_s, QString()}},
+        {u"du"_s, {u"-sk"_s, u"-L"_s, u"/tmp"_s}},
     };
     for (const auto& [tool, arguments] : refused) {
         const EndedTool ended = runTool(tool, arguments);

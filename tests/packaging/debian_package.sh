@@ -38,6 +38,7 @@ expected='-rw-r--r-- root/root ./usr/share/applications/tavrin.desktop
 -rw-r--r-- root/root ./usr/share/polkit-1/actions/org.example.tavrin.policy
 -rwxr-xr-x root/root ./usr/bin/tavrin
 -rwxr-xr-x root/root ./usr/libexec/tavrin/cleanup
+-rwxr-xr-x root/root ./usr/libexec/tavrin/du
 -rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
 -rwxr-xr-x root/root ./usr/libexec/tavrin/osascript
 -rwxr-xr-x root/root ./usr/libexec/tavrin/purge'
@@ -82,7 +83,7 @@ check "programs find their libraries" none "$(ldd "${programs[@]}" | grep 'not f
 
 # A program in the same place, with the same code, answers where the tools are.
 cp "$build/tests/tool_host" "$root/usr/bin/"
-for path in cleanup /usr/bin/memory_pressure /usr/bin/osascript /usr/sbin/purge; do
+for path in cleanup /usr/bin/du /usr/bin/memory_pressure /usr/bin/osascript /usr/sbin/purge; do
     tool=$root/usr/libexec/tavrin/$(basename "$path")
     check "$path is answered by ours" same "$tool" "$("$root/usr/bin/tool_host" where "$path")"
     status=0

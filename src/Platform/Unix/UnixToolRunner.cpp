@@ -165,6 +165,11 @@ QString UnixToolRunner::programFor(const QString& launchPath) const {
         if (launchPath == lacking)
             return QDir(m_toolsFolder).filePath(QFileInfo(lacking).fileName());
     }
+    if (launchPath == u"/usr/bin/du") {
+        const QFileInfo faster(QDir(m_toolsFolder), u"du"_s);
+        if (faster.isExecutable())
+            return faster.filePath();
+    }
     return launchPath;
 }
 

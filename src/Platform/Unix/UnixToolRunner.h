@@ -13,7 +13,8 @@ public:
 
     QCoro::Task<ToolResult> run(ToolRequest request) override;
 
-    /// Returns the program for a launch path: one of our own for tools that Linux lacks, otherwise the path.
+    /// Returns the program for a launch path: one of our own for tools that Linux lacks, and for `du` where
+    /// ours is installed, which is faster; otherwise the path.
     QString programFor(const QString& launchPath) const;
 
     /// Returns the folder of our own programs, relative to the running program as installed or in the build
