@@ -314,7 +314,7 @@ std::optional<FolderSize> Tools::measureFolder(const std::string& path, std::fun
     }
     const auto folder =
         std::make_shared<FoundFolder>(FoundFolder{.parent = nullptr, .name = path, .inode = status.stx_ino});
-    const FolderSize below = Walk(path, top, Device(status), std::move(tell), limits).run(folder);
+    const FolderSize below = Walk(path, top, Device(status), tell, limits).run(folder);
     close(top);
     return FolderSize{size.blocks + below.blocks, below.unread, below.isEstimate};
 }
