@@ -59,6 +59,20 @@ TEST_F(MemoryWatchTest, TheForecastNamesTheSessionWithAllThatItStarted) {
     EXPECT_EQ(alert(u"memory_full"_s), Alert());
 }
 
+TEST_F(MemoryWatchTest, ASessionThatStartsMoreAndMoreIsNamedThoughNoneOfThemGrows) {
+    add(100, 1, "claude").folder = "/home/user/src/app";
+    for (qint32 pid = 101; pid < 140; ++pid) {
+        const auto now = fakes.clock->wall;
+        auto& child = add(pid, 100, "node", "node server.js");
+        child.task->residentBytes = 80 * MiB;
+        child.info->start = now;
+        fakes.host->memory.activeBytes += 80 * MiB;
+        grow(1 / 6.0, {});
+    }
+    const QString title = alert(u"memory_full"_s).title;
+    EXPECT_TRUE(title.contains(u"— claude in /home/user/src/app grows 480 MB/min")) << qPrintable(title);
+}
+
 TEST_F(MemoryWatchTest, TheForecastNamesAProcessAGroupOrNobody) {
     add(200, 1, "java");
     grow(6, {{200, 500}});
@@ -123,8 +137,10 @@ TEST_F(MemoryWatchTest, AStallIsHeardBetweenTwoTicks) {
 TEST_F(MemoryWatchTest, AKillIsNamedByTheRecord) {
     add(400, 1, "chrome").task->residentBytes = 500 * MiB;
     add(401, 1, "cc1plus").task->residentBytes = 900 * MiB;
+    fakes.memoryKills->counted = 7;
     pass();
-    fakes.memoryKills->counted = 1;
+    EXPECT_TRUE(fakes.memoryKills->askedSince.isEmpty()) << "these were before the program started";
+    fakes.memoryKills->counted = 8;
     fakes.memoryKills->record = {{.pid = 400, .name = u"chrome"_s, .bytes = 2 * GiB}};
     end(400);
     end(401); // at the same time, by itself
@@ -136,6 +152,10 @@ TEST_F(MemoryWatchTest, AKillIsNamedByTheRecord) {
         u"[kernel] chrome pid=400 — largest before: cc1plus 900 MB, chrome 500 MB"_s));
     pass(5); // the record still has it
     EXPECT_EQ(ActionLogReader::read().size(), 1);
+    fakes.memoryKills->counted = 9;
+    fakes.memoryKills->record.append({.pid = 402, .name = u"java"_s});
+    pass(2);
+    EXPECT_EQ(ActionLogReader::read().size(), 2) << "the record of a kill that was told of comes once more";
     EXPECT_NE(model->incident(model->alerts().last().id), nullptr);
 }
 

@@ -147,6 +147,19 @@ TEST(TrendTest, ARecordedLeakIsForeseen) {
     EXPECT_NEAR(fall->secondsLeft(), truth, 0.2 * truth);
 }
 
+TEST(TrendTest, AFigureThatJumpsIsNoLine) {
+    const auto jumping = [](double height) {
+        return series(
+            30,
+            [=](double second) {
+                return 5 * GB - GB * second / 290 + (std::fmod(second, 20) < 10 ? height : -height);
+            },
+            0, 1);
+    };
+    EXPECT_TRUE(judged(jumping(0.05 * GB), 30));
+    EXPECT_FALSE(judged(jumping(0.16 * GB), 30));
+}
+
 TEST(TrendTest, TooLittleIsNoAnswer) {
     EXPECT_FALSE(Trend::steadyFall({}, {}));
     const std::vector<double> seconds{0, 10, 20};

@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -119,14 +120,19 @@ QList<qint32> GrowthWatch::suspects() const {
     return m_fall ? m_processes.keys() : QList<qint32>();
 }
 
-/// Returns the growth in bytes a second over the window of the fall.
-double GrowthWatch::growthOf(const Track& track) const {
+/// Returns the memory at the times of the fall's window.
+QList<double> GrowthWatch::duringFall(const Track& track) const {
     const auto points = static_cast<qsizetype>(m_fall->points);
     QList<double> values = track.real.size() >= points ? track.real : track.resident;
     const double before = track.isNew || values.isEmpty() ? 0 : values.first();
     while (values.size() < points)
         values.prepend(before); // it was not there yet, or small
-    return Trend::medianSlope(figures(m_seconds).last(m_fall->points), figures(values).last(m_fall->points));
+    return values.last(points);
+}
+
+/// Returns bytes a second.
+double GrowthWatch::growthOf(const QList<double>& duringFall) const {
+    return Trend::medianSlope(figures(m_seconds).last(m_fall->points), figures(duringFall));
 }
 
 std::optional<Grower> GrowthWatch::growerAmong(const QList<Session>& sessions) const {
@@ -137,18 +143,18 @@ std::optional<Grower> GrowthWatch::growerAmong(const QList<Session>& sessions) c
     };
     QSet<qint32> ofSessions;
     for (const Session& session : sessions) {
-        double growth = 0;
+        QList<double> sum(static_cast<qsizetype>(m_fall->points));
         for (const SessionProcess& each : session.processes) {
             const auto track = m_processes.constFind(each.process.pid);
             if (track == m_processes.cend() || track->startTime != each.process.startTime)
                 continue;
             ofSessions.insert(each.process.pid);
-            growth += growthOf(*track);
+            std::ranges::transform(sum, duringFall(*track), sum.begin(), std::plus());
         }
         consider(Grower{.kind = Grower::Kind::session,
                         .process = session.host,
                         .title = session.title(),
-                        .bytesPerSecond = growth});
+                        .bytesPerSecond = growthOf(sum)});
     }
     consider(fastestProcess(ofSessions));
     const double enough = leastShareOfFall * m_fall->perSecond;
@@ -162,7 +168,7 @@ std::optional<Grower> GrowthWatch::fastestProcess(const QSet<qint32>& without) c
     for (auto track = m_processes.cbegin(); track != m_processes.cend(); ++track) {
         if (without.contains(track.key()))
             continue;
-        const double growth = growthOf(*track);
+        const double growth = growthOf(duringFall(*track));
         if (!fastest || growth > fastest->bytesPerSecond)
             fastest = Grower{.kind = Grower::Kind::process,
                              .process = {.pid = track.key(), .startTime = track->startTime},
@@ -175,7 +181,7 @@ std::optional<Grower> GrowthWatch::fastestProcess(const QSet<qint32>& without) c
 std::optional<Grower> GrowthWatch::fastestGroup() const {
     std::optional<Grower> fastest;
     for (const Track& group : m_groups) {
-        const double growth = growthOf(group);
+        const double growth = growthOf(duringFall(group));
         if (!fastest || growth > fastest->bytesPerSecond)
             fastest = Grower{
                 .kind = Grower::Kind::group, .process = {}, .title = group.name, .bytesPerSecond = growth};

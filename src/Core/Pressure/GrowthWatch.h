@@ -46,7 +46,8 @@ private:
     void noteGroups(const QList<GroupRollup>& groups);
     void append(Track& track, quint64 resident, std::optional<quint64> real);
     void judge();
-    double growthOf(const Track& track) const;
+    QList<double> duringFall(const Track& track) const;
+    double growthOf(const QList<double>& duringFall) const;
     std::optional<Grower> growerAmong(const QList<Session>& sessions) const;
     std::optional<Grower> fastestProcess(const QSet<qint32>& without) const;
     std::optional<Grower> fastestGroup() const;
