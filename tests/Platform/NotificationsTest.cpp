@@ -394,6 +394,18 @@ TEST_F(NotificationsOnABus, OneThatIsClosedWhileItIsReplacedStaysClosed) {
     EXPECT_TRUE(events.isEmpty());
 }
 
+TEST_F(NotificationsOnABus, OneThatIsReplacedWhileTheProgramEndsIsClosed) {
+    startServer();
+    show(u"a"_s);
+    EXPECT_TRUE(serverGot({u"caps"_s, u"notify 0 t"_s}));
+    settleBus();
+    server->hangs = true;
+    show(u"a"_s, u"new"_s);
+    notifications->withdraw(u"a"_s);
+    notifications.reset();
+    EXPECT_TRUE(serverGot({u"notify 41 new"_s, u"close 41"_s}));
+}
+
 TEST(NotificationsWithoutABus, AreNotAvailable) {
     FreedesktopNotifications notifications(QDBusConnection(u"none"_s));
     notifications.show({.key = u"a"_s, .title = u"t"_s, .body = {}, .actions = {}});

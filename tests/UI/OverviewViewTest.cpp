@@ -1,6 +1,7 @@
 #include "UI/Overview/OverviewView.h"
 
 #include "UI/Kit/IconButton.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/ModelFixture.h"
 #include "UI/Overview/AlertStripView.h"
 #include "UI/Overview/GroupRow.h"

@@ -61,6 +61,14 @@ FreedesktopNotifications::FreedesktopNotifications(const QDBusConnection& bus, L
     findOut();
 }
 
+/// Closes what was withdrawn while it was being replaced: nobody waits for the reply any more.
+FreedesktopNotifications::~FreedesktopNotifications() {
+    for (const Item& item : std::as_const(m_items)) {
+        if (item.isWithdrawn)
+            closeAtServer(item.id);
+    }
+}
+
 void FreedesktopNotifications::call(const QDBusMessage& message, Answered answered) {
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, m_limits.callTimeoutMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, answered = std::move(answered)] {
@@ -301,7 +309,8 @@ void FreedesktopNotifications::notificationClosed(quint32 id, quint32, const QDB
         forget(key);
         return;
     }
-    item.id = 0;
+    if (item.isWithdrawn)
+        return;
     withdraw(key); // what is on its way would open it again
     Q_EMIT closed(key);
 }

@@ -28,6 +28,7 @@ public:
 
     explicit FreedesktopNotifications(const QDBusConnection& bus = QDBusConnection::sessionBus());
     FreedesktopNotifications(const QDBusConnection& bus, Limits limits);
+    ~FreedesktopNotifications() override;
 
     void show(const Notification& notification) override;
     void withdraw(const QString& key) override;
