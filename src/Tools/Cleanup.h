@@ -8,12 +8,16 @@
 
 namespace Tools {
 
-/// The entries of a folder to remove. Its text is records ended by NUL: "DEVICE:INODE" of the folder, then
-/// "INODE BYTES PATH" of each entry. A path is relative to the folder, of any bytes but NUL.
+/// The entries of a folder to remove. Its text is records ended by NUL: "DEVICE:INODE BYTES LISTED" of the
+/// folder, then "INODE BYTES MODIFIED MARKS PATH" of each entry. The marks are "d" for a folder, "u" for one
+/// in use, or "-" for none. A path is relative to the folder, of any bytes but NUL.
 struct CleanupListing {
     struct Entry {
         ino_t inode = 0;
         std::uint64_t bytes = 0; ///< an old file's length, otherwise disk usage with all below it
+        std::int64_t modified = 0; ///< seconds since 1970, of the newest below it
+        bool isFolder = false;
+        bool isInUse = false; ///< a running program has it open, or something below it
         std::string path;
 
         bool operator==(const Entry&) const = default;
@@ -21,6 +25,8 @@ struct CleanupListing {
 
     dev_t device = 0;
     ino_t inode = 0;
+    std::uint64_t bytes = 0; ///< of the folder with all below it, or of the old files
+    std::int64_t listed = 0; ///< nanoseconds since 1970, when listing began
     std::vector<Entry> entries;
 
     bool operator==(const CleanupListing&) const = default;

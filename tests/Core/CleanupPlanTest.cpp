@@ -67,8 +67,8 @@ TEST(CleanupPlan, NamesTheLargestEntries) {
 TEST(CleanupPlan, ReadsAListingUpToTheFirstMalformedRecord) {
     const std::pair<QByteArray, QByteArrayList> cases[] = {
         {listingOf({{"two\nlines", 3}, {" caf\xe9 ", 0}}), {"two\nlines", " caf\xe9 "}},
-        {listingOf({{"a", 1}}) + "7 8 cut off", {"a"}},
-        {listingOf({{"a", 1}}) + "7 -8 b" + '\0' + listingOf({{"c", 1}}), {"a"}},
+        {listingOf({{"a", 1}}) + "7 8 0 - cut off", {"a"}},
+        {listingOf({{"a", 1}}) + "7 -8 0 - b" + '\0' + listingOf({{"c", 1}}), {"a"}},
         {"64:2", {}},
         {{}, {}},
     };

@@ -23,16 +23,24 @@ EndedTool run(const QStringList& arguments, const QByteArray& input = {}) {
 
 TEST(Cleanup, AListingReadsBackAsItWasWrittenAndAPartOfOneIsNone) {
     const CleanupListing listing{
-        .device = 64, .inode = ~ino_t(0), .entries = {{1, 5000, "deep/two\nlines"}, {2, 0, " caf\xe9 "}}};
+        .device = 64,
+        .inode = ~ino_t(0),
+        .bytes = 5000,
+        .listed = 77,
+        .entries = {{.inode = 1, .bytes = 5000, .path = "deep/two\nlines"},
+                    {.inode = 2, .modified = -5, .isFolder = true, .path = " caf\xe9 "},
+                    {.inode = 3, .isFolder = true, .isInUse = true, .path = "-"}}};
     const std::string text = listing.text();
     EXPECT_EQ(CleanupListing::parse(text), listing);
     for (std::size_t length = 0; length < text.size(); ++length) {
         const auto part = CleanupListing::parse(text.substr(0, length));
-        EXPECT_TRUE(!part || part->entries.size() < 2) << length;
+        EXPECT_TRUE(!part || part->entries.size() < 3) << length;
         EXPECT_TRUE(!part || text[length - 1] == '\0') << length;
     }
-    for (const std::string& other : {"1:2\n"s, "1:2\0-1 0 a\0"s, "1:2\0001 x a\0"s, "1:2\0001 2 \0"s,
-                                     "1:2\0\0"s, "1:2\00099999999999999999999 0 a\0"s})
+    for (const std::string& other :
+         {"1:2 0 0\n"s, "1:2 0\0"s, "1:2 0 0\0-1 0 0 - a\0"s, "1:2 0 0\0001 x 0 - a\0"s,
+          "1:2 0 0\0001 2 0 - \0"s, "1:2 0 0\0001 2 0 ud a\0"s, "1:2 0 0\0001 2 0 -\0"s, "1:2 0 0\0\0"s,
+          "1:2 0 0\00099999999999999999999 0 0 - a\0"s})
         EXPECT_FALSE(CleanupListing::parse(std::string_view(other).substr(0, other.size()))) << other;
 }
 
@@ -118,7 +126,7 @@ TEST(Cleanup, FollowsNoSymlinkToAListedFile) {
     const QStringList options = {u"--older-than"_s, u"7"_s, u"--now"_s,
                                  QString::number(std::time(nullptr) + 9 * 86400), folder};
     const QByteArray listing = run(QStringList(u"list"_s) + options).output;
-    EXPECT_TRUE(listing.endsWith(" 1 deep/old" + QByteArray(1, '\0')));
+    EXPECT_TRUE(listing.endsWith(" - deep/old" + QByteArray(1, '\0')));
     ASSERT_TRUE(QDir().rename(tree.path(u"folder/deep"_s), tree.path(u"was"_s)));
     ASSERT_TRUE(QFile::link(tree.path(u"outside"_s), tree.path(u"folder/deep"_s)));
     run(QStringList(u"remove"_s) + options, listing);

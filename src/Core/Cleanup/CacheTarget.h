@@ -58,6 +58,8 @@ struct CacheTarget {
     quint64 sharedBytes = 0;         ///< the part of `sizeBytes` that is in another target of the list too
     QStringList volumes = {};        ///< of containers, removed with their contents
     QStringList notes = {};          ///< sentences for the user, such as why a folder is left alone
+    QString reason = {};             ///< why it may go, a sentence; empty for the fixed catalogue
+    bool isInCleanAll = true;        ///< cleaned with all others; else only when it is chosen
 
     bool operator==(const CacheTarget&) const = default;
 

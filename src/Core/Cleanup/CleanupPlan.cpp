@@ -72,6 +72,14 @@ template <typename Test> quint64 listedBytes(const CacheTarget& target, const Te
     return bytes;
 }
 
+/// Takes the text up to the next space off the front; all of it where there is none.
+QByteArrayView takeField(QByteArrayView& text) {
+    const qsizetype space = text.indexOf(' ');
+    const QByteArrayView field = space < 0 ? text : text.first(space);
+    text = space < 0 ? QByteArrayView() : text.sliced(space + 1);
+    return field;
+}
+
 struct Folder {
     qsizetype target;
     QByteArray path;
@@ -160,27 +168,38 @@ QString CleanupPlan::keptFolder() {
 
 CleanupPlan::ListingReader::ListingReader(QByteArrayView listing)
     : m_rest(listing) {
-    takeRecord(); // the folder itself
+    m_header = takeRecord().value_or(QByteArrayView());
+    QByteArrayView fields = m_header;
+    takeField(fields);
+    m_totalBytes = takeField(fields).toULongLong();
 }
 
+/// Returns the next record with the NUL at its end.
 std::optional<QByteArrayView> CleanupPlan::ListingReader::takeRecord() {
     const qsizetype end = m_rest.indexOf('\0');
     if (end < 0)
         return std::nullopt;
-    const QByteArrayView record = m_rest.first(end);
+    const QByteArrayView record = m_rest.first(end + 1);
     m_rest = m_rest.sliced(end + 1);
     return record;
 }
 
 std::optional<CleanupPlan::Entry> CleanupPlan::ListingReader::next() {
     const auto record = takeRecord();
-    const qsizetype first = record ? record->indexOf(' ') : -1;
-    const qsizetype second = first < 0 ? -1 : record->indexOf(' ', first + 1);
-    if (second < 0)
+    if (!record)
         return std::nullopt;
-    bool isNumber = false;
-    const quint64 bytes = record->sliced(first + 1, second - first - 1).toULongLong(&isNumber);
-    return isNumber ? std::optional(Entry{bytes, record->sliced(second + 1).toByteArray()}) : std::nullopt;
+    QByteArrayView rest = record->chopped(1);
+    takeField(rest); // the inode
+    bool isSize = false;
+    bool isTime = false;
+    Entry entry{.sizeBytes = takeField(rest).toULongLong(&isSize),
+                .modified = takeField(rest).toLongLong(&isTime),
+                .record = *record};
+    const QByteArrayView marks = takeField(rest);
+    entry.isFolder = marks.startsWith('d');
+    entry.isInUse = marks.endsWith('u');
+    entry.path = rest.toByteArray();
+    return isSize && isTime && !rest.isEmpty() ? std::optional(entry) : std::nullopt;
 }
 
 CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype maxShown) {

@@ -33,9 +33,11 @@ QString keptFolder();
 /// One entry of a listing. Its path is relative to the folder, in any encoding.
 struct Entry {
     quint64 sizeBytes = 0; ///< the length of an old file, or the space of the entry with all below it
+    qint64 modified = 0;   ///< seconds since 1970, of the newest below it
+    bool isFolder = false;
+    bool isInUse = false; ///< a running program has it open, or something below it
     QByteArray path;
-
-    bool operator==(const Entry&) const = default;
+    QByteArrayView record; ///< its text in the listing, with the NUL at the end
 };
 
 /// Reads a listing from the front.
@@ -44,11 +46,17 @@ public:
     explicit ListingReader(QByteArrayView listing);
     /// Returns an empty optional at the end and at the first malformed record.
     std::optional<Entry> next();
+    /// Returns the record of the folder itself, with the NUL at the end.
+    QByteArrayView header() const { return m_header; }
+    /// Returns the space of the folder with all below it, or the length of its old files.
+    quint64 totalBytes() const { return m_totalBytes; }
 
 private:
     std::optional<QByteArrayView> takeRecord();
 
     QByteArrayView m_rest;
+    QByteArrayView m_header;
+    quint64 m_totalBytes = 0;
 };
 
 /// What a clean removes: the names and sizes of the largest, and the count of all.
