@@ -162,6 +162,7 @@ TEST_F(MemoryLedgerTest, NothingIsReadUnlessSomethingWantsIt) {
 
 TEST_F(MemoryLedgerTest, ARefusedProcessHasItsTotals) {
     add(1);
+    processes[0].cpuPercent = 1;
     memory.totals[1] = {.anonymousBytes = 5, .swapBytes = 1};
     EXPECT_EQ(tickForAll(), (QStringList{u"all 1"_s, u"totals 1"_s}));
     tickForAll();
@@ -178,6 +179,7 @@ TEST_F(MemoryLedgerTest, SharesGoOnWhileTheProcessKeepsItsSize) {
     memory.totals[1] = {.anonymousBytes = 21, .swapBytes = 2};
     tickForAll();
     tickForAll();
+    processes[0].cpuPercent = 0.01;
     fakes.clock->advance(45);
     EXPECT_EQ(tickForAll(), QStringList(u"totals 1"_s));
     tickForAll();
@@ -185,6 +187,23 @@ TEST_F(MemoryLedgerTest, SharesGoOnWhileTheProcessKeepsItsSize) {
               (ProcessMemoryUse{.proportionalBytes = 30, .anonymousBytes = 21, .swapBytes = 2}));
     processes[0].rssBytes *= 10;
     EXPECT_EQ(tickForAll(), QStringList(u"all 1"_s));
+}
+
+TEST_F(MemoryLedgerTest, AProcessThatDidNotRunIsNotReadAgainWhileItsSharesMayBeTrue) {
+    add(1);
+    memory.all[1] = {.proportionalBytes = 30};
+    tickForAll();
+    for (int i = 0; i < 240; ++i) {
+        EXPECT_EQ(tickForAll(), QStringList()) << i;
+        ASSERT_TRUE(processes[0].memory) << i;
+        EXPECT_LT(fakes.clock->uptime() - processes[0].memory->readAt, 60s) << i;
+    }
+    fakes.clock->advance(30); // what maps the same pages may have ended
+    EXPECT_EQ(tickForAll(), QStringList(u"all 1"_s));
+    tickForAll();
+    processes[0].rssBytes += 4096;
+    fakes.clock->advance(20);
+    EXPECT_EQ(tickForAll(), QStringList(u"totals 1"_s)) << "something else took pages from it";
 }
 
 TEST_F(MemoryLedgerTest, AnotherProcessOfThatPidHasNoFigures) {

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr auto maxAge = std::chrono::minutes(2);
+constexpr auto confirmedAfter = std::chrono::seconds(40); // within the minute that a figure may be old
 constexpr MemoryPlan::Nanoseconds maxSavings =
     33 * MemoryPlan::creditPerTick; // so that first figures come soon
 constexpr MemoryPlan::Nanoseconds handOverCost = std::chrono::microseconds(150); // to the thread and back
@@ -67,6 +68,7 @@ void MemoryLedger::enter(Entry& entry, const Result& result) {
         m_costs.totals = average(m_costs.totals, result.reading.cost);
     if (figures.isProportional()) {
         learnCost(entry, result.reading.cost);
+        entry.sharesReadAt = m_now;
         entry.lastCost = result.reading.cost;
         entry.costBytes = entry.residentWhenRead;
         entry.repeats = 0;
@@ -97,9 +99,21 @@ void MemoryLedger::handOut(QList<ProcSample>& processes) {
             (found->figures && m_now - found->figures->readAt > maxAge))
             continue; // leaves the entry to be forgotten
         found->tick = m_tick;
+        follow(*found, process);
         process.memory = found->figures;
     }
     m_entries.removeIf([this](const auto& entry) { return entry->tick != m_tick; });
+}
+
+/// Notes whether the process may have changed, and confirms the figures of one that did not.
+void MemoryLedger::follow(Entry& entry, const ProcSample& process) const {
+    entry.hasRun |= process.cpuPercent > 0 || process.rssBytes != entry.residentWhenRead;
+    if (entry.hasRun || !entry.figures || !isWanted(process.pid) ||
+        m_now - entry.figures->readAt < confirmedAfter)
+        return;
+    MemoryFigures confirmed = *entry.figures;
+    confirmed.readAt = m_now;
+    entry.figures = std::make_shared<const MemoryFigures>(confirmed);
 }
 
 bool MemoryLedger::isWanted(qint32 pid) const {
@@ -118,7 +132,11 @@ QList<MemoryPlan::Process> MemoryLedger::wanted(const QList<ProcSample>& process
         const auto entry = m_entries.constFind(process.pid);
         if (entry != m_entries.cend()) {
             known.residentWhenRead = entry->residentWhenRead;
-            known.ageSeconds = std::chrono::duration<double>(m_now - entry->readAt).count();
+            const auto secondsSince = [this](auto time) {
+                return std::chrono::duration<double>(m_now - time).count();
+            };
+            known.ageSeconds = entry->hasRun || !entry->figures ? secondsSince(entry->readAt) : 0;
+            known.sharesAgeSeconds = secondsSince(entry->sharesReadAt);
             known.lastCost = entry->lastCost;
             known.costBytes = entry->costBytes;
             known.repeats = entry->repeats;
@@ -150,6 +168,7 @@ void MemoryLedger::read(const QList<MemoryPlan::Reading>& readings, const QList<
         entry.tick = m_tick;
         entry.keptSize = !MemoryPlan::hasChangedSize(process.rssBytes, entry.residentWhenRead);
         entry.residentWhenRead = process.rssBytes;
+        entry.hasRun = false;
     }
     QPromise<QList<Result>> promise;
     m_slice = promise.future();

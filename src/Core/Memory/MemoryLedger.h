@@ -20,7 +20,8 @@ class ProcessMemory;
 /// Such a figure costs up to a thousand times what a resident size costs. So the ledger reads a slice of the
 /// processes each tick, on a thread of its own, at a processor time of one millisecond a tick on average (see
 /// MemoryPlan), and only what was wanted since the tick before. The figures of a slice are handed out at the
-/// next tick.
+/// next tick. A process that did not run since it was read and has the same resident size still has the
+/// figures that were read, so it costs nothing.
 class MemoryLedger {
 public:
     MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock);
@@ -47,6 +48,8 @@ private:
         quint64 residentWhenRead = 0;
         bool keptSize = false; ///< between the last two readings
         std::chrono::steady_clock::time_point readAt;
+        std::chrono::steady_clock::time_point sharesReadAt;
+        bool hasRun = false; ///< since it was read
         std::optional<MemoryPlan::Nanoseconds> lastCost;
         quint64 costBytes = 0;
         int repeats = 0;
@@ -64,6 +67,7 @@ private:
     void enter(Entry& entry, const Result& result);
     void learnCost(const Entry& entry, MemoryPlan::Nanoseconds cost);
     void handOut(QList<ProcSample>& processes);
+    void follow(Entry& entry, const ProcSample& process) const;
     bool isWanted(qint32 pid) const;
     QList<MemoryPlan::Process> wanted(const QList<ProcSample>& processes) const;
     void startSlice(const QList<ProcSample>& processes);

@@ -12,6 +12,7 @@ constexpr Nanoseconds leastCost = std::chrono::microseconds(40); // opening, and
 constexpr quint64 MiB = 1 << 20;
 constexpr quint64 smallBytes = 8 * MiB; // read by its totals at first
 constexpr int maxRepeats = 9;           // of the totals, while the process keeps its size
+constexpr double maxSharesAgeSeconds = (maxRepeats + 1) * turnSeconds;
 constexpr double freshSeconds = 5;      // on show
 constexpr double dueSeconds = 10;
 
@@ -31,6 +32,11 @@ bool isTooLarge(const Process& process) {
     return process.residentBytes > maxUnaskedBytes && !process.isAsked;
 }
 
+/// Others that map the same pages may have ended meanwhile.
+bool hasOldShares(const Process& process) {
+    return process.lastCost && !isTooLarge(process) && process.sharesAgeSeconds > maxSharesAgeSeconds;
+}
+
 Urgency urgencyOf(const Process& process) {
     const bool isStale = process.ageSeconds > freshSeconds;
     const bool isRough = !process.lastCost && !process.isRefused && !isTooLarge(process);
@@ -44,7 +50,7 @@ Urgency urgencyOf(const Process& process) {
         return Urgency::grown;
     if (isRough)
         return Urgency::rough;
-    return process.ageSeconds > dueSeconds ? Urgency::due : Urgency::settled;
+    return process.ageSeconds > dueSeconds || hasOldShares(process) ? Urgency::due : Urgency::settled;
 }
 
 /// Returns whether all figures are wanted, and not the totals alone.
@@ -53,7 +59,7 @@ bool wantsAll(const Process& process, Urgency urgency) {
         return false;
     if (urgency == Urgency::unread)
         return process.residentBytes >= smallBytes;
-    const bool mayRepeat = process.lastCost && process.repeats < maxRepeats &&
+    const bool mayRepeat = process.lastCost && process.repeats < maxRepeats && !hasOldShares(process) &&
                            !hasChangedSize(process.residentBytes, process.residentWhenRead);
     return urgency == Urgency::asked || !mayRepeat;
 }

@@ -25,7 +25,8 @@ struct Process {
     qint32 pid = 0;
     quint64 residentBytes = 0;
     quint64 residentWhenRead = 0;                                ///< at the last reading of any kind
-    double ageSeconds = std::numeric_limits<double>::infinity(); ///< of the last reading
+    double ageSeconds = std::numeric_limits<double>::infinity(); ///< of the last reading; 0 if it did not run
+    double sharesAgeSeconds = 0;                                 ///< of the last reading of all figures
     std::optional<Nanoseconds> lastCost;                         ///< of the last reading of all figures
     quint64 costBytes = 0;                                       ///< its resident size then
     int repeats = 0;                                             ///< readings of the totals alone since then
