@@ -3,6 +3,8 @@
 #include "Tools/CleanupScope.h"
 
 #include <cstdint>
+#include <functional>
+#include <iosfwd>
 #include <string_view>
 #include <vector>
 
@@ -14,7 +16,7 @@ namespace Tools {
 struct CleanupListing {
     struct Entry {
         ino_t inode = 0;
-        std::uint64_t bytes = 0; ///< an old file's length, otherwise disk usage with all below it
+        std::uint64_t bytes = 0;   ///< an old file's length, otherwise disk usage with all below it
         std::int64_t modified = 0; ///< seconds since 1970, of the newest below it
         bool isFolder = false;
         bool isInUse = false; ///< a running program has it open, or something below it
@@ -31,9 +33,24 @@ struct CleanupListing {
 
     bool operator==(const CleanupListing&) const = default;
 
-    std::string text() const;
+    void write(std::ostream& into) const;
     /// Returns an empty optional for malformed or incomplete text.
     static std::optional<CleanupListing> parse(std::string_view text);
+};
+
+/// Lists the entries in scope of `folder`, or of the folder at the relative path `inside` in it, which is
+/// listed as if it were all of `folder`. Unreadable entries are left out. Returns an empty optional and sets
+/// errno when the folder inside cannot be opened.
+std::optional<CleanupListing> listEntries(const Folder& folder, const std::string& inside,
+                                          const CleanupScope& scope);
+
+/// Returns the part of a listing that removeEntries would remove now.
+CleanupListing checkEntries(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope);
+
+/// What is gone already.
+struct Removed {
+    std::uint64_t bytes = 0; ///< allocated, of a file with several links when the last one goes
+    std::uint64_t entries = 0;
 };
 
 /// The entries that could not be removed.
@@ -41,13 +58,16 @@ struct Remainder {
     int count = 0;
     std::string first; ///< path of the first one
     int error = 0;     ///< errno of the first one
+    Removed removed;
+    bool isStopped = false;
 };
 
-/// Lists the entries of `folder` in scope. Unreadable ones are left out.
-CleanupListing listEntries(const Folder& folder, const CleanupScope& scope);
-
 /// Removes the listed entries from `folder`, folders with their contents. Keeps an entry that was replaced
-/// since it was listed, and a file that is no longer old. Follows no symlinks and stays on the file system.
-Remainder removeEntries(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope);
+/// since it was listed, a file that is no longer old, what came into a listed folder or changed there after
+/// the listing began, and the folders on the way to what stays. Follows no symlinks and stays on the file
+/// system. `goesOn` is called before each entry, below listed folders too; the removal ends when it returns
+/// false.
+Remainder removeEntries(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope,
+                        const std::function<bool(const Removed&)>& goesOn);
 
 } // namespace Tools

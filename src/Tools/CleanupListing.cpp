@@ -1,65 +1,156 @@
 #include "Tools/Cleanup.h"
 
-#include <charconv>
+#include "Tools/FolderWalk.h"
+#include "Tools/Texts.h"
+
+#include <sys/sysmacros.h>
+
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <deque>
+#include <mutex>
+#include <ostream>
 
 using namespace Tools;
 
 namespace {
 
-std::uint64_t bytesOf(const struct stat& entry) {
-    return S_ISREG(entry.st_mode) ? static_cast<std::uint64_t>(entry.st_size) : 0;
+constexpr std::uint64_t blockBytes = 512; // see stat(2)
+
+struct stat statOf(const struct statx& entry) {
+    struct stat status {};
+    status.st_dev = makedev(entry.stx_dev_major, entry.stx_dev_minor);
+    status.st_ino = entry.stx_ino;
+    status.st_mode = entry.stx_mode;
+    status.st_uid = entry.stx_uid;
+    status.st_size = static_cast<off_t>(entry.stx_size);
+    status.st_mtime = entry.stx_mtime.tv_sec;
+    status.st_ctime = entry.stx_ctime.tv_sec;
+    return status;
 }
 
-std::uint64_t usageOf(const struct stat& entry) {
-    constexpr std::uint64_t unit = 512; // of st_blocks, see stat(2)
-    return static_cast<std::uint64_t>(entry.st_blocks) * unit;
-}
+/// Lists while it walks over a folder.
+class Lister : public FolderTask {
+public:
+    /// `inside`: the relative path of the folder to list, empty for all of the folder.
+    Lister(const CleanupScope& scope, const std::string& inside)
+        : m_scope(scope)
+        , m_inside(inside) {}
 
-/// Adds an entry with all below it on the same file system to `listed`.
-void addBelow(const Folder& parent, const std::string& name, const struct stat& entry, int depth,
-              CleanupListing::Entry& listed) {
-    listed.bytes += usageOf(entry);
-    listed.modified = std::max<std::int64_t>(listed.modified, entry.st_mtime);
-    if (!S_ISDIR(entry.st_mode) || depth >= maxFolderDepth)
-        return;
-    const auto folder = parent.openBelow(name);
-    const auto names = folder ? folder->names() : std::nullopt;
-    for (const std::string& inner : names.value_or(std::vector<std::string>())) {
-        if (const auto found = folder->status(inner))
-            addBelow(*folder, inner, *found, depth + 1, listed);
+    /// Adds what the walk has found.
+    virtual void finish(CleanupListing& listing) = 0;
+
+    std::string pathOfTop() const { return m_inside.empty() ? m_scope.top : m_scope.top + '/' + m_inside; }
+
+protected:
+    bool leavesOut(const FoundEntry& entry, const struct stat& status) const {
+        return (!m_scope.kept.empty() && m_scope.keeps(status)) ||
+               (!m_scope.excludes.isEmpty() &&
+                m_scope.excludes.match(pathOf(pathOfTop(), &entry.parent, entry.name), entry.name));
     }
-}
+    /// Returns the path of an entry relative to the folder of the listing.
+    std::string pathInListing(const FoundEntry& entry) const {
+        return pathOf(m_inside, &entry.parent, entry.name);
+    }
+    bool isUsed(const struct stat& entry) const { return m_scope.used.contains(entry.st_ino); }
 
-void addOldFiles(const Folder& folder, const std::string& path, const CleanupScope& scope, int depth,
-                 CleanupListing& listing) {
-    const auto names = folder.names();
-    if (!names)
-        return;
-    for (const std::string& name : *names) {
-        const auto entry = folder.status(name);
-        if (!entry || scope.keeps(*entry))
-            continue;
-        if (scope.takesOldFile(folder, name, *entry)) {
-            listing.bytes += bytesOf(*entry);
-            listing.entries.push_back({.inode = entry->st_ino,
-                                       .bytes = bytesOf(*entry),
-                                       .modified = entry->st_mtime,
-                                       .path = path + name});
-        } else if (S_ISDIR(entry->st_mode) && depth < maxFolderDepth) {
-            if (const auto inner = folder.openBelow(name))
-                addOldFiles(*inner, path + name + '/', scope, depth + 1, listing);
+    const CleanupScope& m_scope;
+    const std::string& m_inside;
+    std::mutex m_mutex; ///< of what has been listed
+};
+
+class EntryLister : public Lister {
+public:
+    using Lister::Lister;
+
+    FolderShare* find(const FoundEntry& entry) override {
+        const struct stat status = statOf(entry.status);
+        if (leavesOut(entry, status))
+            return nullptr;
+        const bool isAtTop = !entry.parent.parent;
+        Share* const share = isAtTop ? add(entry) : static_cast<Share*>(entry.parent.share);
+        if (isUsed(status))
+            share->isInUse = true;
+        return share;
+    }
+
+    void finish(CleanupListing& listing) override {
+        listing.bytes += m_unlisted.blocks * blockBytes;
+        for (; !m_shares.empty(); m_shares.pop_front()) {
+            Share& share = m_shares.front();
+            share.entry.bytes = share.blocks * blockBytes;
+            share.entry.modified = share.modified;
+            share.entry.isInUse = share.isInUse;
+            listing.bytes += share.entry.bytes;
+            listing.entries.push_back(std::move(share.entry));
         }
     }
-}
 
-/// Takes a number and the character `end` off the front.
-template <typename T> bool takeNumber(std::string_view& text, T& number, char end) {
-    const auto [rest, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (failure != std::errc() || rest == text.data() + text.size() || *rest != end)
-        return false;
-    text.remove_prefix(static_cast<std::size_t>(rest - text.data()) + 1);
-    return true;
+private:
+    struct Share : FolderShare {
+        CleanupListing::Entry entry;
+        std::atomic<bool> isInUse = false;
+    };
+
+    Share* add(const FoundEntry& found) {
+        const bool isListed = !m_inside.empty() || !std::string_view(found.name).starts_with("..");
+        if (!isListed)
+            return &m_unlisted;
+        const std::lock_guard lock(m_mutex);
+        Share& share = m_shares.emplace_back();
+        share.modified = found.status.stx_mtime.tv_sec;
+        share.entry.inode = found.status.stx_ino;
+        share.entry.isFolder = S_ISDIR(found.status.stx_mode);
+        share.entry.path = pathInListing(found);
+        return &share;
+    }
+
+    std::deque<Share> m_shares;
+    Share m_unlisted;
+};
+
+class OldFileLister : public Lister {
+public:
+    using Lister::Lister;
+
+    FolderShare* find(const FoundEntry& entry) override {
+        const struct stat status = statOf(entry.status);
+        if (leavesOut(entry, status))
+            return nullptr;
+        if (m_scope.takesOldFile(entry.folder, entry.name, status)) {
+            CleanupListing::Entry listed{.inode = status.st_ino,
+                                         .bytes = static_cast<std::uint64_t>(status.st_size),
+                                         .modified = status.st_mtime,
+                                         .isInUse = isUsed(status),
+                                         .path = pathInListing(entry)};
+            const std::lock_guard lock(m_mutex);
+            m_files.push_back(std::move(listed));
+        }
+        return &m_all;
+    }
+
+    void finish(CleanupListing& listing) override {
+        std::ranges::sort(m_files, {}, &CleanupListing::Entry::path); // folder by folder
+        for (const CleanupListing::Entry& file : m_files)
+            listing.bytes += file.bytes;
+        listing.entries = std::move(m_files);
+    }
+
+private:
+    std::vector<CleanupListing::Entry> m_files;
+    FolderShare m_all;
+};
+
+void list(const Folder& folder, Lister& lister, const CleanupScope& scope, CleanupListing& listing) {
+    const auto own = folder.status(".");
+    if (!own || scope.keeps(*own))
+        return;
+    if (!scope.olderThanDays)
+        listing.bytes += static_cast<std::uint64_t>(own->st_blocks) * blockBytes;
+    FolderShare top;
+    walkFolder(lister.pathOfTop(), folder.descriptor(), &top, lister);
+    lister.finish(listing);
 }
 
 std::string marksOf(const CleanupListing::Entry& entry) {
@@ -85,37 +176,26 @@ std::int64_t nanosecondsNow() {
 
 } // namespace
 
-CleanupListing Tools::listEntries(const Folder& folder, const CleanupScope& scope) {
+std::optional<CleanupListing> Tools::listEntries(const Folder& folder, const std::string& inside,
+                                                 const CleanupScope& scope) {
     CleanupListing listing{.device = folder.device(), .inode = folder.inode(), .listed = nanosecondsNow()};
-    if (scope.olderThanDays) {
-        addOldFiles(folder, {}, scope, 0, listing);
+    auto inner = inside.empty() ? std::nullopt : folder.openBelow(inside);
+    if (!inside.empty() && !inner)
+        return std::nullopt;
+    if (scope.excludesWayTo(inside))
         return listing;
-    }
-    const auto names = folder.names();
-    for (const std::string& name : names.value_or(std::vector<std::string>())) {
-        const auto entry = folder.status(name);
-        if (!entry || name.starts_with("..") || scope.keeps(*entry))
-            continue;
-        CleanupListing::Entry listed{
-            .inode = entry->st_ino, .isFolder = S_ISDIR(entry->st_mode), .path = name};
-        addBelow(folder, name, *entry, 0, listed);
-        listing.bytes += listed.bytes;
-        listing.entries.push_back(std::move(listed));
-    }
-    if (const auto own = folder.status("."))
-        listing.bytes += usageOf(*own);
+    EntryLister entries(scope, inside);
+    OldFileLister oldFiles(scope, inside);
+    Lister& lister = scope.olderThanDays ? static_cast<Lister&>(oldFiles) : entries;
+    list(inner ? *inner : folder, lister, scope, listing);
     return listing;
 }
 
-std::string CleanupListing::text() const {
-    std::string text = std::to_string(device) + ':' + std::to_string(inode) + ' ' + std::to_string(bytes) +
-                       ' ' + std::to_string(listed) + '\0';
-    for (const Entry& entry : entries) {
-        text += std::to_string(entry.inode) + ' ' + std::to_string(entry.bytes) + ' ' +
-                std::to_string(entry.modified) + ' ' + marksOf(entry) + ' ' + entry.path;
-        text += '\0';
-    }
-    return text;
+void CleanupListing::write(std::ostream& into) const {
+    into << device << ':' << inode << ' ' << bytes << ' ' << listed << '\0';
+    for (const Entry& entry : entries)
+        into << entry.inode << ' ' << entry.bytes << ' ' << entry.modified << ' ' << marksOf(entry) << ' '
+             << entry.path << '\0';
 }
 
 std::optional<CleanupListing> CleanupListing::parse(std::string_view text) {

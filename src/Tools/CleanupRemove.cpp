@@ -1,123 +1,280 @@
 #include "Tools/Cleanup.h"
 
+#include "Tools/LinkedFiles.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
+#include <limits>
 
 using namespace Tools;
 
 namespace {
 
-constexpr int rounds = 3; // for a folder that others write to meanwhile
+constexpr std::size_t maxOpenFolders = 128;
+constexpr std::size_t maxLinkedFiles = 3 << 20; // in 32 MiB
+constexpr std::int64_t nanosecondsASecond = 1'000'000'000;
 
-/// By ascending severity.
-enum class Outcome { gone, kept, left };
-
-class Remover {
+/// Finds listed entries again.
+class Locator {
 public:
-    Remover(const Folder& root, const CleanupScope& scope)
+    struct Found {
+        const Folder& parent;
+        std::string name;
+        struct stat status;
+    };
+
+    Locator(const Folder& root, const CleanupScope& scope)
         : m_root(root)
         , m_scope(scope) {}
 
-    Outcome remove(const CleanupListing::Entry& listed) {
+    /// Returns an empty optional when it is not to be removed. errno is 0 then if it stays, else as of
+    /// openat(2) and stat(2).
+    std::optional<Found> find(const CleanupListing::Entry& listed) {
         const std::size_t slash = listed.path.rfind('/');
-        const std::string name = slash == std::string::npos ? listed.path : listed.path.substr(slash + 1);
-        const Folder* parent = slash == std::string::npos ? &m_root : parentAt(listed.path.substr(0, slash));
-        if (!parent)
-            return errno == ENOTDIR ? Outcome::gone : goneOrLeft();
-        const auto entry = parent->status(name);
-        if (!entry)
-            return goneOrLeft();
-        if (entry->st_ino != listed.inode)
-            return Outcome::kept;
-        if (m_scope.olderThanDays && !m_scope.takesOldFile(*parent, name, *entry))
-            return Outcome::kept;
-        return removeEntry(*parent, name, *entry, 0);
+        std::string name = slash == std::string::npos ? listed.path : listed.path.substr(slash + 1);
+        const bool isAtTop = slash == std::string::npos;
+        const Folder* parent = isAtTop ? &m_root : parentAt(listed.path.substr(0, slash));
+        const auto status = parent ? parent->status(name) : std::nullopt;
+        if (!status)
+            return std::nullopt;
+        const bool isSame = status->st_ino == listed.inode && !m_scope.keeps(*status);
+        const bool isInScope =
+            !m_scope.olderThanDays || m_scope.takesOldFile(parent->descriptor(), name.c_str(), *status);
+        errno = 0;
+        if (!isSame || !isInScope || (!isAtTop && m_isKept) || m_scope.excludesWayTo(listed.path))
+            return std::nullopt;
+        return Found{*parent, std::move(name), *status};
     }
-
-    /// Returns the errno of the first removal that failed.
-    int firstError() const { return m_firstError; }
 
 private:
-    /// Maps the errno of a failed system call.
-    Outcome goneOrLeft() {
-        if (errno == ENOENT)
-            return Outcome::gone;
-        if (m_firstError == 0)
-            m_firstError = errno;
-        return Outcome::left;
-    }
-
     /// Opens the folder, or reuses the last one: entries come folder by folder.
     const Folder* parentAt(const std::string& path) {
         if (!m_parent || path != m_parentPath) {
+            m_isKept = keepsWayTo(path);
             m_parent = m_root.openBelow(path);
             m_parentPath = path;
         }
         return m_parent ? &*m_parent : nullptr;
     }
 
-    Outcome removeEntry(const Folder& parent, const std::string& name, const struct stat& entry, int depth) {
-        if (m_scope.keeps(entry))
-            return Outcome::kept;
-        if (S_ISDIR(entry.st_mode))
-            return removeFolder(parent, name, depth);
-        return unlinkat(parent.descriptor(), name.c_str(), 0) == 0 ? Outcome::gone : goneOrLeft();
-    }
-
-    Outcome removeFolder(const Folder& parent, const std::string& name, int depth) {
-        Outcome outcome = Outcome::gone;
-        for (int round = 0; round < rounds; ++round) {
-            if (unlinkat(parent.descriptor(), name.c_str(), AT_REMOVEDIR) == 0)
-                return Outcome::gone;
-            if (errno != ENOTEMPTY && errno != EEXIST)
-                return goneOrLeft();
-            errno = ELOOP; // for a folder that is nested too deep
-            const auto folder = depth < maxFolderDepth ? parent.openBelow(name) : std::nullopt;
-            if (!folder)
-                return goneOrLeft();
-            outcome = removeContent(*folder, depth + 1);
-            if (outcome != Outcome::gone)
-                return outcome;
+    bool keepsWayTo(const std::string& path) const {
+        for (std::size_t end = path.find('/');; end = path.find('/', end + 1)) {
+            const auto status = m_root.status(path.substr(0, end));
+            if (status && m_scope.keeps(*status))
+                return true;
+            if (end == std::string::npos)
+                return false;
         }
-        return unlinkat(parent.descriptor(), name.c_str(), AT_REMOVEDIR) == 0 ? Outcome::gone : goneOrLeft();
-    }
-
-    Outcome removeContent(const Folder& folder, int depth) {
-        const auto names = folder.names();
-        if (!names)
-            return goneOrLeft();
-        Outcome worst = Outcome::gone;
-        for (const std::string& name : *names) {
-            const auto entry = folder.status(name);
-            if (entry)
-                worst = std::max(worst, removeEntry(folder, name, *entry, depth));
-        }
-        return worst;
     }
 
     const Folder& m_root;
     const CleanupScope& m_scope;
-    std::optional<Folder> m_parent;
+    std::optional<Folder> m_parent; ///< of the last entry, if it is below a folder
     std::string m_parentPath;
+    bool m_isKept = false; ///< with all in it
+};
+
+/// By ascending severity.
+enum class Outcome { gone, kept, left };
+
+bool isGone(int error) {
+    return error == ENOENT || error == ENOTDIR;
+}
+
+class Remover {
+public:
+    /// `listed`: nanoseconds since 1970.
+    Remover(const CleanupScope& scope, std::int64_t listed, const std::function<bool(const Removed&)>& goesOn)
+        : m_scope(scope)
+        , m_newest(isPast(listed) ? listed : std::numeric_limits<std::int64_t>::max())
+        , m_goesOn(goesOn) {}
+
+    /// `path` is relative to the folder of the listing.
+    Outcome remove(const Locator::Found& found, const std::string& path) {
+        m_path = m_scope.top + '/' + path;
+        const Outcome outcome = removeEntry(found.parent, found.name, found.status, false);
+        if (m_levels.empty())
+            return outcome;
+        return removeLevels(found.parent);
+    }
+    Outcome failed(int error) {
+        if (isGone(error))
+            return Outcome::gone;
+        if (m_firstError == 0)
+            m_firstError = error;
+        return Outcome::left;
+    }
+
+    bool isStopped() const { return m_isStopped; }
+    const Removed& removed() const { return m_removed; }
+    /// Returns the errno of the first removal that failed.
+    int firstError() const { return m_firstError; }
+
+private:
+    /// A folder that is being emptied, in the one before it.
+    struct Level {
+        dev_t device;
+        ino_t inode;
+        std::optional<Folder> folder; ///< closed meanwhile where the tree is deep
+        std::string name;
+        std::uint64_t bytes;
+        std::vector<std::string> names; ///< still to be removed
+        Outcome worst = Outcome::gone;
+    };
+
+    static bool isPast(std::int64_t time) {
+        using namespace std::chrono;
+        return time > 0 && time <= duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+    }
+    static std::uint64_t usage(const struct stat& entry) {
+        constexpr std::uint64_t unit = 512; // of st_blocks, see stat(2)
+        return static_cast<std::uint64_t>(entry.st_blocks) * unit;
+    }
+    bool cameLater(const struct stat& entry) const {
+        return entry.st_ctim.tv_sec * nanosecondsASecond + entry.st_ctim.tv_nsec > m_newest;
+    }
+
+    /// Removes a file, or makes a level of a folder that is not empty.
+    Outcome removeEntry(const Folder& parent, const std::string& name, const struct stat& entry,
+                        bool isBelow) {
+        m_isStopped = m_isStopped || !m_goesOn(m_removed);
+        if (m_isStopped)
+            return Outcome::left;
+        const bool isFolder = S_ISDIR(entry.st_mode);
+        const bool stays = isBelow && cameLater(entry) && !m_unlinked.contains(entry.st_ino);
+        if (m_scope.keeps(entry) || (stays && !isFolder))
+            return Outcome::kept;
+        if (!isFolder)
+            return unlinkFile(parent, name, entry);
+        if (!stays && unlinkat(parent.descriptor(), name.c_str(), AT_REMOVEDIR) == 0)
+            return count(usage(entry));
+        if (!stays && errno != ENOTEMPTY && errno != EEXIST)
+            return failed(errno);
+        return enter(parent, name, entry, stays);
+    }
+
+    Outcome unlinkFile(const Folder& parent, const std::string& name, const struct stat& entry) {
+        if (unlinkat(parent.descriptor(), name.c_str(), 0) != 0)
+            return failed(errno);
+        if (entry.st_nlink > 1)
+            m_unlinked.add(entry.st_ino); // its other links have changed by that
+        return count(entry.st_nlink > 1 ? 0 : usage(entry));
+    }
+
+    Outcome count(std::uint64_t bytes) {
+        m_removed.bytes += bytes;
+        ++m_removed.entries;
+        return Outcome::gone;
+    }
+
+    Outcome enter(const Folder& parent, const std::string& name, const struct stat& entry, bool stays) {
+        auto folder = parent.openBelow(name);
+        auto names = folder ? folder->names() : std::nullopt;
+        if (!names)
+            return failed(errno);
+        m_levels.push_back({folder->device(), folder->inode(), std::move(folder), name, usage(entry),
+                            std::move(*names), stays ? Outcome::kept : Outcome::gone});
+        if (m_levels.size() > maxOpenFolders)
+            m_levels[m_levels.size() - maxOpenFolders - 1].folder.reset();
+        return Outcome::gone; // so far
+    }
+
+    /// Removes what is in the last level until there is none. `top` is the folder of the first.
+    Outcome removeLevels(const Folder& top) {
+        Outcome outcome = Outcome::gone;
+        while (!m_levels.empty()) {
+            Level& level = m_levels.back();
+            if (level.names.empty() || m_isStopped || !level.folder) {
+                outcome = leave(top);
+                if (!m_levels.empty())
+                    m_levels.back().worst = std::max(m_levels.back().worst, outcome);
+                continue;
+            }
+            const std::string name = std::move(level.names.back());
+            level.names.pop_back();
+            const auto entry = level.folder->status(name);
+            if (!entry)
+                continue;
+            const std::size_t end = m_path.size();
+            m_path += '/' + name;
+            const std::size_t depth = m_levels.size();
+            const bool isExcluded = m_scope.excludes.match(m_path, name.c_str());
+            const Outcome one = isExcluded ? Outcome::kept : removeEntry(*level.folder, name, *entry, true);
+            if (m_levels.size() > depth)
+                continue;
+            m_path.resize(end);
+            level.worst = std::max(level.worst, one);
+        }
+        return outcome;
+    }
+
+    /// Leaves the last level and removes its folder if nothing is in it.
+    Outcome leave(const Folder& top) {
+        const Level level = std::move(m_levels.back());
+        m_levels.pop_back();
+        if (!m_levels.empty()) {
+            m_path.resize(m_path.size() - level.name.size() - 1);
+            Level& above = m_levels.back();
+            if (!above.folder && level.folder)
+                above.folder = level.folder->openParent(above.device, above.inode);
+            if (!above.folder)
+                return failed(level.folder ? errno : EXDEV);
+        }
+        if (level.worst != Outcome::gone || m_isStopped)
+            return m_isStopped ? Outcome::left : level.worst;
+        const Folder& parent = m_levels.empty() ? top : *m_levels.back().folder;
+        if (unlinkat(parent.descriptor(), level.name.c_str(), AT_REMOVEDIR) == 0)
+            return count(level.bytes);
+        const bool isFilledAgain = errno == ENOTEMPTY || errno == EEXIST;
+        return isFilledAgain ? Outcome::kept : failed(errno);
+    }
+
+    const CleanupScope& m_scope;
+    const std::int64_t m_newest; ///< status change of what goes below listed folders
+    const std::function<bool(const Removed&)>& m_goesOn;
+    std::vector<Level> m_levels;
+    std::string m_path; ///< of the entry being removed
+    LinkedFiles m_unlinked{maxLinkedFiles};
+    Removed m_removed;
+    bool m_isStopped = false;
     int m_firstError = 0;
 };
 
 } // namespace
 
-Remainder Tools::removeEntries(const Folder& folder, const CleanupListing& listing,
-                               const CleanupScope& scope) {
-    Remover remover(folder, scope);
+CleanupListing Tools::checkEntries(const Folder& folder, const CleanupListing& listing,
+                                   const CleanupScope& scope) {
+    Locator locator(folder, scope);
+    CleanupListing checked = listing;
+    std::erase_if(checked.entries, [&](const CleanupListing::Entry& entry) { return !locator.find(entry); });
+    return checked;
+}
+
+Remainder Tools::removeEntries(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope,
+                               const std::function<bool(const Removed&)>& goesOn) {
+    Locator locator(folder, scope);
+    Remover remover(scope, listing.listed, goesOn);
     Remainder remainder;
     for (const CleanupListing::Entry& entry : listing.entries) {
-        if (remover.remove(entry) != Outcome::left)
-            continue;
-        if (++remainder.count == 1) {
+        const auto found = locator.find(entry);
+        const int error = errno;
+        Outcome outcome = Outcome::kept;
+        if (found)
+            outcome = remover.remove(*found, entry.path);
+        else if (error != 0)
+            outcome = remover.failed(error);
+        if (remover.isStopped())
+            break;
+        if (outcome == Outcome::left && ++remainder.count == 1) {
             remainder.first = entry.path;
             remainder.error = remover.firstError();
         }
     }
+    remainder.removed = remover.removed();
+    remainder.isStopped = remover.isStopped();
     return remainder;
 }

@@ -12,11 +12,10 @@ namespace {
 constexpr std::time_t secondsADay = 24 * 60 * 60;
 constexpr std::string_view lockEnd = ".lock";
 
-bool isScreenshot(const Folder& folder, const std::string& name) {
-    if (!name.starts_with("Screen"))
+bool isScreenshot(int folder, const char* name) {
+    if (!std::string_view(name).starts_with("Screen"))
         return false;
-    const int file =
-        openat(folder.descriptor(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int file = openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
         return false;
     char head[64];
@@ -26,13 +25,14 @@ bool isScreenshot(const Folder& folder, const std::string& name) {
 }
 
 /// Returns true for the lock of an X server (".X0-lock") or beside a socket ("NAME.lock").
-bool isLock(const Folder& folder, const std::string& name) {
+bool isLock(int folder, const std::string& name) {
     if (name.starts_with(".X") && name.ends_with("-lock"))
         return true;
     if (!name.ends_with(lockEnd))
         return false;
-    const auto guarded = folder.status(name.substr(0, name.size() - lockEnd.size()));
-    return guarded && S_ISSOCK(guarded->st_mode);
+    const std::string guarded = name.substr(0, name.size() - lockEnd.size());
+    struct stat status {};
+    return fstatat(folder, guarded.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISSOCK(status.st_mode);
 }
 
 bool isOwn(const struct stat& entry) {
@@ -46,18 +46,12 @@ bool CleanupScope::isOld(const struct stat& entry) const {
     return std::max(entry.st_mtime, entry.st_ctime) <= youngest;
 }
 
-bool CleanupScope::takesOldFile(const Folder& folder, const std::string& name,
-                                const struct stat& entry) const {
+bool CleanupScope::takesOldFile(int folder, const char* name, const struct stat& entry) const {
     if (!S_ISREG(entry.st_mode) || !isOld(entry) || keeps(entry))
         return false;
-    if (isShared && (!isOwn(entry) || isLock(folder, name)))
+    if (isShared && (!isOwn(entry) || used.contains(entry.st_ino) || isLock(folder, name)))
         return false;
     return !screenshotsOnly || isScreenshot(folder, name);
-}
-
-void CleanupScope::keepOpenFiles() {
-    if (isShared)
-        kept.merge(openFiles("/proc"));
 }
 
 bool Tools::isPicture(std::string_view head) {

@@ -41,6 +41,15 @@ std::optional<Folder> Folder::openBelow(const std::string& path) const {
     return folder;
 }
 
+std::optional<Folder> Folder::openParent(dev_t device, ino_t inode) const {
+    auto folder = openAt(m_descriptor, "..", RESOLVE_NO_XDEV);
+    if (folder && (folder->m_device != device || folder->m_inode != inode)) {
+        errno = EXDEV;
+        return std::nullopt;
+    }
+    return folder;
+}
+
 Folder::Folder(int descriptor)
     : m_descriptor(descriptor) {}
 

@@ -8,9 +8,6 @@
 
 namespace Tools {
 
-/// Bounds the recursion, which takes a descriptor and stack space per level.
-constexpr int maxFolderDepth = 4000;
-
 /// An open folder. Its functions act on that folder even if its path changes. They follow no symlinks and
 /// stay on the file system.
 class Folder {
@@ -19,6 +16,10 @@ public:
     static std::optional<Folder> open(const std::string& path);
     /// Opens a relative path without symlinks and mount points, below this folder. Fails as `open` does.
     std::optional<Folder> openBelow(const std::string& path) const;
+
+    /// Opens the folder that this one is in. Fails as `open` does, with EXDEV if that is not the one with
+    /// these numbers.
+    std::optional<Folder> openParent(dev_t device, ino_t inode) const;
 
     Folder(Folder&& other) noexcept;
     Folder& operator=(Folder&& other) noexcept;

@@ -1,310 +1,39 @@
 #include "Tools/FolderSize.h"
 
-#include "Tools/FolderPieces.h"
-#include "Tools/LinkedFiles.h"
-
-#include <algorithm>
-#include <array>
 #include <cerrno>
-#include <mutex>
-#include <string_view>
-#include <system_error>
-#include <thread>
-#include <utility>
-#include <vector>
 
-#include <dirent.h>
 #include <fcntl.h>
-#include <linux/close_range.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Tools;
 
 namespace {
 
-/// A smaller tree is measured before another thread would have started.
-constexpr std::size_t entriesBeforeHelp = 1000;
-constexpr std::size_t bufferBytes = 64 << 10;
-
-struct Device {
-    unsigned major = 0;
-    unsigned minor = 0;
-
-    explicit Device(const struct statx& entry)
-        : major(entry.stx_dev_major)
-        , minor(entry.stx_dev_minor) {}
-    bool operator==(const Device&) const = default;
-};
-
-bool readStatus(int folder, const char* name, struct statx& status) {
-    return statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
-                 STATX_TYPE | STATX_NLINK | STATX_INO | STATX_BLOCKS, &status) == 0;
-}
-
-/// Whether a folder is a mount point, or may be one where the kernel does not tell.
-bool mayBeMountPoint(const struct statx& folder) {
-    return (folder.stx_attributes_mask & STATX_ATTR_MOUNT_ROOT) == 0 ||
-           (folder.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
-}
-
-bool isAmong(const FoundFolder* folders, ino_t inode) {
-    while (folders && folders->inode != inode)
-        folders = folders->parent.get();
-    return folders != nullptr;
-}
-
-std::string pathOf(const std::string& top, const FoundFolder* folder, const char* name) {
-    std::vector<std::string_view> names;
-    if (name)
-        names.emplace_back(name);
-    for (; folder && folder->parent; folder = folder->parent.get())
-        names.emplace_back(folder->name);
-    std::string path = top;
-    for (; !names.empty(); names.pop_back()) {
-        if (path.back() != '/')
-            path += '/';
-        path += names.back();
-    }
-    return path;
-}
-
-struct Linked {
-    ino_t inode;
-    std::uint64_t blocks;
-    unsigned links;
-};
-
-/// What the threads that measure one folder have in common.
-class Walk {
+/// Adds up all that a walk finds.
+class Measurement : public FolderTask {
 public:
-    Walk(const std::string& top, int descriptor, Device device, std::function<void(UnreadEntry)> tell,
-         const FolderSizeLimits& limits);
+    explicit Measurement(std::function<void(UnreadEntry)> tell)
+        : m_tell(std::move(tell)) {}
 
-    FolderSize run(FolderPointer folder);
+    FolderShare* find(const FoundEntry& /*entry*/) override { return &m_all; }
+    void miss(const UnreadEntry& entry) override { m_tell(entry); }
 
-    int top() const { return m_descriptor; }
-    Device device() const { return m_device; }
-    FolderPieces& pieces() { return m_pieces; }
-
-    /// Starts the other threads, once.
-    void getHelp();
-    void addUnread(const FoundFolder& folder, const char* name, int error);
-    void addLinked(const std::vector<Linked>& files);
-    void addBlocks(std::uint64_t blocks);
+    FolderShare& all() { return m_all; }
 
 private:
-    void help();
-
-    const std::string& m_topPath;
-    const int m_descriptor;
-    const Device m_device;
-    const std::function<void(UnreadEntry)> m_tell;
-    const unsigned m_threads;
-    std::size_t m_openFolders;
-    FolderPieces m_pieces;
-    std::mutex m_mutex; ///< of the two below
-    FolderSize m_size;
-    LinkedFiles m_linked;
-    std::once_flag m_hasHelp;
-    std::vector<std::jthread> m_helpers;
+    std::function<void(UnreadEntry)> m_tell;
+    FolderShare m_all;
 };
-
-/// One thread of a walk.
-class Walker {
-public:
-    Walker(Walk& walk, std::size_t openFolders)
-        : m_walk(walk)
-        , m_trail(walk.top(), openFolders) {}
-
-    void run(std::vector<FolderPiece> pieces);
-
-private:
-    struct Read {
-        std::size_t bytes = 0;
-        bool isAtEnd = false;
-    };
-
-    void readPiece(const FolderPiece& piece);
-    Read fillBuffer(const FoundFolder& folder, int descriptor);
-    void countEntries(const FolderPointer& folder, int descriptor, std::size_t bytes);
-    void count(const FolderPointer& parent, int descriptor, const char* name);
-    void countFolder(const FolderPointer& parent, const char* name, const struct statx& status);
-
-    Walk& m_walk;
-    FolderTrail m_trail;
-    std::vector<FolderPiece> m_pieces; ///< the last is next
-    std::vector<Linked> m_linked;
-    std::uint64_t m_blocks = 0;
-    std::size_t m_entries = 0;
-    alignas(dirent64) std::array<char, bufferBytes> m_buffer;
-};
-
-void Walker::run(std::vector<FolderPiece> pieces) {
-    m_pieces = std::move(pieces);
-    m_walk.pieces().join();
-    for (;;) {
-        if (m_pieces.empty()) {
-            auto piece = m_walk.pieces().take();
-            if (!piece)
-                break;
-            m_pieces.push_back(std::move(*piece));
-        }
-        const FolderPiece piece = std::move(m_pieces.back());
-        m_pieces.pop_back();
-        readPiece(piece);
-    }
-    m_walk.addBlocks(m_blocks);
-}
-
-void Walker::readPiece(const FolderPiece& piece) {
-    const int descriptor = m_trail.enter(piece.folder, piece.offset);
-    if (descriptor < 0)
-        return m_walk.addUnread(*piece.folder, nullptr, errno);
-    const Read read = fillBuffer(*piece.folder, descriptor);
-    if (!read.isAtEnd)
-        m_pieces.push_back({piece.folder, m_trail.position()});
-    if (!m_pieces.empty() && m_walk.pieces().isWanted())
-        m_walk.pieces().passOn(m_pieces);
-    countEntries(piece.folder, descriptor, read.bytes);
-    if (!m_linked.empty())
-        m_walk.addLinked(m_linked);
-    m_linked.clear();
-    if (m_entries > entriesBeforeHelp)
-        m_walk.getHelp();
-}
-
-/// Reads on until the buffer has no room for another entry or the folder ends.
-Walker::Read Walker::fillBuffer(const FoundFolder& folder, int descriptor) {
-    Read read;
-    while (m_buffer.size() - read.bytes >= sizeof(dirent64)) {
-        char* const start = m_buffer.data() + read.bytes;
-        const ssize_t got = getdents64(descriptor, start, m_buffer.size() - read.bytes);
-        if (got < 0 && errno != ENOENT) // it was removed meanwhile
-            m_walk.addUnread(folder, nullptr, errno);
-        if (got <= 0) {
-            read.isAtEnd = true;
-            break;
-        }
-        read.bytes += static_cast<std::size_t>(got);
-    }
-    return read;
-}
-
-void Walker::countEntries(const FolderPointer& folder, int descriptor, std::size_t bytes) {
-    for (std::size_t at = 0; at < bytes;) {
-        const auto* entry = reinterpret_cast<const dirent64*>(m_buffer.data() + at);
-        at += entry->d_reclen;
-        const std::string_view name = entry->d_name;
-        if (name != "." && name != "..")
-            count(folder, descriptor, entry->d_name);
-    }
-}
-
-void Walker::count(const FolderPointer& parent, int descriptor, const char* name) {
-    struct statx status;
-    ++m_entries;
-    if (!readStatus(descriptor, name, status))
-        return m_walk.addUnread(*parent, name, errno);
-    if (Device(status) != m_walk.device())
-        return;
-    if (S_ISDIR(status.stx_mode))
-        countFolder(parent, name, status);
-    else if (status.stx_nlink > 1)
-        m_linked.push_back({status.stx_ino, status.stx_blocks, status.stx_nlink});
-    else
-        m_blocks += status.stx_blocks;
-}
-
-/// Leaves out a folder that contains itself, which only mount points bring about.
-void Walker::countFolder(const FolderPointer& parent, const char* name, const struct statx& status) {
-    const bool isBelowMount = parent->isBelowMount || mayBeMountPoint(status);
-    if (isBelowMount && isAmong(parent.get(), status.stx_ino))
-        return;
-    m_blocks += status.stx_blocks;
-    m_pieces.push_back({std::make_shared<FoundFolder>(
-        FoundFolder{parent, name, status.stx_ino, parent->depth + 1, isBelowMount})});
-}
-
-Walk::Walk(const std::string& top, int descriptor, Device device, std::function<void(UnreadEntry)> tell,
-           const FolderSizeLimits& limits)
-    : m_topPath(top)
-    , m_descriptor(descriptor)
-    , m_device(device)
-    , m_tell(std::move(tell))
-    , m_threads(limits.threads)
-    , m_openFolders(limits.openFolders)
-    , m_linked(limits.linkedFiles) {
-    constexpr rlim_t others = 16;
-    rlimit descriptors{};
-    getrlimit(RLIMIT_NOFILE, &descriptors);
-    const rlim_t free = std::max(descriptors.rlim_cur, others) - others;
-    m_openFolders = std::clamp<std::size_t>(free / 2, 1, limits.openFolders);
-}
-
-FolderSize Walk::run(FolderPointer folder) {
-    Walker(*this, m_openFolders).run({{std::move(folder)}});
-    m_helpers.clear(); // waits for them
-    return m_size;
-}
-
-void Walk::getHelp() {
-    std::call_once(m_hasHelp, [this] {
-        try {
-            while (m_helpers.size() + 1 < m_threads)
-                m_helpers.emplace_back([this] { help(); });
-        } catch (const std::system_error&) { // too many threads: it takes longer
-        }
-    });
-}
-
-/// Gives its thread a table of descriptors of its own if it can, which costs the kernel less and has a limit
-/// of its own.
-void Walk::help() {
-    const auto first = static_cast<unsigned>(m_descriptor) + 1;
-    const bool isOwnTable = close_range(first, ~0U, CLOSE_RANGE_UNSHARE) == 0;
-    const std::size_t openFolders = isOwnTable ? m_openFolders : m_openFolders / m_threads;
-    Walker(*this, std::max<std::size_t>(openFolders, 1)).run({});
-}
-
-void Walk::addUnread(const FoundFolder& folder, const char* name, int error) {
-    const std::lock_guard lock(m_mutex);
-    ++m_size.unread;
-    m_tell({pathOf(m_topPath, &folder, name), error, name == nullptr});
-}
-
-void Walk::addLinked(const std::vector<Linked>& files) {
-    const std::lock_guard lock(m_mutex);
-    for (const Linked& file : files) {
-        switch (m_linked.add(file.inode)) {
-        case LinkedFiles::Seen::first:
-            m_size.blocks += file.blocks;
-            break;
-        case LinkedFiles::Seen::again:
-            break;
-        case LinkedFiles::Seen::unknown:
-            m_size.blocks += (file.blocks + file.links / 2) / file.links;
-            m_size.isEstimate = true;
-            break;
-        }
-    }
-}
-
-void Walk::addBlocks(std::uint64_t blocks) {
-    const std::lock_guard lock(m_mutex);
-    m_size.blocks += blocks;
-}
 
 } // namespace
 
 std::optional<FolderSize> Tools::measureFolder(const std::string& path, std::function<void(UnreadEntry)> tell,
-                                               const FolderSizeLimits& limits) {
-    struct statx status;
-    if (!readStatus(AT_FDCWD, path.c_str(), status))
+                                               const FolderWalkLimits& limits) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0)
         return std::nullopt;
-    FolderSize size{.blocks = status.stx_blocks};
-    if (!S_ISDIR(status.stx_mode))
+    FolderSize size{.blocks = static_cast<std::uint64_t>(status.st_blocks)};
+    if (!S_ISDIR(status.st_mode))
         return size;
     const int top = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC);
     if (top < 0) {
@@ -312,9 +41,8 @@ std::optional<FolderSize> Tools::measureFolder(const std::string& path, std::fun
         size.unread = 1;
         return size;
     }
-    const auto folder =
-        std::make_shared<FoundFolder>(FoundFolder{.parent = nullptr, .name = path, .inode = status.stx_ino});
-    const FolderSize below = Walk(path, top, Device(status), tell, limits).run(folder);
+    Measurement measurement(std::move(tell));
+    const FolderWalkResult walk = walkFolder(path, top, &measurement.all(), measurement, limits);
     close(top);
-    return FolderSize{size.blocks + below.blocks, below.unread, below.isEstimate};
+    return FolderSize{size.blocks + measurement.all().blocks, walk.unread, walk.isEstimate};
 }

@@ -9,13 +9,16 @@
 
 namespace Tools {
 
+struct FolderShare;
+
 /// A folder that a walk has found. It keeps its ancestors.
 struct FoundFolder {
     std::shared_ptr<FoundFolder> parent; ///< empty for the folder where the walk began
     std::string name;                    ///< in its parent
     ino_t inode = 0;
     std::uint32_t depth = 0;
-    bool isBelowMount = false; ///< it is a mount point or below one that the walk came through
+    bool isBelowMount = false;    ///< it is a mount point or below one that the walk came through
+    FolderShare* share = nullptr; ///< to which the walk adds it
 
     /// Releases a long chain of ancestors one by one: recursion would exhaust the stack.
     ~FoundFolder();

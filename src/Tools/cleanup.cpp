@@ -1,8 +1,14 @@
 #include "Tools/Cleanup.h"
+#include "Tools/Background.h"
+#include "Tools/Texts.h"
 
 #include <sys/resource.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
+#include <csignal>
 #include <cstring>
 #include <iostream>
 #include <iterator>
@@ -14,10 +20,13 @@ namespace {
 
 constexpr int usageError = 2;
 
+enum class Verb { list, check, remove, open };
+
 struct Command {
-    bool removes = false;
-    CleanupScope scope;
-    std::string root;
+    Verb verb = Verb::list;
+    CleanupScope scope = {};
+    bool isInside = false;    ///< the relative path of the folder to list comes first on standard input
+    bool isUsedKnown = false; ///< what is used follows
 };
 
 std::optional<long> number(const char* text) {
@@ -36,51 +45,179 @@ void keep(CleanupScope& scope, const char* path) {
         scope.kept.emplace(status.st_dev, status.st_ino);
 }
 
+std::optional<Verb> verbOf(std::string_view text) {
+    const std::pair<std::string_view, Verb> verbs[] = {
+        {"list", Verb::list}, {"check", Verb::check}, {"remove", Verb::remove}, {"open", Verb::open}};
+    for (const auto& [name, verb] : verbs) {
+        if (text == name)
+            return verb;
+    }
+    return std::nullopt;
+}
+
+/// Takes an option without a value.
+bool takeFlag(Command& command, std::string_view option) {
+    CleanupScope& scope = command.scope;
+    const std::pair<std::string_view, bool*> flags[] = {{"--screenshots", &scope.screenshotsOnly},
+                                                        {"--shared", &scope.isShared},
+                                                        {"--in", &command.isInside},
+                                                        {"--used", &command.isUsedKnown}};
+    for (const auto& [name, flag] : flags) {
+        if (option == name)
+            return *flag = true;
+    }
+    return false;
+}
+
+bool takeOption(CleanupScope& scope, std::string_view option, const char* value) {
+    if (option == "--keep") {
+        keep(scope, value);
+    } else if (option == "--exclude") {
+        scope.excludes.add(value);
+        if (*value == '/')
+            keep(scope, value); // by any path
+    } else if (option == "--older-than" && number(value)) {
+        scope.olderThanDays = number(value);
+    } else if (option == "--now" && number(value)) {
+        scope.now = *number(value);
+    } else {
+        return false;
+    }
+    return true;
+}
+
 std::optional<Command> parse(std::span<char*> arguments) {
-    const std::string_view verb = arguments.empty() ? "" : arguments.front();
-    if (arguments.size() < 2 || (verb != "list" && verb != "remove") || *arguments.back() != '/')
+    const auto verb = verbOf(arguments.empty() ? "" : arguments.front());
+    if (!verb)
         return std::nullopt;
-    Command command{.removes = verb == "remove", .scope = {}, .root = arguments.back()};
+    Command command{.verb = *verb};
+    if (command.verb == Verb::open)
+        return arguments.size() == 1 ? std::optional(command) : std::nullopt;
+    if (arguments.size() < 2 || *arguments.back() != '/')
+        return std::nullopt;
+    command.scope.top = arguments.back();
     const std::span<char*> options = arguments.subspan(1, arguments.size() - 2);
     for (std::size_t i = 0; i < options.size(); ++i) {
-        const std::string_view option = options[i];
-        const char* value = i + 1 < options.size() ? options[i + 1] : nullptr;
-        if (option == "--screenshots") {
-            command.scope.screenshotsOnly = true;
-        } else if (option == "--shared") {
-            command.scope.isShared = true;
-        } else if (option == "--keep" && value) {
-            keep(command.scope, value);
-            ++i;
-        } else if (option == "--older-than" && value && number(value)) {
-            command.scope.olderThanDays = number(value);
-            ++i;
-        } else if (option == "--now" && value && number(value)) {
-            command.scope.now = *number(value);
-            ++i;
-        } else {
+        if (takeFlag(command, options[i]))
+            continue;
+        if (i + 1 == options.size() || !takeOption(command.scope, options[i], options[i + 1]))
             return std::nullopt;
-        }
+        ++i;
     }
     return command;
 }
 
-int removeListed(const Folder& folder, const CleanupScope& scope) {
-    const std::string text{std::istreambuf_iterator<char>(std::cin), {}};
-    const auto listing = CleanupListing::parse(text);
-    if (!listing) {
-        std::cerr << "no listing on standard input\n";
-        return usageError;
+std::string readInput() {
+    return {std::istreambuf_iterator<char>(std::cin), {}};
+}
+
+/// Returns whether it names a folder by names only.
+bool isPlainPath(std::string_view path) {
+    while (!path.empty()) {
+        const std::string_view name = path.substr(0, path.find('/'));
+        if (name.empty() || name == "." || name == "..")
+            return false;
+        if (name.size() == path.size())
+            return true;
+        path.remove_prefix(name.size() + 1);
     }
-    if (listing->device != folder.device() || listing->inode != folder.inode()) {
-        std::cerr << "this is not the folder that was listed\n";
-        return 1;
+    return false;
+}
+
+int complain(const std::string& what, int status) {
+    std::cerr << printable(what) << '\n';
+    return status;
+}
+
+void use(CleanupScope& scope, dev_t device, const std::set<FileIdentity>& files) {
+    for (const auto& [itsDevice, inode] : files) {
+        if (itsDevice == device)
+            scope.used.insert(inode);
     }
-    const Remainder left = removeEntries(folder, *listing, scope);
+}
+
+int list(const Folder& folder, Command& command) {
+    std::string input = command.isInside || command.isUsedKnown ? readInput() : std::string();
+    std::string inside;
+    if (command.isInside) {
+        inside = input.substr(0, input.find('\0'));
+        input.erase(0, inside.size() + 1);
+        if (!isPlainPath(inside))
+            return complain("no relative path on standard input", usageError);
+    }
+    const auto used = command.isUsedKnown ? parseFiles(input) : openFiles("/proc");
+    if (!used)
+        return complain("no list of files on standard input", usageError);
+    use(command.scope, folder.device(), *used);
+    const auto listing = listEntries(folder, inside, command.scope);
+    if (!listing)
+        return complain(std::strerror(errno), 1);
+    listing->write(std::cout);
+    std::cout.flush();
+    return std::cout ? 0 : 1;
+}
+
+volatile std::sig_atomic_t isStopped = 0;
+
+void stop(int /*signal*/) {
+    isStopped = 1;
+}
+
+/// Prints "BYTES ENTRIES" of what is gone, ten times a second at most.
+class ProgressLines {
+public:
+    bool operator()(const Removed& removed) {
+        const auto now = std::chrono::steady_clock::now();
+        if (removed.entries > m_printed && now >= m_next) {
+            print(removed);
+            m_next = now + std::chrono::milliseconds(100);
+        }
+        return isStopped == 0;
+    }
+    void print(const Removed& removed) {
+        m_printed = removed.entries;
+        std::cout << removed.bytes << ' ' << removed.entries << std::endl;
+    }
+
+private:
+    std::uint64_t m_printed = 0;
+    std::chrono::steady_clock::time_point m_next;
+};
+
+std::uint64_t freeBytes(const Folder& folder) {
+    struct statvfs volume {};
+    return fstatvfs(folder.descriptor(), &volume) == 0 ? volume.f_bavail * volume.f_frsize : 0;
+}
+
+int remove(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope) {
+    std::signal(SIGTERM, stop);
+    const std::uint64_t before = freeBytes(folder);
+    ProgressLines lines;
+    const Remainder left = removeEntries(folder, listing, scope, std::ref(lines));
+    lines.print(left.removed);
+    std::cout << "volume " << before << ' ' << freeBytes(folder) << std::endl;
+    if (left.isStopped)
+        return complain("it was stopped", 1);
     if (left.count > 0)
-        std::cerr << left.count << " entries are left, " << left.first
-                  << " for one: " << std::strerror(left.error) << '\n';
-    return left.count == 0 ? 0 : 1;
+        return complain(std::to_string(left.count) + " entries are left, " + left.first +
+                            " for one: " + std::strerror(left.error),
+                        1);
+    return 0;
+}
+
+int workOnListing(const Folder& folder, Command& command) {
+    const auto listing = CleanupListing::parse(readInput());
+    if (!listing)
+        return complain("no listing on standard input", usageError);
+    if (listing->device != folder.device() || listing->inode != folder.inode())
+        return complain("this is not the folder that was listed", 1);
+    if (command.scope.isShared)
+        use(command.scope, folder.device(), openFiles("/proc"));
+    if (command.verb == Verb::remove)
+        return remove(folder, *listing, command.scope);
+    checkEntries(folder, *listing, command.scope).write(std::cout);
+    std::cout.flush();
+    return std::cout ? 0 : 1;
 }
 
 void raiseDescriptorLimit() {
@@ -92,27 +229,40 @@ void raiseDescriptorLimit() {
 
 } // namespace
 
-/// Lists and removes the contents of a folder: `cleanup list [OPTION...] FOLDER` prints a listing (see
-/// CleanupListing), `cleanup remove [OPTION...] FOLDER` reads one from standard input and removes what it
-/// lists. Errors are about FOLDER. Status 1 when the folder is a symlink, cannot be opened, is not the listed
-/// one, or something is left; 2 for other arguments.
+/// Lists and removes the contents of a folder:
+///
+/// * `cleanup list [OPTION...] FOLDER` prints a listing (see CleanupListing). With `--in` it is of the folder
+/// in
+///   FOLDER whose relative path is on standard input, up to a NUL or the end. With `--used` the output of
+///   `cleanup open` comes on standard input, behind that path; otherwise it looks for used files itself.
+/// * `cleanup check [OPTION...] FOLDER` reads a listing from standard input and prints what of it would go.
+/// * `cleanup remove [OPTION...] FOLDER` reads a listing and removes what it lists. It prints lines of
+///   "BYTES ENTRIES", what is gone so far, and at the end "volume BEFORE AFTER", the free bytes of the file
+///   system. SIGTERM ends it between two entries.
+/// * `cleanup open` prints what running programs use (see openFiles).
+///
+/// Errors are about FOLDER. Status 1 when the folder is a symlink, cannot be opened, is not the listed one,
+/// or something is left; 2 for other arguments.
 int main(int argc, char** argv) {
     std::optional<Command> command = parse({argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0)});
     if (!command) {
-        std::cerr << "usage: cleanup list|remove [--older-than DAYS --now SECONDS] [--screenshots] [--shared]"
-                     " [--keep PATH]... /FOLDER\n";
+        std::cerr << "usage: cleanup list|check|remove [--older-than DAYS --now SECONDS] [--screenshots]"
+                     " [--shared] [--keep PATH]... [--exclude PATTERN]... [--in] [--used] /FOLDER\n"
+                     "       cleanup open\n";
         return usageError;
     }
-    raiseDescriptorLimit();
-    const auto folder = Folder::open(command->root);
-    if (!folder) {
-        const bool isGone = errno == ENOENT;
-        std::cerr << std::strerror(errno) << '\n';
-        return command->removes && isGone ? 0 : 1;
+    std::ios::sync_with_stdio(false);
+    if (command->verb != Verb::remove)
+        yieldTheDisk();
+    if (command->verb == Verb::open) {
+        std::cout << textOf(openFiles("/proc")) << std::flush;
+        return std::cout ? 0 : 1;
     }
-    command->scope.keepOpenFiles();
-    if (command->removes)
-        return removeListed(*folder, command->scope);
-    std::cout << listEntries(*folder, command->scope).text() << std::flush;
-    return std::cout ? 0 : 1;
+    raiseDescriptorLimit();
+    const auto folder = Folder::open(command->scope.top);
+    if (!folder) {
+        const bool isDone = command->verb == Verb::remove && errno == ENOENT;
+        return complain(std::strerror(errno), isDone ? 0 : 1);
+    }
+    return command->verb == Verb::list ? list(*folder, *command) : workOnListing(*folder, *command);
 }

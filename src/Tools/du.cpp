@@ -1,4 +1,6 @@
+#include "Tools/Background.h"
 #include "Tools/FolderSize.h"
+#include "Tools/Texts.h"
 
 #include <cerrno>
 #include <cstring>
@@ -11,15 +13,6 @@ namespace {
 
 constexpr int usageError = 2;
 constexpr std::uint64_t maxMessages = 20;
-
-/// Keeps a name on one line of a terminal.
-std::string printable(std::string text) {
-    for (char& c : text) {
-        if (static_cast<unsigned char>(c) < ' ' || c == '\x7f')
-            c = '?';
-    }
-    return text;
-}
 
 void complain(const UnreadEntry& entry) {
     std::cerr << "du: cannot " << (entry.isFolder ? "read folder " : "access ") << printable(entry.path)
@@ -44,6 +37,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: du -sk -x PATH\n";
         return usageError;
     }
+    yieldTheDisk();
     const std::string path = withoutSurplusSlashes(argv[3]);
     std::uint64_t messages = 0;
     const auto size = measureFolder(path, [&messages](const UnreadEntry& entry) {

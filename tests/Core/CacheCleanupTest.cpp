@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A model whose tools are scripted: `du` finds 2 MiB in the npm folder and 1 MiB in the logs.
+/// A model whose tools are scripted: 2 MiB are in the npm folder and 1 MiB in the logs.
 struct CacheCleanupTest : ReliefTest {
     QString npm = home.makeFolder(u".npm"_s);
     QString logs = home.makeFolder(u"Library/Logs"_s);
@@ -30,8 +30,9 @@ struct CacheCleanupTest : ReliefTest {
                 return ScriptedTools::exited(0, path == npm ? "2048 x" : path == logs ? "1024 x" : "0 x");
             }
             const bool removes = request.arguments.first() == u"remove";
-            return ScriptedTools::exited(removes && request.arguments.last() == failing ? 1 : 0,
-                                         listingOf({}));
+            const QString path = request.arguments.last();
+            const quint64 bytes = path == npm ? 2 << 20 : path == logs ? 1 << 20 : 0;
+            return ScriptedTools::exited(removes && path == failing ? 1 : 0, listingOf({{"all", bytes}}));
         };
     }
     CacheTarget target(const QString& name) const {
@@ -42,8 +43,8 @@ struct CacheCleanupTest : ReliefTest {
         return {};
     }
     void releaseAll() {
-        for (const ToolRequest& request : QList<ToolRequest>(tools->requests))
-            tools->release(request.arguments.last());
+        for (qsizetype i = 0; i < tools->requests.size(); ++i)
+            tools->release(tools->requests[i].arguments.last());
     }
 };
 
@@ -73,12 +74,12 @@ TEST_F(CacheCleanupTest, PublishesTheProgress) {
     QCoro::waitFor(cleanup.rescan());
     tools->suspended = true;
     auto scan = cleanup.rescan();
-    ASSERT_TRUE(cleanup.isScanning());
+    ASSERT_TRUE(cleanup.isScanning() && tools->release(u"open"_s));
     EXPECT_EQ(cleanup.scanProgress()->total, cleanup.targets().size());
     EXPECT_EQ(cleanup.scanProgress()->done, cleanup.targets().size() - 3) << "three wait for a tool";
     EXPECT_EQ(cleanup.scanProgress()->target, u"npm / pnpm / yarn"_s);
     const auto before = cleanup.targets();
-    EXPECT_TRUE(tools->release(logs) && tools->release(logs));
+    EXPECT_TRUE(tools->release(logs));
     EXPECT_EQ(cleanup.targets(), before) << "results land only together";
 
     auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());

@@ -15,7 +15,7 @@ using Measure = CleanupRule::Measure;
 
 class CacheScannerTest : public testing::Test {
 protected:
-    static constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
+    const CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
 
     CacheTarget scanned(const CacheTarget& target) {
         CacheScanner scanner(platform);
@@ -70,10 +70,10 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
     EXPECT_EQ(target.notes, QStringList(u"The tool calls 762.9 MB of it reclaimable."_s));
     EXPECT_EQ(target.volumes, QStringList({u"data"_s, u"b4f2"_s}));
     EXPECT_EQ(target.lastScanned, fakes.clock->wall);
-    EXPECT_EQ(tools->commandLines().first(),
+    EXPECT_EQ(tools->commandLines().value(1),
               u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
               "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s);
-    for (const ToolRequest& request : tools->requests)
+    for (const ToolRequest& request : tools->requests.mid(1))
         EXPECT_EQ(request.timeout, std::chrono::minutes(2));
 
     answerEverythingWith({});
@@ -116,13 +116,32 @@ TEST_F(CacheScannerTest, SaysWhyAFolderIsLeftAlone) {
     }
 }
 
-TEST_F(CacheScannerTest, LeavesTheActionLogOutOfTheSize) {
+TEST_F(CacheScannerTest, MeasuresAFolderThatCannotBeListedWithoutTheActionLog) {
     const QString logs = home.makeFolder(u"Library/Logs"_s);
     const QString record = home.makeFolder(u"Library/Logs/Tavrin"_s);
     tools->answer = [=](const ToolRequest& request) {
+        if (request.launchPath == u"cleanup")
+            return ScriptedTools::exited(1);
         return ScriptedTools::exited(0, request.arguments.last() == record ? "30 x" : "100 x");
     };
     EXPECT_EQ(scanned({.name = u"x"_s, .paths = {logs}}).sizeBytes, 70U * 1024);
+}
+
+TEST_F(CacheScannerTest, TellsEachListingOnceWhatIsInUseAndWhatStays) {
+    const QStringList folders = {home.makeFolder(u"one"_s), home.makeFolder(u"two"_s)};
+    tools->answer = [](const ToolRequest& request) {
+        return ScriptedTools::exited(0, request.arguments.first() == u"open" ? QByteArray("64:7\0", 5)
+                                                                             : listingOf({{"a", 9}}));
+    };
+    const CleanupRule rule{.excludes = {u"*.lock"_s, u"~/mine"_s}};
+    EXPECT_EQ(scanned({.name = u"x"_s, .paths = folders, .rule = rule}).sizeBytes, 18U);
+    ASSERT_EQ(tools->requests.size(), 3) << "the folders are not measured again";
+    for (const ToolRequest& request : tools->requests.mid(1)) {
+        EXPECT_EQ(request.input, QByteArray("64:7\0", 5));
+        EXPECT_TRUE(request.arguments.contains(u"--used"));
+        EXPECT_TRUE(request.arguments.join(u' ').contains(
+            u"--exclude *.lock --exclude %1/mine "_s.arg(QDir::homePath())));
+    }
 }
 
 TEST_F(CacheScannerTest, KeepsTheLastFiguresOfAnOldFileTargetWithoutItsFolder) {
@@ -138,7 +157,7 @@ TEST_F(CacheScannerTest, KeepsTheLastFiguresOfAnOldFileTargetWithoutItsFolder) {
         EXPECT_EQ(after.details, before.details);
         EXPECT_EQ(after.lastScanned, fakes.clock->wall);
     }
-    EXPECT_TRUE(tools->requests.isEmpty());
+    EXPECT_EQ(tools->requests.size(), 2) << "only what is in use was asked";
 }
 
 TEST_F(CacheScannerTest, MeasuresEachExistingPlaceOfATargetOnce) {
@@ -148,14 +167,13 @@ TEST_F(CacheScannerTest, MeasuresEachExistingPlaceOfATargetOnce) {
     const QString symlink = home.path(u"symlink"_s);
     ASSERT_TRUE(QFile::link(small, symlink));
     tools->answer = [=](const ToolRequest& request) {
-        const bool isLarge = request.arguments.last() == large;
-        return ScriptedTools::exited(isLarge ? 0 : 1, isLarge ? "30\t" + large.toUtf8() + "\n" : " 2\tx\n");
+        return ScriptedTools::exited(0, listingOf({{"a", request.arguments.last() == large ? 30 : 2}}));
     };
     const QStringList paths = {symlink, small, home.path(u"missing"_s), inside, large, small, large + u"/"_s};
     const CacheTarget target = scanned({.name = u"x"_s, .paths = paths});
-    const QList<CacheEntry> expected = {{large, 30 * 1024}, {small, 2 * 1024}};
+    const QList<CacheEntry> expected = {{large, 30}, {small, 2}};
     EXPECT_EQ(target.details, expected);
-    EXPECT_EQ(target.sizeBytes, 32U * 1024);
+    EXPECT_EQ(target.sizeBytes, 32U);
 
     for (const char* useless : {"", "du: cannot read\n", "-4 x", "4k x"}) {
         answerEverythingWith(useless);
@@ -171,15 +189,17 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
             {.name = name, .paths = {home.makeFolder(name + u"/1"_s), home.makeFolder(name + u"/2"_s)}});
     tools->suspended = true;
     tools->answer = [](const ToolRequest& request) {
-        return ScriptedTools::exited(0, request.arguments.last().contains(u"largest") ? "9 x" : "1 x");
+        const bool isLargest = request.arguments.last().contains(u"largest");
+        return ScriptedTools::exited(0, listingOf({{"a", isLargest ? 9 : 1}}));
     };
     QList<CleanupProgress> progress;
     CacheScanner scanner(platform, [&](const CleanupProgress& now) { progress.append(now); });
     auto scan = scanner.scan(targets);
-    EXPECT_EQ(tools->requests.size(), 4) << "one path of each target";
+    EXPECT_TRUE(tools->release(u"open"_s));
+    EXPECT_EQ(tools->requests.size(), 5) << "one path of each target";
 
     const auto finish = [&](const QString& name) {
-        for (const auto& folder : {u"/1"_s, u"/1"_s, u"/2"_s, u"/2"_s}) { // measured, then listed
+        for (const auto& folder : {u"/1"_s, u"/2"_s}) {
             const qsizetype before = tools->requests.size();
             EXPECT_TRUE(tools->release(home.path(name + folder)));
             EXPECT_LE(tools->requests.size(), before + 1) << "one tool of a target at a time";

@@ -18,7 +18,7 @@ const Instant now{std::chrono::seconds(1'700'000'000)};
 
 class CleanerTest : public testing::Test {
 protected:
-    static constexpr CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
+    const CleanupRule oldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 30};
 
     CleanResult clean(const CacheTarget& target) {
         tools->requests.clear();

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr CleanupRule weekOldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 7};
+const CleanupRule weekOldFiles{.measure = CleanupRule::Measure::oldFiles, .olderThanDays = 7};
 
 CacheTarget scanned(const QString& name, const CleanupRule& rule, const QList<ListedFolder>& listed) {
     CacheTarget target{.name = name, .rule = rule, .listed = listed};

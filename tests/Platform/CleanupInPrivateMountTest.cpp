@@ -37,15 +37,20 @@ protected:
 
 TEST_F(InPrivateMount, StaysOnTheDiskOfTheFolder) {
     const TemporaryHome ours;
-    const QString inside = ours.makeFolder(u".npm/disk"_s);
+    const QString beside = ours.makeFolder(u".npm/disk"_s);
+    const QString inside = ours.makeFolder(u".npm/deep/disk"_s);
     ours.makeFile(u".npm/deep/file"_s);
-    ASSERT_EQ(mount("tmpfs", inside.toUtf8().constData(), "tmpfs", 0, nullptr), 0);
-    const QString precious = ours.makeFile(u".npm/disk/precious"_s);
+    for (const QString& disk : {beside, inside}) {
+        ASSERT_EQ(mount("tmpfs", disk.toUtf8().constData(), "tmpfs", 0, nullptr), 0);
+        std::ofstream((disk + u"/precious"_s).toStdString()) << "x";
+    }
     const CacheTarget npm = scanned(target(u"npm / pnpm / yarn"_s));
-    EXPECT_FALSE(clean(npm).done) << "something is left";
-    EXPECT_TRUE(QFileInfo::exists(precious));
-    EXPECT_EQ(entries(ours.path(u".npm"_s)), QStringList(u"disk"_s));
-    ASSERT_EQ(umount(inside.toUtf8().constData()), 0);
+    EXPECT_FALSE(clean(npm).done) << "something that was listed is left";
+    for (const QString& disk : {beside, inside}) {
+        EXPECT_TRUE(QFileInfo::exists(disk + u"/precious"_s));
+        ASSERT_EQ(umount(disk.toUtf8().constData()), 0);
+    }
+    EXPECT_EQ(entries(ours.path(u".npm/deep"_s)), QStringList(u"disk"_s));
     EXPECT_TRUE(clean(u"~/.npm"_s).done);
     EXPECT_TRUE(entries(ours.path(u".npm"_s)).isEmpty());
 }

@@ -47,7 +47,7 @@ EndedTool expectSame(const QString& path, const QString& folder = {}, QStringLis
     return ours;
 }
 
-quint64 blocksOf(const QString& path, const FolderSizeLimits& limits = {}) {
+quint64 blocksOf(const QString& path, const FolderWalkLimits& limits = {}) {
     const auto size = measureFolder(
         path.toStdString(), [](const UnreadEntry& entry) { ADD_FAILURE() << entry.path; }, limits);
     return size ? size->blocks : 0;
@@ -122,9 +122,9 @@ TEST(FolderSize, IsTheSameForAnyNumberOfThreadsAndDescriptors) {
         makeLink(tree.path(u"wide/file %1"_s.arg(i / 2)), folder + u"/link"_s);
     }
     const quint64 kib = expectSame(tree.path()).output.split('\t').front().toULongLong();
-    for (const FolderSizeLimits& limits :
-         {FolderSizeLimits{.threads = 1}, FolderSizeLimits{.threads = 64},
-          FolderSizeLimits{.threads = 1, .openFolders = 1}, FolderSizeLimits{.threads = 3, .openFolders = 2}})
+    for (const FolderWalkLimits& limits :
+         {FolderWalkLimits{.threads = 1}, FolderWalkLimits{.threads = 64},
+          FolderWalkLimits{.threads = 1, .openFolders = 1}, FolderWalkLimits{.threads = 3, .openFolders = 2}})
         EXPECT_EQ((blocksOf(tree.path(), limits) + 1) / 2, kib)
             << limits.threads << ' ' << limits.openFolders;
     expectSame(tree.path(), {}, {u"/usr/bin/prlimit"_s, u"--nofile=40"_s});

@@ -41,7 +41,10 @@ struct CleanupViewTest : ModelFixture {
         fakes.tools->answer = [=](const ToolRequest& request) {
             if (request.launchPath == u"/usr/bin/du")
                 return ScriptedTools::exited(0, request.arguments.last().endsWith(u"_npx") ? "1024" : "2048");
-            return request.arguments.first() == u"remove" ? clean : ScriptedTools::exited(0, listing);
+            if (request.arguments.first() == u"remove")
+                return clean;
+            const bool isSmaller = request.arguments.last().endsWith(u"_npx");
+            return ScriptedTools::exited(0, withTotal(listing, (isSmaller ? 1 : 2) << 20));
         };
     }
 };

@@ -43,7 +43,7 @@ struct ModelFixture : testing::Test {
 
     QStringList logged() const { return loggedIn(model.actionLog()); }
 
-    /// Lets `du` find 2 MiB in the npm folder until it is cleaned, and nothing anywhere else.
+    /// Puts 2 MiB in the npm folder until it is cleaned, and nothing anywhere else.
     void fillNpmFolder() {
         const QString npm = home.makeFolder(QStringLiteral(".npm"));
         for (const CacheTarget& target : CacheTarget::defaults()) {
@@ -54,7 +54,7 @@ struct ModelFixture : testing::Test {
             if (request.launchPath == u"/usr/bin/du")
                 return ScriptedTools::exited(0, isCleaned ? "0 x" : "2048 x");
             isCleaned |= request.arguments.first() == u"remove";
-            return ScriptedTools::exited(0, listingOf({}));
+            return ScriptedTools::exited(0, withTotal(listingOf({}), isCleaned ? 0 : 2 << 20));
         };
     }
 

@@ -90,6 +90,10 @@ CacheScanner::CacheScanner(const Platform& platform, Progress progress)
 QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
     for (const CacheTarget& target : targets)
         m_waiting.append(target.name);
+    const ToolRequest request = CleanupPlan::usedRequest();
+    const ToolResult used = co_await m_tools->run(request);
+    if (used.succeeded())
+        m_used = used.output;
     std::vector<QCoro::Task<>> measurements;
     for (const CacheTarget& target : targets)
         measurements.push_back(measure(target));
@@ -139,8 +143,10 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
     const Instant now = m_clock->now();
     const QStringList folders = openPlaces(target, *m_places);
     for (const QString& folder : folders) {
-        const quint64 bytes = co_await measureFolder(folder);
-        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools, m_used);
+        quint64 bytes = CleanupPlan::ListingReader(listing.value).totalBytes();
+        if (!listing.done)
+            bytes = co_await measureFolder(folder);
         take(target, {folder, bytes, listing.value}, listing.reason);
         target.details.append({folder, bytes});
     }
@@ -158,7 +164,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
     const Instant now = m_clock->now();
     int sincePause = 0;
     for (const QString& folder : folders) {
-        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
+        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools, m_used);
         ListedFolder listed{folder, 0, listing.value};
         CleanupPlan::ListingReader reader(listed.listing);
         while (const auto entry = reader.next()) {

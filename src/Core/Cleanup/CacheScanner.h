@@ -57,6 +57,7 @@ private:
     std::shared_ptr<Places> m_places;
     std::shared_ptr<Clock> m_clock;
     Progress m_progress;
+    QByteArray m_used;             ///< by running programs, when the scan began
     QStringList m_waiting;         ///< names of the targets still being measured
     QList<CacheTarget> m_measured; ///< in the order of completion
 };

@@ -30,6 +30,9 @@ struct CleanupRule {
     bool screenshotsOnly = false;
     bool isShared = false;     ///< its folder is everybody's, and programs work in it
     bool hasUserFiles = false; ///< files that no program makes again
+    /// What stays, with all below it: patterns for absolute paths and for names, where "*" matches slashes
+    /// too.
+    QStringList excludes = {};
 
     bool operator==(const CleanupRule&) const = default;
 };

@@ -44,6 +44,17 @@ QCoro::Task<bool> prune(QString command, std::shared_ptr<ToolRunner> tools, std:
     co_return isDone;
 }
 
+QCoro::Task<Result<QByteArray>> runListing(ToolRequest request, QString folder,
+                                           std::shared_ptr<ToolRunner> tools) {
+    const ToolResult result = co_await tools->run(request);
+    Result<QByteArray> listing{Outcome::failure(result.errorLine)};
+    if (result.succeeded()) // a partial listing is useless
+        listing = {Outcome::success(), result.output};
+    else
+        reportFailure("listing", folder, result);
+    co_return listing;
+}
+
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
                                                std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
     Cleaner::CleanResult result{Outcome::success()};
@@ -70,15 +81,17 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
 } // namespace
 
 QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, Instant now,
-                                              std::shared_ptr<ToolRunner> tools) {
-    const ToolRequest request = CleanupPlan::listRequest(rule, folder, now);
-    const ToolResult result = co_await tools->run(request);
-    Result<QByteArray> listing{Outcome::failure(result.errorLine)};
-    if (result.succeeded()) // a partial listing is useless
-        listing = {Outcome::success(), result.output};
-    else
-        reportFailure("listing", folder, result);
-    co_return listing;
+                                              std::shared_ptr<ToolRunner> tools, QByteArray used) {
+    const ToolRequest request = CleanupPlan::listRequest(rule, folder, now, used);
+    auto listing = runListing(request, folder, tools);
+    co_return co_await listing;
+}
+
+QCoro::Task<Result<QByteArray>> Cleaner::listInside(CleanupRule rule, QString folder, QByteArray inside,
+                                                    Instant now, std::shared_ptr<ToolRunner> tools) {
+    const ToolRequest request = CleanupPlan::listInsideRequest(rule, folder, inside, now);
+    auto listing = runListing(request, folder, tools);
+    co_return co_await listing;
 }
 
 QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,

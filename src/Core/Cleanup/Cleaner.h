@@ -23,9 +23,14 @@ struct CleanResult : Outcome {
     bool operator==(const CleanResult&) const = default;
 };
 
-/// Lists what the rule removes from a folder. Fails when that is unknown, as for a symlink.
+/// Lists what the rule removes from a folder. Fails when that is unknown, as for a symlink. `used` is as of
+/// CleanupPlan::listRequest.
 QCoro::Task<Result<QByteArray>> list(CleanupRule rule, QString folder, Instant now,
-                                     std::shared_ptr<ToolRunner> tools);
+                                     std::shared_ptr<ToolRunner> tools, QByteArray used = {});
+/// Lists what is in a folder of `folder`, whose relative path is `inside`. The listing is one of `folder`,
+/// with the size of the folder inside.
+QCoro::Task<Result<QByteArray>> listInside(CleanupRule rule, QString folder, QByteArray inside, Instant now,
+                                           std::shared_ptr<ToolRunner> tools);
 
 /// Removes exactly what the target's scan listed, from the folders that were listed. A target that was never
 /// scanned is listed first. A missing folder is skipped. A folder that the system protects, or that was

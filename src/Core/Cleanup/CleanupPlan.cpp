@@ -2,6 +2,7 @@
 
 #include "Core/ActionLog/ActionLogFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -12,6 +13,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::chrono::seconds usedTimeout{10};
 
 struct Found {
     Place place;
@@ -37,6 +40,12 @@ QString rootOf(const QString& folder) {
     return canonical.isEmpty() || info.isSymLink() ? folder : canonical;
 }
 
+/// Expands "~" at the front.
+QString withHome(const QString& pattern) {
+    const bool isBelowHome = pattern == u'~' || pattern.startsWith("~/"_L1);
+    return isBelowHome ? QDir::homePath() + pattern.mid(1) : pattern;
+}
+
 ToolRequest request(const QString& verb, const CleanupRule& rule, const QString& folder, Instant now) {
     QStringList arguments{verb, u"--keep"_s, CleanupPlan::keptFolder()};
     if (rule.measure == CleanupRule::Measure::oldFiles) {
@@ -48,6 +57,8 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
         arguments << u"--screenshots"_s;
     if (rule.isShared)
         arguments << u"--shared"_s;
+    for (const QString& pattern : rule.excludes)
+        arguments << u"--exclude"_s << withHome(pattern);
     arguments << rootOf(folder);
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
@@ -141,9 +152,31 @@ ToolRequest CleanupPlan::measureRequest(const QString& folder) {
     return asked;
 }
 
-ToolRequest CleanupPlan::listRequest(const CleanupRule& rule, const QString& folder, Instant now) {
+ToolRequest CleanupPlan::usedRequest() {
+    ToolRequest asked;
+    asked.launchPath = u"cleanup"_s;
+    asked.arguments = {u"open"_s};
+    asked.captureOutput = true;
+    asked.timeout = usedTimeout;
+    return asked;
+}
+
+ToolRequest CleanupPlan::listRequest(const CleanupRule& rule, const QString& folder, Instant now,
+                                     const QByteArray& used) {
     ToolRequest asked = request(u"list"_s, rule, folder, now);
     asked.captureOutput = true;
+    if (!used.isEmpty()) {
+        asked.arguments.insert(1, u"--used"_s);
+        asked.input = used;
+    }
+    return asked;
+}
+
+ToolRequest CleanupPlan::listInsideRequest(const CleanupRule& rule, const QString& folder,
+                                           const QByteArray& inside, Instant now) {
+    ToolRequest asked = listRequest(rule, folder, now);
+    asked.arguments.insert(1, u"--in"_s);
+    asked.input = inside; // its bytes may be no text
     return asked;
 }
 

@@ -20,8 +20,15 @@ QList<Place> placesOf(const CacheTarget& target, const Places& places);
 
 /// Asks for the size of `folder` with all below it on its file system.
 ToolRequest measureRequest(const QString& folder);
-/// Asks what the rule removes from `folder` at the time `now`.
-ToolRequest listRequest(const CleanupRule& rule, const QString& folder, Instant now);
+/// Asks which files running programs use.
+ToolRequest usedRequest();
+/// Asks what the rule removes from `folder` at the time `now`. `used` is the answer to usedRequest; without
+/// it the tool finds out by itself, which takes a tenth of a second where many programs run.
+ToolRequest listRequest(const CleanupRule& rule, const QString& folder, Instant now,
+                        const QByteArray& used = {});
+/// Asks the same of the folder with the relative path `inside` in `folder`.
+ToolRequest listInsideRequest(const CleanupRule& rule, const QString& folder, const QByteArray& inside,
+                              Instant now);
 /// Asks to remove the entries of a listing from the folder that was listed.
 ToolRequest removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
 /// Asks a login shell, which finds the tools of vendors on the user's path.

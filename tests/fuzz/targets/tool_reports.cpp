@@ -4,6 +4,8 @@
 #include "Tools/Cleanup.h"
 #include "fuzz/Fuzz.h"
 
+#include <sstream>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,14 +27,22 @@ void listing(const QByteArray& found) {
     const auto parsed = Tools::CleanupListing::parse(found.toStdString());
     if (!parsed)
         return;
-    Fuzz::require(Tools::CleanupListing::parse(parsed->text()) == parsed);
-    const std::string text = parsed->text();
+    std::ostringstream written;
+    parsed->write(written);
+    const std::string text = written.str();
+    Fuzz::require(Tools::CleanupListing::parse(text) == parsed);
     CleanupPlan::ListingReader both(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
     for (const auto& entry : parsed->entries) {
         const auto same = both.next();
         Fuzz::require(same && same->path.toStdString() == entry.path && same->sizeBytes == entry.bytes);
     }
     Fuzz::require(!both.next());
+}
+
+void usedFiles(const std::string& text) {
+    const auto files = Tools::parseFiles(text);
+    if (files)
+        Fuzz::require(Tools::parseFiles(Tools::textOf(*files)) == files);
 }
 
 void size(const QString& text) {
@@ -53,6 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t leng
     Fuzz::require(Cleaner::reportedBytes(report) % 1024 == 0);
     containerReport(report);
     listing(report);
+    usedFiles(report.toStdString());
     size(QString::fromUtf8(report));
     return 0;
 }
