@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
         processes = sampler.sampleProcesses();
         const double before = processMicroseconds();
         ledger.wantAll();
-        ledger.tick(processes);
+        ledger.tick(processes, true);
         ledger.waitForSlice();
         spent += processMicroseconds() - before;
     }

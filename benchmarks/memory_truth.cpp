@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
         pids = withDescendants(roots, processes);
         ledger.wantAll(); // what others share with them stays
         ledger.wantAsked(pids);
-        ledger.tick(processes);
+        ledger.tick(processes, true);
         ledger.waitForSlice();
         members.clear();
         std::ranges::copy_if(processes, std::back_inserter(members),

@@ -85,7 +85,8 @@ void AppModel::tick() {
 
     QList<ProcSample> processes = m_sampler.sampleProcesses();
     m_actions.pausedSessions().wake(processes);
-    m_ledger.tick(processes);
+    const bool isSwapInUse = sample.swapUsedBytes > 0 || sample.memTotalBytes == 0;
+    m_ledger.tick(processes, isSwapInUse);
     const QList<GroupRollup> rollups = GroupRollup::build(processes);
     std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
     publish(m_state.processes, std::move(processes));

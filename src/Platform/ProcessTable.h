@@ -13,7 +13,8 @@
 struct TaskInfo {
     quint64 virtualBytes = 0;
     quint64 residentBytes = 0;
-    quint64 cpuTimeNs = 0; ///< user + system, since the process started
+    std::optional<quint64> anonymousBytes; ///< the part of these that no file or shared memory backs
+    quint64 cpuTimeNs = 0;                 ///< user + system, since the process started
     int threads = 0;
 
     bool operator==(const TaskInfo&) const = default;

@@ -35,6 +35,7 @@ struct MemoryLedgerTest : testing::Test {
     FakePlatform fakes;
     FakeProcessMemory& memory = *fakes.processMemory;
     QList<ProcSample> processes;
+    bool isSwapInUse = true;
     MemoryLedger ledger{fakes.processMemory, fakes.clock};
 
     void add(qint32 pid, quint64 rssBytes = 10 * MiB) {
@@ -46,7 +47,7 @@ struct MemoryLedgerTest : testing::Test {
         fakes.clock->advance(2);
         for (ProcSample& process : processes)
             process.memory = nullptr;
-        ledger.tick(processes);
+        ledger.tick(processes, isSwapInUse);
         ledger.waitForSlice();
         return memory.readings;
     }
@@ -204,6 +205,26 @@ TEST_F(MemoryLedgerTest, AProcessThatDidNotRunIsNotReadAgainWhileItsSharesMayBeT
     processes[0].rssBytes += 4096;
     fakes.clock->advance(20);
     EXPECT_EQ(tickForAll(), QStringList(u"totals 1"_s)) << "something else took pages from it";
+}
+
+TEST_F(MemoryLedgerTest, WithoutSwapTheTickTellsTheTotals) {
+    isSwapInUse = false;
+    add(1);
+    add(2);
+    memory.all[1] = {.proportionalBytes = 30, .anonymousBytes = 20};
+    for (ProcSample& process : processes) {
+        process.anonymousBytes = 4 * MiB;
+        process.cpuPercent = 1;
+    }
+    EXPECT_EQ(tickForAll(), (QStringList{u"all 1"_s, u"all 2"_s})) << "the refused one needs no more";
+    fakes.clock->advance(45);
+    EXPECT_EQ(tickForAll(), QStringList());
+    EXPECT_EQ(processes[0].memory->use.proportionalBytes, 30u);
+    EXPECT_TRUE(processes[1].memory->isRefused);
+    EXPECT_EQ(processes[1].memory->use, (ProcessMemoryUse{.anonymousBytes = 4 * MiB, .swapBytes = 0}));
+    isSwapInUse = true;
+    fakes.clock->advance(45);
+    EXPECT_EQ(tickForAll(), (QStringList{u"totals 1"_s, u"totals 2"_s}));
 }
 
 TEST_F(MemoryLedgerTest, AnotherProcessOfThatPidHasNoFigures) {

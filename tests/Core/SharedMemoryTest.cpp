@@ -40,6 +40,7 @@ TEST(SummedMemoryTest, AddsSharesAndSwapAndSaysHowTrueItIs) {
     ProcSample refused{.pid = 2, .rssBytes = 9 * MiB};
     refused.memory = figures({.anonymousBytes = 2 * MiB, .swapBytes = MiB}, true);
     const ProcSample unread{.pid = 3, .rssBytes = 7 * MiB};
+    const ProcSample partlyKnown{.pid = 4, .rssBytes = 7 * MiB, .anonymousBytes = MiB};
     ProcSample withoutSwapLines = read;
     withoutSwapLines.memory = figures({.proportionalBytes = MiB});
 
@@ -55,6 +56,7 @@ TEST(SummedMemoryTest, AddsSharesAndSwapAndSaysHowTrueItIs) {
                                      .residentBytes = 528 * MiB,
                                      .certainty = about}));
     EXPECT_EQ(unknown.text(), u"≈ 15 MB"_s);
+    EXPECT_EQ(SummedMemory::of({partlyKnown}).text(), u"≈ 1 MB"_s);
     EXPECT_EQ(SummedMemory::of({refused}).text(), u"≥ 3 MB"_s);
     EXPECT_EQ(SummedMemory::of({refused}).description(), u"at least 3 MB (resident 9 MB, in swap 1 MB)"_s);
 }

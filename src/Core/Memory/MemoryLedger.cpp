@@ -34,7 +34,8 @@ MemoryLedger::~MemoryLedger() {
     m_pool.waitForDone();
 }
 
-void MemoryLedger::tick(QList<ProcSample>& processes) {
+void MemoryLedger::tick(QList<ProcSample>& processes, bool isSwapInUse) {
+    m_isSwapInUse = isSwapInUse;
     m_now = m_clock->uptime();
     ++m_tick;
     const bool isReading = m_slice.isValid() && !m_slice.isFinished();
@@ -105,14 +106,22 @@ void MemoryLedger::handOut(QList<ProcSample>& processes) {
     m_entries.removeIf([this](const auto& entry) { return entry->tick != m_tick; });
 }
 
-/// Notes whether the process may have changed, and confirms the figures of one that did not.
+/// Notes whether the process may have changed, and confirms the figures that are still true.
 void MemoryLedger::follow(Entry& entry, const ProcSample& process) const {
     entry.hasRun |= process.cpuPercent > 0 || process.rssBytes != entry.residentWhenRead;
-    if (entry.hasRun || !entry.figures || !isWanted(process.pid) ||
-        m_now - entry.figures->readAt < confirmedAfter)
+    const bool isTrue =
+        !entry.hasRun ||
+        (hasTotals(process) && !MemoryPlan::hasChangedSize(process.rssBytes, entry.residentWhenRead));
+    const bool isDue = entry.figures && (m_now - entry.figures->readAt >= confirmedAfter ||
+                                         (hasTotals(process) && !entry.figures->use.anonymousBytes));
+    if (!isTrue || !isDue || !isWanted(process.pid))
         return;
     MemoryFigures confirmed = *entry.figures;
     confirmed.readAt = m_now;
+    if (hasTotals(process)) {
+        confirmed.use.anonymousBytes = process.anonymousBytes;
+        confirmed.use.swapBytes = 0;
+    }
     entry.figures = std::make_shared<const MemoryFigures>(confirmed);
 }
 
@@ -127,6 +136,7 @@ QList<MemoryPlan::Process> MemoryLedger::wanted(const QList<ProcSample>& process
             continue;
         MemoryPlan::Process known{.pid = process.pid,
                                   .residentBytes = process.rssBytes,
+                                  .hasTotals = hasTotals(process),
                                   .isOnShow = m_onShow.contains(process.pid),
                                   .isAsked = m_asked.contains(process.pid)};
         const auto entry = m_entries.constFind(process.pid);
@@ -194,6 +204,10 @@ MemoryLedger::Result MemoryLedger::resultOf(ProcessMemory& memory, const MemoryP
         if (result.reading.use)
             return result;
         result.isRefused = true;
+        if (wanted.hasTotals) {
+            result.reading.use = ProcessMemoryUse();
+            return result;
+        }
     }
     const auto spent = result.reading.cost;
     result.reading = memory.readTotals(wanted.pid);

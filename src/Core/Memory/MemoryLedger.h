@@ -35,8 +35,8 @@ public:
     void wantAsked(const QList<qint32>& pids) { m_asked.unite({pids.begin(), pids.end()}); }
 
     /// Gives each process its figures, where these are at most two minutes old, and starts the next slice.
-    /// Called once a tick with all processes.
-    void tick(QList<ProcSample>& processes);
+    /// Called once a tick with all processes. While no swap is in use, a process's own size tells its totals.
+    void tick(QList<ProcSample>& processes, bool isSwapInUse);
 
     /// Waits for the slice under way, in tests and benchmarks only.
     void waitForSlice() { m_slice.waitForFinished(); }
@@ -67,6 +67,7 @@ private:
     void enter(Entry& entry, const Result& result);
     void learnCost(const Entry& entry, MemoryPlan::Nanoseconds cost);
     void handOut(QList<ProcSample>& processes);
+    bool hasTotals(const ProcSample& process) const { return !m_isSwapInUse && process.anonymousBytes; }
     void follow(Entry& entry, const ProcSample& process) const;
     bool isWanted(qint32 pid) const;
     QList<MemoryPlan::Process> wanted(const QList<ProcSample>& processes) const;
@@ -80,6 +81,7 @@ private:
     QSet<qint32> m_onShow;
     QSet<qint32> m_asked;
     bool m_wantsAll = false;
+    bool m_isSwapInUse = true;
     MemoryPlan::Nanoseconds m_credit; ///< negative after a dear reading
     MemoryPlan::Costs m_costs;
     std::chrono::steady_clock::time_point m_now;

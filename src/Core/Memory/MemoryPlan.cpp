@@ -13,7 +13,7 @@ constexpr quint64 MiB = 1 << 20;
 constexpr quint64 smallBytes = 8 * MiB; // read by its totals at first
 constexpr int maxRepeats = 9;           // of the totals, while the process keeps its size
 constexpr double maxSharesAgeSeconds = (maxRepeats + 1) * turnSeconds;
-constexpr double freshSeconds = 5;      // on show
+constexpr double freshSeconds = 5; // on show
 constexpr double dueSeconds = 10;
 
 /// In the order of reading. What is settled is not read.
@@ -25,6 +25,7 @@ struct Candidate {
     double ageSeconds = 0;
     qint32 pid = 0;
     Nanoseconds cost{};
+    bool hasTotals = false;
 };
 using Candidates = QList<Candidate>;
 
@@ -58,7 +59,7 @@ bool wantsAll(const Process& process, Urgency urgency) {
     if (process.isRefused || isTooLarge(process))
         return false;
     if (urgency == Urgency::unread)
-        return process.residentBytes >= smallBytes;
+        return process.residentBytes >= smallBytes || process.hasTotals;
     const bool mayRepeat = process.lastCost && process.repeats < maxRepeats && !hasOldShares(process) &&
                            !hasChangedSize(process.residentBytes, process.residentWhenRead);
     return urgency == Urgency::asked || !mayRepeat;
@@ -77,7 +78,7 @@ Candidates wholeIn(const QList<Process>& processes, const Costs& costs) {
         const Urgency urgency = urgencyOf(process);
         if (urgency != Urgency::settled && wantsAll(process, urgency))
             whole.append({urgency, process.residentBytes, process.ageSeconds, process.pid,
-                          expectedCost(process, costs)});
+                          expectedCost(process, costs), process.hasTotals});
     }
     std::ranges::stable_sort(whole, comesBefore);
     return whole;
@@ -88,6 +89,8 @@ Candidates wholeIn(const QList<Process>& processes, const Costs& costs) {
 Candidates totalsIn(const QList<Process>& processes, const Costs& costs, qsizetype dueCount) {
     Candidates totals;
     for (const Process& process : processes) {
+        if (process.hasTotals)
+            continue;
         Urgency urgency = urgencyOf(process);
         const bool isDue = process.ageSeconds > dueSeconds;
         if (urgency > Urgency::unread && (isDue || wantsAll(process, urgency)))
@@ -150,7 +153,7 @@ QList<Reading> slice(const QList<Process>& processes, Nanoseconds credit, const 
             readings.append({.pid = candidate.pid, .all = false});
     }
     for (const Candidate& candidate : whole)
-        readings.append({.pid = candidate.pid, .all = true});
+        readings.append({.pid = candidate.pid, .all = true, .hasTotals = candidate.hasTotals});
     return readings;
 }
 

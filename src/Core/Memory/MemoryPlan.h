@@ -30,6 +30,7 @@ struct Process {
     std::optional<Nanoseconds> lastCost;                         ///< of the last reading of all figures
     quint64 costBytes = 0;                                       ///< its resident size then
     int repeats = 0;                                             ///< readings of the totals alone since then
+    bool hasTotals = false;                                      ///< without a reading
     bool isRefused = false;                                      ///< all figures were refused
     bool isOnShow = false;
     bool isAsked = false; ///< by a person
@@ -40,7 +41,8 @@ bool hasChangedSize(quint64 residentBytes, quint64 residentWhenRead);
 
 struct Reading {
     qint32 pid = 0;
-    bool all = false; ///< every figure, else the totals
+    bool all = false;       ///< every figure, else the totals
+    bool hasTotals = false; ///< it needs none if all are refused
 
     bool operator==(const Reading&) const = default;
 };

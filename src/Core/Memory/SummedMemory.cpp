@@ -16,8 +16,9 @@ void SummedMemory::add(const ProcSample& process) {
         certainty =
             std::max(certainty, hasTotals && figures->isRefused ? Certainty::atLeast : Certainty::about);
     if (!hasTotals && !isProportional) {
-        bytes += process.rssBytes;
-        standInBytes += process.rssBytes;
+        const quint64 standIn = process.anonymousBytes.value_or(process.rssBytes);
+        bytes += standIn;
+        standInBytes += standIn;
         return;
     }
     const ProcessMemoryUse& use = figures->use;

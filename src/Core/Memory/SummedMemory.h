@@ -7,13 +7,13 @@
 /// The memory of several processes together, shared pages once: their proportional shares, and what they have
 /// in swap.
 struct SummedMemory {
-    /// How true the sum is: exact; without what some processes share; or with a resident size in place of
-    /// what is not known yet.
+    /// How true the sum is: exact; without what some processes share; or with a stand-in for what is not
+    /// known yet: the part of the resident size that no file backs, or all of it where that is unknown.
     enum class Certainty { exact, atLeast, about };
 
     quint64 bytes = 0;
     quint64 swapBytes = 0;     ///< the known part of `bytes` that is in swap
-    quint64 standInBytes = 0;  ///< the part of `bytes` for which a resident size stands in
+    quint64 standInBytes = 0;  ///< the part of `bytes` that stands in for what is not known yet
     quint64 residentBytes = 0; ///< the resident sizes added up, which counts a shared page more than once
     Certainty certainty = Certainty::exact;
 

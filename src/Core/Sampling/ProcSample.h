@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 struct MemoryFigures;
 
@@ -28,6 +29,7 @@ struct ProcSample {
     QString arguments;      ///< joined by single spaces
     double cpuPercent = 0;
     quint64 rssBytes = 0;
+    std::optional<quint64> anonymousBytes; ///< the part of these that no file or shared memory backs
     quint64 virtualBytes = 0;
     int threads = 0;
     Instant startTime;
@@ -40,6 +42,7 @@ struct ProcSample {
     /// Sets the figures that the system counts.
     void setFigures(const TaskInfo& task) {
         rssBytes = task.residentBytes;
+        anonymousBytes = task.anonymousBytes;
         virtualBytes = task.virtualBytes;
         threads = task.threads;
     }

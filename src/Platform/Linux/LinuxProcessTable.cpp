@@ -198,6 +198,7 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
     }
     return TaskInfo{.virtualBytes = pages->virtualPages * m_pageSize,
                     .residentBytes = pages->residentPages * m_pageSize,
+                    .anonymousBytes = pages->anonymousPages * m_pageSize,
                     .cpuTimeNs = *cpu,
                     .threads = process.threads};
 }
@@ -209,9 +210,10 @@ std::optional<LinuxProcessTable::Pages> LinuxProcessTable::pagesOf(const Process
     auto statm = process.statm.read(buffer);
     const auto virtualPages = KernelText::takeNumber(statm);
     const auto residentPages = KernelText::takeNumber(statm);
-    if (!residentPages || *virtualPages == 0)
+    const auto backedPages = KernelText::takeNumber(statm);
+    if (!backedPages || *virtualPages == 0)
         return std::nullopt;
-    return Pages{*virtualPages, *residentPages};
+    return Pages{*virtualPages, *residentPages, *residentPages - std::min(*residentPages, *backedPages)};
 }
 
 /// Opens no descriptor at first: most processes sleep all the time and are not asked again.

@@ -61,6 +61,7 @@ private:
     struct Pages {
         quint64 virtualPages = 0;
         quint64 residentPages = 0;
+        quint64 anonymousPages = 0;
     };
 
     bool hasNewPids();
