@@ -7,7 +7,11 @@
 #include "UI/Kit/Spinner.h"
 #include "UI/ModelFixture.h"
 
+#include <QLineEdit>
 #include <QPointer>
+#include <QTreeView>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +52,23 @@ struct CleanupViewTest : ModelFixture {
         };
     }
 };
+
+/// Returns the rows of the tree as they are read out, two spaces for each level.
+QStringList rowsOf(const QWidget& dialog) {
+    const auto* model = dialog.findChild<QTreeView*>()->model();
+    QStringList rows;
+    const std::function<void(const QModelIndex&, const QString&)> addBelow = [&](const QModelIndex& parent,
+                                                                                 const QString& indent) {
+        for (int row = 0; row < model->rowCount(parent); ++row) {
+            const QModelIndex index = model->index(row, 0, parent);
+            const QString spoken = index.data(Qt::AccessibleTextRole).toString();
+            rows.append(indent + spoken.section(u", changed"_s, 0, 0));
+            addBelow(index, indent + u"  "_s);
+        }
+    };
+    addBelow({}, {});
+    return rows;
+}
 
 const QList<std::pair<QByteArray, quint64>> someFiles = {
     {"a\x1b.iso", 9}, {"Trash/b.pdf", 8}, {"c", 7}, {"d", 6}, {"e", 5}};
@@ -142,7 +163,7 @@ TEST_F(CleanupViewTest, WhatWasConfirmedIsWhatIsCleaned) {
     answer(shown);
     rescan();
     press(*view, u"Clean All"_s);
-    EXPECT_TRUE(shownNames<QWidget>(*dialog()).contains(u"npm / pnpm / yarn, 2 MB, “_cacache”"_s));
+    EXPECT_EQ(rowsOf(*dialog()), (QStringList{u"npm / pnpm / yarn, 2 MB"_s, u"  _cacache, 0 bytes"_s}));
     fakes.places->elsewhere[u"~/.cache/pip"_s] = {home.makeFolder(u"pip"_s)};
     answer(listingOf({{"since then", 0}}));
     QCoro::waitFor(model.cleanup().rescan());
@@ -151,7 +172,7 @@ TEST_F(CleanupViewTest, WhatWasConfirmedIsWhatIsCleaned) {
     finish();
     EXPECT_EQ(logged(), QStringList(u"clean [batch] npm / pnpm / yarn ok"_s));
     for (const ToolRequest& request : std::as_const(fakes.tools->requests))
-        EXPECT_TRUE(request.arguments.first() != u"remove" || request.input == shown);
+        EXPECT_TRUE(request.arguments.first() != u"remove" || request.input == withTotal(shown, 2 << 20));
 }
 
 TEST_F(CleanupViewTest, ATotalCountsOnceWhatTargetsShare) {
@@ -205,23 +226,56 @@ TEST_F(CleanupViewTest, SaysWhySomethingIsLeft) {
     EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (2 entries␊ are left)"_s));
 }
 
-TEST_F(CleanupViewTest, TheDrawerListsWhatGoesBesidesTheBreakdown) {
-    CacheTarget target{.name = u"x"_s, .symbol = {}, .listed = {{u"/x"_s, 0, listingOf(someFiles)}}};
-    const auto shown = [&](const QString& text) {
-        CacheDetailDrawer drawer(target, &window);
-        drawer.setAttribute(Qt::WA_DeleteOnClose, false);
-        drawer.show();
-        return showsText(drawer, text) || shownNames<QWidget>(drawer).contains(text);
+TEST_F(CleanupViewTest, ADrawerLeavesOutWhatIsNotTicked) {
+    const QString npm = home.path(u".npm"_s);
+    answer(listingOf({{"_cacache", 5 << 20}, {"_logs", 1 << 20}}));
+    rescan();
+    QTest::mouseClick(view->findChildren<CacheCard*>()[0], Qt::LeftButton);
+    auto& drawer = *window.findChild<CacheDetailDrawer*>();
+    auto& tree = *drawer.findChild<QTreeView*>();
+    tree.setCurrentIndex(tree.model()->index(1, 0, tree.model()->index(0, 0)));
+    EXPECT_EQ(tree.currentIndex().data(), u"_logs"_s);
+    QTest::keyClick(&tree, Qt::Key_Space);
+    EXPECT_TRUE(showsText(drawer, u"5 MB will come back • 1 left out"_s));
+    press(drawer, u"Clean 5 MB"_s);
+    press(*dialog(), u"Delete 5 MB"_s);
+    finish();
+    for (const ToolRequest& request : std::as_const(fakes.tools->requests)) {
+        const bool isRemoval = request.arguments.first() == u"remove";
+        EXPECT_TRUE(!isRemoval || (request.input.contains("_cacache") && !request.input.contains("_logs")));
+    }
+    EXPECT_EQ(logged(), QStringList(u"clean npm / pnpm / yarn ok"_s));
+}
+
+TEST_F(CleanupViewTest, ADrawerShowsWhatIsInsideAFolderOfItsList) {
+    CacheTarget target{.name = u"x"_s, .symbol = {}};
+    target.listed = {{u"/x"_s, 9, listingOf({{"deep", 9}}).replace(" - deep", " d deep")}};
+    fakes.tools->answer = [](const ToolRequest& request) {
+        EXPECT_EQ(request.arguments.first(), u"list"_s);
+        return ScriptedTools::exited(0, listingOf({{"deep/a", 7}, {"deep/b", 2}}));
     };
-    EXPECT_TRUE(shown(u"b.pdf, 8 bytes"_s));
-    target.rule.measure = CleanupRule::Measure::oldFiles;
-    target.details = {{u"/x/b.pdf"_s, 8}};
-    EXPECT_TRUE(shown(u"and 4 more"_s));
-    target.listed.clear();
+    CacheDetailDrawer drawer(model.cleanup(), target, {}, &window);
+    drawer.setAttribute(Qt::WA_DeleteOnClose, false);
+    drawer.show();
+    auto& tree = *drawer.findChild<QTreeView*>();
+    tree.expand(tree.model()->index(0, 0, tree.model()->index(0, 0)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsOf(drawer).size() == 4; }, 2000));
+    EXPECT_EQ(rowsOf(drawer)[2].trimmed().section(u',', 0, 1), u"a, 7 bytes"_s);
+    auto* search = drawer.findChild<QLineEdit*>();
+    search->setText(u"B"_s);
+    EXPECT_EQ(rowsOf(drawer).size(), 3) << "with those above it";
+}
+
+TEST_F(CleanupViewTest, ADrawerNamesTheVolumesOfContainers) {
+    CacheTarget target{
+        .name = u"x"_s, .symbol = {}, .pruneCommand = u"prune"_s, .details = {{u"Images"_s, 8}}};
     target.rule.measure = CleanupRule::Measure::containers;
     target.volumes = {u"db"_s, u"web"_s};
-    EXPECT_TRUE(shown(u"Volumes that go, with all that is in them: 2"_s));
-    EXPECT_TRUE(shown(u"web"_s));
+    CacheDetailDrawer drawer(model.cleanup(), target, {}, &window);
+    drawer.setAttribute(Qt::WA_DeleteOnClose, false);
+    EXPECT_EQ(rowsOf(drawer),
+              (QStringList{u"Images, 8 bytes"_s, u"Volumes that go, with all that is in them: 2"_s, u"  db"_s,
+                           u"  web"_s}));
 }
 
 TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {

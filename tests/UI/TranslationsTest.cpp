@@ -135,8 +135,9 @@ TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
     new ConfirmDialog(&window, preview.dialogTitle(), preview.dialogMessage());
     const CacheTarget npm = CacheTarget::defaults().first();
     CleanupConfirmation::ask(&window, &window, npm, [] {});
-    CleanupConfirmation::askAll(&window, &window, CacheTarget::defaults(), [](const QList<CacheTarget>&) {});
-    new CacheDetailDrawer(npm, &window);
+    CleanupConfirmation::askAll(&window, &window, model.cleanup(), CacheTarget::defaults(), {},
+                                [](const QList<CacheTarget>&) {});
+    new CacheDetailDrawer(model.cleanup(), npm, {}, &window);
     (new FreeRAMSheet(model, &window))->show();
     new QuickKillEditorSheet(QString(), QuickKillPreset::blank(), {}, &window);
     Session session = SampleSessions::large(100, QString());

@@ -75,6 +75,11 @@ void CacheCleanup::noteResult(const CacheTarget& target, const Cleaner::CleanRes
     publish(m_report, report);
 }
 
+QCoro::Task<Result<QByteArray>> CacheCleanup::listInside(CleanupRule rule, QString folder,
+                                                         QByteArray inside) {
+    return Cleaner::listInside(rule, folder, inside, m_platform.clock->now(), m_platform.tools);
+}
+
 void CacheCleanup::cancel() {
     CleanupReport report = m_report;
     report.wasCancelled = isCleaning();

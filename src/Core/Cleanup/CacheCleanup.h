@@ -41,6 +41,8 @@ public:
     /// Cleans these targets one after another, logs each and measures again. Returns how many succeeded, and
     /// how many bytes those freed.
     QCoro::Task<std::pair<int, quint64>> cleanAll(QList<CacheTarget> targets);
+    /// Lists what is inside an entry of a target's folder; see Cleaner::listInside.
+    QCoro::Task<Result<QByteArray>> listInside(CleanupRule rule, QString folder, QByteArray inside);
     /// Cancels every clean that runs or waits. Those that were running have failed.
     void cancel();
 

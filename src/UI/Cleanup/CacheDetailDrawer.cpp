@@ -1,12 +1,11 @@
 #include "UI/Cleanup/CacheDetailDrawer.h"
 
-#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
+#include "UI/Cleanup/CleanupPreview.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/PushButton.h"
-#include "UI/Kit/SizeList.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -17,37 +16,16 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr QSize minSize(460, 480);
-constexpr qsizetype maxListedNames = 20;
-
-/// Adds what a clean removes besides the entries of the breakdown.
-void addNames(SizeList& list, const CacheTarget& target) {
-    const CleanupPlan::Names names = CleanupPlan::namesOf(target, maxListedNames);
-    const bool isInBreakdown = target.rule.measure == CleanupRule::Measure::oldFiles;
-    const qsizetype shown = isInBreakdown ? target.details.size() : names.shown.size();
-    if (!isInBreakdown && shown > 0) {
-        list.addHeading(CacheDetailDrawer::tr("What goes"));
-        for (const CacheEntry& entry : names.shown)
-            list.addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
-    }
-    if (names.count > shown)
-        list.addLine(CacheDetailDrawer::tr("and %1 more").arg(names.count - shown));
-}
-
-void addVolumes(SizeList& list, const CacheTarget& target) {
-    const qsizetype count = target.volumes.size();
-    list.addHeading(count == 0
-                        ? CacheDetailDrawer::tr("No volumes go")
-                        : CacheDetailDrawer::tr("Volumes that go, with all that is in them: %1").arg(count));
-    for (const QString& volume : target.volumes)
-        list.addRow({.name = volume});
-}
+constexpr QSize minSize(620, 560);
 
 } // namespace
 
-CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
+CacheDetailDrawer::CacheDetailDrawer(CacheCleanup& cleanup, CacheTarget target, Instant now, QWidget* parent)
     : QDialog(parent)
-    , m_target(std::move(target)) {
+    , m_cleanup(cleanup)
+    , m_target(std::move(target))
+    , m_now(now)
+    , m_clean(new PushButton({}, PushButton::Look::prominent, QStringLiteral("trash"))) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(Translations::of(m_target.name));
@@ -72,11 +50,10 @@ CacheDetailDrawer::CacheDetailDrawer(CacheTarget target, QWidget* parent)
     column->addWidget(caption);
     column->addWidget(makeBreakdown(), 1);
 
-    auto* clean = new PushButton(tr("Clean %1").arg(Formatters::bytes(m_target.sizeBytes)),
-                                 PushButton::Look::prominent, QStringLiteral("trash"));
-    clean->setTint(Role::red);
-    connect(clean, &QPushButton::clicked, this, &CacheDetailDrawer::confirm);
-    column->addWidget(clean, 0, Qt::AlignRight);
+    m_clean->setTint(Role::red);
+    connect(m_clean, &QPushButton::clicked, this, &CacheDetailDrawer::confirm);
+    column->addWidget(m_clean, 0, Qt::AlignRight);
+    refresh();
 }
 
 QLayout* CacheDetailDrawer::makeHeader() {
@@ -107,21 +84,29 @@ QLayout* CacheDetailDrawer::makeLine(const QString& symbol, const QString& text)
     return row;
 }
 
-QWidget* CacheDetailDrawer::makeBreakdown() const {
-    auto* list = new SizeList(tr("Breakdown"));
-    for (const CacheEntry& entry : m_target.details)
-        list->addRow({.name = entry.path, .figure = Formatters::bytes(entry.sizeBytes)});
-    if (m_target.details.isEmpty())
-        list->addLine(m_target.lastScanned ? tr("Nothing found.") : tr("Rescan to see what it consists of."));
-    addNames(*list, m_target);
-    if (m_target.rule.measure == CleanupRule::Measure::containers && !m_target.details.isEmpty())
-        addVolumes(*list, m_target);
-    return list;
+QWidget* CacheDetailDrawer::makeBreakdown() {
+    if (m_target.details.isEmpty() && m_target.listed.isEmpty()) {
+        auto* empty = (new TextLabel(TextStyle::body))->secondary();
+        empty->setPlainText(m_target.lastScanned ? tr("Nothing found.")
+                                                 : tr("Rescan to see what it consists of."));
+        empty->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+        return empty;
+    }
+    m_preview = new CleanupPreview(m_cleanup, {m_target}, CleanupChoice::Levels::ofFolders, m_now);
+    connect(m_preview, &CleanupPreview::changed, this, &CacheDetailDrawer::refresh);
+    return m_preview;
+}
+
+void CacheDetailDrawer::refresh() {
+    const quint64 bytes = m_preview ? m_preview->sum().bytes : m_target.sizeBytes;
+    m_clean->setText(tr("Clean %1").arg(Formatters::bytes(bytes)));
+    m_clean->setEnabled(!m_preview || !m_preview->chosen().isEmpty());
 }
 
 void CacheDetailDrawer::confirm() {
-    CleanupConfirmation::ask(this, this, m_target, [this] {
-        Q_EMIT cleanRequested(m_target);
+    const CacheTarget chosen = m_preview ? m_preview->chosen().value(0) : m_target;
+    CleanupConfirmation::ask(this, this, chosen, [this, chosen] {
+        Q_EMIT cleanRequested(chosen);
         accept();
     });
 }

@@ -1,11 +1,10 @@
 #include "UI/Cleanup/CleanupConfirmation.h"
 
-#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
+#include "UI/Cleanup/CleanupPreview.h"
 #include "UI/Cleanup/CleanupTexts.h"
 #include "UI/Kit/ConfirmDialog.h"
-#include "UI/Kit/SizeList.h"
 
 #include <QCoreApplication>
 
@@ -13,23 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int maxListHeight = 300;
-
-SizeList* listOf(const QList<CacheTarget>& targets) {
-    auto* list = new SizeList(QCoreApplication::translate("CleanupConfirmation", "What goes"));
-    QStringList spoken;
-    for (const CacheTarget& target : targets) {
-        const SizeList::Row row{.name = Translations::of(target.name),
-                                .figure = Formatters::bytes(target.sizeBytes),
-                                .detail = CleanupTexts::whatGoes(target),
-                                .isGrave = CleanupTexts::takesUserFiles(target)};
-        list->addRow(row);
-        spoken.append(row.name + u", "_s + row.figure);
-    }
-    list->setAccessibleDescription(spoken.join(u"; "_s));
-    list->fit(ConfirmDialog::textWidth, maxListHeight);
-    return list;
-}
+constexpr QSize previewSize(600, 340);
 
 } // namespace
 
@@ -46,15 +29,23 @@ void CleanupConfirmation::ask(QWidget* parent, QObject* owner, const CacheTarget
     dialog->open();
 }
 
-void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, const QList<CacheTarget>& targets,
+void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, CacheCleanup& cleanup,
+                                 const QList<CacheTarget>& targets, Instant now,
                                  const std::function<void(const QList<CacheTarget>&)>& clean) {
     auto* dialog = new ConfirmDialog(
         parent, QCoreApplication::translate("CleanupConfirmation", "Clean all reclaimable caches?"),
         CleanupTexts::questionAll(targets));
-    dialog->addContent(listOf(targets));
-    auto* button = dialog->addAction(QCoreApplication::translate("CleanupConfirmation", "Clean %1")
-                                         .arg(Formatters::bytes(CleanupPlan::totalBytes(targets))),
-                                     PushButton::Look::destructive);
-    QObject::connect(button, &QPushButton::clicked, owner, [targets, clean] { clean(targets); });
+    auto* preview = new CleanupPreview(cleanup, targets, CleanupChoice::Levels::ofTargets, now);
+    preview->setFixedSize(previewSize);
+    dialog->addContent(preview);
+    auto* button = dialog->addAction({}, PushButton::Look::destructive);
+    const auto refresh = [preview, button] {
+        button->setText(QCoreApplication::translate("CleanupConfirmation", "Clean %1")
+                            .arg(Formatters::bytes(preview->sum().bytes)));
+        button->setEnabled(!preview->chosen().isEmpty());
+    };
+    refresh();
+    QObject::connect(preview, &CleanupPreview::changed, button, refresh);
+    QObject::connect(button, &QPushButton::clicked, owner, [preview, clean] { clean(preview->chosen()); });
     dialog->open();
 }

@@ -151,7 +151,8 @@ void CleanupView::refreshProgress() {
 
 void CleanupView::open(const CacheTarget& target) {
     m_selected = target.name;
-    auto* drawer = new CacheDetailDrawer(target, window());
+    auto* drawer =
+        new CacheDetailDrawer(m_model.cleanup(), target, m_model.systemSample().timestamp, window());
     connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model.cleanup(), &CacheCleanup::clean);
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
@@ -165,7 +166,8 @@ void CleanupView::open(const CacheTarget& target) {
 }
 
 void CleanupView::confirmCleanAll() {
-    CleanupConfirmation::askAll(window(), this, m_model.cleanup().targetsToClean(),
+    CleanupConfirmation::askAll(window(), this, m_model.cleanup(), m_model.cleanup().targetsToClean(),
+                                m_model.systemSample().timestamp,
                                 [this](const QList<CacheTarget>& targets) { cleanAll(targets); });
 }
 

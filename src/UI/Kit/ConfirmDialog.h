@@ -17,7 +17,7 @@ public:
 
     /// Adds an answer before Cancel. The dialog closes before the button's `clicked` reaches other receivers.
     PushButton* addAction(const QString& text, PushButton::Look look);
-    /// Adds a widget between the text and the buttons. It has to be as wide as `textWidth`.
+    /// Adds a widget between the text and the buttons. It has to be at least as wide as `textWidth`.
     void addContent(QWidget* content);
 
     static constexpr int textWidth = 420;

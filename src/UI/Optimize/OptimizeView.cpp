@@ -121,7 +121,7 @@ void OptimizeView::confirmCleanAll() {
     const QList<CacheTarget> targets = m_model.cleanup().targetsToClean();
     if (!m_preferences.askBeforeCleaningAll())
         return cleanAll(targets);
-    CleanupConfirmation::askAll(window(), this, targets,
+    CleanupConfirmation::askAll(window(), this, m_model.cleanup(), targets, m_model.systemSample().timestamp,
                                 [this](const QList<CacheTarget>& confirmed) { cleanAll(confirmed); });
 }
 

@@ -64,21 +64,6 @@ void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
     update();
 }
 
-void CandidateRow::drawTick(QPainter& painter, const QRectF& area) const {
-    if (!isChecked()) {
-        Painting::drawCard(painter, area, 4, Theme::color(Role::cardFill), Theme::color(Role::gray));
-        return;
-    }
-    Painting::drawCard(painter, area, 4, Theme::tileColor(Role::accent));
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF corner = area.topLeft();
-    const QPointF mark[] = {corner + QPointF(4, 8.5), corner + QPointF(7, 11.5), corner + QPointF(12, 5)};
-    painter.drawPolyline(mark, 3);
-    painter.restore();
-}
-
 void CandidateRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF ground = QRectF(rect()).adjusted(0, 1, 0, -1);
@@ -90,7 +75,8 @@ void CandidateRow::paintEvent(QPaintEvent*) {
         Painting::drawFocusRing(painter, ground, Theme::controlRadius);
 
     QRectF line = QRectF(rect()).adjusted(10, 0, -10, 0);
-    drawTick(painter, QRectF(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide));
+    const QRectF box(line.left(), qRound(line.center().y() - boxSide / 2.0), boxSide, boxSide);
+    Painting::drawTickBox(painter, box, isChecked() ? Qt::Checked : Qt::Unchecked);
     line.setLeft(line.left() + boxSide + 10);
     QRectF figures = Painting::takeRight(line, candidateBytesWidth + idleWidth);
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);

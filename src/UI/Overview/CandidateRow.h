@@ -24,7 +24,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void drawTick(QPainter& painter, const QRectF& area) const;
 
     FreeRamPreview m_candidate;
 };

@@ -137,6 +137,28 @@ QRectF takeRight(QRectF& line, double width, double gap) {
     return cell;
 }
 
+void drawTickBox(QPainter& painter, const QRectF& area, Qt::CheckState state) {
+    constexpr double tickRadius = 4;
+    if (state == Qt::Unchecked) {
+        drawCard(painter, area, tickRadius, Theme::color(Theme::Role::cardFill),
+                 Theme::color(Theme::Role::gray));
+        return;
+    }
+    drawCard(painter, area, tickRadius, Theme::tileColor(Theme::Role::accent));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(area.topLeft());
+    painter.scale(area.width() / 16, area.height() / 16);
+    if (state == Qt::PartiallyChecked) {
+        painter.drawLine(QPointF(4.5, 8), QPointF(11.5, 8));
+    } else {
+        const QPointF mark[] = {{4, 8.5}, {7, 11.5}, {12, 5}};
+        painter.drawPolyline(mark, 3);
+    }
+    painter.restore();
+}
+
 void drawProgress(QPainter& painter, const QRectF& area, double share, const QColor& tint) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -51,6 +51,9 @@ void drawElided(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, c
 /// Cuts a cell of `width` off the right of `line`, and `gap` beside it. Returns the cell.
 QRectF takeRight(QRectF& line, double width, double gap = Theme::rowSpacing);
 
+/// Draws a box that is ticked, not ticked, or ticked in part.
+void drawTickBox(QPainter& painter, const QRectF& area, Qt::CheckState state);
+
 /// Draws a bar of `share` (0 to 1) of its track.
 void drawProgress(QPainter& painter, const QRectF& area, double share, const QColor& tint);
 
