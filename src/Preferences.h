@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QSet>
+#include <QStringList>
 
 #include <array>
 
@@ -106,6 +107,8 @@ public:
     /// In minutes since midnight. The quiet time may go over midnight; it is empty where both are equal.
     Property<double> notifyQuietFrom{*this, u"pref.notifyQuiet_from", 22 * 60};
     Property<double> notifyQuietTo{*this, u"pref.notifyQuiet_to", 7 * 60};
+    /// Patterns of what no scan counts and no clean removes, see CleanupRule::excludes.
+    Property<QStringList> cleanupExcludes{*this, u"pref.cleanupExcludes", {}};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <stop_token>
 
@@ -13,9 +14,11 @@ struct ToolRequest {
     QString launchPath;
     QStringList arguments;
     bool captureOutput = false;
-    std::optional<std::chrono::milliseconds> timeout = {};
-    QByteArray input = {};     ///< its standard input
-    std::stop_token stop = {}; ///< terminates it as the timeout does
+    std::optional<std::chrono::milliseconds> timeout = {}; ///< with `onOutput`, since its last line
+    QByteArray input = {};                                 ///< its standard input
+    std::stop_token stop = {};                             ///< terminates it as the timeout does
+    /// Is called with each whole line of its standard output as it comes, without the line break.
+    std::function<void(const QByteArray&)> onOutput = {};
 };
 
 struct ToolResult {

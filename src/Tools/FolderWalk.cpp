@@ -126,6 +126,7 @@ private:
     std::uint64_t m_blocks = 0;
     std::int64_t m_modified = 0;
     std::size_t m_entries = 0;
+    std::vector<const dirent64*> m_order; ///< of the buffer's entries
     alignas(dirent64) std::array<char, bufferBytes> m_buffer;
 };
 
@@ -180,14 +181,19 @@ Walker::Read Walker::fillBuffer(const FoundFolder& folder, int descriptor) {
     return read;
 }
 
+/// Takes them by their inode, in whose order a disk has what their status is read from.
 void Walker::countEntries(const FolderPointer& folder, int descriptor, std::size_t bytes) {
+    m_order.clear();
     for (std::size_t at = 0; at < bytes;) {
         const auto* entry = reinterpret_cast<const dirent64*>(m_buffer.data() + at);
         at += entry->d_reclen;
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..")
-            count(folder, descriptor, entry->d_name);
+            m_order.push_back(entry);
     }
+    std::ranges::sort(m_order, {}, &dirent64::d_ino);
+    for (const dirent64* entry : m_order)
+        count(folder, descriptor, entry->d_name);
 }
 
 void Walker::count(const FolderPointer& parent, int descriptor, const char* name) {

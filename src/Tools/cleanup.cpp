@@ -184,18 +184,22 @@ private:
     std::chrono::steady_clock::time_point m_next;
 };
 
-std::uint64_t freeBytes(const Folder& folder) {
+std::optional<std::uint64_t> freeBytes(const Folder& folder) {
     struct statvfs volume {};
-    return fstatvfs(folder.descriptor(), &volume) == 0 ? volume.f_bavail * volume.f_frsize : 0;
+    if (fstatvfs(folder.descriptor(), &volume) != 0)
+        return std::nullopt;
+    return volume.f_bavail * volume.f_frsize;
 }
 
 int remove(const Folder& folder, const CleanupListing& listing, const CleanupScope& scope) {
     std::signal(SIGTERM, stop);
-    const std::uint64_t before = freeBytes(folder);
+    const auto before = freeBytes(folder);
     ProgressLines lines;
     const Remainder left = removeEntries(folder, listing, scope, std::ref(lines));
     lines.print(left.removed);
-    std::cout << "volume " << before << ' ' << freeBytes(folder) << std::endl;
+    const auto after = freeBytes(folder);
+    if (before && after)
+        std::cout << "volume " << *before << ' ' << *after << std::endl;
     if (left.isStopped)
         return complain("it was stopped", 1);
     if (left.count > 0)
@@ -231,14 +235,13 @@ void raiseDescriptorLimit() {
 
 /// Lists and removes the contents of a folder:
 ///
-/// * `cleanup list [OPTION...] FOLDER` prints a listing (see CleanupListing). With `--in` it is of the folder
-/// in
-///   FOLDER whose relative path is on standard input, up to a NUL or the end. With `--used` the output of
-///   `cleanup open` comes on standard input, behind that path; otherwise it looks for used files itself.
+/// * `cleanup list [OPTION...] FOLDER` prints a listing (see CleanupListing). With `--in` it is of a folder
+///   in FOLDER: its relative path is on standard input, up to a NUL or the end. With `--used` the output of
+///   `cleanup open` is there, behind that path; otherwise it looks for used files itself.
 /// * `cleanup check [OPTION...] FOLDER` reads a listing from standard input and prints what of it would go.
 /// * `cleanup remove [OPTION...] FOLDER` reads a listing and removes what it lists. It prints lines of
 ///   "BYTES ENTRIES", what is gone so far, and at the end "volume BEFORE AFTER", the free bytes of the file
-///   system. SIGTERM ends it between two entries.
+///   system, if it tells them. SIGTERM ends it between two entries.
 /// * `cleanup open` prints what running programs use (see openFiles).
 ///
 /// Errors are about FOLDER. Status 1 when the folder is a symlink, cannot be opened, is not the listed one,

@@ -3,6 +3,7 @@
 #include "support/Listing.h"
 
 #include <QDir>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +33,11 @@ struct CacheCleanupTest : ReliefTest {
             const bool removes = request.arguments.first() == u"remove";
             const QString path = request.arguments.last();
             const quint64 bytes = path == npm ? 2 << 20 : path == logs ? 1 << 20 : 0;
-            return ScriptedTools::exited(removes && path == failing ? 1 : 0, listingOf({{"all", bytes}}));
+            if (removes) // more than was listed, of small files
+                return ScriptedTools::exited(path == failing ? 1 : 0, path == npm
+                                                                          ? "9999999 1\nvolume 50 40\n"
+                                                                          : "4096 1\nvolume 9 12\n");
+            return ScriptedTools::exited(0, listingOf({{"all", bytes}}));
         };
     }
     CacheTarget target(const QString& name) const {
@@ -41,6 +46,9 @@ struct CacheCleanupTest : ReliefTest {
                 return one;
         }
         return {};
+    }
+    bool awaitRequests(qsizetype count) {
+        return QTest::qWaitFor([&] { return tools->requests.size() == count; });
     }
     void releaseAll() {
         for (qsizetype i = 0; i < tools->requests.size(); ++i)
@@ -60,8 +68,25 @@ TEST_F(CacheCleanupTest, CleansOnlyWhatWasMeasuredAndLogsEachTarget) {
     EXPECT_EQ(cleaned, std::pair(1, quint64(0)));
     EXPECT_EQ(logged(),
               QStringList({u"clean [batch] User logs fail"_s, u"clean [batch] npm / pnpm / yarn ok"_s}));
+    EXPECT_EQ(cleanup.report().volumeBytes, -7) << "other programs wrote meanwhile";
     EXPECT_FALSE(cleanup.isCleaning());
     EXPECT_FALSE(cleanup.isScanning());
+}
+
+TEST_F(CacheCleanupTest, LeavesAloneWhatTheUserExcludes) {
+    const QStringList excludes = {u"*.db, and more"_s, u"/a \"path\""_s};
+    settings.preferences.cleanupExcludes.set(excludes);
+    EXPECT_EQ(Preferences(settings.path).cleanupExcludes(), excludes);
+    QCoro::waitFor(cleanup.clean(target(u"npx cache"_s)));
+    int asked = 0;
+    for (const ToolRequest& request : tools->requests) {
+        if (request.launchPath != u"cleanup" || request.arguments.first() == u"open")
+            continue;
+        ++asked;
+        for (const QString& pattern : excludes)
+            EXPECT_TRUE(request.arguments.contains(pattern)) << qPrintable(request.arguments.first());
+    }
+    EXPECT_GE(asked, 2);
 }
 
 TEST_F(CacheCleanupTest, CleansOneTargetAndMeasuresAgain) {
@@ -72,27 +97,34 @@ TEST_F(CacheCleanupTest, CleansOneTargetAndMeasuresAgain) {
 
 TEST_F(CacheCleanupTest, PublishesTheProgress) {
     QCoro::waitFor(cleanup.rescan());
+    const qsizetype before = tools->requests.size();
     tools->suspended = true;
     auto scan = cleanup.rescan();
     ASSERT_TRUE(cleanup.isScanning() && tools->release(u"open"_s));
     EXPECT_EQ(cleanup.scanProgress()->total, cleanup.targets().size());
-    EXPECT_EQ(cleanup.scanProgress()->done, cleanup.targets().size() - 3) << "three wait for a tool";
+    ASSERT_TRUE(awaitRequests(before + 4)) << "three wait for a tool";
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return cleanup.scanProgress()->done == cleanup.targets().size() - 3; }));
     EXPECT_EQ(cleanup.scanProgress()->target, u"npm / pnpm / yarn"_s);
-    const auto before = cleanup.targets();
+    const auto published = cleanup.targets();
     EXPECT_TRUE(tools->release(logs));
-    EXPECT_EQ(cleanup.targets(), before) << "results land only together";
+    EXPECT_EQ(cleanup.scanProgress()->bytes, 1u << 20);
+    EXPECT_EQ(cleanup.targets(), published) << "results land only together";
 
+    const qsizetype ofTheScan = tools->requests.size();
     auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
     auto other = cleanup.clean(target(u"Docker"_s));
-    EXPECT_EQ(*cleanup.cleanProgress(), (CleanupProgress{u"Docker"_s, 0, 3}));
+    EXPECT_EQ(*cleanup.cleanProgress(), (CleanupProgress{u"Docker"_s, 0, 3, 0, 3 << 20}));
+    ASSERT_TRUE(awaitRequests(ofTheScan + 2));
     tools->suspended = false;
     while (tools->release(npm))
         ;
-    EXPECT_EQ(cleanup.cleanProgress()->done, 2);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cleanup.cleanProgress()->done == 2; }));
+    EXPECT_EQ(cleanup.cleanProgress()->bytes, (2 << 20) + 4096) << "what it says, and no more than there was";
     EXPECT_TRUE(tools->release(u"docker system prune -af --volumes && echo 'tavrin: done'"_s));
     EXPECT_FALSE(cleanup.isCleaning());
     EXPECT_TRUE(tools->release(u"-lc"_s)) << "the container report of the scan";
-    EXPECT_TRUE(other.isReady() && cleaning.isReady() && scan.isReady());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other.isReady() && cleaning.isReady() && scan.isReady(); }));
 }
 
 TEST_F(CacheCleanupTest, CancelEndsRunningCleansAndStartsNoMore) {
@@ -101,15 +133,16 @@ TEST_F(CacheCleanupTest, CancelEndsRunningCleansAndStartsNoMore) {
     tools->suspended = true;
     auto cleaning = cleanup.cleanAll(cleanup.targetsToClean());
     auto other = cleanup.clean(target(u"Docker"_s));
-    ASSERT_EQ(tools->requests.size(), 2);
+    ASSERT_TRUE(awaitRequests(2));
     cleanup.cancel();
     for (const ToolRequest& request : tools->requests)
         EXPECT_TRUE(request.stop.stop_requested());
     auto later = cleanup.clean(target(u"User logs"_s));
+    ASSERT_TRUE(awaitRequests(3));
     EXPECT_FALSE(tools->requests.last().stop.stop_requested()) << "started after the cancel";
     tools->suspended = false;
     releaseAll();
-    EXPECT_TRUE(cleaning.isReady() && other.isReady() && later.isReady());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return cleaning.isReady() && other.isReady() && later.isReady(); }));
     EXPECT_FALSE(cleanup.isCleaning());
     auto log = logged();
     log.sort();
@@ -125,7 +158,7 @@ TEST_F(CacheCleanupTest, AnOlderScanNeverReplacesANewerOne) {
     const auto newest = cleanup.targets();
     tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "99999 x"); };
     releaseAll();
-    EXPECT_TRUE(older.isReady());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return older.isReady(); }));
     EXPECT_EQ(cleanup.targets(), newest);
 }
 
@@ -159,7 +192,7 @@ TEST_F(CacheCleanupTest, MayBeDestroyedWhileToolsRun) {
     model.reset();
     tools->suspended = false;
     releaseAll();
-    EXPECT_TRUE(scan.isReady() && cleaning.isReady());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scan.isReady() && cleaning.isReady(); }));
 }
 
 } // namespace

@@ -5,6 +5,10 @@
 #include "support/Listing.h"
 #include "support/TemporaryHome.h"
 
+#include <QElapsedTimer>
+#include <QSemaphore>
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -95,7 +99,7 @@ TEST_F(CacheScannerTest, AddsUpAllOldFilesAndKeepsTheFirstHundred) {
     EXPECT_EQ(target.details.first(),
               (CacheEntry{folder + u"/deep/"_s + QFile::decodeName("caf\xe9 100\nof many"), 100}));
     EXPECT_EQ(target.details.last().sizeBytes, 1U);
-    EXPECT_EQ(target.listed, (QList<ListedFolder>{{folder, target.sizeBytes, listingOf(files)}}));
+    EXPECT_EQ(target.listed, (QList<ListedFolder>{{folder, target.sizeBytes, listingOf(files), folder}}));
 }
 
 TEST_F(CacheScannerTest, SaysWhyAFolderIsLeftAlone) {
@@ -196,7 +200,7 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
     CacheScanner scanner(platform, [&](const CleanupProgress& now) { progress.append(now); });
     auto scan = scanner.scan(targets);
     EXPECT_TRUE(tools->release(u"open"_s));
-    EXPECT_EQ(tools->requests.size(), 5) << "one path of each target";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return tools->requests.size() == 5; })) << "one path of each target";
 
     const auto finish = [&](const QString& name) {
         for (const auto& folder : {u"/1"_s, u"/2"_s}) {
@@ -209,12 +213,54 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
         finish(name);
     EXPECT_FALSE(scan.isReady());
     const QString hangs = u"hangs"_s;
-    EXPECT_EQ(progress, (QList<CleanupProgress>{{hangs, 1, 4}, {hangs, 2, 4}, {hangs, 3, 4}}));
+    EXPECT_EQ(progress, (QList<CleanupProgress>{{hangs, 1, 4, 18}, {hangs, 2, 4, 20}, {hangs, 3, 4, 22}}));
 
     finish(hangs);
-    EXPECT_EQ(progress.last(), (CleanupProgress{{}, 4, 4}));
+    EXPECT_EQ(progress.last(), (CleanupProgress{{}, 4, 4, 24}));
     EXPECT_EQ(each(QCoro::waitFor(scan), &CacheTarget::name),
               QStringList({u"largest"_s, u"equal two"_s, u"equal one"_s, u"hangs"_s}));
+}
+
+/// Does not answer for one path, as a file server that is gone, until it is destroyed.
+class PlacesThatHang : public Places {
+public:
+    QString silent;
+
+    QList<Place> locate(const QString& path) const override {
+        if (path == silent) {
+            m_hangs.acquire();
+            m_hangs.release();
+        }
+        return {Place{path}};
+    }
+    void answer() { m_hangs.release(); }
+
+private:
+    mutable QSemaphore m_hangs;
+};
+
+TEST_F(CacheScannerTest, AFileServerThatIsGoneHoldsUpNothingElse) {
+    const auto hanging = std::make_shared<PlacesThatHang>();
+    hanging->silent = home.path(u"gone"_s);
+    platform.places = hanging;
+    answerEverythingWith(listingOf({{"a", 9}}));
+    const CacheTarget before{.name = u"hangs"_s,
+                             .paths = {home.path(), hanging->silent},
+                             .sizeBytes = 7,
+                             .details = {{u"/a"_s, 7}},
+                             .listed = {{u"/a"_s, 7, listingOf({{"a", 7}})}}};
+    CacheScanner scanner(platform, {}, std::chrono::milliseconds(100));
+    auto scan = scanner.scan({before, {.name = u"answers"_s, .paths = {home.path()}}});
+    QElapsedTimer timer;
+    timer.start();
+    QCoreApplication::processEvents();
+    EXPECT_LT(timer.elapsed(), 90) << "the windows go on";
+    const QList<CacheTarget> targets = QCoro::waitFor(scan);
+    EXPECT_EQ(each(targets, &CacheTarget::sizeBytes), QList<quint64>({9, 7}));
+    CacheTarget after = before;
+    after.notes = {hanging->silent + u" does not answer."_s};
+    EXPECT_EQ(targets.last(), after);
+    hanging->answer();
 }
 
 } // namespace

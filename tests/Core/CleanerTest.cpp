@@ -22,7 +22,8 @@ protected:
 
     CleanResult clean(const CacheTarget& target) {
         tools->requests.clear();
-        return QCoro::waitFor(Cleaner::clean(target, tools, places, now, stop.get_token()));
+        return QCoro::waitFor(Cleaner::clean(target, tools, places, now, stop.get_token(),
+                                             [this](quint64 bytes) { progress.append(bytes); }));
     }
     static CacheTarget scanned(const QStringList& folders, const CleanupRule& rule = {}) {
         CacheTarget target{.name = u"x"_s, .paths = folders, .lastScanned = now, .rule = rule};
@@ -48,6 +49,7 @@ protected:
 
     TemporaryHome home;
     std::stop_source stop;
+    QList<quint64> progress;
     std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
 };
@@ -105,6 +107,33 @@ TEST_F(CleanerTest, PrunesOnlyThroughTheTargetsOwnCommand) {
                   QStringList(u"/bin/sh -lc brew cleanup -s && echo 'tavrin: done'"_s));
         EXPECT_TRUE(tools->requests.first().timeout) << "or it could hang for ever";
     }
+}
+
+TEST_F(CleanerTest, TellsWhatIsGoneSoFarAndWhatCameBack) {
+    const QStringList folders = {home.makeFolder(u"one"_s), home.makeFolder(u"two"_s)};
+    tools->answer = [&](const ToolRequest& request) {
+        if (request.launchPath != u"cleanup")
+            return ScriptedTools::exited(0);
+        const bool isFirst = request.arguments.last() == folders.first();
+        return ScriptedTools::exited(isFirst ? 1 : 0,
+                                     isFirst ? "10 1\n40 3\nvolume 100 90\n" : "5 1\nvolume 90 130\n");
+    };
+    const CleanResult result = clean(scanned(folders, oldFiles));
+    EXPECT_FALSE(result.done);
+    EXPECT_EQ(progress, QList<quint64>({10, 40, 40, 45, 45}));
+    EXPECT_EQ(result.volumeBytes, 30);
+    tools->answer = [](const ToolRequest&) { return ScriptedTools::exited(0, "0 0\n"); };
+    EXPECT_EQ(clean(scanned(folders, oldFiles)).volumeBytes, std::nullopt)
+        << "a file system that does not tell";
+}
+
+TEST_F(CleanerTest, MovesToTheTrashOnlyOldFilesOfTheUser) {
+    CacheTarget target = scanned({home.makeFolder(u"folder"_s)}, oldFiles);
+    const auto move = [&] { return QCoro::waitFor(Cleaner::moveToTrash(target, tools, places, now)); };
+    EXPECT_FALSE(move().done);
+    target.rule = {.hasUserFiles = true};
+    EXPECT_FALSE(move().done);
+    EXPECT_TRUE(tools->requests.isEmpty());
 }
 
 TEST_F(CleanerTest, LeavesProtectedFoldersAloneAndCleansTheOthers) {

@@ -1,6 +1,8 @@
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Platform/Child.h"
 #include "Platform/CleanupFixture.h"
 #include "support/Each.h"
+#include "support/Files.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -81,7 +83,8 @@ TEST_F(CleanupOnDisk, EmptiesAFolderWhateverItsEntriesAreCalled) {
     EXPECT_TRUE(QFileInfo::exists(outside));
 
     ASSERT_TRUE(QFile::remove(cache + u"/..stays"_s));
-    EXPECT_EQ(clean(target), (CleanResult{Outcome::success(), 0})) << "an empty folder";
+    const CleanResult ofNothing = clean(target);
+    EXPECT_TRUE(ofNothing.done && ofNothing.freedBytes == 0) << "an empty folder";
 }
 
 TEST_F(CleanupOnDisk, ReachesNothingThroughAPathThatWasSwapped) {
@@ -272,10 +275,69 @@ TEST_F(CleanupOnDisk, DeletesOnlyOldScreenshots) {
     home.makeFolder(u"Desktop/Screen folder"_s);
     const CacheTarget measured = scanned(target(u"Old Desktop screenshots (>30d)"_s));
     EXPECT_EQ(measured.sizeBytes, static_cast<quint64>(2 * png.size() + webm.size()));
-    EXPECT_EQ(clean(measured), (CleanResult{Outcome::success(), 0}));
+    const CleanResult result = clean(measured);
+    EXPECT_TRUE(result.done && result.freedBytes == 0);
     for (const auto& [name, days, content, stays] : files)
         EXPECT_EQ(QFileInfo::exists(home.path(name)), stays) << name.toStdString();
     EXPECT_TRUE(QFileInfo::exists(home.path(u"Desktop/Screen folder"_s)));
+    EXPECT_TRUE(QFileInfo::exists(home.path(u"Desktop/deep"_s))) << "which became empty";
+}
+
+TEST_F(CleanupOnDisk, MovesToTheTrashWhatIsStillOldAndSaysWhatItCannot) {
+    age(home.makeFile(u"Downloads/deep/old"_s, "moved"), 40);
+    age(home.makeFile(u"Downloads/changed"_s), 40);
+    age(home.makeFile(u"Downloads/new"_s), 0);
+    const std::string odd = home.path(u"Downloads"_s).toStdString() + "/caf\xe9";
+    std::ofstream(odd) << "x";
+    std::filesystem::last_write_time(odd, std::filesystem::file_time_type::clock::now());
+    const CacheTarget measured = scanned(target(u"Old Downloads (>30d)"_s));
+    age(home.path(u"Downloads/changed"_s), 0);
+    QList<quint64> progress;
+    const CleanResult result = QCoro::waitFor(Cleaner::moveToTrash(
+        measured, tools, places, clock->now(), {}, [&](quint64 bytes) { progress.append(bytes); }));
+    EXPECT_FALSE(result.done);
+    EXPECT_TRUE(result.reason.contains(u"caf"_s)) << qPrintable(result.reason);
+    EXPECT_EQ(result.freedBytes, 0u);
+    EXPECT_EQ(progress, QList<quint64>({6}));
+    EXPECT_EQ(contentOf(home.path(u".local/share/Trash/files/old"_s)), "moved");
+    EXPECT_TRUE(QFileInfo::exists(home.path(u".local/share/Trash/info/old.trashinfo"_s)));
+    EXPECT_TRUE(QFileInfo(home.path(u"Downloads/deep"_s)).isDir()) << "a folder that became empty stays";
+    EXPECT_TRUE(QFileInfo::exists(home.path(u"Downloads/changed"_s)));
+    EXPECT_TRUE(std::filesystem::remove(odd)); // Qt cannot name it
+}
+
+TEST_F(CleanupOnDisk, CleansTheChosenEntriesOfAListing) {
+    for (const auto& file : {u"cache/a"_s, u"cache/b/c/file"_s, u"cache/b/d/e"_s, u"cache/b/d/stays"_s})
+        home.makeFile(file, QByteArray(50'000, 'x'));
+    CacheTarget cache = scanned({.name = u"x"_s, .paths = {home.path(u"cache"_s)}});
+    const QString folder = home.path(u"cache"_s);
+    const QByteArray top = cache.listed.first().listing;
+    QByteArray chosen = CleanupPlan::ListingReader(top).header().toByteArray();
+    quint64 bytes = 0;
+    for (const auto& [inside, name] :
+         {std::pair("", "a"), std::pair("b", "b/c"), std::pair("b/d", "b/d/e")}) {
+        const bool isTop = *inside == '\0';
+        const QByteArray listing =
+            isTop
+                ? top
+                : QCoro::waitFor(Cleaner::listInside(cache.rule, folder, inside, clock->now(), tools)).value;
+        CleanupPlan::ListingReader reader(listing);
+        while (const auto entry = reader.next()) {
+            if (entry->path == name) {
+                chosen += entry->record.toByteArray();
+                bytes += entry->sizeBytes;
+            }
+        }
+    }
+    cache.listed = {{folder, bytes, chosen}};
+    EXPECT_EQ(CleanupPlan::listedBytes(cache), bytes);
+    const CleanResult result = clean(cache);
+    EXPECT_TRUE(result.done) << qPrintable(result.reason);
+    EXPECT_EQ(result.freedBytes, bytes);
+    EXPECT_TRUE(result.volumeBytes);
+    EXPECT_EQ(entries(folder), QStringList(u"b"_s));
+    EXPECT_EQ(entries(folder + u"/b"_s), QStringList(u"d"_s));
+    EXPECT_EQ(entries(folder + u"/b/d"_s), QStringList(u"stays"_s));
 }
 
 TEST_F(CleanupOnDisk, AnOldFileThatJustArrivedIsNotOld) {

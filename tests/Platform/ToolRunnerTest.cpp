@@ -107,6 +107,38 @@ TEST(ToolRunner, TerminatesWhatTakesTooLong) {
     }
 }
 
+TEST(ToolRunner, PassesOnLinesAsTheyComeAndWaitsForTheNext) {
+    UnixToolRunner runner;
+    QByteArrayList lines;
+    QList<qint64> times;
+    QElapsedTimer time;
+    time.start();
+    ToolRequest request{
+        .launchPath = u"/bin/sh"_s,
+        .arguments = {u"-c"_s, u"for i in 1 2 3 4; do echo \"line $i\"; sleep 0.3; done; printf end"_s},
+        .captureOutput = true,
+        .timeout = 700ms,
+        .onOutput = [&](const QByteArray& line) {
+            lines.append(line);
+            times.append(time.elapsed());
+        }};
+    const ToolResult result = QCoro::waitFor(runner.run(request));
+    EXPECT_TRUE(result.succeeded()) << "it took longer than its timeout, but no line did";
+    EXPECT_EQ(lines, QByteArrayList({"line 1", "line 2", "line 3", "line 4"}));
+    EXPECT_EQ(result.output, "line 1\nline 2\nline 3\nline 4\nend");
+    EXPECT_LT(times.value(0), 300);
+
+    lines.clear();
+    request.arguments[1] = u"echo one; sleep 60"_s;
+    request.captureOutput = false;
+    time.restart();
+    const ToolResult silent = QCoro::waitFor(runner.run(request));
+    EXPECT_FALSE(silent.succeeded());
+    EXPECT_LT(time.elapsed(), 3000);
+    EXPECT_EQ(lines, QByteArrayList({"one"}));
+    EXPECT_TRUE(silent.output.isEmpty());
+}
+
 TEST(ToolRunner, PassesOnWhatTheToolIsToRead) {
     UnixToolRunner runner;
     const QByteArray much(1 << 20, '\0');

@@ -148,15 +148,17 @@ TEST_F(AlertNotifierTest, AnActionOpensWhatItNames) {
 TEST_F(AlertNotifierTest, ALongCleanThatNobodyWatches) {
     fillNpmFolder();
     const auto clean = [this](double seconds) {
-        model.cleanup().rescan();
+        QCoro::waitFor(model.cleanup().rescan());
         fakes.tools->suspended = true;
         model.cleanup().cleanAll(model.cleanup().targetsToClean());
         settle();
         fakes.clock->advance(seconds);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return fakes.tools->release(home.path(u".npm"_s)); }));
         fakes.tools->suspended = false;
-        EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
+        while (fakes.tools->release(home.path(u".npm"_s))) {
+        }
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !model.cleanup().isCleaning(); }));
         settle();
-        EXPECT_FALSE(model.cleanup().isCleaning());
     };
     clean(10);
     EXPECT_TRUE(notifications.shown.isEmpty());

@@ -159,7 +159,7 @@ TEST_F(CleanupViewTest, TheGridReflowsWithTheWindow) {
 }
 
 TEST_F(CleanupViewTest, WhatWasConfirmedIsWhatIsCleaned) {
-    const QByteArray shown = listingOf({{"_cacache", 0}});
+    const QByteArray shown = withTotal(listingOf({{"_cacache", 0}}), 2 << 20);
     answer(shown);
     rescan();
     press(*view, u"Clean All"_s);
@@ -196,6 +196,7 @@ TEST_F(CleanupViewTest, ACleanCanBeCancelledAndSaysSo) {
     EXPECT_TRUE(showsText(*view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
     auto* cancel = buttonNamed(*view, u"Cancel cleaning"_s);
     ASSERT_TRUE(cancel && cancel->focusPolicy() & Qt::TabFocus);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fakes.tools->requests.last().launchPath == u"/usr/bin/du"; }));
     QTest::keyClick(cancel, Qt::Key_Space);
     fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));

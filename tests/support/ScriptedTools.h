@@ -23,7 +23,12 @@ public:
             Turn turn{m_waiting};
             co_await turn;
         }
-        co_return answer(request);
+        const ToolResult result = answer(request);
+        if (request.onOutput) {
+            for (const QByteArray& line : result.output.split('\n').mid(0, result.output.count('\n')))
+                request.onOutput(line);
+        }
+        co_return result;
     }
 
     /// Resumes the first suspended request with this argument, and returns false when there is none.

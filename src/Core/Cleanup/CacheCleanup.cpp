@@ -2,15 +2,30 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheScanner.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Platform/Clock.h"
+#include "Preferences.h"
 
 #include <QPointer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
-CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log)
+namespace {
+
+QList<CacheTarget> without(QList<CacheTarget> targets, const QStringList& excludes) {
+    for (CacheTarget& target : targets)
+        target.rule.excludes = excludes;
+    return targets;
+}
+
+} // namespace
+
+CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences)
     : m_platform(platform)
-    , m_log(log) {}
+    , m_log(log)
+    , m_preferences(preferences) {}
 
 QCoro::Task<> CacheCleanup::rescan() {
     const QPointer<CacheCleanup> self(this);
@@ -23,7 +38,7 @@ QCoro::Task<> CacheCleanup::rescan() {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
     });
-    auto scanning = scanner.scan(m_targets);
+    auto scanning = scanner.scan(without(m_targets, m_preferences.cleanupExcludes()));
     const QList<CacheTarget> measured = co_await scanning;
     if (!self || m_scansBegun != scan)
         co_return;
@@ -31,11 +46,13 @@ QCoro::Task<> CacheCleanup::rescan() {
     publish(m_scanProgress, std::optional<CleanupProgress>());
 }
 
-void CacheCleanup::expectCleans(int count) {
+void CacheCleanup::expectCleans(const QList<CacheTarget>& targets) {
     if (!m_cleanProgress)
         publish(m_report, CleanupReport{});
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
-    progress.total += count;
+    progress.total += static_cast<int>(targets.size());
+    for (const CacheTarget& target : targets)
+        progress.totalBytes += CleanupPlan::listedBytes(target);
     if (progress.total > 0)
         publish(m_cleanProgress, std::optional(progress));
 }
@@ -46,15 +63,28 @@ void CacheCleanup::countCleans(int done) {
     publish(m_cleanProgress, progress.done < progress.total ? std::optional(progress) : std::nullopt);
 }
 
-QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(CacheTarget target, QString logDetail,
+Cleaner::Progress CacheCleanup::progressOf(quint64 total) {
+    const auto last = std::make_shared<quint64>(0);
+    return [self = QPointer<CacheCleanup>(this), last, total](quint64 bytes) {
+        const quint64 sofar = std::min(bytes, total); // small old files take more than their length
+        if (!self || !self->m_cleanProgress || sofar <= *last)
+            return;
+        CleanupProgress progress = *self->m_cleanProgress;
+        progress.bytes += sofar - std::exchange(*last, sofar);
+        self->publish(self->m_cleanProgress, std::optional(progress));
+    };
+}
+
+QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(Way way, CacheTarget target, QString logDetail,
                                                          std::stop_token stop) {
     const QPointer<CacheCleanup> self(this);
     CleanupProgress progress = m_cleanProgress.value_or(CleanupProgress{});
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
 
-    auto cleaning =
-        Cleaner::clean(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop);
+    target.rule.excludes = m_preferences.cleanupExcludes();
+    auto cleaning = way(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop,
+                        progressOf(CleanupPlan::listedBytes(target)));
     const Cleaner::CleanResult result = co_await cleaning;
     if (!self)
         co_return result;
@@ -72,6 +102,8 @@ void CacheCleanup::noteResult(const CacheTarget& target, const Cleaner::CleanRes
     } else {
         report.failures.append({target.name, result.reason});
     }
+    if (result.volumeBytes)
+        report.volumeBytes = report.volumeBytes.value_or(0) + *result.volumeBytes;
     publish(m_report, report);
 }
 
@@ -87,15 +119,23 @@ void CacheCleanup::cancel() {
     std::exchange(m_cleaning, std::stop_source()).request_stop();
 }
 
-QCoro::Task<> CacheCleanup::clean(CacheTarget target) {
+QCoro::Task<> CacheCleanup::cleanAndRescan(Way way, CacheTarget target) {
     const QPointer<CacheCleanup> self(this);
-    expectCleans(1);
-    auto cleaning = cleanOne(target, target.name, m_cleaning.get_token());
+    expectCleans({target});
+    auto cleaning = cleanOne(way, target, target.name, m_cleaning.get_token());
     co_await cleaning;
     if (!self)
         co_return;
     auto scanning = rescan();
     co_await scanning;
+}
+
+QCoro::Task<> CacheCleanup::clean(CacheTarget target) {
+    return cleanAndRescan(Cleaner::clean, target);
+}
+
+QCoro::Task<> CacheCleanup::moveToTrash(CacheTarget target) {
+    return cleanAndRescan(Cleaner::moveToTrash, target);
 }
 
 QList<CacheTarget> CacheCleanup::targetsToClean() const {
@@ -106,7 +146,7 @@ QList<CacheTarget> CacheCleanup::targetsToClean() const {
 
 QCoro::Task<std::pair<int, quint64>> CacheCleanup::cleanAll(QList<CacheTarget> targets) {
     const QPointer<CacheCleanup> self(this);
-    expectCleans(static_cast<int>(targets.size()));
+    expectCleans(targets);
     const std::stop_token stop = m_cleaning.get_token();
 
     std::pair<int, quint64> total(0, 0);
@@ -115,7 +155,7 @@ QCoro::Task<std::pair<int, quint64>> CacheCleanup::cleanAll(QList<CacheTarget> t
             countCleans(static_cast<int>(targets.size() - i));
             break;
         }
-        auto cleaning = cleanOne(targets[i], u"[batch] "_s + targets[i].name, stop);
+        auto cleaning = cleanOne(Cleaner::clean, targets[i], u"[batch] "_s + targets[i].name, stop);
         const Cleaner::CleanResult result = co_await cleaning;
         if (!self)
             co_return total;

@@ -13,14 +13,15 @@
 #include <utility>
 
 class ActionLog;
+class Preferences;
 
 /// The cleanup targets of the last scan, and the scans and cleans that run.
 class CacheCleanup : public Observable {
     Q_OBJECT
 
 public:
-    /// `log` outlives the cleanup.
-    CacheCleanup(const Platform& platform, ActionLog& log);
+    /// `log` and `preferences` outlive the cleanup.
+    CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences);
 
     const QList<CacheTarget>& targets() const { return m_targets; }
     /// Returns an empty optional while no scan runs.
@@ -36,6 +37,8 @@ public:
     QCoro::Task<> rescan();
     /// Cleans one target, logs it and measures again.
     QCoro::Task<> clean(CacheTarget target);
+    /// Moves the old files of one target to the trash, logs it and measures again.
+    QCoro::Task<> moveToTrash(CacheTarget target);
     /// Returns the targets of "Clean All": those with a known size above 0.
     QList<CacheTarget> targetsToClean() const;
     /// Cleans these targets one after another, logs each and measures again. Returns how many succeeded, and
@@ -47,13 +50,20 @@ public:
     void cancel();
 
 private:
-    void expectCleans(int count);
+    using Way = decltype(&Cleaner::clean);
+
+    void expectCleans(const QList<CacheTarget>& targets);
     void countCleans(int done);
     void noteResult(const CacheTarget& target, const Cleaner::CleanResult& result);
-    QCoro::Task<Cleaner::CleanResult> cleanOne(CacheTarget target, QString logDetail, std::stop_token stop);
+    /// Returns what tells of the bytes that one clean has removed of `total`.
+    Cleaner::Progress progressOf(quint64 total);
+    QCoro::Task<> cleanAndRescan(Way way, CacheTarget target);
+    QCoro::Task<Cleaner::CleanResult> cleanOne(Way way, CacheTarget target, QString logDetail,
+                                               std::stop_token stop);
 
     Platform m_platform;
     ActionLog& m_log;
+    const Preferences& m_preferences;
     QList<CacheTarget> m_targets = CacheTarget::defaults();
     std::optional<CleanupProgress> m_scanProgress;
     std::optional<CleanupProgress> m_cleanProgress;

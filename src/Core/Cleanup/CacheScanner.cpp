@@ -4,14 +4,12 @@
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
-#include "Platform/Places.h"
 #include "Platform/Platform.h"
 #include "Platform/ToolRunner.h"
 
 #include <QCoreApplication>
 #include <QCoroTimer>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -41,17 +39,15 @@ const auto volumesThatGo =
     "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
     "done; } 2>/dev/null || true"_s;
 
-/// Returns the target's places that may be cleaned, and notes why others may not.
-QStringList openPlaces(CacheTarget& target, const Places& places) {
-    QStringList open;
+/// Returns the places that may be cleaned, and notes why others may not.
+QList<FoundPlace> openPlaces(CacheTarget& target, const QList<FoundPlace>& places) {
+    QList<FoundPlace> open;
     target.notes.clear();
-    for (const Place& place : CleanupPlan::placesOf(target, places)) {
-        if (!QFileInfo::exists(place.path))
-            continue;
-        if (place.objection.isEmpty())
-            open.append(place.path);
+    for (const FoundPlace& found : places) {
+        if (found.place.objection.isEmpty())
+            open.append(found);
         else
-            target.notes.append(place.objection);
+            target.notes.append(found.place.objection);
     }
     return open;
 }
@@ -65,11 +61,6 @@ void take(CacheTarget& target, const ListedFolder& folder, const QString& reason
     target.sizeBytes += folder.sizeBytes;
 }
 
-bool containsKeptFolder(const QString& folder) {
-    const QString kept = QFileInfo(CleanupPlan::keptFolder()).canonicalFilePath();
-    return !kept.isEmpty() && kept.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
-}
-
 QString trimmedBlanks(QStringView text) {
     const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
     while (!text.isEmpty() && isBlank(text.front()))
@@ -81,11 +72,12 @@ QString trimmedBlanks(QStringView text) {
 
 } // namespace
 
-CacheScanner::CacheScanner(const Platform& platform, Progress progress)
+CacheScanner::CacheScanner(const Platform& platform, Progress progress, std::chrono::milliseconds patience)
     : m_tools(platform.tools)
     , m_places(platform.places)
     , m_clock(platform.clock)
-    , m_progress(std::move(progress)) {}
+    , m_progress(std::move(progress))
+    , m_patience(patience) {}
 
 QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
     for (const CacheTarget& target : targets)
@@ -105,57 +97,68 @@ QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
 }
 
 QCoro::Task<> CacheScanner::measure(CacheTarget target) {
-    CacheTarget measured = co_await scanOne(target);
-    measured.lastScanned = m_clock->now();
+    auto finding = PlaceFinder::find(target.paths, m_places, m_patience);
+    const Result<QList<FoundPlace>> places = co_await finding;
+    CacheTarget measured = target;
+    if (places.done) {
+        auto scanning = scanPlaces(target, places.value);
+        measured = co_await scanning;
+        measured.lastScanned = m_clock->now();
+    } else {
+        measured.notes = QStringList(places.reason);
+    }
     m_measured.append(measured);
+    m_bytes += measured.sizeBytes;
     m_waiting.removeOne(measured.name);
     if (m_progress) {
         const int done = static_cast<int>(m_measured.size());
-        m_progress({m_waiting.value(0), done, done + static_cast<int>(m_waiting.size())});
+        m_progress({m_waiting.value(0), done, done + static_cast<int>(m_waiting.size()), m_bytes});
     }
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
+QCoro::Task<CacheTarget> CacheScanner::scanPlaces(CacheTarget target, QList<FoundPlace> places) {
     switch (target.rule.measure) {
     case CleanupRule::Measure::containers:
         return scanDocker(target);
     case CleanupRule::Measure::oldFiles:
-        return scanOldFiles(target);
+        return scanOldFiles(target, places);
     case CleanupRule::Measure::folders:
         break;
     }
-    return scanFolders(target);
+    return scanFolders(target, places);
 }
 
 /// Leaves out the action log, which no clean removes.
-QCoro::Task<quint64> CacheScanner::measureFolder(QString folder) {
-    const quint64 all = co_await Cleaner::directoryBytes(folder, m_tools);
+QCoro::Task<quint64> CacheScanner::measureFolder(FoundPlace folder) {
+    const quint64 all = co_await Cleaner::directoryBytes(folder.root, m_tools);
     quint64 kept = 0;
-    if (containsKeptFolder(folder))
+    if (folder.hasLog)
         kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
     co_return all - std::min(all, kept);
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
+QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target, QList<FoundPlace> places) {
     target.listed.clear();
     target.details.clear();
     target.sizeBytes = 0;
     const Instant now = m_clock->now();
-    const QStringList folders = openPlaces(target, *m_places);
-    for (const QString& folder : folders) {
-        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools, m_used);
-        quint64 bytes = CleanupPlan::ListingReader(listing.value).totalBytes();
-        if (!listing.done)
-            bytes = co_await measureFolder(folder);
-        take(target, {folder, bytes, listing.value}, listing.reason);
+    const QList<FoundPlace> folders = openPlaces(target, places);
+    for (const FoundPlace& found : folders) {
+        const QString& folder = found.place.path;
+        auto listing = Cleaner::list(target.rule, found.root, now, m_tools, m_used);
+        const Result<QByteArray> listed = co_await listing;
+        quint64 bytes = CleanupPlan::ListingReader(listed.value).totalBytes();
+        if (!listed.done)
+            bytes = co_await measureFolder(found);
+        take(target, {folder, bytes, listed.value, found.root}, listed.reason);
         target.details.append({folder, bytes});
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
     co_return target;
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
-    const QStringList folders = openPlaces(target, *m_places);
+QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, QList<FoundPlace> places) {
+    const QList<FoundPlace> folders = openPlaces(target, places);
     if (folders.isEmpty() && target.notes.isEmpty())
         co_return target;
     target.listed.clear();
@@ -163,9 +166,11 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
     target.sizeBytes = 0;
     const Instant now = m_clock->now();
     int sincePause = 0;
-    for (const QString& folder : folders) {
-        const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools, m_used);
-        ListedFolder listed{folder, 0, listing.value};
+    for (const FoundPlace& found : folders) {
+        const QString& folder = found.place.path;
+        auto listing = Cleaner::list(target.rule, found.root, now, m_tools, m_used);
+        const Result<QByteArray> made = co_await listing;
+        ListedFolder listed{folder, 0, made.value, found.root};
         CleanupPlan::ListingReader reader(listed.listing);
         while (const auto entry = reader.next()) {
             listed.sizeBytes += entry->sizeBytes;
@@ -176,7 +181,7 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
                 co_await QCoro::sleepFor(0ms);
             }
         }
-        take(target, listed, listing.reason);
+        take(target, listed, made.reason);
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);
     co_return target;

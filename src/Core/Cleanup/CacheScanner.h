@@ -2,12 +2,14 @@
 
 #include "Core/Cleanup/CacheTarget.h"
 #include "Core/Cleanup/CleanupProgress.h"
+#include "Core/Cleanup/PlaceFinder.h"
 
 #include <QByteArray>
 #include <QCoroTask>
 #include <QList>
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -25,11 +27,13 @@ public:
 
     /// Calls `progress` after each measured target. Its `target` is the first that is not measured yet, empty
     /// at the end.
-    explicit CacheScanner(const Platform& platform, Progress progress = {});
+    /// `patience`: how long the places of a target may take to answer.
+    explicit CacheScanner(const Platform& platform, Progress progress = {},
+                          std::chrono::milliseconds patience = PlaceFinder::patience);
 
     /// Returns the targets with the fields of a scan filled in, largest first, equal sizes in the order of
     /// completion. Targets are measured in parallel, the paths of one target in sequence. A failed tool has
-    /// found nothing.
+    /// found nothing. A target whose places do not answer keeps its last figures, with a note.
     QCoro::Task<QList<CacheTarget>> scan(QList<CacheTarget> targets);
 
     /// Returns the bytes of a text such as "1.5GB" (steps of 1,000; TB, GB, MB, KB, B or none). Returns 0 for
@@ -46,18 +50,20 @@ public:
 
 private:
     QCoro::Task<> measure(CacheTarget target);
-    QCoro::Task<CacheTarget> scanOne(CacheTarget target);
-    QCoro::Task<CacheTarget> scanFolders(CacheTarget target);
-    QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target);
+    QCoro::Task<CacheTarget> scanPlaces(CacheTarget target, QList<FoundPlace> places);
+    QCoro::Task<CacheTarget> scanFolders(CacheTarget target, QList<FoundPlace> places);
+    QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target, QList<FoundPlace> places);
     QCoro::Task<CacheTarget> scanDocker(CacheTarget target);
-    QCoro::Task<quint64> measureFolder(QString folder);
+    QCoro::Task<quint64> measureFolder(FoundPlace folder);
     QCoro::Task<QByteArray> askContainers(QString command);
 
     std::shared_ptr<ToolRunner> m_tools;
     std::shared_ptr<Places> m_places;
     std::shared_ptr<Clock> m_clock;
     Progress m_progress;
+    std::chrono::milliseconds m_patience;
     QByteArray m_used;             ///< by running programs, when the scan began
     QStringList m_waiting;         ///< names of the targets still being measured
     QList<CacheTarget> m_measured; ///< in the order of completion
+    quint64 m_bytes = 0;           ///< of these
 };

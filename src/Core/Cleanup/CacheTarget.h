@@ -42,6 +42,7 @@ struct ListedFolder {
     QString path;
     quint64 sizeBytes = 0;
     QByteArray listing; ///< what a clean removes, as the program `cleanup` lists it; empty after a failure
+    QString root = {};  ///< its path without symlinks above it; empty when nobody has looked
 
     bool operator==(const ListedFolder&) const = default;
 };

@@ -1,12 +1,16 @@
 #include "Core/Cleanup/Cleaner.h"
 
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/OnThread.h"
+#include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Log.h"
 #include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <limits>
@@ -14,6 +18,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype filesAtATime = 20; // to the trash, between two looks at the stop
 
 Cleaner::CleanResult cancelled() {
     return {Outcome::failure(QCoreApplication::translate("Cleaner", "cancelled"))};
@@ -55,8 +61,23 @@ QCoro::Task<Result<QByteArray>> runListing(ToolRequest request, QString folder,
     co_return listing;
 }
 
+/// What a removal has printed.
+struct RemovalReport {
+    quint64 bytes = 0;
+    std::optional<qint64> volumeBytes;
+
+    void take(const QByteArray& line) {
+        const QByteArrayList words = line.split(' ');
+        if (words.size() == 3 && words[0] == "volume")
+            volumeBytes = words[2].toLongLong() - words[1].toLongLong();
+        else if (words.size() == 2)
+            bytes = words[0].toULongLong();
+    }
+};
+
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
-                                               std::shared_ptr<ToolRunner> tools, std::stop_token stop) {
+                                               std::shared_ptr<ToolRunner> tools, std::stop_token stop,
+                                               Cleaner::Progress progress) {
     Cleaner::CleanResult result{Outcome::success()};
     const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
     quint64 before = 0;
@@ -64,16 +85,144 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
         before = co_await Cleaner::directoryBytes(folder.path, tools, stop);
     if (stop.stop_requested())
         co_return cancelled();
+    const auto report = std::make_shared<RemovalReport>();
     ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
     request.stop = stop;
+    request.onOutput = [report, progress](const QByteArray& line) {
+        report->take(line);
+        if (progress)
+            progress(report->bytes);
+    };
     const ToolResult removal = co_await tools->run(request);
     if (!removal.succeeded()) {
         reportFailure("removing", folder.path, removal);
         fail(result, stop.stop_requested() ? cancelled().reason : removal.errorLine);
     }
+    result.volumeBytes = report->volumeBytes;
     if (isMeasured) {
         const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
         result.freedBytes = before > after ? before - after : 0;
+    }
+    co_return result;
+}
+
+/// Moves files to the trash. Returns the reason of the first failure, empty without any.
+QString trash(const QString& root, const QByteArrayList& paths) {
+    QString reason;
+    // Qt makes the trash of the home folder in it, but not the folder itself.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    for (const QByteArray& path : paths) {
+        QFile file(root + u'/' + QFile::decodeName(path));
+        const bool isText = QFile::encodeName(QFile::decodeName(path)) == path;
+        if (isText && file.moveToTrash())
+            continue;
+        const QString why =
+            isText ? file.errorString() : QCoreApplication::translate("Cleaner", "its name is no text");
+        if (reason.isEmpty())
+            reason = QCoreApplication::translate("Cleaner", "%1 was not moved to the trash: %2")
+                         .arg(file.fileName(), why);
+    }
+    return reason;
+}
+
+QCoro::Task<Cleaner::CleanResult> trashListed(CleanupRule rule, ListedFolder folder, Instant now,
+                                              std::shared_ptr<ToolRunner> tools, std::stop_token stop,
+                                              Cleaner::Progress progress) {
+    Cleaner::CleanResult result{Outcome::success()};
+    const ToolRequest request = CleanupPlan::checkRequest(rule, folder, now);
+    auto checking = runListing(request, folder.path, tools);
+    const Result<QByteArray> checked = co_await checking;
+    if (!checked.done)
+        co_return {Outcome::failure(checked.reason)};
+    CleanupPlan::ListingReader reader(checked.value);
+    quint64 moved = 0;
+    for (bool isMore = true; isMore;) {
+        if (stop.stop_requested())
+            co_return cancelled();
+        QByteArrayList paths;
+        while (isMore && paths.size() < filesAtATime) {
+            const auto entry = reader.next();
+            isMore = entry.has_value();
+            if (!isMore)
+                continue;
+            paths.append(entry->path);
+            moved += entry->sizeBytes;
+        }
+        auto moving = onThread([root = folder.root, paths] { return trash(root, paths); });
+        const std::optional<QString> reason = co_await moving;
+        if (!reason || !reason->isEmpty())
+            fail(result, reason.value_or(QString()));
+        if (progress)
+            progress(moved);
+    }
+    co_return result;
+}
+
+struct OpenFolders {
+    QList<ListedFolder> folders;
+    Cleaner::CleanResult result; ///< why others may not be cleaned
+};
+
+/// Finds the folders of a target that may be cleaned now. A target that was never scanned is listed.
+QCoro::Task<OpenFolders> findFolders(CacheTarget target, std::shared_ptr<ToolRunner> tools,
+                                     std::shared_ptr<Places> places, Instant now) {
+    OpenFolders open{.folders = {}, .result = {Outcome::success()}};
+    auto finding = PlaceFinder::find(target.paths, places);
+    const Result<QList<FoundPlace>> found = co_await finding;
+    if (!found.done)
+        fail(open.result, found.reason);
+    for (const FoundPlace& one : found.value) {
+        if (!one.place.objection.isEmpty()) {
+            fail(open.result, one.place.objection);
+            continue;
+        }
+        const auto isPlace = [&](const ListedFolder& folder) { return folder.path == one.place.path; };
+        const auto listed = std::ranges::find_if(target.listed, isPlace);
+        if (listed != target.listed.end()) {
+            open.folders.append({listed->path, listed->sizeBytes, listed->listing, one.root});
+        } else if (!target.lastScanned) { // else it came after the scan
+            auto listing = Cleaner::list(target.rule, one.root, now, tools);
+            const Result<QByteArray> made = co_await listing;
+            open.folders.append({one.place.path, 0, made.value, one.root});
+        }
+    }
+    co_return open;
+}
+
+using Step = QCoro::Task<Cleaner::CleanResult> (*)(CleanupRule, ListedFolder, Instant,
+                                                   std::shared_ptr<ToolRunner>, std::stop_token,
+                                                   Cleaner::Progress);
+
+/// Takes the step for each folder of a target.
+QCoro::Task<Cleaner::CleanResult> forEachFolder(Step step, CacheTarget target,
+                                                std::shared_ptr<ToolRunner> tools,
+                                                std::shared_ptr<Places> places, Instant now,
+                                                std::stop_token stop, Cleaner::Progress progress) {
+    if (stop.stop_requested())
+        co_return cancelled();
+    auto finding = findFolders(target, tools, places, now);
+    const OpenFolders open = co_await finding;
+    Cleaner::CleanResult result = open.result;
+    quint64 sofar = 0;
+    for (const ListedFolder& folder : open.folders) {
+        if (stop.stop_requested()) {
+            fail(result, cancelled().reason);
+            break;
+        }
+        const auto last = std::make_shared<quint64>(0);
+        const Cleaner::Progress ofAll = [progress, sofar, last](quint64 bytes) {
+            *last = bytes;
+            if (progress)
+                progress(sofar + bytes);
+        };
+        auto working = step(target.rule, folder, now, tools, stop, ofAll);
+        const Cleaner::CleanResult one = co_await working;
+        sofar += *last;
+        if (!one.done)
+            fail(result, one.reason);
+        result.freedBytes += one.freedBytes;
+        if (one.volumeBytes)
+            result.volumeBytes = result.volumeBytes.value_or(0) + *one.volumeBytes;
     }
     co_return result;
 }
@@ -89,46 +238,40 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
 
 QCoro::Task<Result<QByteArray>> Cleaner::listInside(CleanupRule rule, QString folder, QByteArray inside,
                                                     Instant now, std::shared_ptr<ToolRunner> tools) {
-    const ToolRequest request = CleanupPlan::listInsideRequest(rule, folder, inside, now);
+    auto finding = onThread([folder] { return PlaceFinder::rootOf(folder); }, PlaceFinder::patience);
+    const std::optional<QString> root = co_await finding;
+    if (!root)
+        co_return {Outcome::failure(PlaceFinder::silence(folder))};
+    const ToolRequest request = CleanupPlan::listInsideRequest(rule, *root, inside, now);
     auto listing = runListing(request, folder, tools);
     co_return co_await listing;
 }
 
 QCoro::Task<Cleaner::CleanResult> Cleaner::clean(CacheTarget target, std::shared_ptr<ToolRunner> tools,
                                                  std::shared_ptr<Places> places, Instant now,
-                                                 std::stop_token stop) {
+                                                 std::stop_token stop, Progress progress) {
+    if (!target.pruneCommand) {
+        auto removing = forEachFolder(removeListed, target, tools, places, now, stop, progress);
+        co_return co_await removing;
+    }
     CleanResult result{Outcome::success()};
-    if (target.pruneCommand) {
-        result.done = co_await prune(*target.pruneCommand, tools, stop);
-        result.freedBytes = target.sizeBytes;
-        if (!result.done && stop.stop_requested())
-            result.reason = cancelled().reason;
-        co_return result;
-    }
-    const QList<Place> found = CleanupPlan::placesOf(target, *places);
-    for (const Place& place : found) {
-        if (!QFileInfo::exists(place.path))
-            continue;
-        if (!place.objection.isEmpty() || stop.stop_requested()) {
-            fail(result, place.objection.isEmpty() ? cancelled().reason : place.objection);
-            continue;
-        }
-        const auto isPlace = [&](const ListedFolder& folder) { return folder.path == place.path; };
-        auto listed = std::ranges::find_if(target.listed, isPlace);
-        if (listed == target.listed.end() && target.lastScanned)
-            continue; // it came after the scan
-        if (listed == target.listed.end()) {
-            const Result<QByteArray> listing = co_await list(target.rule, place.path, now, tools);
-            target.listed.append({place.path, 0, listing.value});
-            listed = target.listed.end() - 1;
-        }
-        auto removal = removeListed(target.rule, *listed, now, tools, stop);
-        const CleanResult one = co_await removal;
-        if (!one.done)
-            fail(result, one.reason);
-        result.freedBytes += one.freedBytes;
-    }
+    auto pruning = prune(*target.pruneCommand, tools, stop);
+    result.done = co_await pruning;
+    result.freedBytes = target.sizeBytes;
+    if (!result.done && stop.stop_requested())
+        result.reason = cancelled().reason;
     co_return result;
+}
+
+QCoro::Task<Cleaner::CleanResult> Cleaner::moveToTrash(CacheTarget target, std::shared_ptr<ToolRunner> tools,
+                                                       std::shared_ptr<Places> places, Instant now,
+                                                       std::stop_token stop, Progress progress) {
+    const bool isOfOldFiles =
+        target.rule.hasUserFiles && target.rule.measure == CleanupRule::Measure::oldFiles;
+    if (!isOfOldFiles || target.pruneCommand)
+        co_return {Outcome::failure(QCoreApplication::translate("Cleaner", "only old files can be moved"))};
+    auto moving = forEachFolder(trashListed, target, tools, places, now, stop, progress);
+    co_return co_await moving;
 }
 
 QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,

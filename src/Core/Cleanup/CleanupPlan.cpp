@@ -16,30 +16,6 @@ namespace {
 
 constexpr std::chrono::seconds usedTimeout{10};
 
-struct Found {
-    Place place;
-    QString canonical; ///< empty when nothing exists there
-    bool isSymlink = false;
-};
-
-/// Returns whether `inner` is counted with `outer`. What a symlink leads to is counted at its real place.
-bool covers(const Found& outer, const Found& inner, bool outerIsEarlier) {
-    if (outer.canonical.isEmpty() || inner.canonical.isEmpty())
-        return outer.place.path == inner.place.path && outerIsEarlier;
-    if (outer.isSymlink && !inner.isSymlink)
-        return false;
-    if (outer.canonical == inner.canonical)
-        return outerIsEarlier || (inner.isSymlink && !outer.isSymlink);
-    return !outer.isSymlink && inner.canonical.startsWith(outer.canonical + u'/');
-}
-
-/// Resolves symlinks above the folder. The tools follow none below.
-QString rootOf(const QString& folder) {
-    const QFileInfo info(folder);
-    const QString canonical = info.canonicalFilePath();
-    return canonical.isEmpty() || info.isSymLink() ? folder : canonical;
-}
-
 /// Expands "~" at the front.
 QString withHome(const QString& pattern) {
     const bool isBelowHome = pattern == u'~' || pattern.startsWith("~/"_L1);
@@ -59,7 +35,7 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
         arguments << u"--shared"_s;
     for (const QString& pattern : rule.excludes)
         arguments << u"--exclude"_s << withHome(pattern);
-    arguments << rootOf(folder);
+    arguments << folder;
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
     request.arguments = arguments;
@@ -67,15 +43,15 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
     return request;
 }
 
-QByteArray rootOf(const ListedFolder& folder) {
-    return QFile::encodeName(rootOf(folder.path));
+QString rootOf(const ListedFolder& folder) {
+    return folder.root.isEmpty() ? folder.path : folder.root;
 }
 
 /// Returns the listed bytes of a target of old files that another target has too.
-template <typename Test> quint64 listedBytes(const CacheTarget& target, const Test& isElsewhere) {
+template <typename Test> quint64 sharedBytes(const CacheTarget& target, const Test& isElsewhere) {
     quint64 bytes = 0;
     for (const ListedFolder& folder : target.listed) {
-        const QByteArray start = rootOf(folder) + '/';
+        const QByteArray start = QFile::encodeName(rootOf(folder)) + '/';
         CleanupPlan::ListingReader reader(folder.listing);
         while (const auto entry = reader.next())
             bytes += isElsewhere(start + entry->path) ? entry->sizeBytes : 0;
@@ -109,7 +85,7 @@ QList<Folder> wholeFolders(const QList<CacheTarget>& targets) {
         if (targets[i].rule.measure != CleanupRule::Measure::folders)
             continue;
         for (const ListedFolder& folder : targets[i].listed)
-            folders.append({i, rootOf(folder), deviceOf(folder), folder.sizeBytes});
+            folders.append({i, QFile::encodeName(rootOf(folder)), deviceOf(folder), folder.sizeBytes});
     }
     return folders;
 }
@@ -124,29 +100,10 @@ bool contains(const Folder& outer, const Folder& inner) {
 
 } // namespace
 
-QList<Place> CleanupPlan::placesOf(const CacheTarget& target, const Places& places) {
-    QList<Found> found;
-    for (const QString& path : target.paths) {
-        for (const Place& place : places.locate(path)) {
-            const QFileInfo info(place.path);
-            found.append({place, info.canonicalFilePath(), info.isSymLink()});
-        }
-    }
-    QList<Place> once;
-    for (qsizetype i = 0; i < found.size(); ++i) {
-        bool covered = false;
-        for (qsizetype j = 0; j < found.size(); ++j)
-            covered = covered || (i != j && covers(found[j], found[i], j < i));
-        if (!covered)
-            once.append(found[i].place);
-    }
-    return once;
-}
-
 ToolRequest CleanupPlan::measureRequest(const QString& folder) {
     ToolRequest asked;
     asked.launchPath = u"/usr/bin/du"_s;
-    asked.arguments = {u"-sk"_s, u"-x"_s, rootOf(folder)};
+    asked.arguments = {u"-sk"_s, u"-x"_s, folder};
     asked.captureOutput = true;
     asked.timeout = toolTimeout;
     return asked;
@@ -180,8 +137,15 @@ ToolRequest CleanupPlan::listInsideRequest(const CleanupRule& rule, const QStrin
     return asked;
 }
 
+ToolRequest CleanupPlan::checkRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now) {
+    ToolRequest asked = request(u"check"_s, rule, rootOf(folder), now);
+    asked.input = folder.listing;
+    asked.captureOutput = true;
+    return asked;
+}
+
 ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now) {
-    ToolRequest asked = request(u"remove"_s, rule, folder.path, now);
+    ToolRequest asked = request(u"remove"_s, rule, rootOf(folder), now);
     asked.input = folder.listing;
     return asked;
 }
@@ -271,13 +235,25 @@ void CleanupPlan::markShared(QList<CacheTarget>& targets) {
         }
         if (target.rule.measure != CleanupRule::Measure::oldFiles)
             continue;
-        target.sharedBytes += listedBytes(target, [&](const QByteArray& path) {
+        target.sharedBytes += sharedBytes(target, [&](const QByteArray& path) {
             const auto containsIt = [&](const Folder& folder) { return path.startsWith(folder.path + '/'); };
             const bool isShared = listed.contains(path) || std::ranges::any_of(folders, containsIt);
             listed.insert(path);
             return isShared;
         });
     }
+}
+
+quint64 CleanupPlan::listedBytes(const CacheTarget& target) {
+    if (target.pruneCommand)
+        return target.sizeBytes;
+    quint64 bytes = 0;
+    for (const ListedFolder& folder : target.listed) {
+        ListingReader reader(folder.listing);
+        while (const auto entry = reader.next())
+            bytes += entry->sizeBytes;
+    }
+    return bytes;
 }
 
 quint64 CleanupPlan::totalBytes(const QList<CacheTarget>& targets) {

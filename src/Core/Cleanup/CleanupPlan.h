@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
-#include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 
 #include <QByteArrayView>
@@ -14,9 +13,7 @@ namespace CleanupPlan {
 
 constexpr std::chrono::minutes toolTimeout{30};
 
-/// Returns the target's places on this system in their order, existing or not. A path to or into a place of
-/// the list is left out.
-QList<Place> placesOf(const CacheTarget& target, const Places& places);
+// The requests take the path of a folder without symlinks above it, see PlaceFinder::rootOf.
 
 /// Asks for the size of `folder` with all below it on its file system.
 ToolRequest measureRequest(const QString& folder);
@@ -29,7 +26,10 @@ ToolRequest listRequest(const CleanupRule& rule, const QString& folder, Instant 
 /// Asks the same of the folder with the relative path `inside` in `folder`.
 ToolRequest listInsideRequest(const CleanupRule& rule, const QString& folder, const QByteArray& inside,
                               Instant now);
-/// Asks to remove the entries of a listing from the folder that was listed.
+/// Asks which entries of a listing removeRequest would remove.
+ToolRequest checkRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
+/// Asks to remove the entries of a listing from the folder that was listed. It prints lines of
+/// "BYTES ENTRIES", what is gone so far, and at last "volume BEFORE AFTER", the free bytes.
 ToolRequest removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
 /// Asks a login shell, which finds the tools of vendors on the user's path.
 ToolRequest shellRequest(const QString& command, std::chrono::milliseconds timeout);
@@ -75,6 +75,9 @@ Names namesOf(const CacheTarget& target, qsizetype maxShown);
 
 /// Fills in `sharedBytes`: the size of what is in another target's folder or in an earlier listing.
 void markShared(QList<CacheTarget>& targets);
+
+/// Returns the size of what is listed, which is what a clean removes; of a target with a command its size.
+quint64 listedBytes(const CacheTarget& target);
 
 /// Returns the size of all targets without their `sharedBytes`. For a part of the targets of a scan, call
 /// markShared first.

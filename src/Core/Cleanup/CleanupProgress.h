@@ -3,11 +3,15 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 /// How far a scan or a clean has come.
 struct CleanupProgress {
     QString target; ///< the name of the target being worked on
     int done = 0;
     int total = 0;
+    quint64 bytes = 0;      ///< measured so far, or removed so far
+    quint64 totalBytes = 0; ///< to be removed; 0 while that is not known, as in a scan
 
     bool operator==(const CleanupProgress&) const = default;
 };
@@ -26,6 +30,8 @@ struct CleanupReport {
     QList<CleanupFailure> failures = {};
     int cleaned = 0;        ///< targets that did not fail
     quint64 freedBytes = 0; ///< by these
+    /// What came back on the volumes, of all cleans; negative when other programs wrote more.
+    std::optional<qint64> volumeBytes = std::nullopt;
 
     bool operator==(const CleanupReport&) const = default;
 };

@@ -66,7 +66,7 @@ void configure(QProcess& process, const ToolRequest& request, bool captureErrors
         process.setStandardInputFile(QProcess::nullDevice());
     if (!captureErrors)
         process.setStandardErrorFile(QProcess::nullDevice());
-    if (!request.captureOutput)
+    if (!request.captureOutput && !request.onOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
     constexpr int niceIncrement = 10;
     process.setChildProcessModifier(
@@ -111,6 +111,17 @@ void terminate(QProcess* process, const End& end) {
     signalGroup(process, SIGTERM);
     QTimer::singleShot(killTimeout, process, [process] { signalGroup(process, SIGKILL); });
     QTimer::singleShot(2 * killTimeout, process, [end] { end->finish(); });
+}
+
+/// Passes on the whole lines that are there, and keeps them in `output`.
+void passOnLines(QProcess& process, const ToolRequest& request, QByteArray& output) {
+    while (process.canReadLine()) {
+        QByteArray line = process.readLine();
+        if (request.captureOutput)
+            output += line;
+        line.chop(1);
+        request.onOutput(line);
+    }
 }
 
 ToolResult resultOf(QProcess& process, bool isOurs) {
@@ -189,8 +200,19 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
         process->closeWriteChannel();
     }
     const auto endIt = [tool = process.get(), end] { terminate(tool, end); };
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&patience, &QTimer::timeout, process.get(), endIt);
     if (request.timeout)
-        QTimer::singleShot(*request.timeout, process.get(), endIt);
+        patience.start(*request.timeout);
+    QByteArray output;
+    if (request.onOutput)
+        QObject::connect(process.get(), &QProcess::readyReadStandardOutput, &patience, [&] {
+            passOnLines(*process, request, output);
+            if (request.timeout)
+                patience.start(*request.timeout);
+        });
     const std::stop_callback whenStopped(request.stop, endIt);
     if (process->state() != QProcess::NotRunning) // a program without a name changes no state
         co_await ended;
@@ -200,7 +222,9 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     ToolResult result = resultOf(*process, isOurs);
     if (!result.succeeded())
         reportFailure(*process, result);
+    if (request.onOutput)
+        passOnLines(*process, request, output);
     if (request.captureOutput)
-        result.output = process->readAllStandardOutput();
+        result.output = output + process->readAllStandardOutput();
     co_return result;
 }

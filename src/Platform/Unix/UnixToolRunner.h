@@ -4,8 +4,8 @@
 
 /// Runs programs as child processes of low CPU and I/O priority. Output that was not requested is dropped, as
 /// is standard error except the first line of our own tools. A child that exceeds its timeout, counted from
-/// its launch, or is stopped gets SIGTERM, and SIGKILL a second later; after one more second it counts as
-/// crashed. Children and their children end with this program. Needs a running event loop.
+/// its launch or its last line, or is stopped gets SIGTERM, and SIGKILL a second later; after one more second
+/// it counts as crashed. Children and their children end with this program. Needs a running event loop.
 class UnixToolRunner : public ToolRunner {
 public:
     /// `toolsFolder` contains our own programs.
