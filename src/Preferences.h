@@ -109,6 +109,8 @@ public:
     Property<double> notifyQuietTo{*this, u"pref.notifyQuiet_to", 7 * 60};
     /// Patterns of what no scan counts and no clean removes, see CleanupRule::excludes.
     Property<QStringList> cleanupExcludes{*this, u"pref.cleanupExcludes", {}};
+    /// Paths that were left out of one clean, see LeaveOutOffer.
+    Property<QStringList> cleanupLeftOut{*this, u"ui.cleanupLeftOut", {}};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.

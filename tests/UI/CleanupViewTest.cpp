@@ -188,22 +188,22 @@ TEST_F(CleanupViewTest, ATotalCountsOnceWhatTargetsShare) {
 
 TEST_F(CleanupViewTest, ACleanCanBeCancelledAndSaysSo) {
     rescan();
-    EXPECT_FALSE(buttonNamed(*view, u"Cancel cleaning"_s));
+    EXPECT_FALSE(buttonNamed(*view, u"Stop cleaning"_s));
     press(*view, u"Clean All"_s);
     fakes.tools->suspended = true;
     press(*dialog(), u"Clean 2 MB"_s);
     tick();
     EXPECT_TRUE(showsText(*view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
-    auto* cancel = buttonNamed(*view, u"Cancel cleaning"_s);
+    auto* cancel = buttonNamed(*view, u"Stop cleaning"_s);
     ASSERT_TRUE(cancel && cancel->focusPolicy() & Qt::TabFocus);
     EXPECT_TRUE(QTest::qWaitFor([&] { return fakes.tools->requests.last().launchPath == u"/usr/bin/du"; }));
     QTest::keyClick(cancel, Qt::Key_Space);
     fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(home.path(u".npm"_s)));
     finish();
-    EXPECT_TRUE(showsText(*view, u"• Cancelled: cleaned 0 of 1 targets, freed ~0 bytes"_s));
-    EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (cancelled)"_s));
-    EXPECT_FALSE(buttonNamed(*view, u"Cancel cleaning"_s));
+    EXPECT_TRUE(showsText(*view, u"• Stopped: cleaned 0 of 1 targets, freed ~0 bytes"_s));
+    EXPECT_TRUE(showsText(*view, u"Not finished: npm / pnpm / yarn (stopped)"_s));
+    EXPECT_FALSE(buttonNamed(*view, u"Stop cleaning"_s));
 }
 
 TEST_F(CleanupViewTest, SaysWhySomethingIsLeft) {

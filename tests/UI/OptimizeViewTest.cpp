@@ -182,11 +182,11 @@ TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
     EXPECT_TRUE(showsText(view, u"Cleaning npm / pnpm / yarn (0 of 1)"_s));
     const QString npm = home.path(u".npm"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return fakes.tools->requests.last().launchPath == u"/usr/bin/du"; }));
-    press(view, u"Cancel cleaning"_s);
+    press(view, u"Stop cleaning"_s);
     fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(npm));
     EXPECT_TRUE(
-        QTest::qWaitFor([this] { return notice().startsWith(u"Cancelled: cleaned 0 of 1"_s); }, 2000));
-    EXPECT_TRUE(notice().endsWith(u"Not finished: npm / pnpm / yarn (cancelled)"_s));
+        QTest::qWaitFor([this] { return notice().startsWith(u"Stopped: cleaned 0 of 1"_s); }, 2000));
+    EXPECT_TRUE(notice().endsWith(u"Not finished: npm / pnpm / yarn (stopped)"_s));
     EXPECT_TRUE(buttonNamed(view, u"Clean All"_s)->isEnabled());
 }

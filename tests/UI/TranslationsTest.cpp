@@ -136,7 +136,7 @@ TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
     const CacheTarget npm = CacheTarget::defaults().first();
     CleanupConfirmation::ask(&window, &window, npm, [] {});
     CleanupConfirmation::askAll(&window, &window, model.cleanup(), CacheTarget::defaults(), {},
-                                [](const QList<CacheTarget>&) {});
+                                [](const QList<CacheTarget>&, const QStringList&) {});
     new CacheDetailDrawer(model.cleanup(), npm, {}, &window);
     (new FreeRAMSheet(model, &window))->show();
     new QuickKillEditorSheet(QString(), QuickKillPreset::blank(), {}, &window);

@@ -22,7 +22,7 @@ namespace {
 constexpr qsizetype filesAtATime = 20; // to the trash, between two looks at the stop
 
 Cleaner::CleanResult cancelled() {
-    return {Outcome::failure(QCoreApplication::translate("Cleaner", "cancelled"))};
+    return {Outcome::failure(QCoreApplication::translate("Cleaner", "stopped"))};
 }
 
 void fail(Cleaner::CleanResult& result, const QString& reason) {

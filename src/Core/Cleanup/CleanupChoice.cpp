@@ -290,7 +290,9 @@ QList<ListedFolder> CleanupChoice::chosenFolders(Index index) const {
             chosen.append(folder);
             continue;
         }
-        ListedFolder part{folder.path, 0, CleanupPlan::ListingReader(folder.listing).header().toByteArray()};
+        ListedFolder part = folder;
+        part.sizeBytes = 0;
+        part.listing = CleanupPlan::ListingReader(folder.listing).header().toByteArray();
         collect(above, part.listing, part.sizeBytes);
         chosen.append(part);
     }

@@ -3,7 +3,6 @@
 #include "Core/Cleanup/CleanupPlan.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -22,8 +21,7 @@ struct Part {
 };
 
 QByteArray rootOf(const ListedFolder& folder) {
-    const QString canonical = QFileInfo(folder.path).canonicalFilePath();
-    return QFile::encodeName(canonical.isEmpty() ? folder.path : canonical);
+    return QFile::encodeName(folder.root.isEmpty() ? folder.path : folder.root);
 }
 
 bool isWhole(const CacheTarget& target, const ListedFolder& folder) {

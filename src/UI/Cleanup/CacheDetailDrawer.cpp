@@ -50,10 +50,35 @@ CacheDetailDrawer::CacheDetailDrawer(CacheCleanup& cleanup, CacheTarget target, 
     column->addWidget(caption);
     column->addWidget(makeBreakdown(), 1);
 
+    column->addLayout(makeActions());
+    refresh();
+}
+
+/// Files of the user can go to the trash instead, but for those that are there.
+QLayout* CacheDetailDrawer::makeActions() {
     m_clean->setTint(Role::red);
     connect(m_clean, &QPushButton::clicked, this, &CacheDetailDrawer::confirm);
-    column->addWidget(m_clean, 0, Qt::AlignRight);
-    refresh();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    row->addStretch();
+    if (m_target.rule.hasUserFiles && m_target.rule.measure == CleanupRule::Measure::oldFiles) {
+        m_trash = new PushButton(tr("Move to Trash"));
+        connect(m_trash, &QPushButton::clicked, this, [this] {
+            Q_EMIT trashRequested(chosen(), leftOut());
+            accept();
+        });
+        row->addWidget(m_trash);
+    }
+    row->addWidget(m_clean);
+    return row;
+}
+
+CacheTarget CacheDetailDrawer::chosen() const {
+    return m_preview ? m_preview->chosen().value(0) : m_target;
+}
+
+QStringList CacheDetailDrawer::leftOut() const {
+    return m_preview ? m_preview->leftOut() : QStringList();
 }
 
 QLayout* CacheDetailDrawer::makeHeader() {
@@ -101,12 +126,14 @@ void CacheDetailDrawer::refresh() {
     const quint64 bytes = m_preview ? m_preview->sum().bytes : m_target.sizeBytes;
     m_clean->setText(tr("Clean %1").arg(Formatters::bytes(bytes)));
     m_clean->setEnabled(!m_preview || !m_preview->chosen().isEmpty());
+    if (m_trash)
+        m_trash->setEnabled(m_preview && m_clean->isEnabled());
 }
 
 void CacheDetailDrawer::confirm() {
-    const CacheTarget chosen = m_preview ? m_preview->chosen().value(0) : m_target;
-    CleanupConfirmation::ask(this, this, chosen, [this, chosen] {
-        Q_EMIT cleanRequested(chosen);
+    const CacheTarget target = chosen();
+    CleanupConfirmation::ask(this, this, target, [this, target] {
+        Q_EMIT cleanRequested(target, leftOut());
         accept();
     });
 }

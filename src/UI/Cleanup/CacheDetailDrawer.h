@@ -4,6 +4,7 @@
 #include "Core/Instant.h"
 
 #include <QDialog>
+#include <QStringList>
 
 class CacheCleanup;
 class CleanupPreview;
@@ -18,13 +19,17 @@ public:
     CacheDetailDrawer(CacheCleanup& cleanup, CacheTarget target, Instant now, QWidget* parent);
 
 Q_SIGNALS:
-    /// `target` has what is to go of it in `listed`.
-    void cleanRequested(const CacheTarget& target);
+    /// `target` has what is to go of it in `listed`; `leftOut` has the paths that were left out.
+    void cleanRequested(const CacheTarget& target, const QStringList& leftOut);
+    void trashRequested(const CacheTarget& target, const QStringList& leftOut);
 
 private:
     QLayout* makeHeader();
     QLayout* makeLine(const QString& symbol, const QString& text) const;
     QWidget* makeBreakdown();
+    QLayout* makeActions();
+    CacheTarget chosen() const;
+    QStringList leftOut() const;
     void refresh();
     void confirm();
 
@@ -33,4 +38,5 @@ private:
     Instant m_now;
     CleanupPreview* m_preview = nullptr; ///< null while nothing is known of the target
     PushButton* m_clean;
+    PushButton* m_trash = nullptr; ///< null where nothing is to be kept
 };

@@ -16,6 +16,7 @@ namespace CleanupConfirmation {
 void ask(QWidget* parent, QObject* owner, const CacheTarget& target, const std::function<void()>& clean);
 /// Lets the user leave out parts. `now` is the base of the ages shown.
 void askAll(QWidget* parent, QObject* owner, CacheCleanup& cleanup, const QList<CacheTarget>& targets,
-            Instant now, const std::function<void(const QList<CacheTarget>&)>& clean);
+            Instant now,
+            const std::function<void(const QList<CacheTarget>&, const QStringList& leftOut)>& clean);
 
 } // namespace CleanupConfirmation

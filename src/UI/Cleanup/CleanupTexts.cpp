@@ -56,7 +56,14 @@ QString volumesOf(const CacheTarget& target) {
 } // namespace
 
 QString CleanupTexts::progress(const QString& sentence, const CleanupProgress& progress) {
-    return sentence.arg(Translations::of(progress.target)).arg(progress.done).arg(progress.total);
+    const QString text = sentence.arg(Translations::of(progress.target)).arg(progress.done).arg(progress.total);
+    if (progress.bytes == 0)
+        return text;
+    const QString bytes = Formatters::bytes(progress.bytes);
+    return text + u" • "_s +
+           (progress.totalBytes == 0 ? bytes
+                                     : QCoreApplication::translate("CleanupTexts", "%1 of %2")
+                                           .arg(bytes, Formatters::bytes(progress.totalBytes)));
 }
 
 bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
@@ -134,13 +141,20 @@ QString CleanupTexts::questionAll(const QList<CacheTarget>& targets) {
 QString CleanupTexts::outcome(qsizetype asked, std::pair<int, quint64> cleaned, const CleanupReport& report) {
     const QString freed = Formatters::bytes(cleaned.second);
     if (report.wasCancelled)
-        return QCoreApplication::translate("CleanupTexts", "Cancelled: cleaned %1 of %2 targets, freed ~%3")
+        return QCoreApplication::translate("CleanupTexts", "Stopped: cleaned %1 of %2 targets, freed ~%3")
             .arg(cleaned.first)
             .arg(asked)
             .arg(freed);
     return QCoreApplication::translate("CleanupTexts", "Cleaned %1 targets, freed ~%2")
         .arg(cleaned.first)
         .arg(freed);
+}
+
+QString CleanupTexts::cameBack(const CleanupReport& report) {
+    if (!report.volumeBytes)
+        return {};
+    const auto bytes = static_cast<quint64>(std::max<qint64>(0, *report.volumeBytes));
+    return QCoreApplication::translate("CleanupTexts", "%1 came back on the disk").arg(Formatters::bytes(bytes));
 }
 
 QString CleanupTexts::unfinished(const CleanupReport& report) {

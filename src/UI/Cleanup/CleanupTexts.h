@@ -9,7 +9,7 @@
 /// are shortened in the middle.
 namespace CleanupTexts {
 
-/// Returns "Cleaning NAME (1 of 3)" for the sentence "Cleaning %1 (%2 of %3)".
+/// Returns "Cleaning NAME (1 of 3) • 1 GB of 2 GB" for the sentence "Cleaning %1 (%2 of %3)".
 QString progress(const QString& sentence, const CleanupProgress& progress);
 
 /// Returns whether a clean removes what nothing rebuilds.
@@ -25,6 +25,8 @@ QString questionAll(const QList<CacheTarget>& targets);
 
 /// Returns the outcome of a run over `asked` targets; `cleaned` is the result of CacheCleanup::cleanAll.
 QString outcome(qsizetype asked, std::pair<int, quint64> cleaned, const CleanupReport& report);
+/// Returns what came back on the disk beside what was removed. Empty when that is unknown.
+QString cameBack(const CleanupReport& report);
 /// Returns the targets that were not cleaned to the end, and why. Empty when there is none.
 QString unfinished(const CleanupReport& report);
 

@@ -38,7 +38,7 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
-    , m_cancel(new PushButton(tr("Cancel")))
+    , m_cancel(new PushButton(tr("Stop")))
     , m_cards([this] {
         auto* card = new CacheCard;
         connect(card, &CacheCard::opened, this, &CleanupView::open);
@@ -86,7 +86,7 @@ QLayout* CleanupView::makeProgress() {
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(6);
     m_cancel->setSmall();
-    m_cancel->setAccessibleName(tr("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Stop cleaning"));
     QSizePolicy policy = m_cancel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_cancel->setSizePolicy(policy);
@@ -137,14 +137,16 @@ void CleanupView::refreshProgress() {
     const QString unfinished = CleanupTexts::unfinished(cleanup.report());
     if (cleanup.isCleaning())
         m_progress->setPlainText(CleanupTexts::progress(
-            cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)") : tr("Cleaning %1 (%2 of %3)"),
+            cleanup.report().wasCancelled ? tr("Stopping %1 (%2 of %3)") : tr("Cleaning %1 (%2 of %3)"),
             *cleanup.cleanProgress()));
     else if (cleanup.isScanning())
         m_progress->setPlainText(
             CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *cleanup.scanProgress()));
+    else
+        m_progress->setPlainText(CleanupTexts::cameBack(cleanup.report()));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
-    m_progress->setVisible(isBusy);
+    m_progress->setVisible(isBusy || cleanup.report().volumeBytes);
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
     m_cancel->setVisible(cleanup.isCleaning());
 }

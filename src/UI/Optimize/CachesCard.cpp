@@ -53,10 +53,10 @@ CachesCard::CachesCard(QWidget* parent)
         m_chipRow->addWidget(chip);
         return chip;
     })
-    , m_cancel(new PushButton(tr("Cancel")))
+    , m_cancel(new PushButton(tr("Stop")))
     , m_clean(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill"))) {
     m_clean->setTint(Role::red);
-    m_cancel->setAccessibleName(tr("Cancel cleaning"));
+    m_cancel->setAccessibleName(tr("Stop cleaning"));
     m_cancel->hide();
     connect(m_clean, &QPushButton::clicked, this, &CachesCard::cleanAllRequested);
     connect(m_cancel, &QPushButton::clicked, this, &CachesCard::cancelRequested);
@@ -77,7 +77,7 @@ CachesCard::CachesCard(QWidget* parent)
 void CachesCard::refresh(const CacheCleanup& cleanup) {
     const QList<CacheTarget>& targets = cleanup.targets();
     if (cleanup.isCleaning())
-        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? tr("Cancelling %1 (%2 of %3)")
+        setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? tr("Stopping %1 (%2 of %3)")
                                                                          : tr("Cleaning %1 (%2 of %3)"),
                                            *cleanup.cleanProgress()));
     else

@@ -4,6 +4,7 @@
 #include "Preferences.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Cleanup/LeaveOutOffer.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/ScrollingPage.h"
@@ -122,7 +123,10 @@ void OptimizeView::confirmCleanAll() {
     if (!m_preferences.askBeforeCleaningAll())
         return cleanAll(targets);
     CleanupConfirmation::askAll(window(), this, m_model.cleanup(), targets, m_model.systemSample().timestamp,
-                                [this](const QList<CacheTarget>& confirmed) { cleanAll(confirmed); });
+                                [this](const QList<CacheTarget>& confirmed, const QStringList& leftOut) {
+                                    cleanAll(confirmed);
+                                    LeaveOutOffer::follow(window(), m_preferences, leftOut);
+                                });
 }
 
 void OptimizeView::cleanAll(const QList<CacheTarget>& targets) {

@@ -24,12 +24,6 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     addPicker<MenuBarFormat>(addSection(Words::native().statusArea), tr("Display"),
                              {formats.begin(), formats.end()}, Translations::of<MenuBarFormat>,
                              preferences.menuBarFormat);
-
-    auto* cleanup = addSection(tr("Cleanup"));
-    addToggle(cleanup, tr("Ask before cleaning everything"), preferences.askBeforeCleaningAll);
-    auto* note = (new TextLabel(Theme::TextStyle::caption))->secondary()->wrapped();
-    note->setPlainText(tr("When off, “Clean All” in Optimize starts at once."));
-    cleanup->addNote(note);
 }
 
 void GeneralTab::applyLoginItem(bool enabled) {

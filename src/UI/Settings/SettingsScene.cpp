@@ -2,6 +2,7 @@
 
 #include "Core/Translations.h"
 #include "UI/Settings/AlertsTab.h"
+#include "UI/Settings/CleanupTab.h"
 #include "UI/Settings/GeneralTab.h"
 #include "UI/Settings/HistoryTab.h"
 #include "UI/Settings/QuickKillsTab.h"
@@ -21,8 +22,8 @@ constexpr QSize windowSize(640, 460);
 constexpr int tabBarHeight = 62;
 
 /// Names of symbols, in the order of SettingsScene::Tab.
-constexpr QStringView tabSymbols[] = {u"gear", u"waveform", u"bell", u"xmark.octagon",
-                                      u"clock.arrow.circlepath"};
+constexpr QStringView tabSymbols[] = {u"gear",          u"waveform", u"bell",
+                                      u"xmark.octagon", u"trash",    u"clock.arrow.circlepath"};
 
 QString tabSymbol(SettingsScene::Tab tab) {
     return tabSymbols[static_cast<std::size_t>(tab)].toString();
@@ -55,6 +56,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem,
     addTab(Tab::sampling, new SamplingTab(preferences));
     addTab(Tab::alerts, new AlertsTab(preferences, notifications));
     addTab(Tab::quickKills, new QuickKillsTab(preferences));
+    addTab(Tab::cleanup, new CleanupTab(preferences));
     addTab(Tab::history, new HistoryTab);
     addActions();
     select(Tab::general);

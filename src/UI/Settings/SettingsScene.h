@@ -18,7 +18,7 @@ class SettingsScene : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Tab { general, sampling, alerts, quickKills, history };
+    enum class Tab { general, sampling, alerts, quickKills, cleanup, history };
 
     SettingsScene(Preferences& preferences, LoginItem& loginItem, const Notifications& notifications,
                   QWidget* parent = nullptr);
@@ -46,5 +46,6 @@ inline constexpr std::array rawValueTable<SettingsScene::Tab> = {
     RawValueRow{SettingsScene::Tab::sampling, QT_TRANSLATE_NOOP("Translations", "Sampling")},
     RawValueRow{SettingsScene::Tab::alerts, QT_TRANSLATE_NOOP("Translations", "Alerts")},
     RawValueRow{SettingsScene::Tab::quickKills, QT_TRANSLATE_NOOP("Translations", "Quick Kills")},
+    RawValueRow{SettingsScene::Tab::cleanup, QT_TRANSLATE_NOOP("Translations", "Cleanup")},
     RawValueRow{SettingsScene::Tab::history, QT_TRANSLATE_NOOP("Translations", "History")},
 };
