@@ -8,6 +8,8 @@
 
 #include <QCoroTask>
 
+#include <QSet>
+
 #include <optional>
 #include <stop_token>
 #include <utility>
@@ -22,7 +24,15 @@ public:
     /// `log` outlives the cleanup.
     CacheCleanup(const Platform& platform, ActionLog& log);
 
+    /// Returns the fixed catalogue and the system's own targets behind it, after a scan the largest first.
     const QList<CacheTarget>& targets() const { return m_targets; }
+    /// Returns the targets that a person may want to see: those of the system with something to clean, and
+    /// the catalogue without what only other systems have. Before a scan a place that exists stands for
+    /// something to clean; `lookForPlaces` finds them.
+    QList<CacheTarget> shownTargets() const;
+    void lookForPlaces();
+    /// Returns the shown targets that "Clean All" may clean. What they share is counted among them.
+    const QList<CacheTarget>& reclaimable() const { return m_reclaimable; }
     /// Returns an empty optional while no scan runs.
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
     /// Returns an empty optional while no clean runs. Cleans that run at the same time are counted together.
@@ -36,7 +46,7 @@ public:
     QCoro::Task<> rescan();
     /// Cleans one target, logs it and measures again.
     QCoro::Task<> clean(CacheTarget target);
-    /// Returns the targets of "Clean All": those with a known size above 0.
+    /// Returns the targets of "Clean All": the reclaimable ones with a known size above 0.
     QList<CacheTarget> targetsToClean() const;
     /// Cleans these targets one after another, logs each and measures again. Returns how many succeeded, and
     /// how many bytes those freed.
@@ -45,6 +55,9 @@ public:
     void cancel();
 
 private:
+    bool isShown(const CacheTarget& target) const;
+    QList<CacheTarget> withWhatStays(QList<CacheTarget> targets) const;
+    void findReclaimable();
     void expectCleans(int count);
     void countCleans(int done);
     void noteResult(const CacheTarget& target, const Cleaner::CleanResult& result);
@@ -53,6 +66,8 @@ private:
     Platform m_platform;
     ActionLog& m_log;
     QList<CacheTarget> m_targets = CacheTarget::defaults();
+    QList<CacheTarget> m_reclaimable;
+    QSet<QString> m_found; ///< names of the targets with a place that exists, before the first scan
     std::optional<CleanupProgress> m_scanProgress;
     std::optional<CleanupProgress> m_cleanProgress;
     CleanupReport m_report;

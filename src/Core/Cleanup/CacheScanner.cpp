@@ -28,18 +28,24 @@ constexpr qsizetype maxDetails = 100;
 constexpr auto containerTimeout = 2min;
 constexpr int filesPerPause = 1000;
 
-const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
+// ENGINE is the client of the container engine.
+const auto containerReport = u"command -v ENGINE >/dev/null 2>&1 && ENGINE system df --format "
                              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
 
-// Prune removes the volumes that no running container uses. Since version 1.42 of its interface the engine
-// keeps named volumes.
+// Prune removes the volumes that no running container uses. Since version 1.42 of its interface Docker
+// keeps named volumes; Podman, whose version is another number, removes them.
 const auto volumesThatGo =
-    u"command -v docker >/dev/null 2>&1 && { unnamed=; "
-    "case \"$(docker version --format '{{.Server.APIVersion}}')\" in "
+    u"command -v ENGINE >/dev/null 2>&1 && { unnamed=; "
+    "case \"$(ENGINE version --format '{{.Server.APIVersion}}')\" in "
     "1.4[2-9]|1.[5-9][0-9]) unnamed='--filter label=com.docker.volume.anonymous' ;; esac; "
-    "for volume in $(docker volume ls -q $unnamed); do "
-    "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
+    "for volume in $(ENGINE volume ls -q $unnamed); do "
+    "[ -n \"$(ENGINE ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
     "done; } 2>/dev/null || true"_s;
+
+/// Returns the script for the engine whose client the target's command begins with.
+QString forEngine(QString script, const CacheTarget& target) {
+    return script.replace("ENGINE"_L1, target.pruneCommand.value_or(u"docker"_s).section(u' ', 0, 0));
+}
 
 /// Returns the target's places that may be cleaned, and notes why others may not.
 QStringList openPlaces(CacheTarget& target, const Places& places) {
@@ -65,9 +71,22 @@ void take(CacheTarget& target, const ListedFolder& folder, const QString& reason
     target.sizeBytes += folder.sizeBytes;
 }
 
-bool containsKeptFolder(const QString& folder) {
-    const QString kept = QFileInfo(CleanupPlan::keptFolder()).canonicalFilePath();
-    return !kept.isEmpty() && kept.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
+/// Returns those of the paths that are below the folder, without what is inside another of them.
+QStringList pathsBelow(const QString& folder, const QStringList& paths) {
+    const QString start = QFileInfo(folder).canonicalFilePath() + u'/';
+    QStringList below;
+    for (const QString& path : paths) {
+        const QString found = QFileInfo(path).canonicalFilePath();
+        if (found.startsWith(start))
+            below.append(found + u'/');
+    }
+    below.sort();
+    QStringList outermost;
+    for (const QString& path : std::as_const(below)) {
+        if (outermost.isEmpty() || !path.startsWith(outermost.last()))
+            outermost.append(path);
+    }
+    return outermost;
 }
 
 QString trimmedBlanks(QStringView text) {
@@ -114,7 +133,9 @@ QCoro::Task<> CacheScanner::measure(CacheTarget target) {
 QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
     switch (target.rule.measure) {
     case CleanupRule::Measure::containers:
-        return scanDocker(target);
+        return scanContainers(target);
+    case CleanupRule::Measure::command:
+        return scanByCommand(target);
     case CleanupRule::Measure::oldFiles:
         return scanOldFiles(target);
     case CleanupRule::Measure::folders:
@@ -123,13 +144,15 @@ QCoro::Task<CacheTarget> CacheScanner::scanOne(CacheTarget target) {
     return scanFolders(target);
 }
 
-/// Leaves out the action log, which no clean removes.
-QCoro::Task<quint64> CacheScanner::measureFolder(QString folder) {
-    const quint64 all = co_await Cleaner::directoryBytes(folder, m_tools);
-    quint64 kept = 0;
-    if (containsKeptFolder(folder))
-        kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
-    co_return all - std::min(all, kept);
+/// Leaves out what stays, and the action log, which no clean removes.
+QCoro::Task<quint64> CacheScanner::measureFolder(QString folder, QStringList kept) {
+    quint64 bytes = co_await Cleaner::directoryBytes(folder, m_tools);
+    kept.append(CleanupPlan::keptFolder());
+    for (const QString& path : pathsBelow(folder, kept)) {
+        const quint64 stays = co_await Cleaner::directoryBytes(path, m_tools);
+        bytes -= std::min(bytes, stays);
+    }
+    co_return bytes;
 }
 
 QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
@@ -138,8 +161,9 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target) {
     target.sizeBytes = 0;
     const Instant now = m_clock->now();
     const QStringList folders = openPlaces(target, *m_places);
+    const QStringList kept(target.rule.kept.begin(), target.rule.kept.end());
     for (const QString& folder : folders) {
-        const quint64 bytes = co_await measureFolder(folder);
+        const quint64 bytes = co_await measureFolder(folder, kept);
         const Result<QByteArray> listing = co_await Cleaner::list(target.rule, folder, now, m_tools);
         take(target, {folder, bytes, listing.value}, listing.reason);
         target.details.append({folder, bytes});
@@ -176,8 +200,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target) {
     co_return target;
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
-    const QByteArray report = co_await askContainers(containerReport);
+QCoro::Task<CacheTarget> CacheScanner::scanContainers(CacheTarget target) {
+    const QByteArray report = co_await ask(forEngine(containerReport, target));
     target.sizeBytes = 0;
     target.details = parseContainerReport(report);
     for (const CacheEntry& entry : std::as_const(target.details))
@@ -188,13 +212,23 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
         target.notes.append(
             QCoreApplication::translate("CacheScanner", "The tool calls %1 of it reclaimable.")
                 .arg(Formatters::bytes(*reclaimable)));
-        const QByteArray volumes = co_await askContainers(volumesThatGo);
+        const QByteArray volumes = co_await ask(forEngine(volumesThatGo, target));
         target.volumes = parseVolumes(volumes);
     }
     co_return target;
 }
 
-QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
+QCoro::Task<CacheTarget> CacheScanner::scanByCommand(CacheTarget target) {
+    const QByteArray report = co_await ask(target.sizeCommand);
+    const QByteArray lastLine = report.trimmed().split('\n').constLast().simplified();
+    target.sizeBytes = lastLine.split(' ').constFirst().toULongLong();
+    target.details.clear();
+    if (target.sizeBytes > 0 && !target.paths.isEmpty())
+        target.details.append({target.paths.constFirst(), target.sizeBytes});
+    co_return target;
+}
+
+QCoro::Task<QByteArray> CacheScanner::ask(QString command) {
     const ToolRequest request = CleanupPlan::shellRequest(command, containerTimeout);
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;

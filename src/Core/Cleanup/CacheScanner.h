@@ -49,9 +49,10 @@ private:
     QCoro::Task<CacheTarget> scanOne(CacheTarget target);
     QCoro::Task<CacheTarget> scanFolders(CacheTarget target);
     QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target);
-    QCoro::Task<CacheTarget> scanDocker(CacheTarget target);
-    QCoro::Task<quint64> measureFolder(QString folder);
-    QCoro::Task<QByteArray> askContainers(QString command);
+    QCoro::Task<CacheTarget> scanContainers(CacheTarget target);
+    QCoro::Task<CacheTarget> scanByCommand(CacheTarget target);
+    QCoro::Task<quint64> measureFolder(QString folder, QStringList kept);
+    QCoro::Task<QByteArray> ask(QString command);
 
     std::shared_ptr<ToolRunner> m_tools;
     std::shared_ptr<Places> m_places;
