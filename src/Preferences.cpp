@@ -16,6 +16,8 @@ template <typename T> std::optional<T> read(const SettingsFile& file, const QStr
         return file.number(key);
     } else if constexpr (std::is_same_v<T, QByteArray>) {
         return file.bytes(key);
+    } else if constexpr (std::is_same_v<T, QStringList>) {
+        return file.texts(key);
     } else {
         return fromRawValue<T>(file.text(key).value_or(QString()));
     }
@@ -47,6 +49,7 @@ template <typename T> void Property<T>::set(const T& value) {
 template class Property<bool>;
 template class Property<double>;
 template class Property<QByteArray>;
+template class Property<QStringList>;
 template class Property<MenuBarFormat>;
 template class Property<HistoryRetention>;
 

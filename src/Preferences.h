@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QSet>
+#include <QStringList>
 
 #include <array>
 
@@ -107,6 +108,9 @@ public:
     Property<double> notifyQuietFrom{*this, u"pref.notifyQuiet_from", 22 * 60};
     Property<double> notifyQuietTo{*this, u"pref.notifyQuiet_to", 7 * 60};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
+    Property<bool> showAllCleanupTargets{*this, u"pref.showAllCleanupTargets", false};
+    /// Absolute folders to look for projects in. Empty: the home folder.
+    Property<QStringList> projectFolders{*this, u"pref.projectFolders", QStringList()};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.
     Property<QByteArray> programGroupsJSON{*this, u"pref.programGroupsJSON", QByteArray()};

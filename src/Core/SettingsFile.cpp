@@ -64,7 +64,7 @@ bool SettingsFile::hasRoom() const {
     const QFileInfo file(path());
     qsizetype size = file.size() + slack;
     for (const QVariant& each : m_unsaved)
-        size += maxEscaped * each.toByteArray().size();
+        size += maxEscaped * (each.toByteArray().size() + each.toStringList().join(u',').size());
     QDir().mkpath(file.path());
     QTemporaryFile trial(path() + QStringLiteral(".XXXXXX"));
     return trial.open() && trial.write(QByteArray(size, 'x')) == size && trial.flush();
@@ -99,6 +99,12 @@ std::optional<QByteArray> SettingsFile::bytes(const QString& key) const {
     const bool readable =
         stored.userType() == QMetaType::QByteArray || stored.userType() == QMetaType::QString;
     return readable ? std::optional(stored.toByteArray()) : std::nullopt;
+}
+
+std::optional<QStringList> SettingsFile::texts(const QString& key) const {
+    const QVariant stored = value(key); // a list of one text is read as a text
+    const bool isReadable = stored.isValid() && stored.canConvert<QStringList>();
+    return isReadable ? std::optional(stored.toStringList()) : std::nullopt;
 }
 
 void SettingsFile::store(const QString& key, const QVariant& value) {

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,6 +23,7 @@ public:
     std::optional<double> number(const QString& key) const;
     std::optional<QString> text(const QString& key) const;
     std::optional<QByteArray> bytes(const QString& key) const;
+    std::optional<QStringList> texts(const QString& key) const;
 
     /// Stores a value. An invalid one removes the key.
     void store(const QString& key, const QVariant& value);

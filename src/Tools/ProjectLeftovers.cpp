@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -123,6 +124,7 @@ private:
              LeftoverProject& project) const;
     void finish(LeftoverProject& project, GitRepository* repository) const;
 
+    const std::time_t m_now = std::time(nullptr); ///< what is written later says nothing
     const ProcessPaths& m_processes;
     const std::function<void(const LeftoverProject&)>& m_found;
 };
@@ -182,7 +184,7 @@ void Search::visitEntries(const Folder& folder, const std::string& path, int dep
         if (name.starts_with('.') || name == "node_modules" || name == "__pycache__")
             continue;
         const auto entry = folder.status(name);
-        if (entry && S_ISREG(entry->st_mode) && project)
+        if (entry && S_ISREG(entry->st_mode) && project && entry->st_mtime <= m_now)
             project->lastUse = std::max<std::int64_t>(project->lastUse, entry->st_mtime);
         if (!entry || !S_ISDIR(entry->st_mode) || depth >= maxProjectDepth)
             continue;

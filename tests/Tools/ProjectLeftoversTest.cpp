@@ -162,7 +162,9 @@ TEST_F(LeftoversTest, KnowsTheLastUse) {
     };
     std::filesystem::last_write_time(top + "/a/package.json", at(1'000'000));
     std::filesystem::last_write_time(top + "/a/src/new.js", at(2'000'000));
-    EXPECT_EQ(search().at(0).lastUse, 2'000'000) << "what is in a leftover does not count";
+    make("a/src/future.js");
+    std::filesystem::last_write_time(top + "/a/src/future.js", at(std::time(nullptr) + 1000));
+    EXPECT_EQ(search().at(0).lastUse, 2'000'000) << "what is in a leftover or of the future does not count";
     make("a/.git/logs/HEAD", "0 1 A > B <a@b> 1500000 +0100\tcommit\n1 2 A > B <a@b> 3000000 -0800\tx > 9\n");
     EXPECT_EQ(search().at(0).lastUse, 3'000'000);
     make("a/.git/logs/HEAD", "nothing");
