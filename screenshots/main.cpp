@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
         QApplication::setFont(QFont(u"Inter"_s, 10));
     Camera camera(QString::fromLocal8Bit(argv[1]));
     shootSections(camera);
+    shootCleanup(camera);
     shootSessions(camera);
     shootFreeRAM(camera);
     shootPanels(camera);

@@ -44,6 +44,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_sessions(m_platform)
     , m_actionLog(m_platform.clock)
     , m_cleanup(m_platform, m_actionLog, m_preferences)
+    , m_projectLeftovers(m_platform, m_actionLog)
     , m_actions(m_platform, m_state, m_sampler, m_servers, m_actionLog)
     , m_memoryWatch(m_platform, m_actionLog)
     , m_optimizer(m_actions, m_actionLog) {
@@ -117,7 +118,7 @@ void AppModel::publishAlerts() {
     const QList<Alert> before = m_state.alerts;
     const MemoryOutlook outlook = m_memoryWatch.outlook(m_state.systemSample, m_state.sessions.sessions);
     publish(m_state.alerts,
-            m_rules.evaluate(m_state.systemSample, m_state.processes, m_state.groups, m_cleanup.targets(),
+            m_rules.evaluate(m_state.systemSample, m_state.processes, m_state.groups, m_cleanup.reclaimable(),
                              m_preferences, m_state.sessions.sessions, outlook));
     const QList<Incident> incidents = m_memoryWatch.incidents(before, m_state.alerts);
     if (!incidents.isEmpty())

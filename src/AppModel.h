@@ -3,6 +3,7 @@
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Alerts/RulesEngine.h"
 #include "Core/Cleanup/CacheCleanup.h"
+#include "Core/Cleanup/ProjectLeftovers.h"
 #include "Core/Grouping/ProcessGrouper.h"
 #include "Core/Mcp/MCPConfiguration.h"
 #include "Core/Mcp/ServerWatch.h"
@@ -61,6 +62,7 @@ public:
     const ActionLog& actionLog() const { return m_actionLog; }
     CacheCleanup& cleanup() { return m_cleanup; }
     const CacheCleanup& cleanup() const { return m_cleanup; }
+    ProjectLeftovers& projectLeftovers() { return m_projectLeftovers; }
     ProcessActions& actions() { return m_actions; }
     const ProcessActions& actions() const { return m_actions; }
 
@@ -103,6 +105,7 @@ private:
     bool m_hasSessions = false; ///< the report is of the last full tick
     ActionLog m_actionLog;
     CacheCleanup m_cleanup;
+    ProjectLeftovers m_projectLeftovers;
     ProcessActions m_actions;
     MemoryWatch m_memoryWatch;
     AutoOptimizer m_optimizer;

@@ -112,6 +112,9 @@ public:
     /// Paths that were left out of one clean, see LeaveOutOffer.
     Property<QStringList> cleanupLeftOut{*this, u"ui.cleanupLeftOut", {}};
     Property<bool> askBeforeCleaningAll{*this, u"pref.askBeforeCleaningAll", true};
+    Property<bool> showAllCleanupTargets{*this, u"pref.showAllCleanupTargets", false};
+    /// Absolute folders to look for projects in. Empty: the home folder.
+    Property<QStringList> projectFolders{*this, u"pref.projectFolders", QStringList()};
     Property<QByteArray> quickKillPresetsJSON{*this, u"pref.quickKillPresetsJSON", QByteArray()};
     /// A JSON object: raw values of groups by program.
     Property<QByteArray> programGroupsJSON{*this, u"pref.programGroupsJSON", QByteArray()};

@@ -71,6 +71,23 @@
     </message>
 </context>
 <context>
+    <name>LeftoverTexts</name>
+    <message numerus="yes">
+        <source>Stopped: removed %n folder(s), freed ~%1</source>
+        <translation>
+            <numerusform>Stopped: removed %n folder, freed ~%1</numerusform>
+            <numerusform>Stopped: removed %n folders, freed ~%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n folder(s), freed ~%1</source>
+        <translation>
+            <numerusform>Removed %n folder, freed ~%1</numerusform>
+            <numerusform>Removed %n folders, freed ~%1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>NotificationPlan</name>
     <message numerus="yes">
         <source>%n large session(s)</source>
@@ -84,6 +101,23 @@
         <translation>
             <numerusform>%n idle agent</numerusform>
             <numerusform>%n idle agents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProjectLeftoversSheet</name>
+    <message numerus="yes">
+        <source>Remove %n folder(s) (%1)…</source>
+        <translation>
+            <numerusform>Remove %n folder (%1)…</numerusform>
+            <numerusform>Remove %n folders (%1)…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n folder(s)?</source>
+        <translation>
+            <numerusform>Remove %n folder?</numerusform>
+            <numerusform>Remove %n folders?</numerusform>
         </translation>
     </message>
 </context>

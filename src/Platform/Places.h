@@ -11,7 +11,7 @@ struct Place {
     bool operator==(const Place&) const = default;
 };
 
-/// Maps paths of the cleanup catalogue to this system's folders.
+/// Maps paths of the cleanup catalogue and of the system's own targets to folders.
 class Places {
 public:
     virtual ~Places() = default;
@@ -20,5 +20,11 @@ public:
     /// "~" expanded. Where it does not exist, or the system keeps the same kind of files elsewhere too, it is
     /// the existing folders of the system. Returns an empty list when "~" cannot be expanded. The home folder
     /// and its parents are returned with an objection only.
+    ///
+    /// A path of the system's own targets may begin with "$NAME/" for the folder that a variable of the
+    /// environment names, or its default, and contain "*" and "?" in names. The result is what exists of it.
     virtual QList<Place> locate(const QString& path) const = 0;
+
+    /// Returns false for a path that only other systems have.
+    virtual bool canExist(const QString&) const { return true; }
 };

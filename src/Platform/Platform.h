@@ -4,6 +4,7 @@
 
 class Appearance;
 class Applications;
+class CleanupTargets;
 class Clock;
 class HostStatistics;
 class Identity;
@@ -32,6 +33,7 @@ struct Platform {
     std::shared_ptr<Clock> clock;
     std::shared_ptr<ToolRunner> tools;
     std::shared_ptr<Places> places;
+    std::shared_ptr<CleanupTargets> cleanupTargets;
     std::shared_ptr<Signals> signalSender;
     std::shared_ptr<Applications> applications;
     std::shared_ptr<Relief> relief;

@@ -97,7 +97,7 @@ void RootView::addSections(Preferences& preferences) {
     addSection(Tab::overview, m_overview);
     addSection(Tab::optimize, new OptimizeView(m_model, preferences));
     addSection(Tab::processes, new ProcessesView(m_model, preferences));
-    addSection(Tab::cleanup, new CleanupView(m_model));
+    addSection(Tab::cleanup, new CleanupView(m_model, preferences));
     addSection(Tab::sessions, m_sessionsView);
 }
 

@@ -128,4 +128,52 @@ TEST(FreedesktopPlaces, FindsFoldersOfLogsThatExist) {
     EXPECT_EQ(paths(places.locate(u"~/Library/Logs"_s)), expected);
 }
 
+TEST(FreedesktopPlaces, FollowsTheVariablesOfToolsAndPatterns) {
+    const TemporaryHome home;
+    const FreedesktopPlaces places;
+    const auto found = [&](const QString& path) { return paths(places.locate(path)); };
+    const QString deep = home.makeFolder(u".cache/tool/one/logs-a"_s);
+    const QString other = home.makeFolder(u".cache/tool/.two/logs-b"_s);
+    home.makeFolder(u".cache/tool/one/Logs-c"_s);
+    home.makeFile(u".cache/tool/one/logs-file"_s);
+    home.makeFolder(u"elsewhere/logs-d"_s);
+    ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(u".cache/tool/three"_s)));
+    QStringList logs = found(u"$XDG_CACHE_HOME/tool/*/logs-*"_s);
+    logs.sort();
+    EXPECT_EQ(logs, QStringList({other, deep})) << "hidden ones too, but no links, files and other cases";
+
+    const QString source = home.makeFolder(u".cargo/registry/src"_s);
+    EXPECT_EQ(found(u"$CARGO_HOME/registry/src"_s), QStringList(source));
+    const QString moved = home.makeFolder(u"my cargo [1]/registry/src"_s);
+    qputenv("CARGO_HOME", home.path(u"my cargo [1]"_s).toUtf8());
+    EXPECT_EQ(found(u"$CARGO_HOME/registry/src"_s), QStringList(moved));
+    qputenv("CARGO_HOME", "relative");
+    EXPECT_EQ(found(u"$CARGO_HOME/registry/src"_s), QStringList(source));
+    qunsetenv("CARGO_HOME");
+    EXPECT_TRUE(found(u"$NO_SUCH_NAME/registry"_s).isEmpty());
+}
+
+TEST(FreedesktopPlaces, ObjectsToPlacesOfToolsThatAreMoreThanThat) {
+    const TemporaryHome home;
+    const QString table = u"36 35 98:0 /root %1/disk/hub rw - ext4 /dev/sdb1 rw\n"_s.arg(home.path());
+    const FreedesktopPlaces places(home.makeFile(u"mountinfo"_s, table.toUtf8()).toStdString());
+    const std::tuple<const char*, bool> cases[] = {
+        {"models", false}, {"Documents/models", true}, {".config", true}, {".local/share/hf", true},
+        {"disk", true},
+    };
+    for (const auto& [folder, isRefused] : cases) {
+        home.makeFolder(QString::fromUtf8(folder) + u"/hub"_s);
+        qputenv("HF_HOME", home.path(QString::fromUtf8(folder)).toUtf8());
+        const QList<Place> found = places.locate(u"$HF_HOME/hub"_s);
+        ASSERT_EQ(found.size(), 1) << folder;
+        EXPECT_EQ(!found[0].objection.isEmpty(), isRefused) << folder;
+    }
+    qunsetenv("HF_HOME");
+    ASSERT_TRUE(QFile::link(home.path(u"models"_s), home.makeFolder(u".cache"_s) + u"/huggingface"_s));
+    ASSERT_TRUE(QFile::link(home.path(u"models/hub"_s), home.path(u".cache/thumbnails"_s)));
+    EXPECT_FALSE(places.locate(u"$XDG_CACHE_HOME/thumbnails"_s).first().objection.isEmpty()) << "a link";
+    EXPECT_TRUE(places.canExist(u"~/Library/Caches/pip"_s));
+    EXPECT_FALSE(places.canExist(u"~/Library/Developer/Xcode/DerivedData"_s));
+}
+
 } // namespace

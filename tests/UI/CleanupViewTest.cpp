@@ -7,6 +7,7 @@
 #include "UI/Kit/Spinner.h"
 #include "UI/ModelFixture.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTreeView>
@@ -19,7 +20,7 @@ namespace {
 
 struct CleanupViewTest : ModelFixture {
     QWidget window;
-    CleanupView* view = new CleanupView(model, &window);
+    CleanupView* view = new CleanupView(model, prefs, &window);
 
     CleanupViewTest() {
         fillNpmFolder();
@@ -76,10 +77,49 @@ const QList<std::pair<QByteArray, quint64>> someFiles = {
 } // namespace
 
 TEST_F(CleanupViewTest, NothingIsKnownBeforeTheFirstScan) {
-    EXPECT_EQ(cards().size(), CacheTarget::defaults().size());
+    EXPECT_EQ(cards().size(), CacheTarget::defaults().size() + 1);
+    EXPECT_EQ(cards().last(), u"Project leftovers, 0 bytes, Not scanned yet"_s);
     EXPECT_EQ(cards()[0], u"npm / pnpm / yarn, 0 bytes, Not scanned yet"_s);
     EXPECT_TRUE(showsText(*view, u"Reclaimable: 0 bytes"_s));
     EXPECT_FALSE(buttonNamed(*view, u"Clean All"_s)->isEnabled());
+}
+
+TEST(CleanupView, TargetsOfTheSystemAreShownWhereTheyAreOrOnRequest) {
+    struct Fixture : ModelFixture {
+        void TestBody() override {}
+    } machine;
+    const TemporaryFolder folder;
+    machine.fillNpmFolder();
+    machine.fakes.places->impossible = {u"~/Library/Caches/Homebrew"_s};
+    machine.fakes.cleanupTargets->targets = {
+        {.name = u"Here"_s,
+         .paths = {folder.path()},
+         .reason = u"It is\tmade again."_s,
+         .isInCleanAll = false},
+        {.name = u"Nowhere"_s, .paths = {u"/no/such/folder"_s}, .reason = u"It is made again."_s}};
+    AppModel model(machine.fakes.platform(), machine.prefs);
+    QWidget window;
+    CleanupView view(model, machine.prefs, &window);
+    window.show();
+    QMetaObject::invokeMethod(&model, "tick");
+    settle();
+    const auto has = [&](const QString& name) {
+        const QStringList names = shownNames<CacheCard>(view);
+        return std::ranges::any_of(names, [&](const QString& each) { return each.startsWith(name + u','); });
+    };
+    EXPECT_TRUE(has(u"Here"_s) && has(u"npm / pnpm / yarn"_s));
+    EXPECT_FALSE(has(u"Nowhere"_s) || has(u"Homebrew"_s));
+    EXPECT_TRUE(shownNames<CacheCard>(view).last().startsWith(u"Project leftovers,"_s));
+    for (const auto* card : view.findChildren<CacheCard*>()) {
+        if (card->accessibleName().startsWith(u"Here,"_s))
+            EXPECT_EQ(card->accessibleDescription(), u"It is␉made again. Not in Clean All."_s);
+    }
+    press(view, u"Show all"_s);
+    settle();
+    EXPECT_TRUE(has(u"Nowhere"_s) && has(u"Homebrew"_s));
+    EXPECT_TRUE(machine.prefs.showAllCleanupTargets());
+    const CleanupView later(model, machine.prefs);
+    EXPECT_TRUE(later.findChild<QCheckBox*>()->isChecked());
 }
 
 TEST_F(CleanupViewTest, ScanningShowsHowFarItIs) {
@@ -145,8 +185,10 @@ TEST_F(CleanupViewTest, CleanAllAsksFirstAndTellsWhatItFreed) {
 TEST_F(CleanupViewTest, TheGridReflowsWithTheWindow) {
     const auto columns = [this] {
         QSet<int> lefts;
-        for (const auto* card : view->findChildren<CacheCard*>())
-            lefts.insert(card->x());
+        for (const auto* card : view->findChildren<CacheCard*>()) {
+            if (card->isVisibleTo(view))
+                lefts.insert(card->x());
+        }
         return lefts.size();
     };
     EXPECT_EQ(columns(), 3);

@@ -41,6 +41,7 @@ expected='-rw-r--r-- root/root ./usr/share/applications/tavrin.desktop
 -rwxr-xr-x root/root ./usr/libexec/tavrin/du
 -rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
 -rwxr-xr-x root/root ./usr/libexec/tavrin/osascript
+-rwxr-xr-x root/root ./usr/libexec/tavrin/project_leftovers
 -rwxr-xr-x root/root ./usr/libexec/tavrin/purge'
 listing=$(dpkg-deb -c "$package")
 check "it holds these files and no other" same "$expected" \

@@ -10,6 +10,7 @@ class FakePlaces : public Places {
 public:
     QHash<QString, QStringList> elsewhere;
     QHash<QString, QString> objections; ///< by place
+    QStringList impossible;             ///< paths that only other systems have
 
     QList<Place> locate(const QString& path) const override {
         QList<Place> places;
@@ -17,4 +18,5 @@ public:
             places.append({place, objections.value(place)});
         return places;
     }
+    bool canExist(const QString& path) const override { return !impossible.contains(path); }
 };

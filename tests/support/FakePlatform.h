@@ -2,6 +2,7 @@
 
 #include "Core/Instant.h"
 #include "Platform/Applications.h"
+#include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
@@ -204,6 +205,13 @@ private:
     }
 };
 
+class FakeCleanupTargets : public CleanupTargets {
+public:
+    QList<PlatformTarget> targets;
+
+    QList<PlatformTarget> all() const override { return targets; }
+};
+
 class FakePressure : public Pressure {
 public:
     std::optional<PressureLevel> memory() override { return memoryLevel; }
@@ -239,6 +247,7 @@ struct FakePlatform {
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<ScriptedTools> tools = std::make_shared<ScriptedTools>();
     std::shared_ptr<FakePlaces> places = std::make_shared<FakePlaces>();
+    std::shared_ptr<FakeCleanupTargets> cleanupTargets = std::make_shared<FakeCleanupTargets>();
     std::shared_ptr<FakeSignals> signalSender = std::make_shared<FakeSignals>();
     std::shared_ptr<FakeApplications> applications = std::make_shared<FakeApplications>();
     std::shared_ptr<FakeRelief> relief = std::make_shared<FakeRelief>();
@@ -255,6 +264,7 @@ struct FakePlatform {
                 .clock = clock,
                 .tools = tools,
                 .places = places,
+                .cleanupTargets = cleanupTargets,
                 .signalSender = signalSender,
                 .applications = applications,
                 .relief = relief};

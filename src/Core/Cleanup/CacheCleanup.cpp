@@ -3,9 +3,13 @@
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheScanner.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
+#include "Platform/Places.h"
 #include "Preferences.h"
 
+#include <QFileInfo>
+#include <QHash>
 #include <QPointer>
 
 #include <algorithm>
@@ -25,7 +29,71 @@ QList<CacheTarget> without(QList<CacheTarget> targets, const QStringList& exclud
 CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences)
     : m_platform(platform)
     , m_log(log)
-    , m_preferences(preferences) {}
+    , m_preferences(preferences) {
+    for (const PlatformTarget& target : m_platform.cleanupTargets->all())
+        m_targets.append(CacheTarget::of(target));
+    findReclaimable();
+}
+
+bool CacheCleanup::isShown(const CacheTarget& target) const {
+    const auto hasSomething = [this](const CacheTarget& one) {
+        return one.lastScanned ? one.sizeBytes > 0 || !one.notes.isEmpty() : m_found.contains(one.name);
+    };
+    if (target.isOfSystem() || hasSomething(target))
+        return hasSomething(target);
+    const auto canExist = [this](const QString& path) { return m_platform.places->canExist(path); };
+    return target.paths.isEmpty() || std::ranges::any_of(target.paths, canExist);
+}
+
+QList<CacheTarget> CacheCleanup::shownTargets() const {
+    QList<CacheTarget> shown = m_targets;
+    shown.removeIf([this](const CacheTarget& target) { return !isShown(target); });
+    return shown;
+}
+
+void CacheCleanup::lookForPlaces() {
+    QSet<QString> found;
+    for (const CacheTarget& target : std::as_const(m_targets)) {
+        const auto exists = [](const Place& place) { return QFileInfo::exists(place.path); };
+        const bool isCounted = target.lastScanned || target.rule.measure == CleanupRule::Measure::command;
+        if (!isCounted && std::ranges::any_of(CleanupPlan::placesOf(target, *m_platform.places), exists))
+            found.insert(target.name);
+    }
+    if (found == m_found)
+        return;
+    publish(m_found, found);
+    findReclaimable();
+}
+
+void CacheCleanup::findReclaimable() {
+    m_reclaimable = shownTargets();
+    m_reclaimable.removeIf([](const CacheTarget& target) { return !target.isInCleanAll; });
+    CleanupPlan::markShared(m_reclaimable);
+}
+
+/// Returns the targets with what stays of each by now. A folder that holds somebody's work keeps it when it
+/// is emptied: models are among the user's caches.
+QList<CacheTarget> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
+    const auto isData = [](const CacheTarget& target) {
+        return target.isOfSystem() && target.rule.hasUserFiles;
+    };
+    QHash<QString, QStringList> keptOf;
+    QStringList data;
+    for (const PlatformTarget& target : m_platform.cleanupTargets->all()) {
+        keptOf[target.name] = target.kept;
+        if (!target.isData)
+            continue;
+        for (const Place& place : CleanupPlan::placesOf(CacheTarget::of(target), *m_platform.places)) {
+            if (QFileInfo::exists(place.path))
+                data.append(place.path);
+        }
+    }
+    for (CacheTarget& target : targets) {
+        const QStringList kept = keptOf.value(target.name) + (isData(target) ? QStringList() : data);
+        target.rule.kept.assign(kept.begin(), kept.end());
+    }
+    return targets;
+}
 
 QCoro::Task<> CacheCleanup::rescan() {
     const QPointer<CacheCleanup> self(this);
@@ -38,11 +106,12 @@ QCoro::Task<> CacheCleanup::rescan() {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
     });
-    auto scanning = scanner.scan(without(m_targets, m_preferences.cleanupExcludes()));
+    auto scanning = scanner.scan(without(withWhatStays(m_targets), m_preferences.cleanupExcludes()));
     const QList<CacheTarget> measured = co_await scanning;
     if (!self || m_scansBegun != scan)
         co_return;
     publish(m_targets, measured);
+    findReclaimable();
     publish(m_scanProgress, std::optional<CleanupProgress>());
 }
 
@@ -82,6 +151,8 @@ QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(Way way, CacheTarget ta
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
 
+    if (!target.lastScanned)
+        target = withWhatStays({target}).constFirst();
     target.rule.excludes = m_preferences.cleanupExcludes();
     auto cleaning = way(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop,
                         progressOf(CleanupPlan::listedBytes(target)));
@@ -139,7 +210,7 @@ QCoro::Task<> CacheCleanup::moveToTrash(CacheTarget target) {
 }
 
 QList<CacheTarget> CacheCleanup::targetsToClean() const {
-    QList<CacheTarget> targets = m_targets;
+    QList<CacheTarget> targets = m_reclaimable;
     targets.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
     return targets;
 }

@@ -8,6 +8,8 @@
 
 #include <QCoroTask>
 
+#include <QSet>
+
 #include <optional>
 #include <stop_token>
 #include <utility>
@@ -23,7 +25,15 @@ public:
     /// `log` and `preferences` outlive the cleanup.
     CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences);
 
+    /// Returns the fixed catalogue and the system's own targets behind it, after a scan the largest first.
     const QList<CacheTarget>& targets() const { return m_targets; }
+    /// Returns the targets that a person may want to see: those of the system with something to clean, and
+    /// the catalogue without what only other systems have. Before a scan a place that exists stands for
+    /// something to clean; `lookForPlaces` finds them.
+    QList<CacheTarget> shownTargets() const;
+    void lookForPlaces();
+    /// Returns the shown targets that "Clean All" may clean. What they share is counted among them.
+    const QList<CacheTarget>& reclaimable() const { return m_reclaimable; }
     /// Returns an empty optional while no scan runs.
     const std::optional<CleanupProgress>& scanProgress() const { return m_scanProgress; }
     /// Returns an empty optional while no clean runs. Cleans that run at the same time are counted together.
@@ -39,7 +49,7 @@ public:
     QCoro::Task<> clean(CacheTarget target);
     /// Moves the old files of one target to the trash, logs it and measures again.
     QCoro::Task<> moveToTrash(CacheTarget target);
-    /// Returns the targets of "Clean All": those with a known size above 0.
+    /// Returns the targets of "Clean All": the reclaimable ones with a known size above 0.
     QList<CacheTarget> targetsToClean() const;
     /// Cleans these targets one after another, logs each and measures again. Returns how many succeeded, and
     /// how many bytes those freed.
@@ -52,6 +62,9 @@ public:
 private:
     using Way = decltype(&Cleaner::clean);
 
+    bool isShown(const CacheTarget& target) const;
+    QList<CacheTarget> withWhatStays(QList<CacheTarget> targets) const;
+    void findReclaimable();
     void expectCleans(const QList<CacheTarget>& targets);
     void countCleans(int done);
     void noteResult(const CacheTarget& target, const Cleaner::CleanResult& result);
@@ -65,6 +78,8 @@ private:
     ActionLog& m_log;
     const Preferences& m_preferences;
     QList<CacheTarget> m_targets = CacheTarget::defaults();
+    QList<CacheTarget> m_reclaimable;
+    QSet<QString> m_found; ///< names of the targets with a place that exists, before the first scan
     std::optional<CleanupProgress> m_scanProgress;
     std::optional<CleanupProgress> m_cleanProgress;
     CleanupReport m_report;

@@ -26,18 +26,24 @@ constexpr qsizetype maxDetails = 100;
 constexpr auto containerTimeout = 2min;
 constexpr int filesPerPause = 1000;
 
-const auto containerReport = u"command -v docker >/dev/null 2>&1 && docker system df --format "
+// ENGINE is the client of the container engine.
+const auto containerReport = u"command -v ENGINE >/dev/null 2>&1 && ENGINE system df --format "
                              "'{{.Type}}\\t{{.Size}}\\t{{.Reclaimable}}' 2>/dev/null || true"_s;
 
-// Prune removes the volumes that no running container uses. Since version 1.42 of its interface the engine
-// keeps named volumes.
+// Prune removes the volumes that no running container uses. Since version 1.42 of its interface Docker
+// keeps named volumes; Podman, whose version is another number, removes them.
 const auto volumesThatGo =
-    u"command -v docker >/dev/null 2>&1 && { unnamed=; "
-    "case \"$(docker version --format '{{.Server.APIVersion}}')\" in "
+    u"command -v ENGINE >/dev/null 2>&1 && { unnamed=; "
+    "case \"$(ENGINE version --format '{{.Server.APIVersion}}')\" in "
     "1.4[2-9]|1.[5-9][0-9]) unnamed='--filter label=com.docker.volume.anonymous' ;; esac; "
-    "for volume in $(docker volume ls -q $unnamed); do "
-    "[ -n \"$(docker ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
+    "for volume in $(ENGINE volume ls -q $unnamed); do "
+    "[ -n \"$(ENGINE ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
     "done; } 2>/dev/null || true"_s;
+
+/// Returns the script for the engine whose client the target's command begins with.
+QString forEngine(QString script, const CacheTarget& target) {
+    return script.replace("ENGINE"_L1, target.pruneCommand.value_or(u"docker"_s).section(u' ', 0, 0));
+}
 
 /// Returns the places that may be cleaned, and notes why others may not.
 QList<FoundPlace> openPlaces(CacheTarget& target, const QList<FoundPlace>& places) {
@@ -119,7 +125,9 @@ QCoro::Task<> CacheScanner::measure(CacheTarget target) {
 QCoro::Task<CacheTarget> CacheScanner::scanPlaces(CacheTarget target, QList<FoundPlace> places) {
     switch (target.rule.measure) {
     case CleanupRule::Measure::containers:
-        return scanDocker(target);
+        return scanContainers(target);
+    case CleanupRule::Measure::command:
+        return scanByCommand(target);
     case CleanupRule::Measure::oldFiles:
         return scanOldFiles(target, places);
     case CleanupRule::Measure::folders:
@@ -187,8 +195,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, QList<Fo
     co_return target;
 }
 
-QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
-    const QByteArray report = co_await askContainers(containerReport);
+QCoro::Task<CacheTarget> CacheScanner::scanContainers(CacheTarget target) {
+    const QByteArray report = co_await ask(forEngine(containerReport, target));
     target.sizeBytes = 0;
     target.details = parseContainerReport(report);
     for (const CacheEntry& entry : std::as_const(target.details))
@@ -199,13 +207,23 @@ QCoro::Task<CacheTarget> CacheScanner::scanDocker(CacheTarget target) {
         target.notes.append(
             QCoreApplication::translate("CacheScanner", "The tool calls %1 of it reclaimable.")
                 .arg(Formatters::bytes(*reclaimable)));
-        const QByteArray volumes = co_await askContainers(volumesThatGo);
+        const QByteArray volumes = co_await ask(forEngine(volumesThatGo, target));
         target.volumes = parseVolumes(volumes);
     }
     co_return target;
 }
 
-QCoro::Task<QByteArray> CacheScanner::askContainers(QString command) {
+QCoro::Task<CacheTarget> CacheScanner::scanByCommand(CacheTarget target) {
+    const QByteArray report = co_await ask(target.sizeCommand);
+    const QByteArray lastLine = report.trimmed().split('\n').constLast().simplified();
+    target.sizeBytes = lastLine.split(' ').constFirst().toULongLong();
+    target.details.clear();
+    if (target.sizeBytes > 0 && !target.paths.isEmpty())
+        target.details.append({target.paths.constFirst(), target.sizeBytes});
+    co_return target;
+}
+
+QCoro::Task<QByteArray> CacheScanner::ask(QString command) {
     const ToolRequest request = CleanupPlan::shellRequest(command, containerTimeout);
     const ToolResult result = co_await m_tools->run(request);
     co_return result.output;

@@ -53,9 +53,10 @@ private:
     QCoro::Task<CacheTarget> scanPlaces(CacheTarget target, QList<FoundPlace> places);
     QCoro::Task<CacheTarget> scanFolders(CacheTarget target, QList<FoundPlace> places);
     QCoro::Task<CacheTarget> scanOldFiles(CacheTarget target, QList<FoundPlace> places);
-    QCoro::Task<CacheTarget> scanDocker(CacheTarget target);
+    QCoro::Task<CacheTarget> scanContainers(CacheTarget target);
+    QCoro::Task<CacheTarget> scanByCommand(CacheTarget target);
     QCoro::Task<quint64> measureFolder(FoundPlace folder);
-    QCoro::Task<QByteArray> askContainers(QString command);
+    QCoro::Task<QByteArray> ask(QString command);
 
     std::shared_ptr<ToolRunner> m_tools;
     std::shared_ptr<Places> m_places;

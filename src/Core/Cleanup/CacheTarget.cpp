@@ -1,5 +1,7 @@
 #include "Core/Cleanup/CacheTarget.h"
 
+#include "Platform/CleanupTargets.h"
+
 using namespace Qt::StringLiterals;
 
 using Measure = CleanupRule::Measure;
@@ -78,4 +80,25 @@ QList<CacheTarget> restOfCatalogue() {
 const QList<CacheTarget>& CacheTarget::defaults() {
     static const QList<CacheTarget> catalogue = cachesOfTools() + restOfCatalogue();
     return catalogue;
+}
+
+CacheTarget CacheTarget::of(const PlatformTarget& target) {
+    CleanupRule rule{.hasUserFiles = target.isData, .kept = {target.kept.begin(), target.kept.end()}};
+    if (target.isContainerEngine)
+        rule.measure = Measure::containers;
+    else if (target.sizeCommand)
+        rule.measure = Measure::command;
+    else if (target.olderThanDays > 0) {
+        rule.measure = Measure::oldFiles;
+        rule.olderThanDays = target.olderThanDays;
+        rule.isShared = target.isShared;
+    }
+    return {.name = target.name,
+            .symbol = target.symbol,
+            .paths = target.paths,
+            .pruneCommand = target.command,
+            .rule = rule,
+            .reason = target.reason,
+            .isInCleanAll = target.isInCleanAll && !target.isData,
+            .sizeCommand = target.sizeCommand.value_or(QString())};
 }

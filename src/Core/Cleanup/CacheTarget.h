@@ -8,6 +8,9 @@
 #include <QStringList>
 
 #include <optional>
+#include <vector>
+
+struct PlatformTarget;
 
 /// One path of a cleanup target, measured.
 struct CacheEntry {
@@ -20,16 +23,18 @@ struct CacheEntry {
 /// How a target is measured, previewed and cleaned. A target with a prune command is cleaned by that alone.
 struct CleanupRule {
     enum class Measure {
-        folders,   ///< whole folders, which are emptied
-        oldFiles,  ///< files in them that are older than `olderThanDays`
-        containers ///< what the container engine reports
+        folders,    ///< whole folders, which are emptied
+        oldFiles,   ///< files in them that are older than `olderThanDays`
+        containers, ///< what the container engine reports
+        command     ///< what the target's own command prints
     };
 
     Measure measure = Measure::folders;
     int olderThanDays = 0;
     bool screenshotsOnly = false;
-    bool isShared = false;     ///< its folder is everybody's, and programs work in it
-    bool hasUserFiles = false; ///< files that no program makes again
+    bool isShared = false;          ///< its folder is everybody's, and programs work in it
+    bool hasUserFiles = false;      ///< files that no program makes again
+    std::vector<QString> kept = {}; ///< absolute paths that stay, with all below them
     /// What stays, with all below it: patterns for absolute paths and for names, where "*" matches slashes
     /// too.
     QStringList excludes = {};
@@ -64,9 +69,15 @@ struct CacheTarget {
     QStringList notes = {};          ///< sentences for the user, such as why a folder is left alone
     QString reason = {};             ///< why it may go, a sentence; empty for the fixed catalogue
     bool isInCleanAll = true;        ///< cleaned with all others; else only when it is chosen
+    /// Prints the size in bytes as the first word of its last line.
+    QString sizeCommand = {};
 
     bool operator==(const CacheTarget&) const = default;
 
     /// Returns the fixed catalogue, without results of a scan.
     static const QList<CacheTarget>& defaults();
+    /// Returns a target of the system's own.
+    static CacheTarget of(const PlatformTarget& target);
+    /// Returns whether the target is one of the system's own, not of the fixed catalogue.
+    bool isOfSystem() const { return !reason.isEmpty(); }
 };

@@ -24,6 +24,8 @@ QString withHome(const QString& pattern) {
 
 ToolRequest request(const QString& verb, const CleanupRule& rule, const QString& folder, Instant now) {
     QStringList arguments{verb, u"--keep"_s, CleanupPlan::keptFolder()};
+    for (const QString& kept : rule.kept)
+        arguments << u"--keep"_s << kept;
     if (rule.measure == CleanupRule::Measure::oldFiles) {
         const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch()).count();
         arguments << u"--older-than"_s << QString::number(rule.olderThanDays) << u"--now"_s

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <fstream>
 #include <optional>
 #include <sstream>
@@ -20,7 +21,7 @@ enum class Base { home, cacheHome, settingsHome, dataHome, stateHome, downloads,
 struct KnownPlace {
     QStringView path;
     Base base;
-    QStringView below;         ///< one component may be "*" for every folder there
+    QStringView below;         ///< a pattern, see expanded
     bool isAdditional = false; ///< counts even if the path itself exists
 };
 
@@ -61,6 +62,37 @@ constexpr KnownPlace elsewhere[] = {
     {u"~/Library/Logs", Base::home, u".minikube/logs", true},
     {u"~/Library/Logs", Base::home, u".docker/desktop/log", true},
 };
+
+/// Folders that a variable may name, with where they are without it. A path begins with "$NAME/".
+struct NamedFolder {
+    const char* variable;
+    QStringView otherwise; ///< in the home folder, or in another of the table
+};
+
+constexpr NamedFolder namedFolders[] = {
+    {"HOME", u"~/."},
+    {"XDG_CACHE_HOME", u"~/.cache"},
+    {"XDG_CONFIG_HOME", u"~/.config"},
+    {"XDG_DATA_HOME", u"~/.local/share"},
+    {"XDG_STATE_HOME", u"~/.local/state"},
+    {"BUN_INSTALL", u"~/.bun"},
+    {"CARGO_HOME", u"~/.cargo"},
+    {"CCACHE_DIR", u"$XDG_CACHE_HOME/ccache"},
+    {"CLAUDE_CONFIG_DIR", u"~/.claude"},
+    {"CODEX_HOME", u"~/.codex"},
+    {"CONAN_HOME", u"~/.conan2"},
+    {"COREPACK_HOME", u"$XDG_CACHE_HOME/node/corepack"},
+    {"DENO_DIR", u"$XDG_CACHE_HOME/deno"},
+    {"GRADLE_USER_HOME", u"~/.gradle"},
+    {"HF_HOME", u"$XDG_CACHE_HOME/huggingface"},
+    {"OLLAMA_MODELS", u"~/.ollama/models"},
+    {"QWEN_HOME", u"~/.qwen"},
+    {"RUSTUP_HOME", u"~/.rustup"},
+    {"SCCACHE_DIR", u"$XDG_CACHE_HOME/sccache"},
+};
+
+/// Bounds what a pattern may stand for.
+constexpr qsizetype maxExpanded = 1000;
 
 /// Returns HOME if it is the absolute path of an existing folder other than the root.
 std::optional<QString> homeFolder() {
@@ -112,19 +144,53 @@ QString canonical(const QString& path) {
     return found.isEmpty() ? QDir::cleanPath(path) : found;
 }
 
-/// Returns the existing folders of a pattern.
+bool isPattern(const QString& name) {
+    return name.contains(u'*') || name.contains(u'?');
+}
+
+/// Returns the existing folders of an absolute path in which "*" and "?" stand for any text and any character
+/// of a name, as many as the bound allows. They stand for no symlink. A path without them may name a file.
 QStringList expanded(const QString& pattern) {
-    const qsizetype star = pattern.indexOf(u"/*/");
-    if (star < 0)
-        return QFileInfo::exists(pattern) ? QStringList(pattern) : QStringList();
-    QStringList found;
-    const QDir outer(pattern.first(star));
-    for (const QString& name : outer.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
-        const QString path = outer.filePath(name) + pattern.mid(star + 2);
-        if (QFileInfo(path).isDir())
-            found.append(path);
+    constexpr auto matched =
+        QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks | QDir::CaseSensitive;
+    QStringList found{QString()};
+    bool isPlain = true;
+    for (const QString& name : pattern.split(u'/', Qt::SkipEmptyParts)) {
+        if (!isPattern(name)) {
+            for (QString& folder : found)
+                folder += u'/' + name;
+            continue;
+        }
+        isPlain = false;
+        QStringList inside;
+        for (const QString& folder : std::as_const(found)) {
+            const QDir outer(folder + u'/');
+            for (const QString& each : outer.entryList({name}, matched)) {
+                if (inside.size() < maxExpanded)
+                    inside.append(outer.filePath(each));
+            }
+        }
+        found = inside;
     }
+    found.removeIf([isPlain](const QString& path) {
+        return isPlain ? !QFileInfo::exists(path) : !QFileInfo(path).isDir();
+    });
     return found;
+}
+
+/// Returns the path with the folder in the place of the "~" or "$NAME" that it begins with, or an empty text
+/// where neither is known.
+QString absolute(const QString& path, const QString& home) {
+    if (path.startsWith("~/"_L1))
+        return home + path.mid(1);
+    const QString name = path.mid(1).section(u'/', 0, 0);
+    for (const NamedFolder& named : namedFolders) {
+        if (name != QLatin1StringView(named.variable))
+            continue;
+        const QString folder = xdgFolder(named.variable, absolute(named.otherwise.toString(), home));
+        return QDir::cleanPath(folder + path.mid(name.size() + 1));
+    }
+    return {};
 }
 
 /// Returns the folders that are no caches.
@@ -156,6 +222,12 @@ QString unescaped(const std::string& field) {
     return QFile::decodeName(bytes);
 }
 
+QString aFileSystem(const QString& folder) {
+    return QCoreApplication::translate("FreedesktopPlaces",
+                                       "%1 is left alone: a whole file system is mounted there.")
+        .arg(folder);
+}
+
 } // namespace
 
 FreedesktopPlaces::FreedesktopPlaces(std::string mountInfo)
@@ -165,7 +237,11 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
     if (path.startsWith(u'/'))
         return {{path}};
     const auto home = homeFolder();
-    if (!home || !path.startsWith(u"~/"))
+    if (!home)
+        return {};
+    if (path.startsWith(u'$') || isPattern(path))
+        return located(path, *home);
+    if (!path.startsWith(u"~/"))
         return {};
 
     const QString asItStands = *home + path.mid(1);
@@ -194,6 +270,33 @@ QList<Place> FreedesktopPlaces::locate(const QString& path) const {
     return places;
 }
 
+QList<Place> FreedesktopPlaces::located(const QString& path, const QString& home) const {
+    const QString pattern = absolute(path, home);
+    const bool isNamed = path.startsWith(u'$') && !path.startsWith("$XDG_"_L1) &&
+                         !path.startsWith("$HOME/"_L1) &&
+                         qEnvironmentVariableIsSet(path.mid(1).section(u'/', 0, 0).toLatin1());
+    const bool isCache = path.startsWith("$XDG_CACHE_HOME/"_L1);
+    const QString toCaches =
+        isCache ? objectionToCacheHome(folderOf(Base::cacheHome, home), home) : QString();
+    QList<Place> places;
+    for (const QString& place : expanded(pattern)) {
+        if (contains(canonical(place), canonical(home)))
+            continue;
+        QString reason = toCaches.isEmpty() ? objection(place, home) : toCaches;
+        if (reason.isEmpty() && isNamed)
+            reason = objectionToCacheHome(place, home);
+        if (reason.isEmpty() && isMountPoint(canonical(place)))
+            reason = aFileSystem(place);
+        places.append({place, reason});
+    }
+    return places;
+}
+
+bool FreedesktopPlaces::canExist(const QString& path) const {
+    const auto isIt = [&](const KnownPlace& known) { return known.path == path; };
+    return !path.startsWith("~/Library/"_L1) || std::ranges::any_of(elsewhere, isIt);
+}
+
 QString FreedesktopPlaces::objection(const QString& place, const QString& home) const {
     if (QFileInfo(place).isSymLink())
         return QCoreApplication::translate("FreedesktopPlaces", "%1 is left alone: it is a link.").arg(place);
@@ -214,9 +317,7 @@ QString FreedesktopPlaces::objectionToCacheHome(const QString& folder, const QSt
         return QCoreApplication::translate("FreedesktopPlaces", "%1 is left alone: all programs share it.")
             .arg(folder);
     if (isMountPoint(place))
-        return QCoreApplication::translate("FreedesktopPlaces",
-                                           "%1 is left alone: a whole file system is mounted there.")
-            .arg(folder);
+        return aFileSystem(folder);
     for (const QString& kept : keptForGood(home) + userFolders()) {
         const QString other = canonical(kept);
         if (other != canonical(home) && (contains(place, other) || contains(other, place)))

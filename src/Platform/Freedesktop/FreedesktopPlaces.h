@@ -11,8 +11,11 @@ public:
     explicit FreedesktopPlaces(std::string mountInfo = "/proc/self/mountinfo");
 
     QList<Place> locate(const QString& path) const override;
+    bool canExist(const QString& path) const override;
 
 private:
+    /// Returns the existing folders of a path that begins with a variable or is a pattern.
+    QList<Place> located(const QString& path, const QString& home) const;
     /// Returns why a folder in the home folder must not be emptied, or an empty text.
     QString objection(const QString& place, const QString& home) const;
     /// Returns the same for a cache home, which a variable may set to any folder.

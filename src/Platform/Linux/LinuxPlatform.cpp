@@ -2,6 +2,7 @@
 #include "Platform/Freedesktop/FreedesktopAppearance.h"
 #include "Platform/Freedesktop/FreedesktopLoginItem.h"
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
+#include "Platform/Freedesktop/FreedesktopTargets.h"
 #include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
 #include "Platform/Linux/LinuxListeningPorts.h"
@@ -37,6 +38,7 @@ Platform Platform::native() {
             .clock = std::make_shared<SystemClock>(),
             .tools = tools,
             .places = std::make_shared<FreedesktopPlaces>(),
+            .cleanupTargets = std::make_shared<FreedesktopTargets>(),
             .signalSender = std::make_shared<LinuxSignals>(),
             .applications = std::make_shared<LinuxApplications>(),
             .relief = std::make_shared<LinuxRelief>(tools)};

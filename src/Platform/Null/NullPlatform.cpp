@@ -1,5 +1,6 @@
 #include "Platform/Appearance.h"
 #include "Platform/Applications.h"
+#include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/HostStatistics.h"
 #include "Platform/Identity.h"
@@ -64,6 +65,10 @@ class NullPlaces : public Places {
     QList<Place> locate(const QString&) const override { return {}; }
 };
 
+class NullCleanupTargets : public CleanupTargets {
+    QList<PlatformTarget> all() const override { return {}; }
+};
+
 class NullSignals : public Signals {
     class Nobody : public ProcessHandle {
         SignalResult send(Signal) override { return SignalResult::noSuchProcess; }
@@ -114,6 +119,7 @@ Platform Platform::native() {
             .clock = std::make_shared<SystemClock>(),
             .tools = std::make_shared<NullToolRunner>(),
             .places = std::make_shared<NullPlaces>(),
+            .cleanupTargets = std::make_shared<NullCleanupTargets>(),
             .signalSender = std::make_shared<NullSignals>(),
             .applications = std::make_shared<NullApplications>(),
             .relief = std::make_shared<NullRelief>()};

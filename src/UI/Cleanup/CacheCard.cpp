@@ -45,7 +45,11 @@ void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
     m_scanned = scanned;
     setAccessibleName(QStringLiteral("%1, %2, %3")
                           .arg(Translations::of(target.name), Formatters::bytes(target.sizeBytes), scanned));
-    const QString notes = Formatters::visible(target.notes.join(u' '));
+    const QString choice = target.isInCleanAll ? QString() : tr("Not in Clean All.");
+    QStringList sentences{Formatters::visible(target.reason), choice,
+                          Formatters::visible(target.notes.join(u' '))};
+    sentences.removeAll(QString());
+    const QString notes = sentences.join(u' ');
     setAccessibleDescription(notes);
     setToolTip(Formatters::toolTip(notes));
     update();
@@ -76,12 +80,14 @@ void CacheCard::paintEvent(QPaintEvent*) {
     Painting::drawElided(painter, line, Qt::ElideRight, Translations::of(m_target.name));
 
     painter.setFont(Theme::font(TextStyle::title2, QFont::DemiBold));
-    Painting::drawTabular(painter, takeLine(painter.font()), Qt::AlignLeft,
-                          Formatters::bytes(m_target.sizeBytes));
+    line = takeLine(painter.font());
+    Painting::drawTabular(painter, line, Qt::AlignLeft, Formatters::bytes(m_target.sizeBytes));
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
-    if (!m_target.notes.isEmpty())
-        Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight,
-                             Formatters::visible(m_target.notes.first()));
+    if (!m_target.isInCleanAll)
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("not in Clean All"));
+    const QString remark = m_target.notes.isEmpty() ? m_target.reason : m_target.notes.first();
+    if (!remark.isEmpty())
+        Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight, Formatters::visible(remark));
     const double height = QFontMetricsF(painter.font()).height();
     Painting::drawTabular(painter, QRectF(area.left(), area.bottom() - height, area.width(), height),
                           Qt::AlignLeft, m_scanned);

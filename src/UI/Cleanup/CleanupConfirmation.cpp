@@ -29,9 +29,9 @@ void CleanupConfirmation::ask(QWidget* parent, QObject* owner, const CacheTarget
     dialog->open();
 }
 
-void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, CacheCleanup& cleanup,
-                                 const QList<CacheTarget>& targets, Instant now,
-                                 const std::function<void(const QList<CacheTarget>&, const QStringList& leftOut)>& clean) {
+void CleanupConfirmation::askAll(
+    QWidget* parent, QObject* owner, CacheCleanup& cleanup, const QList<CacheTarget>& targets, Instant now,
+    const std::function<void(const QList<CacheTarget>&, const QStringList& leftOut)>& clean) {
     auto* dialog = new ConfirmDialog(
         parent, QCoreApplication::translate("CleanupConfirmation", "Clean all reclaimable caches?"),
         CleanupTexts::questionAll(targets));
@@ -46,6 +46,7 @@ void CleanupConfirmation::askAll(QWidget* parent, QObject* owner, CacheCleanup& 
     };
     refresh();
     QObject::connect(preview, &CleanupPreview::changed, button, refresh);
-    QObject::connect(button, &QPushButton::clicked, owner, [preview, clean] { clean(preview->chosen(), preview->leftOut()); });
+    QObject::connect(button, &QPushButton::clicked, owner,
+                     [preview, clean] { clean(preview->chosen(), preview->leftOut()); });
     dialog->open();
 }

@@ -56,7 +56,8 @@ QString volumesOf(const CacheTarget& target) {
 } // namespace
 
 QString CleanupTexts::progress(const QString& sentence, const CleanupProgress& progress) {
-    const QString text = sentence.arg(Translations::of(progress.target)).arg(progress.done).arg(progress.total);
+    const QString text =
+        sentence.arg(Translations::of(progress.target)).arg(progress.done).arg(progress.total);
     if (progress.bytes == 0)
         return text;
     const QString bytes = Formatters::bytes(progress.bytes);
@@ -154,7 +155,8 @@ QString CleanupTexts::cameBack(const CleanupReport& report) {
     if (!report.volumeBytes)
         return {};
     const auto bytes = static_cast<quint64>(std::max<qint64>(0, *report.volumeBytes));
-    return QCoreApplication::translate("CleanupTexts", "%1 came back on the disk").arg(Formatters::bytes(bytes));
+    return QCoreApplication::translate("CleanupTexts", "%1 came back on the disk")
+        .arg(Formatters::bytes(bytes));
 }
 
 QString CleanupTexts::unfinished(const CleanupReport& report) {

@@ -3,10 +3,13 @@
 #include "AppModel.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
+#include "Preferences.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Cleanup/LeaveOutOffer.h"
+#include "UI/Cleanup/ProjectLeftoversSheet.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/FlowGrid.h"
 #include "UI/Kit/OnScreen.h"
@@ -15,6 +18,7 @@
 #include "UI/Kit/Spinner.h"
 #include "UI/Kit/TextLabel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScrollArea>
@@ -28,11 +32,13 @@ constexpr int cacheCardGap = 12;
 
 } // namespace
 
-CleanupView::CleanupView(AppModel& model, QWidget* parent)
+CleanupView::CleanupView(AppModel& model, Preferences& preferences, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
+    , m_preferences(preferences)
     , m_total((new TextLabel(TextStyle::callout))->secondary())
     , m_result(new TextLabel(TextStyle::callout))
+    , m_showAll(new QCheckBox(tr("Show all")))
     , m_rescan(new PushButton(tr("Rescan"), PushButton::Look::normal, QStringLiteral("arrow.clockwise")))
     , m_cleanAll(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill")))
     , m_spinner(new Spinner)
@@ -44,18 +50,28 @@ CleanupView::CleanupView(AppModel& model, QWidget* parent)
         connect(card, &CacheCard::opened, this, &CleanupView::open);
         m_grid->addWidget(card);
         return card;
-    }) {
+    })
+    , m_leftovers(new CacheCard) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
     column->addLayout(makeHeader());
     column->addLayout(makeProgress());
     column->addWidget(makeGrid(), 1);
+    m_cards.reserve(m_model.cleanup().targets().size());
+    m_grid->addWidget(m_leftovers);
     setAccessibleName(tr("Cleanup"));
+    m_showAll->setToolTip(tr("Also what this computer has nothing of"));
+    m_showAll->setChecked(preferences.showAllCleanupTargets());
+    connect(m_showAll, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_preferences.showAllCleanupTargets.set(isOn);
+        refresh();
+    });
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
+    connect(m_leftovers, &CacheCard::opened, this, &CleanupView::openLeftovers);
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
     connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
-    refreshOnScreen(this, {&m_model}, [this] { refresh(); });
+    refreshOnScreen(this, {&m_model, &m_model.projectLeftovers()}, [this] { refresh(); });
 }
 
 QLayout* CleanupView::makeHeader() {
@@ -74,6 +90,7 @@ QLayout* CleanupView::makeHeader() {
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(Theme::rowSpacing);
     row->addLayout(texts, 1);
+    row->addWidget(m_showAll);
     row->addWidget(m_rescan);
     row->addWidget(m_cleanAll);
     m_cleanAll->setTint(Theme::Role::red);
@@ -110,12 +127,17 @@ QWidget* CleanupView::makeGrid() {
     return area;
 }
 
+void CleanupView::showEvent(QShowEvent* event) {
+    m_model.cleanup().lookForPlaces();
+    QWidget::showEvent(event);
+}
+
 void CleanupView::refresh() {
     const CacheCleanup& cleanup = m_model.cleanup();
     refreshCards();
     refreshProgress();
     m_total->setPlainText(
-        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(cleanup.targets()))));
+        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(cleanup.reclaimable()))));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
@@ -125,10 +147,25 @@ void CleanupView::refresh() {
 }
 
 void CleanupView::refreshCards() {
-    const QList<CacheTarget>& targets = m_model.cleanup().targets();
+    const CacheCleanup& cleanup = m_model.cleanup();
+    const QList<CacheTarget> targets = m_showAll->isChecked() ? cleanup.targets() : cleanup.shownTargets();
     m_cards.show(targets.size(), [this, &targets](CacheCard& card, qsizetype i) {
         card.set(targets[i], targets[i].name == m_selected, m_model.systemSample().timestamp);
     });
+    const ProjectLeftovers& leftovers = m_model.projectLeftovers();
+    m_leftovers->set({.name = QStringLiteral(QT_TRANSLATE_NOOP("Translations", "Project leftovers")),
+                      .symbol = QStringLiteral("folder"),
+                      .sizeBytes = leftovers.totalBytes(),
+                      .lastScanned = leftovers.lastSearch(),
+                      .reason = tr("Build folders of your projects, which their tools make again."),
+                      .isInCleanAll = false},
+                     false, m_model.systemSample().timestamp);
+}
+
+void CleanupView::openLeftovers() {
+    auto* sheet = new ProjectLeftoversSheet(m_model, m_preferences, window());
+    connect(sheet, &QDialog::finished, this, [this] { window()->activateWindow(); });
+    sheet->open();
 }
 
 void CleanupView::refreshProgress() {
@@ -155,7 +192,16 @@ void CleanupView::open(const CacheTarget& target) {
     m_selected = target.name;
     auto* drawer =
         new CacheDetailDrawer(m_model.cleanup(), target, m_model.systemSample().timestamp, window());
-    connect(drawer, &CacheDetailDrawer::cleanRequested, &m_model.cleanup(), &CacheCleanup::clean);
+    connect(drawer, &CacheDetailDrawer::cleanRequested, this,
+            [this](const CacheTarget& chosen, const QStringList& leftOut) {
+                m_model.cleanup().clean(chosen);
+                LeaveOutOffer::follow(window(), m_preferences, leftOut);
+            });
+    connect(drawer, &CacheDetailDrawer::trashRequested, this,
+            [this](const CacheTarget& chosen, const QStringList& leftOut) {
+                m_model.cleanup().moveToTrash(chosen);
+                LeaveOutOffer::follow(window(), m_preferences, leftOut);
+            });
     connect(drawer, &QDialog::finished, this, [this] {
         m_selected.clear();
         refresh();
@@ -170,7 +216,10 @@ void CleanupView::open(const CacheTarget& target) {
 void CleanupView::confirmCleanAll() {
     CleanupConfirmation::askAll(window(), this, m_model.cleanup(), m_model.cleanup().targetsToClean(),
                                 m_model.systemSample().timestamp,
-                                [this](const QList<CacheTarget>& targets) { cleanAll(targets); });
+                                [this](const QList<CacheTarget>& targets, const QStringList& leftOut) {
+                                    cleanAll(targets);
+                                    LeaveOutOffer::follow(window(), m_preferences, leftOut);
+                                });
 }
 
 void CleanupView::cleanAll(const QList<CacheTarget>& targets) {

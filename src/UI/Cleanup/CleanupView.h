@@ -8,6 +8,8 @@
 class AppModel;
 class CacheCard;
 class FlowGrid;
+class Preferences;
+class QCheckBox;
 class PushButton;
 class Spinner;
 class TextLabel;
@@ -18,7 +20,10 @@ class CleanupView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit CleanupView(AppModel& model, QWidget* parent = nullptr);
+    CleanupView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     QLayout* makeHeader();
@@ -28,10 +33,12 @@ private:
     void refreshCards();
     void refreshProgress();
     void open(const CacheTarget& target);
+    void openLeftovers();
     void confirmCleanAll();
     void cleanAll(const QList<CacheTarget>& targets);
 
     AppModel& m_model;
+    Preferences& m_preferences;
     QString m_selected; ///< the target whose drawer is open
     bool m_cleaningAll = false;
     QString m_lastCleanResult;
@@ -39,6 +46,7 @@ private:
 
     TextLabel* m_total;
     TextLabel* m_result;
+    QCheckBox* m_showAll;
     PushButton* m_rescan;
     PushButton* m_cleanAll;
     Spinner* m_spinner;
@@ -47,4 +55,5 @@ private:
     PushButton* m_cancel;
     FlowGrid* m_grid = nullptr;
     RowPool<CacheCard> m_cards;
+    CacheCard* m_leftovers; ///< of projects, behind the cards of the targets
 };

@@ -75,7 +75,7 @@ CachesCard::CachesCard(QWidget* parent)
 }
 
 void CachesCard::refresh(const CacheCleanup& cleanup) {
-    const QList<CacheTarget>& targets = cleanup.targets();
+    const QList<CacheTarget>& targets = cleanup.reclaimable();
     if (cleanup.isCleaning())
         setSubtitle(CleanupTexts::progress(cleanup.report().wasCancelled ? tr("Stopping %1 (%2 of %3)")
                                                                          : tr("Cleaning %1 (%2 of %3)"),

@@ -1,0 +1,225 @@
+#include "Platform/Freedesktop/FreedesktopTargets.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Marks : unsigned { none = 0, notInCleanAll = 1, data = 3, shared = 4 };
+
+struct KnownTarget {
+    const char* name;
+    const char16_t* symbol;
+    const char* reason;
+    /// One path a line. "{a,b}" stands for a line with each; "*" and "?" as in Places.
+    const char16_t* paths;
+    unsigned marks = none;
+    int olderThanDays = 0;
+};
+
+#define TAVRIN_TARGET(text) QT_TRANSLATE_NOOP("Translations", text)
+#define TAVRIN_REASON(text) QT_TRANSLATE_NOOP("FreedesktopTargets", text)
+
+constexpr KnownTarget builders[] = {
+    {"Gradle", u"hammer", TAVRIN_REASON("Gradle fetches its packages and its own versions again."),
+     u"$GRADLE_USER_HOME/{caches,wrapper/dists}"},
+    {TAVRIN_TARGET("Gradle logs (>7d)"), u"scroll",
+     TAVRIN_REASON("Old logs of Gradle's background processes. Gradle writes new ones."),
+     u"$GRADLE_USER_HOME/daemon/*", none, 7},
+    {"Maven", u"hammer",
+     TAVRIN_REASON("Maven fetches packages again. Those that were only installed here must be built again."),
+     u"~/.m2/repository", notInCleanAll},
+    {"Ivy / Coursier", u"hammer", TAVRIN_REASON("Both fetch their packages again."),
+     u"~/.ivy2/cache\n$XDG_CACHE_HOME/coursier/v1"},
+    {TAVRIN_TARGET("Cargo sources and checkouts"), u"hammer",
+     TAVRIN_REASON("Cargo unpacks sources again, and fetches repositories again."),
+     u"$CARGO_HOME/{registry/src,git/db,git/checkouts}"},
+    {TAVRIN_TARGET("Go build cache"), u"hammer", TAVRIN_REASON("Go compiles packages again."),
+     u"$XDG_CACHE_HOME/go-build"},
+    {TAVRIN_TARGET("Rust toolchains"), u"hammer",
+     TAVRIN_REASON("Toolchains that are not the default. A project may still name one: rustup fetches it "
+                   "again, but not one of your own."),
+     u"$RUSTUP_HOME/toolchains", data},
+    {"Bun / Deno", u"shippingbox", TAVRIN_REASON("Both fetch their packages again."),
+     u"$BUN_INSTALL/install/cache\n$DENO_DIR/{npm,remote,deps,gen,registries}"},
+    {"Yarn Berry / Corepack", u"shippingbox", TAVRIN_REASON("Yarn and Corepack fetch it again."),
+     u"~/.yarn/berry/{cache,metadata}\n$COREPACK_HOME/v1"},
+    {TAVRIN_TARGET("Conda packages"), u"leaf",
+     TAVRIN_REASON("Conda fetches packages again. Environments keep theirs, unless they are set to link to "
+                   "this folder."),
+     u"{~/miniconda3,~/anaconda3,~/miniforge3,~/mambaforge,~/.conda}/pkgs", notInCleanAll},
+    {"Poetry", u"leaf", TAVRIN_REASON("Poetry fetches its packages again. Environments stay."),
+     u"$XDG_CACHE_HOME/pypoetry/{cache,artifacts}"},
+    {"pre-commit", u"leaf", TAVRIN_REASON("pre-commit installs its hooks again."),
+     u"$XDG_CACHE_HOME/pre-commit"},
+    {"ccache / sccache", u"hammer",
+     TAVRIN_REASON("Compiled objects. The next builds take longer and fill it again."),
+     u"$CCACHE_DIR/?\n~/.ccache/?\n$SCCACHE_DIR/{?,preprocessor}"},
+    {"Bazel", u"hammer", TAVRIN_REASON("Files that Bazel has fetched. It fetches them again."),
+     u"$XDG_CACHE_HOME/bazel/*/cache"},
+    {"Conan", u"hammer",
+     TAVRIN_REASON("Conan fetches or builds packages again. Recipes that are only here are gone."),
+     u"$CONAN_HOME/p\n~/.conan/data", data},
+    {"vcpkg", u"hammer", TAVRIN_REASON("vcpkg builds its packages again."),
+     u"$XDG_CACHE_HOME/vcpkg/archives"},
+};
+
+constexpr KnownTarget desktop[] = {
+    {TAVRIN_TARGET("Editor caches"), u"chevron.left.forwardslash.chevron.right",
+     TAVRIN_REASON("Editors make them again. Settings, open work and history stay."),
+     u"$XDG_CONFIG_HOME/{Code,Code - OSS,VSCodium,Cursor,Windsurf}/{CachedData,CachedExtensionVSIXs,Cache,"
+     "Code Cache,GPUCache,DawnCache,DawnGraphiteCache,DawnWebGPUCache,Service Worker/CacheStorage,"
+     "Service Worker/ScriptCache}\n"
+     u"$XDG_CACHE_HOME/JetBrains/*/{caches,index,tmp,compile-server,jcef_cache}"},
+    {TAVRIN_TARGET("Local history of JetBrains editors"), u"clock.arrow.circlepath",
+     TAVRIN_REASON("Earlier states of your files. Nothing brings them back."),
+     u"$XDG_CACHE_HOME/JetBrains/*/LocalHistory", data},
+    {TAVRIN_TARGET("Agent logs (>7d)"), u"bubble.prompt",
+     TAVRIN_REASON("Logs of coding agents that no agent reads again. Conversations stay."),
+     u"$CLAUDE_CONFIG_DIR/debug\n$XDG_CACHE_HOME/claude-cli-nodejs/*/mcp-logs-*\n$CODEX_HOME/log\n"
+     u"$QWEN_HOME/debug\n~/.copilot/logs\n$XDG_DATA_HOME/opencode/log",
+     none, 7},
+    {TAVRIN_TARGET("Agent shell snapshots (>30d)"), u"terminal",
+     TAVRIN_REASON("Settings of shells for agents that ended long ago. An agent makes its own at its start."),
+     u"$CLAUDE_CONFIG_DIR/shell-snapshots\n$CODEX_HOME/shell_snapshots", none, 30},
+    {TAVRIN_TARGET("Texts pasted into Claude Code (>30d)"), u"doc.on.doc",
+     TAVRIN_REASON("Long texts that you pasted. Old prompts in the history refer to them."),
+     u"$CLAUDE_CONFIG_DIR/paste-cache", data, 30},
+    {TAVRIN_TARGET("Hugging Face models"), u"circle.hexagongrid",
+     TAVRIN_REASON("Models and data sets. What is public can be fetched again."), u"$HF_HOME/hub", data},
+    {TAVRIN_TARGET("Ollama models"), u"circle.hexagongrid",
+     TAVRIN_REASON("All models at once. Those that you made here are gone for good."),
+     u"$OLLAMA_MODELS/{blobs,manifests}", data},
+    {TAVRIN_TARGET("LM Studio models"), u"circle.hexagongrid",
+     TAVRIN_REASON("Models. What is public can be fetched again."),
+     u"{~/.lmstudio,$XDG_CACHE_HOME/lm-studio}/models/*", data},
+    {TAVRIN_TARGET("Flatpak application caches"), u"square.grid.2x2",
+     TAVRIN_REASON("Applications make their caches again."), u"~/.var/app/*/cache"},
+    {TAVRIN_TARGET("Snap application caches"), u"square.grid.2x2",
+     TAVRIN_REASON("Applications make their caches again."), u"~/snap/*/common/.cache"},
+    {TAVRIN_TARGET("Thumbnails"), u"rectangle.on.rectangle",
+     TAVRIN_REASON("Small pictures of your files. File managers make them again."),
+     u"$XDG_CACHE_HOME/thumbnails"},
+    {TAVRIN_TARGET("Shader caches"), u"memorychip",
+     TAVRIN_REASON("The graphics driver compiles shaders again. Games may stutter at first."),
+     u"$XDG_CACHE_HOME/{mesa_shader_cache,mesa_shader_cache_db,nvidia/GLCache,qtshadercache*}\n"
+     u"~/.nv/{ComputeCache,GLCache}\n$XDG_DATA_HOME/Steam/steamapps/shadercache"},
+    {TAVRIN_TARGET("Crash reports (>7d)"), u"exclamationmark.triangle",
+     TAVRIN_REASON("Reports of crashes that are a week old. They only help to find the fault."),
+     u"$XDG_CONFIG_HOME/{Code,Code - OSS,VSCodium,Cursor,Windsurf}/Crashpad/{completed,pending}\n"
+     u"$XDG_CONFIG_HOME/{google-chrome,chromium,BraveSoftware/Brave-Browser}/Crash Reports/"
+     "{completed,pending}\n"
+     u"~/.mozilla/firefox/Crash Reports/{pending,submitted}\n/var/crash",
+     shared, 7},
+};
+
+/// Returns the texts that the first "{a,b}" of `text` stands for, and those of the others in them.
+QStringList alternatives(const QString& text) {
+    const qsizetype open = text.indexOf(u'{');
+    if (open < 0)
+        return {text};
+    const qsizetype close = text.indexOf(u'}', open);
+    QStringList all;
+    for (const QString& one : text.mid(open + 1, close - open - 1).split(u','))
+        all += alternatives(text.first(open) + one + text.mid(close + 1));
+    return all;
+}
+
+QString reasonIn(const char* text) {
+    return QCoreApplication::translate("FreedesktopTargets", text);
+}
+
+PlatformTarget targetOf(const KnownTarget& known) {
+    PlatformTarget target{.name = QString::fromUtf8(known.name),
+                          .symbol = QString::fromUtf16(known.symbol),
+                          .reason = reasonIn(known.reason),
+                          .olderThanDays = known.olderThanDays,
+                          .isShared = (known.marks & shared) != 0,
+                          .isData = (known.marks & data) == data,
+                          .isInCleanAll = (known.marks & notInCleanAll) == 0};
+    for (const QString& line : QString::fromUtf16(known.paths).split(u'\n'))
+        target.paths += alternatives(line);
+    target.paths.replaceInStrings(QRegularExpression(u"^~/"_s), u"$HOME/"_s); // what exists of it
+    return target;
+}
+
+/// Their own tools clean these.
+QList<PlatformTarget> cleanedByTools() {
+    // What `journalctl` would leave is not counted: its line ends "... take up 1.2G in the file system."
+    const auto journalSize =
+        u"command -v pkexec >/dev/null && LC_ALL=C journalctl --disk-usage 2>/dev/null | "
+        "sed -n 's/.* take up \\([0-9.]*[KMGT]\\).*/\\1/p' | numfmt --from=iec | "
+        "awk '{ over = $1 - 500 * 1048576; printf \"%.0f\\n\", over > 0 ? over : 0 }'"_s;
+    const auto archivesSize = u"command -v pkexec apt-get >/dev/null && "
+                              "du -cB1 /var/cache/apt/archives/*.deb 2>/dev/null | tail -n 1"_s;
+    return {
+        {.name = u"Podman"_s,
+         .symbol = u"shippingbox.fill"_s,
+         .reason = reasonIn(TAVRIN_REASON("Podman fetches or builds images again. Stopped containers go.")),
+         .isInCleanAll = false,
+         .command = u"podman system prune -af --volumes"_s,
+         .isContainerEngine = true},
+        {.name = QStringLiteral(TAVRIN_TARGET("Downloaded system packages")),
+         .symbol = u"arrow.down.circle"_s,
+         .paths = {u"/var/cache/apt/archives"_s},
+         .reason = reasonIn(TAVRIN_REASON("They are installed already. The system asks for a password.")),
+         .isInCleanAll = false,
+         .command = u"pkexec --disable-internal-agent apt-get clean"_s,
+         .sizeCommand = archivesSize},
+        {.name = QStringLiteral(TAVRIN_TARGET("System journal over 500 MB")),
+         .symbol = u"scroll"_s,
+         .paths = {u"/var/log/journal"_s},
+         .reason = reasonIn(
+             TAVRIN_REASON("Old messages of the system go, the newest stay. It asks for a password.")),
+         .isInCleanAll = false,
+         .command = u"pkexec --disable-internal-agent journalctl --vacuum-size=500M"_s,
+         .sizeCommand = journalSize},
+    };
+}
+
+#undef TAVRIN_TARGET
+#undef TAVRIN_REASON
+
+QString rustupHome() {
+    const QString named = qEnvironmentVariable("RUSTUP_HOME");
+    return named.startsWith(u'/') ? named : QDir::homePath() + u"/.rustup"_s;
+}
+
+} // namespace
+
+QList<PlatformTarget> FreedesktopTargets::all() const {
+    QList<PlatformTarget> targets;
+    for (const KnownTarget& known : builders) {
+        targets.append(targetOf(known));
+        if (targets.last().paths.contains(u"$RUSTUP_HOME/toolchains"_s))
+            targets.last().kept = usedToolchains(rustupHome());
+    }
+    for (const KnownTarget& known : desktop)
+        targets.append(targetOf(known));
+    return targets + cleanedByTools();
+}
+
+QStringList FreedesktopTargets::usedToolchains(const QString& rustupHome) {
+    constexpr qint64 maxSettings = 1 << 20;
+    const QDir toolchains(rustupHome + u"/toolchains"_s);
+    QFile settings(rustupHome + u"/settings.toml"_s);
+    const bool isReadable = settings.open(QIODevice::ReadOnly);
+    const QString text = isReadable ? QString::fromUtf8(settings.read(maxSettings)) : QString();
+    QStringList named;
+    for (const auto& found : QRegularExpression(u"= *[\"']([^\"']+)[\"']"_s).globalMatch(text))
+        named.append(found.captured(1));
+    QStringList used;
+    for (const QString& name : toolchains.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        const auto isIt = [&](const QString& one) { return name == one || name.startsWith(one + u'-'); };
+        // Without readable settings any of them may be the default.
+        if (!isReadable || std::ranges::any_of(named, isIt))
+            used.append(toolchains.filePath(name));
+    }
+    return used;
+}

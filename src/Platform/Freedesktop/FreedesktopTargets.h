@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Platform/CleanupTargets.h"
+
+/// The caches and leftovers of programs on a Linux desktop, at the places that their own documents name.
+class FreedesktopTargets : public CleanupTargets {
+public:
+    QList<PlatformTarget> all() const override;
+
+    /// Returns the toolchains in `folder` that the settings of rustup name, as the default or for a folder.
+    static QStringList usedToolchains(const QString& rustupHome);
+};

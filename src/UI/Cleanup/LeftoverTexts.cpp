@@ -1,0 +1,57 @@
+#include "UI/Cleanup/LeftoverTexts.h"
+
+#include "Core/Formatters.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+QString LeftoverTexts::pathOf(const QByteArray& path) {
+    const QString whole = QFile::decodeName(path);
+    const QString home = QDir::homePath();
+    const bool isInHome = whole == home || whole.startsWith(home + u'/');
+    return Formatters::visible(isInHome ? u'~' + whole.mid(home.size()) : whole);
+}
+
+QString LeftoverTexts::folders(const LeftoverProject& project) {
+    QStringList names;
+    for (const Leftover& folder : project.folders)
+        names.append(Formatters::visible(QFile::decodeName(folder.path.mid(project.path.size() + 1))));
+    return names.join(u", "_s);
+}
+
+QString LeftoverTexts::lastUse(const LeftoverProject& project, Instant now) {
+    if (!project.lastUse)
+        return QCoreApplication::translate("LeftoverTexts", "unknown");
+    return Formatters::ago(std::chrono::duration<double>(now - *project.lastUse).count());
+}
+
+QString LeftoverTexts::note(const LeftoverProject& project) {
+    if (!project.users.isEmpty())
+        return QCoreApplication::translate("LeftoverTexts", "in use by %1")
+            .arg(Formatters::visible(project.users.join(u", "_s)));
+    if (project.changes == LeftoverProject::Changes::uncommitted)
+        return QCoreApplication::translate("LeftoverTexts", "uncommitted changes");
+    return {};
+}
+
+bool LeftoverTexts::matches(const LeftoverProject& project, const QString& search) {
+    for (const QString& text : {pathOf(project), folders(project), note(project)}) {
+        if (text.contains(search, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+QString LeftoverTexts::outcome(const ProjectLeftovers::Removal& removal) {
+    const QString freed = Formatters::bytes(removal.freedBytes);
+    if (removal.wasCancelled)
+        return QCoreApplication::translate("LeftoverTexts", "Stopped: removed %n folder(s), freed ~%1",
+                                           nullptr, removal.folders)
+            .arg(freed);
+    return QCoreApplication::translate("LeftoverTexts", "Removed %n folder(s), freed ~%1", nullptr,
+                                       removal.folders)
+        .arg(freed);
+}
