@@ -162,6 +162,8 @@ void Search::visit(const Folder& folder, const std::string& path, int depth, Lef
         repository = std::make_shared<GitRepository>(path);
     const auto leftovers = leftoversIn(folder, path, names, repository.get());
     LeftoverProject own{.path = path, .users = {}, .listing = {}, .listed = path};
+    using namespace std::chrono;
+    own.listing.listed = duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
     const bool isProject = isWorkTree || (!project && (hasMaker(names) || !leftovers.empty()));
     if (isProject)
         project = &own;
@@ -234,10 +236,13 @@ void Search::finish(LeftoverProject& project, GitRepository* repository) const {
 } // namespace
 
 std::string LeftoverProject::text() const {
-    std::string text = "project " + std::to_string(lastUse) + ' ' + path + '\0';
+    std::ostringstream text;
+    text << "project " << lastUse << ' ' << path << '\0';
     for (const std::string& user : users)
-        text += "user " + user + '\0';
-    return text + "folder " + listed + '\0' + listing.text();
+        text << "user " << user << '\0';
+    text << "folder " << listed << '\0';
+    listing.write(text);
+    return text.str();
 }
 
 void Tools::findLeftovers(const std::vector<std::string>& folders, const ProcessPaths& processes,

@@ -76,7 +76,7 @@ TEST_F(SystemTargetsTest, StandBehindTheCatalogueAndAreShownWhereSomethingExists
     EXPECT_EQ(cleanup.targets().size(), 20);
     EXPECT_EQ(shownOfSystem(), QStringList());
     home.makeFolder(u"builds"_s);
-    cleanup.lookForPlaces();
+    QCoro::waitFor(cleanup.lookForPlaces());
     EXPECT_EQ(shownOfSystem(), QStringList(u"Builds"_s)) << "before the first scan";
     EXPECT_TRUE(tools->requests.isEmpty());
 

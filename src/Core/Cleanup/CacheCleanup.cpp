@@ -3,12 +3,12 @@
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheScanner.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/PlaceFinder.h"
 #include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/Places.h"
 #include "Preferences.h"
 
-#include <QFileInfo>
 #include <QHash>
 #include <QPointer>
 
@@ -51,16 +51,22 @@ QList<CacheTarget> CacheCleanup::shownTargets() const {
     return shown;
 }
 
-void CacheCleanup::lookForPlaces() {
+QCoro::Task<> CacheCleanup::lookForPlaces() {
+    const QPointer<CacheCleanup> self(this);
+    const QList<CacheTarget> targets = m_targets;
     QSet<QString> found;
-    for (const CacheTarget& target : std::as_const(m_targets)) {
-        const auto exists = [](const Place& place) { return QFileInfo::exists(place.path); };
-        const bool isCounted = target.lastScanned || target.rule.measure == CleanupRule::Measure::command;
-        if (!isCounted && std::ranges::any_of(CleanupPlan::placesOf(target, *m_platform.places), exists))
+    for (const CacheTarget& target : targets) {
+        if (target.lastScanned || target.rule.measure == CleanupRule::Measure::command)
+            continue;
+        auto finding = PlaceFinder::find(target.paths, m_platform.places);
+        const Result<QList<FoundPlace>> places = co_await finding;
+        if (!self)
+            co_return;
+        if (!places.value.isEmpty())
             found.insert(target.name);
     }
     if (found == m_found)
-        return;
+        co_return;
     publish(m_found, found);
     findReclaimable();
 }
@@ -73,26 +79,25 @@ void CacheCleanup::findReclaimable() {
 
 /// Returns the targets with what stays of each by now. A folder that holds somebody's work keeps it when it
 /// is emptied: models are among the user's caches.
-QList<CacheTarget> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
-    const auto isData = [](const CacheTarget& target) {
-        return target.isOfSystem() && target.rule.hasUserFiles;
-    };
+QCoro::Task<QList<CacheTarget>> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
     QHash<QString, QStringList> keptOf;
     QStringList data;
-    for (const PlatformTarget& target : m_platform.cleanupTargets->all()) {
+    const QList<PlatformTarget> ofSystem = m_platform.cleanupTargets->all();
+    for (const PlatformTarget& target : ofSystem) {
         keptOf[target.name] = target.kept;
         if (!target.isData)
             continue;
-        for (const Place& place : CleanupPlan::placesOf(CacheTarget::of(target), *m_platform.places)) {
-            if (QFileInfo::exists(place.path))
-                data.append(place.path);
-        }
+        auto finding = PlaceFinder::find(target.paths, m_platform.places);
+        const Result<QList<FoundPlace>> places = co_await finding;
+        for (const FoundPlace& found : places.value)
+            data.append(found.place.path);
     }
     for (CacheTarget& target : targets) {
-        const QStringList kept = keptOf.value(target.name) + (isData(target) ? QStringList() : data);
+        const bool isData = target.isOfSystem() && target.rule.hasUserFiles;
+        const QStringList kept = keptOf.value(target.name) + (isData ? QStringList() : data);
         target.rule.kept.assign(kept.begin(), kept.end());
     }
-    return targets;
+    co_return targets;
 }
 
 QCoro::Task<> CacheCleanup::rescan() {
@@ -106,7 +111,11 @@ QCoro::Task<> CacheCleanup::rescan() {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
     });
-    auto scanning = scanner.scan(without(withWhatStays(m_targets), m_preferences.cleanupExcludes()));
+    auto looking = withWhatStays(m_targets);
+    const QList<CacheTarget> targets = co_await looking;
+    if (!self || m_scansBegun != scan)
+        co_return;
+    auto scanning = scanner.scan(without(targets, m_preferences.cleanupExcludes()));
     const QList<CacheTarget> measured = co_await scanning;
     if (!self || m_scansBegun != scan)
         co_return;
@@ -151,8 +160,12 @@ QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(Way way, CacheTarget ta
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
 
-    if (!target.lastScanned)
-        target = withWhatStays({target}).constFirst();
+    if (!target.lastScanned) {
+        auto looking = withWhatStays({target});
+        target = (co_await looking).constFirst();
+        if (!self)
+            co_return Cleaner::CleanResult();
+    }
     target.rule.excludes = m_preferences.cleanupExcludes();
     auto cleaning = way(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop,
                         progressOf(CleanupPlan::listedBytes(target)));

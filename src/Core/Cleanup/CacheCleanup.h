@@ -31,7 +31,7 @@ public:
     /// the catalogue without what only other systems have. Before a scan a place that exists stands for
     /// something to clean; `lookForPlaces` finds them.
     QList<CacheTarget> shownTargets() const;
-    void lookForPlaces();
+    QCoro::Task<> lookForPlaces();
     /// Returns the shown targets that "Clean All" may clean. What they share is counted among them.
     const QList<CacheTarget>& reclaimable() const { return m_reclaimable; }
     /// Returns an empty optional while no scan runs.
@@ -63,7 +63,7 @@ private:
     using Way = decltype(&Cleaner::clean);
 
     bool isShown(const CacheTarget& target) const;
-    QList<CacheTarget> withWhatStays(QList<CacheTarget> targets) const;
+    QCoro::Task<QList<CacheTarget>> withWhatStays(QList<CacheTarget> targets) const;
     void findReclaimable();
     void expectCleans(const QList<CacheTarget>& targets);
     void countCleans(int done);
