@@ -306,6 +306,16 @@ TEST_F(CleanupOnDisk, MovesToTheTrashWhatIsStillOldAndSaysWhatItCannot) {
     EXPECT_TRUE(std::filesystem::remove(odd)); // Qt cannot name it
 }
 
+TEST_F(CleanupOnDisk, AFileStaysWhereThereIsNoTrash) {
+    const QString old = home.makeFile(u"Downloads/old"_s);
+    age(old, 40);
+    const CacheTarget measured = scanned(target(u"Old Downloads (>30d)"_s));
+    qputenv("XDG_DATA_HOME", home.makeFile(u"no folder"_s).toUtf8());
+    auto moving = Cleaner::moveToTrash(measured, tools, places, clock->now());
+    EXPECT_EQ(QCoro::waitFor(moving).reason, u"there is no trash"_s);
+    EXPECT_TRUE(QFileInfo::exists(old));
+}
+
 TEST_F(CleanupOnDisk, CleansTheChosenEntriesOfAListing) {
     for (const auto& file : {u"cache/a"_s, u"cache/b/c/file"_s, u"cache/b/d/e"_s, u"cache/b/d/stays"_s})
         home.makeFile(file, QByteArray(50'000, 'x'));

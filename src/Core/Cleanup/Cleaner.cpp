@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -106,11 +107,22 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     co_return result;
 }
 
+/// Makes the trash of the home folder, which Qt uses for every file without a trash on its volume. Where it
+/// cannot be made, Qt would move the files to the working directory.
+bool makeTrash() {
+    const QString home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString trash = home + u"/Trash"_s;
+    QDir().mkpath(home);
+    QDir().mkdir(trash, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QFileInfo made(trash);
+    return QDir::isAbsolutePath(home) && made.isDir() && made.isWritable();
+}
+
 /// Moves files to the trash. Returns the reason of the first failure, empty without any.
 QString trash(const QString& root, const QByteArrayList& paths) {
+    if (!makeTrash())
+        return QCoreApplication::translate("Cleaner", "there is no trash");
     QString reason;
-    // Qt makes the trash of the home folder in it, but not the folder itself.
-    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     for (const QByteArray& path : paths) {
         QFile file(root + u'/' + QFile::decodeName(path));
         const bool isText = QFile::encodeName(QFile::decodeName(path)) == path;
