@@ -49,6 +49,16 @@ TEST(Preferences, ReadableValuesAreTakenAndOthersAreTheDefault) {
     }
 }
 
+TEST(Preferences, ListsOfTextsAreReadBack) {
+    const TemporaryFolder folder;
+    const QString path = folder.path() + u'/' + iniFile;
+    for (const QStringList& list :
+         {QStringList({u"/a,b"_s}), QStringList({u"/a"_s, u"/ü, \"c\"\n"_s}), QStringList()}) {
+        Preferences(path).projectFolders.set(list);
+        EXPECT_EQ(Preferences(path).projectFolders(), list);
+    }
+}
+
 TEST(Preferences, ADamagedFileIsCopiedAndItsReadableValuesStay) {
     const TemporaryFolder folder;
     const QByteArray damaged("\0\xff[[\x01\npref.showInDock\n[General]\npref.pauseOnLowPower=true\n", 57);

@@ -44,17 +44,16 @@ struct LeftoversTest : testing::Test {
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path) << content;
     }
-    std::vector<LeftoverProject> search(const std::string& folder = {}) {
+    std::vector<LeftoverProject> search(const std::string& procFolder = "/no/processes") {
         std::vector<LeftoverProject> found;
-        const std::string start = folder.empty() ? top : top + '/' + folder;
-        findLeftovers({start}, ProcessPaths("/proc", {start}),
+        findLeftovers({top}, ProcessPaths(procFolder, {top}),
                       [&found](const LeftoverProject& project) { found.push_back(project); });
         return found;
     }
     /// Returns "PROJECT: LEFTOVER LEFTOVER" of each project, both sorted.
-    std::vector<std::string> found(const std::string& folder = {}) {
+    std::vector<std::string> found() {
         std::vector<std::string> lines;
-        for (const LeftoverProject& project : search(folder)) {
+        for (const LeftoverProject& project : search()) {
             std::vector<std::string> names;
             for (const CleanupListing::Entry& entry : project.listing.entries)
                 names.push_back(entry.path);
@@ -141,7 +140,7 @@ TEST_F(LeftoversTest, AWorkspaceIsOneProjectAndARepositoryInsideAnother) {
     EXPECT_EQ(found(), expected) << "the home folder is no project, though its settings are in git";
 
     std::vector<std::string> paths;
-    findLeftovers({top + "/mono/packages", top, top + "/mono"}, ProcessPaths("/proc", {}),
+    findLeftovers({top + "/mono/packages", top, top + "/mono"}, ProcessPaths("/no/processes", {}),
                   [&](const LeftoverProject& project) { paths.push_back(project.path); });
     EXPECT_EQ(paths.size(), 2U) << "each folder is looked at once";
     std::string deep = "deep";
@@ -180,7 +179,7 @@ TEST_F(LeftoversTest, SaysWhoWorksInAProject) {
     worker.setWorkingDirectory(QString::fromStdString(top + "/a"));
     worker.start(u"sleep"_s, {u"60"_s});
     ASSERT_TRUE(worker.waitForStarted());
-    for (const LeftoverProject& project : search()) {
+    for (const LeftoverProject& project : search("/proc")) {
         const bool isUsed = project.path.ends_with("/a");
         EXPECT_EQ(project.users, isUsed ? Lines{"sleep"} : Lines()) << project.path;
         EXPECT_EQ(project.listing.entries.at(0).isInUse, isUsed);

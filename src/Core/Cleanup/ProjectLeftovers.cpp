@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -197,8 +198,12 @@ QCoro::Task<Outcome> ProjectLeftovers::removeFolder(LeftoverProject project, Lef
     request.stop = stop;
     auto running = m_platform.tools->run(request);
     const ToolResult result = co_await running;
-    if (result.succeeded())
+    const bool isGone = !QFileInfo::exists(QFile::decodeName(folder.path));
+    if (result.succeeded() && isGone)
         co_return Outcome::success();
+    if (result.succeeded())
+        co_return Outcome::failure(
+            QCoreApplication::translate("ProjectLeftovers", "it is another folder by now"));
     co_return Outcome::failure(failureOf(result, stop.stop_requested()));
 }
 

@@ -19,8 +19,8 @@
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -51,6 +51,7 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     , m_home(new PushButton(tr("Home folder")))
     , m_search(new SearchField(tr("Search projects")))
     , m_rescan(new PushButton(tr("Search again"), PushButton::Look::normal, u"arrow.clockwise"_s))
+    , m_area(new QScrollArea)
     , m_stack(new QStackedWidget)
     , m_rows([this] {
         auto* row = new LeftoverRow;
@@ -74,8 +75,9 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     column->addLayout(makeHeader());
     column->addLayout(makeSources());
     column->addWidget(new Divider);
+    QWidget* list = makeList();
     column->addLayout(makeHeads());
-    column->addWidget(makeList(), 1);
+    column->addWidget(list, 1);
     column->addWidget(new Divider);
     column->addLayout(makeFoot());
     if (!m_leftovers.lastSearch() && !m_leftovers.isSearching())
@@ -121,7 +123,7 @@ QLayout* ProjectLeftoversSheet::makeSources() {
 
 QLayout* ProjectLeftoversSheet::makeHeads() {
     auto* row = new QHBoxLayout;
-    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int scrollBar = m_area->verticalScrollBar()->sizeHint().width();
     row->setContentsMargins(LeftoverRow::padding, 0, LeftoverRow::padding + scrollBar, 0);
     row->setSpacing(Theme::rowSpacing);
     const auto add = [row](const QString& text, int width, Qt::Alignment alignment) {
@@ -140,13 +142,12 @@ QLayout* ProjectLeftoversSheet::makeHeads() {
 }
 
 QWidget* ProjectLeftoversSheet::makeList() {
-    auto* area = new QScrollArea;
-    m_rowsLayout = makeScrollingPage(area, {}, 0);
+    m_rowsLayout = makeScrollingPage(m_area, {}, 0);
     m_rowsLayout->addWidget(m_more);
     m_rowsLayout->addStretch();
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setAccessibleName(tr("Projects"));
-    m_stack->addWidget(area);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setAccessibleName(tr("Projects"));
+    m_stack->addWidget(m_area);
     m_stack->addWidget(new EmptyState(u"checkmark.circle"_s, tr("Nothing found"),
                                       tr("No project here has anything left by a build.")));
     m_stack->addWidget(new EmptyState(u"magnifyingglass"_s, tr("Looking for projects…"), QString()));

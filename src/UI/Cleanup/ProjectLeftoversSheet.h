@@ -11,6 +11,7 @@ class ClampedLabel;
 class LeftoverRow;
 class Preferences;
 class PushButton;
+class QScrollArea;
 class QStackedWidget;
 class QVBoxLayout;
 class SearchField;
@@ -55,6 +56,7 @@ private:
     PushButton* m_home;
     SearchField* m_search;
     PushButton* m_rescan;
+    QScrollArea* m_area;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
     RowPool<LeftoverRow> m_rows;

@@ -1,0 +1,65 @@
+#include "Core/ActionLog/ActionLog.h"
+#include "Core/Cleanup/ProjectLeftovers.h"
+#include "Platform/CleanupFixture.h"
+
+#include <fstream>
+
+using namespace Qt::StringLiterals;
+using Cleaner::CleanResult;
+
+namespace {
+
+using SystemTargetsOnDisk = CleanupOnDisk;
+
+TEST_F(SystemTargetsOnDisk, CleaningAFolderKeepsWhatStays) {
+    const QString model =
+        home.makeFile(u".cache/huggingface/hub/models--a--b/blob"_s, QByteArray(900'000, 'x'));
+    const QString index = home.makeFile(u".cache/huggingface/index"_s, QByteArray(50'000, 'x'));
+    const QString other = home.makeFile(u".cache/other/file"_s, QByteArray(300'000, 'x'));
+    CacheTarget caches = target(u"User caches"_s);
+    caches.rule.kept = {home.path(u".cache/huggingface/hub"_s), home.path(u".cache/none"_s)};
+    caches = scanned(caches);
+    EXPECT_TRUE(caches.sizeBytes >= 350'000 && caches.sizeBytes < 900'000) << caches.sizeBytes;
+    const CleanResult result = clean(caches);
+    EXPECT_TRUE(result.done) << qPrintable(result.reason);
+    EXPECT_TRUE(QFileInfo::exists(model));
+    EXPECT_FALSE(QFileInfo::exists(other) || QFileInfo::exists(index));
+}
+
+TEST_F(SystemTargetsOnDisk, RemovesLeftoversOfProjectsWhateverTheirNames) {
+    const std::string top = std::filesystem::canonical(home.path().toStdString()).string();
+    const std::string names[] = {"shop", "two\nlines", "caf\xe9"};
+    for (const std::string& name : names) {
+        std::filesystem::create_directories(top + '/' + name + "/node_modules/deep");
+        std::ofstream(top + '/' + name + "/package.json") << "{}";
+        std::ofstream(top + '/' + name + "/node_modules/deep/file") << "x";
+    }
+    Platform platform;
+    platform.tools = tools;
+    platform.clock = clock;
+    ActionLog log(clock);
+    ProjectLeftovers leftovers(platform, log);
+    QCoro::waitFor(leftovers.search({}));
+    ASSERT_EQ(leftovers.projects().size(), 3);
+    EXPECT_TRUE(leftovers.searchFailure().isEmpty());
+
+    const QList<LeftoverProject> found = leftovers.projects();
+    std::filesystem::rename(top + "/shop/node_modules", top + "/shop/was");
+    std::filesystem::create_directories(top + "/shop/node_modules/new");
+    QCoro::waitFor(leftovers.remove(found));
+    EXPECT_EQ(leftovers.lastRemoval()->folders, 2);
+    EXPECT_EQ(
+        leftovers.lastRemoval()->failures,
+        QStringList(QString::fromStdString(top) + u"/shop/node_modules (it is another folder by now)"_s));
+    EXPECT_TRUE(std::filesystem::exists(top + "/shop/node_modules/new")) << "it came after the search";
+    for (const std::string& name : {names[1], names[2]})
+        EXPECT_FALSE(std::filesystem::exists(top + '/' + name + "/node_modules"));
+    for (const std::string& name : names) {
+        EXPECT_TRUE(std::filesystem::exists(top + '/' + name + "/package.json"));
+        std::filesystem::remove_all(top + '/' + name);
+    }
+    QCoro::waitFor(leftovers.search({home.path(u"no such folder"_s)}));
+    EXPECT_FALSE(leftovers.searchFailure().isEmpty());
+}
+
+} // namespace
