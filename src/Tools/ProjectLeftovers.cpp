@@ -4,10 +4,12 @@
 #include "Tools/GitRepository.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
 #include <span>
+#include <sstream>
 #include <string_view>
 
 using namespace Tools;

@@ -96,7 +96,8 @@ TEST_F(CleanupChoiceTest, WhatAProgramUsesAndWhatIsInsideAreChosenOnTheirOwn) {
 
 TEST_F(CleanupChoiceTest, OrderAndFilter) {
     CleanupChoice choice(
-        {targetOf(u"npm"_s, {{u"/h"_s, listingOf({{"Bb", 5}, {"ab", 3}, {"caf\xe9\n", 9}})}})}, Levels::ofFolders);
+        {targetOf(u"npm"_s, {{u"/h"_s, listingOf({{"Bb", 5}, {"ab", 3}, {"caf\xe9\n", 9}})}})},
+        Levels::ofFolders);
     const auto folder = choice.node(CleanupChoice::top).shown[0];
     EXPECT_EQ(shownIn(choice, folder)[1], u"Bb"_s) << "the largest first";
     choice.sort(CleanupChoice::Order::name, false);
