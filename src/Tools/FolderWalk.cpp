@@ -18,6 +18,7 @@
 #include <linux/close_range.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 using namespace Tools;
@@ -28,15 +29,9 @@ namespace {
 constexpr std::size_t entriesBeforeHelp = 1000;
 constexpr std::size_t bufferBytes = 64 << 10;
 
-struct Device {
-    unsigned major = 0;
-    unsigned minor = 0;
-
-    explicit Device(const struct statx& entry)
-        : major(entry.stx_dev_major)
-        , minor(entry.stx_dev_minor) {}
-    bool operator==(const Device&) const = default;
-};
+dev_t deviceOf(const struct statx& entry) {
+    return makedev(entry.stx_dev_major, entry.stx_dev_minor);
+}
 
 bool readStatus(int folder, const char* name, struct statx& status) {
     return statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_BASIC_STATS, &status) == 0;
@@ -64,13 +59,13 @@ struct Linked {
 /// What the threads that measure one folder have in common.
 class Walk {
 public:
-    Walk(const std::string& top, int descriptor, Device device, FolderTask& task,
+    Walk(const std::string& top, int descriptor, dev_t device, FolderTask& task,
          const FolderWalkLimits& limits);
 
     FolderWalkResult run(FolderPointer folder);
 
     int top() const { return m_descriptor; }
-    Device device() const { return m_device; }
+    dev_t device() const { return m_device; }
     FolderTask& task() { return m_task; }
     FolderPieces& pieces() { return m_pieces; }
 
@@ -84,7 +79,7 @@ private:
 
     const std::string& m_topPath;
     const int m_descriptor;
-    const Device m_device;
+    const dev_t m_device;
     FolderTask& m_task;
     const unsigned m_threads;
     std::size_t m_openFolders;
@@ -201,7 +196,7 @@ void Walker::count(const FolderPointer& parent, int descriptor, const char* name
     ++m_entries;
     if (!readStatus(descriptor, name, status))
         return m_walk.addUnread(*parent, name, errno);
-    if (Device(status) != m_walk.device())
+    if (deviceOf(status) != m_walk.device())
         return;
     const bool isFolder = S_ISDIR(status.stx_mode);
     const bool isBelowMount = isFolder && (parent->isBelowMount || mayBeMountPoint(status));
@@ -239,7 +234,7 @@ void Walker::passOnSum() {
     m_share = nullptr;
 }
 
-Walk::Walk(const std::string& top, int descriptor, Device device, FolderTask& task,
+Walk::Walk(const std::string& top, int descriptor, dev_t device, FolderTask& task,
            const FolderWalkLimits& limits)
     : m_topPath(top)
     , m_descriptor(descriptor)
@@ -314,7 +309,7 @@ FolderWalkResult Tools::walkFolder(const std::string& path, int descriptor, Fold
     }
     const auto folder = std::make_shared<FoundFolder>(
         FoundFolder{.parent = nullptr, .name = path, .inode = status.stx_ino, .share = share});
-    return Walk(path, descriptor, Device(status), task, limits).run(folder);
+    return Walk(path, descriptor, deviceOf(status), task, limits).run(folder);
 }
 
 std::string Tools::pathOf(const std::string& top, const FoundFolder* folder, const char* name) {

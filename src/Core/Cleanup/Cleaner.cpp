@@ -160,7 +160,7 @@ QCoro::Task<Cleaner::CleanResult> trashListed(CleanupRule rule, ListedFolder fol
             paths.append(entry->path);
             moved += entry->sizeBytes;
         }
-        auto moving = onThread([root = folder.root, paths] { return trash(root, paths); });
+        auto moving = onThread<QString>([root = folder.root, paths] { return trash(root, paths); });
         const std::optional<QString> reason = co_await moving;
         if (!reason || !reason->isEmpty())
             fail(result, reason.value_or(QString()));
@@ -250,7 +250,7 @@ QCoro::Task<Result<QByteArray>> Cleaner::list(CleanupRule rule, QString folder, 
 
 QCoro::Task<Result<QByteArray>> Cleaner::listInside(CleanupRule rule, QString folder, QByteArray inside,
                                                     Instant now, std::shared_ptr<ToolRunner> tools) {
-    auto finding = onThread([folder] { return PlaceFinder::rootOf(folder); }, PlaceFinder::patience);
+    auto finding = onThread<QString>([folder] { return PlaceFinder::rootOf(folder); }, PlaceFinder::patience);
     const std::optional<QString> root = co_await finding;
     if (!root)
         co_return {Outcome::failure(PlaceFinder::silence(folder))};

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <system_error>
@@ -15,10 +16,9 @@
 /// Runs `work` on a thread of its own, which shares nothing with others. Returns what it returns, or an empty
 /// optional when that takes longer than `limit` or no thread can be started. Nothing waits for a thread that
 /// hangs: neither the caller nor the end of the program.
-template <typename Work>
-auto onThread(Work work, std::optional<std::chrono::milliseconds> limit = {})
-    -> QCoro::Task<std::optional<decltype(work())>> {
-    using Value = decltype(work());
+template <typename Value>
+QCoro::Task<std::optional<Value>> onThread(std::function<Value()> work,
+                                           std::optional<std::chrono::milliseconds> limit = {}) {
     const auto promise = std::make_shared<QPromise<Value>>();
     promise->start();
     QFuture<Value> future = promise->future();

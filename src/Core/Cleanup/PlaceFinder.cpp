@@ -58,7 +58,8 @@ PlaceFinder::find(QStringList paths, std::shared_ptr<const Places> places, std::
     if (paths.isEmpty())
         co_return result;
     const auto at = std::make_shared<std::atomic<qsizetype>>(0);
-    auto looking = onThread([paths, places, at] { return look(paths, *places, *at); }, limit);
+    auto looking =
+        onThread<QList<FoundPlace>>([paths, places, at] { return look(paths, *places, *at); }, limit);
     const std::optional<QList<FoundPlace>> found = co_await looking;
     if (found)
         result.value = *found;
