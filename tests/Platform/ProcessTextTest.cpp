@@ -168,8 +168,8 @@ TEST(ProcessText, OddFoldersAreLookedAtWithCare) {
         EXPECT_EQ(pids, (std::vector<qint32>{5000001, 5000003, 5000004, 5000005}));
         const quint64 page = static_cast<quint64>(sysconf(_SC_PAGESIZE));
         const auto fiveSeconds = 500'000'000'000 / static_cast<quint64>(sysconf(_SC_CLK_TCK));
-        EXPECT_EQ(table.taskInfo(5000001), (TaskInfo{2 * page, page, fiveSeconds, 2}));
-        EXPECT_EQ(table.taskInfo(5000003), (TaskInfo{8192, 21 * page, fiveSeconds, 3}));
+        EXPECT_EQ(table.taskInfo(5000001), (TaskInfo{2 * page, page, page, fiveSeconds, 2}));
+        EXPECT_EQ(table.taskInfo(5000003), (TaskInfo{8192, 21 * page, std::nullopt, fiveSeconds, 3}));
         EXPECT_FALSE(table.taskInfo(5000004));
         EXPECT_FALSE(table.taskInfo(5000005));
         EXPECT_FALSE(table.kernelInfo(5000004));

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -206,8 +207,10 @@ TEST_F(LeftoversTest, ItsListingRemovesExactlyTheLeftoversWhateverTheirNames) {
     for (const LeftoverProject& project : projects) {
         EXPECT_GE(project.listing.bytes, 8192U);
         EXPECT_EQ(QFile::encodeName(QFile::decodeName(project.listed.c_str())).toStdString(), project.listed);
+        std::ostringstream listing;
+        project.listing.write(listing);
         const EndedTool removal = runTool(u"cleanup"_s, {u"remove"_s, QString::fromStdString(project.listed)},
-                                          QByteArray::fromStdString(project.listing.text()));
+                                          QByteArray::fromStdString(listing.str()));
         EXPECT_EQ(removal.status, 0) << removal.error.toStdString();
         EXPECT_FALSE(std::filesystem::exists(project.path + "/node_modules"));
         EXPECT_TRUE(std::filesystem::exists(project.path + "/package.json"));

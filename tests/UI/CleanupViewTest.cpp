@@ -107,12 +107,12 @@ TEST(CleanupView, TargetsOfTheSystemAreShownWhereTheyAreOrOnRequest) {
         const QStringList names = shownNames<CacheCard>(view);
         return std::ranges::any_of(names, [&](const QString& each) { return each.startsWith(name + u','); });
     };
-    EXPECT_TRUE(has(u"Here"_s) && has(u"npm / pnpm / yarn"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return has(u"Here"_s) && has(u"npm / pnpm / yarn"_s); }, 2000));
     EXPECT_FALSE(has(u"Nowhere"_s) || has(u"Homebrew"_s));
     EXPECT_TRUE(shownNames<CacheCard>(view).last().startsWith(u"Project leftovers,"_s));
     for (const auto* card : view.findChildren<CacheCard*>()) {
-        if (card->accessibleName().startsWith(u"Here,"_s))
-            EXPECT_EQ(card->accessibleDescription(), u"It is␉made again. Not in Clean All."_s);
+        const bool isHere = card->accessibleName().startsWith(u"Here,"_s);
+        EXPECT_TRUE(!isHere || card->accessibleDescription() == u"It is␉made again. Not in Clean All."_s);
     }
     press(view, u"Show all"_s);
     settle();

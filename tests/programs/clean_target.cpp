@@ -1,5 +1,6 @@
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheCleanup.h"
+#include "Preferences.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -13,7 +14,7 @@ int main(int argc, char** argv) {
     const QCoreApplication app(argc, argv);
     const Platform platform = Platform::native();
     ActionLog log(platform.clock);
-    CacheCleanup cleanup(platform, log);
+    CacheCleanup cleanup(platform, log, Preferences::shared());
     const QString name = app.arguments().value(1);
     const auto measure = [&cleanup, &name] {
         QCoro::waitFor(cleanup.rescan());
