@@ -121,6 +121,12 @@ void shootSettings(Camera& camera) {
     QCoreApplication::sendPostedEvents();
     scroll->setValue(scroll->maximum());
     shoot(SettingsScene::Tab::alerts, u"alerts-no-notifications"_s);
+    shoot(SettingsScene::Tab::cleanup, u"cleanup-empty"_s);
+    settings.preferences.cleanupExcludes.set(
+        {u"*.gguf"_s, u"/home/ana/.cache/a folder with a very long name"_s});
+    settings.preferences.projectFolders.set({u"/home/ana/src"_s});
+    QCoreApplication::sendPostedEvents();
+    shoot(SettingsScene::Tab::cleanup, u"cleanup"_s);
     auto* table = window.findChild<PresetTable*>();
     shoot(SettingsScene::Tab::quickKills, u"quick-kills"_s);
     table->setCurrentIndex(table->model()->index(3, 0));

@@ -184,10 +184,14 @@ std::optional<CleanupListing> Tools::listEntries(const Folder& folder, const std
         return std::nullopt;
     if (scope.excludesWayTo(inside))
         return listing;
-    EntryLister entries(scope, inside);
-    OldFileLister oldFiles(scope, inside);
-    Lister& lister = scope.olderThanDays ? static_cast<Lister&>(oldFiles) : entries;
-    list(inner ? *inner : folder, lister, scope, listing);
+    const Folder& listed = inner ? *inner : folder;
+    if (scope.olderThanDays) {
+        OldFileLister lister(scope, inside);
+        list(listed, lister, scope, listing);
+    } else {
+        EntryLister lister(scope, inside);
+        list(listed, lister, scope, listing);
+    }
     return listing;
 }
 

@@ -174,7 +174,8 @@ void Search::visit(const Folder& folder, const std::string& path, int depth, Lef
         own.listing.inode = folder.inode();
     }
     for (const LeftoverRule* rule : leftovers) {
-        add(folder, path, std::string(rule->name), *project);
+        if (project) // it has one, as leftovers make a project
+            add(folder, path, std::string(rule->name), *project);
         std::erase(names, rule->name);
     }
     visitEntries(folder, path, depth, names, project, repository);

@@ -3,6 +3,7 @@
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Cleanup/LeaveOutOffer.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/ModelFixture.h"
@@ -288,6 +289,19 @@ TEST_F(CleanupViewTest, ADrawerLeavesOutWhatIsNotTicked) {
         EXPECT_TRUE(!isRemoval || (request.input.contains("_cacache") && !request.input.contains("_logs")));
     }
     EXPECT_EQ(logged(), QStringList(u"clean npm / pnpm / yarn ok"_s));
+}
+
+TEST_F(CleanupViewTest, WhatIsLeftOutTwiceIsOfferedToStayForGood) {
+    const QStringList leftOut{u"/c/a[1]"_s, u"/c/b"_s};
+    LeaveOutOffer::follow(&window, prefs, leftOut);
+    EXPECT_FALSE(dialog());
+    LeaveOutOffer::follow(&window, prefs, {u"/c/a[1]"_s});
+    ASSERT_TRUE(dialog());
+    press(*dialog(), u"Never Clean"_s);
+    EXPECT_EQ(prefs.cleanupExcludes(), QStringList(u"/c/a\\[1]"_s)) << "it matches this path alone";
+    settle();
+    LeaveOutOffer::follow(&window, prefs, {u"/c/c"_s});
+    EXPECT_FALSE(dialog());
 }
 
 TEST_F(CleanupViewTest, ADrawerShowsWhatIsInsideAFolderOfItsList) {

@@ -185,8 +185,7 @@ TEST_F(OptimizeViewTest, ACleanThatIsNotAskedAboutCanBeCancelled) {
     press(view, u"Stop cleaning"_s);
     fakes.tools->suspended = false;
     EXPECT_TRUE(fakes.tools->release(npm));
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return notice().startsWith(u"Stopped: cleaned 0 of 1"_s); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return notice().startsWith(u"Stopped: cleaned 0 of 1"_s); }, 2000));
     EXPECT_TRUE(notice().endsWith(u"Not finished: npm / pnpm / yarn (stopped)"_s));
     EXPECT_TRUE(buttonNamed(view, u"Clean All"_s)->isEnabled());
 }

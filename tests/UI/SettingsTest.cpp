@@ -1,3 +1,4 @@
+#include "UI/Settings/CleanupTab.h"
 #include "UI/Settings/SettingsScene.h"
 
 #include "UI/Controls.h"
@@ -8,6 +9,8 @@
 #include "support/Files.h"
 
 #include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -55,6 +58,19 @@ TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     QTest::keyClick(&window, Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(SettingsTest, WhatIsNeverCleanedIsAListThatGrowsAndShrinks) {
+    window.select(Tab::cleanup);
+    auto* field = window.findChild<CleanupTab*>()->findChild<QLineEdit*>();
+    for (const QString& typed : {u" *.gguf "_s, u"~/keep"_s, u"*.gguf"_s, u""_s}) {
+        field->setText(typed);
+        QTest::keyClick(field, Qt::Key_Return);
+    }
+    EXPECT_EQ(settings.preferences.cleanupExcludes(),
+              (QStringList{u"*.gguf"_s, QDir::homePath() + u"/keep"_s}));
+    click(window, u"Remove *.gguf"_s);
+    EXPECT_EQ(settings.preferences.cleanupExcludes(), QStringList(QDir::homePath() + u"/keep"_s));
 }
 
 TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {

@@ -24,6 +24,5 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-
     FreeRamPreview m_candidate;
 };
