@@ -123,6 +123,7 @@ private:
         std::string name;
         std::uint64_t bytes;
         std::vector<std::string> names; ///< still to be removed
+        bool hasChanged = false;        ///< since the listing began
         Outcome worst = Outcome::gone;
     };
 
@@ -134,8 +135,14 @@ private:
         constexpr std::uint64_t unit = 512; // of st_blocks, see stat(2)
         return static_cast<std::uint64_t>(entry.st_blocks) * unit;
     }
+    bool isLater(const timespec& time) const {
+        return time.tv_sec * nanosecondsASecond + time.tv_nsec > m_newest;
+    }
+    /// Returns whether an entry of the last level came, or a file changed, after the listing began. An entry
+    /// that comes changes its folder too. A removal of another link of a file changes only the file's status.
     bool cameLater(const struct stat& entry) const {
-        return entry.st_ctim.tv_sec * nanosecondsASecond + entry.st_ctim.tv_nsec > m_newest;
+        const bool isChangedFile = !S_ISDIR(entry.st_mode) && isLater(entry.st_mtim);
+        return isLater(entry.st_ctim) && (isChangedFile || m_levels.back().hasChanged);
     }
 
     /// Removes a file, or makes a level of a folder that is not empty.
@@ -177,7 +184,8 @@ private:
         if (!names)
             return failed(errno);
         m_levels.push_back({folder->device(), folder->inode(), std::move(folder), name, usage(entry),
-                            std::move(*names), stays ? Outcome::kept : Outcome::gone});
+                            std::move(*names), isLater(entry.st_ctim),
+                            stays ? Outcome::kept : Outcome::gone});
         if (m_levels.size() > maxOpenFolders)
             m_levels[m_levels.size() - maxOpenFolders - 1].folder.reset();
         return Outcome::gone; // so far
@@ -234,7 +242,7 @@ private:
     }
 
     const CleanupScope& m_scope;
-    const std::int64_t m_newest; ///< status change of what goes below listed folders
+    const std::int64_t m_newest; ///< nanoseconds since 1970
     const std::function<bool(const Removed&)>& m_goesOn;
     std::vector<Level> m_levels;
     std::string m_path; ///< of the entry being removed

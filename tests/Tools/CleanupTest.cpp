@@ -215,13 +215,14 @@ TEST(Cleanup, MarksWhatRunningProgramsUse) {
 
 TEST(Cleanup, WhatCameAfterTheListingStaysBelowAListedFolder) {
     const TemporaryFolder tree;
-    for (const auto& name :
-         {u"cache/old"_s, u"cache/deep/old"_s, u"cache/gone/old"_s, u"cache/deep/changed"_s, u"top"_s})
+    for (const auto& name : {u"cache/old"_s, u"cache/deep/old"_s, u"cache/gone/old"_s,
+                             u"cache/deep/changed"_s, u"top"_s, u"beside/moved"_s})
         tree.makeFile(name, QByteArray(5000, 'x'));
     const auto makeLink = [&tree](const QString& from, const QString& to) {
         ASSERT_EQ(link(tree.path(from).toUtf8().constData(), tree.path(to).toUtf8().constData()), 0);
     };
     makeLink(u"cache/old"_s, u"cache/deep/its link"_s);
+    makeLink(u"cache/gone/old"_s, u"top link"_s);
     waitForTheNextTick();
     const QByteArray listing = run({u"list"_s, tree.path()}).output;
     waitForTheNextTick();
@@ -230,11 +231,14 @@ TEST(Cleanup, WhatCameAfterTheListingStaysBelowAListedFolder) {
     tree.makeFolder(u"cache/new folder"_s);
     tree.makeFile(u"top"_s); // which was listed itself
     tree.makeFile(u"new at top"_s);
+    ASSERT_TRUE(QFile::remove(tree.path(u"top link"_s))); // by another clean, which changes the other link
+    ASSERT_TRUE(QFile::rename(tree.path(u"beside/moved"_s), tree.path(u"cache/new folder/moved"_s)));
 
     const EndedTool ended = run({u"remove"_s, tree.path()}, listing);
     EXPECT_EQ(ended.status, 0) << ended.error.constData();
     const QStringList left = {u"cache"_s,          u"cache/deep"_s,       u"cache/deep/changed"_s,
-                              u"cache/deep/new"_s, u"cache/new folder"_s, u"new at top"_s};
+                              u"cache/deep/new"_s, u"cache/new folder"_s, u"cache/new folder/moved"_s,
+                              u"new at top"_s};
     EXPECT_EQ(allBelow(tree.path()), left);
 
     for (const QByteArray& absurd : {QByteArray("0"), QByteArray("9000000000000000000")}) {

@@ -20,7 +20,7 @@ struct Part {
     QSet<QByteArray> paths; ///< of its entries; read only where it may cover another
 };
 
-QByteArray rootOf(const ListedFolder& folder) {
+QByteArray pathWithoutLinks(const ListedFolder& folder) {
     return QFile::encodeName(folder.root.isEmpty() ? folder.path : folder.root);
 }
 
@@ -37,7 +37,7 @@ QList<Part> partsOf(const QList<CacheTarget>& targets) {
         for (const ListedFolder& folder : targets[i].listed)
             parts.append({.target = i,
                           .order = parts.size(),
-                          .root = rootOf(folder),
+                          .root = pathWithoutLinks(folder),
                           .device = folder.listing.left(folder.listing.indexOf(':')),
                           .folder = &folder,
                           .isWhole = isWhole(targets[i], folder),
