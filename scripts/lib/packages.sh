@@ -8,7 +8,7 @@ packages_of() {
     build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qcoro-qt6-dev libxcb1-dev libxcb-res0-dev \
         libtomlplusplus-dev nlohmann-json3-dev \
         libgtest-dev libgmock-dev ;;
-    test) echo procps fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston dunst ;;
+    test) echo procps git ccache fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston dunst ;;
     package) echo dpkg-dev file ;;
     bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \
