@@ -106,9 +106,9 @@ bool isHome(const Folder& folder) {
 }
 
 /// One walk below a named folder.
-class Search {
+class LeftoverSearch {
 public:
-    Search(const ProcessPaths& processes, const std::function<void(const LeftoverProject&)>& found)
+    LeftoverSearch(const ProcessPaths& processes, const std::function<void(const LeftoverProject&)>& found)
         : m_processes(processes)
         , m_found(found) {}
 
@@ -131,8 +131,8 @@ private:
     const std::function<void(const LeftoverProject&)>& m_found;
 };
 
-bool Search::isLeftover(const Folder& folder, const std::string& path, const LeftoverRule& rule,
-                        const Names& names, GitRepository* repository) const {
+bool LeftoverSearch::isLeftover(const Folder& folder, const std::string& path, const LeftoverRule& rule,
+                                const Names& names, GitRepository* repository) const {
     const std::string name(rule.name);
     const auto entry = folder.status(name);
     if (!entry || !S_ISDIR(entry->st_mode) || entry->st_dev != folder.device())
@@ -145,8 +145,9 @@ bool Search::isLeftover(const Folder& folder, const std::string& path, const Lef
     return !repository || !repository->tracks((path + '/' + name).substr(repository->folder().size() + 1));
 }
 
-std::vector<const LeftoverRule*> Search::leftoversIn(const Folder& folder, const std::string& path,
-                                                     const Names& names, GitRepository* repository) const {
+std::vector<const LeftoverRule*> LeftoverSearch::leftoversIn(const Folder& folder, const std::string& path,
+                                                             const Names& names,
+                                                             GitRepository* repository) const {
     std::vector<const LeftoverRule*> found;
     for (const LeftoverRule& rule : rules()) {
         if (contains(names, rule.name) && isLeftover(folder, path, rule, names, repository))
@@ -155,8 +156,8 @@ std::vector<const LeftoverRule*> Search::leftoversIn(const Folder& folder, const
     return found;
 }
 
-void Search::visit(const Folder& folder, const std::string& path, int depth, LeftoverProject* project,
-                   std::shared_ptr<GitRepository> repository) {
+void LeftoverSearch::visit(const Folder& folder, const std::string& path, int depth, LeftoverProject* project,
+                           std::shared_ptr<GitRepository> repository) {
     Names names = folder.names().value_or(Names());
     std::ranges::sort(names);
     const bool isWorkTree = contains(names, ".git"sv) && !isHome(folder);
@@ -183,8 +184,9 @@ void Search::visit(const Folder& folder, const std::string& path, int depth, Lef
         finish(own, repository.get());
 }
 
-void Search::visitEntries(const Folder& folder, const std::string& path, int depth, const Names& names,
-                          LeftoverProject* project, const std::shared_ptr<GitRepository>& repository) {
+void LeftoverSearch::visitEntries(const Folder& folder, const std::string& path, int depth,
+                                  const Names& names, LeftoverProject* project,
+                                  const std::shared_ptr<GitRepository>& repository) {
     for (const std::string& name : names) {
         if (name.starts_with('.') || name == "node_modules" || name == "__pycache__")
             continue;
@@ -198,8 +200,8 @@ void Search::visitEntries(const Folder& folder, const std::string& path, int dep
     }
 }
 
-void Search::add(const Folder& folder, const std::string& path, const std::string& name,
-                 LeftoverProject& project) const {
+void LeftoverSearch::add(const Folder& folder, const std::string& path, const std::string& name,
+                         LeftoverProject& project) const {
     const auto entry = folder.status(name);
     const std::string whole = path + '/' + name;
     const auto size = measureFolder(whole, [](const UnreadEntry&) {});
@@ -214,7 +216,7 @@ void Search::add(const Folder& folder, const std::string& path, const std::strin
     project.listing.entries.push_back(std::move(listed));
 }
 
-void Search::finish(LeftoverProject& project, GitRepository* repository) const {
+void LeftoverSearch::finish(LeftoverProject& project, GitRepository* repository) const {
     if (repository)
         project.lastUse = std::max(project.lastUse, repository->lastMove());
     project.users = m_processes.usersOf(project.path);
@@ -261,7 +263,7 @@ void Tools::findLeftovers(const std::vector<std::string>& folders, const Process
             continue;
         done.push_back(path);
         if (const auto folder = Folder::open(path))
-            Search(processes, found)
+            LeftoverSearch(processes, found)
                 .visit(*folder, path == "/" ? std::string() : path, 0, nullptr, GitRepository::around(path));
     }
 }
