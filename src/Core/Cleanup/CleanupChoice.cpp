@@ -93,6 +93,8 @@ void CleanupChoice::addVolumes(qint32 index, Index parent) {
 }
 
 void CleanupChoice::addEntries(Index parent, qint32 target, qint32 folder, QByteArrayView listing) {
+    const auto records = std::ranges::count(listing, '\0');
+    m_nodes.reserve(m_nodes.size() + static_cast<std::size_t>(records));
     CleanupPlan::ListingReader reader(listing);
     while (const auto entry = reader.next()) {
         const QByteArrayView path = entry->record.chopped(1).last(entry->path.size());
@@ -191,6 +193,8 @@ bool CleanupChoice::insert(Index index, const QByteArray& listing) {
 }
 
 void CleanupChoice::sort(Order order, bool isDescending) {
+    if (order == m_order && isDescending == m_isDescending)
+        return;
     m_order = order;
     m_isDescending = isDescending;
     arrange(top);
