@@ -128,6 +128,14 @@ struct NotificationsOnABus : testing::Test {
                              .urgency = Notification::Urgency::critical,
                              .actions = {{u"show"_s, u"Show"_s}, {u"quit"_s, u"Quit <a>"_s}}});
     }
+    void replaceOneWhileTheServerHangs() {
+        startServer();
+        show(u"a"_s);
+        EXPECT_TRUE(serverGot({u"caps"_s, u"notify 0 t"_s}));
+        settleBus();
+        server->hangs = true;
+        show(u"a"_s, u"new"_s);
+    }
     bool serverGot(const QStringList& calls) {
         const bool has = QTest::qWaitFor([&] { return server->calls == calls; }, 3000);
         if (!has)
@@ -380,12 +388,7 @@ TEST_F(NotificationsOnABus, ErrorsAndWrongIdsAreNotRepeated) {
 }
 
 TEST_F(NotificationsOnABus, OneThatIsClosedWhileItIsReplacedStaysClosed) {
-    startServer();
-    show(u"a"_s);
-    EXPECT_TRUE(serverGot({u"caps"_s, u"notify 0 t"_s}));
-    settleBus();
-    server->hangs = true;
-    show(u"a"_s, u"new"_s);
+    replaceOneWhileTheServerHangs();
     EXPECT_TRUE(serverGot({u"notify 41 new"_s}));
     server->emitSignal(u"NotificationClosed"_s, {41U, 2U});
     EXPECT_TRUE(happened({u"closed a"_s}));
@@ -395,12 +398,7 @@ TEST_F(NotificationsOnABus, OneThatIsClosedWhileItIsReplacedStaysClosed) {
 }
 
 TEST_F(NotificationsOnABus, OneThatIsReplacedWhileTheProgramEndsIsClosed) {
-    startServer();
-    show(u"a"_s);
-    EXPECT_TRUE(serverGot({u"caps"_s, u"notify 0 t"_s}));
-    settleBus();
-    server->hangs = true;
-    show(u"a"_s, u"new"_s);
+    replaceOneWhileTheServerHangs();
     notifications->withdraw(u"a"_s);
     notifications.reset();
     EXPECT_TRUE(serverGot({u"notify 41 new"_s, u"close 41"_s}));

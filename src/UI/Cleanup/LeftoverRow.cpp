@@ -14,23 +14,8 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int leftoverRowHeight = 44;
-constexpr int tickSide = 16;
+constexpr int leftoverTickSide = 16;
 constexpr double tickedStrength = 0.12;
-
-void drawTickBox(QPainter& painter, const QRectF& area, bool isTicked) {
-    if (!isTicked) {
-        Painting::drawCard(painter, area, 4, Theme::color(Role::cardFill), Theme::color(Role::gray));
-        return;
-    }
-    Painting::drawCard(painter, area, 4, Theme::tileColor(Role::accent));
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF corner = area.topLeft();
-    const QPointF mark[] = {corner + QPointF(4, 8.5), corner + QPointF(7, 11.5), corner + QPointF(12, 5)};
-    painter.drawPolyline(mark, 3);
-    painter.restore();
-}
 
 } // namespace
 
@@ -72,11 +57,11 @@ void LeftoverRow::paintEvent(QPaintEvent*) {
     Painting::drawFeedback(painter, *this, Theme::controlRadius, 0.6);
 
     QRectF line = QRectF(rect()).adjusted(padding, 0, -padding, 0);
+    const QRectF box(line.left(), qRound(line.center().y() - leftoverTickSide / 2.0), leftoverTickSide,
+                     leftoverTickSide);
     if (isEnabled())
-        drawTickBox(painter,
-                    {line.left(), qRound(line.center().y() - tickSide / 2.0) * 1.0, tickSide, tickSide},
-                    isChecked());
-    line.setLeft(line.left() + tickSide + padding);
+        Painting::drawTickBox(painter, box, isChecked() ? Qt::Checked : Qt::Unchecked);
+    line.setLeft(line.left() + leftoverTickSide + padding);
     Painting::setTextStyle(painter, TextStyle::body, Role::primaryText);
     Painting::drawTabular(painter, Painting::takeRight(line, sizeWidth), Qt::AlignRight,
                           Formatters::bytes(m_project.sizeBytes));
