@@ -50,6 +50,7 @@ template class Property<bool>;
 template class Property<double>;
 template class Property<QByteArray>;
 template class Property<QStringList>;
+template class Property<Language>;
 template class Property<MenuBarFormat>;
 template class Property<HistoryRetention>;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Language.h"
 #include "Core/Observable.h"
 #include "Core/RawValue.h"
 #include "Core/Relief/QuickKillPreset.h"
@@ -66,6 +67,8 @@ public:
 
     explicit Preferences(const QString& iniFile, QObject* parent = nullptr);
 
+    /// Read once, when the program starts.
+    Property<Language> language{*this, u"pref.language", Language::system};
     Property<bool> startAtLogin{*this, u"pref.startAtLogin", true};
     Property<bool> showWidgetOnLaunch{*this, u"pref.showWidgetOnLaunch", false};
     Property<bool> showInDock{*this, u"pref.showInDock", true};

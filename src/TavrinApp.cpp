@@ -28,7 +28,7 @@ QString displayName() {
 
 TavrinApp::TavrinApp(int& argc, char** argv)
     : QApplication(argc, argv) {
-    Translations::install();
+    Translations::install(Preferences::shared().language());
     setApplicationName(QStringLiteral("Tavrin"));
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
     setDesktopFileName(QStringLiteral("tavrin"));

@@ -1,6 +1,7 @@
 #include "Core/Formatters.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -34,14 +35,48 @@ QChar picture(QChar character) {
     return character.unicode() == 0x7f ? QChar(deletePicture) : QChar(replacement);
 }
 
-} // namespace
-
-QString fixed(double value, int decimals) {
+/// Formats as printf's "%.Nf" in the C locale.
+QString plain(double value, int decimals) {
     std::array<char, 400> buffer; // the largest double has 309 digits before the dot
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals)
             .ptr;
     return QString::fromLatin1(buffer.data(), end - buffer.data());
+}
+
+/// A size of at least 1,024 bytes in the unit that fits it.
+struct Size {
+    QString number;
+    const char* unit; ///< in English, with %1 for the number
+};
+
+Size scaled(quint64 count) {
+    constexpr std::array units = {
+        QT_TRANSLATE_NOOP("Formatters", "%1 KB"), QT_TRANSLATE_NOOP("Formatters", "%1 MB"),
+        QT_TRANSLATE_NOOP("Formatters", "%1 GB"), QT_TRANSLATE_NOOP("Formatters", "%1 TB"),
+        QT_TRANSLATE_NOOP("Formatters", "%1 PB"), QT_TRANSLATE_NOOP("Formatters", "%1 EB")};
+    constexpr double step = 1024;
+    double value = static_cast<double>(count) / step;
+    std::size_t unit = 0;
+    // A value that rounds up to 1024 of a unit is one of the next.
+    while (unit + 1 < units.size() && (value >= step || plain(value, 1) == QStringLiteral("1024.0"))) {
+        value /= step;
+        ++unit;
+    }
+    QString number = plain(value, 1);
+    if (number.endsWith(QStringLiteral(".0")))
+        number.chop(2);
+    return {.number = number, .unit = units[unit]};
+}
+
+QString withDecimalSign(QString number) {
+    return number.replace(u'.', QLocale().decimalPoint());
+}
+
+} // namespace
+
+QString fixed(double value, int decimals) {
+    return withDecimalSign(plain(value, decimals));
 }
 
 QString duration(double seconds) {
@@ -56,24 +91,17 @@ QString duration(double seconds) {
 }
 
 QString bytes(quint64 count) {
-    constexpr std::array units = {
-        QT_TRANSLATE_NOOP("Formatters", "%1 KB"), QT_TRANSLATE_NOOP("Formatters", "%1 MB"),
-        QT_TRANSLATE_NOOP("Formatters", "%1 GB"), QT_TRANSLATE_NOOP("Formatters", "%1 TB"),
-        QT_TRANSLATE_NOOP("Formatters", "%1 PB"), QT_TRANSLATE_NOOP("Formatters", "%1 EB")};
-    constexpr double step = 1024;
     if (count < 1024)
         return QCoreApplication::translate("Formatters", "%n byte(s)", nullptr, int(count));
-    double value = static_cast<double>(count) / step;
-    std::size_t unit = 0;
-    // A value that rounds up to 1024 of a unit is one of the next.
-    while (unit + 1 < units.size() && (value >= step || fixed(value, 1) == QStringLiteral("1024.0"))) {
-        value /= step;
-        ++unit;
-    }
-    QString number = fixed(value, 1);
-    if (number.endsWith(QStringLiteral(".0")))
-        number.chop(2);
-    return QCoreApplication::translate("Formatters", units[unit]).arg(number);
+    const Size size = scaled(count);
+    return QCoreApplication::translate("Formatters", size.unit).arg(withDecimalSign(size.number));
+}
+
+QString bytesForLog(quint64 count) {
+    if (count < 1024)
+        return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? "byte" : "bytes"));
+    const Size size = scaled(count);
+    return QString::fromLatin1(size.unit).arg(size.number);
 }
 
 QString ago(double seconds) {
@@ -98,7 +126,15 @@ QString ago(double seconds) {
 }
 
 QString percent(double value) {
-    return fixed(std::isfinite(value) ? value : 0, 0) + u'%';
+    return QCoreApplication::translate("Formatters", "%1%").arg(fixed(std::isfinite(value) ? value : 0, 0));
+}
+
+QString list(const QStringList& items) {
+    return items.join(QCoreApplication::translate("Formatters", ", ", "between the items of a list"));
+}
+
+QString sentence(const QString& words) {
+    return QCoreApplication::translate("Formatters", "%1.", "a sentence").arg(words);
 }
 
 QString visible(const QString& text) {

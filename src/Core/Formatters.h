@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
-/// The texts for figures on screen.
+/// The texts for figures on screen, in the user's language.
 namespace Formatters {
 
-/// Formats as printf's "%.Nf" in every locale. An exact half is rounded to the even digit.
+/// Formats as printf's "%.Nf", with the decimal sign of the locale. An exact half is rounded to the even
+/// digit.
 QString fixed(double value, int decimals);
 
 /// Returns "42s", "3m" or "1.5h", rounded as `fixed` does; half minutes round up.
@@ -14,11 +15,20 @@ QString duration(double seconds);
 /// Returns a size in steps of 1,024 with at most one decimal: "512 MB", "1.5 GB", "0 bytes".
 QString bytes(quint64 count);
 
+/// Returns the same in English, as the log has it in every language.
+QString bytesForLog(quint64 count);
+
 /// Returns "5 minutes ago" or "1 day ago" in whole units, "just now" below a second and for the future.
 QString ago(double seconds);
 
 /// Returns a whole number with its sign: "42%".
 QString percent(double value);
+
+/// Returns "a, b, c".
+QString list(const QStringList& items);
+
+/// Returns the words with a full stop.
+QString sentence(const QString& words);
 
 /// Returns a text that is safe to show: control and format characters become visible pictures.
 QString visible(const QString& text);

@@ -37,7 +37,7 @@ QString largestBefore(const QList<Moment>& moments) {
     if (moments.size() < 2)
         return {};
     for (const Moment::Process& process : moments[moments.size() - 2].largest.mid(0, maxNamedInLog))
-        named.append(u"%1 %2"_s.arg(process.name, Formatters::bytes(process.rssBytes)));
+        named.append(u"%1 %2"_s.arg(process.name, Formatters::bytesForLog(process.rssBytes)));
     return named.join(u", "_s);
 }
 

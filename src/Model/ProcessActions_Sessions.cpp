@@ -93,7 +93,7 @@ SessionEnding ProcessActions::endingOf(const QString& title, const QList<Session
 }
 
 SessionEnding ProcessActions::endingOf(const Session& session) const {
-    SessionEnding ending = endingOf(session.title(), session.processes);
+    SessionEnding ending = endingOf(session.titleForLog(), session.processes);
     ending.host = session.host;
     ending.owners = {session.host};
     ending.resumeCommand = session.resumeCommand;
@@ -179,10 +179,11 @@ Outcome ProcessActions::pauseSession(const Session& session) {
     }
     const qsizetype stopped = m_paused.pause(session.host, processes);
     const bool done = stopped > 0;
-    m_log.record(
-        ActionLogEntry::Kind::quit,
-        u"[session] %1 — paused=%2/%3"_s.arg(session.title()).arg(stopped).arg(session.processes.size()), 0,
-        done);
+    m_log.record(ActionLogEntry::Kind::quit,
+                 u"[session] %1 — paused=%2/%3"_s.arg(session.titleForLog())
+                     .arg(stopped)
+                     .arg(session.processes.size()),
+                 0, done);
     return done ? Outcome::success()
                 : Outcome::failure(QCoreApplication::translate("ProcessActions",
                                                                "No process of the session could be paused."));
@@ -191,8 +192,8 @@ Outcome ProcessActions::pauseSession(const Session& session) {
 Outcome ProcessActions::resumeSession(const Session& session) {
     const qsizetype resumed = m_paused.resume(session.host);
     const bool done = resumed > 0;
-    m_log.record(ActionLogEntry::Kind::quit, u"[session] %1 — resumed=%2"_s.arg(session.title()).arg(resumed),
-                 0, done);
+    m_log.record(ActionLogEntry::Kind::quit,
+                 u"[session] %1 — resumed=%2"_s.arg(session.titleForLog()).arg(resumed), 0, done);
     return done ? Outcome::success()
                 : Outcome::failure(
                       QCoreApplication::translate("ProcessActions", "The session has ended meanwhile."));

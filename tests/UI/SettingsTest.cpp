@@ -81,6 +81,7 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
         {Tab::general, u"Show floating widget on launch"_s, {}, u"pref.showWidgetOnLaunch=true"_s},
         {Tab::general, u"Show in task bar"_s, {}, u"pref.showInDock=false"_s},
         {Tab::general, u"Display"_s, u"Icon only"_s, u"pref.menuBarFormat=Icon only"_s},
+        {Tab::general, u"Texts, numbers and dates"_s, u"Deutsch"_s, u"pref.language=de"_s},
         {Tab::cleanup, u"Ask before cleaning everything"_s, {}, u"pref.askBeforeCleaningAll=false"_s},
         {Tab::sampling, u"Poll interval"_s, u"5s"_s, u"pref.pollIntervalSeconds=5"_s},
         {Tab::sampling, u"History retention"_s, u"1 hour"_s, u"pref.historyRetention=1 hour"_s},
@@ -143,6 +144,7 @@ TEST_F(SettingsTest, EveryControlStoresAndShowsWhatIsStored) {
     }
     EXPECT_EQ(shown, (QStringList{u"Show floating widget on launch"_s,
                                   u"Icon only"_s,
+                                  u"Deutsch"_s,
                                   u"Pause sampling on Low Power Mode"_s,
                                   u"5s"_s,
                                   u"1 hour"_s,

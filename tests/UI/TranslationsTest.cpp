@@ -44,13 +44,29 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-/// Names of programs, products and presets, which are the same in every language.
+/// Names of programs, products, presets and languages, which are the same in every language.
 QStringList names() {
     QStringList known;
     for (const QuickKillPreset& preset : QuickKillPreset::defaults())
         known.append(preset.name);
+    for (const Language language : allCases<Language>())
+        known.append(Translations::nameOf(language));
     known << u"Tavrin"_s << u"claude"_s << u"worker"_s;
     return known;
+}
+
+/// What a person could see or hear of a table.
+QStringList textsOf(const QAbstractItemModel& table) {
+    QStringList texts;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        texts.append(table.headerData(column, Qt::Horizontal).toString());
+        texts.append(table.headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString());
+        for (int row = 0; row < table.rowCount(); ++row) {
+            for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleTextRole})
+                texts.append(table.index(row, column).data(role).toString());
+        }
+    }
+    return texts;
 }
 
 /// What a person could see or hear of the widget, each by itself.
@@ -71,10 +87,8 @@ QStringList textsOf(const QWidget& widget) {
         for (int i = 0; i < list->count(); ++i)
             texts.append(list->item(i)->text());
     }
-    if (const auto* table = qobject_cast<const QTreeView*>(&widget)) {
-        for (int column = 0; column < table->model()->columnCount(); ++column)
-            texts.append(table->model()->headerData(column, Qt::Horizontal).toString());
-    }
+    if (const auto* table = qobject_cast<const QTreeView*>(&widget))
+        texts.append(textsOf(*table->model()));
     for (const QAction* action : widget.actions())
         texts.append(action->text());
     return texts;
@@ -115,6 +129,8 @@ struct TranslationsTest : ModelFixture {
 
     void SetUp() override {
         QCoreApplication::installTranslator(&brackets);
+        fakes.host->memory = {.activeBytes = 15 * GiB, .swapUsedBytes = 5 * GiB, .totalBytes = 16 * GiB};
+        fakes.host->thermal = 3;
         addProcesses(2, "claude", quint64(2) << 30);
         addProcesses(6, "worker", quint64(1) << 30);
         tick();

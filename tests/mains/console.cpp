@@ -1,6 +1,7 @@
 #include "Core/Translations.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -10,7 +11,8 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QCoreApplication app(argc, argv);
-    Translations::install();
+    Translations::install(Language::english);
+    QLocale::setDefault(QLocale::c());
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("TAVRIN_MOUNTS_OUTSIDE")) { // for the process that has mounts of its own
         const std::string filter = GTEST_FLAG_GET(filter);

@@ -2,6 +2,7 @@
 #include "UI/Style/Style.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -12,7 +13,8 @@ int main(int argc, char** argv) {
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QApplication app(argc, argv);
-    Translations::install();
+    Translations::install(Language::english);
+    QLocale::setDefault(QLocale::c());
     QApplication::setStyle(new Style);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -278,7 +278,7 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
                  .severity = Severity::info,
                  .title = QCoreApplication::translate("RulesEngine", "Caches reclaimable: %1")
                               .arg(Formatters::bytes(total)),
-                 .detail = big.mid(0, maxNamedCaches).join(u", "_s),
+                 .detail = Formatters::list(big.mid(0, maxNamedCaches)),
                  .actionTarget = u"caches"_s};
 }
 

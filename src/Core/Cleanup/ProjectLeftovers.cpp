@@ -2,6 +2,7 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Formatters.h"
 #include "Platform/Clock.h"
 #include "Platform/ToolRunner.h"
 
@@ -213,11 +214,10 @@ QCoro::Task<ProjectLeftovers::Removal> ProjectLeftovers::removeOne(LeftoverProje
     Removal removal;
     auto asking = usersOf(project.path);
     const QStringList users = co_await asking;
-    Outcome outcome =
-        users.isEmpty()
-            ? Outcome::success()
-            : Outcome::failure(
-                  QCoreApplication::translate("ProjectLeftovers", "in use by %1").arg(users.join(u", "_s)));
+    Outcome outcome = users.isEmpty()
+                          ? Outcome::success()
+                          : Outcome::failure(QCoreApplication::translate("ProjectLeftovers", "in use by %1")
+                                                 .arg(Formatters::list(users)));
     for (const Leftover& folder : std::as_const(project.folders)) {
         if (!self || stop.stop_requested())
             break;

@@ -20,7 +20,7 @@ QString pidList(const QList<qint32>& pids) {
     QStringList texts;
     for (const qint32 pid : pids.first(std::min(maxListedPids, pids.size())))
         texts.append(QString::number(pid));
-    return texts.join(u", "_s) + (pids.size() > maxListedPids ? u"…"_s : QString());
+    return Formatters::list(texts) + (pids.size() > maxListedPids ? u"…"_s : QString());
 }
 
 /// Returns "bash ×2, node" in the order of the list.
@@ -37,7 +37,7 @@ QString nameList(const QList<ProcSample>& processes) {
         if (const int count = counts.value(name); count > 1)
             name += u" ×%1"_s.arg(count);
     }
-    return names.join(u", "_s) + (isCut ? u"…"_s : QString());
+    return Formatters::list(names) + (isCut ? u"…"_s : QString());
 }
 
 } // namespace

@@ -22,6 +22,10 @@ QString Session::title() const {
                             : QCoreApplication::translate("Session", "%1 in %2").arg(agent, project());
 }
 
+QString Session::titleForLog() const {
+    return folder.isEmpty() ? agent : QStringLiteral("%1 in %2").arg(agent, project());
+}
+
 SummedMemory SessionReport::memory() const {
     SummedMemory sum;
     for (const Session& session : sessions) {

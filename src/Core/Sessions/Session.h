@@ -49,6 +49,8 @@ struct Session {
     QList<qint32> pids() const;
     /// Returns "claude in ~/src/app".
     QString title() const;
+    /// Returns the same in English, as the log has it in every language.
+    QString titleForLog() const;
     bool operator==(const Session&) const = default;
 };
 

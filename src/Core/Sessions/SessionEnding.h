@@ -10,7 +10,7 @@
 
 /// Processes that end together, as the user is asked about them.
 struct SessionEnding {
-    QString title;                       ///< "claude in ~/src/app", "left-overs", "duplicates"
+    QString title; ///< in English, for the log: "claude in ~/src/app", "left-overs", "duplicates"
     std::optional<ProcessIdentity> host; ///< asked first and given time to save
     QList<ProcSample> processes;         ///< all of them, the host first
     QList<ProcessIdentity> owners;       ///< the hosts of the running sessions that they belong to

@@ -148,7 +148,7 @@ QString CleanupPreviewModel::spoken(const QModelIndex& index) const {
         parts.append(tr("changed %1").arg(changed));
     if (node(index).isInUse)
         parts.append(tr("in use"));
-    return parts.join(QStringLiteral(", "));
+    return Formatters::list(parts);
 }
 
 QVariant CleanupPreviewModel::data(const QModelIndex& index, int role) const {

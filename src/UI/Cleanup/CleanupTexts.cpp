@@ -21,7 +21,7 @@ QString quoted(const QString& name) {
     QString text = Formatters::visible(name);
     if (text.size() > maxNameLength)
         text = text.first(maxNameLength / 2) + u'…' + text.last(maxNameLength / 2 - 1);
-    return u"“%1”"_s.arg(text);
+    return QCoreApplication::translate("CleanupTexts", "“%1”", "a name").arg(text);
 }
 
 /// Returns the first few of `count` names: "“a”, “b” and 12 more".
@@ -36,7 +36,7 @@ QString listed(const QStringList& names, qsizetype count) {
     const QString last = items.takeLast();
     return items.isEmpty()
                ? last
-               : QCoreApplication::translate("CleanupTexts", "%1 and %2").arg(items.join(u", "_s), last);
+               : QCoreApplication::translate("CleanupTexts", "%1 and %2").arg(Formatters::list(items), last);
 }
 
 QString namesOf(const CacheTarget& target) {
@@ -128,7 +128,7 @@ QString CleanupTexts::questionAll(const QList<CacheTarget>& targets) {
     if (!grave.isEmpty())
         text += paragraph + QCoreApplication::translate(
                                 "CleanupTexts", "Not so with what is yours. It will be gone for good: %1.")
-                                .arg(grave.join(u", "_s));
+                                .arg(Formatters::list(grave));
     const quint64 sum =
         std::accumulate(targets.begin(), targets.end(), quint64(0),
                         [](quint64 total, const CacheTarget& target) { return total + target.sizeBytes; });
@@ -166,7 +166,7 @@ QString CleanupTexts::unfinished(const CleanupReport& report) {
         const QString target = Translations::of(failure.target);
         targets.append(reason.isEmpty() ? target : u"%1 (%2)"_s.arg(target, reason));
     }
-    return targets.isEmpty()
-               ? QString()
-               : QCoreApplication::translate("CleanupTexts", "Not finished: %1").arg(targets.join(u", "_s));
+    return targets.isEmpty() ? QString()
+                             : QCoreApplication::translate("CleanupTexts", "Not finished: %1")
+                                   .arg(Formatters::list(targets));
 }

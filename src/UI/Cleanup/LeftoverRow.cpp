@@ -44,7 +44,7 @@ void LeftoverRow::set(const LeftoverProject& project, bool isTicked, Instant now
     QStringList spoken{LeftoverTexts::pathOf(project), LeftoverTexts::folders(project),
                        Formatters::bytes(project.sizeBytes), lastUse, LeftoverTexts::note(project)};
     spoken.removeAll(QString());
-    setAccessibleName(spoken.join(QStringLiteral(", ")));
+    setAccessibleName(Formatters::list(spoken));
     setToolTip(Formatters::toolTip(spoken.first()));
     update();
 }

@@ -19,7 +19,7 @@ QString LeftoverTexts::folders(const LeftoverProject& project) {
     QStringList names;
     for (const Leftover& folder : project.folders)
         names.append(Formatters::visible(QFile::decodeName(folder.path.mid(project.path.size() + 1))));
-    return names.join(u", "_s);
+    return Formatters::list(names);
 }
 
 QString LeftoverTexts::lastUse(const LeftoverProject& project, Instant now) {
@@ -31,7 +31,7 @@ QString LeftoverTexts::lastUse(const LeftoverProject& project, Instant now) {
 QString LeftoverTexts::note(const LeftoverProject& project) {
     if (!project.users.isEmpty())
         return QCoreApplication::translate("LeftoverTexts", "in use by %1")
-            .arg(Formatters::visible(project.users.join(u", "_s)));
+            .arg(Formatters::visible(Formatters::list(project.users)));
     if (project.changes == LeftoverProject::Changes::uncommitted)
         return QCoreApplication::translate("LeftoverTexts", "uncommitted changes");
     return {};

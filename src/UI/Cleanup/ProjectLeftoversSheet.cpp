@@ -220,7 +220,7 @@ void ProjectLeftoversSheet::refresh() {
     for (const QString& folder : m_preferences.projectFolders())
         folders.append(LeftoverTexts::pathOf(QFile::encodeName(folder)));
     m_sources->setPlainText(folders.isEmpty() ? tr("Looks in the home folder, without hidden folders")
-                                              : tr("Looks in %1").arg(folders.join(u", "_s)));
+                                              : tr("Looks in %1").arg(Formatters::list(folders)));
     m_sources->setToolTip(Formatters::toolTip(m_sources->text()));
     m_home->setVisible(!folders.isEmpty());
     const bool isIdle = !m_leftovers.isSearching() && !m_leftovers.isRemoving();
@@ -257,8 +257,8 @@ void ProjectLeftoversSheet::refreshFoot() {
     QStringList unfinished = removal ? removal->failures : QStringList();
     if (!m_leftovers.searchFailure().isEmpty())
         unfinished.append(tr("the search (%1)").arg(m_leftovers.searchFailure()));
-    m_unfinished->setPlainText(unfinished.isEmpty() ? QString()
-                                                    : tr("Not finished: %1").arg(unfinished.join(u", "_s)));
+    m_unfinished->setPlainText(
+        unfinished.isEmpty() ? QString() : tr("Not finished: %1").arg(Formatters::list(unfinished)));
     m_unfinished->setVisible(!unfinished.isEmpty());
     m_spinner->setVisible(isBusy);
     m_stop->setVisible(isBusy);

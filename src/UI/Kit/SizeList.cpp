@@ -45,7 +45,7 @@ public:
             spoken.append(detail->text());
         }
         setToolTip(Formatters::toolTip(m_name));
-        setAccessibleName(spoken.join(QStringLiteral(", ")));
+        setAccessibleName(Formatters::list(spoken));
     }
 
 protected:

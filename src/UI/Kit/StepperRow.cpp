@@ -1,5 +1,6 @@
 #include "UI/Kit/StepperRow.h"
 
+#include "Core/Formatters.h"
 #include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
@@ -42,7 +43,7 @@ QString StepperRow::text(const QString& pattern) const {
     if (m_look.number)
         return QString(pattern).replace(QStringLiteral("%1"), m_look.number(value()));
     const double number = m_look.decimals == 0 ? std::trunc(value()) + 0.0 : value(); // + 0: no "-0"
-    return QString(pattern).replace(QStringLiteral("%1"), QString::number(number, 'f', m_look.decimals));
+    return QString(pattern).replace(QStringLiteral("%1"), Formatters::fixed(number, m_look.decimals));
 }
 
 void StepperRow::showValue() {

@@ -54,7 +54,7 @@ QString textOf(const SessionEnding& ending) {
                                     "with it, and what stays is force-killed.")
             : QCoreApplication::translate("SessionDialogs",
                                           "The processes are asked to end, and what stays is force-killed."),
-        ReturnTexts::promise(ending.givesBack) + u'.'};
+        Formatters::sentence(ReturnTexts::promise(ending.givesBack))};
     if (!ending.resumeCommand.isEmpty())
         paragraphs.append(
             QCoreApplication::translate("SessionDialogs", "This takes the conversation up again: %1")

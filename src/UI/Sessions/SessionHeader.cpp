@@ -75,8 +75,9 @@ void SessionHeader::set(const Session& session, Instant now, quint64 largestByte
     setAccessibleName(
         tr("%1, %2, %3, %4 CPU, %5")
             .arg(m_texts.aside.isEmpty() ? m_texts.heading : m_texts.heading + u", "_s + m_texts.aside,
-                 SessionTexts::lookOf(m_state).text + u", "_s + tr("last active %1").arg(m_texts.lastActive),
-                 m_texts.details.join(u", "_s), m_texts.cpu, session.memory.description()));
+                 Formatters::list(
+                     {SessionTexts::lookOf(m_state).text, tr("last active %1").arg(m_texts.lastActive)}),
+                 Formatters::list(m_texts.details), m_texts.cpu, session.memory.description()));
     setToolTip(Formatters::toolTip(
         u"%1\n%2\n%3"_s.arg(Formatters::visible(session.folder.isEmpty() ? session.agent : session.folder),
                             m_texts.aside, m_parts)));

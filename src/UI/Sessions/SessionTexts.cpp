@@ -106,7 +106,7 @@ QString summary(const SessionReport& report) {
     QStringList parts{count(report.sessions.size()), report.memory().text()};
     if (const int idle = report.idleCount(); idle > 0)
         parts.append(QCoreApplication::translate("SessionTexts", "%n idle", nullptr, idle));
-    return parts.join(u", "_s);
+    return Formatters::list(parts);
 }
 
 QString processCount(qsizetype processes) {
@@ -126,7 +126,7 @@ QString partCounts(const QList<SessionProcess>& processes) {
             texts.append(
                 QCoreApplication::translate("SessionTexts", partLooks[part].count, nullptr, counts[part]));
     }
-    return texts.join(u", "_s);
+    return Formatters::list(texts);
 }
 
 QString agent(const Session& session) {
@@ -171,10 +171,10 @@ QString details(const Session& session, Instant now) {
     QStringList lines{agent(session) + u' ' + Formatters::visible(session.folder)};
     if (!session.name.isEmpty())
         lines.append(Formatters::visible(session.name));
-    lines.append(QStringList{lookOf(session.state).text, lastActive(session, now),
-                             processCount(session.processes.size()), Formatters::percent(session.cpuPercent),
-                             u"%1 (%2)"_s.arg(session.memory.text(), memoryParts(session.memory))}
-                     .join(u", "_s));
+    lines.append(
+        Formatters::list({lookOf(session.state).text, lastActive(session, now),
+                          processCount(session.processes.size()), Formatters::percent(session.cpuPercent),
+                          u"%1 (%2)"_s.arg(session.memory.text(), memoryParts(session.memory))}));
     if (!session.resumeCommand.isEmpty())
         lines.append(Formatters::visible(session.resumeCommand));
     lines.append(QString());

@@ -45,7 +45,7 @@ void SessionProcessRow::set(const SessionProcess& member, int depth, Instant now
     if (!m_ports.isEmpty())
         spoken.append(tr("listens on %1").arg(m_ports));
     spoken << memory.description() << tr("running for %1").arg(m_age);
-    setAccessibleName(spoken.join(u", "_s));
+    setAccessibleName(Formatters::list(spoken));
     const QString command = process.arguments.isEmpty() ? process.executablePath : process.arguments;
     setToolTip(Formatters::toolTip(
         tr("%1, PID %2").arg(SessionTexts::nameOf(m_part), QString::number(process.pid)) + u'\n' +

@@ -24,6 +24,17 @@ GeneralTab::GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* 
     addPicker<MenuBarFormat>(addSection(Words::native().statusArea), tr("Display"),
                              {formats.begin(), formats.end()}, Translations::of<MenuBarFormat>,
                              preferences.menuBarFormat);
+    addLanguages(preferences);
+}
+
+void GeneralTab::addLanguages(Preferences& preferences) {
+    auto* section = addSection(tr("Language"));
+    const auto languages = allCases<Language>();
+    addPicker<Language>(section, tr("Texts, numbers and dates"), {languages.begin(), languages.end()},
+                        Translations::nameOf, preferences.language);
+    auto* note = (new TextLabel(Theme::TextStyle::caption))->secondary()->wrapped();
+    note->setPlainText(tr("Takes effect at the next start."));
+    section->addNote(note);
 }
 
 void GeneralTab::applyLoginItem(bool enabled) {

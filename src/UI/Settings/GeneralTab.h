@@ -5,7 +5,7 @@
 class LoginItem;
 class TextLabel;
 
-/// What happens at start, what the status item shows, and what is asked first.
+/// What happens at start, what the status item shows, and the language.
 class GeneralTab : public SettingsForm {
     Q_OBJECT
 
@@ -13,6 +13,7 @@ public:
     GeneralTab(Preferences& preferences, LoginItem& loginItem, QWidget* parent = nullptr);
 
 private:
+    void addLanguages(Preferences& preferences);
     void applyLoginItem(bool enabled);
 
     LoginItem& m_loginItem;
