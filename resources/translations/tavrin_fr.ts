@@ -1,0 +1,3037 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>AlertCard</name>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>End session…</source>
+        <translation>Terminer la session…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>AlertNotifier</name>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Free RAM…</source>
+        <translation>Libérer la RAM…</translation>
+    </message>
+    <message>
+        <source>End session…</source>
+        <translation>Terminer la session…</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Quitter %1</translation>
+    </message>
+    <message>
+        <source>Cleaning is done</source>
+        <translation>Nettoyage terminé</translation>
+    </message>
+</context>
+<context>
+    <name>AlertStripView</name>
+    <message>
+        <source>System looks healthy.</source>
+        <translation>Le système se porte bien.</translation>
+    </message>
+</context>
+<context>
+    <name>AlertsTab</name>
+    <message>
+        <source>Alerts</source>
+        <translation>Alertes</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Low RAM warning</source>
+        <translation>Alerte de RAM faible</translation>
+    </message>
+    <message>
+        <source>Free RAM threshold</source>
+        <translation>Seuil de RAM libre</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>Notify when RAM is getting tight</source>
+        <translation>Notifier quand la RAM se fait rare</translation>
+    </message>
+    <message>
+        <source>Memory pressure</source>
+        <translation>Pression mémoire</translation>
+    </message>
+    <message>
+        <source>Programs wait for memory</source>
+        <translation>Des programmes attendent de la mémoire</translation>
+    </message>
+    <message>
+        <source>Forecast</source>
+        <translation>Prévision</translation>
+    </message>
+    <message>
+        <source>Memory full within 30 minutes</source>
+        <translation>Mémoire pleine d’ici 30 minutes</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Mémoire épuisée</translation>
+    </message>
+    <message>
+        <source>What was ended because memory ran out</source>
+        <translation>Ce qui a été arrêté faute de mémoire</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>CPU saturation</source>
+        <translation>Saturation du CPU</translation>
+    </message>
+    <message>
+        <source>CPU threshold</source>
+        <translation>Seuil de CPU</translation>
+    </message>
+    <message>
+        <source>Thermal</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Thermal pressure warning</source>
+        <translation>Alerte de surchauffe</translation>
+    </message>
+    <message>
+        <source>Idle agents</source>
+        <translation>Agents inactifs</translation>
+    </message>
+    <message>
+        <source>Flag idle Claude / agentic processes</source>
+        <translation>Signaler les processus Claude et agents inactifs</translation>
+    </message>
+    <message>
+        <source>Min idle</source>
+        <translation>Inactivité min.</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Min RAM</source>
+        <translation>RAM min.</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>Browsers</source>
+        <translation>Navigateurs</translation>
+    </message>
+    <message>
+        <source>Browser RAM dominance</source>
+        <translation>RAM dominée par les navigateurs</translation>
+    </message>
+    <message>
+        <source>Of total RAM</source>
+        <translation>De la RAM totale</translation>
+    </message>
+    <message>
+        <source>Caches</source>
+        <translation>Caches</translation>
+    </message>
+    <message>
+        <source>Caches reclaimable</source>
+        <translation>Caches récupérables</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Large session</source>
+        <translation>Session volumineuse</translation>
+    </message>
+    <message>
+        <source>Session holds more than</source>
+        <translation>La session occupe plus de</translation>
+    </message>
+    <message>
+        <source>Notify</source>
+        <translation>Notifier</translation>
+    </message>
+    <message>
+        <source>Notify: %1</source>
+        <translation>Notifier : %1</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>Notify of heavy swap usage</source>
+        <translation>Notifier un usage intensif du swap</translation>
+    </message>
+    <message>
+        <source>Notify of a finished long clean</source>
+        <translation>Notifier la fin d’un long nettoyage</translation>
+    </message>
+    <message>
+        <source>Quiet time</source>
+        <translation>Heures calmes</translation>
+    </message>
+    <message>
+        <source>Quiet from</source>
+        <translation>Calme à partir de</translation>
+    </message>
+    <message>
+        <source>Quiet until</source>
+        <translation>Calme jusqu’à</translation>
+    </message>
+    <message>
+        <source>This desktop has no service that shows notifications.</source>
+        <translation>Ce bureau n’a aucun service qui affiche des notifications.</translation>
+    </message>
+</context>
+<context>
+    <name>AppMenu</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Paramètres…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>AutoOptimizeCard</name>
+    <message>
+        <source>Auto-Optimize</source>
+        <translation>Optimisation automatique</translation>
+    </message>
+    <message>
+        <source>Every 30 min: kill orphan MCPs + send memory pressure</source>
+        <translation>Toutes les 30 min : tuer les MCP orphelins et envoyer une pression mémoire</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Only safe actions run on the timer. Quitting visible apps stays manual on purpose.</source>
+        <translation>Seules des actions sûres sont automatiques. Quitter les applications visibles reste volontairement manuel.</translation>
+    </message>
+    <message>
+        <source>Running in background</source>
+        <translation>S’exécute en arrière-plan</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>CacheCard</name>
+    <message>
+        <source>Not scanned yet</source>
+        <translation>Pas encore analysé</translation>
+    </message>
+    <message>
+        <source>Scanned %1</source>
+        <translation>Analysé %1</translation>
+    </message>
+    <message>
+        <source>Not in Clean All.</source>
+        <translation>Exclu de « Tout nettoyer ».</translation>
+    </message>
+    <message>
+        <source>not in Clean All</source>
+        <translation>exclu de « Tout nettoyer »</translation>
+    </message>
+</context>
+<context>
+    <name>CacheDetailDrawer</name>
+    <message>
+        <source>%1 reclaimable</source>
+        <translation>%1 récupérables</translation>
+    </message>
+    <message>
+        <source>Will run: %1</source>
+        <translation>Exécutera : %1</translation>
+    </message>
+    <message>
+        <source>Breakdown</source>
+        <translation>Répartition</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Rien trouvé.</translation>
+    </message>
+    <message>
+        <source>Rescan to see what it consists of.</source>
+        <translation>Relancez l’analyse pour voir de quoi il se compose.</translation>
+    </message>
+    <message>
+        <source>Clean %1</source>
+        <translation>Nettoyer %1</translation>
+    </message>
+</context>
+<context>
+    <name>CacheScanner</name>
+    <message>
+        <source>%1 cannot be cleaned: %2.</source>
+        <translation>Impossible de nettoyer %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The tool calls %1 of it reclaimable.</source>
+        <translation>Selon l’outil, %1 peuvent en être récupérés.</translation>
+    </message>
+</context>
+<context>
+    <name>CachesCard</name>
+    <message>
+        <source>Caches</source>
+        <translation>Caches</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Clean All</source>
+        <translation>Tout nettoyer</translation>
+    </message>
+    <message>
+        <source>Stop cleaning</source>
+        <translation>Arrêter le nettoyage</translation>
+    </message>
+    <message>
+        <source>Stopping %1 (%2 of %3)</source>
+        <translation>Arrêt de %1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>Cleaning %1 (%2 of %3)</source>
+        <translation>Nettoyage de %1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>%1 reclaimable across %2 targets</source>
+        <translation>%1 récupérables, cibles : %2</translation>
+    </message>
+</context>
+<context>
+    <name>CandidateRow</name>
+    <message>
+        <source>PID %1 • %2</source>
+        <translation>PID %1 • %2</translation>
+    </message>
+    <message>
+        <source>frees ≤ %1</source>
+        <translation>libère ≤ %1</translation>
+    </message>
+    <message>
+        <source>frees ≈ %1</source>
+        <translation>libère ≈ %1</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3, idle %4, %5</source>
+        <translation>%1, %2, %3, inactif depuis %4, %5</translation>
+    </message>
+</context>
+<context>
+    <name>Cleaner</name>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>there is no trash</source>
+        <translation>il n’y a pas de corbeille</translation>
+    </message>
+    <message>
+        <source>its name is no text</source>
+        <translation>son nom n’est pas un texte</translation>
+    </message>
+    <message>
+        <source>%1 was not moved to the trash: %2</source>
+        <translation>%1 n’a pas été mis à la corbeille : %2</translation>
+    </message>
+    <message>
+        <source>only old files can be moved</source>
+        <translation>seuls d’anciens fichiers peuvent être déplacés</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupChoice</name>
+    <message>
+        <source>No volumes go</source>
+        <translation>Aucun volume ne sera supprimé</translation>
+    </message>
+    <message>
+        <source>Volumes that go, with all that is in them: %1</source>
+        <translation>Volumes supprimés avec tout leur contenu : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupConfirmation</name>
+    <message>
+        <source>Delete %1?</source>
+        <translation>Supprimer %1 ?</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Supprimer %1</translation>
+    </message>
+    <message>
+        <source>Clean all reclaimable caches?</source>
+        <translation>Nettoyer tous les caches récupérables ?</translation>
+    </message>
+    <message>
+        <source>Clean %1</source>
+        <translation>Nettoyer %1</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupPreview</name>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Tick all that is shown</source>
+        <translation>Cocher tout ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Leave out all that is shown</source>
+        <translation>Exclure tout ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Could not look into %1: %2</source>
+        <translation>Impossible d’examiner %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 will come back</source>
+        <translation>%1 seront récupérés</translation>
+    </message>
+    <message numerus="yes">
+        <source> • %n left out</source>
+        <translation>
+            <numerusform> • %n exclu</numerusform>
+            <numerusform> • %n exclus</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CleanupPreviewModel</name>
+    <message>
+        <source>changed %1</source>
+        <translation>modifié %1</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>en cours d’utilisation</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupPreviewView</name>
+    <message>
+        <source>What goes</source>
+        <translation>Ce qui sera supprimé</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Exclure</translation>
+    </message>
+    <message>
+        <source>Include</source>
+        <translation>Inclure</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>Montrer dans le dossier</translation>
+    </message>
+    <message>
+        <source>Could not open %1.</source>
+        <translation>Impossible d’ouvrir %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupTab</name>
+    <message>
+        <source>Cleanup</source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message>
+        <source>Questions</source>
+        <translation>Confirmations</translation>
+    </message>
+    <message>
+        <source>Ask before cleaning everything</source>
+        <translation>Demander avant de tout nettoyer</translation>
+    </message>
+    <message>
+        <source>When off, “Clean All” in Optimize starts at once.</source>
+        <translation>Si désactivé, « Tout nettoyer » dans Optimiser démarre aussitôt.</translation>
+    </message>
+    <message>
+        <source>Never clean</source>
+        <translation>Ne jamais nettoyer</translation>
+    </message>
+    <message>
+        <source>Nothing is excluded.</source>
+        <translation>Rien n’est exclu.</translation>
+    </message>
+    <message>
+        <source>Path or pattern, such as *.gguf</source>
+        <translation>Chemin ou motif, par exemple *.gguf</translation>
+    </message>
+    <message>
+        <source>Neither counted nor removed. A path keeps all below it.</source>
+        <translation>Ni compté ni supprimé. Un chemin protège tout ce qu’il contient.</translation>
+    </message>
+    <message>
+        <source>Project folders</source>
+        <translation>Dossiers de projets</translation>
+    </message>
+    <message>
+        <source>Your home folder</source>
+        <translation>Votre dossier personnel</translation>
+    </message>
+    <message>
+        <source>Where “Project leftovers” looks for projects. Hidden folders and other disks are left out.</source>
+        <translation>Où « Restes de projets » cherche les projets. Les dossiers cachés et les autres disques sont ignorés.</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupTexts</name>
+    <message>
+        <source>“%1”</source>
+        <comment>a name</comment>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 de plus</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n volume(s), %1</source>
+        <translation>
+            <numerusform>%n volume, %1</numerusform>
+            <numerusform>%n volumes, %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Gone for good: %1</source>
+        <translation>Supprimé définitivement : %1</translation>
+    </message>
+    <message>
+        <source>Gone for good</source>
+        <translation>Supprimé définitivement</translation>
+    </message>
+    <message>
+        <source>Runs %1</source>
+        <translation>Exécute %1</translation>
+    </message>
+    <message>
+        <source>These are files of yours, no caches. They will be gone for good.</source>
+        <translation>Ce sont vos fichiers, pas des caches. Ils seront supprimés définitivement.</translation>
+    </message>
+    <message>
+        <source>These files of yours will be gone for good: %1.</source>
+        <translation>Ces fichiers à vous seront supprimés définitivement : %1.</translation>
+    </message>
+    <message>
+        <source>Gone for good, with all that is in them: %1.</source>
+        <translation>Supprimés définitivement, avec tout leur contenu : %1.</translation>
+    </message>
+    <message>
+        <source>Stopped containers go too. Images and build caches are fetched or built again as needed.</source>
+        <translation>Les conteneurs arrêtés sont supprimés aussi. Les images et caches de compilation sont retéléchargés ou refaits au besoin.</translation>
+    </message>
+    <message>
+        <source>Deleting cache files. Apps will rebuild caches as needed.</source>
+        <translation>Suppression de fichiers de cache. Les applications reconstruiront leurs caches au besoin.</translation>
+    </message>
+    <message>
+        <source>What goes: %1.</source>
+        <translation>Ce qui sera supprimé : %1.</translation>
+    </message>
+    <message>
+        <source>No volumes go.</source>
+        <translation>Aucun volume ne sera supprimé.</translation>
+    </message>
+    <message>
+        <source>Runs every cleanup with a size estimate above 0.</source>
+        <translation>Lance chaque nettoyage dont la taille estimée dépasse 0.</translation>
+    </message>
+    <message>
+        <source>Apps will rebuild caches as needed.</source>
+        <translation>Les applications reconstruiront leurs caches au besoin.</translation>
+    </message>
+    <message>
+        <source>Not so with what is yours. It will be gone for good: %1.</source>
+        <translation>Ce n’est pas le cas de vos propres données. Elles seront supprimées définitivement : %1.</translation>
+    </message>
+    <message>
+        <source>Some of them overlap; the total counts what they share once.</source>
+        <translation>Certains se recouvrent ; le total ne compte qu’une fois ce qu’ils partagent.</translation>
+    </message>
+    <message>
+        <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
+        <translation>Arrêté : %1 cibles nettoyées sur %2, ~%3 libérés</translation>
+    </message>
+    <message>
+        <source>Cleaned %1 targets, freed ~%2</source>
+        <translation>Cibles nettoyées : %1, ~%2 libérés</translation>
+    </message>
+    <message>
+        <source>%1 came back on the disk</source>
+        <translation>%1 récupérés sur le disque</translation>
+    </message>
+    <message>
+        <source>Not finished: %1</source>
+        <translation>Inachevé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupView</name>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>Réanalyser</translation>
+    </message>
+    <message>
+        <source>Clean All</source>
+        <translation>Tout nettoyer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Cleanup</source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message>
+        <source>Also what this computer has nothing of</source>
+        <translation>Aussi ce dont cet ordinateur n’a rien</translation>
+    </message>
+    <message>
+        <source>Cleanup targets</source>
+        <translation>Cibles de nettoyage</translation>
+    </message>
+    <message>
+        <source>Stop cleaning</source>
+        <translation>Arrêter le nettoyage</translation>
+    </message>
+    <message>
+        <source>Reclaimable: %1</source>
+        <translation>Récupérable : %1</translation>
+    </message>
+    <message>
+        <source>Build folders of your projects, which their tools make again.</source>
+        <translation>Dossiers de compilation de vos projets, que leurs outils recréent.</translation>
+    </message>
+    <message>
+        <source>Stopping %1 (%2 of %3)</source>
+        <translation>Arrêt de %1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>Cleaning %1 (%2 of %3)</source>
+        <translation>Nettoyage de %1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>Mesure de %1 (%2 sur %3)</translation>
+    </message>
+</context>
+<context>
+    <name>Columns</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>CPU%</source>
+        <translation>CPU %</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Propre</translation>
+    </message>
+    <message>
+        <source>Memory that no other process shares</source>
+        <translation>Mémoire qu’aucun autre processus ne partage</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>Threads</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Inactif</translation>
+    </message>
+    <message>
+        <source>Procs</source>
+        <translation>Proc.</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Détail</translation>
+    </message>
+    <message>
+        <source>Freed</source>
+        <translation>Libéré</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>Idle≥</source>
+        <translation>Inact. ≥</translation>
+    </message>
+    <message>
+        <source>RAM≥</source>
+        <translation>RAM ≥</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Forcer</translation>
+    </message>
+</context>
+<context>
+    <name>ConfirmDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Formatters</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 To</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 Po</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 Eo</translation>
+    </message>
+    <message>
+        <source>%1s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <comment>minutes</comment>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <comment>hours</comment>
+        <translation>%1 h</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n year(s) ago</source>
+        <translation>
+            <numerusform>il y a %n an</numerusform>
+            <numerusform>il y a %n ans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n month(s) ago</source>
+        <translation>
+            <numerusform>il y a %n mois</numerusform>
+            <numerusform>il y a %n mois</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n week(s) ago</source>
+        <translation>
+            <numerusform>il y a %n semaine</numerusform>
+            <numerusform>il y a %n semaines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>il y a %n jour</numerusform>
+            <numerusform>il y a %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>il y a %n heure</numerusform>
+            <numerusform>il y a %n heures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>il y a %n minute</numerusform>
+            <numerusform>il y a %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) ago</source>
+        <translation>
+            <numerusform>il y a %n seconde</numerusform>
+            <numerusform>il y a %n secondes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>à l’instant</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the items of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>FreeRAMResultView</name>
+    <message>
+        <source>• memory_pressure nudged</source>
+        <translation>• memory_pressure envoyé</translation>
+    </message>
+    <message>
+        <source>Freed ~%1</source>
+        <translation>~%1 libérés</translation>
+    </message>
+</context>
+<context>
+    <name>FreeRAMSheet</name>
+    <message>
+        <source>Min idle: %1 min</source>
+        <translation>Inactivité min. : %1 min</translation>
+    </message>
+    <message>
+        <source>Min RAM: %1 MB</source>
+        <translation>RAM min. : %1 Mo</translation>
+    </message>
+    <message>
+        <source>Other programs too</source>
+        <translation>Autres programmes aussi</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Tout désélectionner</translation>
+    </message>
+    <message>
+        <source>Free RAM</source>
+        <translation>Libérer la RAM</translation>
+    </message>
+    <message>
+        <source>Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.</source>
+        <translation>Cochez les processus à terminer. SIGTERM est envoyé d’abord ; ce qui tourne encore après 2 s reçoit SIGKILL. Une pression mémoire incite ensuite %1 à compresser les pages inactives.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Lists programs of no known group under a gigabyte as well</source>
+        <translation>Liste aussi les programmes sans groupe connu de moins d’un gigaoctet</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>No idle hogs above your thresholds</source>
+        <translation>Aucun processus gourmand inactif au-dessus de vos seuils</translation>
+    </message>
+    <message>
+        <source>Lower the Min idle slider to see lightly-used processes.</source>
+        <translation>Réduisez l’inactivité minimale pour voir les processus peu utilisés.</translation>
+    </message>
+    <message>
+        <source>%1 selected • %2 targeted</source>
+        <translation>%1 sélectionnés • %2 visés</translation>
+    </message>
+    <message>
+        <source>Killing…</source>
+        <translation>Arrêt en cours…</translation>
+    </message>
+    <message>
+        <source>Kill %1 and free RAM</source>
+        <translation>Tuer %1 et libérer la RAM</translation>
+    </message>
+    <message>
+        <source>Send memory pressure only</source>
+        <translation>Envoyer seulement une pression mémoire</translation>
+    </message>
+</context>
+<context>
+    <name>FreedesktopLoginItem</name>
+    <message>
+        <source>The program&apos;s own file cannot be found.</source>
+        <translation>Le fichier du programme est introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>FreedesktopPlaces</name>
+    <message>
+        <source>%1 is left alone: a whole file system is mounted there.</source>
+        <translation>%1 est laissé tel quel : un système de fichiers entier y est monté.</translation>
+    </message>
+    <message>
+        <source>%1 is left alone: it is a link.</source>
+        <translation>%1 est laissé tel quel : c’est un lien.</translation>
+    </message>
+    <message>
+        <source>%1 is left alone: it holds more than that, in %2.</source>
+        <translation>%1 est laissé tel quel : il contient davantage, dans %2.</translation>
+    </message>
+    <message>
+        <source>%1 is left alone: all programs share it.</source>
+        <translation>%1 est laissé tel quel : tous les programmes le partagent.</translation>
+    </message>
+    <message>
+        <source>%1 is left alone: the folder of caches must have nothing to do with %2.</source>
+        <translation>%1 est laissé tel quel : le dossier des caches ne doit rien avoir à faire avec %2.</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralTab</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation>Démarrage</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Lancer à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>Show floating widget on launch</source>
+        <translation>Afficher le widget flottant au lancement</translation>
+    </message>
+    <message>
+        <source>Show in %1</source>
+        <translation>Afficher dans %1</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Texts, numbers and dates</source>
+        <translation>Textes, nombres et dates</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start.</source>
+        <translation>Prend effet au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t register: %1</source>
+        <translation>Échec de l’enregistrement : %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t unregister: %1</source>
+        <translation>Échec de la suppression de l’enregistrement : %1</translation>
+    </message>
+</context>
+<context>
+    <name>GroupHeader</name>
+    <message>
+        <source>%1 (%2), %3, %4 CPU</source>
+        <translation>%1 (%2), %3, %4 de CPU</translation>
+    </message>
+    <message>
+        <source>Expanded</source>
+        <translation>Développé</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Réduit</translation>
+    </message>
+    <message>
+        <source>• %1 CPU</source>
+        <translation>• %1 de CPU</translation>
+    </message>
+</context>
+<context>
+    <name>GroupRow</name>
+    <message>
+        <source>… +%1 more in Processes tab</source>
+        <translation>… +%1 autres dans l’onglet Processus</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryTab</name>
+    <message>
+        <source>Action history</source>
+        <translation>Historique des actions</translation>
+    </message>
+    <message>
+        <source>No actions logged yet.</source>
+        <translation>Aucune action enregistrée.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Arrêt forcé</translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Export CSV…</source>
+        <translation>Exporter en CSV…</translation>
+    </message>
+    <message>
+        <source>Clear log</source>
+        <translation>Vider le journal</translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>Exporter en CSV</translation>
+    </message>
+    <message>
+        <source>Comma-separated text (*.csv)</source>
+        <translation>Texte séparé par des virgules (*.csv)</translation>
+    </message>
+    <message>
+        <source>Clear action history?</source>
+        <translation>Effacer l’historique des actions ?</translation>
+    </message>
+    <message>
+        <source>This deletes ~/Library/Logs/Tavrin/actions.log.</source>
+        <translation>Cela supprime ~/Library/Logs/Tavrin/actions.log.</translation>
+    </message>
+    <message>
+        <source>Clear all</source>
+        <translation>Tout effacer</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryTableModel</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+</context>
+<context>
+    <name>IncidentDialog</name>
+    <message>
+        <source>%1 more than at first</source>
+        <translation>%1 de plus qu’au début</translation>
+    </message>
+    <message>
+        <source>%1 less than at first</source>
+        <translation>%1 de moins qu’au début</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>De %1 à %2</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Waited for memory</source>
+        <translation>Attente de mémoire</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Largest processes then</source>
+        <translation>Plus gros processus à ce moment</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveOutOffer</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>You left this out twice. The Cleanup settings have the list.</source>
+        <translation>Vous avez exclu ceci deux fois. La liste se trouve dans les paramètres de nettoyage.</translation>
+    </message>
+    <message>
+        <source>Never clean this?</source>
+        <translation>Ne jamais nettoyer ceci ?</translation>
+    </message>
+    <message>
+        <source>Never Clean</source>
+        <translation>Ne jamais nettoyer</translation>
+    </message>
+</context>
+<context>
+    <name>LeftoverTexts</name>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>utilisé par %1</translation>
+    </message>
+    <message>
+        <source>uncommitted changes</source>
+        <translation>modifications non validées</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: removed %n folder(s), freed ~%1</source>
+        <translation>
+            <numerusform>Arrêté : %n dossier supprimé, ~%1 libérés</numerusform>
+            <numerusform>Arrêté : %n dossiers supprimés, ~%1 libérés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n folder(s), freed ~%1</source>
+        <translation>
+            <numerusform>%n dossier supprimé, ~%1 libérés</numerusform>
+            <numerusform>%n dossiers supprimés, ~%1 libérés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MCPCard</name>
+    <message>
+        <source>Claude Code &amp; MCP</source>
+        <translation>Claude Code et MCP</translation>
+    </message>
+    <message>
+        <source>Loaded servers + orphan detection</source>
+        <translation>Serveurs chargés et détection d’orphelins</translation>
+    </message>
+    <message>
+        <source>Configured</source>
+        <translation>Configurés</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <source>Orphans</source>
+        <translation>Orphelins</translation>
+    </message>
+    <message>
+        <source>Orphan RAM</source>
+        <translation>RAM orpheline</translation>
+    </message>
+    <message>
+        <source>Kill orphans</source>
+        <translation>Tuer les orphelins</translation>
+    </message>
+    <message>
+        <source>Running servers</source>
+        <translation>Serveurs en cours</translation>
+    </message>
+    <message>
+        <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
+        <translation>Aucun ~/.claude/mcp.json trouvé — rien de configuré globalement.</translation>
+    </message>
+</context>
+<context>
+    <name>MCPInspector</name>
+    <message>
+        <source>(%1 or gone)</source>
+        <translation>(%1 ou disparu)</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Close Window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryCard</name>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Free RAM without quitting your work</source>
+        <translation>Libérer de la RAM sans quitter votre travail</translation>
+    </message>
+    <message>
+        <source>Pressure nudge</source>
+        <translation>Pression mémoire</translation>
+    </message>
+    <message>
+        <source>Free RAM</source>
+        <translation>Libérer la RAM</translation>
+    </message>
+    <message>
+        <source>Pressure: free + compress. Deep purge prompts admin and flushes the unified buffer cache (heavier).</source>
+        <translation>Pression : libère et compresse. La purge profonde demande les droits d’administrateur et vide tout le cache tampon (plus lourd).</translation>
+    </message>
+    <message>
+        <source>Purging…</source>
+        <translation>Purge en cours…</translation>
+    </message>
+    <message>
+        <source>Deep purge (admin)</source>
+        <translation>Purge profonde (admin)</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryLineUp</name>
+    <message>
+        <source>Groups %1</source>
+        <translation>Groupes %1</translation>
+    </message>
+    <message>
+        <source>of these, caches of files −%1</source>
+        <translation>dont caches de fichiers −%1</translation>
+    </message>
+    <message>
+        <source>Other users %1</source>
+        <translation>Autres utilisateurs %1</translation>
+    </message>
+    <message>
+        <source>Kernel %1</source>
+        <translation>Noyau %1</translation>
+    </message>
+    <message>
+        <source>Shared memory and the rest %1</source>
+        <translation>Mémoire partagée et reste %1</translation>
+    </message>
+    <message>
+        <source>Used %1</source>
+        <translation>Utilisé %1</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarController</name>
+    <message>
+        <source>CPU %1% • RAM %2%</source>
+        <translation>CPU %1 % • RAM %2 %</translation>
+    </message>
+    <message>
+        <source>CPU %1%</source>
+        <translation>CPU %1 %</translation>
+    </message>
+    <message>
+        <source>RAM %1%</source>
+        <translation>RAM %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarPanel</name>
+    <message>
+        <source>Top 5 by RAM</source>
+        <translation>Top 5 par RAM</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>Alertes</translation>
+    </message>
+    <message>
+        <source>Toggle floating widget</source>
+        <translation>Afficher ou masquer le widget flottant</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Therm</source>
+        <translation>Temp.</translation>
+    </message>
+</context>
+<context>
+    <name>Metrics</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source> • pressure %1 %</source>
+        <translation> • pression %1 %</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
+        <translation>Des programmes ont attendu de la mémoire pendant %1 % des dix dernières secondes, tous à la fois %2 %</translation>
+    </message>
+    <message>
+        <source>… and %1 % for disks, all of them %2 %</source>
+        <translation>… et %1 % pour les disques, tous à la fois %2 %</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>%1 free</source>
+        <translation>%1 libres</translation>
+    </message>
+    <message>
+        <source>Thermal</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Swap %1</source>
+        <translation>Swap %1</translation>
+    </message>
+    <message>
+        <source>No swap</source>
+        <translation>Pas de swap</translation>
+    </message>
+</context>
+<context>
+    <name>Notice</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>NotificationPlan</name>
+    <message numerus="yes">
+        <source>%n large session(s)</source>
+        <translation>
+            <numerusform>%n session volumineuse</numerusform>
+            <numerusform>%n sessions volumineuses</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n idle agent(s)</source>
+        <translation>
+            <numerusform>%n agent inactif</numerusform>
+            <numerusform>%n agents inactifs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 de plus</translation>
+    </message>
+</context>
+<context>
+    <name>NukePreview</name>
+    <message>
+        <source>Quit “%1” and all %2 helpers?</source>
+        <translation>Quitter « %1 » et ses %2 processus auxiliaires ?</translation>
+    </message>
+    <message>
+        <source>Kill all %1 “%2” processes?</source>
+        <translation>Tuer les %1 processus « %2 » ?</translation>
+    </message>
+    <message>
+        <source>Tells %1 to quit cleanly — closes all %2 child processes in one sweep, no per-tab pop-ups. Frees ≈%3.</source>
+        <translation>Demande à %1 de quitter proprement — ferme ses %2 processus enfants d’un coup, sans confirmation par onglet. Libère ≈%3.</translation>
+    </message>
+    <message>
+        <source>Sends SIGTERM to all %1 PIDs. Use sparingly — unsaved work in those processes may be lost.</source>
+        <translation>Envoie SIGTERM aux %1 PID. À utiliser avec prudence — le travail non enregistré de ces processus peut être perdu.</translation>
+    </message>
+    <message>
+        <source>PIDs: %1</source>
+        <translation>PID : %1</translation>
+    </message>
+    <message>
+        <source>%1 of its files stay in the cache.</source>
+        <translation>%1 de ses fichiers restent dans le cache.</translation>
+    </message>
+    <message>
+        <source>What runs in its terminals ends too (≈%1): %2.</source>
+        <translation>Ce qui tourne dans ses terminaux s’arrête aussi (≈%1) : %2.</translation>
+    </message>
+    <message>
+        <source>Quit %1 (≈%2)</source>
+        <translation>Quitter %1 (≈%2)</translation>
+    </message>
+    <message>
+        <source>Force-quit %1 (no save prompt)</source>
+        <translation>Forcer l’arrêt de %1 (sans demande d’enregistrement)</translation>
+    </message>
+    <message>
+        <source>Kill %1 (≈%2)</source>
+        <translation>Tuer %1 (≈%2)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t tell %1 to quit (it may not be scriptable). Try the force variant.</source>
+        <translation>Impossible de demander à %1 de quitter (peut-être non scriptable). Essayez la variante forcée.</translation>
+    </message>
+    <message>
+        <source>%1 quit cleanly — %2 helpers closed (≈%3 freed)</source>
+        <translation>%1 a quitté proprement — %2 processus auxiliaires fermés (≈%3 libérés)</translation>
+    </message>
+    <message>
+        <source>Killed %1/%2 “%3” processes (≈%4 targeted)</source>
+        <translation>%1/%2 processus « %3 » tués (≈%4 visés)</translation>
+    </message>
+</context>
+<context>
+    <name>NullPlatform</name>
+    <message>
+        <source>Nothing can be started at login here.</source>
+        <translation>Rien ne peut être lancé à l’ouverture de session ici.</translation>
+    </message>
+</context>
+<context>
+    <name>OptimizeView</name>
+    <message>
+        <source>Optimize</source>
+        <translation>Optimiser</translation>
+    </message>
+    <message>
+        <source>Sent memory_pressure -l warn</source>
+        <translation>memory_pressure -l warn envoyé</translation>
+    </message>
+    <message>
+        <source>memory_pressure failed</source>
+        <translation>Échec de memory_pressure</translation>
+    </message>
+    <message>
+        <source>Inactive memory purged</source>
+        <translation>Mémoire inactive purgée</translation>
+    </message>
+    <message>
+        <source>Purge cancelled or failed</source>
+        <translation>Purge annulée ou échouée</translation>
+    </message>
+    <message>
+        <source>Killed %1 orphan MCP server(s)</source>
+        <translation>Serveurs MCP orphelins tués : %1</translation>
+    </message>
+    <message>
+        <source>No orphan MCPs to kill</source>
+        <translation>Aucun MCP orphelin à tuer</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeList</name>
+    <message>
+        <source>Left alone: it belongs to something else</source>
+        <translation>Laissé tel quel : appartient à autre chose</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Force-killed</source>
+        <translation>Arrêt forcé</translation>
+    </message>
+    <message>
+        <source>Ignored SIGTERM/KILL</source>
+        <translation>SIGTERM/KILL ignoré</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission refusée</translation>
+    </message>
+</context>
+<context>
+    <name>OverviewView</name>
+    <message>
+        <source>Overview</source>
+        <translation>Vue d’ensemble</translation>
+    </message>
+    <message>
+        <source>Free RAM</source>
+        <translation>Libérer la RAM</translation>
+    </message>
+    <message>
+        <source>Floating Widget</source>
+        <translation>Widget flottant</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En direct</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceFinder</name>
+    <message>
+        <source>%1 does not answer.</source>
+        <translation>%1 ne répond pas.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetTable</name>
+    <message>
+        <source>Quick Kill presets</source>
+        <translation>Préréglages d’arrêt rapide</translation>
+    </message>
+    <message>
+        <source>No presets. Add one, or reset to the defaults.</source>
+        <translation>Aucun préréglage. Ajoutez-en un ou rétablissez ceux par défaut.</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>PresetTableModel</name>
+    <message>
+        <source>%1m</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Forcer</translation>
+    </message>
+    <message>
+        <source>No force</source>
+        <translation>Sans forcer</translation>
+    </message>
+</context>
+<context>
+    <name>PresetTile</name>
+    <message>
+        <source>%1, %2, %3 matching</source>
+        <translation>%1, %2, correspondances : %3</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessActions</name>
+    <message>
+        <source>No process of the session could be paused.</source>
+        <translation>Aucun processus de la session n’a pu être mis en pause.</translation>
+    </message>
+    <message>
+        <source>The session has ended meanwhile.</source>
+        <translation>La session s’est terminée entre-temps.</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessControls</name>
+    <message>
+        <source>Search name or path</source>
+        <translation>Rechercher nom ou chemin</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Trier</translation>
+    </message>
+    <message>
+        <source>Min RAM %1 MB</source>
+        <translation>RAM min. %1 Mo</translation>
+    </message>
+    <message>
+        <source>Group duplicates</source>
+        <translation>Regrouper les doublons</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessMenu</name>
+    <message>
+        <source>Quit %1…</source>
+        <translation>Quitter %1…</translation>
+    </message>
+    <message>
+        <source>Show in group</source>
+        <translation>Afficher dans le groupe</translation>
+    </message>
+    <message>
+        <source>As detected</source>
+        <translation>Tel que détecté</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessRow</name>
+    <message>
+        <source>Quit (SIGTERM)</source>
+        <translation>Quitter (SIGTERM)</translation>
+    </message>
+    <message>
+        <source>Force kill (SIGKILL)</source>
+        <translation>Forcer l’arrêt (SIGKILL)</translation>
+    </message>
+    <message>
+        <source>%1 %2, CPU %3, memory %4</source>
+        <translation>%1 %2, CPU %3, mémoire %4</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessRowDelegate</name>
+    <message>
+        <source>Force kill one</source>
+        <translation>Forcer l’arrêt de ce processus</translation>
+    </message>
+    <message>
+        <source>Quit all %1</source>
+        <translation>Quitter les %1</translation>
+    </message>
+    <message>
+        <source>Quit one</source>
+        <translation>Quitter celui-ci</translation>
+    </message>
+    <message>
+        <source>Nuke all %1 (with confirm)</source>
+        <translation>Tuer les %1 (avec confirmation)</translation>
+    </message>
+    <message>
+        <source>Nuke all %1 “%2” processes</source>
+        <translation>Tuer les %1 processus « %2 »</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableView</name>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessesView</name>
+    <message>
+        <source>No processes match</source>
+        <translation>Aucun processus ne correspond</translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>Modifiez la recherche, le groupe ou la RAM min. pour en voir plus.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectLeftovers</name>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>it did not finish</source>
+        <translation>inachevé</translation>
+    </message>
+    <message>
+        <source>a program that is unknown</source>
+        <translation>un programme inconnu</translation>
+    </message>
+    <message>
+        <source>it is another folder by now</source>
+        <translation>c’est désormais un autre dossier</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>utilisé par %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectLeftoversSheet</name>
+    <message>
+        <source>Add folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Dossier personnel</translation>
+    </message>
+    <message>
+        <source>Search projects</source>
+        <translation>Rechercher des projets</translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>Relancer la recherche</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Project leftovers</source>
+        <translation>Restes de projets</translation>
+    </message>
+    <message>
+        <source>Folders that builds and installations have left. The project&apos;s own tools make them again, which takes time and perhaps the network.</source>
+        <translation>Dossiers laissés par les compilations et les installations. Les outils du projet les recréent, ce qui prend du temps et peut-être du réseau.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Dernier usage</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projets</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build.</source>
+        <translation>Aucun projet ici n’a de restes de compilation.</translation>
+    </message>
+    <message>
+        <source>Looking for projects…</source>
+        <translation>Recherche de projets…</translation>
+    </message>
+    <message>
+        <source>Stop searching or removing</source>
+        <translation>Arrêter la recherche ou la suppression</translation>
+    </message>
+    <message>
+        <source>Look for projects in</source>
+        <translation>Chercher des projets dans</translation>
+    </message>
+    <message>
+        <source>Looks in the home folder, without hidden folders</source>
+        <translation>Cherche dans le dossier personnel, sans les dossiers cachés</translation>
+    </message>
+    <message>
+        <source>Looks in %1</source>
+        <translation>Cherche dans %1</translation>
+    </message>
+    <message>
+        <source>and %1 more: search to see them</source>
+        <translation>et %1 de plus : recherchez pour les voir</translation>
+    </message>
+    <message>
+        <source>the search (%1)</source>
+        <translation>la recherche (%1)</translation>
+    </message>
+    <message>
+        <source>Not finished: %1</source>
+        <translation>Inachevé : %1</translation>
+    </message>
+    <message>
+        <source>Remove…</source>
+        <translation>Supprimer…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n folder(s) (%1)…</source>
+        <translation>
+            <numerusform>Supprimer %n dossier (%1)…</numerusform>
+            <numerusform>Supprimer %n dossiers (%1)…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What goes</source>
+        <translation>Ce qui sera supprimé</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n folder(s)?</source>
+        <translation>
+            <numerusform>Supprimer %n dossier ?</numerusform>
+            <numerusform>Supprimer %n dossiers ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are gone for good, with all that is in them. Sources stay.</source>
+        <translation>Ils seront supprimés définitivement, avec tout leur contenu. Les sources restent.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Supprimer %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickKillEditorSheet</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Process name pattern (substring match)</source>
+        <translation>Motif du nom de processus (sous-chaîne)</translation>
+    </message>
+    <message>
+        <source>Min idle minutes</source>
+        <translation>Minutes d’inactivité min.</translation>
+    </message>
+    <message>
+        <source>Min RAM %1 MB</source>
+        <translation>RAM min. %1 Mo</translation>
+    </message>
+    <message>
+        <source>Use SIGKILL (force)</source>
+        <translation>Utiliser SIGKILL (forcer)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QuickKillPreset</name>
+    <message>
+        <source>pattern: %1</source>
+        <translation>motif : %1</translation>
+    </message>
+    <message>
+        <source>idle≥%1m</source>
+        <translation>inactif ≥%1 min</translation>
+    </message>
+    <message>
+        <source>RAM≥%1MB</source>
+        <translation>RAM ≥%1 Mo</translation>
+    </message>
+    <message>
+        <source>force</source>
+        <translation>forcé</translation>
+    </message>
+    <message>
+        <source>%1: nothing matched</source>
+        <translation>%1 : aucune correspondance</translation>
+    </message>
+    <message>
+        <source>%1: killed %2/%3</source>
+        <translation>%1 : %2/%3 tués</translation>
+    </message>
+</context>
+<context>
+    <name>QuickKillsCard</name>
+    <message>
+        <source>Quick Kills</source>
+        <translation>Arrêts rapides</translation>
+    </message>
+    <message>
+        <source>Preset purges for common RAM hogs</source>
+        <translation>Préréglages contre les gros consommateurs de RAM</translation>
+    </message>
+</context>
+<context>
+    <name>QuickKillsTab</name>
+    <message>
+        <source>Quick Kills</source>
+        <translation>Arrêts rapides</translation>
+    </message>
+    <message>
+        <source>Custom Quick Kill presets</source>
+        <translation>Préréglages d’arrêt rapide personnalisés</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Reset to defaults</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>New preset</source>
+        <translation>Nouveau préréglage</translation>
+    </message>
+    <message>
+        <source>Edit preset</source>
+        <translation>Modifier le préréglage</translation>
+    </message>
+</context>
+<context>
+    <name>QuitDialog</name>
+    <message>
+        <source>Quit %1?</source>
+        <translation>Quitter %1 ?</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter ; il peut perdre ce qui n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Quitter %1</translation>
+    </message>
+</context>
+<context>
+    <name>Remains</name>
+    <message>
+        <source>Left by %1</source>
+        <translation>Laissé par %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 runs %n time(s) under %2</source>
+        <translation>
+            <numerusform>%1 tourne %n fois sous %2</numerusform>
+            <numerusform>%1 tourne %n fois sous %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended %1: %2</source>
+        <translation>terminée %1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n older one(s)</source>
+        <translation>
+            <numerusform>%n plus ancien</numerusform>
+            <numerusform>%n plus anciens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>End left-overs</source>
+        <translation>Terminer les restes</translation>
+    </message>
+    <message>
+        <source>End duplicates</source>
+        <translation>Terminer les doublons</translation>
+    </message>
+</context>
+<context>
+    <name>RemainsHeader</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Développé</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Réduit</translation>
+    </message>
+</context>
+<context>
+    <name>ReturnTexts</name>
+    <message>
+        <source>≤ %1 will come back</source>
+        <translation>≤ %1 seront récupérés</translation>
+    </message>
+    <message>
+        <source>≈ %1 will come back</source>
+        <translation>≈ %1 seront récupérés</translation>
+    </message>
+    <message>
+        <source>Promised: %1 in memory, %2 in swap. Came back: %3 in memory, %4 in swap.</source>
+        <translation>Prévu : %1 en mémoire, %2 en swap. Récupéré : %3 en mémoire, %4 en swap.</translation>
+    </message>
+</context>
+<context>
+    <name>RootView</name>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>Sections</translation>
+    </message>
+</context>
+<context>
+    <name>RulesEngine</name>
+    <message>
+        <source>Free RAM low</source>
+        <translation>Peu de RAM libre</translation>
+    </message>
+    <message>
+        <source>Only %1 GB free — consider quitting top hogs or cleaning caches.</source>
+        <translation>Seulement %1 Go libres — quittez les plus gros processus ou nettoyez des caches.</translation>
+    </message>
+    <message>
+        <source>RAM getting tight</source>
+        <translation>La RAM se fait rare</translation>
+    </message>
+    <message>
+        <source>%1 GB free.</source>
+        <translation>%1 Go libres.</translation>
+    </message>
+    <message>
+        <source>Programs wait for memory</source>
+        <translation>Des programmes attendent de la mémoire</translation>
+    </message>
+    <message>
+        <source>%1 of the last ten seconds. Free RAM, or quit what grows.</source>
+        <translation>%1 des dix dernières secondes. Libérez de la RAM ou quittez ce qui grossit.</translation>
+    </message>
+    <message>
+        <source>Memory full in about %1 min</source>
+        <translation>Mémoire pleine dans environ %1 min</translation>
+    </message>
+    <message>
+        <source>Memory full in about %1 min — %2 grow %3/min</source>
+        <translation>Mémoire pleine dans environ %1 min — %2 grossissent de %3/min</translation>
+    </message>
+    <message>
+        <source>Memory full in about %1 min — %2 grows %3/min</source>
+        <translation>Mémoire pleine dans environ %1 min — %2 grossit de %3/min</translation>
+    </message>
+    <message>
+        <source>%1 are left, with swap.</source>
+        <translation>Il reste %1, swap compris.</translation>
+    </message>
+    <message>
+        <source>The kernel</source>
+        <translation>Le noyau</translation>
+    </message>
+    <message>
+        <source>%1 ended %2 at %3 because memory ran out</source>
+        <translation>%1 a arrêté %2 à %3 faute de mémoire</translation>
+    </message>
+    <message>
+        <source>%1 ended %2 (PID %3%4) at %5 because memory ran out</source>
+        <translation>%1 a arrêté %2 (PID %3%4) à %5 faute de mémoire</translation>
+    </message>
+    <message>
+        <source>Judged by what vanished then: the system&apos;s record is not readable.</source>
+        <translation>Déduit de ce qui a disparu à ce moment : le journal du système n’est pas lisible.</translation>
+    </message>
+    <message>
+        <source>CPU saturated</source>
+        <translation>CPU saturé</translation>
+    </message>
+    <message>
+        <source>%1 total — top: %2</source>
+        <translation>%1 au total — en tête : %2</translation>
+    </message>
+    <message>
+        <source>%1 is running hot (%2)</source>
+        <translation>%1 chauffe (%2)</translation>
+    </message>
+    <message>
+        <source>%1 is throttling — reduce parallel agentic work or quit Docker/ollama.</source>
+        <translation>%1 ralentit le processeur — réduisez les agents en parallèle ou quittez Docker/ollama.</translation>
+    </message>
+    <message>
+        <source>Heavy swap usage</source>
+        <translation>Usage intensif du swap</translation>
+    </message>
+    <message>
+        <source>%1 GB swapped — system will feel sluggish.</source>
+        <translation>%1 Go en swap — le système sera lent.</translation>
+    </message>
+    <message>
+        <source>Idle agent — %1</source>
+        <translation>Agent inactif — %1</translation>
+    </message>
+    <message>
+        <source>Idle agent — %1 in %2</source>
+        <translation>Agent inactif — %1 dans %2</translation>
+    </message>
+    <message>
+        <source>Idle %1 min, %2 RAM. Quit?</source>
+        <translation>Inactif depuis %1 min, %2 de RAM. Quitter ?</translation>
+    </message>
+    <message>
+        <source>Idle %1 min, %2 RAM.</source>
+        <translation>Inactif depuis %1 min, %2 de RAM.</translation>
+    </message>
+    <message>
+        <source>Browsers using %1</source>
+        <translation>Les navigateurs utilisent %1</translation>
+    </message>
+    <message>
+        <source>That&apos;s %1 of total RAM. Closing idle tabs frees the most memory fastest.</source>
+        <translation>Soit %1 de la RAM totale. Fermer les onglets inactifs libère le plus de mémoire le plus vite.</translation>
+    </message>
+    <message>
+        <source>Caches reclaimable: %1</source>
+        <translation>Caches récupérables : %1</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>%1 occupe %2</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTab</name>
+    <message>
+        <source>Sampling</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Sampling cadence</source>
+        <translation>Cadence de mesure</translation>
+    </message>
+    <message>
+        <source>Poll interval</source>
+        <translation>Intervalle de mesure</translation>
+    </message>
+    <message>
+        <source>%1s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>History retention</source>
+        <translation>Conservation de l’historique</translation>
+    </message>
+    <message>
+        <source>Keeps %1 samples for the Overview sparklines.</source>
+        <translation>Conserve %1 mesures pour les courbes de la vue d’ensemble.</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Énergie</translation>
+    </message>
+    <message>
+        <source>Pause sampling on Low Power Mode</source>
+        <translation>Suspendre la mesure en mode économie d’énergie</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRow</name>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Orphan %1, PID %2, parent: %3, %4</source>
+        <translation>Orphelin %1, PID %2, parent : %3, %4</translation>
+    </message>
+    <message>
+        <source>Running %1, PID %2, parent: %3, %4</source>
+        <translation>En cours %1, PID %2, parent : %3, %4</translation>
+    </message>
+    <message>
+        <source>parent: %1</source>
+        <translation>parent : %1</translation>
+    </message>
+    <message>
+        <source>PID %1</source>
+        <translation>PID %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerWatch</name>
+    <message>
+        <source>%1, no CPU for %2 h</source>
+        <translation>%1, sans CPU depuis %2 h</translation>
+    </message>
+    <message>
+        <source>%1, no CPU for %2 min</source>
+        <translation>%1, sans CPU depuis %2 min</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>utilisé par %1</translation>
+    </message>
+    <message>
+        <source>in use by %1 in %2</source>
+        <translation>utilisé par %1 dans %2</translation>
+    </message>
+    <message>
+        <source>runs in the container %1</source>
+        <translation>tourne dans le conteneur %1</translation>
+    </message>
+    <message>
+        <source>run by the service manager as %1</source>
+        <translation>lancé par le gestionnaire de services comme %1</translation>
+    </message>
+    <message>
+        <source>orphan: no agent or editor above it</source>
+        <translation>orphelin : ni agent ni éditeur au-dessus</translation>
+    </message>
+    <message>
+        <source>orphan: its host %1 ended at %2</source>
+        <translation>orphelin : son hôte %1 s’est arrêté à %2</translation>
+    </message>
+    <message>
+        <source>orphan: no longer below its host %1</source>
+        <translation>orphelin : n’est plus sous son hôte %1</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>SessionActions</name>
+    <message>
+        <source>End %1?</source>
+        <translation>Terminer %1 ?</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Terminer la session</translation>
+    </message>
+    <message>
+        <source>Could not pause %1.</source>
+        <translation>Impossible de mettre %1 en pause.</translation>
+    </message>
+    <message>
+        <source>Could not resume %1.</source>
+        <translation>Impossible de reprendre %1.</translation>
+    </message>
+    <message>
+        <source>Could not open %1.</source>
+        <translation>Impossible d’ouvrir %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionControls</name>
+    <message>
+        <source>Search sessions</source>
+        <translation>Rechercher des sessions</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Trier</translation>
+    </message>
+    <message>
+        <source>Agent, project, name, state, process or port (:5173)</source>
+        <translation>Agent, projet, nom, état, processus ou port (:5173)</translation>
+    </message>
+</context>
+<context>
+    <name>SessionDialogs</name>
+    <message>
+        <source>What ends</source>
+        <translation>Ce qui se termine</translation>
+    </message>
+    <message>
+        <source>The agent is asked first and has 5 s to save. What it started ends with it, and what stays is force-killed.</source>
+        <translation>L’agent est sollicité d’abord et a 5 s pour enregistrer. Ce qu’il a lancé se termine avec lui ; ce qui reste est arrêté de force.</translation>
+    </message>
+    <message>
+        <source>The processes are asked to end, and what stays is force-killed.</source>
+        <translation>Il est demandé aux processus de s’arrêter ; ce qui reste est arrêté de force.</translation>
+    </message>
+    <message>
+        <source>This takes the conversation up again: %1</source>
+        <translation>Pour reprendre la conversation : %1</translation>
+    </message>
+    <message>
+        <source>Stops the session and all that it started: they keep their memory and use no processor time until you resume them, or close this program.</source>
+        <translation>Arrête la session et tout ce qu’elle a lancé : la mémoire reste occupée et le processeur n’est plus utilisé jusqu’à la reprise ou la fermeture de ce programme.</translation>
+    </message>
+    <message>
+        <source>The terminal&apos;s shell may report the agent as stopped. After Resume, type fg there.</source>
+        <translation>Le shell du terminal peut signaler l’agent comme arrêté. Après la reprise, tapez-y fg.</translation>
+    </message>
+    <message>
+        <source>Pause %1?</source>
+        <translation>Mettre %1 en pause ?</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Mettre en pause</translation>
+    </message>
+</context>
+<context>
+    <name>SessionHeader</name>
+    <message>
+        <source>%1 in swap</source>
+        <translation>%1 en swap</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3, %4 CPU, %5</source>
+        <translation>%1, %2, %3, %4 de CPU, %5</translation>
+    </message>
+    <message>
+        <source>last active %1</source>
+        <translation>actif %1</translation>
+    </message>
+    <message>
+        <source>Expanded</source>
+        <translation>Développé</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Réduit</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+</context>
+<context>
+    <name>SessionProcessRow</name>
+    <message>
+        <source>listens on %1</source>
+        <translation>écoute sur %1</translation>
+    </message>
+    <message>
+        <source>running for %1</source>
+        <translation>en cours depuis %1</translation>
+    </message>
+    <message>
+        <source>%1, PID %2</source>
+        <translation>%1, PID %2</translation>
+    </message>
+</context>
+<context>
+    <name>SessionResultView</name>
+    <message>
+        <source>%1: ended %2 of %3, freed ~%4</source>
+        <translation>%1 : %2 sur %3 terminés, ~%4 libérés</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Take the conversation up again: %1</source>
+        <translation>Reprendre la conversation : %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <translation>Copier la commande</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRow</name>
+    <message>
+        <source>Pause</source>
+        <translation>Mettre en pause</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Copy details</source>
+        <translation>Copier les détails</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Terminer</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Terminer la session</translation>
+    </message>
+    <message>
+        <source>Pause…</source>
+        <translation>Mettre en pause…</translation>
+    </message>
+    <message>
+        <source>End session…</source>
+        <translation>Terminer la session…</translation>
+    </message>
+</context>
+<context>
+    <name>SessionTexts</name>
+    <message>
+        <source>agent</source>
+        <translation>agent</translation>
+    </message>
+    <message>
+        <source>Agent</source>
+        <translation>Agent</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n agent(s)</source>
+        <translation>
+            <numerusform>%n agent</numerusform>
+            <numerusform>%n agents</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>MCP server</source>
+        <translation>serveur MCP</translation>
+    </message>
+    <message>
+        <source>MCP servers</source>
+        <translation>Serveurs MCP</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n server(s)</source>
+        <translation>
+            <numerusform>%n serveur</numerusform>
+            <numerusform>%n serveurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>dev server</source>
+        <translation>serveur de dév.</translation>
+    </message>
+    <message>
+        <source>Dev servers</source>
+        <translation>Serveurs de dév.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dev server(s)</source>
+        <translation>
+            <numerusform>%n serveur de dév.</numerusform>
+            <numerusform>%n serveurs de dév.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>browser</source>
+        <translation>navigateur</translation>
+    </message>
+    <message>
+        <source>Browsers</source>
+        <translation>Navigateurs</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n browser(s)</source>
+        <translation>
+            <numerusform>%n navigateur</numerusform>
+            <numerusform>%n navigateurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>command</source>
+        <translation>commande</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n command(s)</source>
+        <translation>
+            <numerusform>%n commande</numerusform>
+            <numerusform>%n commandes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation>Travaille</translation>
+    </message>
+    <message>
+        <source>Waiting for you</source>
+        <translation>Vous attend</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Inactive</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n session(s)</source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n idle</source>
+        <translation>
+            <numerusform>%n inactive</numerusform>
+            <numerusform>%n inactives</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n process(es)</source>
+        <translation>
+            <numerusform>%n processus</numerusform>
+            <numerusform>%n processus</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>resident %1</source>
+        <translation>résident %1</translation>
+    </message>
+</context>
+<context>
+    <name>SessionsView</name>
+    <message>
+        <source>No sessions</source>
+        <translation>Aucune session</translation>
+    </message>
+    <message>
+        <source>Coding agents that run in a terminal or an editor appear here, each with its MCP servers, dev servers, browsers and commands, and with what an ended one left running.</source>
+        <translation>Les agents de programmation lancés dans un terminal ou un éditeur apparaissent ici, chacun avec ses serveurs MCP, serveurs de développement, navigateurs et commandes, et avec ce qu’un agent terminé a laissé tourner.</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>No sessions match</source>
+        <translation>Aucune session ne correspond</translation>
+    </message>
+    <message>
+        <source>Every word of the search has to be in the agent, the project, the name, the state, a process or a port of the session.</source>
+        <translation>Chaque mot de la recherche doit figurer dans l’agent, le projet, le nom, l’état, un processus ou un port de la session.</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Left-overs</source>
+        <translation>Restes</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Doublons</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScene</name>
+    <message>
+        <source>Tavrin Settings</source>
+        <translation>Paramètres de Tavrin</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Onglets</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Next Tab</source>
+        <translation>Onglet suivant</translation>
+    </message>
+    <message>
+        <source>Previous Tab</source>
+        <translation>Onglet précédent</translation>
+    </message>
+</context>
+<context>
+    <name>Spinner</name>
+    <message>
+        <source>In progress</source>
+        <translation>En cours</translation>
+    </message>
+</context>
+<context>
+    <name>Stepper</name>
+    <message>
+        <source>Less: %1</source>
+        <translation>Moins : %1</translation>
+    </message>
+    <message>
+        <source>More: %1</source>
+        <translation>Plus : %1</translation>
+    </message>
+</context>
+<context>
+    <name>SummedMemory</name>
+    <message>
+        <source>resident %1, in swap %2</source>
+        <translation>résident %1, en swap %2</translation>
+    </message>
+    <message>
+        <source>at least %1 (%2)</source>
+        <translation>au moins %1 (%2)</translation>
+    </message>
+    <message>
+        <source>about %1 (%2)</source>
+        <translation>environ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+</context>
+<context>
+    <name>TextListEditor</name>
+    <message>
+        <source>Remove %1</source>
+        <translation>Supprimer %1</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalState</name>
+    <message>
+        <source>Cool</source>
+        <translation>Froid</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Tiède</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Chaud</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Critique</translation>
+    </message>
+</context>
+<context>
+    <name>Translations</name>
+    <message>
+        <source>Claude Code plugin cache</source>
+        <translation>Cache des greffons Claude Code</translation>
+    </message>
+    <message>
+        <source>npx cache</source>
+        <translation>Cache npx</translation>
+    </message>
+    <message>
+        <source>Playwright browsers</source>
+        <translation>Navigateurs Playwright</translation>
+    </message>
+    <message>
+        <source>User caches</source>
+        <translation>Caches utilisateur</translation>
+    </message>
+    <message>
+        <source>User logs</source>
+        <translation>Journaux utilisateur</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Corbeille</translation>
+    </message>
+    <message>
+        <source>Old /tmp (&gt;7d)</source>
+        <translation>Ancien contenu de /tmp (&gt;7 j)</translation>
+    </message>
+    <message>
+        <source>Old Downloads (&gt;30d)</source>
+        <translation>Anciens téléchargements (&gt;30 j)</translation>
+    </message>
+    <message>
+        <source>Old Desktop screenshots (&gt;30d)</source>
+        <translation>Anciennes captures du bureau (&gt;30 j)</translation>
+    </message>
+    <message>
+        <source>Claude Code &amp; Agents</source>
+        <translation>Claude Code et agents</translation>
+    </message>
+    <message>
+        <source>IDEs</source>
+        <translation>IDE</translation>
+    </message>
+    <message>
+        <source>Terminals</source>
+        <translation>Terminaux</translation>
+    </message>
+    <message>
+        <source>Browsers</source>
+        <translation>Navigateurs</translation>
+    </message>
+    <message>
+        <source>Docker &amp; Containers</source>
+        <translation>Docker et conteneurs</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>CPU% • RAM%</source>
+        <translation>CPU % • RAM %</translation>
+    </message>
+    <message>
+        <source>CPU%</source>
+        <translation>CPU %</translation>
+    </message>
+    <message>
+        <source>RAM%</source>
+        <translation>RAM %</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Icône seule</translation>
+    </message>
+    <message>
+        <source>5 min</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>25 min</source>
+        <translation>25 min</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 heure</translation>
+    </message>
+    <message>
+        <source>Project leftovers</source>
+        <translation>Restes de projets</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Vue d’ensemble</translation>
+    </message>
+    <message>
+        <source>Optimize</source>
+        <translation>Optimiser</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Cleanup</source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Last active</source>
+        <translation>Dernière activité</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Sampling</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>Alertes</translation>
+    </message>
+    <message>
+        <source>Quick Kills</source>
+        <translation>Arrêts rapides</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetView</name>
+    <message>
+        <source>Open dashboard</source>
+        <translation>Ouvrir la fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Hide widget</source>
+        <translation>Masquer le widget</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Disk free</source>
+        <translation>Disque libre</translation>
+    </message>
+    <message>
+        <source>Therm</source>
+        <translation>Temp.</translation>
+    </message>
+    <message>
+        <source>Groups (RAM)</source>
+        <translation>Groupes (RAM)</translation>
+    </message>
+    <message numerus="yes">
+        <source>+ %n more alert(s)</source>
+        <translation>
+            <numerusform>+ %n autre alerte</numerusform>
+            <numerusform>+ %n autres alertes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1G</source>
+        <translation>%1G</translation>
+    </message>
+    <message>
+        <source>%1M</source>
+        <translation>%1M</translation>
+    </message>
+</context>
+<context>
+    <name>Words</name>
+    <message>
+        <source>Computer</source>
+        <translation>L’ordinateur</translation>
+    </message>
+    <message>
+        <source>task bar</source>
+        <translation>la barre des tâches</translation>
+    </message>
+    <message>
+        <source>Status area</source>
+        <translation>Zone d’état</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+</context>
+</TS>
