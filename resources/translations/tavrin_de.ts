@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>The tool calls %1 of it reclaimable.</source>
-        <translation>Laut Werkzeug lassen sich davon %1 zurückgewinnen.</translation>
+        <translation>Laut Werkzeug sind %1 davon freigebbar.</translation>
     </message>
 </context>
 <context>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>Angehalten: %1 von %2 Zielen bereinigt, ~%3 freigegeben</translation>
+        <translation>Angehalten: %1 von %2 Zielen bereinigt, ~%3 frei</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>
@@ -1042,6 +1042,129 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopTargets</name>
+    <message>
+        <source>Gradle fetches its packages and its own versions again.</source>
+        <translation>Gradle lädt seine Pakete und eigenen Versionen neu.</translation>
+    </message>
+    <message>
+        <source>Old logs of Gradle&apos;s background processes. Gradle writes new ones.</source>
+        <translation>Alte Protokolle der Hintergrundprozesse von Gradle. Gradle schreibt neue.</translation>
+    </message>
+    <message>
+        <source>Maven fetches packages again. Those that were only installed here must be built again.</source>
+        <translation>Maven lädt Pakete neu. Nur hier installierte müssen neu gebaut werden.</translation>
+    </message>
+    <message>
+        <source>Both fetch their packages again.</source>
+        <translation>Beide laden ihre Pakete neu.</translation>
+    </message>
+    <message>
+        <source>Cargo unpacks sources again, and fetches repositories again.</source>
+        <translation>Cargo entpackt Quellen erneut und lädt Repositorys neu.</translation>
+    </message>
+    <message>
+        <source>Go compiles packages again.</source>
+        <translation>Go kompiliert Pakete neu.</translation>
+    </message>
+    <message>
+        <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
+        <translation>Toolchains, die nicht Standard sind. Ein Projekt kann noch eine davon nennen: rustup lädt sie neu, eine selbst gebaute aber nicht.</translation>
+    </message>
+    <message>
+        <source>Yarn and Corepack fetch it again.</source>
+        <translation>Yarn und Corepack laden es neu.</translation>
+    </message>
+    <message>
+        <source>Conda fetches packages again. Environments keep theirs, unless they are set to link to this folder.</source>
+        <translation>Conda lädt Pakete neu. Umgebungen behalten ihre, wenn sie nicht in diesen Ordner verknüpfen.</translation>
+    </message>
+    <message>
+        <source>Poetry fetches its packages again. Environments stay.</source>
+        <translation>Poetry lädt seine Pakete neu. Umgebungen bleiben.</translation>
+    </message>
+    <message>
+        <source>pre-commit installs its hooks again.</source>
+        <translation>pre-commit installiert seine Hooks neu.</translation>
+    </message>
+    <message>
+        <source>Compiled objects. The next builds take longer and fill it again.</source>
+        <translation>Kompilierte Objekte. Die nächsten Builds dauern länger und füllen ihn wieder.</translation>
+    </message>
+    <message>
+        <source>Files that Bazel has fetched. It fetches them again.</source>
+        <translation>Dateien, die Bazel geladen hat. Bazel lädt sie neu.</translation>
+    </message>
+    <message>
+        <source>Conan fetches or builds packages again. Recipes that are only here are gone.</source>
+        <translation>Conan lädt oder baut Pakete neu. Rezepte, die es nur hier gibt, sind weg.</translation>
+    </message>
+    <message>
+        <source>vcpkg builds its packages again.</source>
+        <translation>vcpkg baut seine Pakete neu.</translation>
+    </message>
+    <message>
+        <source>Editors make them again. Settings, open work and history stay.</source>
+        <translation>Editoren legen sie neu an. Einstellungen, Offenes und Verlauf bleiben.</translation>
+    </message>
+    <message>
+        <source>Earlier states of your files. Nothing brings them back.</source>
+        <translation>Frühere Stände Ihrer Dateien. Nichts bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Logs of coding agents that no agent reads again. Conversations stay.</source>
+        <translation>Protokolle von Coding-Agenten, die kein Agent mehr liest. Gespräche bleiben.</translation>
+    </message>
+    <message>
+        <source>Settings of shells for agents that ended long ago. An agent makes its own at its start.</source>
+        <translation>Shell-Einstellungen für längst beendete Agenten. Ein Agent legt seine beim Start neu an.</translation>
+    </message>
+    <message>
+        <source>Long texts that you pasted. Old prompts in the history refer to them.</source>
+        <translation>Lange Texte, die Sie eingefügt haben. Alte Eingaben im Verlauf verweisen darauf.</translation>
+    </message>
+    <message>
+        <source>Models and data sets. What is public can be fetched again.</source>
+        <translation>Modelle und Datensätze. Öffentliche lassen sich erneut laden.</translation>
+    </message>
+    <message>
+        <source>All models at once. Those that you made here are gone for good.</source>
+        <translation>Alle Modelle zugleich. Hier selbst erstellte sind endgültig weg.</translation>
+    </message>
+    <message>
+        <source>Models. What is public can be fetched again.</source>
+        <translation>Modelle. Öffentliche lassen sich erneut laden.</translation>
+    </message>
+    <message>
+        <source>Applications make their caches again.</source>
+        <translation>Anwendungen legen ihre Caches neu an.</translation>
+    </message>
+    <message>
+        <source>Small pictures of your files. File managers make them again.</source>
+        <translation>Kleine Vorschaubilder Ihrer Dateien. Dateiverwaltungen legen sie neu an.</translation>
+    </message>
+    <message>
+        <source>The graphics driver compiles shaders again. Games may stutter at first.</source>
+        <translation>Der Grafiktreiber kompiliert Shader neu. Spiele können anfangs ruckeln.</translation>
+    </message>
+    <message>
+        <source>Reports of crashes that are a week old. They only help to find the fault.</source>
+        <translation>Absturzberichte, die eine Woche alt sind. Sie dienen nur der Fehlersuche.</translation>
+    </message>
+    <message>
+        <source>Podman fetches or builds images again. Stopped containers go.</source>
+        <translation>Podman lädt oder baut Images neu. Angehaltene Container werden gelöscht.</translation>
+    </message>
+    <message>
+        <source>They are installed already. The system asks for a password.</source>
+        <translation>Sie sind bereits installiert. Das System fragt nach einem Passwort.</translation>
+    </message>
+    <message>
+        <source>Old messages of the system go, the newest stay. It asks for a password.</source>
+        <translation>Alte Meldungen des Systems werden gelöscht, die neuesten bleiben. Es fragt nach einem Passwort.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralTab</name>
     <message>
         <source>General</source>
@@ -1303,7 +1426,7 @@
     </message>
     <message>
         <source>Orphan RAM</source>
-        <translation>Verwaister RAM</translation>
+        <translation>Deren RAM</translation>
     </message>
     <message>
         <source>Kill orphans</source>
@@ -1612,7 +1735,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>Beenden</translation>
+        <translation>Beendet</translation>
     </message>
     <message>
         <source>Force-killed</source>
@@ -1665,7 +1788,7 @@
     </message>
     <message>
         <source>No presets. Add one, or reset to the defaults.</source>
-        <translation>Keine Vorgaben. Fügen Sie eine hinzu, oder stellen Sie die Standardwerte wieder her.</translation>
+        <translation>Keine Vorgaben. Fügen Sie eine hinzu, oder setzen Sie die Liste zurück.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -2044,7 +2167,7 @@
     </message>
     <message>
         <source>Custom Quick Kill presets</source>
-        <translation>Eigene Vorgaben zum Schnellbeenden</translation>
+        <translation>Eigene Vorgaben</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2052,7 +2175,7 @@
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation>Standardwerte wiederherstellen</translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>New preset</source>
@@ -2846,11 +2969,11 @@
     </message>
     <message>
         <source>Old Desktop screenshots (&gt;30d)</source>
-        <translation>Alte Bildschirmfotos auf dem Desktop (&gt;30 T)</translation>
+        <translation>Alte Bildschirmfotos (&gt;30 T)</translation>
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>
-        <translation>Claude Code und Agenten</translation>
+        <translation>Claude Code &amp; Agenten</translation>
     </message>
     <message>
         <source>IDEs</source>
@@ -2866,7 +2989,7 @@
     </message>
     <message>
         <source>Docker &amp; Containers</source>
-        <translation>Docker und Container</translation>
+        <translation>Docker &amp; Container</translation>
     </message>
     <message>
         <source>Other</source>
@@ -2875,6 +2998,86 @@
     <message>
         <source>System</source>
         <translation>System</translation>
+    </message>
+    <message>
+        <source>Gradle logs (&gt;7d)</source>
+        <translation>Gradle-Protokolle (&gt;7 T)</translation>
+    </message>
+    <message>
+        <source>Cargo sources and checkouts</source>
+        <translation>Cargo-Quellen und -Checkouts</translation>
+    </message>
+    <message>
+        <source>Go build cache</source>
+        <translation>Go-Build-Cache</translation>
+    </message>
+    <message>
+        <source>Rust toolchains</source>
+        <translation>Rust-Toolchains</translation>
+    </message>
+    <message>
+        <source>Conda packages</source>
+        <translation>Conda-Pakete</translation>
+    </message>
+    <message>
+        <source>Editor caches</source>
+        <translation>Editor-Caches</translation>
+    </message>
+    <message>
+        <source>Local history of JetBrains editors</source>
+        <translation>Lokaler Verlauf der JetBrains-Editoren</translation>
+    </message>
+    <message>
+        <source>Agent logs (&gt;7d)</source>
+        <translation>Agentenprotokolle (&gt;7 T)</translation>
+    </message>
+    <message>
+        <source>Agent shell snapshots (&gt;30d)</source>
+        <translation>Agenten-Shell-Abbilder (&gt;30 T)</translation>
+    </message>
+    <message>
+        <source>Texts pasted into Claude Code (&gt;30d)</source>
+        <translation>In Claude Code eingefügt (&gt;30 T)</translation>
+    </message>
+    <message>
+        <source>Hugging Face models</source>
+        <translation>Hugging-Face-Modelle</translation>
+    </message>
+    <message>
+        <source>Ollama models</source>
+        <translation>Ollama-Modelle</translation>
+    </message>
+    <message>
+        <source>LM Studio models</source>
+        <translation>LM-Studio-Modelle</translation>
+    </message>
+    <message>
+        <source>Flatpak application caches</source>
+        <translation>Flatpak-Anwendungscaches</translation>
+    </message>
+    <message>
+        <source>Snap application caches</source>
+        <translation>Snap-Anwendungscaches</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Vorschaubilder</translation>
+    </message>
+    <message>
+        <source>Shader caches</source>
+        <translation>Shader-Caches</translation>
+    </message>
+    <message>
+        <source>Crash reports (&gt;7d)</source>
+        <translation>Absturzberichte (&gt;7 T)</translation>
+    </message>
+    <message>
+        <source>Downloaded system packages</source>
+        <translation>Geladene Systempakete</translation>
+    </message>
+    <message>
+        <source>System journal over 500 MB</source>
+        <translation>Systemjournal über 500 MB</translation>
     </message>
     <message>
         <source>CPU% • RAM%</source>

@@ -1042,6 +1042,129 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopTargets</name>
+    <message>
+        <source>Gradle fetches its packages and its own versions again.</source>
+        <translation>Gradle vuelve a descargar sus paquetes y sus propias versiones.</translation>
+    </message>
+    <message>
+        <source>Old logs of Gradle&apos;s background processes. Gradle writes new ones.</source>
+        <translation>Registros antiguos de los procesos en segundo plano de Gradle. Gradle escribe otros nuevos.</translation>
+    </message>
+    <message>
+        <source>Maven fetches packages again. Those that were only installed here must be built again.</source>
+        <translation>Maven vuelve a descargar los paquetes. Los que solo se instalaron aquí deben compilarse de nuevo.</translation>
+    </message>
+    <message>
+        <source>Both fetch their packages again.</source>
+        <translation>Ambos vuelven a descargar sus paquetes.</translation>
+    </message>
+    <message>
+        <source>Cargo unpacks sources again, and fetches repositories again.</source>
+        <translation>Cargo vuelve a descomprimir las fuentes y a descargar los repositorios.</translation>
+    </message>
+    <message>
+        <source>Go compiles packages again.</source>
+        <translation>Go vuelve a compilar los paquetes.</translation>
+    </message>
+    <message>
+        <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
+        <translation>Cadenas de herramientas que no son la predeterminada. Un proyecto aún puede nombrar una: rustup la descarga de nuevo, pero no si es suya.</translation>
+    </message>
+    <message>
+        <source>Yarn and Corepack fetch it again.</source>
+        <translation>Yarn y Corepack lo descargan de nuevo.</translation>
+    </message>
+    <message>
+        <source>Conda fetches packages again. Environments keep theirs, unless they are set to link to this folder.</source>
+        <translation>Conda vuelve a descargar los paquetes. Los entornos conservan los suyos, salvo que enlacen a esta carpeta.</translation>
+    </message>
+    <message>
+        <source>Poetry fetches its packages again. Environments stay.</source>
+        <translation>Poetry vuelve a descargar sus paquetes. Los entornos se conservan.</translation>
+    </message>
+    <message>
+        <source>pre-commit installs its hooks again.</source>
+        <translation>pre-commit vuelve a instalar sus hooks.</translation>
+    </message>
+    <message>
+        <source>Compiled objects. The next builds take longer and fill it again.</source>
+        <translation>Objetos compilados. Las próximas compilaciones tardan más y la llenan de nuevo.</translation>
+    </message>
+    <message>
+        <source>Files that Bazel has fetched. It fetches them again.</source>
+        <translation>Archivos que Bazel ha descargado. Los descarga de nuevo.</translation>
+    </message>
+    <message>
+        <source>Conan fetches or builds packages again. Recipes that are only here are gone.</source>
+        <translation>Conan vuelve a descargar o compilar los paquetes. Las recetas que solo están aquí se pierden.</translation>
+    </message>
+    <message>
+        <source>vcpkg builds its packages again.</source>
+        <translation>vcpkg vuelve a compilar sus paquetes.</translation>
+    </message>
+    <message>
+        <source>Editors make them again. Settings, open work and history stay.</source>
+        <translation>Los editores las crean de nuevo. Ajustes, trabajo abierto e historial se conservan.</translation>
+    </message>
+    <message>
+        <source>Earlier states of your files. Nothing brings them back.</source>
+        <translation>Estados anteriores de sus archivos. Nada los recupera.</translation>
+    </message>
+    <message>
+        <source>Logs of coding agents that no agent reads again. Conversations stay.</source>
+        <translation>Registros de agentes de programación que ningún agente vuelve a leer. Las conversaciones se conservan.</translation>
+    </message>
+    <message>
+        <source>Settings of shells for agents that ended long ago. An agent makes its own at its start.</source>
+        <translation>Configuración de shell de agentes que terminaron hace tiempo. Un agente crea la suya al iniciarse.</translation>
+    </message>
+    <message>
+        <source>Long texts that you pasted. Old prompts in the history refer to them.</source>
+        <translation>Textos largos que pegó. Entradas antiguas del historial remiten a ellos.</translation>
+    </message>
+    <message>
+        <source>Models and data sets. What is public can be fetched again.</source>
+        <translation>Modelos y conjuntos de datos. Lo que es público se puede descargar de nuevo.</translation>
+    </message>
+    <message>
+        <source>All models at once. Those that you made here are gone for good.</source>
+        <translation>Todos los modelos a la vez. Los que creó aquí se pierden definitivamente.</translation>
+    </message>
+    <message>
+        <source>Models. What is public can be fetched again.</source>
+        <translation>Modelos. Lo que es público se puede descargar de nuevo.</translation>
+    </message>
+    <message>
+        <source>Applications make their caches again.</source>
+        <translation>Las aplicaciones crean sus cachés de nuevo.</translation>
+    </message>
+    <message>
+        <source>Small pictures of your files. File managers make them again.</source>
+        <translation>Imágenes pequeñas de sus archivos. Los gestores de archivos las crean de nuevo.</translation>
+    </message>
+    <message>
+        <source>The graphics driver compiles shaders again. Games may stutter at first.</source>
+        <translation>El controlador gráfico vuelve a compilar los sombreadores. Los juegos pueden ir a tirones al principio.</translation>
+    </message>
+    <message>
+        <source>Reports of crashes that are a week old. They only help to find the fault.</source>
+        <translation>Informes de fallos de hace una semana. Solo sirven para encontrar el error.</translation>
+    </message>
+    <message>
+        <source>Podman fetches or builds images again. Stopped containers go.</source>
+        <translation>Podman vuelve a descargar o compilar las imágenes. Los contenedores detenidos se eliminan.</translation>
+    </message>
+    <message>
+        <source>They are installed already. The system asks for a password.</source>
+        <translation>Ya están instalados. El sistema pide una contraseña.</translation>
+    </message>
+    <message>
+        <source>Old messages of the system go, the newest stay. It asks for a password.</source>
+        <translation>Los mensajes antiguos del sistema se eliminan y los más recientes se conservan. Se pide una contraseña.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralTab</name>
     <message>
         <source>General</source>
@@ -1612,7 +1735,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>Cerrar</translation>
+        <translation>Terminado</translation>
     </message>
     <message>
         <source>Force-killed</source>
@@ -2044,7 +2167,7 @@
     </message>
     <message>
         <source>Custom Quick Kill presets</source>
-        <translation>Preajustes de cierre rápido propios</translation>
+        <translation>Preajustes propios</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2052,7 +2175,7 @@
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation>Restablecer valores predeterminados</translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>New preset</source>
@@ -2850,7 +2973,7 @@
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>
-        <translation>Claude Code y agentes</translation>
+        <translation>Claude Code &amp; agentes</translation>
     </message>
     <message>
         <source>IDEs</source>
@@ -2866,7 +2989,7 @@
     </message>
     <message>
         <source>Docker &amp; Containers</source>
-        <translation>Docker y contenedores</translation>
+        <translation>Docker &amp; contenedores</translation>
     </message>
     <message>
         <source>Other</source>
@@ -2875,6 +2998,86 @@
     <message>
         <source>System</source>
         <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>Gradle logs (&gt;7d)</source>
+        <translation>Registros de Gradle (&gt;7 d)</translation>
+    </message>
+    <message>
+        <source>Cargo sources and checkouts</source>
+        <translation>Fuentes y repositorios de Cargo</translation>
+    </message>
+    <message>
+        <source>Go build cache</source>
+        <translation>Caché de compilación de Go</translation>
+    </message>
+    <message>
+        <source>Rust toolchains</source>
+        <translation>Cadenas de herramientas de Rust</translation>
+    </message>
+    <message>
+        <source>Conda packages</source>
+        <translation>Paquetes de Conda</translation>
+    </message>
+    <message>
+        <source>Editor caches</source>
+        <translation>Cachés de editores</translation>
+    </message>
+    <message>
+        <source>Local history of JetBrains editors</source>
+        <translation>Historial local de los editores JetBrains</translation>
+    </message>
+    <message>
+        <source>Agent logs (&gt;7d)</source>
+        <translation>Registros de agentes (&gt;7 d)</translation>
+    </message>
+    <message>
+        <source>Agent shell snapshots (&gt;30d)</source>
+        <translation>Instantáneas de shell de agentes (&gt;30 d)</translation>
+    </message>
+    <message>
+        <source>Texts pasted into Claude Code (&gt;30d)</source>
+        <translation>Textos pegados en Claude Code (&gt;30 d)</translation>
+    </message>
+    <message>
+        <source>Hugging Face models</source>
+        <translation>Modelos de Hugging Face</translation>
+    </message>
+    <message>
+        <source>Ollama models</source>
+        <translation>Modelos de Ollama</translation>
+    </message>
+    <message>
+        <source>LM Studio models</source>
+        <translation>Modelos de LM Studio</translation>
+    </message>
+    <message>
+        <source>Flatpak application caches</source>
+        <translation>Cachés de aplicaciones Flatpak</translation>
+    </message>
+    <message>
+        <source>Snap application caches</source>
+        <translation>Cachés de aplicaciones Snap</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniaturas</translation>
+    </message>
+    <message>
+        <source>Shader caches</source>
+        <translation>Cachés de sombreadores</translation>
+    </message>
+    <message>
+        <source>Crash reports (&gt;7d)</source>
+        <translation>Informes de fallos (&gt;7 d)</translation>
+    </message>
+    <message>
+        <source>Downloaded system packages</source>
+        <translation>Paquetes del sistema descargados</translation>
+    </message>
+    <message>
+        <source>System journal over 500 MB</source>
+        <translation>Registro del sistema por encima de 500 MB</translation>
     </message>
     <message>
         <source>CPU% • RAM%</source>

@@ -1042,6 +1042,129 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopTargets</name>
+    <message>
+        <source>Gradle fetches its packages and its own versions again.</source>
+        <translation>Gradle retélécharge ses paquets et ses propres versions.</translation>
+    </message>
+    <message>
+        <source>Old logs of Gradle&apos;s background processes. Gradle writes new ones.</source>
+        <translation>Anciens journaux des processus d’arrière-plan de Gradle. Gradle en écrit de nouveaux.</translation>
+    </message>
+    <message>
+        <source>Maven fetches packages again. Those that were only installed here must be built again.</source>
+        <translation>Maven retélécharge les paquets. Ceux qui n’ont été installés qu’ici doivent être recompilés.</translation>
+    </message>
+    <message>
+        <source>Both fetch their packages again.</source>
+        <translation>Tous deux retéléchargent leurs paquets.</translation>
+    </message>
+    <message>
+        <source>Cargo unpacks sources again, and fetches repositories again.</source>
+        <translation>Cargo redécompresse les sources et retélécharge les dépôts.</translation>
+    </message>
+    <message>
+        <source>Go compiles packages again.</source>
+        <translation>Go recompile les paquets.</translation>
+    </message>
+    <message>
+        <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
+        <translation>Chaînes d’outils autres que celle par défaut. Un projet peut encore en nommer une : rustup la retélécharge, sauf si elle est de vous.</translation>
+    </message>
+    <message>
+        <source>Yarn and Corepack fetch it again.</source>
+        <translation>Yarn et Corepack le retéléchargent.</translation>
+    </message>
+    <message>
+        <source>Conda fetches packages again. Environments keep theirs, unless they are set to link to this folder.</source>
+        <translation>Conda retélécharge les paquets. Les environnements gardent les leurs, sauf s’ils renvoient à ce dossier.</translation>
+    </message>
+    <message>
+        <source>Poetry fetches its packages again. Environments stay.</source>
+        <translation>Poetry retélécharge ses paquets. Les environnements restent.</translation>
+    </message>
+    <message>
+        <source>pre-commit installs its hooks again.</source>
+        <translation>pre-commit réinstalle ses hooks.</translation>
+    </message>
+    <message>
+        <source>Compiled objects. The next builds take longer and fill it again.</source>
+        <translation>Objets compilés. Les prochaines compilations durent plus longtemps et le remplissent de nouveau.</translation>
+    </message>
+    <message>
+        <source>Files that Bazel has fetched. It fetches them again.</source>
+        <translation>Fichiers téléchargés par Bazel. Il les retélécharge.</translation>
+    </message>
+    <message>
+        <source>Conan fetches or builds packages again. Recipes that are only here are gone.</source>
+        <translation>Conan retélécharge ou recompile les paquets. Les recettes qui ne sont qu’ici disparaissent.</translation>
+    </message>
+    <message>
+        <source>vcpkg builds its packages again.</source>
+        <translation>vcpkg recompile ses paquets.</translation>
+    </message>
+    <message>
+        <source>Editors make them again. Settings, open work and history stay.</source>
+        <translation>Les éditeurs les recréent. Paramètres, travail ouvert et historique restent.</translation>
+    </message>
+    <message>
+        <source>Earlier states of your files. Nothing brings them back.</source>
+        <translation>États antérieurs de vos fichiers. Rien ne les ramène.</translation>
+    </message>
+    <message>
+        <source>Logs of coding agents that no agent reads again. Conversations stay.</source>
+        <translation>Journaux d’agents de programmation qu’aucun agent ne relit. Les conversations restent.</translation>
+    </message>
+    <message>
+        <source>Settings of shells for agents that ended long ago. An agent makes its own at its start.</source>
+        <translation>Réglages de shell d’agents terminés depuis longtemps. Un agent crée les siens au démarrage.</translation>
+    </message>
+    <message>
+        <source>Long texts that you pasted. Old prompts in the history refer to them.</source>
+        <translation>Longs textes que vous avez collés. D’anciennes demandes de l’historique y renvoient.</translation>
+    </message>
+    <message>
+        <source>Models and data sets. What is public can be fetched again.</source>
+        <translation>Modèles et jeux de données. Ce qui est public peut être retéléchargé.</translation>
+    </message>
+    <message>
+        <source>All models at once. Those that you made here are gone for good.</source>
+        <translation>Tous les modèles à la fois. Ceux créés ici sont perdus définitivement.</translation>
+    </message>
+    <message>
+        <source>Models. What is public can be fetched again.</source>
+        <translation>Modèles. Ce qui est public peut être retéléchargé.</translation>
+    </message>
+    <message>
+        <source>Applications make their caches again.</source>
+        <translation>Les applications recréent leurs caches.</translation>
+    </message>
+    <message>
+        <source>Small pictures of your files. File managers make them again.</source>
+        <translation>Petites images de vos fichiers. Les gestionnaires de fichiers les recréent.</translation>
+    </message>
+    <message>
+        <source>The graphics driver compiles shaders again. Games may stutter at first.</source>
+        <translation>Le pilote graphique recompile les shaders. Les jeux peuvent saccader au début.</translation>
+    </message>
+    <message>
+        <source>Reports of crashes that are a week old. They only help to find the fault.</source>
+        <translation>Rapports de plantage vieux d’une semaine. Ils ne servent qu’à trouver la panne.</translation>
+    </message>
+    <message>
+        <source>Podman fetches or builds images again. Stopped containers go.</source>
+        <translation>Podman retélécharge ou recompile les images. Les conteneurs arrêtés sont supprimés.</translation>
+    </message>
+    <message>
+        <source>They are installed already. The system asks for a password.</source>
+        <translation>Ils sont déjà installés. Le système demande un mot de passe.</translation>
+    </message>
+    <message>
+        <source>Old messages of the system go, the newest stay. It asks for a password.</source>
+        <translation>Les anciens messages du système sont supprimés, les plus récents restent. Un mot de passe est demandé.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralTab</name>
     <message>
         <source>General</source>
@@ -1612,7 +1735,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>Quitter</translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Force-killed</source>
@@ -2044,7 +2167,7 @@
     </message>
     <message>
         <source>Custom Quick Kill presets</source>
-        <translation>Préréglages d’arrêt rapide personnalisés</translation>
+        <translation>Vos préréglages</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2052,7 +2175,7 @@
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation>Rétablir les valeurs par défaut</translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>New preset</source>
@@ -2850,7 +2973,7 @@
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>
-        <translation>Claude Code et agents</translation>
+        <translation>Claude Code &amp; agents</translation>
     </message>
     <message>
         <source>IDEs</source>
@@ -2866,7 +2989,7 @@
     </message>
     <message>
         <source>Docker &amp; Containers</source>
-        <translation>Docker et conteneurs</translation>
+        <translation>Docker &amp; conteneurs</translation>
     </message>
     <message>
         <source>Other</source>
@@ -2875,6 +2998,86 @@
     <message>
         <source>System</source>
         <translation>Système</translation>
+    </message>
+    <message>
+        <source>Gradle logs (&gt;7d)</source>
+        <translation>Journaux de Gradle (&gt;7 j)</translation>
+    </message>
+    <message>
+        <source>Cargo sources and checkouts</source>
+        <translation>Sources et dépôts de Cargo</translation>
+    </message>
+    <message>
+        <source>Go build cache</source>
+        <translation>Cache de compilation Go</translation>
+    </message>
+    <message>
+        <source>Rust toolchains</source>
+        <translation>Chaînes d’outils Rust</translation>
+    </message>
+    <message>
+        <source>Conda packages</source>
+        <translation>Paquets Conda</translation>
+    </message>
+    <message>
+        <source>Editor caches</source>
+        <translation>Caches des éditeurs</translation>
+    </message>
+    <message>
+        <source>Local history of JetBrains editors</source>
+        <translation>Historique local des éditeurs JetBrains</translation>
+    </message>
+    <message>
+        <source>Agent logs (&gt;7d)</source>
+        <translation>Journaux d’agents (&gt;7 j)</translation>
+    </message>
+    <message>
+        <source>Agent shell snapshots (&gt;30d)</source>
+        <translation>Instantanés de shell d’agents (&gt;30 j)</translation>
+    </message>
+    <message>
+        <source>Texts pasted into Claude Code (&gt;30d)</source>
+        <translation>Textes collés dans Claude Code (&gt;30 j)</translation>
+    </message>
+    <message>
+        <source>Hugging Face models</source>
+        <translation>Modèles Hugging Face</translation>
+    </message>
+    <message>
+        <source>Ollama models</source>
+        <translation>Modèles Ollama</translation>
+    </message>
+    <message>
+        <source>LM Studio models</source>
+        <translation>Modèles LM Studio</translation>
+    </message>
+    <message>
+        <source>Flatpak application caches</source>
+        <translation>Caches d’applications Flatpak</translation>
+    </message>
+    <message>
+        <source>Snap application caches</source>
+        <translation>Caches d’applications Snap</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniatures</translation>
+    </message>
+    <message>
+        <source>Shader caches</source>
+        <translation>Caches de shaders</translation>
+    </message>
+    <message>
+        <source>Crash reports (&gt;7d)</source>
+        <translation>Rapports de plantage (&gt;7 j)</translation>
+    </message>
+    <message>
+        <source>Downloaded system packages</source>
+        <translation>Paquets système téléchargés</translation>
+    </message>
+    <message>
+        <source>System journal over 500 MB</source>
+        <translation>Journal système au-delà de 500 Mo</translation>
     </message>
     <message>
         <source>CPU% • RAM%</source>

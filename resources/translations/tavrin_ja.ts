@@ -1032,6 +1032,129 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopTargets</name>
+    <message>
+        <source>Gradle fetches its packages and its own versions again.</source>
+        <translation>Gradle はパッケージと Gradle 自身の各版を再取得します。</translation>
+    </message>
+    <message>
+        <source>Old logs of Gradle&apos;s background processes. Gradle writes new ones.</source>
+        <translation>Gradle のバックグラウンドプロセスの古いログ。Gradle は新しいログを書きます。</translation>
+    </message>
+    <message>
+        <source>Maven fetches packages again. Those that were only installed here must be built again.</source>
+        <translation>Maven はパッケージを再取得します。ここにだけインストールしたものは再ビルドが必要です。</translation>
+    </message>
+    <message>
+        <source>Both fetch their packages again.</source>
+        <translation>どちらもパッケージを再取得します。</translation>
+    </message>
+    <message>
+        <source>Cargo unpacks sources again, and fetches repositories again.</source>
+        <translation>Cargo はソースを再展開し、リポジトリを再取得します。</translation>
+    </message>
+    <message>
+        <source>Go compiles packages again.</source>
+        <translation>Go はパッケージを再コンパイルします。</translation>
+    </message>
+    <message>
+        <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
+        <translation>既定以外のツールチェーン。プロジェクトが指定している場合は rustup が再取得しますが、自作のものは戻りません。</translation>
+    </message>
+    <message>
+        <source>Yarn and Corepack fetch it again.</source>
+        <translation>Yarn と Corepack が再取得します。</translation>
+    </message>
+    <message>
+        <source>Conda fetches packages again. Environments keep theirs, unless they are set to link to this folder.</source>
+        <translation>Conda はパッケージを再取得します。環境は、このフォルダーへのリンク設定でない限り、自分のパッケージを保持します。</translation>
+    </message>
+    <message>
+        <source>Poetry fetches its packages again. Environments stay.</source>
+        <translation>Poetry はパッケージを再取得します。環境は残ります。</translation>
+    </message>
+    <message>
+        <source>pre-commit installs its hooks again.</source>
+        <translation>pre-commit はフックを再インストールします。</translation>
+    </message>
+    <message>
+        <source>Compiled objects. The next builds take longer and fill it again.</source>
+        <translation>コンパイル済みオブジェクト。次のビルドは長くかかり、再びたまります。</translation>
+    </message>
+    <message>
+        <source>Files that Bazel has fetched. It fetches them again.</source>
+        <translation>Bazel が取得したファイル。Bazel が再取得します。</translation>
+    </message>
+    <message>
+        <source>Conan fetches or builds packages again. Recipes that are only here are gone.</source>
+        <translation>Conan はパッケージを再取得または再ビルドします。ここにしかないレシピは失われます。</translation>
+    </message>
+    <message>
+        <source>vcpkg builds its packages again.</source>
+        <translation>vcpkg はパッケージを再ビルドします。</translation>
+    </message>
+    <message>
+        <source>Editors make them again. Settings, open work and history stay.</source>
+        <translation>エディターが作り直します。設定、作業中のもの、履歴は残ります。</translation>
+    </message>
+    <message>
+        <source>Earlier states of your files. Nothing brings them back.</source>
+        <translation>ファイルの以前の状態。元には戻せません。</translation>
+    </message>
+    <message>
+        <source>Logs of coding agents that no agent reads again. Conversations stay.</source>
+        <translation>もうどのエージェントも読まないコーディングエージェントのログ。会話は残ります。</translation>
+    </message>
+    <message>
+        <source>Settings of shells for agents that ended long ago. An agent makes its own at its start.</source>
+        <translation>とうに終了したエージェントのシェル設定。エージェントは起動時に自分の設定を作ります。</translation>
+    </message>
+    <message>
+        <source>Long texts that you pasted. Old prompts in the history refer to them.</source>
+        <translation>貼り付けた長いテキスト。履歴の古いプロンプトが参照しています。</translation>
+    </message>
+    <message>
+        <source>Models and data sets. What is public can be fetched again.</source>
+        <translation>モデルとデータセット。公開されているものは再取得できます。</translation>
+    </message>
+    <message>
+        <source>All models at once. Those that you made here are gone for good.</source>
+        <translation>すべてのモデルを一度に削除します。ここで作ったものは完全に失われます。</translation>
+    </message>
+    <message>
+        <source>Models. What is public can be fetched again.</source>
+        <translation>モデル。公開されているものは再取得できます。</translation>
+    </message>
+    <message>
+        <source>Applications make their caches again.</source>
+        <translation>アプリはキャッシュを作り直します。</translation>
+    </message>
+    <message>
+        <source>Small pictures of your files. File managers make them again.</source>
+        <translation>ファイルの小さな画像。ファイルマネージャーが作り直します。</translation>
+    </message>
+    <message>
+        <source>The graphics driver compiles shaders again. Games may stutter at first.</source>
+        <translation>グラフィックドライバーがシェーダーを再コンパイルします。ゲームは最初カクつくことがあります。</translation>
+    </message>
+    <message>
+        <source>Reports of crashes that are a week old. They only help to find the fault.</source>
+        <translation>1 週間前のクラッシュレポート。不具合を調べるためだけのものです。</translation>
+    </message>
+    <message>
+        <source>Podman fetches or builds images again. Stopped containers go.</source>
+        <translation>Podman はイメージを再取得または再ビルドします。停止中のコンテナーは削除されます。</translation>
+    </message>
+    <message>
+        <source>They are installed already. The system asks for a password.</source>
+        <translation>すでにインストール済みです。システムがパスワードを求めます。</translation>
+    </message>
+    <message>
+        <source>Old messages of the system go, the newest stay. It asks for a password.</source>
+        <translation>システムの古いメッセージを削除し、最新のものを残します。パスワードを求められます。</translation>
+    </message>
+</context>
+<context>
     <name>GeneralTab</name>
     <message>
         <source>General</source>
@@ -1598,7 +1721,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>終了</translation>
+        <translation>終了しました</translation>
     </message>
     <message>
         <source>Force-killed</source>
@@ -2849,6 +2972,86 @@
     <message>
         <source>System</source>
         <translation>システム</translation>
+    </message>
+    <message>
+        <source>Gradle logs (&gt;7d)</source>
+        <translation>Gradle のログ (&gt;7 日)</translation>
+    </message>
+    <message>
+        <source>Cargo sources and checkouts</source>
+        <translation>Cargo のソースとチェックアウト</translation>
+    </message>
+    <message>
+        <source>Go build cache</source>
+        <translation>Go のビルドキャッシュ</translation>
+    </message>
+    <message>
+        <source>Rust toolchains</source>
+        <translation>Rust のツールチェーン</translation>
+    </message>
+    <message>
+        <source>Conda packages</source>
+        <translation>Conda のパッケージ</translation>
+    </message>
+    <message>
+        <source>Editor caches</source>
+        <translation>エディターのキャッシュ</translation>
+    </message>
+    <message>
+        <source>Local history of JetBrains editors</source>
+        <translation>JetBrains エディターのローカル履歴</translation>
+    </message>
+    <message>
+        <source>Agent logs (&gt;7d)</source>
+        <translation>エージェントのログ (&gt;7 日)</translation>
+    </message>
+    <message>
+        <source>Agent shell snapshots (&gt;30d)</source>
+        <translation>エージェントのシェル状態 (&gt;30 日)</translation>
+    </message>
+    <message>
+        <source>Texts pasted into Claude Code (&gt;30d)</source>
+        <translation>Claude Code に貼り付けたテキスト (&gt;30 日)</translation>
+    </message>
+    <message>
+        <source>Hugging Face models</source>
+        <translation>Hugging Face のモデル</translation>
+    </message>
+    <message>
+        <source>Ollama models</source>
+        <translation>Ollama のモデル</translation>
+    </message>
+    <message>
+        <source>LM Studio models</source>
+        <translation>LM Studio のモデル</translation>
+    </message>
+    <message>
+        <source>Flatpak application caches</source>
+        <translation>Flatpak アプリのキャッシュ</translation>
+    </message>
+    <message>
+        <source>Snap application caches</source>
+        <translation>Snap アプリのキャッシュ</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>サムネイル</translation>
+    </message>
+    <message>
+        <source>Shader caches</source>
+        <translation>シェーダーキャッシュ</translation>
+    </message>
+    <message>
+        <source>Crash reports (&gt;7d)</source>
+        <translation>クラッシュレポート (&gt;7 日)</translation>
+    </message>
+    <message>
+        <source>Downloaded system packages</source>
+        <translation>ダウンロード済みシステムパッケージ</translation>
+    </message>
+    <message>
+        <source>System journal over 500 MB</source>
+        <translation>500 MB を超えるシステムジャーナル</translation>
     </message>
     <message>
         <source>CPU% • RAM%</source>

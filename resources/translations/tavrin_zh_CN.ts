@@ -1032,6 +1032,129 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopTargets</name>
+    <message>
+        <source>Gradle fetches its packages and its own versions again.</source>
+        <translation>Gradle 会重新获取其软件包和自身的各版本。</translation>
+    </message>
+    <message>
+        <source>Old logs of Gradle&apos;s background processes. Gradle writes new ones.</source>
+        <translation>Gradle 后台进程的旧日志。Gradle 会写入新的日志。</translation>
+    </message>
+    <message>
+        <source>Maven fetches packages again. Those that were only installed here must be built again.</source>
+        <translation>Maven 会重新获取软件包。仅在本地安装的必须重新构建。</translation>
+    </message>
+    <message>
+        <source>Both fetch their packages again.</source>
+        <translation>两者都会重新获取各自的软件包。</translation>
+    </message>
+    <message>
+        <source>Cargo unpacks sources again, and fetches repositories again.</source>
+        <translation>Cargo 会重新解压源代码并重新获取仓库。</translation>
+    </message>
+    <message>
+        <source>Go compiles packages again.</source>
+        <translation>Go 会重新编译软件包。</translation>
+    </message>
+    <message>
+        <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
+        <translation>非默认的工具链。项目可能仍会指定其中之一：rustup 会重新获取，但您自己的除外。</translation>
+    </message>
+    <message>
+        <source>Yarn and Corepack fetch it again.</source>
+        <translation>Yarn 和 Corepack 会重新获取。</translation>
+    </message>
+    <message>
+        <source>Conda fetches packages again. Environments keep theirs, unless they are set to link to this folder.</source>
+        <translation>Conda 会重新获取软件包。环境会保留各自的软件包，除非设置为链接到此文件夹。</translation>
+    </message>
+    <message>
+        <source>Poetry fetches its packages again. Environments stay.</source>
+        <translation>Poetry 会重新获取其软件包。环境会保留。</translation>
+    </message>
+    <message>
+        <source>pre-commit installs its hooks again.</source>
+        <translation>pre-commit 会重新安装其钩子。</translation>
+    </message>
+    <message>
+        <source>Compiled objects. The next builds take longer and fill it again.</source>
+        <translation>编译生成的目标文件。接下来的构建会更久，并重新填充缓存。</translation>
+    </message>
+    <message>
+        <source>Files that Bazel has fetched. It fetches them again.</source>
+        <translation>Bazel 获取的文件。它会重新获取。</translation>
+    </message>
+    <message>
+        <source>Conan fetches or builds packages again. Recipes that are only here are gone.</source>
+        <translation>Conan 会重新获取或构建软件包。仅存于此的配方会丢失。</translation>
+    </message>
+    <message>
+        <source>vcpkg builds its packages again.</source>
+        <translation>vcpkg 会重新构建其软件包。</translation>
+    </message>
+    <message>
+        <source>Editors make them again. Settings, open work and history stay.</source>
+        <translation>编辑器会重新生成。设置、未完成的工作和历史会保留。</translation>
+    </message>
+    <message>
+        <source>Earlier states of your files. Nothing brings them back.</source>
+        <translation>您文件的早期状态。删除后无法恢复。</translation>
+    </message>
+    <message>
+        <source>Logs of coding agents that no agent reads again. Conversations stay.</source>
+        <translation>不会再有代理读取的编程代理日志。对话会保留。</translation>
+    </message>
+    <message>
+        <source>Settings of shells for agents that ended long ago. An agent makes its own at its start.</source>
+        <translation>早已结束的代理的 shell 设置。代理启动时会生成自己的设置。</translation>
+    </message>
+    <message>
+        <source>Long texts that you pasted. Old prompts in the history refer to them.</source>
+        <translation>您粘贴的长文本。历史中的旧提示会引用它们。</translation>
+    </message>
+    <message>
+        <source>Models and data sets. What is public can be fetched again.</source>
+        <translation>模型和数据集。公开的内容可以重新获取。</translation>
+    </message>
+    <message>
+        <source>All models at once. Those that you made here are gone for good.</source>
+        <translation>一次删除全部模型。您在此创建的将永久丢失。</translation>
+    </message>
+    <message>
+        <source>Models. What is public can be fetched again.</source>
+        <translation>模型。公开的内容可以重新获取。</translation>
+    </message>
+    <message>
+        <source>Applications make their caches again.</source>
+        <translation>应用会重新生成缓存。</translation>
+    </message>
+    <message>
+        <source>Small pictures of your files. File managers make them again.</source>
+        <translation>您文件的小图片。文件管理器会重新生成。</translation>
+    </message>
+    <message>
+        <source>The graphics driver compiles shaders again. Games may stutter at first.</source>
+        <translation>显卡驱动会重新编译着色器。游戏起初可能卡顿。</translation>
+    </message>
+    <message>
+        <source>Reports of crashes that are a week old. They only help to find the fault.</source>
+        <translation>一周前的崩溃报告。它们只用于查找故障。</translation>
+    </message>
+    <message>
+        <source>Podman fetches or builds images again. Stopped containers go.</source>
+        <translation>Podman 会重新获取或构建镜像。已停止的容器会删除。</translation>
+    </message>
+    <message>
+        <source>They are installed already. The system asks for a password.</source>
+        <translation>它们已经安装。系统会要求输入密码。</translation>
+    </message>
+    <message>
+        <source>Old messages of the system go, the newest stay. It asks for a password.</source>
+        <translation>删除系统的旧消息，保留最新的。会要求输入密码。</translation>
+    </message>
+</context>
+<context>
     <name>GeneralTab</name>
     <message>
         <source>General</source>
@@ -1598,7 +1721,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>退出</translation>
+        <translation>已退出</translation>
     </message>
     <message>
         <source>Force-killed</source>
@@ -2218,7 +2341,7 @@
     </message>
     <message>
         <source>Idle agent — %1 in %2</source>
-        <translation>空闲的代理 — %1，位于 %2</translation>
+        <translation>空闲的代理 — %2 中的 %1</translation>
     </message>
     <message>
         <source>Idle %1 min, %2 RAM. Quit?</source>
@@ -2326,7 +2449,7 @@
     </message>
     <message>
         <source>in use by %1 in %2</source>
-        <translation>正被 %1 使用，位于 %2</translation>
+        <translation>正被 %2 中的 %1 使用</translation>
     </message>
     <message>
         <source>runs in the container %1</source>
@@ -2353,7 +2476,7 @@
     <name>Session</name>
     <message>
         <source>%1 in %2</source>
-        <translation>%1，位于 %2</translation>
+        <translation>%2 中的 %1</translation>
     </message>
 </context>
 <context>
@@ -2849,6 +2972,86 @@
     <message>
         <source>System</source>
         <translation>系统</translation>
+    </message>
+    <message>
+        <source>Gradle logs (&gt;7d)</source>
+        <translation>Gradle 日志（&gt;7 天）</translation>
+    </message>
+    <message>
+        <source>Cargo sources and checkouts</source>
+        <translation>Cargo 源代码和检出</translation>
+    </message>
+    <message>
+        <source>Go build cache</source>
+        <translation>Go 构建缓存</translation>
+    </message>
+    <message>
+        <source>Rust toolchains</source>
+        <translation>Rust 工具链</translation>
+    </message>
+    <message>
+        <source>Conda packages</source>
+        <translation>Conda 软件包</translation>
+    </message>
+    <message>
+        <source>Editor caches</source>
+        <translation>编辑器缓存</translation>
+    </message>
+    <message>
+        <source>Local history of JetBrains editors</source>
+        <translation>JetBrains 编辑器的本地历史</translation>
+    </message>
+    <message>
+        <source>Agent logs (&gt;7d)</source>
+        <translation>代理日志（&gt;7 天）</translation>
+    </message>
+    <message>
+        <source>Agent shell snapshots (&gt;30d)</source>
+        <translation>代理 shell 快照（&gt;30 天）</translation>
+    </message>
+    <message>
+        <source>Texts pasted into Claude Code (&gt;30d)</source>
+        <translation>粘贴到 Claude Code 的文本（&gt;30 天）</translation>
+    </message>
+    <message>
+        <source>Hugging Face models</source>
+        <translation>Hugging Face 模型</translation>
+    </message>
+    <message>
+        <source>Ollama models</source>
+        <translation>Ollama 模型</translation>
+    </message>
+    <message>
+        <source>LM Studio models</source>
+        <translation>LM Studio 模型</translation>
+    </message>
+    <message>
+        <source>Flatpak application caches</source>
+        <translation>Flatpak 应用缓存</translation>
+    </message>
+    <message>
+        <source>Snap application caches</source>
+        <translation>Snap 应用缓存</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>缩略图</translation>
+    </message>
+    <message>
+        <source>Shader caches</source>
+        <translation>着色器缓存</translation>
+    </message>
+    <message>
+        <source>Crash reports (&gt;7d)</source>
+        <translation>崩溃报告（&gt;7 天）</translation>
+    </message>
+    <message>
+        <source>Downloaded system packages</source>
+        <translation>已下载的系统软件包</translation>
+    </message>
+    <message>
+        <source>System journal over 500 MB</source>
+        <translation>超过 500 MB 的系统日志</translation>
     </message>
     <message>
         <source>CPU% • RAM%</source>

@@ -2,6 +2,8 @@
 
 #include "Core/Announcements/MessageCenter.h"
 #include "Core/Formatters.h"
+#include "Platform/CleanupTargets.h"
+#include "Platform/Platform.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupConfirmation.h"
 #include "UI/FakeDesktop.h"
@@ -27,22 +29,59 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QTreeView>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Puts brackets around every text that is looked up.
+/// Puts brackets around every text that is looked up, and keeps "CONTEXT|TEXT".
 class Brackets : public QTranslator {
 public:
-    QString translate(const char*, const char* text, const char*, int) const override {
+    QString translate(const char* context, const char* text, const char*, int) const override {
+        lookedUp.insert(QString::fromUtf8(context) + u'|' + QString::fromUtf8(text));
         return u'[' + QString::fromUtf8(text) + u']';
     }
     bool isEmpty() const override { return false; }
+
+    mutable QSet<QString> lookedUp;
 };
+
+/// Returns "CONTEXT|TEXT" of each text that lupdate finds in the sources, and so gives to a translator.
+QSet<QString> extracted() {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"all.ts"_s);
+    const QString sources = QStringLiteral(TAVRIN_SOURCE_DIR) + u"/src"_s;
+    EXPECT_EQ(QProcess::execute(QStringLiteral(TAVRIN_LUPDATE),
+                                {u"-silent"_s, sources, u"-I"_s, sources, u"-ts"_s, path}),
+              0);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QSet<QString> found;
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name")
+            context = xml.readElementText();
+        else if (xml.name() == u"source")
+            found.insert(context + u'|' + xml.readElementText());
+    }
+    return found;
+}
+
+/// Returns whether the context is a class of Qt or that of names, some of which are the same in every
+/// language.
+bool isForeign(const QString& lookedUp) {
+    static const QRegularExpression foreign(u"^(Q[A-Z]|Translations\\|)"_s);
+    return foreign.match(lookedUp).hasMatch();
+}
 
 /// Names of programs, products, presets and languages, which are the same in every language.
 QStringList names() {
@@ -135,7 +174,13 @@ struct TranslationsTest : ModelFixture {
         addProcesses(6, "worker", quint64(1) << 30);
         tick();
     }
-    void TearDown() override { QCoreApplication::removeTranslator(&brackets); }
+    void TearDown() override {
+        QCoreApplication::removeTranslator(&brackets);
+        static const QSet<QString> known = extracted();
+        EXPECT_GT(known.size(), 600);
+        for (const QString& text : brackets.lookedUp - known)
+            EXPECT_TRUE(isForeign(text)) << "no translator sees " << qPrintable(text);
+    }
 };
 
 } // namespace
@@ -205,4 +250,9 @@ TEST_F(TranslationsTest, TheTrayAndTheWidget) {
     for (const QAction* action : desktop.statusItem->menu->actions())
         EXPECT_FALSE(hasLetters(untranslated(action->text()))) << qPrintable(action->text());
     EXPECT_TRUE(desktop.statusItem->content.title.startsWith(u'['));
+}
+
+TEST_F(TranslationsTest, TheCleanupTargetsOfTheSystem) {
+    for (const PlatformTarget& target : Platform::native().cleanupTargets->all())
+        EXPECT_FALSE(hasLetters(untranslated(target.reason))) << qPrintable(target.reason);
 }

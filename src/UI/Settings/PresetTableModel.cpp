@@ -27,7 +27,7 @@ const PresetColumn& PresetTableModel::column(int index) {
          .width = 114,
          .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.pattern); }},
         {.title = QT_TRANSLATE_NOOP("Columns", "Idle≥"),
-         .width = 50,
+         .width = 60,
          .alignment = Qt::AlignRight,
          .text = [](const QuickKillPreset& preset) { return tr("%1m").arg(whole(preset.minIdleMinutes)); }},
         {.title = QT_TRANSLATE_NOOP("Columns", "RAM≥"),
