@@ -2,6 +2,7 @@
 #include "Screens.h"
 #include "Stage.h"
 
+#include "Core/Translations.h"
 #include "Platform/CleanupTargets.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CleanupView.h"
@@ -70,7 +71,7 @@ void addSystemTargets(Stage& stage) {
 
 void shootLeftovers(Camera& camera, MainWindow& window) {
     for (CacheCard* card : window.findChildren<CacheCard*>()) {
-        if (card->accessibleName().startsWith(u"Project leftovers"_s))
+        if (card->accessibleName().startsWith(Translations::of(u"Project leftovers"_s)))
             card->click();
     }
     auto* sheet = window.findChild<ProjectLeftoversSheet*>();

@@ -2,6 +2,7 @@
 #include "Screens.h"
 #include "Stage.h"
 
+#include "Core/Translations.h"
 #include "UI/Cleanup/CacheCard.h"
 #include "UI/Cleanup/CacheDetailDrawer.h"
 #include "UI/Cleanup/CleanupView.h"
@@ -26,7 +27,7 @@ namespace {
 
 void shootTarget(Camera& camera, MainWindow& window, const QString& target, const QString& suffix) {
     for (CacheCard* card : window.findChildren<CacheCard*>()) {
-        if (card->accessibleName().startsWith(target))
+        if (card->accessibleName().startsWith(Translations::of(target)))
             card->click();
     }
     auto* drawer = window.findChild<CacheDetailDrawer*>();
@@ -41,7 +42,7 @@ void shootTarget(Camera& camera, MainWindow& window, const QString& target, cons
 /// Takes the question, the run, and the result of a run that was cancelled.
 void shootCleanAll(Camera& camera, MainWindow& window, Stage& stage) {
     const CleanupView& view = *window.findChild<CleanupView*>();
-    press(view, u"Clean All"_s);
+    press(view, CleanupView::tr("Clean All"));
     auto* dialog = window.findChild<ConfirmDialog*>();
     camera.take(*dialog, u"cleanup-confirm-all"_s);
     stage.fakes.tools->suspended = true;
@@ -85,7 +86,7 @@ void shootOtherSections(Camera& camera, MainWindow& window, Stage& stage) {
     stage.play(90, 24, 8.1);
     camera.take(window, u"cleanup"_s);
     for (const auto& [target, name] : {std::pair(u"npm /"_s, u""_s), std::pair(u"Docker"_s, u"-docker"_s),
-                                       std::pair(u"Old Downloads"_s, u"-files"_s)})
+                                       std::pair(u"Old Downloads (>30d)"_s, u"-files"_s)})
         shootTarget(camera, window, target, name);
     shootCleanAll(camera, window, stage);
     root->select(RootView::Tab::processes);

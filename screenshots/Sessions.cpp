@@ -6,6 +6,7 @@
 #include "UI/MainWindow.h"
 #include "UI/RootView.h"
 #include "UI/SampleSessions.h"
+#include "UI/Sessions/SessionActions.h"
 #include "UI/Sessions/SessionDialogs.h"
 #include "UI/Sessions/SessionHeader.h"
 #include "UI/Sessions/SessionResultView.h"
@@ -69,8 +70,8 @@ void shootDialogs(Camera& camera, MainWindow& window, const SessionReport& repor
     auto* view = window.findChild<SessionsView*>();
     const Session& session = report.sessions.first();
     SessionDialogs::askEnd(&window, view,
-                           {.title = u"End %1?"_s.arg(session.title()),
-                            .button = u"End session"_s,
+                           {.title = SessionActions::tr("End %1?").arg(session.title()),
+                            .button = SessionActions::tr("End session"),
                             .ending = SampleSessions::endingOf(session),
                             .processes = session.processes},
                            [] {});
@@ -128,7 +129,7 @@ void shootSessions(Camera& camera) {
     camera.take(window, u"sessions-leftovers"_s);
     view->addResult(resultOf(report.sessions.first()));
     camera.take(window, u"sessions-result"_s);
-    press(*view, u"Dismiss"_s);
+    press(*view, SessionResultView::tr("Dismiss"));
     view->findChild<QLineEdit*>()->setText(u"nothing like this"_s);
     camera.take(window, u"sessions-no-match"_s);
     view->findChild<QLineEdit*>()->clear();

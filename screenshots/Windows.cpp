@@ -80,10 +80,10 @@ void shootHistory(Camera& camera) {
     auto* table = tab.findChild<QTreeView*>();
     table->setCurrentIndex(table->model()->index(2, 0));
     camera.take(tab, u"history"_s);
-    press(tab, u"Clear log"_s);
+    press(tab, HistoryTab::tr("Clear log"));
     camera.take(*tab.findChild<ConfirmDialog*>(), u"history-clear"_s);
     delete tab.findChild<ConfirmDialog*>();
-    press(tab, u"Export CSV…"_s);
+    press(tab, HistoryTab::tr("Export CSV…"));
     camera.take(*tab.findChild<QFileDialog*>(), u"history-export"_s);
     delete tab.findChild<QFileDialog*>();
     table->sortByColumn(4, Qt::AscendingOrder);
