@@ -117,4 +117,7 @@ TEST(MemoryLineUpTest, ThePartsOfTheUsedMemory) {
     EXPECT_TRUE(MemoryLineUp::of(untold, {mine, other}, 1000).lines().isEmpty());
     other.memory = nullptr;
     EXPECT_TRUE(MemoryLineUp::of(sample, {mine, other}, 1000).lines().isEmpty());
+    other.anonymousBytes = 2 * MiB;
+    EXPECT_EQ(MemoryLineUp::of(sample, {mine, other}, 1000).lines().first(3),
+              (QStringList{u"Groups ≈ 4 MB"_s, u"of these, caches of files −1 MB"_s, u"Other users 2 MB"_s}));
 }

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString line(const char* part, const QString& figure) {
@@ -27,15 +29,19 @@ MemoryLineUp MemoryLineUp::of(const SystemSample& sample, const QList<ProcSample
                         .isKnown = sample.memProgramBytes && !processes.isEmpty()};
     for (const ProcSample& process : processes) {
         const ProcessMemoryUse use = process.memory ? process.memory->use : ProcessMemoryUse();
-        const quint64 anonymous = use.anonymousBytes.value_or(0);
+        const bool isRead = use != ProcessMemoryUse();
+        const quint64 anonymous =
+            use.anonymousBytes.value_or(isRead ? 0 : process.anonymousBytes.value_or(0));
         if (process.uid == userId || use.proportionalBytes) {
             const quint64 share = use.proportionalBytes.value_or(anonymous);
             lineUp.groupBytes += share;
-            lineUp.cacheBytes += share - std::min(share, use.proportionalDirtyBytes.value_or(share));
+            const quint64 dirty = use.proportionalDirtyBytes.value_or(share);
+            lineUp.cacheBytes += share - std::min(share, dirty);
         } else {
             lineUp.otherBytes += anonymous;
         }
-        lineUp.isKnown &= use != ProcessMemoryUse();
+        lineUp.isKnown &= isRead || process.anonymousBytes;
+        lineUp.isAbout |= !isRead;
     }
     return lineUp;
 }
@@ -50,7 +56,8 @@ QStringList MemoryLineUp::lines() const {
         return {};
     const qint64 rest = restBytes();
     const QString size = Formatters::bytes(static_cast<quint64>(std::abs(rest)));
-    return {line(QT_TRANSLATE_NOOP("MemoryLineUp", "Groups %1"), groupBytes),
+    const QString groups = (isAbout ? u"≈ "_s : QString()) + Formatters::bytes(groupBytes);
+    return {line(QT_TRANSLATE_NOOP("MemoryLineUp", "Groups %1"), groups),
             line(QT_TRANSLATE_NOOP("MemoryLineUp", "of these, caches of files −%1"), cacheBytes),
             line(QT_TRANSLATE_NOOP("MemoryLineUp", "Other users %1"), otherBytes),
             line(QT_TRANSLATE_NOOP("MemoryLineUp", "Kernel %1"), kernelBytes),

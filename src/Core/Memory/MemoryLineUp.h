@@ -13,7 +13,8 @@ struct MemoryLineUp {
     quint64 cacheBytes = 0;  ///< of these, clean pages of files, which the system counts as available
     quint64 otherBytes = 0;  ///< anonymous memory of the processes of other users
     quint64 kernelBytes = 0; ///< and what it keeps in reserve
-    bool isKnown = false;    ///< false while a process is not read
+    bool isKnown = false;    ///< false while of a process only the resident size is known
+    bool isAbout = false;    ///< processes are not read, and their own anonymous memory stands for them
 
     /// `userId` is the user whose processes can be read whole.
     static MemoryLineUp of(const SystemSample& sample, const QList<ProcSample>& processes, quint32 userId);
