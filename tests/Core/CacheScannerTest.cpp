@@ -3,10 +3,10 @@
 #include "support/Each.h"
 #include "support/FakePlatform.h"
 #include "support/Listing.h"
+#include "support/PlacesThatHang.h"
 #include "support/TemporaryHome.h"
 
 #include <QElapsedTimer>
-#include <QSemaphore>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -220,24 +220,6 @@ TEST_F(CacheScannerTest, MeasuresAllTargetsAtOnceAndReturnsThemLargestFirst) {
     EXPECT_EQ(each(QCoro::waitFor(scan), &CacheTarget::name),
               QStringList({u"largest"_s, u"equal two"_s, u"equal one"_s, u"hangs"_s}));
 }
-
-/// Does not answer for one path, as a file server that is gone, until it is destroyed.
-class PlacesThatHang : public Places {
-public:
-    QString silent;
-
-    QList<Place> locate(const QString& path) const override {
-        if (path == silent) {
-            m_hangs.acquire();
-            m_hangs.release();
-        }
-        return {Place{path}};
-    }
-    void answer() { m_hangs.release(); }
-
-private:
-    mutable QSemaphore m_hangs;
-};
 
 TEST_F(CacheScannerTest, AFileServerThatIsGoneHoldsUpNothingElse) {
     const auto hanging = std::make_shared<PlacesThatHang>();

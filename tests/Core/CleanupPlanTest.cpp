@@ -1,4 +1,5 @@
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 
 #include "support/Each.h"
 #include "support/FakePlaces.h"
@@ -28,23 +29,26 @@ TEST(CleanupPlan, CountsOnceWhatSeveralTargetsContain) {
     const QString namesake = home.makeFolder(u"caches of mine"_s);
     const QString mounted = home.makeFolder(u"caches/mounted"_s);
     const QString downloads = home.makeFolder(u"downloads"_s);
-    const QByteArray here = listingOf({});
+    const auto here = [](quint64 bytes) { return withTotal(listingOf({}), bytes); };
     QList<CacheTarget> targets = {
-        scanned(u"logs"_s, {}, {{logs, 10, here}}),
-        scanned(u"caches"_s, {}, {{caches, 1000, here}}),
-        scanned(u"uv"_s, {}, {{uv, 100, here}, {namesake, 7, here}, {mounted, 50, listingOf({}, "65")}}),
-        scanned(u"caches again"_s, {}, {{caches, 1000, here}}),
+        scanned(u"logs"_s, {}, {{logs, 10, here(10)}}),
+        scanned(u"caches"_s, {}, {{caches, 1000, here(1000)}}),
+        scanned(u"uv"_s, {},
+                {{uv, 100, here(100)},
+                 {namesake, 7, here(7)},
+                 {mounted, 50, withTotal(listingOf({}, "65"), 50)}}),
+        scanned(u"caches again"_s, {}, {{caches, 1000, here(1000)}}),
         scanned(u"old"_s, weekOldFiles,
                 {{home.path(), 35, listingOf({{"caches/a", 5}, {"downloads/b", 30}})}}),
         scanned(u"older"_s, weekOldFiles, {{downloads, 34, listingOf({{"b", 30}, {"c", 4}})}}),
     };
-    CleanupPlan::markShared(targets);
+    CleanupOverlap::mark(targets);
     EXPECT_EQ(each(targets, &CacheTarget::sharedBytes), QList<quint64>({10, 0, 100, 1000, 5, 30}));
-    EXPECT_EQ(CleanupPlan::totalBytes(targets), 1000U + 7 + 50 + 30 + 4);
+    EXPECT_EQ(CleanupOverlap::totalBytes(targets), 1000U + 7 + 50 + 30 + 4);
 
     QList<CacheTarget> some = {targets[0], targets[2], targets[5]};
-    CleanupPlan::markShared(some);
-    EXPECT_EQ(CleanupPlan::totalBytes(some), 100U + 7 + 50 + 34) << "nothing else is to go";
+    CleanupOverlap::mark(some);
+    EXPECT_EQ(CleanupOverlap::totalBytes(some), 100U + 7 + 50 + 34) << "nothing else is to go";
 }
 
 TEST(CleanupPlan, NamesTheLargestEntries) {

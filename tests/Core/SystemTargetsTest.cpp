@@ -1,5 +1,6 @@
 #include "Core/ReliefFixture.h"
 #include "support/Listing.h"
+#include "support/PlacesThatHang.h"
 
 #include <QRegularExpression>
 
@@ -133,6 +134,24 @@ TEST_F(SystemTargetsTest, CleanAllLeavesOutAndKeepsWhatIsSomebodysWork) {
     const auto removals = tools->commandLines().filter(u"cleanup remove"_s);
     EXPECT_EQ(removals.size(), 2);
     EXPECT_EQ(removals.last().count(models), 1) << "what a person chose is not kept";
+}
+
+TEST_F(SystemTargetsTest, NothingGoesWhileItIsUnknownWhereSomebodysWorkIs) {
+    const auto places = std::make_shared<PlacesThatHang>();
+    places->silent = home.path(u"caches/models"_s);
+    Platform platform = fakes.platform();
+    platform.places = places;
+    CacheCleanup cleanup(platform, model->actionLog(), settings.preferences, std::chrono::milliseconds(50));
+    const CacheTarget first = cleanup.targets().constFirst();
+    QCoro::waitFor(cleanup.rescan());
+    const QString reason = places->silent + u" does not answer."_s;
+    for (const CacheTarget& one : cleanup.targets())
+        EXPECT_EQ(one.notes, QStringList(reason)) << one.name.toStdString();
+    EXPECT_FALSE(cleanup.isScanning());
+    QCoro::waitFor(cleanup.cleanAll({first}));
+    EXPECT_TRUE(tools->requests.isEmpty());
+    EXPECT_EQ(cleanup.report().failures, (QList<CleanupFailure>{{first.name, reason}}));
+    places->answer();
 }
 
 TEST_F(SystemTargetsTest, TheirOwnCommandsAndRulesAreUsed) {

@@ -1,6 +1,6 @@
 #include "Core/Alerts/RulesEngine.h"
 
-#include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Formatters.h"
 #include "Core/Sampling/ProcessFilter.h"
 #include "Core/Translations.h"
@@ -266,7 +266,7 @@ std::optional<Alert> cachesAlert(const QList<CacheTarget>& caches, const Prefere
     const auto limit = gigabytes(prefs.alertCachesBigGB());
     if (!prefs.alertCachesBigEnabled() || caches.isEmpty() || !limit)
         return std::nullopt;
-    const quint64 total = CleanupPlan::totalBytes(caches);
+    const quint64 total = CleanupOverlap::totalBytes(caches);
     QStringList big;
     for (const CacheTarget& target : caches) {
         if (target.sizeBytes > *limit / static_cast<quint64>(caches.size()))

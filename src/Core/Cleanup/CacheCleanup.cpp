@@ -2,8 +2,8 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CacheScanner.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Core/Cleanup/PlaceFinder.h"
 #include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/Places.h"
@@ -13,6 +13,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -26,10 +27,12 @@ QList<CacheTarget> without(QList<CacheTarget> targets, const QStringList& exclud
 
 } // namespace
 
-CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences)
+CacheCleanup::CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences,
+                           std::chrono::milliseconds patience)
     : m_platform(platform)
     , m_log(log)
-    , m_preferences(preferences) {
+    , m_preferences(preferences)
+    , m_patience(patience) {
     for (const PlatformTarget& target : m_platform.cleanupTargets->all())
         m_targets.append(CacheTarget::of(target));
     findReclaimable();
@@ -54,16 +57,19 @@ QList<CacheTarget> CacheCleanup::shownTargets() const {
 QCoro::Task<> CacheCleanup::lookForPlaces() {
     const QPointer<CacheCleanup> self(this);
     const QList<CacheTarget> targets = m_targets;
-    QSet<QString> found;
+    std::vector<std::pair<QString, PlaceFinder::Finding>> findings;
     for (const CacheTarget& target : targets) {
-        if (target.lastScanned || target.rule.measure == CleanupRule::Measure::command)
-            continue;
-        auto finding = PlaceFinder::find(target.paths, m_platform.places);
+        if (!target.lastScanned && target.rule.measure != CleanupRule::Measure::command)
+            findings.emplace_back(target.name,
+                                  PlaceFinder::find(target.paths, m_platform.places, m_patience));
+    }
+    QSet<QString> found;
+    for (auto& [name, finding] : findings) {
         const Result<QList<FoundPlace>> places = co_await finding;
         if (!self)
             co_return;
         if (!places.value.isEmpty())
-            found.insert(target.name);
+            found.insert(name);
     }
     if (found == m_found)
         co_return;
@@ -74,21 +80,25 @@ QCoro::Task<> CacheCleanup::lookForPlaces() {
 void CacheCleanup::findReclaimable() {
     m_reclaimable = shownTargets();
     m_reclaimable.removeIf([](const CacheTarget& target) { return !target.isInCleanAll; });
-    CleanupPlan::markShared(m_reclaimable);
+    CleanupOverlap::mark(m_reclaimable);
 }
 
 /// Returns the targets with what stays of each by now. A folder that holds somebody's work keeps it when it
-/// is emptied: models are among the user's caches.
-QCoro::Task<QList<CacheTarget>> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
+/// is emptied: models are among the user's caches. So nothing may go while a place of such work is unknown.
+QCoro::Task<Result<QList<CacheTarget>>> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
     QHash<QString, QStringList> keptOf;
-    QStringList data;
+    std::vector<PlaceFinder::Finding> findings;
     const QList<PlatformTarget> ofSystem = m_platform.cleanupTargets->all();
     for (const PlatformTarget& target : ofSystem) {
         keptOf[target.name] = target.kept;
-        if (!target.isData)
-            continue;
-        auto finding = PlaceFinder::find(target.paths, m_platform.places);
+        if (target.isData)
+            findings.push_back(PlaceFinder::find(target.paths, m_platform.places, m_patience));
+    }
+    QStringList data;
+    for (PlaceFinder::Finding& finding : findings) {
         const Result<QList<FoundPlace>> places = co_await finding;
+        if (!places.done)
+            co_return {Outcome::failure(places.reason), targets};
         for (const FoundPlace& found : places.value)
             data.append(found.place.path);
     }
@@ -97,7 +107,7 @@ QCoro::Task<QList<CacheTarget>> CacheCleanup::withWhatStays(QList<CacheTarget> t
         const QStringList kept = keptOf.value(target.name) + (isData ? QStringList() : data);
         target.rule.kept.assign(kept.begin(), kept.end());
     }
-    co_return targets;
+    co_return {Outcome::success(), targets};
 }
 
 QCoro::Task<> CacheCleanup::rescan() {
@@ -107,18 +117,25 @@ QCoro::Task<> CacheCleanup::rescan() {
     const QString first = total > 0 ? m_targets.first().name : QString();
     publish(m_scanProgress, std::optional(CleanupProgress{first, 0, total}));
 
-    CacheScanner scanner(m_platform, [self, scan](const CleanupProgress& progress) {
+    const auto tell = [self, scan](const CleanupProgress& progress) {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
-    });
+    };
+    CacheScanner scanner(m_platform, tell, m_patience);
     auto looking = withWhatStays(m_targets);
-    const QList<CacheTarget> targets = co_await looking;
+    const Result<QList<CacheTarget>> known = co_await looking;
     if (!self || m_scansBegun != scan)
         co_return;
-    auto scanning = scanner.scan(without(targets, m_preferences.cleanupExcludes()));
-    const QList<CacheTarget> measured = co_await scanning;
-    if (!self || m_scansBegun != scan)
-        co_return;
+    QList<CacheTarget> measured = m_targets;
+    if (known.done) {
+        auto scanning = scanner.scan(without(known.value, m_preferences.cleanupExcludes()));
+        measured = co_await scanning;
+        if (!self || m_scansBegun != scan)
+            co_return;
+    } else {
+        for (CacheTarget& target : measured)
+            target.notes = QStringList(known.reason);
+    }
     publish(m_targets, measured);
     findReclaimable();
     publish(m_scanProgress, std::optional<CleanupProgress>());
@@ -160,18 +177,23 @@ QCoro::Task<Cleaner::CleanResult> CacheCleanup::cleanOne(Way way, CacheTarget ta
     progress.target = target.name;
     publish(m_cleanProgress, std::optional(progress));
 
+    Result<QList<CacheTarget>> known{Outcome::success(), {target}};
     if (!target.lastScanned) {
         auto looking = withWhatStays({target});
-        target = (co_await looking).constFirst();
+        known = co_await looking;
         if (!self)
             co_return Cleaner::CleanResult();
     }
-    target.rule.excludes = m_preferences.cleanupExcludes();
-    auto cleaning = way(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop,
-                        progressOf(CleanupPlan::listedBytes(target)));
-    const Cleaner::CleanResult result = co_await cleaning;
-    if (!self)
-        co_return result;
+    Cleaner::CleanResult result{known};
+    if (known.done) {
+        target = known.value.constFirst();
+        target.rule.excludes = m_preferences.cleanupExcludes();
+        auto cleaning = way(target, m_platform.tools, m_platform.places, m_platform.clock->now(), stop,
+                            progressOf(CleanupPlan::listedBytes(target)));
+        result = co_await cleaning;
+        if (!self)
+            co_return result;
+    }
     noteResult(target, result);
     countCleans(1);
     m_log.record(ActionLogEntry::Kind::clean, logDetail, result.freedBytes, result.done);

@@ -3,6 +3,7 @@
 #include "Core/Cleanup/CacheTarget.h"
 #include "Core/Cleanup/Cleaner.h"
 #include "Core/Cleanup/CleanupProgress.h"
+#include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Observable.h"
 #include "Platform/Platform.h"
 
@@ -10,6 +11,7 @@
 
 #include <QSet>
 
+#include <chrono>
 #include <optional>
 #include <stop_token>
 #include <utility>
@@ -22,8 +24,10 @@ class CacheCleanup : public Observable {
     Q_OBJECT
 
 public:
-    /// `log` and `preferences` outlive the cleanup.
-    CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences);
+    /// `log` and `preferences` outlive the cleanup. `patience`: how long the places of a target may take to
+    /// answer.
+    CacheCleanup(const Platform& platform, ActionLog& log, const Preferences& preferences,
+                 std::chrono::milliseconds patience = PlaceFinder::patience);
 
     /// Returns the fixed catalogue and the system's own targets behind it, after a scan the largest first.
     const QList<CacheTarget>& targets() const { return m_targets; }
@@ -43,7 +47,8 @@ public:
     bool isCleaning() const { return m_cleanProgress.has_value(); }
 
     /// Measures every target, then publishes all, largest first. Of overlapping scans only the last to begin
-    /// publishes.
+    /// publishes. While a place of somebody's work does not answer, nothing is measured and each target has
+    /// a note of it.
     QCoro::Task<> rescan();
     /// Cleans one target, logs it and measures again.
     QCoro::Task<> clean(CacheTarget target);
@@ -63,7 +68,7 @@ private:
     using Way = decltype(&Cleaner::clean);
 
     bool isShown(const CacheTarget& target) const;
-    QCoro::Task<QList<CacheTarget>> withWhatStays(QList<CacheTarget> targets) const;
+    QCoro::Task<Result<QList<CacheTarget>>> withWhatStays(QList<CacheTarget> targets) const;
     void findReclaimable();
     void expectCleans(const QList<CacheTarget>& targets);
     void countCleans(int done);
@@ -77,6 +82,7 @@ private:
     Platform m_platform;
     ActionLog& m_log;
     const Preferences& m_preferences;
+    std::chrono::milliseconds m_patience;
     QList<CacheTarget> m_targets = CacheTarget::defaults();
     QList<CacheTarget> m_reclaimable;
     QSet<QString> m_found; ///< names of the targets with a place that exists, before the first scan

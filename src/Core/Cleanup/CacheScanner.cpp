@@ -1,6 +1,7 @@
 #include "Core/Cleanup/CacheScanner.h"
 
 #include "Core/Cleanup/Cleaner.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
@@ -97,7 +98,7 @@ QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
         measurements.push_back(measure(target));
     for (auto& measurement : measurements)
         co_await measurement;
-    CleanupPlan::markShared(m_measured);
+    CleanupOverlap::mark(m_measured);
     std::ranges::stable_sort(m_measured, std::ranges::greater(), &CacheTarget::sizeBytes);
     co_return m_measured;
 }

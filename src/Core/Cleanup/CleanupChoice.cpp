@@ -246,7 +246,9 @@ void CleanupChoice::filter(const QString& text) {
 CleanupChoice::Sum CleanupChoice::sum() const {
     Sum sum;
     count(top, sum);
-    sum.bytes = CleanupOverlap::totalBytes(chosen());
+    QList<CacheTarget> targets = chosen();
+    CleanupOverlap::mark(targets);
+    sum.bytes = CleanupOverlap::totalBytes(targets);
     return sum;
 }
 

@@ -16,6 +16,7 @@ struct Part {
     QByteArray root;     ///< absolute, without symlinks above
     QByteArray device;
     const ListedFolder* folder = nullptr;
+    bool isOldFiles = false;
     bool isWhole = false;   ///< all of the folder goes, so what is not listed is counted too
     QSet<QByteArray> paths; ///< of its entries; read only where it may cover another
 };
@@ -24,9 +25,8 @@ QByteArray pathWithoutLinks(const ListedFolder& folder) {
     return QFile::encodeName(folder.root.isEmpty() ? folder.path : folder.root);
 }
 
-bool isWhole(const CacheTarget& target, const ListedFolder& folder) {
-    return target.rule.measure == CleanupRule::Measure::folders &&
-           folder.sizeBytes == CleanupPlan::ListingReader(folder.listing).totalBytes();
+bool isWhole(const ListedFolder& folder) {
+    return folder.sizeBytes == CleanupPlan::ListingReader(folder.listing).totalBytes();
 }
 
 QList<Part> partsOf(const QList<CacheTarget>& targets) {
@@ -34,24 +34,31 @@ QList<Part> partsOf(const QList<CacheTarget>& targets) {
     for (qsizetype i = 0; i < targets.size(); ++i) {
         if (targets[i].pruneCommand)
             continue;
+        const bool isOldFiles = targets[i].rule.measure == CleanupRule::Measure::oldFiles;
         for (const ListedFolder& folder : targets[i].listed)
             parts.append({.target = i,
                           .order = parts.size(),
                           .root = pathWithoutLinks(folder),
                           .device = folder.listing.left(folder.listing.indexOf(':')),
                           .folder = &folder,
-                          .isWhole = isWhole(targets[i], folder),
+                          .isOldFiles = isOldFiles,
+                          .isWhole = !isOldFiles && isWhole(folder),
                           .paths = {}});
     }
     return parts;
 }
 
+bool isBelow(const QByteArray& path, const QByteArray& folder) {
+    return path.startsWith(folder + '/');
+}
+
 bool mayCover(const Part& outer, const Part& inner) {
     if (outer.target == inner.target || outer.device != inner.device)
         return false;
-    if (outer.root == inner.root)
-        return outer.order < inner.order;
-    return inner.root.startsWith(outer.root + '/');
+    const bool isInside = isBelow(inner.root, outer.root);
+    if (outer.isOldFiles != inner.isOldFiles)
+        return inner.isOldFiles && (isInside || outer.root == inner.root || isBelow(outer.root, inner.root));
+    return isInside || (outer.root == inner.root && outer.order < inner.order);
 }
 
 QSet<QByteArray> pathsOf(const ListedFolder& folder) {
@@ -71,45 +78,51 @@ bool isAmong(const QSet<QByteArray>& paths, const QByteArray& path) {
     return paths.contains(path);
 }
 
+bool covers(const Part& outer, const QByteArray& path) {
+    return isBelow(path, outer.root) &&
+           (outer.isWhole || isAmong(outer.paths, path.mid(outer.root.size() + 1)));
+}
+
 /// Returns the bytes of the inner part that are in one of the outer ones too.
 quint64 coveredBytes(const Part& inner, const QList<const Part*>& outers) {
-    const auto isCovered = [&](const QByteArray& path) {
-        return std::ranges::any_of(outers, [&](const Part* outer) {
-            const QByteArray within = inner.root.mid(outer->root.size() + 1);
-            return isAmong(outer->paths, within.isEmpty() ? path : within + '/' + path);
-        });
-    };
     const auto holdsAll = [&](const Part* outer) {
-        const QByteArray within = inner.root.mid(outer->root.size() + 1);
-        return outer->isWhole || (!within.isEmpty() && isAmong(outer->paths, within));
+        return covers(*outer, inner.root) || (outer->isWhole && outer->root == inner.root);
     };
     if (std::ranges::any_of(outers, holdsAll))
         return inner.folder->sizeBytes;
     quint64 bytes = 0;
     CleanupPlan::ListingReader reader(inner.folder->listing);
-    while (const auto entry = reader.next())
-        bytes += isCovered(entry->path) ? entry->sizeBytes : 0;
+    while (const auto entry = reader.next()) {
+        const QByteArray path = inner.root + '/' + entry->path;
+        const auto coversIt = [&](const Part* outer) { return covers(*outer, path); };
+        bytes += std::ranges::any_of(outers, coversIt) ? entry->sizeBytes : 0;
+    }
     return bytes;
 }
 
 } // namespace
 
-quint64 CleanupOverlap::totalBytes(const QList<CacheTarget>& targets) {
-    quint64 total = 0;
-    for (const CacheTarget& target : targets)
-        total += target.sizeBytes;
+void CleanupOverlap::mark(QList<CacheTarget>& targets) {
+    for (CacheTarget& target : targets)
+        target.sharedBytes = 0;
     QList<Part> parts = partsOf(targets);
     for (const Part& inner : std::as_const(parts)) {
         QList<const Part*> outers;
         for (Part& outer : parts) {
             if (!mayCover(outer, inner))
                 continue;
-            if (outer.paths.isEmpty())
+            if (outer.paths.isEmpty() && !outer.isWhole)
                 outer.paths = pathsOf(*outer.folder);
             outers.append(&outer);
         }
         if (!outers.isEmpty())
-            total -= std::min(total, coveredBytes(inner, outers));
+            targets[inner.target].sharedBytes += coveredBytes(inner, outers);
     }
+}
+
+quint64 CleanupOverlap::totalBytes(const QList<CacheTarget>& targets) {
+    quint64 total = 0;
+    for (const CacheTarget& target : targets)
+        total += target.sizeBytes - std::min(target.sizeBytes, target.sharedBytes);
     return total;
 }

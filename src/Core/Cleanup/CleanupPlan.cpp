@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 
 #include <algorithm>
 #include <functional>
@@ -49,55 +48,12 @@ QString rootOf(const ListedFolder& folder) {
     return folder.root.isEmpty() ? folder.path : folder.root;
 }
 
-/// Returns the listed bytes of a target of old files that another target has too.
-template <typename Test> quint64 sharedBytes(const CacheTarget& target, const Test& isElsewhere) {
-    quint64 bytes = 0;
-    for (const ListedFolder& folder : target.listed) {
-        const QByteArray start = QFile::encodeName(rootOf(folder)) + '/';
-        CleanupPlan::ListingReader reader(folder.listing);
-        while (const auto entry = reader.next())
-            bytes += isElsewhere(start + entry->path) ? entry->sizeBytes : 0;
-    }
-    return bytes;
-}
-
 /// Takes the text up to the next space off the front; all of it where there is none.
 QByteArrayView takeField(QByteArrayView& text) {
     const qsizetype space = text.indexOf(' ');
     const QByteArrayView field = space < 0 ? text : text.first(space);
     text = space < 0 ? QByteArrayView() : text.sliced(space + 1);
     return field;
-}
-
-struct Folder {
-    qsizetype target;
-    QByteArray path;
-    QByteArray device;
-    quint64 sizeBytes;
-};
-
-QByteArray deviceOf(const ListedFolder& folder) {
-    return folder.listing.left(folder.listing.indexOf(':'));
-}
-
-/// Returns the folders that are emptied as a whole.
-QList<Folder> wholeFolders(const QList<CacheTarget>& targets) {
-    QList<Folder> folders;
-    for (qsizetype i = 0; i < targets.size(); ++i) {
-        if (targets[i].rule.measure != CleanupRule::Measure::folders)
-            continue;
-        for (const ListedFolder& folder : targets[i].listed)
-            folders.append({i, QFile::encodeName(rootOf(folder)), deviceOf(folder), folder.sizeBytes});
-    }
-    return folders;
-}
-
-/// Returns whether `du` counts `inner` with `outer`, which needs one file system.
-bool contains(const Folder& outer, const Folder& inner) {
-    if (outer.target == inner.target || outer.device != inner.device)
-        return false;
-    return inner.path.startsWith(outer.path + '/') ||
-           (inner.path == outer.path && outer.target < inner.target);
 }
 
 } // namespace
@@ -224,28 +180,6 @@ CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype max
     return names;
 }
 
-void CleanupPlan::markShared(QList<CacheTarget>& targets) {
-    const QList<Folder> folders = wholeFolders(targets);
-    QSet<QByteArray> listed; // old files of the targets so far
-    for (qsizetype i = 0; i < targets.size(); ++i) {
-        CacheTarget& target = targets[i];
-        target.sharedBytes = 0;
-        for (const Folder& inner : folders) {
-            const auto isOuter = [&](const Folder& outer) { return contains(outer, inner); };
-            if (inner.target == i && std::ranges::any_of(folders, isOuter))
-                target.sharedBytes += inner.sizeBytes;
-        }
-        if (target.rule.measure != CleanupRule::Measure::oldFiles)
-            continue;
-        target.sharedBytes += sharedBytes(target, [&](const QByteArray& path) {
-            const auto containsIt = [&](const Folder& folder) { return path.startsWith(folder.path + '/'); };
-            const bool isShared = listed.contains(path) || std::ranges::any_of(folders, containsIt);
-            listed.insert(path);
-            return isShared;
-        });
-    }
-}
-
 quint64 CleanupPlan::listedBytes(const CacheTarget& target) {
     if (target.pruneCommand)
         return target.sizeBytes;
@@ -256,11 +190,4 @@ quint64 CleanupPlan::listedBytes(const CacheTarget& target) {
             bytes += entry->sizeBytes;
     }
     return bytes;
-}
-
-quint64 CleanupPlan::totalBytes(const QList<CacheTarget>& targets) {
-    quint64 total = 0;
-    for (const CacheTarget& target : targets)
-        total += target.sizeBytes - std::min(target.sizeBytes, target.sharedBytes);
-    return total;
 }

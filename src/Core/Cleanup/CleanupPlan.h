@@ -73,14 +73,7 @@ struct Names {
 };
 Names namesOf(const CacheTarget& target, qsizetype maxShown);
 
-/// Fills in `sharedBytes`: the size of what is in another target's folder or in an earlier listing.
-void markShared(QList<CacheTarget>& targets);
-
 /// Returns the size of what is listed, which is what a clean removes; of a target with a command its size.
 quint64 listedBytes(const CacheTarget& target);
-
-/// Returns the size of all targets without their `sharedBytes`. For a part of the targets of a scan, call
-/// markShared first.
-quint64 totalBytes(const QList<CacheTarget>& targets);
 
 } // namespace CleanupPlan

@@ -21,14 +21,16 @@ struct FoundPlace {
 
 namespace PlaceFinder {
 
+using Finding = QCoro::Task<Result<QList<FoundPlace>>>;
+
 /// A network file system that is gone may never answer.
 constexpr std::chrono::seconds patience{10};
 
 /// Returns the existing places of the paths of a target in their order. A path to or into a place of the list
 /// is left out. They are looked for on a thread of its own. Fails with "PATH does not answer." when a path
 /// keeps it for longer than `limit`.
-QCoro::Task<Result<QList<FoundPlace>>> find(QStringList paths, std::shared_ptr<const Places> places,
-                                            std::chrono::milliseconds limit = patience);
+Finding find(QStringList paths, std::shared_ptr<const Places> places,
+             std::chrono::milliseconds limit = patience);
 
 /// Says for the user that a path does not answer.
 QString silence(const QString& path);

@@ -1,5 +1,6 @@
 #include "UI/Cleanup/CleanupTexts.h"
 
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
@@ -132,7 +133,7 @@ QString CleanupTexts::questionAll(const QList<CacheTarget>& targets) {
     const quint64 sum =
         std::accumulate(targets.begin(), targets.end(), quint64(0),
                         [](quint64 total, const CacheTarget& target) { return total + target.sizeBytes; });
-    if (sum != CleanupPlan::totalBytes(targets))
+    if (sum != CleanupOverlap::totalBytes(targets))
         text += paragraph +
                 QCoreApplication::translate("CleanupTexts",
                                             "Some of them overlap; the total counts what they share once.");

@@ -1,7 +1,7 @@
 #include "UI/Cleanup/CleanupView.h"
 
 #include "AppModel.h"
-#include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Formatters.h"
 #include "Preferences.h"
 #include "UI/Cleanup/CacheCard.h"
@@ -137,7 +137,7 @@ void CleanupView::refresh() {
     refreshCards();
     refreshProgress();
     m_total->setPlainText(
-        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupPlan::totalBytes(cleanup.reclaimable()))));
+        tr("Reclaimable: %1").arg(Formatters::bytes(CleanupOverlap::totalBytes(cleanup.reclaimable()))));
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);

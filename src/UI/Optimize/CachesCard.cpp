@@ -1,7 +1,7 @@
 #include "UI/Optimize/CachesCard.h"
 
 #include "Core/Cleanup/CacheCleanup.h"
-#include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Cleanup/CleanupTexts.h"
@@ -82,7 +82,7 @@ void CachesCard::refresh(const CacheCleanup& cleanup) {
                                            *cleanup.cleanProgress()));
     else
         setSubtitle(tr("%1 reclaimable across %2 targets")
-                        .arg(Formatters::bytes(CleanupPlan::totalBytes(targets)))
+                        .arg(Formatters::bytes(CleanupOverlap::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);
     m_cancel->setVisible(cleanup.isCleaning());
