@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -34,4 +35,7 @@ public:
 
     /// Returns the targets in their order, whether or not there is something of them here.
     virtual QList<PlatformTarget> all() const = 0;
+    /// Returns what a person calls the entries of a folder of such a target, by their names, where these say
+    /// nothing. The thread that calls it may wait for a file system.
+    virtual QHash<QString, QString> namesIn(const QString& /*folder*/) const { return {}; }
 };

@@ -27,6 +27,11 @@ CacheTarget targetOf(const QString& name, const QList<std::pair<QString, QByteAr
     return target;
 }
 
+quint64 together(QList<CacheTarget> targets) {
+    CleanupOverlap::mark(targets);
+    return CleanupOverlap::totalBytes(targets);
+}
+
 struct CleanupChoiceTest : testing::Test {
     CleanupChoice::Index named(const CleanupChoice& choice, const QString& name,
                                CleanupChoice::Index above = CleanupChoice::top) {
@@ -104,10 +109,28 @@ TEST_F(CleanupChoiceTest, OrderAndFilter) {
     EXPECT_EQ(shownIn(choice, folder).first(2), (QStringList{u"Bb"_s, u"ab"_s}));
     choice.filter(u"B"_s);
     EXPECT_EQ(shownIn(choice, folder), (QStringList{u"Bb"_s, u"ab"_s}));
-    choice.setShownTicked(false);
-    EXPECT_EQ(choice.sum(), (CleanupChoice::Sum{9, 1, 2}));
+    EXPECT_TRUE(choice.isTicked(folder));
+    choice.setTicked(folder, false);
+    EXPECT_EQ(choice.sum(), (CleanupChoice::Sum{9, 1, 2})) << "what is hidden stays as it is";
+    EXPECT_FALSE(choice.isTicked(folder));
+    choice.filter(u"/H"_s);
+    EXPECT_EQ(shownIn(choice, folder).size(), 3) << "all of a folder that is searched for";
+    choice.setTicked(CleanupChoice::top, true);
+    EXPECT_EQ(choice.sum(), (CleanupChoice::Sum{17, 3, 0}));
     choice.filter({});
     EXPECT_EQ(shownIn(choice, folder).size(), 3);
+}
+
+TEST_F(CleanupChoiceTest, AnEntryIsFoundByWhatAPersonCallsIt) {
+    CacheTarget models =
+        targetOf(u"models"_s, {{u"/h/blobs"_s, listingOf({{"sha256-9", 7}, {"sha256-1", 4}})}});
+    models.listed[0].names = {{u"sha256-9"_s, u"a:8b"_s}, {u"sha256-1"_s, u"b:1b"_s}};
+    CleanupChoice choice({models}, Levels::ofFolders);
+    const auto folder = choice.node(CleanupChoice::top).shown[0];
+    choice.sort(CleanupChoice::Order::name, false);
+    EXPECT_EQ(shownIn(choice, folder), (QStringList{u"a:8b — sha256-9"_s, u"b:1b — sha256-1"_s}));
+    choice.filter(u"b:1"_s);
+    EXPECT_EQ(shownIn(choice, folder), QStringList(u"b:1b — sha256-1"_s));
 }
 
 TEST_F(CleanupChoiceTest, WhatTwoTargetsListCountsOnce) {
@@ -115,14 +138,14 @@ TEST_F(CleanupChoiceTest, WhatTwoTargetsListCountsOnce) {
     const CacheTarget pip = targetOf(u"pip"_s, {{u"/c/pip"_s, listingOf({{"a", 4}, {"b", 1}})}});
     CacheTarget old = targetOf(u"old"_s, {{u"/c"_s, listingOf({{"pip/a", 4}, {"zz", 7}})}});
     old.rule.measure = CleanupRule::Measure::oldFiles;
-    EXPECT_EQ(CleanupOverlap::totalBytes({pip, all}), 8u);
-    EXPECT_EQ(CleanupOverlap::totalBytes({all, old}), 8u) << "all of the folder goes, what is not listed too";
-    EXPECT_EQ(CleanupOverlap::totalBytes({pip, old}), 12u);
+    EXPECT_EQ(together({pip, all}), 8u);
+    EXPECT_EQ(together({all, old}), 8u) << "all of the folder goes, what is not listed too";
+    EXPECT_EQ(together({pip, old}), 12u);
 
     CleanupChoice choice({all, pip, old}, Levels::ofTargets);
     EXPECT_EQ(choice.sum().bytes, 8u);
     choice.setTicked(named(choice, u"pip"_s, named(choice, u"all"_s)), false);
     EXPECT_EQ(choice.sum().bytes, 3 + 5 + 7u);
     const CacheTarget elsewhere = targetOf(u"x"_s, {{u"/c/pip"_s, listingOf({{"a", 4}}, "65")}});
-    EXPECT_EQ(CleanupOverlap::totalBytes({all, elsewhere}), 12u) << "another file system is mounted there";
+    EXPECT_EQ(together({all, elsewhere}), 12u) << "another file system is mounted there";
 }

@@ -178,4 +178,22 @@ TEST(FreedesktopTargets, KeepsTheToolchainsThatAreUsed) {
               QStringList(u"nightly-2025-01-01-x86_64"_s));
 }
 
+TEST(FreedesktopTargets, NamesThePartsOfModelsAfterThem) {
+    const TemporaryHome home;
+    const QString blobs = home.makeFolder(u".ollama/models/blobs"_s);
+    EXPECT_TRUE(FreedesktopTargets().namesIn(blobs).isEmpty());
+    const auto manifest = [&](const QString& path, const QByteArray& text) {
+        home.makeFile(u".ollama/models/manifests/"_s + path, text);
+    };
+    manifest(u"registry.ollama.ai/library/llama3/8b"_s,
+             R"({"config":{"digest":"sha256:c"},"layers":[{"digest":"sha256:1"},{"digest":"sha256:2"}]})");
+    manifest(u"registry.ollama.ai/me/mine/latest"_s, R"({"layers":[{"digest":"sha256:1"},{"digest":7},8]})");
+    manifest(u"hf.co/you/yours/q4"_s, R"({"layers":{"digest":"sha256:3"},"config":["sha256:3"]})");
+    manifest(u"damaged"_s, "{");
+    EXPECT_EQ(FreedesktopTargets().namesIn(blobs),
+              (QHash<QString, QString>{{u"sha256-c"_s, u"llama3:8b"_s},
+                                       {u"sha256-1"_s, u"llama3:8b, me/mine:latest"_s},
+                                       {u"sha256-2"_s, u"llama3:8b"_s}}));
+}
+
 } // namespace

@@ -3,7 +3,9 @@
 #include "Core/Cleanup/Cleaner.h"
 #include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/OnThread.h"
 #include "Core/Formatters.h"
+#include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/Platform.h"
 #include "Platform/ToolRunner.h"
@@ -82,6 +84,7 @@ QString trimmedBlanks(QStringView text) {
 CacheScanner::CacheScanner(const Platform& platform, Progress progress, std::chrono::milliseconds patience)
     : m_tools(platform.tools)
     , m_places(platform.places)
+    , m_targets(platform.cleanupTargets)
     , m_clock(platform.clock)
     , m_progress(std::move(progress))
     , m_patience(patience) {}
@@ -146,6 +149,14 @@ QCoro::Task<quint64> CacheScanner::measureFolder(FoundPlace folder) {
     co_return all - std::min(all, kept);
 }
 
+QCoro::Task<QHash<QString, QString>> CacheScanner::namesIn(QString folder) {
+    using Names = QHash<QString, QString>;
+    auto reading =
+        onThread<Names>([targets = m_targets, folder] { return targets->namesIn(folder); }, m_patience);
+    const std::optional<Names> names = co_await reading;
+    co_return names.value_or(Names());
+}
+
 QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target, QList<FoundPlace> places) {
     target.listed.clear();
     target.details.clear();
@@ -159,7 +170,10 @@ QCoro::Task<CacheTarget> CacheScanner::scanFolders(CacheTarget target, QList<Fou
         quint64 bytes = CleanupPlan::ListingReader(listed.value).totalBytes();
         if (!listed.done)
             bytes = co_await measureFolder(found);
-        take(target, {folder, bytes, listed.value, found.root}, listed.reason);
+        QHash<QString, QString> names;
+        if (target.isOfSystem())
+            names = co_await namesIn(found.root);
+        take(target, {folder, bytes, listed.value, found.root, names}, listed.reason);
         target.details.append({folder, bytes});
     }
     std::ranges::stable_sort(target.details, std::ranges::greater(), &CacheEntry::sizeBytes);

@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 
+class CleanupTargets;
 class Clock;
 class Places;
 class ToolRunner;
@@ -56,10 +57,12 @@ private:
     QCoro::Task<CacheTarget> scanContainers(CacheTarget target);
     QCoro::Task<CacheTarget> scanByCommand(CacheTarget target);
     QCoro::Task<quint64> measureFolder(FoundPlace folder);
+    QCoro::Task<QHash<QString, QString>> namesIn(QString folder);
     QCoro::Task<QByteArray> ask(QString command);
 
     std::shared_ptr<ToolRunner> m_tools;
     std::shared_ptr<Places> m_places;
+    std::shared_ptr<CleanupTargets> m_targets;
     std::shared_ptr<Clock> m_clock;
     Progress m_progress;
     std::chrono::milliseconds m_patience;

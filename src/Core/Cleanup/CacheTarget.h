@@ -3,6 +3,7 @@
 #include "Core/Instant.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -48,6 +49,7 @@ struct ListedFolder {
     quint64 sizeBytes = 0;
     QByteArray listing; ///< what a clean removes, as the program `cleanup` lists it; empty after a failure
     QString root = {};  ///< its path without symlinks above it; empty when nobody has looked
+    QHash<QString, QString> names = {}; ///< what a person calls its entries, see CleanupTargets::namesIn
 
     bool operator==(const ListedFolder&) const = default;
 };

@@ -7,6 +7,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <ranges>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -95,6 +98,7 @@ void CleanupChoice::addVolumes(qint32 index, Index parent) {
 void CleanupChoice::addEntries(Index parent, qint32 target, qint32 folder, QByteArrayView listing) {
     const auto records = std::ranges::count(listing, '\0');
     m_nodes.reserve(m_nodes.size() + static_cast<std::size_t>(records));
+    const QHash<QString, QString>& names = m_targets[target].listed[folder].names;
     CleanupPlan::ListingReader reader(listing);
     while (const auto entry = reader.next()) {
         const QByteArrayView path = entry->record.chopped(1).last(entry->path.size());
@@ -105,7 +109,7 @@ void CleanupChoice::addEntries(Index parent, qint32 target, qint32 folder, QByte
                      .folder = folder,
                      .sizeBytes = entry->sizeBytes,
                      .modified = entry->modified,
-                     .text = {},
+                     .text = names.isEmpty() ? QString() : names.value(QFile::decodeName(path.toByteArray())),
                      .path = path,
                      .record = entry->record});
     }
@@ -117,7 +121,8 @@ QString CleanupChoice::nameOf(Index index) const {
         return found.text;
     // Old files are found anywhere below their folder.
     const bool isBelowFolder = node(found.parent).kind != Kind::entry;
-    return QFile::decodeName((isBelowFolder ? found.path : lastPart(found.path)).toByteArray());
+    const QString name = QFile::decodeName((isBelowFolder ? found.path : lastPart(found.path)).toByteArray());
+    return found.text.isEmpty() ? name : found.text + u" — "_s + name;
 }
 
 QString CleanupChoice::pathOf(Index index) const {
@@ -128,31 +133,37 @@ QString CleanupChoice::pathOf(Index index) const {
     return found.kind == Kind::entry ? folder + u'/' + QFile::decodeName(found.path.toByteArray()) : folder;
 }
 
+/// Returns whether the node is chosen or left out as one.
+bool CleanupChoice::isPart(Index index) const {
+    const auto isNote = [this](Index child) { return node(child).kind == Kind::note; };
+    return node(index).kind != Kind::note && std::ranges::all_of(node(index).children, isNote);
+}
+
+/// Returns the node and all below it, each behind the one that it is in.
+std::vector<CleanupChoice::Index> CleanupChoice::withAllBelow(Index index) const {
+    std::vector<Index> all{index};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const std::vector<Index>& children = node(all[i]).children;
+        all.insert(all.end(), children.begin(), children.end());
+    }
+    return all;
+}
+
+bool CleanupChoice::isTicked(Index index) const {
+    return std::ranges::none_of(withAllBelow(index), [this](Index each) {
+        return isPart(each) && node(each).isShown && node(each).tick == Tick::none;
+    });
+}
+
 void CleanupChoice::setTicked(Index index, bool isTicked) {
-    tickBelow(index, isTicked ? Tick::all : Tick::none);
+    for (const Index each : withAllBelow(index) | std::views::reverse) {
+        if (isPart(each) && node(each).isShown)
+            at(each).tick = isTicked ? Tick::all : Tick::none;
+        followTicks(each);
+    }
     for (Index above = index; above != top;) {
         above = node(above).parent;
         followTicks(above);
-    }
-}
-
-void CleanupChoice::setShownTicked(bool isTicked) {
-    for (Index i = static_cast<Index>(m_nodes.size()) - 1; i > top; --i) {
-        Node& each = at(i);
-        if (each.children.empty() && each.isShown && each.kind != Kind::note)
-            each.tick = isTicked ? Tick::all : Tick::none;
-        followTicks(i);
-    }
-    followTicks(top);
-}
-
-void CleanupChoice::tickBelow(Index index, Tick tick) {
-    std::vector<Index> waiting{index};
-    while (!waiting.empty()) {
-        Node& each = at(waiting.back());
-        waiting.pop_back();
-        each.tick = tick;
-        waiting.insert(waiting.end(), each.children.begin(), each.children.end());
     }
 }
 
@@ -211,7 +222,7 @@ bool CleanupChoice::comesBefore(Index a, Index b) const {
     case Order::name:
         break;
     }
-    if (first.kind == Kind::entry && second.kind == Kind::entry)
+    if (first.text == second.text)
         return first.path < second.path;
     return first.text < second.text;
 }
@@ -235,10 +246,14 @@ void CleanupChoice::arrange(Index index) {
 }
 
 void CleanupChoice::filter(const QString& text) {
-    for (Index i = static_cast<Index>(m_nodes.size()) - 1; i > top; --i) {
-        const auto isShown = [this](Index child) { return node(child).isShown; };
-        at(i).isShown = text.isEmpty() || nameOf(i).contains(text, Qt::CaseInsensitive) ||
-                        std::ranges::any_of(node(i).children, isShown);
+    const auto last = static_cast<Index>(m_nodes.size()) - 1;
+    for (Index i = top + 1; i <= last; ++i) {
+        const bool isInMatch = node(i).parent != top && node(node(i).parent).isShown;
+        at(i).isShown = text.isEmpty() || isInMatch || nameOf(i).contains(text, Qt::CaseInsensitive);
+    }
+    for (Index i = last; i > top; --i) {
+        if (node(i).isShown)
+            at(node(i).parent).isShown = true;
     }
     arrange(top);
 }

@@ -37,7 +37,7 @@ public:
         qint32 folder = -1; ///< of its target
         quint64 sizeBytes = 0;
         std::optional<qint64> modified; ///< seconds since 1970
-        QString text;                   ///< of a target, folder or note; empty for an entry
+        QString text;                   ///< of a target, folder or note; of an entry what a person calls it
         QByteArrayView path;            ///< of an entry, relative to its folder
         QByteArrayView record;          ///< of an entry, in its listing
         std::vector<Index> children;
@@ -60,20 +60,20 @@ public:
 
     const Node& node(Index index) const { return m_nodes[static_cast<std::size_t>(index)]; }
     const QList<CacheTarget>& targets() const { return m_targets; }
-    /// Returns the last part of an entry's path, or the text of another node.
+    /// Returns the last part of an entry's path, behind what a person calls it, or the text of another node.
     QString nameOf(Index index) const;
     /// Returns the absolute path of a folder or an entry, else an empty text.
     QString pathOf(Index index) const;
 
-    /// Ticks a node with all below it, or takes the ticks away. Notes have none.
+    /// Whether all that the filter shows of a node is ticked.
+    bool isTicked(Index index) const;
+    /// Ticks what the filter shows of a node, or takes the ticks away. Notes have none.
     void setTicked(Index index, bool isTicked);
-    /// Ticks all that the filter shows, or takes the ticks away.
-    void setShownTicked(bool isTicked);
     /// Adds what is inside an entry, by a listing of its folder. Returns whether the listing was readable.
     bool insert(Index index, const QByteArray& listing);
 
     void sort(Order order, bool isDescending);
-    /// Shows the nodes whose path contains the text, in any case, with those above them.
+    /// Shows the nodes whose name contains the text, in any case, with those above and below them.
     void filter(const QString& text);
 
     Sum sum() const;
@@ -88,10 +88,10 @@ private:
     void addTarget(qint32 target, Index parent);
     void addVolumes(qint32 index, Index parent);
     void addEntries(Index parent, qint32 target, qint32 folder, QByteArrayView listing);
-    void tickBelow(Index index, Tick tick);
+    bool isPart(Index index) const;
+    std::vector<Index> withAllBelow(Index index) const;
     void followTicks(Index index);
     void arrange(Index index);
-    bool matches(Index index, const QString& text);
     bool comesBefore(Index a, Index b) const;
     void collect(Index index, QByteArray& listing, quint64& bytes) const;
     void count(Index index, Sum& sum) const;
@@ -104,5 +104,4 @@ private:
     std::vector<Node> m_nodes;
     Order m_order = Order::size;
     bool m_isDescending = true;
-    QString m_filter;
 };

@@ -1,5 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopTargets.h"
 
+#include "Platform/Freedesktop/OllamaModels.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -111,8 +113,8 @@ constexpr KnownTarget desktop[] = {
      u"$HF_HOME/hub", data},
     {QT_TRANSLATE_NOOP("Translations", "Ollama models"), u"circle.hexagongrid",
      QT_TRANSLATE_NOOP("FreedesktopTargets",
-                       "All models at once. Those that you made here are gone for good."),
-     u"$OLLAMA_MODELS/{blobs,manifests}", data},
+                       "Parts of models, named after them. Those that you made here are gone for good."),
+     u"$OLLAMA_MODELS/{blobs,manifests/*/*/*}", data},
     {QT_TRANSLATE_NOOP("Translations", "LM Studio models"), u"circle.hexagongrid",
      QT_TRANSLATE_NOOP("FreedesktopTargets", "Models. What is public can be fetched again."),
      u"{~/.lmstudio,$XDG_CACHE_HOME/lm-studio}/models/*", data},
@@ -223,6 +225,10 @@ QList<PlatformTarget> FreedesktopTargets::all() const {
     for (const KnownTarget& known : desktop)
         targets.append(targetOf(known));
     return targets + cleanedByTools();
+}
+
+QHash<QString, QString> FreedesktopTargets::namesIn(const QString& folder) const {
+    return ollamaModels(folder);
 }
 
 QStringList FreedesktopTargets::usedToolchains(const QString& rustupHome) {

@@ -6,6 +6,7 @@
 class FreedesktopTargets : public CleanupTargets {
 public:
     QList<PlatformTarget> all() const override;
+    QHash<QString, QString> namesIn(const QString& folder) const override;
 
     /// Returns the toolchains in `folder` that the settings of rustup name, as the default or for a folder.
     static QStringList usedToolchains(const QString& rustupHome);

@@ -82,7 +82,7 @@ void CleanupPreviewModel::insert(CleanupChoice::Index node, const QByteArray& li
 
 void CleanupPreviewModel::toggle(const QModelIndex& index) {
     if (node(index).kind != Kind::note)
-        setData(index, node(index).tick == Tick::all ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        setData(index, isTicked(index) ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 bool CleanupPreviewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -95,7 +95,7 @@ bool CleanupPreviewModel::setData(const QModelIndex& index, const QVariant& valu
 }
 
 void CleanupPreviewModel::setShownTicked(bool isTicked) {
-    m_choice.setShownTicked(isTicked);
+    m_choice.setTicked(CleanupChoice::top, isTicked);
     Q_EMIT ticksChanged();
 }
 

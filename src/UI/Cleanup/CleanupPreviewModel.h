@@ -23,6 +23,7 @@ public:
     CleanupChoice::Index nodeOf(const QModelIndex& index) const;
     const CleanupChoice::Node& node(const QModelIndex& index) const { return m_choice.node(nodeOf(index)); }
 
+    bool isTicked(const QModelIndex& index) const { return m_choice.isTicked(nodeOf(index)); }
     void toggle(const QModelIndex& index);
     void setShownTicked(bool isTicked);
     void filter(const QString& text);

@@ -144,7 +144,7 @@ void CleanupPreviewView::keyPressEvent(QKeyEvent* event) {
     const QModelIndexList rows = selectionModel()->selectedRows();
     if (rows.isEmpty())
         return;
-    const bool isTicked = m_model.node(rows.first()).tick == CleanupChoice::Tick::all;
+    const bool isTicked = m_model.isTicked(rows.first());
     for (const QModelIndex& row : rows)
         m_model.setData(row, isTicked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
@@ -153,7 +153,7 @@ void CleanupPreviewView::fillMenu(QMenu& menu, const QModelIndex& index) {
     const QModelIndex row = index.siblingAtColumn(CleanupPreviewModel::name);
     const CleanupChoice::Node& node = m_model.node(row);
     if (node.kind != CleanupChoice::Kind::note) {
-        const bool isTicked = node.tick == CleanupChoice::Tick::all;
+        const bool isTicked = m_model.isTicked(row);
         menu.addAction(isTicked ? tr("Leave out") : tr("Include"), this,
                        [this, row = QPersistentModelIndex(row)] { m_model.toggle(row); });
     }
