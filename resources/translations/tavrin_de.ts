@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>Angehalten: %1 von %2 Zielen bereinigt, ~%3 frei</translation>
+        <translation>Angehalten: %1 von %2 bereinigt, ~%3 frei</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>

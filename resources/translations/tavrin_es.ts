@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>The tool calls %1 of it reclaimable.</source>
-        <translation>Según la herramienta, %1 de ello son recuperables.</translation>
+        <translation>Según la herramienta, %1 recuperables.</translation>
     </message>
 </context>
 <context>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>Detenido: %1 de %2 objetivos limpiados, ~%3 liberados</translation>
+        <translation>Detenido: %1 de %2 objetivos, ~%3 liberados</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>
@@ -2937,7 +2937,7 @@
     <name>Translations</name>
     <message>
         <source>Claude Code plugin cache</source>
-        <translation>Caché de complementos de Claude Code</translation>
+        <translation>Plugins de Claude Code</translation>
     </message>
     <message>
         <source>npx cache</source>
@@ -2969,7 +2969,7 @@
     </message>
     <message>
         <source>Old Desktop screenshots (&gt;30d)</source>
-        <translation>Capturas antiguas del escritorio (&gt;30 d)</translation>
+        <translation>Capturas antiguas (&gt;30 d)</translation>
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>

@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>The tool calls %1 of it reclaimable.</source>
-        <translation>Selon l’outil, %1 peuvent en être récupérés.</translation>
+        <translation>Selon l’outil, %1 récupérables.</translation>
     </message>
 </context>
 <context>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>Arrêté : %1 cibles nettoyées sur %2, ~%3 libérés</translation>
+        <translation>Arrêté : %1 cibles sur %2, ~%3 libérés</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>
@@ -2937,7 +2937,7 @@
     <name>Translations</name>
     <message>
         <source>Claude Code plugin cache</source>
-        <translation>Cache des greffons Claude Code</translation>
+        <translation>Greffons Claude Code</translation>
     </message>
     <message>
         <source>npx cache</source>
@@ -2965,11 +2965,11 @@
     </message>
     <message>
         <source>Old Downloads (&gt;30d)</source>
-        <translation>Anciens téléchargements (&gt;30 j)</translation>
+        <translation>Téléchargements (&gt;30 j)</translation>
     </message>
     <message>
         <source>Old Desktop screenshots (&gt;30d)</source>
-        <translation>Anciennes captures du bureau (&gt;30 j)</translation>
+        <translation>Captures du bureau (&gt;30 j)</translation>
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>

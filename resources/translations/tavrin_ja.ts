@@ -636,7 +636,7 @@
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>停止しました: %2 件中 %1 件をクリーン、約 %3 を解放</translation>
+        <translation>停止: %1/%2 件をクリーン、約 %3 を解放</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>
@@ -2911,7 +2911,7 @@
     <name>Translations</name>
     <message>
         <source>Claude Code plugin cache</source>
-        <translation>Claude Code プラグインのキャッシュ</translation>
+        <translation>Claude Code プラグイン</translation>
     </message>
     <message>
         <source>npx cache</source>
@@ -2943,11 +2943,11 @@
     </message>
     <message>
         <source>Old Desktop screenshots (&gt;30d)</source>
-        <translation>古いデスクトップのスクリーンショット (&gt;30 日)</translation>
+        <translation>古いスクリーンショット (&gt;30 日)</translation>
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>
-        <translation>Claude Code とエージェント</translation>
+        <translation>Claude Code・エージェント</translation>
     </message>
     <message>
         <source>IDEs</source>

@@ -46,6 +46,7 @@ QSize ActionCapsule::sizeHint() const {
 
 void ActionCapsule::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const double radius = height() / 2.0;
     Painting::drawCard(painter, rect(), radius, MessageSeverity::buttonFill(m_severity),
                        MessageSeverity::buttonOutline(m_severity));

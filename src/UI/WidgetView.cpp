@@ -194,6 +194,7 @@ QString WidgetView::shortBytes(quint64 bytes) {
 
 void WidgetView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const bool translucent = window()->testAttribute(Qt::WA_TranslucentBackground);
     if (!translucent)
         painter.fillRect(rect(), Theme::color(Role::windowFill));
@@ -223,6 +224,7 @@ void MiniTile::set(const QString& value, Role role) {
 
 void MiniTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     painter.setRenderHint(QPainter::Antialiasing);
     QLinearGradient gradient(rect().topLeft(), rect().bottomRight());
     gradient.setColorAt(0, Theme::tileColor(m_role));

@@ -57,6 +57,7 @@ void CacheCard::set(const CacheTarget& target, bool isSelected, Instant now) {
 
 void CacheCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::cardFill),
                        m_isSelected ? Theme::color(Role::accent, 0.6) : Theme::color(Role::cardBorder));
     if (m_isSelected)
@@ -84,7 +85,7 @@ void CacheCard::paintEvent(QPaintEvent*) {
     Painting::drawTabular(painter, line, Qt::AlignLeft, Formatters::bytes(m_target.sizeBytes));
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
     if (!m_target.isInCleanAll)
-        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("not in Clean All"));
+        Painting::drawTabular(painter, line, Qt::AlignRight, tr("not in Clean All"));
     const QString remark = m_target.notes.isEmpty() ? m_target.reason : m_target.notes.first();
     if (!remark.isEmpty())
         Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight, Formatters::visible(remark));

@@ -37,6 +37,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
+        const Painting::Mirrored mirrored(*painter, option.rect, option.direction);
         TableView::paintGround(*painter, option);
         const auto& node = static_cast<const CleanupPreviewModel*>(index.model())->node(index);
         const bool isLeftOut = node.tick == CleanupChoice::Tick::none;
@@ -72,7 +73,8 @@ protected:
             return false;
         const auto* mouse = static_cast<QMouseEvent*>(event);
         const QRectF target = tickBoxIn(option.rect).adjusted(-4, -6, 6, 6);
-        if (mouse->button() != Qt::LeftButton || !target.contains(mouse->position()))
+        if (mouse->button() != Qt::LeftButton ||
+            !target.contains(Painting::mirrored(mouse->position(), option.rect, option.direction)))
             return false;
         static_cast<CleanupPreviewModel*>(model)->toggle(index);
         return true;
@@ -129,6 +131,7 @@ void CleanupPreviewView::drawBranches(QPainter* painter, const QRect& area, cons
     initViewItemOption(&row);
     row.rect = area;
     row.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+    const Painting::Mirrored mirrored(*painter, area, layoutDirection());
     paintGround(*painter, row);
     if (!m_model.hasChildren(index))
         return;

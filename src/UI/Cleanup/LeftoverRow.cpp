@@ -51,6 +51,7 @@ void LeftoverRow::set(const LeftoverProject& project, bool isTicked, Instant now
 
 void LeftoverRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const QRectF ground = QRectF(rect()).adjusted(0, 1, 0, -1);
     if (isChecked())
         Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::accent, tickedStrength));

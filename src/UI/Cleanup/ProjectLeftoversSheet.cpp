@@ -13,6 +13,7 @@
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Spinner.h"
+#include "UI/Style/Margins.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -124,7 +125,7 @@ QLayout* ProjectLeftoversSheet::makeSources() {
 QLayout* ProjectLeftoversSheet::makeHeads() {
     auto* row = new QHBoxLayout;
     const int scrollBar = m_area->verticalScrollBar()->sizeHint().width();
-    row->setContentsMargins(LeftoverRow::padding, 0, LeftoverRow::padding + scrollBar, 0);
+    row->setContentsMargins(mirrored({LeftoverRow::padding, 0, LeftoverRow::padding + scrollBar, 0}));
     row->setSpacing(Theme::rowSpacing);
     const auto add = [row](const QString& text, int width, Qt::Alignment alignment) {
         auto* head = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();

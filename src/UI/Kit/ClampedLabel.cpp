@@ -60,7 +60,9 @@ void ClampedLabel::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(foregroundRole()));
     int baseline = fontMetrics().ascent();
     for (const QString& line : lines(width())) {
-        painter.drawText(0, baseline, line);
+        painter.setLayoutDirection(line.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        painter.drawText(isRightToLeft() ? width() - fontMetrics().horizontalAdvance(line) : 0, baseline,
+                         line);
         baseline += fontMetrics().lineSpacing();
     }
 }

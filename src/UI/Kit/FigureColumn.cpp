@@ -29,6 +29,7 @@ QSize FigureColumn::sizeHint() const {
 
 void FigureColumn::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line(rect());
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     line.setHeight(Painting::lineHeight(painter.font()));

@@ -2,6 +2,7 @@
 
 #include "UI/Kit/Card.h"
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Margins.h"
 
 #include <QHBoxLayout>
 
@@ -35,7 +36,7 @@ FormSection::FormSection(const QString& title, QWidget* parent)
 QVBoxLayout* FormSection::addCell() {
     if (m_last) {
         auto* line = new QHBoxLayout;
-        line->setContentsMargins(Theme::cardPadding, 0, 1, 0);
+        line->setContentsMargins(mirrored({Theme::cardPadding, 0, 1, 0}));
         line->addWidget(new Divider);
         m_rows->addLayout(line);
     }

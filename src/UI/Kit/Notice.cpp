@@ -4,6 +4,7 @@
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/SymbolView.h"
+#include "UI/Style/Margins.h"
 #include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
@@ -27,7 +28,7 @@ Notice::Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidge
 
     auto* card = new Card(this, Role::green);
     auto* row = new QHBoxLayout(card);
-    row->setContentsMargins(Theme::cardPadding, 4, 4, 4);
+    row->setContentsMargins(mirrored({Theme::cardPadding, 4, 4, 4}));
     row->setSpacing(Theme::rowSpacing);
     row->addWidget(icon);
     row->addWidget(m_text, 1);

@@ -40,6 +40,7 @@ QSize PanelRow::sizeHint() const {
 
 void PanelRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line(rect());
     const QRectF symbol(line.left(), line.top(), m_symbolWidth, line.height());
     Symbols::draw(painter, m_content.symbol, Theme::color(m_content.tint), symbol, m_symbolWidth);

@@ -31,6 +31,7 @@ void PopUpButton::paintEvent(QPaintEvent*) {
     QStyleOptionComboBox option;
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    Painting::mirror(painter, *this);
     const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     QRectF line = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     painter.setPen(Theme::color(Role::secondaryText, opacity));

@@ -1,12 +1,14 @@
 #include "UI/Kit/ScrollingPage.h"
 
+#include "UI/Style/Margins.h"
+
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 QVBoxLayout* makeScrollingPage(QScrollArea* area, const QMargins& margins, int spacing) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(margins);
+    column->setContentsMargins(mirrored(margins));
     column->setSpacing(spacing);
     area->setWidget(page);
     area->setWidgetResizable(true);

@@ -1,6 +1,8 @@
 #include "UI/Kit/SearchField.h"
 
 #include "UI/Kit/IconButton.h"
+#include "UI/Style/Margins.h"
+#include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
 #include <QHBoxLayout>
@@ -20,7 +22,7 @@ constexpr int searchSymbolSize = 14;
 
 SearchField::SearchField(const QString& prompt, QWidget* parent)
     : QLineEdit(parent) {
-    setTextMargins(leadRoom, 0, trailRoom, 0);
+    setTextMargins(mirrored({leadRoom, 0, trailRoom, 0}));
     setPlaceholderText(prompt);
     setAccessibleName(prompt);
 
@@ -29,7 +31,7 @@ SearchField::SearchField(const QString& prompt, QWidget* parent)
     button->setCursor(Qt::ArrowCursor);
     button->hide();
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 1, 0);
+    row->setContentsMargins(mirrored({0, 0, 1, 0}));
     row->addStretch();
     row->addWidget(button);
     connect(button, &IconButton::clicked, this, &QLineEdit::clear);
@@ -47,6 +49,7 @@ void SearchField::keyPressEvent(QKeyEvent* event) {
 void SearchField::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     Symbols::draw(painter, QStringLiteral("magnifyingglass"), Theme::color(Role::secondaryText),
                   QRectF(leadLeft, 0, leadRoom, height()), searchSymbolSize);
 }

@@ -23,6 +23,7 @@ QColor rowFill(QStyle::State state) {
 
 void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const {
+    const Painting::Mirrored mirrored(*painter, option.rect, option.direction);
     const bool selected = option.state & QStyle::State_Selected;
     const QRectF row = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
     Painting::drawCard(*painter, row, Theme::controlRadius, rowFill(option.state));

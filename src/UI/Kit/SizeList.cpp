@@ -51,6 +51,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
+        Painting::mirror(painter, *this);
         Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
         QRectF line(0, 0, width(), lineHeight);
         if (!m_figure.isEmpty()) {

@@ -1,6 +1,7 @@
 #include "UI/Kit/Slider.h"
 
 #include "UI/Kit/TextLabel.h"
+#include "UI/Style/Painting.h"
 #include "UI/Style/Style.h"
 
 #include <QMouseEvent>
@@ -26,14 +27,14 @@ void Slider::mousePressEvent(QMouseEvent* event) {
     setSliderDown(true);
     QStyleOptionSlider option;
     initStyleOption(&option);
-    const double x = event->position().x();
+    const double x = Painting::mirrored(event->position(), rect(), layoutDirection()).x();
     if (std::abs(x - Style::knob(option).center().x()) > Style::knobSide / 2.0)
         moveKnobTo(x);
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event) {
     if (isSliderDown())
-        moveKnobTo(event->position().x());
+        moveKnobTo(Painting::mirrored(event->position(), rect(), layoutDirection()).x());
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent*) {

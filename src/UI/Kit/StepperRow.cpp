@@ -59,9 +59,10 @@ QSize StepperRow::sizeHint() const {
 
 void StepperRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const double opacity = isEnabled() ? 1 : Theme::disabledOpacity;
     QRectF line = rect();
-    line.setRight(m_stepper->x() - stepperGap);
+    line.setRight(width() - m_stepper->width() - stepperGap);
     painter.setFont(font());
     painter.setPen(Theme::color(Role::primaryText, opacity));
     const QString label = text(m_look.label);

@@ -46,6 +46,7 @@ void PresetTile::set(const QuickKillPreset& preset, int matches) {
 
 void PresetTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const bool hits = m_matches > 0;
     Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::gray, 0.06),
                        hits ? Theme::color(Role::red, 0.4) : Theme::color(Role::gray, 0.25));

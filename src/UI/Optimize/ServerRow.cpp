@@ -56,6 +56,7 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
 
 void ServerRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line = rect();
     Painting::takeRight(line, m_buttonWidth);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);

@@ -46,6 +46,7 @@ QSize StatBox::sizeHint() const {
 
 void StatBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(m_role, 0.1));
     QRectF area = QRectF(rect()).adjusted(statPadding, statPadding, -statPadding, -statPadding);
     const double labelHeight = QFontMetricsF(labelFont()).height();

@@ -66,6 +66,7 @@ void CandidateRow::set(const FreeRamPreview& candidate, bool isTicked) {
 
 void CandidateRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const QRectF ground = QRectF(rect()).adjusted(0, 1, 0, -1);
     if (isChecked())
         Painting::drawCard(painter, ground, Theme::controlRadius, Theme::color(Role::accent, tickedOpacity));

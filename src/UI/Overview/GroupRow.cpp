@@ -85,6 +85,7 @@ void GroupHeader::keyPressEvent(QKeyEvent* event) {
 
 void GroupHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     if (underMouse())
         Painting::drawCard(painter, rect(), Theme::cardRadius, Theme::color(Role::hoverFill));
 

@@ -52,6 +52,7 @@ void MetricTile::changeEvent(QEvent* event) {
 
 void MetricTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     Painting::drawCard(painter, rect(), Theme::tileRadius);
     paintFigures(painter);
 }

@@ -50,6 +50,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
+        Painting::mirror(painter, *this);
         QRectF line = rect();
         Symbols::draw(painter, m_look.symbol, Theme::color(m_look.role),
                       QRectF(0, 0, Theme::iconColumn, height()), 14);

@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
+#include "UI/Style/Margins.h"
 #include "UI/Style/Painting.h"
 
 #include <QHBoxLayout>
@@ -26,7 +27,7 @@ ProcessRow::ProcessRow(QWidget* parent)
     : QWidget(parent) {
     setFixedHeight(processRowHeight);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, Theme::cardPadding, 0);
+    row->setContentsMargins(mirrored({0, 0, Theme::cardPadding, 0}));
     row->setSpacing(Theme::textGap);
     row->addStretch();
     auto* quit = addButton(QStringLiteral("stop.circle"), tr("Quit (SIGTERM)"), Role::secondaryText,
@@ -63,6 +64,7 @@ void ProcessRow::set(const ProcSample& process) {
 
 void ProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     Painting::takeRight(line, m_buttonsWidth);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);

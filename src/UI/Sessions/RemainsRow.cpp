@@ -5,6 +5,7 @@
 #include "UI/Kit/PushButton.h"
 #include "UI/Sessions/SessionTexts.h"
 #include "UI/Sessions/SessionTree.h"
+#include "UI/Style/Margins.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -55,6 +56,7 @@ void RemainsHeader::describeState() {
 
 void RemainsHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line = paintGround(painter);
     line.setRight(width() - figureGap);
     const QRectF memory = Painting::takeRight(line, memoryWidth, figureGap);
@@ -78,7 +80,7 @@ RemainsRow::RemainsRow(QWidget* parent)
     m_end->setFixedWidth(widestButton());
     m_tree->hide();
     auto* line = new QHBoxLayout;
-    line->setContentsMargins(0, 0, Theme::cardPadding, 0);
+    line->setContentsMargins(mirrored({0, 0, Theme::cardPadding, 0}));
     line->setSpacing(0);
     line->addWidget(m_header, 1);
     line->addWidget(m_end);

@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -108,11 +109,14 @@ void SessionHeader::changeEvent(QEvent* event) {
 void SessionHeader::resizeEvent(QResizeEvent* event) {
     RowHeader::resizeEvent(event);
     const int right = width() - headerFigureGap - memoryWidth - headerFigureGap - cpuWidth - headerFigureGap;
-    m_sparkline->move(right - m_sparkline->width(), (height - m_sparkline->height()) / 2);
+    const QRect place(right - m_sparkline->width(), (height - m_sparkline->height()) / 2,
+                      m_sparkline->width(), m_sparkline->height());
+    m_sparkline->move(QStyle::visualRect(layoutDirection(), rect(), place).topLeft());
 }
 
 void SessionHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line = paintGround(painter);
     line.setRight(width() - headerFigureGap);
     paintFigures(painter, line);

@@ -7,6 +7,7 @@
 #include "UI/Kit/SymbolView.h"
 #include "UI/Overview/OutcomeList.h"
 #include "UI/Overview/ReturnTexts.h"
+#include "UI/Style/Margins.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -28,11 +29,11 @@ SessionResultView::SessionResultView(const SessionEndResult& result, QWidget* pa
     outcomes->set(lines);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::cardPadding, 6, 6, 10);
+    column->setContentsMargins(mirrored({Theme::cardPadding, 6, 6, 10}));
     column->setSpacing(4);
     column->addLayout(makeHead(result));
     auto* inside = new QVBoxLayout;
-    inside->setContentsMargins(0, 0, Theme::cardPadding - 6, 0);
+    inside->setContentsMargins(mirrored({0, 0, Theme::cardPadding - 6, 0}));
     inside->setSpacing(4);
     inside->addWidget(promised);
     inside->addWidget(outcomes);

@@ -5,6 +5,7 @@
 #include "UI/Kit/PushButton.h"
 #include "UI/Sessions/SessionHeader.h"
 #include "UI/Sessions/SessionTree.h"
+#include "UI/Style/Margins.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -16,7 +17,7 @@ SessionRow::SessionRow(QWidget* parent)
     , m_header(new SessionHeader)
     , m_buttons(new QWidget) {
     auto* buttons = new QHBoxLayout(m_buttons);
-    buttons->setContentsMargins(0, 0, Theme::cardPadding, 0);
+    buttons->setContentsMargins(mirrored({0, 0, Theme::cardPadding, 0}));
     buttons->setSpacing(Theme::textGap);
     m_pause = addButton(QStringLiteral("pause"), tr("Pause"), SessionAction::pause);
     m_resume = addButton(QStringLiteral("play"), tr("Resume"), SessionAction::resume);

@@ -55,6 +55,7 @@ void SessionProcessRow::set(const SessionProcess& member, int depth, Instant now
 
 void SessionProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     QRectF line(rect());
     line.setLeft(Theme::cardPadding + RowHeader::chevronColumn + m_depth * indent);
     const QRectF age = Painting::takeRight(line, m_trailing, treeColumnGap);

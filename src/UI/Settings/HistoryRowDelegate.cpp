@@ -83,6 +83,7 @@ int HistoryRowDelegate::widthOf(Column column) {
 
 void HistoryRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
+    const Painting::Mirrored mirrored(*painter, option.rect, option.direction);
     TableView::paintGround(*painter, option);
     const Column column = columnOf(index);
     const auto& model = *static_cast<const HistoryTableModel*>(index.model());

@@ -34,6 +34,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
+        const Painting::Mirrored mirrored(*painter, option.rect, option.direction);
         TableView::paintGround(*painter, option);
         const QString text = index.data(Qt::DisplayRole).toString();
         const QRectF area = QRectF(option.rect).adjusted(presetPadding, 0, -presetPadding, 0);

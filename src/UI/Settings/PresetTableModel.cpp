@@ -24,7 +24,7 @@ const PresetColumn& PresetTableModel::column(int index) {
         {.title = QT_TRANSLATE_NOOP("Columns", "Name"),
          .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.name); }},
         {.title = QT_TRANSLATE_NOOP("Columns", "Pattern"),
-         .width = 114,
+         .width = 104,
          .text = [](const QuickKillPreset& preset) { return Formatters::visible(preset.pattern); }},
         {.title = QT_TRANSLATE_NOOP("Columns", "Idle≥"),
          .width = 60,

@@ -42,7 +42,54 @@ double baseline(const QFontMetricsF& metrics, const QRectF& area) {
     return qRound(area.center().y() + (metrics.ascent() - metrics.descent()) / 2);
 }
 
+/// Lets the text run as its own letters do: a path keeps its order in every language.
+void setDirection(QPainter& painter, const QString& text) {
+    painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+void reflect(QPainter& painter, const QRectF& area) {
+    painter.translate(qRound(area.left() + area.right()), 0); // whole points keep lines sharp
+    painter.scale(-1, 1);
+}
+
 } // namespace
+
+void mirror(QPainter& painter, const QRectF& area, Qt::LayoutDirection direction) {
+    if (direction == Qt::RightToLeft)
+        reflect(painter, area);
+}
+
+void mirror(QPainter& painter, const QWidget& widget) {
+    mirror(painter, widget.rect(), widget.layoutDirection());
+}
+
+QPointF mirrored(const QPointF& point, const QRectF& area, Qt::LayoutDirection direction) {
+    return direction == Qt::RightToLeft ? QPointF(area.left() + area.right() - point.x(), point.y()) : point;
+}
+
+Mirrored::Mirrored(QPainter& painter, const QRectF& area, Qt::LayoutDirection direction)
+    : m_painter(painter) {
+    painter.save();
+    mirror(painter, area, direction);
+}
+
+Mirrored::~Mirrored() {
+    m_painter.restore();
+}
+
+Upright::Upright(QPainter& painter, const QRectF& area)
+    : m_painter(painter)
+    , m_isMirrored(painter.transform().determinant() < 0) {
+    if (!m_isMirrored)
+        return;
+    painter.save();
+    reflect(painter, area);
+}
+
+Upright::~Upright() {
+    if (m_isMirrored)
+        m_painter.restore();
+}
 
 void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill,
               const QColor& border) {
@@ -110,24 +157,33 @@ double tabularWidth(const QFont& font, const QString& text) {
 }
 
 void drawTabular(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text) {
+    const Upright upright(painter, area);
     const QFontMetricsF metrics(painter.font());
+    setDirection(painter, text);
+    const bool isTabular = !text.isRightToLeft();
+    const double width = isTabular ? tabularWidth(painter.font(), text) : metrics.horizontalAdvance(text);
     double x = area.left();
-    if (alignment & Qt::AlignRight)
-        x = area.right() - tabularWidth(painter.font(), text);
-    else if (alignment & Qt::AlignHCenter)
-        x = area.center().x() - tabularWidth(painter.font(), text) / 2;
+    if (alignment & Qt::AlignHCenter)
+        x = area.center().x() - width / 2;
+    else if (bool(alignment & Qt::AlignRight) != upright.isMirrored())
+        x = area.right() - width;
     const double y = baseline(metrics, area);
-    forEachPiece(metrics, text, [&](const QString& piece, double width) {
-        const double inset = (width - metrics.horizontalAdvance(piece)) / 2;
+    if (!isTabular)
+        return painter.drawText(QPointF(x, y), text);
+    forEachPiece(metrics, text, [&](const QString& piece, double room) {
+        const double inset = (room - metrics.horizontalAdvance(piece)) / 2;
         painter.drawText(QPointF(x + inset, y), piece);
-        x += width;
+        x += room;
     });
 }
 
 void drawElided(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, const QString& text) {
+    const Upright upright(painter, area);
     const QFontMetricsF metrics(painter.font());
+    setDirection(painter, text);
     const QString fitting = metrics.elidedText(text, mode, area.width());
-    painter.drawText(QPointF(area.left(), baseline(metrics, area)), fitting);
+    const double x = upright.isMirrored() ? area.right() - metrics.horizontalAdvance(fitting) : area.left();
+    painter.drawText(QPointF(x, baseline(metrics, area)), fitting);
 }
 
 QRectF takeRight(QRectF& line, double width, double gap) {
@@ -145,6 +201,7 @@ void drawTickBox(QPainter& painter, const QRectF& area, Qt::CheckState state) {
         return;
     }
     drawCard(painter, area, tickRadius, Theme::tileColor(Theme::Role::accent));
+    const Upright upright(painter, area);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

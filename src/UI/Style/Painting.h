@@ -12,6 +12,42 @@ class QPainter;
 /// Drawing that several screens share.
 namespace Painting {
 
+/// Mirrors what is drawn from now on within `area`, where the layout runs from right to left. Whoever draws
+/// thinks from left to right; the texts, symbols and ticks below stay readable.
+void mirror(QPainter& painter, const QRectF& area, Qt::LayoutDirection direction);
+void mirror(QPainter& painter, const QWidget& widget);
+
+/// Returns where a point of the screen is for whoever draws mirrored within `area`.
+QPointF mirrored(const QPointF& point, const QRectF& area, Qt::LayoutDirection direction);
+
+/// Mirrors for as long as it lives.
+class Mirrored {
+public:
+    Mirrored(QPainter& painter, const QRectF& area, Qt::LayoutDirection direction);
+    ~Mirrored();
+    Mirrored(const Mirrored&) = delete;
+    Mirrored& operator=(const Mirrored&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
+/// Draws within `area` as it is for as long as it lives, also with a mirrored painter.
+class Upright {
+public:
+    Upright(QPainter& painter, const QRectF& area);
+    ~Upright();
+    Upright(const Upright&) = delete;
+    Upright& operator=(const Upright&) = delete;
+
+    /// Returns whether the painter is mirrored elsewhere, so that left and right change places.
+    bool isMirrored() const { return m_isMirrored; }
+
+private:
+    QPainter& m_painter;
+    bool m_isMirrored;
+};
+
 /// Draws a rounded rectangle with a border of one point inside its edge.
 void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill,
               const QColor& border = Qt::transparent);
@@ -43,6 +79,7 @@ double lineHeight(const QFont& font);
 double tabularWidth(const QFont& font, const QString& text);
 
 /// Draws one line of text with digits of equal width, left, right or centred, in the middle of `area`.
+/// Letters that run from right to left keep their order, without that width.
 void drawTabular(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text);
 
 /// Draws one line of text, with an ellipsis where it does not fit.

@@ -67,6 +67,7 @@ void drawSwitch(QPainter& painter, const QRectF& track, QStyle::State state, dou
 
 /// Draws the switch before its text, or at the far end where the check box is as wide as the form.
 void drawCheckBox(QPainter& painter, const QStyleOptionButton& box, const QWidget* widget) {
+    const Painting::Mirrored mirrored(painter, box.rect, box.direction);
     const double opacity = box.state & QStyle::State_Enabled ? 1 : Theme::disabledOpacity;
     const bool isSpread = widget && widget->sizePolicy().expandingDirections() & Qt::Horizontal;
     QRectF line = box.rect;
@@ -114,6 +115,7 @@ void drawButtonGround(QPainter& painter, const QStyleOptionButton& button) {
 }
 
 void drawPushButton(QPainter& painter, const QStyleOptionButton& button) {
+    const Painting::Mirrored mirrored(painter, button.rect, button.direction);
     drawButtonGround(painter, button);
     QRectF line = buttonContents(button);
     painter.setPen(button.palette.color(QPalette::ButtonText));
@@ -143,6 +145,7 @@ QRect comboBoxField(const QStyleOptionComboBox& box) {
 
 /// Draws all but the text.
 void drawComboBox(QPainter& painter, const QStyleOptionComboBox& box) {
+    const Painting::Mirrored mirrored(painter, box.rect, box.direction);
     const QRectF area = box.rect;
     const bool isEnabled = box.state & QStyle::State_Enabled;
     Painting::drawCard(painter, area, Theme::controlRadius);
@@ -176,6 +179,7 @@ void drawChevron(QPainter& painter, const QRectF& area, bool isUp) {
 }
 
 void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
+    const Painting::Mirrored mirrored(painter, section.rect, section.direction);
     drawHeaderGround(painter, section);
     const bool isSorted = section.sortIndicator != QStyleOptionHeader::None;
     painter.setFont(Theme::font(Theme::TextStyle::caption, isSorted ? QFont::DemiBold : QFont::Medium));
@@ -198,6 +202,8 @@ void drawHeaderSection(QPainter& painter, const QStyleOptionHeader& section) {
 }
 
 void drawSlider(QPainter& painter, const QStyleOptionSlider& slider) {
+    const Painting::Mirrored mirrored(painter, slider.rect,
+                                      slider.upsideDown ? Qt::RightToLeft : Qt::LeftToRight);
     const bool isEnabled = slider.state & QStyle::State_Enabled;
     const QRectF area = slider.rect;
     const QRectF track(area.left() + 1, area.top() + (area.height() - sliderTrackHeight) / 2,

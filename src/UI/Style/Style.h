@@ -14,7 +14,7 @@ public:
     Style();
 
     static constexpr int knobSide = 16;
-    /// Returns the area of the knob of a horizontal slider.
+    /// Returns the area of the knob of a horizontal slider that runs from left to right.
     static QRectF knob(const QStyleOptionSlider& slider);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -1,5 +1,7 @@
 #include "UI/Style/Symbols.h"
 
+#include "UI/Style/Painting.h"
+
 #include <QDir>
 #include <QFile>
 #include <QIconEngine>
@@ -8,6 +10,7 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <optional>
 
 namespace Symbols {
 namespace {
@@ -75,6 +78,9 @@ QIcon icon(const QString& name) {
 }
 
 void draw(QPainter& painter, const QString& name, const QColor& tint, const QRectF& area, int size) {
+    std::optional<Painting::Upright> upright;
+    if (!name.startsWith(QStringLiteral("chevron"))) // which points to where the layout goes on
+        upright.emplace(painter, area);
     const double ratio = painter.device()->devicePixelRatioF();
     const QPointF corner = area.center() - QPointF(size / 2.0, size / 2.0);
     painter.drawPixmap(QPointF(qRound(corner.x()), qRound(corner.y())), pixmap(name, tint, size, ratio));
