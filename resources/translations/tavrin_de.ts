@@ -1128,8 +1128,8 @@
         <translation>Modelle und Datensätze. Öffentliche lassen sich erneut laden.</translation>
     </message>
     <message>
-        <source>All models at once. Those that you made here are gone for good.</source>
-        <translation>Alle Modelle zugleich. Hier selbst erstellte sind endgültig weg.</translation>
+        <source>Parts of models, named after them. Those that you made here are gone for good.</source>
+        <translation>Teile von Modellen, nach diesen benannt. Hier selbst erstellte sind endgültig weg.</translation>
     </message>
     <message>
         <source>Models. What is public can be fetched again.</source>

@@ -1128,8 +1128,8 @@
         <translation>Modelos y conjuntos de datos. Lo que es público se puede descargar de nuevo.</translation>
     </message>
     <message>
-        <source>All models at once. Those that you made here are gone for good.</source>
-        <translation>Todos los modelos a la vez. Los que creó aquí se pierden definitivamente.</translation>
+        <source>Parts of models, named after them. Those that you made here are gone for good.</source>
+        <translation>Partes de modelos, con el nombre de estos. Los que creó aquí se pierden definitivamente.</translation>
     </message>
     <message>
         <source>Models. What is public can be fetched again.</source>

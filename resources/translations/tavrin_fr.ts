@@ -1128,8 +1128,8 @@
         <translation>Modèles et jeux de données. Ce qui est public peut être retéléchargé.</translation>
     </message>
     <message>
-        <source>All models at once. Those that you made here are gone for good.</source>
-        <translation>Tous les modèles à la fois. Ceux créés ici sont perdus définitivement.</translation>
+        <source>Parts of models, named after them. Those that you made here are gone for good.</source>
+        <translation>Parties de modèles, nommées d’après eux. Ceux créés ici sont perdus définitivement.</translation>
     </message>
     <message>
         <source>Models. What is public can be fetched again.</source>

@@ -1118,8 +1118,8 @@
         <translation>モデルとデータセット。公開されているものは再取得できます。</translation>
     </message>
     <message>
-        <source>All models at once. Those that you made here are gone for good.</source>
-        <translation>すべてのモデルを一度に削除します。ここで作ったものは完全に失われます。</translation>
+        <source>Parts of models, named after them. Those that you made here are gone for good.</source>
+        <translation>モデルの一部（モデル名で表示）。ここで作ったものは完全に失われます。</translation>
     </message>
     <message>
         <source>Models. What is public can be fetched again.</source>

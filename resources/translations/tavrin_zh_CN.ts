@@ -1118,8 +1118,8 @@
         <translation>模型和数据集。公开的内容可以重新获取。</translation>
     </message>
     <message>
-        <source>All models at once. Those that you made here are gone for good.</source>
-        <translation>一次删除全部模型。您在此创建的将永久丢失。</translation>
+        <source>Parts of models, named after them. Those that you made here are gone for good.</source>
+        <translation>模型的各部分，以模型命名。您在此创建的将永久丢失。</translation>
     </message>
     <message>
         <source>Models. What is public can be fetched again.</source>
