@@ -1069,7 +1069,7 @@
     </message>
     <message>
         <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
-        <translation>Chaînes d’outils autres que celle par défaut. Un projet peut encore en nommer une : rustup la retélécharge, sauf si elle est de vous.</translation>
+        <translation>Chaînes d’outils autres que celle par défaut. Un projet peut encore en nommer une : rustup la retélécharge, sauf si elle est de vous.</translation>
     </message>
     <message>
         <source>Yarn and Corepack fetch it again.</source>
