@@ -28,8 +28,10 @@ AppDelegate::~AppDelegate() {
     delete m_settings;
 }
 
-void AppDelegate::applicationDidFinishLaunching() {
-    openMainWindow(); // first: its frame is drawn while the rest is made
+void AppDelegate::applicationDidFinishLaunching(const LaunchOptions& options) {
+    makeMainWindow();
+    if (!options.isHidden)
+        m_mainWindow->show(); // first: its frame is drawn while the rest is made
     m_model.start();
     m_messages.start();
     m_menuBar = std::make_unique<MenuBarController>(m_model, m_preferences, m_desktop, m_widget);
@@ -41,15 +43,16 @@ void AppDelegate::applicationDidFinishLaunching() {
         m_widget.show(m_model);
     registerLoginItemIfFirstLaunch();
     observe(&m_preferences, m_menuBar.get(), [this] { applyActivationPolicy(); });
+    if (options.place && !options.isHidden)
+        show(*options.place);
 }
 
-void AppDelegate::openMainWindow() {
+void AppDelegate::makeMainWindow() {
     m_mainWindow = std::make_unique<MainWindow>(m_model, m_preferences, m_messages);
     QObject::connect(m_mainWindow.get(), &MainWindow::widgetToggled, m_mainWindow.get(),
                      [this] { m_widget.toggle(m_model); });
     QObject::connect(m_mainWindow.get(), &MainWindow::settingsRequested, m_mainWindow.get(),
                      [this] { openSettings(); });
-    m_mainWindow->show();
 }
 
 /// Shows in the main window what the user chooses in a notification.
@@ -76,6 +79,28 @@ void AppDelegate::startNotifying() {
                          bringForward();
                          root.confirmQuit(process);
                      });
+}
+
+void AppDelegate::startedAgain(const LaunchOptions& options) {
+    if (options.isHidden)
+        return;
+    if (options.place)
+        show(*options.place);
+    else
+        bringForward();
+}
+
+void AppDelegate::show(Destination place) {
+    if (place == Destination::settings) {
+        openSettings();
+        return;
+    }
+    bringForward();
+    RootView& root = m_mainWindow->root();
+    if (place == Destination::freeRAM)
+        root.openFreeRAM();
+    else
+        root.select(static_cast<RootView::Tab>(place)); // the sections come first, in their order
 }
 
 void AppDelegate::bringForward() {

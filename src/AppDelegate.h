@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LaunchOptions.h"
 #include "Platform/Desktop/Desktop.h"
 #include "UI/Widget.h"
 
@@ -23,14 +24,18 @@ public:
                 std::shared_ptr<LoginItem> loginItem);
     ~AppDelegate();
 
-    void applicationDidFinishLaunching();
-    /// Brings the main window forward, for a user who started the program a second time.
+    void applicationDidFinishLaunching(const LaunchOptions& options = {});
+    /// Does what a second start asks for: brings a window forward, unless it is hidden.
+    void startedAgain(const LaunchOptions& options);
+    /// Brings the main window forward.
     void bringForward();
+    /// Brings a section or a dialog forward.
+    void show(Destination place);
     /// Brings the settings window forward, and makes it where none is open.
     void openSettings();
 
 private:
-    void openMainWindow();
+    void makeMainWindow();
     void startNotifying();
     void applyActivationPolicy();
     void registerLoginItemIfFirstLaunch();

@@ -4,6 +4,7 @@
 #include "AppModel.h"
 #include "Core/Announcements/MessageCenter.h"
 #include "Core/Translations.h"
+#include "LaunchOptions.h"
 #include "Platform/Appearance.h"
 #include "Platform/LoginItem.h"
 #include "Platform/SingleInstance.h"
@@ -41,15 +42,17 @@ TavrinApp::TavrinApp(int& argc, char** argv)
 
 TavrinApp::~TavrinApp() = default;
 
-int TavrinApp::run() {
+int TavrinApp::run(const LaunchOptions& options) {
     SingleInstance instance(displayName());
-    if (!instance.claim())
+    if (!instance.claim(options.request()))
         return 0;
     m_appDelegate =
         std::make_unique<AppDelegate>(AppModel::shared(), Preferences::shared(), MessageCenter::shared(),
                                       Desktop::native(), Platform::makeLoginItem());
-    connect(&instance, &SingleInstance::startedAgain, this, [this] { m_appDelegate->bringForward(); });
-    m_appDelegate->applicationDidFinishLaunching();
+    connect(&instance, &SingleInstance::startedAgain, this, [this](const QByteArray& request) {
+        m_appDelegate->startedAgain(LaunchOptions::ofRequest(request));
+    });
+    m_appDelegate->applicationDidFinishLaunching(options);
     const TerminationRequest termination;
     connect(&termination, &TerminationRequest::received, this, &QCoreApplication::quit);
     const int status = exec();

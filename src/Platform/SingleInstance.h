@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 
 class QLocalServer;
@@ -13,16 +14,17 @@ class SingleInstance : public QObject {
 public:
     explicit SingleInstance(const QString& display, QObject* parent = nullptr);
 
-    /// Returns true when this program is the first or no socket can be made.
-    bool claim();
+    /// Returns true when this program is the first or no socket can be made. The first gets the request of a
+    /// later one, at most 1,000 bytes.
+    bool claim(const QByteArray& request = {});
 
 Q_SIGNALS:
     /// Emitted when the program was started again.
-    void startedAgain();
+    void startedAgain(const QByteArray& request);
 
 private:
-    bool notifyRunning() const;
-    void readToken(QLocalSocket* caller);
+    bool notifyRunning(const QByteArray& request) const;
+    void readCall(QLocalSocket* caller);
 
     QString m_socket;
     QLocalServer* m_server;

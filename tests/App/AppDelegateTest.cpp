@@ -26,9 +26,9 @@ struct AppDelegateTest : ModelFixture {
     std::shared_ptr<FakeLoginItem> loginItem = std::make_shared<FakeLoginItem>();
     std::optional<AppDelegate> delegate;
 
-    void launch() {
+    void launch(const LaunchOptions& options = {}) {
         delegate.emplace(model, prefs, messages, desktop.desktop(), loginItem);
-        delegate->applicationDidFinishLaunching();
+        delegate->applicationDidFinishLaunching(options);
         settle();
     }
     bool didFirstLaunch() {
@@ -151,6 +151,35 @@ TEST_F(AppDelegateTest, ANotificationsActionBringsTheWindowForward) {
     EXPECT_EQ(main.root().tab(), RootView::Tab::overview);
     Q_EMIT desktop.notifications->invoked(u"memory"_s, u"free_ram"_s);
     EXPECT_TRUE(main.findChild<FreeRAMSheet*>());
+}
+
+TEST_F(AppDelegateTest, AHiddenStartShowsNoWindowUntilItIsAskedFor) {
+    launch({.isHidden = true});
+    MainWindow& main = *windows<MainWindow>().constFirst();
+    EXPECT_FALSE(main.isVisible());
+    desktop.application->own = {&main};
+    delegate->startedAgain({.isHidden = true});
+    EXPECT_EQ(desktop.application->forward, nullptr);
+    delegate->startedAgain({});
+    EXPECT_EQ(desktop.application->forward, &main);
+}
+
+TEST_F(AppDelegateTest, OpensWhereItIsAskedTo) {
+    launch({.place = Destination::processes});
+    MainWindow& main = *windows<MainWindow>().constFirst();
+    EXPECT_EQ(main.root().tab(), RootView::Tab::processes);
+    for (const auto& [place, tab] : {std::pair{Destination::overview, RootView::Tab::overview},
+                                     std::pair{Destination::optimize, RootView::Tab::optimize},
+                                     std::pair{Destination::cleanup, RootView::Tab::cleanup},
+                                     std::pair{Destination::sessions, RootView::Tab::sessions}}) {
+        delegate->startedAgain({.place = place});
+        EXPECT_EQ(main.root().tab(), tab);
+    }
+    delegate->startedAgain({.place = Destination::freeRAM});
+    EXPECT_TRUE(main.findChild<FreeRAMSheet*>());
+    delegate->startedAgain({.place = Destination::settings});
+    ASSERT_EQ(windows<SettingsScene>().size(), 1);
+    EXPECT_EQ(desktop.application->forward, windows<SettingsScene>().constFirst());
 }
 
 TEST_F(AppDelegateTest, SettingsTakeEffectWithoutARestart) {

@@ -47,9 +47,10 @@ QList<Include> includesOf(const SourceTree& tree) {
 /// Returns the floor of a file, counted from the ground, or an empty optional for an unknown file.
 std::optional<int> floorOf(const QString& file) {
     static const QList<std::pair<QString, int>> floors = {
-        {u"Platform/"_s, 0},  {u"Tools/"_s, 0},       {u"Core/"_s, 1}, {u"Preferences."_s, 1},
-        {u"Model/"_s, 2},     {u"AppModel."_s, 2},    {u"UI/"_s, 3},   {u"main."_s, 4},
-        {u"TavrinApp."_s, 4}, {u"AppDelegate."_s, 4},
+        {u"Platform/"_s, 0},     {u"Tools/"_s, 0},         {u"Core/"_s, 1},        {u"Preferences."_s, 1},
+        {u"Model/"_s, 2},        {u"AppModel."_s, 2},      {u"UI/"_s, 3},          {u"Cli/"_s, 3},
+        {u"TavrinApp."_s, 4},    {u"AppDelegate."_s, 4},   {u"main."_s, 4},        {u"tavrinctl."_s, 4},
+        {u"DisplayGuard."_s, 4}, {u"LaunchOptions."_s, 4}, {u"Destination."_s, 4}, {u"ProgramBus."_s, 4},
     };
     for (const auto& [start, floor] : floors) {
         if (file.startsWith(start))
@@ -83,9 +84,15 @@ bool mayKnowAnswer(const QString& file, const QString& answer) {
            file.startsWith(u"Tools/"_s); // programs for Linux alone
 }
 
+/// Returns true for the files of the program for a terminal.
+bool isOfTerminal(const QString& file) {
+    return file.startsWith(u"Cli/"_s) || file.startsWith(u"tavrinctl."_s);
+}
+
 /// Returns true for files of the upper floors and for Platform's desktop folders.
 bool mayUseWindows(const QString& file) {
-    return floorOf(file) >= 3 || (file.startsWith(u"Platform/"_s) && file.contains(u"/Desktop/"_s));
+    return (floorOf(file) >= 3 && !isOfTerminal(file)) ||
+           (file.startsWith(u"Platform/"_s) && file.contains(u"/Desktop/"_s));
 }
 
 /// Returns whether a header belongs to one of Qt's modules for windows or pictures.
@@ -109,6 +116,8 @@ QString objection(const QString& file, const QString& target) {
         return u"an answer that it may not know"_s;
     if (mayUseWindows(target) && !mayUseWindows(file))
         return u"which has windows in it"_s;
+    if (isOfTerminal(target) && !isOfTerminal(file))
+        return u"of the program for a terminal"_s;
     return {};
 }
 
@@ -171,6 +180,7 @@ TEST(Includes, EveryRuleIsChecked) {
     const SourceTree tree = {
         {u"AppModel.h"_s,
          u"#include <QTimer>\n#include \"Core/Sound.h\"\n#include \"Platform/Desktop/Popover.h\"\n"_s},
+        {u"Cli/Table.h"_s, u"#include <QWidget>\n#include \"UI/One.h\"\n"_s},
         {u"Core/Drawing.h"_s, u"#include <chrono>\n\n#include <QColor>\n"_s},
         {u"Core/Self.h"_s, u"#include \"Core/Self.h\"\n"_s},
         {u"Core/Sound.h"_s,
@@ -185,6 +195,7 @@ TEST(Includes, EveryRuleIsChecked) {
         {u"Platform/Unix/UnixClock.cpp"_s, u"#include \"Platform/Linux/LinuxClock.cpp\"\n"_s},
         {u"Preferences.h"_s, u"#include \"Clock.h\"\n#include \"Platform/Linux/LinuxClock.cpp\"\n"_s},
         {u"UI/One.h"_s, u"  # include \"UI/Two.h\"\n#include \"AppModel.h\"\n#include <QIcon>\n"_s},
+        {u"UI/Three.h"_s, u"#include \"Cli/Table.h\"\n"_s},
         {u"UI/Two.h"_s,
          u"#include \"UI/One.h\"\n#include \"main.cpp\"\n#include \"Platform/Desktop/Popover.h\"\n"_s},
         {u"main.cpp"_s, u"#include \"AppModel.h\"\n"_s},
@@ -192,6 +203,8 @@ TEST(Includes, EveryRuleIsChecked) {
     const QStringList faults = {
         u"Helpers/Misc.h: stands on no floor"_s,
         u"AppModel.h:3: includes Platform/Desktop/Popover.h, which has windows in it"_s,
+        u"Cli/Table.h:1: includes QWidget, a header with windows in it"_s,
+        u"Cli/Table.h:2: includes UI/One.h, which has windows in it"_s,
         u"Core/Drawing.h:3: includes QColor, a header with windows in it"_s,
         u"Platform/Host.h:1: includes Platform/Clock.h, where nothing of ours may be"_s,
         u"Platform/Linux/LinuxClock.cpp:2: includes Core/Sound.h, from a floor above"_s,
@@ -199,6 +212,7 @@ TEST(Includes, EveryRuleIsChecked) {
         u"Platform/Unix/UnixClock.cpp:1: includes Platform/Linux/LinuxClock.cpp, an answer that it may not know"_s,
         u"Preferences.h:1: includes Clock.h, which is no file below src/"_s,
         u"Preferences.h:2: includes Platform/Linux/LinuxClock.cpp, an answer that it may not know"_s,
+        u"UI/Three.h:1: includes Cli/Table.h, of the program for a terminal"_s,
         u"UI/Two.h:2: includes main.cpp, from a floor above"_s,
         u"a circle: Core/Self.h, UI/One.h, UI/Two.h"_s,
     };

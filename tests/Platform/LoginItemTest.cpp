@@ -21,7 +21,7 @@ struct LoginItemTest : testing::Test {
 
     /// Makes a program that writes its own path to the file `started`.
     QString makeProgram(const QString& below) const {
-        return home.makeProgram(below, "#!/bin/sh\nprintf %s \"$0\" > \"$HOME/started.new\"\n"
+        return home.makeProgram(below, "#!/bin/sh\nprintf %s \"$0 $*\" > \"$HOME/started.new\"\n"
                                        "mv \"$HOME/started.new\" \"$HOME/started\"\n");
     }
     QStringList autostartFolder() const {
@@ -52,7 +52,7 @@ TEST_F(LoginItemTest, DesktopsStartTheProgramWhereverItIs) {
         EXPECT_EQ(errorsOf(u"gio"_s, {u"launch"_s, entry}), QByteArray()) << qPrintable(folder);
         const QString started = home.path(u"started"_s);
         EXPECT_TRUE(QTest::qWaitFor([&started] { return QFile::exists(started); }));
-        EXPECT_EQ(QString::fromUtf8(contentOf(started)), program);
+        EXPECT_EQ(QString::fromUtf8(contentOf(started)), program + u" --hidden"_s);
         QFile::remove(started);
     }
     EXPECT_EQ(autostartFolder(), QStringList(u"tavrin.desktop"_s));
@@ -92,7 +92,7 @@ TEST_F(LoginItemTest, FollowsTheConfigurationFolder) {
     qputenv("XDG_CONFIG_HOME", home.path(u"elsewhere"_s).toUtf8());
     EXPECT_EQ(FreedesktopLoginItem(u"/usr/bin/tavrin"_s).registerItem(), Outcome::success());
     EXPECT_TRUE(contentOf(home.path(u"elsewhere/autostart/tavrin.desktop"_s))
-                    .contains("\nExec=\"/usr/bin/tavrin\"\nTryExec=/usr/bin/tavrin\n"));
+                    .contains("\nExec=\"/usr/bin/tavrin\" --hidden\nTryExec=/usr/bin/tavrin\n"));
     EXPECT_FALSE(QFile::exists(entry));
 }
 

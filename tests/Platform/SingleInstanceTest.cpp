@@ -46,11 +46,16 @@ TEST_F(SingleInstanceTest, OnePerDisplayAndTheSecondCallsTheFirst) {
     SingleInstance otherDisplay(u"\n:1"_s);
     SingleInstance second(u"\n:0"_s);
     int calls = 0;
-    QObject::connect(&first, &SingleInstance::startedAgain, &first, [&calls] { ++calls; });
+    QByteArray request;
+    QObject::connect(&first, &SingleInstance::startedAgain, &first, [&](const QByteArray& asked) {
+        ++calls;
+        request = asked;
+    });
     EXPECT_TRUE(first.claim());
     EXPECT_TRUE(otherDisplay.claim());
-    EXPECT_FALSE(second.claim());
+    EXPECT_FALSE(second.claim("cleanup"));
     EXPECT_TRUE(isCalled(first));
+    EXPECT_EQ(request, "cleanup");
     QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
     EXPECT_EQ(calls, 1);
 }

@@ -35,9 +35,36 @@ export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb
 settings=$home/.config/Tavrin/Tavrin.ini
 autostart=$home/.config/autostart/tavrin.desktop
 
+# Starts the program with arguments that it only answers; prints its status and what it says.
+answer() {
+    local status=0 said
+    said=$("$program" "$@" 2>&1) || status=$?
+    echo "$status ${said%%$'\n'*}"
+}
+says() { [[ $(answer "${@:2}") = $1 ]] || { answer "${@:2}" >&2 && return 1; }; }
+
+check "it says what it can do" says "0 Usage: tavrin *" --help
+check "it knows its version" says "0 Tavrin [0-9]*" --version
+check "it does not guess what a wrong option means" says "2 tavrin: *hiden*" --hiden
+for display in "" :98765; do
+    status=0
+    said=$(DISPLAY=$display "$program" 2>&1) || status=$?
+    check "without a display ('$display') it names the program that needs none" \
+        [ "$status $(wc -l <<<"$said") $(grep -c tavrinctl <<<"$said")" = "1 1 1" ]
+done
+
 start
 check "the first start where it was built is noted" stored "pref.didFirstLaunchSetup=true"
+check "a hidden second start shows nothing" says "0 " --hidden
+check "a second start hands its section on" says "0 " --section cleanup
+shows "which then opens" "Clean All"
 quit
+spawn "$program" --hidden
+pid=$spawned
+within_ten_seconds compgen -G "$XDG_RUNTIME_DIR/tavrin-*.socket" >/dev/null || fail "a hidden start runs"
+check "a hidden start shows no main window" not timeout 2 bash -c ". scripts/lib/display.sh; main_window $pid"
+kill "$pid"
+wait "$pid" || fail "it ends well"
 [ ! -e "$autostart" ] || fail "a program where it was built registers nothing"
 rm "$settings"
 

@@ -88,11 +88,13 @@ QString registeredProgram() {
     return {};
 }
 
-/// Returns the command for Exec: a shell starts names with "=" and with "%", which desktops mistake.
+/// Returns the command for Exec, which opens no window: a shell starts names with "=" and with "%", which
+/// desktops mistake.
 QString command(const QString& program) {
     if (!program.contains(u'%') && !program.contains(u'='))
-        return quoted(program);
-    return QStringLiteral("/bin/sh -c %1 %2").arg(quoted(QStringLiteral("exec \"$0\"")), quoted(program));
+        return quoted(program) + QStringLiteral(" --hidden");
+    return QStringLiteral("/bin/sh -c %1 %2")
+        .arg(quoted(QStringLiteral("exec \"$0\" --hidden")), quoted(program));
 }
 
 Outcome makeFolder(const QString& folder) {

@@ -146,7 +146,7 @@ SingleInstance::SingleInstance(const QString&, QObject* parent)
     : QObject(parent)
     , m_server(nullptr) {}
 
-bool SingleInstance::claim() {
+bool SingleInstance::claim(const QByteArray&) {
     return true;
 }
 

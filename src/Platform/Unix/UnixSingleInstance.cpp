@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int replyTimeoutMs = 1000;
-constexpr qint64 maxTokenBytes = 1024;
+constexpr qint64 maxCallBytes = 4096; // a request, a zero byte and a token
 
 /// A Wayland launcher's token for taking the keyboard once, read by Qt when a window comes forward. The
 /// second start passes it to the first, whose window is to come.
@@ -50,24 +50,26 @@ SingleInstance::SingleInstance(const QString& display, QObject* parent)
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server->nextPendingConnection()) {
             connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { readToken(caller); });
+            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { readCall(caller); });
         }
     });
 }
 
-void SingleInstance::readToken(QLocalSocket* caller) {
-    const QByteArray token = caller->read(maxTokenBytes);
+void SingleInstance::readCall(QLocalSocket* caller) {
+    const QByteArray call = caller->read(maxCallBytes);
+    const qsizetype end = call.indexOf('\0');
+    const QByteArray token = end < 0 ? QByteArray() : call.mid(end + 1);
     if (!token.isEmpty())
         qputenv(activationToken, token);
-    Q_EMIT startedAgain();
+    Q_EMIT startedAgain(call.left(end));
 }
 
-bool SingleInstance::claim() {
+bool SingleInstance::claim(const QByteArray& request) {
     // Programs that start together, as at login, take turns.
     QLockFile turn(m_socket + QStringLiteral(".lock"));
     static_cast<void>(turn.tryLock(replyTimeoutMs));
     // Before listening, which would take the socket over from the running program.
-    if (notifyRunning())
+    if (notifyRunning(request))
         return false;
     QLocalServer::removeServer(m_socket);
     if (!m_server->listen(m_socket))
@@ -75,12 +77,12 @@ bool SingleInstance::claim() {
     return true;
 }
 
-bool SingleInstance::notifyRunning() const {
+bool SingleInstance::notifyRunning(const QByteArray& request) const {
     QLocalSocket socket;
     socket.connectToServer(m_socket);
     if (!socket.waitForConnected(replyTimeoutMs))
         return false;
-    socket.write(qgetenv(activationToken));
+    socket.write(request + '\0' + qgetenv(activationToken));
     socket.disconnectFromServer();
     if (socket.state() != QLocalSocket::UnconnectedState)
         socket.waitForDisconnected(replyTimeoutMs);
