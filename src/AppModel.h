@@ -37,6 +37,12 @@ public:
 
     /// Starts the timer, follows the poll interval and ticks once.
     void start();
+    /// Samples the machine and publishes the figures. The timer calls it, and a program that needs no more
+    /// than a look.
+    Q_SLOT void tick();
+    /// Takes over how long a process has been idle from a program that has watched it for longer. The next
+    /// tick shows it.
+    void setIdle(const ProcessIdentity& process, double seconds) { m_sampler.setIdle(process, seconds); }
     /// Returns the period of the sampling timer in seconds, -1 while it is stopped.
     double timerInterval() const;
 
@@ -75,9 +81,6 @@ public:
     std::optional<ProcGroup> chosenGroup(const ProcSample& process) const;
     /// Stores a group for the programs of these processes. An empty one removes the choice.
     void chooseGroup(const QList<ProcSample>& processes, std::optional<ProcGroup> group);
-
-private Q_SLOTS:
-    void tick();
 
 private:
     void followSessions(const QList<MCPInspector::LiveServer>& servers);

@@ -60,7 +60,8 @@ public:
     /// reaches both minima (minutes, MiB). Leaves one entry in the log.
     QuickKillResult quickKill(const QString& pattern, const QString& label, double minIdleMin,
                               double minRSSMB, bool force);
-    /// Returns how many processes `quickKill` would signal now.
+    /// Returns the processes that `quickKill` would signal now, and how many they are.
+    QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     int previewMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
 
     /// Signals the user's orphan servers that still are orphans, with their launchers. Returns how many
@@ -105,7 +106,6 @@ private:
     void signalChosen(const ProcSample& chosen, bool force);
     int signalServer(const MCPInspector::LiveServer& server, bool force);
     QList<ProcSample> reinspectedOrphans() const;
-    QList<ProcSample> quickKillMatches(const QString& pattern, double minIdleMin, double minRSSMB) const;
     std::optional<QString> applicationOf(const ProcSample& process) const;
     QList<ProcSample> processesOf(const QString& application) const;
     void setApplication(NukePreview& preview, const QList<ProcSample>& owned) const;

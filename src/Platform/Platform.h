@@ -16,8 +16,11 @@ class PowerMode;
 class Pressure;
 class ProcessMemory;
 class ProcessTable;
+class ProgramService;
 class Relief;
+class RunningProgram;
 class Signals;
+class Terminal;
 class ToolRunner;
 
 /// The services of an operating system, made once at start and passed down.
@@ -42,7 +45,11 @@ struct Platform {
     static void prepareProgram();
     /// Makes the services of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();
+    /// Make what only a program for a terminal needs.
+    static std::unique_ptr<Terminal> makeTerminal();
+    static std::unique_ptr<RunningProgram> makeRunningProgram();
     /// Makes what only programs with windows need.
     static std::unique_ptr<Appearance> makeAppearance();
     static std::unique_ptr<LoginItem> makeLoginItem();
+    static std::unique_ptr<ProgramService> makeProgramService();
 };

@@ -204,6 +204,15 @@ bool Sampler::isReplaced(qint32 pid) const {
     return listed != m_known.cend() && running && running->startTicks != listed->staticCache.startTicks;
 }
 
+void Sampler::setIdle(const ProcessIdentity& process, double seconds) {
+    const auto entry = m_known.find(process.pid);
+    const auto inSeconds = [](Instant instant) { return std::chrono::floor<std::chrono::seconds>(instant); };
+    if (entry == m_known.end() || inSeconds(entry->staticCache.startTime) != inSeconds(process.startTime))
+        return;
+    entry->prev.lastNonZero = entry->prev.sampledAt - std::chrono::duration_cast<Uptime::duration>(
+                                                          std::chrono::duration<double>(seconds));
+}
+
 /// Returns the share of a core since the last reading, and remembers this one.
 double Sampler::cpuPercent(PrevCPU& cpu, quint64 totalNs, Uptime now) const {
     const bool firstSight = cpu.sampledAt == Uptime();

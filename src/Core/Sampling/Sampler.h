@@ -38,6 +38,9 @@ public:
     /// program, title or parent of a process shows within three passes; its CPU and idle time go on.
     QList<ProcSample> sampleProcesses();
 
+    /// Takes over how long a process of the last pass has been idle. Starts are compared in whole seconds.
+    void setIdle(const ProcessIdentity& process, double seconds);
+
     /// Calls the classifier again for every process.
     void classifyAnew();
 

@@ -2,6 +2,8 @@
 #include "Platform/Freedesktop/FreedesktopAppearance.h"
 #include "Platform/Freedesktop/FreedesktopLoginItem.h"
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
+#include "Platform/Freedesktop/FreedesktopProgramService.h"
+#include "Platform/Freedesktop/FreedesktopRunningProgram.h"
 #include "Platform/Freedesktop/FreedesktopTargets.h"
 #include "Platform/Linux/LinuxApplications.h"
 #include "Platform/Linux/LinuxHostStatistics.h"
@@ -16,6 +18,7 @@
 #include "Platform/Platform.h"
 #include "Platform/Unix/DescriptorLimit.h"
 #include "Platform/Unix/UnixIdentity.h"
+#include "Platform/Unix/UnixTerminal.h"
 #include "Platform/Unix/UnixToolRunner.h"
 #include "Platform/Words.h"
 
@@ -44,12 +47,24 @@ Platform Platform::native() {
             .relief = std::make_shared<LinuxRelief>(tools)};
 }
 
+std::unique_ptr<Terminal> Platform::makeTerminal() {
+    return std::make_unique<UnixTerminal>();
+}
+
+std::unique_ptr<RunningProgram> Platform::makeRunningProgram() {
+    return std::make_unique<FreedesktopRunningProgram>();
+}
+
 std::unique_ptr<Appearance> Platform::makeAppearance() {
     return std::make_unique<FreedesktopAppearance>();
 }
 
 std::unique_ptr<LoginItem> Platform::makeLoginItem() {
     return std::make_unique<FreedesktopLoginItem>();
+}
+
+std::unique_ptr<ProgramService> Platform::makeProgramService() {
+    return std::make_unique<FreedesktopProgramService>();
 }
 
 Words Words::native() {

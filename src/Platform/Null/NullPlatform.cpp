@@ -13,9 +13,12 @@
 #include "Platform/Pressure.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
+#include "Platform/ProgramService.h"
 #include "Platform/Relief.h"
+#include "Platform/RunningProgram.h"
 #include "Platform/Signals.h"
 #include "Platform/SingleInstance.h"
+#include "Platform/Terminal.h"
 #include "Platform/TerminationRequest.h"
 #include "Platform/ToolRunner.h"
 #include "Platform/Words.h"
@@ -89,6 +92,19 @@ class NullRelief : public Relief {
     QCoro::Task<Outcome> dropCaches() override { co_return {}; }
 };
 
+class NullTerminal : public Terminal {
+    Outcome write(const QByteArray&) override { return {}; }
+    void writeError(const QByteArray&) override {}
+    std::optional<int> width() const override { return {}; }
+    bool canAsk() const override { return false; }
+    QByteArray readLine() override { return {}; }
+    void listen() override { Q_EMIT inputEnded(); }
+};
+
+class NullRunningProgram : public RunningProgram {
+    std::optional<QByteArray> report(const QString&) override { return {}; }
+};
+
 class NullAppearance : public Appearance {
     std::optional<bool> prefersDark() const override { return {}; }
 };
@@ -101,6 +117,11 @@ class NullLoginItem : public LoginItem {
     Outcome unregisterItem() override { return Outcome::success(); }
     bool isInstalled() const override { return false; }
     void replaceGoneProgram() override {}
+};
+
+class NullProgramService : public ProgramService {
+    Outcome start(Answers) override { return {}; }
+    void publish(const QVariantMap&) override {}
 };
 
 } // namespace
@@ -125,12 +146,24 @@ Platform Platform::native() {
             .relief = std::make_shared<NullRelief>()};
 }
 
+std::unique_ptr<Terminal> Platform::makeTerminal() {
+    return std::make_unique<NullTerminal>();
+}
+
+std::unique_ptr<RunningProgram> Platform::makeRunningProgram() {
+    return std::make_unique<NullRunningProgram>();
+}
+
 std::unique_ptr<Appearance> Platform::makeAppearance() {
     return std::make_unique<NullAppearance>();
 }
 
 std::unique_ptr<LoginItem> Platform::makeLoginItem() {
     return std::make_unique<NullLoginItem>();
+}
+
+std::unique_ptr<ProgramService> Platform::makeProgramService() {
+    return std::make_unique<NullProgramService>();
 }
 
 Words Words::native() {
