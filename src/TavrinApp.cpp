@@ -7,9 +7,11 @@
 #include "LaunchOptions.h"
 #include "Platform/Appearance.h"
 #include "Platform/LoginItem.h"
+#include "Platform/ProgramService.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
+#include "ProgramBus.h"
 #include "UI/Kit/AccessibleScrollArea.h"
 #include "UI/Style/Style.h"
 #include "UI/Style/ThemeFollower.h"
@@ -32,7 +34,7 @@ TavrinApp::TavrinApp(int& argc, char** argv)
     Translations::install(Preferences::shared().language());
     setApplicationName(QStringLiteral("Tavrin"));
     setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
-    setDesktopFileName(QStringLiteral("tavrin"));
+    setDesktopFileName(QStringLiteral("org.example.tavrin"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     setStyle(new Style);
     installAccessibleScrollAreas();
@@ -53,6 +55,10 @@ int TavrinApp::run(const LaunchOptions& options) {
         m_appDelegate->startedAgain(LaunchOptions::ofRequest(request));
     });
     m_appDelegate->applicationDidFinishLaunching(options);
+    ProgramBus bus(AppModel::shared(), Platform::makeProgramService());
+    connect(&bus, &ProgramBus::asked, this,
+            [this](const LaunchOptions& asked) { m_appDelegate->startedAgain(asked); });
+    bus.start();
     const TerminationRequest termination;
     connect(&termination, &TerminationRequest::received, this, &QCoreApplication::quit);
     const int status = exec();

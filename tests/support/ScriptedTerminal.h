@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Platform/Terminal.h"
+
+#include <QByteArrayList>
+
+/// Keeps what is written, and answers questions from a list.
+class ScriptedTerminal : public Terminal {
+public:
+    QByteArray output;
+    QByteArray errors;
+    std::optional<int> columns; ///< empty: a file or a pipe
+    QByteArrayList answers;     ///< of a person; empty: nobody can be asked
+    Outcome outcome = Outcome::success();
+
+    Outcome write(const QByteArray& text) override {
+        if (outcome.done)
+            output += text;
+        return outcome;
+    }
+    void writeError(const QByteArray& text) override { errors += text; }
+    std::optional<int> width() const override { return columns; }
+    bool canAsk() const override { return !answers.isEmpty(); }
+    QByteArray readLine() override { return answers.takeFirst(); }
+    void listen() override {}
+};
