@@ -8,8 +8,8 @@ packages_of() {
     build) echo g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qcoro-qt6-dev libxcb1-dev libxcb-res0-dev \
         libtomlplusplus-dev nlohmann-json3-dev \
         libgtest-dev libgmock-dev ;;
-    test) echo procps git ccache fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston dunst ;;
-    package) echo dpkg-dev file ;;
+    test) echo lintian man-db procps git ccache fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston dunst ;;
+    package) echo dpkg-dev file git patchelf lintian xz-utils ;;
     bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \
         at-spi2-core python3-gi gir1.2-atspi-2.0 util-linux mount fonts-dejavu-core ;;

@@ -194,7 +194,7 @@ TEST_F(NotificationsOnABus, ShowsReplacesAndWithdraws) {
     const auto hints = qdbus_cast<QVariantMap>(sent[6]);
     EXPECT_EQ(hints[u"urgency"_s].toInt(), 2);
     EXPECT_EQ(hints[u"urgency"_s].metaType(), QMetaType::fromType<uchar>());
-    EXPECT_EQ(hints[u"desktop-entry"_s], u"tavrin"_s);
+    EXPECT_EQ(hints[u"desktop-entry"_s], u"org.example.tavrin"_s);
     settleBus();
     show(u"memory"_s, u"second"_s);
     show(u"thermal"_s, u"other"_s);

@@ -32,11 +32,33 @@ version=$(sed -n 's/^project(tavrin VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 check "it is named after its version" same "$(basename "$package")" "tavrin_${version}_$(dpkg --print-architecture).deb"
 
 # What is in it.
-expected='-rw-r--r-- root/root ./usr/share/applications/tavrin.desktop
+expected='-rw-r--r-- root/root ./usr/share/applications/org.example.tavrin.desktop
+-rw-r--r-- root/root ./usr/share/bash-completion/completions/tavrin
+-rw-r--r-- root/root ./usr/share/bash-completion/completions/tavrinctl
+-rw-r--r-- root/root ./usr/share/dbus-1/interfaces/org.example.tavrin.Monitor.xml
+-rw-r--r-- root/root ./usr/share/dbus-1/services/org.example.tavrin.service
+-rw-r--r-- root/root ./usr/share/doc/tavrin/changelog.gz
+-rw-r--r-- root/root ./usr/share/doc/tavrin/copyright
+-rw-r--r-- root/root ./usr/share/fish/vendor_completions.d/tavrin.fish
+-rw-r--r-- root/root ./usr/share/fish/vendor_completions.d/tavrinctl.fish
+-rw-r--r-- root/root ./usr/share/icons/hicolor/128x128/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/16x16/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/22x22/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/24x24/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/256x256/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/32x32/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/48x48/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/512x512/apps/tavrin.png
+-rw-r--r-- root/root ./usr/share/icons/hicolor/64x64/apps/tavrin.png
 -rw-r--r-- root/root ./usr/share/icons/hicolor/scalable/apps/tavrin.svg
+-rw-r--r-- root/root ./usr/share/icons/hicolor/symbolic/apps/tavrin-symbolic.svg
+-rw-r--r-- root/root ./usr/share/man/man1/tavrin.1.gz
+-rw-r--r-- root/root ./usr/share/man/man1/tavrinctl.1.gz
 -rw-r--r-- root/root ./usr/share/metainfo/org.example.tavrin.metainfo.xml
 -rw-r--r-- root/root ./usr/share/polkit-1/actions/org.example.tavrin.policy
+-rw-r--r-- root/root ./usr/share/zsh/vendor-completions/_tavrinctl
 -rwxr-xr-x root/root ./usr/bin/tavrin
+-rwxr-xr-x root/root ./usr/bin/tavrinctl
 -rwxr-xr-x root/root ./usr/libexec/tavrin/cleanup
 -rwxr-xr-x root/root ./usr/libexec/tavrin/du
 -rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
@@ -61,11 +83,13 @@ for name in Maintainer Homepage Description Section Installed-Size; do
     check "it states its $name" test -n "$(field "$name")"
 done
 
+check "lintian has nothing to say" none "$(lintian --tag-display-limit 0 "$package" 2>&1)"
+
 # What is unpacked.
 dpkg-deb -x "$package" "$root"
 dpkg-deb -e "$package" "$work/control"
 check "the checksums fit" eval "(cd '$root' && md5sum --quiet -c '$work/control/md5sums')"
-check "the desktop entry is valid" desktop-file-validate "$root/usr/share/applications/tavrin.desktop"
+check "the desktop entry is valid" desktop-file-validate "$root/usr/share/applications/org.example.tavrin.desktop"
 check "the metainfo is valid" appstreamcli validate --no-net --no-color "$root/usr/share/metainfo/"*.xml
 policy=$root/usr/share/polkit-1/actions/org.example.tavrin.policy
 action='import sys, xml.etree.ElementTree as tree
@@ -74,10 +98,24 @@ path = action.find("annotate[@key=\"org.freedesktop.policykit.exec.path\"]").tex
 print(path, action.find("icon_name").text, action.find("defaults/allow_active").text)'
 check "the administrator's question is about the purge as installed" same \
     "/usr/libexec/tavrin/purge tavrin auth_admin" "$(python3 -c "$action" "$policy")"
-check "menu, metainfo and icon fit together" eval "grep -q '>tavrin.desktop<' '$root'/usr/share/metainfo/*.xml &&
-    grep -qx 'Icon=tavrin' '$root/usr/share/applications/tavrin.desktop' &&
-    [ -x '$root/usr/bin/'\$(sed -n 's/^Exec=//p' '$root/usr/share/applications/tavrin.desktop') ]"
-programs=("$root/usr/bin/tavrin" "$root/usr/libexec/tavrin/"*)
+entry=$root/usr/share/applications/org.example.tavrin.desktop
+check "menu, metainfo and icon fit together" eval "grep -q '>org.example.tavrin.desktop<' '$root'/usr/share/metainfo/*.xml &&
+    grep -qx 'Icon=tavrin' '$entry' && [ -x '$root/usr/bin/'\$(sed -n 's/^Exec=//p; /^Exec=/q' '$entry') ]"
+check "the bus starts it as installed" grep -qx "Exec=/usr/bin/tavrin --hidden" \
+    "$root/usr/share/dbus-1/services/org.example.tavrin.service"
+for page in tavrin tavrinctl; do
+    check "the manual page of $page has no faults" none "$(man --warnings -E UTF-8 -l -Tutf8 -Z "$root/usr/share/man/man1/$page.1.gz" 2>&1 >/dev/null)"
+done
+check "the icons have their sizes" eval "file '$root'/usr/share/icons/hicolor/*/apps/*.png |
+    sed -E 's|.*/([0-9]+)x[0-9]+/apps.*: PNG image data, ([0-9]+) x ([0-9]+).*|\1 \2 \3|' | awk '\$1 != \$2 || \$1 != \$3 { exit 1 }'"
+zcat "$root/usr/share/man/man1/tavrinctl.1.gz" | tr -d '\\' >"$work/manual"
+knowing=("$work/manual" "$root/usr/share/bash-completion/completions/tavrinctl"
+    "$root/usr/share/zsh/vendor-completions/_tavrinctl" "$root/usr/share/fish/vendor_completions.d/tavrinctl.fish")
+for command in $("$root/usr/bin/tavrinctl" --help | awk '/^  [a-z]/ { print $1 }'); do
+    check "manual page and completions know $command" same 4 "$(grep -lw -- "$command" "${knowing[@]}" | wc -l)"
+done
+programs=("$root/usr/bin/tavrin" "$root/usr/bin/tavrinctl" "$root/usr/libexec/tavrin/"*)
+check "the terminal's program loads no windows" none "$(ldd "$root/usr/bin/tavrinctl" | grep -E 'Gui|Widgets|Svg|xcb')"
 check "programs are stripped" none "$(file "${programs[@]}" | grep -v ', stripped')"
 check "programs search no folder of the build" none "$(readelf -d "${programs[@]}" | grep -iE 'r(un)?path')"
 check "programs find their libraries" none "$(ldd "${programs[@]}" | grep 'not found')"
@@ -100,7 +138,7 @@ export HOME=$home XDG_CONFIG_HOME=$home/.config QT_QPA_PLATFORM=xcb
 spawn "$root/usr/bin/tavrin"
 pid=$spawned
 window=$(main_window "$pid") || fail "the main window appears"
-class=$(sed -n 's/^StartupWMClass=//p' "$root/usr/share/applications/tavrin.desktop")
+class=$(sed -n 's/^StartupWMClass=//p' "$entry")
 check "the window belongs to the desktop entry" grep -q "\"$class\"" <<<"$(xprop -id "$window" WM_CLASS)"
 check "it came from the package" same "$root/usr/bin/tavrin" "$(readlink "/proc/$pid/exe")"
 autostart=$home/.config/autostart/tavrin.desktop

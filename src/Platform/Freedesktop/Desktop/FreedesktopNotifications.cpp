@@ -270,7 +270,7 @@ QDBusMessage FreedesktopNotifications::notify(const Notification& notification, 
     }
     const bool isCritical = notification.urgency == Notification::Urgency::critical;
     const QVariantMap hints{{u"urgency"_s, QVariant::fromValue(static_cast<uchar>(isCritical ? 2 : 1))},
-                            {u"desktop-entry"_s, u"tavrin"_s},
+                            {u"desktop-entry"_s, u"org.example.tavrin"_s},
                             {u"category"_s, QString(u"x-tavrin."_s + notification.key)}};
     QDBusMessage message = serverMethod(u"Notify"_s);
     message << u"Tavrin"_s << replaces << u"tavrin"_s << NotificationText::title(notification.title)
