@@ -10,7 +10,7 @@
 int main(int argc, char* argv[]) {
     Platform::prepareProgram();
     const QCoreApplication application(argc, argv);
-    Translations::install();
+    Translations::install(Language::english); // scripts read the texts
     const auto terminal = Platform::makeTerminal();
     const auto running = Platform::makeRunningProgram();
     const Environment environment{.platform = Platform::native(),
