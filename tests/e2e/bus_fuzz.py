@@ -28,12 +28,33 @@ MEMBERS = [
     ("org.freedesktop.DBus.Properties", "GetAll"),
 ]
 
+# Half of the calls have arguments of the right types.
+PROPER = {
+    "Report": ["s"],
+    "Show": ["s"],
+    "Activate": ["a{sv}"],
+    "Open": ["as", "a{sv}"],
+    "ActivateAction": ["s", "av", "a{sv}"],
+    "Get": ["s", "s"],
+    "Set": ["s", "s", "v"],
+    "GetAll": ["s"],
+}
+
+
+def arguments(member):
+    if member in PROPER and random.random() < 0.5:
+        wanted = PROPER[member]
+        return [next(value for value in iter(lambda: random.choice(VALUES)(), None) if value.get_type_string() == kind)
+                for kind in wanted]
+    return [random.choice(VALUES)() for _ in range(random.randint(0, 3))]
+
+
 random.seed(1)
 bus = Gio.bus_get_sync(Gio.BusType.SESSION)
 answered = 0
 for _ in range(int(sys.argv[1])):
     interface, member = random.choice(MEMBERS)
-    values = [random.choice(VALUES)() for _ in range(random.randint(0, 3))]
+    values = arguments(member)
     try:
         bus.call_sync("org.example.tavrin", "/org/example/tavrin", interface, member,
                       GLib.Variant.new_tuple(*values), None, Gio.DBusCallFlags.NO_AUTO_START, 5000)
