@@ -100,7 +100,7 @@ check "the administrator's question is about the purge as installed" same \
     "/usr/libexec/tavrin/purge tavrin auth_admin" "$(python3 -c "$action" "$policy")"
 entry=$root/usr/share/applications/org.example.tavrin.desktop
 check "menu, metainfo and icon fit together" eval "grep -q '>org.example.tavrin.desktop<' '$root'/usr/share/metainfo/*.xml &&
-    grep -qx 'Icon=tavrin' '$entry' && [ -x '$root/usr/bin/'\$(sed -n 's/^Exec=//p; /^Exec=/q' '$entry') ]"
+    grep -qx 'Icon=tavrin' '$entry' && [ -x '$root/usr/bin/'\$(sed -n '/^Exec=/{s///p;q}' '$entry') ]"
 check "the bus starts it as installed" grep -qx "Exec=/usr/bin/tavrin --hidden" \
     "$root/usr/share/dbus-1/services/org.example.tavrin.service"
 for page in tavrin tavrinctl; do
