@@ -107,7 +107,7 @@ for page in tavrin tavrinctl; do
     check "the manual page of $page has no faults" none "$(man --warnings -E UTF-8 -l -Tutf8 -Z "$root/usr/share/man/man1/$page.1.gz" 2>&1 >/dev/null)"
 done
 check "the icons have their sizes" eval "file '$root'/usr/share/icons/hicolor/*/apps/*.png |
-    sed -E 's|.*/([0-9]+)x[0-9]+/apps.*: PNG image data, ([0-9]+) x ([0-9]+).*|\1 \2 \3|' | awk '\$1 != \$2 || \$1 != \$3 { exit 1 }'"
+    sed -E 's|.*/([0-9]+)x[0-9]+/apps.*: +PNG image data, ([0-9]+) x ([0-9]+).*|\1 \2 \3|' | awk '\$1 != \$2 || \$1 != \$3 { exit 1 }'"
 zcat "$root/usr/share/man/man1/tavrinctl.1.gz" | tr -d '\\' >"$work/manual"
 knowing=("$work/manual" "$root/usr/share/bash-completion/completions/tavrinctl"
     "$root/usr/share/zsh/vendor-completions/_tavrinctl" "$root/usr/share/fish/vendor_completions.d/tavrinctl.fish")
