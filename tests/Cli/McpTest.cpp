@@ -56,10 +56,10 @@ TEST_F(McpTest, GreetsAsTheProtocolHasIt) {
     }
     EXPECT_EQ(ask(R"({"jsonrpc":"2.0","id":2,"method":"ping"})").value(u"result"_s).toObject(),
               QJsonObject());
-    const QJsonArray tools =
+    const QJsonArray offered =
         resultOf(ask(R"({"jsonrpc":"2.0","id":3,"method":"tools/list"})")).value(u"tools"_s).toArray();
     QStringList names;
-    for (const QJsonValue& tool : tools) {
+    for (const QJsonValue& tool : offered) {
         names.append(tool.toObject().value(u"name"_s).toString());
         EXPECT_TRUE(tool.toObject().value(u"annotations"_s).toObject().value(u"readOnlyHint"_s).toBool());
         EXPECT_FALSE(tool.toObject().value(u"description"_s).toString().isEmpty());
