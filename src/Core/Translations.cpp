@@ -31,9 +31,11 @@ bool load(Language language, const QString& base, const QString& folder) {
 
 void Translations::install(Language language) {
     QLocale::setDefault(localeOf(language));
-    load(language, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     const QString folder = u":/translations"_s;
-    if (!load(language, u"tavrin"_s, folder))
+    // Without our texts Qt's would be the only ones in that language, and the only ones that mirror the layout.
+    if (load(language, u"tavrin"_s, folder))
+        load(language, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    else
         load(Language::english, u"tavrin"_s, folder);
 }
 
