@@ -32,7 +32,8 @@ bool load(Language language, const QString& base, const QString& folder) {
 void Translations::install(Language language) {
     QLocale::setDefault(localeOf(language));
     const QString folder = u":/translations"_s;
-    // Without our texts Qt's would be the only ones in that language, and the only ones that mirror the layout.
+    // Without our texts Qt's would be the only ones in that language, and the only ones that mirror the
+    // layout.
     if (load(language, u"tavrin"_s, folder))
         load(language, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     else

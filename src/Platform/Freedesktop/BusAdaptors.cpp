@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A launcher's token for taking the keyboard once, read by Qt when a window comes forward.
-constexpr const char* activationToken = "XDG_ACTIVATION_TOKEN";
+constexpr const char* busActivationToken = "XDG_ACTIVATION_TOKEN";
 
 } // namespace
 
@@ -95,6 +95,6 @@ void ApplicationAdaptor::ActivateAction(const QString& action_name, const QVaria
 void ApplicationAdaptor::show(const QString& name, const QVariantMap& platformData) {
     const QByteArray token = platformData.value(u"activation-token"_s).toString().toUtf8();
     if (!token.isEmpty() && !token.contains('\0'))
-        qputenv(activationToken, token);
+        qputenv(busActivationToken, token);
     m_service.answers().show(name);
 }
