@@ -811,6 +811,51 @@
     </message>
 </context>
 <context>
+    <name>CpuPage</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>All cores</source>
+        <translation>Alle Kerne</translation>
+    </message>
+    <message>
+        <source>Core %1</source>
+        <translation>Kern %1</translation>
+    </message>
+</context>
+<context>
+    <name>DetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPage</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>%1 frei von %2</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Platte</translation>
+    </message>
+    <message>
+        <source>Read and written, while this page is open</source>
+        <translation>Gelesen und geschrieben, solange diese Seite offen ist</translation>
+    </message>
+    <message>
+        <source>%1 read</source>
+        <translation>%1 gelesen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
     <name>DismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -1212,6 +1257,18 @@
     </message>
 </context>
 <context>
+    <name>Graph</name>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>bytes in a second</comment>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
     <name>GroupHeader</name>
     <message>
         <source>%1 (%2), %3, %4 CPU</source>
@@ -1454,6 +1511,10 @@
         <source>Close Window</source>
         <translation>Fenster schließen</translation>
     </message>
+    <message>
+        <source>Show or Hide Sidebar</source>
+        <translation>Seitenleiste ein- oder ausblenden</translation>
+    </message>
 </context>
 <context>
     <name>MemoryCard</name>
@@ -1514,6 +1575,61 @@
     </message>
 </context>
 <context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>Belegter Swap</translation>
+    </message>
+    <message>
+        <source>Time that programs waited for memory</source>
+        <translation>Zeit, die Programme auf Speicher warteten</translation>
+    </message>
+    <message>
+        <source>Groups, while this page is open</source>
+        <translation>Gruppen, solange diese Seite offen ist</translation>
+    </message>
+    <message>
+        <source>File cache, while this page is open</source>
+        <translation>Dateicache, solange diese Seite offen ist</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>Cache</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>Kernel</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>Komprimiert</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+    <message>
+        <source>Some programs</source>
+        <translation>Einige Programme</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Alle Programme</translation>
+    </message>
+</context>
+<context>
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
@@ -1561,6 +1677,13 @@
     <message>
         <source>Therm</source>
         <translation>Temp.</translation>
+    </message>
+</context>
+<context>
+    <name>MetricTile</name>
+    <message>
+        <source>0–%1</source>
+        <translation>0–%1</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2393,14 @@
         <source>Sections</source>
         <translation>Bereiche</translation>
     </message>
+    <message>
+        <source>Hide sidebar</source>
+        <translation>Seitenleiste ausblenden</translation>
+    </message>
+    <message>
+        <source>Show sidebar</source>
+        <translation>Seitenleiste einblenden</translation>
+    </message>
 </context>
 <context>
     <name>RulesEngine</name>
@@ -2912,6 +3043,25 @@
     <message>
         <source>Choose Folder</source>
         <translation>Ordner wählen</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPage</name>
+    <message>
+        <source>Thermal</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Sensors, while this page is open</source>
+        <translation>Sensoren, solange diese Seite offen ist</translation>
+    </message>
+    <message>
+        <source>No temperatures</source>
+        <translation>Keine Temperaturen</translation>
+    </message>
+    <message>
+        <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
+        <translation>Dieser Computer zeigt Programmen keine Sensoren, wie die meisten virtuellen Maschinen. Die Kachel zeigt den Zustand, den der Kernel meldet.</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,51 @@
     </message>
 </context>
 <context>
+    <name>CpuPage</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>All cores</source>
+        <translation>Todos los núcleos</translation>
+    </message>
+    <message>
+        <source>Core %1</source>
+        <translation>Núcleo %1</translation>
+    </message>
+</context>
+<context>
+    <name>DetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPage</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>%1 libres de %2</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disco</translation>
+    </message>
+    <message>
+        <source>Read and written, while this page is open</source>
+        <translation>Leído y escrito, mientras esta página está abierta</translation>
+    </message>
+    <message>
+        <source>%1 read</source>
+        <translation>%1 leídos</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 escritos</translation>
+    </message>
+</context>
+<context>
     <name>DismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -1212,6 +1257,18 @@
     </message>
 </context>
 <context>
+    <name>Graph</name>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>bytes in a second</comment>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
     <name>GroupHeader</name>
     <message>
         <source>%1 (%2), %3, %4 CPU</source>
@@ -1454,6 +1511,10 @@
         <source>Close Window</source>
         <translation>Cerrar ventana</translation>
     </message>
+    <message>
+        <source>Show or Hide Sidebar</source>
+        <translation>Mostrar u ocultar la barra lateral</translation>
+    </message>
 </context>
 <context>
     <name>MemoryCard</name>
@@ -1514,6 +1575,61 @@
     </message>
 </context>
 <context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>En uso</translation>
+    </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>Swap en uso</translation>
+    </message>
+    <message>
+        <source>Time that programs waited for memory</source>
+        <translation>Tiempo que los programas esperaron memoria</translation>
+    </message>
+    <message>
+        <source>Groups, while this page is open</source>
+        <translation>Grupos, mientras esta página está abierta</translation>
+    </message>
+    <message>
+        <source>File cache, while this page is open</source>
+        <translation>Caché de archivos, mientras esta página está abierta</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>Caché</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>Núcleo</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>Comprimida</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programas</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+    <message>
+        <source>Some programs</source>
+        <translation>Algunos programas</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Todos los programas</translation>
+    </message>
+</context>
+<context>
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
@@ -1561,6 +1677,13 @@
     <message>
         <source>Therm</source>
         <translation>Temp.</translation>
+    </message>
+</context>
+<context>
+    <name>MetricTile</name>
+    <message>
+        <source>0–%1</source>
+        <translation>0–%1</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2393,14 @@
         <source>Sections</source>
         <translation>Secciones</translation>
     </message>
+    <message>
+        <source>Hide sidebar</source>
+        <translation>Ocultar la barra lateral</translation>
+    </message>
+    <message>
+        <source>Show sidebar</source>
+        <translation>Mostrar la barra lateral</translation>
+    </message>
 </context>
 <context>
     <name>RulesEngine</name>
@@ -2912,6 +3043,25 @@
     <message>
         <source>Choose Folder</source>
         <translation>Elegir carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPage</name>
+    <message>
+        <source>Thermal</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Sensors, while this page is open</source>
+        <translation>Sensores, mientras esta página está abierta</translation>
+    </message>
+    <message>
+        <source>No temperatures</source>
+        <translation>Sin temperaturas</translation>
+    </message>
+    <message>
+        <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
+        <translation>Este equipo no muestra sensores a los programas, como la mayoría de las máquinas virtuales. El mosaico muestra el estado que informa el núcleo.</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,51 @@
     </message>
 </context>
 <context>
+    <name>CpuPage</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>All cores</source>
+        <translation>Tous les cœurs</translation>
+    </message>
+    <message>
+        <source>Core %1</source>
+        <translation>Cœur %1</translation>
+    </message>
+</context>
+<context>
+    <name>DetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPage</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>%1 libres sur %2</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Read and written, while this page is open</source>
+        <translation>Lu et écrit, tant que cette page est ouverte</translation>
+    </message>
+    <message>
+        <source>%1 read</source>
+        <translation>%1 lus</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 écrits</translation>
+    </message>
+</context>
+<context>
     <name>DismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -1212,6 +1257,18 @@
     </message>
 </context>
 <context>
+    <name>Graph</name>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>bytes in a second</comment>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
     <name>GroupHeader</name>
     <message>
         <source>%1 (%2), %3, %4 CPU</source>
@@ -1454,6 +1511,10 @@
         <source>Close Window</source>
         <translation>Fermer la fenêtre</translation>
     </message>
+    <message>
+        <source>Show or Hide Sidebar</source>
+        <translation>Afficher ou masquer la barre latérale</translation>
+    </message>
 </context>
 <context>
     <name>MemoryCard</name>
@@ -1514,6 +1575,61 @@
     </message>
 </context>
 <context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>Utilisée</translation>
+    </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>Swap utilisé</translation>
+    </message>
+    <message>
+        <source>Time that programs waited for memory</source>
+        <translation>Temps d’attente de mémoire des programmes</translation>
+    </message>
+    <message>
+        <source>Groups, while this page is open</source>
+        <translation>Groupes, tant que cette page est ouverte</translation>
+    </message>
+    <message>
+        <source>File cache, while this page is open</source>
+        <translation>Cache de fichiers, tant que cette page est ouverte</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>Cache</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>Noyau</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>Compressée</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+    <message>
+        <source>Some programs</source>
+        <translation>Certains programmes</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Tous les programmes</translation>
+    </message>
+</context>
+<context>
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
@@ -1561,6 +1677,13 @@
     <message>
         <source>Therm</source>
         <translation>Temp.</translation>
+    </message>
+</context>
+<context>
+    <name>MetricTile</name>
+    <message>
+        <source>0–%1</source>
+        <translation>0–%1</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2393,14 @@
         <source>Sections</source>
         <translation>Sections</translation>
     </message>
+    <message>
+        <source>Hide sidebar</source>
+        <translation>Masquer la barre latérale</translation>
+    </message>
+    <message>
+        <source>Show sidebar</source>
+        <translation>Afficher la barre latérale</translation>
+    </message>
 </context>
 <context>
     <name>RulesEngine</name>
@@ -2912,6 +3043,25 @@
     <message>
         <source>Choose Folder</source>
         <translation>Choisir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPage</name>
+    <message>
+        <source>Thermal</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Sensors, while this page is open</source>
+        <translation>Capteurs, tant que cette page est ouverte</translation>
+    </message>
+    <message>
+        <source>No temperatures</source>
+        <translation>Aucune température</translation>
+    </message>
+    <message>
+        <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
+        <translation>Cet ordinateur ne montre aucun capteur aux programmes, comme la plupart des machines virtuelles. La tuile montre l’état que le noyau signale.</translation>
     </message>
 </context>
 <context>

@@ -809,6 +809,51 @@
     </message>
 </context>
 <context>
+    <name>CpuPage</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>All cores</source>
+        <translation>すべてのコア</translation>
+    </message>
+    <message>
+        <source>Core %1</source>
+        <translation>コア %1</translation>
+    </message>
+</context>
+<context>
+    <name>DetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPage</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>空き %1 / %2</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Read and written, while this page is open</source>
+        <translation>読み取りと書き込み（このページを開いている間）</translation>
+    </message>
+    <message>
+        <source>%1 read</source>
+        <translation>読み取り %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>書き込み %1</translation>
+    </message>
+</context>
+<context>
     <name>DismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -1202,6 +1247,18 @@
     </message>
 </context>
 <context>
+    <name>Graph</name>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>bytes in a second</comment>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
     <name>GroupHeader</name>
     <message>
         <source>%1 (%2), %3, %4 CPU</source>
@@ -1442,6 +1499,10 @@
         <source>Close Window</source>
         <translation>ウィンドウを閉じる</translation>
     </message>
+    <message>
+        <source>Show or Hide Sidebar</source>
+        <translation>サイドバーの表示・非表示</translation>
+    </message>
 </context>
 <context>
     <name>MemoryCard</name>
@@ -1502,6 +1563,61 @@
     </message>
 </context>
 <context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>使用中のスワップ</translation>
+    </message>
+    <message>
+        <source>Time that programs waited for memory</source>
+        <translation>プログラムがメモリを待った時間</translation>
+    </message>
+    <message>
+        <source>Groups, while this page is open</source>
+        <translation>グループ（このページを開いている間）</translation>
+    </message>
+    <message>
+        <source>File cache, while this page is open</source>
+        <translation>ファイルキャッシュ（このページを開いている間）</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>キャッシュ</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>カーネル</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>圧縮済み</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>スワップ</translation>
+    </message>
+    <message>
+        <source>Some programs</source>
+        <translation>一部のプログラム</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>すべてのプログラム</translation>
+    </message>
+</context>
+<context>
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
@@ -1549,6 +1665,13 @@
     <message>
         <source>Therm</source>
         <translation>温度</translation>
+    </message>
+</context>
+<context>
+    <name>MetricTile</name>
+    <message>
+        <source>0–%1</source>
+        <translation>0–%1</translation>
     </message>
 </context>
 <context>
@@ -2252,6 +2375,14 @@
         <source>Sections</source>
         <translation>セクション</translation>
     </message>
+    <message>
+        <source>Hide sidebar</source>
+        <translation>サイドバーを隠す</translation>
+    </message>
+    <message>
+        <source>Show sidebar</source>
+        <translation>サイドバーを表示</translation>
+    </message>
 </context>
 <context>
     <name>RulesEngine</name>
@@ -2886,6 +3017,25 @@
     <message>
         <source>Choose Folder</source>
         <translation>フォルダーを選択</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPage</name>
+    <message>
+        <source>Thermal</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Sensors, while this page is open</source>
+        <translation>センサー（このページを開いている間）</translation>
+    </message>
+    <message>
+        <source>No temperatures</source>
+        <translation>温度がありません</translation>
+    </message>
+    <message>
+        <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
+        <translation>多くの仮想マシンと同じく、このコンピューターはセンサーをプログラムに公開していません。タイルにはカーネルが報告する状態を表示します。</translation>
     </message>
 </context>
 <context>

@@ -809,6 +809,51 @@
     </message>
 </context>
 <context>
+    <name>CpuPage</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>All cores</source>
+        <translation>所有核心</translation>
+    </message>
+    <message>
+        <source>Core %1</source>
+        <translation>核心 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPage</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>可用 %1，共 %2</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>磁盘</translation>
+    </message>
+    <message>
+        <source>Read and written, while this page is open</source>
+        <translation>读取和写入（此页打开期间）</translation>
+    </message>
+    <message>
+        <source>%1 read</source>
+        <translation>读取 %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>DismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -1202,6 +1247,18 @@
     </message>
 </context>
 <context>
+    <name>Graph</name>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>bytes in a second</comment>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
     <name>GroupHeader</name>
     <message>
         <source>%1 (%2), %3, %4 CPU</source>
@@ -1442,6 +1499,10 @@
         <source>Close Window</source>
         <translation>关闭窗口</translation>
     </message>
+    <message>
+        <source>Show or Hide Sidebar</source>
+        <translation>显示或隐藏侧边栏</translation>
+    </message>
 </context>
 <context>
     <name>MemoryCard</name>
@@ -1502,6 +1563,61 @@
     </message>
 </context>
 <context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Memory</source>
+        <translation>内存</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>已用</translation>
+    </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>已用交换空间</translation>
+    </message>
+    <message>
+        <source>Time that programs waited for memory</source>
+        <translation>程序等待内存的时间</translation>
+    </message>
+    <message>
+        <source>Groups, while this page is open</source>
+        <translation>分组（此页打开期间）</translation>
+    </message>
+    <message>
+        <source>File cache, while this page is open</source>
+        <translation>文件缓存（此页打开期间）</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>缓存</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>内核</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>已压缩</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>交换</translation>
+    </message>
+    <message>
+        <source>Some programs</source>
+        <translation>部分程序</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>所有程序</translation>
+    </message>
+</context>
+<context>
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
@@ -1549,6 +1665,13 @@
     <message>
         <source>Therm</source>
         <translation>温度</translation>
+    </message>
+</context>
+<context>
+    <name>MetricTile</name>
+    <message>
+        <source>0–%1</source>
+        <translation>0–%1</translation>
     </message>
 </context>
 <context>
@@ -2252,6 +2375,14 @@
         <source>Sections</source>
         <translation>栏目</translation>
     </message>
+    <message>
+        <source>Hide sidebar</source>
+        <translation>隐藏侧边栏</translation>
+    </message>
+    <message>
+        <source>Show sidebar</source>
+        <translation>显示侧边栏</translation>
+    </message>
 </context>
 <context>
     <name>RulesEngine</name>
@@ -2886,6 +3017,25 @@
     <message>
         <source>Choose Folder</source>
         <translation>选择文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPage</name>
+    <message>
+        <source>Thermal</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Sensors, while this page is open</source>
+        <translation>传感器（此页打开期间）</translation>
+    </message>
+    <message>
+        <source>No temperatures</source>
+        <translation>没有温度</translation>
+    </message>
+    <message>
+        <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
+        <translation>与大多数虚拟机一样，这台电脑不向程序提供传感器。磁贴显示内核报告的状态。</translation>
     </message>
 </context>
 <context>
