@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,17 @@ bool isInvisible(QChar character) {
     default:
         return false;
     }
+}
+
+/// Returns whether the character at `i` joins those beside it into one, as in many emoji.
+bool joins(QTextBoundaryFinder& clusters, const QString& text, qsizetype i) {
+    constexpr char16_t zeroWidthJoiner = u'\u200d';
+    if (text[i] != zeroWidthJoiner || i == 0 || i + 1 == text.size())
+        return false;
+    clusters.setPosition(i);
+    const bool beginsOne = clusters.isAtBoundary();
+    clusters.setPosition(i + 1);
+    return !beginsOne && !clusters.isAtBoundary();
 }
 
 QChar picture(QChar character) {
@@ -141,9 +153,10 @@ QString visible(const QString& text) {
     if (std::none_of(text.begin(), text.end(), isInvisible))
         return text;
     QString result = text;
-    for (QChar& character : result) {
-        if (isInvisible(character))
-            character = picture(character);
+    QTextBoundaryFinder clusters(QTextBoundaryFinder::Grapheme, text);
+    for (qsizetype i = 0; i < result.size(); ++i) {
+        if (isInvisible(result[i]) && !joins(clusters, text, i))
+            result[i] = picture(result[i]);
     }
     return result;
 }

@@ -64,6 +64,8 @@ TEST(Formatters, TextFromOutsideCannotBreakOrReverseALine) {
         {u"evil\u202Etxt", u"evil\ufffdtxt"},
         {u"para\u2029graph", u"para\ufffdgraph"},
         {u"שלום", u"שלום"},
+        {u"\U0001F469\u200D\U0001F4BB", u"\U0001F469\u200D\U0001F4BB"}, // one person at a computer
+        {u"cla\u200Dude\u200D", u"cla\uFFFDude\uFFFD"},
     };
     for (const auto& [raw, shown] : cases)
         EXPECT_EQ(Formatters::visible(QString::fromUtf16(raw)), QString::fromUtf16(shown));

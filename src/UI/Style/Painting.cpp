@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
@@ -23,17 +24,26 @@ double digitWidth(const QFontMetricsF& metrics) {
     return widest;
 }
 
-/// Calls `visit(piece, width)` for each digit and for each run of other characters.
+/// Calls `visit(piece, width)` for each digit and for each run of other characters. A digit that is joined
+/// with what follows it, as in a keycap emoji, belongs to the run.
 template <typename Visit> void forEachPiece(const QFontMetricsF& metrics, const QString& text, Visit visit) {
     const double digit = digitWidth(metrics);
+    QTextBoundaryFinder clusters(QTextBoundaryFinder::Grapheme, text);
+    const auto standsAlone = [&](qsizetype i) {
+        if (!isDigit(text[i]))
+            return false;
+        if (i + 1 == text.size() || text[i + 1].unicode() < 0x80)
+            return true;
+        clusters.setPosition(i);
+        return clusters.toNextBoundary() == i + 1;
+    };
     for (qsizetype begin = 0; begin < text.size();) {
+        const bool isOne = standsAlone(begin);
         qsizetype end = begin + 1;
-        if (!isDigit(text[begin])) {
-            while (end < text.size() && !isDigit(text[end]))
-                ++end;
-        }
+        while (!isOne && end < text.size() && !standsAlone(end))
+            ++end;
         const QString piece = text.mid(begin, end - begin);
-        visit(piece, isDigit(text[begin]) ? digit : metrics.horizontalAdvance(piece));
+        visit(piece, isOne ? digit : metrics.horizontalAdvance(piece));
         begin = end;
     }
 }
@@ -106,10 +116,15 @@ void drawCard(QPainter& painter, const QRectF& area, double radius) {
              Theme::color(Theme::Role::cardBorder));
 }
 
+void drawControl(QPainter& painter, const QRectF& area, double radius) {
+    drawCard(painter, area, radius, Theme::color(Theme::Role::cardFill),
+             Theme::color(Theme::Role::controlBorder));
+}
+
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Theme::color(Theme::Role::accent, 0.7), 2));
+    painter.setPen(QPen(Theme::color(Theme::Role::accent), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
     painter.restore();

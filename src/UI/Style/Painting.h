@@ -55,6 +55,9 @@ void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor
 /// Draws the theme's card.
 void drawCard(QPainter& painter, const QRectF& area, double radius = Theme::cardRadius);
 
+/// Draws the ground of a control that can be clicked or typed into.
+void drawControl(QPainter& painter, const QRectF& area, double radius = Theme::controlRadius);
+
 /// Draws the ring round a control that has the focus.
 void drawFocusRing(QPainter& painter, const QRectF& area, double radius);
 
