@@ -26,7 +26,7 @@ void WidgetWindow::show(AppModel& model) {
         QObject::connect(view, &WidgetView::openMain, view, [application = m_desktop.application] {
             MainWindowFinder::open(*application, MainWindowFinder::Fallback::nothing);
         });
-        m_window->setContent(view);
+        m_window->setContent(view, WidgetView::cornerRadius);
         if (const QScreen* screen = QGuiApplication::primaryScreen()) {
             const QRect room = screen->availableGeometry();
             m_window->placeBottomLeft(

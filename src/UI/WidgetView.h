@@ -21,7 +21,8 @@ class WidgetView : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int cardWidth = 240;
+    static constexpr Theme::Length cardWidth{240};
+    static constexpr double cornerRadius = 14;
     static constexpr qsizetype shownGroups = 3;
 
     explicit WidgetView(AppModel& model, QWidget* parent = nullptr);

@@ -60,7 +60,7 @@ class FakePanel : public FloatingPanel, public ShownContent {
 public:
     int placements = 0;
 
-    void setContent(QWidget* widget) override { content.reset(widget); }
+    void setContent(QWidget* widget, double) override { content.reset(widget); }
     void placeBottomLeft(QPoint) override { ++placements; }
     void orderFront() override { setShown(true); }
     void orderOut() override { setShown(false); }

@@ -10,8 +10,8 @@ class FloatingPanel {
 public:
     virtual ~FloatingPanel() = default;
 
-    /// Takes ownership of `content`.
-    virtual void setContent(QWidget* content) = 0;
+    /// Takes ownership of `content`, which draws a card with corners of that radius.
+    virtual void setContent(QWidget* content, double cornerRadius) = 0;
     /// Moves the bottom left corner to `corner`, in screen coordinates.
     virtual void placeBottomLeft(QPoint corner) = 0;
     virtual void orderFront() = 0;

@@ -1,5 +1,6 @@
 #include "Platform/Freedesktop/Desktop/FreedesktopFloatingPanel.h"
 
+#include "Platform/Freedesktop/Desktop/WindowShape.h"
 #include "Platform/Freedesktop/Desktop/X11Window.h"
 
 #include <QMouseEvent>
@@ -17,7 +18,8 @@ FreedesktopFloatingPanel::FreedesktopFloatingPanel()
     frame->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void FreedesktopFloatingPanel::setContent(QWidget* content) {
+void FreedesktopFloatingPanel::setContent(QWidget* content, double cornerRadius) {
+    m_cornerRadius = cornerRadius;
     layout()->addWidget(content);
 }
 
@@ -30,10 +32,12 @@ void FreedesktopFloatingPanel::placeBottomLeft(QPoint corner) {
 
 void FreedesktopFloatingPanel::orderFront() {
     X11Window::setOnAllDesktops(this);
+    X11Window::keepOffTaskbar(this);
     if (m_placed)
         move(m_place);
     show();
     X11Window::setOnAllDesktops(this);
+    X11Window::keepOffTaskbar(this);
     raise();
 }
 
@@ -52,6 +56,10 @@ void FreedesktopFloatingPanel::mousePressEvent(QMouseEvent* event) {
 void FreedesktopFloatingPanel::mouseMoveEvent(QMouseEvent* event) {
     if (X11Window::isX11() && event->buttons() & Qt::LeftButton)
         move(event->globalPosition().toPoint() - m_grip);
+}
+
+void FreedesktopFloatingPanel::resizeEvent(QResizeEvent*) {
+    cutCorners(*this, m_cornerRadius);
 }
 
 void FreedesktopFloatingPanel::moveEvent(QMoveEvent*) {

@@ -12,7 +12,7 @@ class FreedesktopFloatingPanel : public QWidget, public FloatingPanel {
 public:
     FreedesktopFloatingPanel();
 
-    void setContent(QWidget* content) override;
+    void setContent(QWidget* content, double cornerRadius) override;
     void placeBottomLeft(QPoint corner) override;
     void orderFront() override;
     void orderOut() override;
@@ -22,9 +22,11 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QPoint m_grip; ///< where the pointer was pressed
     QPoint m_place;
     bool m_placed = false;
+    double m_cornerRadius = 0;
 };

@@ -42,7 +42,7 @@ void FreedesktopPopover::setContent(QWidget* content, QSize size) {
     m_window = new QWidget(nullptr, popUp);
     m_window->setWindowTitle(QGuiApplication::applicationDisplayName());
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
-    m_window->setFixedSize(size);
+    m_size = size;
     m_window->installEventFilter(this);
     auto* frame = new QVBoxLayout(m_window);
     frame->setContentsMargins(0, 0, 0, 0);
@@ -55,6 +55,7 @@ void FreedesktopPopover::show(QRect anchor) {
     const Qt::WindowFlags flags = cannotPopUp ? smallWindow : popUp;
     if (m_window->windowFlags() != flags)
         m_window->setWindowFlags(flags);
+    m_window->setFixedSize(m_size.expandedTo(m_window->layout()->minimumSize()));
     m_window->move(place(anchor));
     m_window->show();
     m_window->raise();

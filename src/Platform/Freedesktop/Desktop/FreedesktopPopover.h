@@ -32,6 +32,7 @@ private:
     QPoint place(QRect anchor) const;
 
     QPointer<QWidget> m_window;
+    QSize m_size; ///< at least
     QElapsedTimer m_sinceClosed;
     QTimer m_focusTimer;
 };

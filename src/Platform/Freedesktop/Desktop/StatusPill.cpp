@@ -1,6 +1,7 @@
 #include "Platform/Freedesktop/Desktop/StatusPill.h"
 
 #include "Platform/Freedesktop/Desktop/WaylandWindow.h"
+#include "Platform/Freedesktop/Desktop/WindowShape.h"
 #include "Platform/Freedesktop/Desktop/X11Window.h"
 
 #include <QApplication>
@@ -10,14 +11,17 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int pillHeight = 26;
+constexpr int smallestHeight = 26;
 constexpr int padding = 12;
 constexpr int symbolSize = 16;
 constexpr int markSize = 12;
 constexpr int markGap = 6;
-constexpr int screenMargin = 8;
+constexpr int topMargin = 4;
+constexpr int windowButtons = 160; ///< at the right of a maximized window
 
 } // namespace
 
@@ -44,8 +48,13 @@ void StatusPill::setMenu(QMenu* menu) {
 
 void StatusPill::showEvent(QShowEvent* event) {
     X11Window::setOnAllDesktops(this);
+    X11Window::keepOffTaskbar(this);
     fit();
     QWidget::showEvent(event);
+}
+
+void StatusPill::resizeEvent(QResizeEvent*) {
+    cutCorners(*this, height() / 2.0);
 }
 
 int StatusPill::markRoom() const {
@@ -56,14 +65,16 @@ int StatusPill::markRoom() const {
 void StatusPill::fit() {
     const int content =
         m_content.title.isEmpty() ? symbolSize : fontMetrics().horizontalAdvance(m_content.title);
+    const int pillHeight = std::max(smallestHeight, fontMetrics().height() + 8);
     const QSize wanted(content + markRoom() + 2 * padding, pillHeight);
     if (WaylandWindow::isWayland()) {
         setFixedSize(wanted); // tiling compositors let windows of fixed size float
         return;
     }
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    setGeometry(
-        QRect(QPoint(room.right() + 1 - screenMargin - wanted.width(), room.top() + screenMargin), wanted));
+    const QPoint topRight =
+        m_topRight.value_or(QPoint(room.right() + 1 - windowButtons, room.top() + topMargin));
+    setGeometry(QRect(topRight - QPoint(wanted.width(), 0), wanted));
 }
 
 void StatusPill::paintEvent(QPaintEvent*) {
@@ -73,8 +84,8 @@ void StatusPill::paintEvent(QPaintEvent*) {
     edge.setAlphaF(0.2F);
     painter.setPen(edge);
     painter.setBrush(palette().color(QPalette::Window));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), pillHeight / 2.0,
-                            pillHeight / 2.0);
+    const double radius = height() / 2.0;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.setPen(palette().color(QPalette::WindowText));
     const QRect room = rect().adjusted(padding + markRoom(), 0, -padding, 0);
     if (!m_content.mark.isNull())
@@ -87,6 +98,7 @@ void StatusPill::paintEvent(QPaintEvent*) {
 
 void StatusPill::mousePressEvent(QMouseEvent* event) {
     m_grip = event->position().toPoint();
+    m_isDragged = false;
     if (event->button() != Qt::RightButton || !m_menu)
         return;
     // By default its parent is the window with the keyboard, where Wayland would show it.
@@ -97,12 +109,20 @@ void StatusPill::mousePressEvent(QMouseEvent* event) {
 
 void StatusPill::mouseMoveEvent(QMouseEvent* event) {
     const int distance = (event->position().toPoint() - m_grip).manhattanLength();
-    const bool isDrag = event->buttons() & Qt::LeftButton && distance >= QApplication::startDragDistance();
-    if (isDrag && WaylandWindow::isWayland())
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    m_isDragged = m_isDragged || distance >= QApplication::startDragDistance();
+    if (!m_isDragged)
+        return;
+    if (WaylandWindow::isWayland()) {
         windowHandle()->startSystemMove();
+        return;
+    }
+    move(event->globalPosition().toPoint() - m_grip);
+    m_topRight = pos() + QPoint(width(), 0);
 }
 
 void StatusPill::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    if (event->button() == Qt::LeftButton && !m_isDragged && rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
 }

@@ -5,8 +5,10 @@
 #include <QPointer>
 #include <QWidget>
 
-/// A small window for desktops without a tray, at the top right above all others, with the title in it. On
-/// Wayland the compositor places it and it can be dragged.
+#include <optional>
+
+/// A small window for desktops without a tray, above all others, with the title in it. It stands at the top
+/// right, beside the buttons of a maximized window, and can be dragged. On Wayland the compositor places it.
 class StatusPill : public QWidget {
     Q_OBJECT
 
@@ -25,6 +27,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void fit();
@@ -33,4 +36,6 @@ private:
     StatusContent m_content;
     QPointer<QMenu> m_menu;
     QPoint m_grip; ///< where the pointer was pressed
+    bool m_isDragged = false;
+    std::optional<QPoint> m_topRight; ///< once it was dragged
 };

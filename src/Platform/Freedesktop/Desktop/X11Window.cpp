@@ -76,6 +76,17 @@ void setSkipTaskbar(QWidget* window, bool skip) {
                 fromApplication});
 }
 
+void keepOffTaskbar(QWidget* window) {
+    if (!isX11())
+        return;
+    if (window->isVisible())
+        return setSkipTaskbar(window, true);
+    // Qt keeps these when it adds its own before the mapping.
+    const xcb_atom_t states[] = {atom("_NET_WM_STATE_SKIP_TASKBAR"), atom("_NET_WM_STATE_SKIP_PAGER")};
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window->winId()),
+                        atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, states);
+}
+
 void activate(QWidget* window) {
     if (!isX11())
         return;

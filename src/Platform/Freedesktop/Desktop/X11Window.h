@@ -13,6 +13,8 @@ bool isX11();
 void setOnAllDesktops(QWidget* window);
 /// Hides the window from task bar and pager.
 void setSkipTaskbar(QWidget* window, bool skip);
+/// Keeps a window that belongs to no task out of task bar and pager, now and at its next mapping.
+void keepOffTaskbar(QWidget* window);
 /// Raises the window and gives it the keyboard, as a pager does.
 void activate(QWidget* window);
 /// Returns whether a compositor runs, which translucent windows need.
