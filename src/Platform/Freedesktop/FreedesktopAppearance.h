@@ -2,24 +2,28 @@
 
 #include "Platform/Appearance.h"
 
-class QDBusVariant;
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QVariantMap>
 
-/// Follows `color-scheme` of `org.freedesktop.appearance` in the desktop portal. Without a session bus or a
-/// portal there is no preference.
+/// Follows `org.freedesktop.appearance` in the settings of the desktop portal, and on GNOME the font, the
+/// size of text and the accessibility settings. Without a session bus or a portal nothing is stated.
 class FreedesktopAppearance : public Appearance {
     Q_OBJECT
 
 public:
-    explicit FreedesktopAppearance(QObject* parent = nullptr);
+    explicit FreedesktopAppearance(const QDBusConnection& bus = QDBusConnection::sessionBus(),
+                                   QObject* parent = nullptr);
 
-    std::optional<bool> prefersDark() const override { return m_prefersDark; }
+    AppearanceChoice choice() const override { return m_choice; }
 
 private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
     void ask();
-    void take(const QVariant& colorScheme);
+    void take(const QString& group, const QVariantMap& settings);
 
-    std::optional<bool> m_prefersDark;
+    QDBusConnection m_bus;
+    AppearanceChoice m_choice;
 };

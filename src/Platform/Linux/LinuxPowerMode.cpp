@@ -1,5 +1,6 @@
 #include "Platform/Linux/LinuxPowerMode.h"
 
+#include "Platform/Freedesktop/BusSignal.h"
 #include "Platform/Log.h"
 
 #include <QDBusMessage>
@@ -46,10 +47,9 @@ void LinuxPowerMode::followDaemon() {
     connect(&m_services, &QDBusServiceWatcher::serviceOwnerChanged, this, &LinuxPowerMode::ask);
     for (const QString& service : services) {
         m_services.addWatchedService(service);
-        // Any sender, because Qt would block on the bus for a name's owner. The signal's contents are
-        // ignored.
-        m_bus.connect(QString(), pathOf(service), propertiesInterface, QStringLiteral("PropertiesChanged"),
-                      this, SLOT(ask()));
+        // The signal's contents are ignored.
+        followSignal(m_bus, pathOf(service), propertiesInterface, QStringLiteral("PropertiesChanged"), this,
+                     SLOT(ask()));
     }
     ask();
 }

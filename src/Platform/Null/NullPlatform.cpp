@@ -106,7 +106,7 @@ class NullRunningProgram : public RunningProgram {
 };
 
 class NullAppearance : public Appearance {
-    std::optional<bool> prefersDark() const override { return {}; }
+    AppearanceChoice choice() const override { return {}; }
 };
 
 class NullLoginItem : public LoginItem {

@@ -1,5 +1,6 @@
 #include "Platform/Freedesktop/Desktop/FreedesktopNotifications.h"
 
+#include "Platform/Freedesktop/BusSignal.h"
 #include "Platform/Freedesktop/Desktop/NotificationText.h"
 #include "Platform/Log.h"
 
@@ -51,9 +52,9 @@ FreedesktopNotifications::FreedesktopNotifications(const QDBusConnection& bus, L
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString& before, const QString& now) { followServer(before, now); });
     m_watcher.addWatchedService(notificationService);
-    // Any sender, because Qt would block on the bus for a name's owner. `keyOf` compares it.
+    // `keyOf` compares the sender.
     const auto follow = [this](const QString& signal, const char* slot) {
-        m_bus.connect(QString(), notificationPath, notificationService, signal, this, slot);
+        followSignal(m_bus, notificationPath, notificationService, signal, this, slot);
     };
     follow(u"ActionInvoked"_s, SLOT(actionInvoked(quint32, QString, QDBusMessage)));
     follow(u"NotificationClosed"_s, SLOT(notificationClosed(quint32, quint32, QDBusMessage)));

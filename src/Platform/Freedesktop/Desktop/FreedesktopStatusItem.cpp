@@ -1,5 +1,6 @@
 #include "Platform/Freedesktop/Desktop/FreedesktopStatusItem.h"
 
+#include "Platform/Freedesktop/BusSignal.h"
 #include "Platform/Freedesktop/Desktop/WaylandWindow.h"
 #include "Platform/Freedesktop/Desktop/X11Window.h"
 
@@ -33,7 +34,7 @@ FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent)
     connect(&m_notifierWatch, &QDBusServiceWatcher::serviceOwnerChanged, this,
             &FreedesktopStatusItem::askNotifier);
     for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
-        bus.connect(QString(), notifierPath, notifier, QString::fromLatin1(event), this, SLOT(askNotifier()));
+        followSignal(bus, notifierPath, notifier, QString::fromLatin1(event), this, SLOT(askNotifier()));
     // XEmbed trays announce themselves to their clients only; a check is one round trip to the display.
     connect(&m_windowWatch, &QTimer::timeout, this, &FreedesktopStatusItem::watchTrayWindow);
     m_windowWatch.start(3s);
