@@ -12,7 +12,7 @@
 #include "Platform/TerminationRequest.h"
 #include "Preferences.h"
 #include "ProgramBus.h"
-#include "UI/Kit/AccessibleScrollArea.h"
+#include "UI/Kit/Accessibility.h"
 #include "UI/Style/Style.h"
 #include "UI/Style/ThemeFollower.h"
 
@@ -37,7 +37,7 @@ TavrinApp::TavrinApp(int& argc, char** argv)
     setDesktopFileName(QStringLiteral("org.example.tavrin"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     setStyle(new Style);
-    installAccessibleScrollAreas();
+    Accessibility::install();
     setQuitOnLastWindowClosed(false);
     new ThemeFollower(Platform::makeAppearance(), this);
 }

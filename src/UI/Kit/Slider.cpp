@@ -13,7 +13,7 @@
 
 Slider::Slider(QWidget* parent)
     : QSlider(Qt::Horizontal, parent) {
-    setFixedHeight(Style::knobSide + 4);
+    Theme::fixHeight(this, Theme::controlHeight);
 }
 
 void Slider::moveKnobTo(double x) {
@@ -41,16 +41,17 @@ void Slider::mouseReleaseEvent(QMouseEvent*) {
     setSliderDown(false);
 }
 
-LabeledSlider::LabeledSlider(QString text, Range range, double value, int width, QWidget* parent)
+LabeledSlider::LabeledSlider(QString text, Range range, double value, Theme::Length width, QWidget* parent)
     : QWidget(parent)
     , m_text(std::move(text))
     , m_step(range.step)
     , m_label(new TextLabel(Theme::TextStyle::callout))
     , m_slider(new Slider) {
-    setFixedWidth(width);
-    m_slider->setRange(range.from / range.step, range.to / range.step);
-    m_slider->setPageStep(std::max(1, (m_slider->maximum() - m_slider->minimum()) / 10));
-    m_slider->setValue(static_cast<int>(std::lround(value / m_step)));
+    Theme::fixWidth(this, width);
+    m_slider->setRange(range.from, range.to);
+    m_slider->setSingleStep(range.step);
+    m_slider->setPageStep(range.step * std::max(1, (range.to - range.from) / range.step / 10));
+    m_slider->setValue(static_cast<int>(std::lround(value)));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::textGap);
@@ -58,17 +59,21 @@ LabeledSlider::LabeledSlider(QString text, Range range, double value, int width,
     column->addWidget(m_slider);
     setFocusProxy(m_slider);
     showValue();
-    connect(m_slider, &QSlider::valueChanged, this, [this] {
+    connect(m_slider, &QSlider::valueChanged, this, [this](int moved) {
+        const int from = m_slider->minimum();
+        const int step = from + (moved - from + m_step / 2) / m_step * m_step;
+        if (step != moved)
+            return m_slider->setValue(step);
         showValue();
         Q_EMIT valueChanged(this->value());
     });
 }
 
 double LabeledSlider::value() const {
-    return m_slider->value() * m_step;
+    return m_slider->value();
 }
 
 void LabeledSlider::showValue() {
-    m_label->setPlainText(m_text.arg(m_slider->value() * m_step));
+    m_label->setPlainText(m_text.arg(m_slider->value()));
     m_slider->setAccessibleName(m_label->text());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/Style/Theme.h"
+
 #include <QSlider>
 #include <QString>
 
@@ -33,7 +35,7 @@ public:
     };
 
     /// The line is `text` with the value in place of its %1.
-    LabeledSlider(QString text, Range range, double value, int width, QWidget* parent = nullptr);
+    LabeledSlider(QString text, Range range, double value, Theme::Length width, QWidget* parent = nullptr);
 
     double value() const;
 

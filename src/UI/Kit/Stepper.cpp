@@ -4,6 +4,7 @@
 #include "UI/Style/Symbols.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,8 +15,8 @@ using Theme::Role;
 
 namespace {
 
-constexpr int buttonWidth = 28;
-constexpr int stepSymbolSize = 12;
+constexpr Theme::Length buttonWidth{28};
+constexpr Theme::Length stepSymbolSize{12};
 constexpr double disabledOpacity = 0.35;
 
 /// One half of the stepper, which draws the ground of both.
@@ -23,7 +24,7 @@ class Half : public QAbstractButton {
 public:
     explicit Half(QString symbol)
         : m_symbol(std::move(symbol)) {
-        setFixedSize(buttonWidth, Theme::smallControlHeight);
+        Theme::fixSize(this, buttonWidth, Theme::controlHeight);
         setFocusPolicy(Qt::NoFocus);
         setAutoRepeat(true);
     }
@@ -89,6 +90,8 @@ void Stepper::change(double value) {
     if (next == m_value)
         return;
     setValue(next);
+    QAccessibleValueChangeEvent changed(this, next);
+    QAccessible::updateAccessibility(&changed);
     Q_EMIT stepped(next);
 }
 
@@ -98,7 +101,7 @@ void Stepper::enableButtons() {
 }
 
 QSize Stepper::sizeHint() const {
-    return {2 * buttonWidth + 1, Theme::smallControlHeight};
+    return {2 * buttonWidth + 1, Theme::controlHeight};
 }
 
 void Stepper::keyPressEvent(QKeyEvent* event) {
@@ -126,8 +129,8 @@ void Stepper::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const double opacity = isEnabled() ? 1 : 0.5;
     Painting::drawCard(painter, rect(), Theme::controlRadius, Theme::color(Role::hoverFill, opacity),
-                       Theme::color(Role::cardBorder, opacity));
-    painter.fillRect(buttonWidth, 5, 1, height() - 10, Theme::color(Role::cardBorder, opacity));
+                       Theme::color(Role::controlBorder, opacity));
+    painter.fillRect(buttonWidth, 6, 1, height() - 12, Theme::color(Role::controlBorder, opacity));
     if (hasFocus())
         Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
 }

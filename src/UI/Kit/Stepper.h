@@ -18,7 +18,10 @@ public:
 
     explicit Stepper(const Range& range, QWidget* parent = nullptr);
 
+    const Range& range() const { return m_range; }
     double value() const { return m_value; }
+    /// Changes the value as a user does, within the range.
+    void change(double value);
     /// Sets any value, also outside the range. The next step brings it into the range.
     void setValue(double value);
     /// Sets the accessible names of the stepper and of its buttons.
@@ -37,7 +40,6 @@ protected:
 private:
     QAbstractButton* addButton(const QString& symbol, double by);
     void stepBy(double amount);
-    void change(double value);
     void enableButtons();
 
     Range m_range;
