@@ -15,16 +15,16 @@ using Theme::Role;
 namespace {
 
 constexpr int capsulePadding = 12;
-constexpr int maxCapsuleWidth = 240;
-constexpr int dismissSide = 20;
-constexpr int crossSize = 18; // of which the cross fills half
+constexpr Theme::Length maxCapsuleWidth{240};
+constexpr Theme::Length dismissSide{20}; // of the circle
+constexpr Theme::Length crossSize{18};   // of which the cross fills half
 
 } // namespace
 
 ActionCapsule::ActionCapsule(QWidget* parent)
     : QAbstractButton(parent) {
-    setFont(Theme::font(Theme::TextStyle::callout, QFont::DemiBold));
-    setFixedHeight(Theme::smallControlHeight);
+    Theme::useFont(this, Theme::TextStyle::callout, QFont::DemiBold);
+    Theme::fixHeight(this, Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
 }
@@ -41,7 +41,7 @@ void ActionCapsule::set(const QString& caption, const QUrl& link, Message::Sever
 
 QSize ActionCapsule::sizeHint() const {
     const int wanted = fontMetrics().horizontalAdvance(m_caption) + 2 * capsulePadding;
-    return {std::min(wanted, maxCapsuleWidth), height()};
+    return {std::min<int>(wanted, maxCapsuleWidth), height()};
 }
 
 void ActionCapsule::paintEvent(QPaintEvent*) {
@@ -61,17 +61,18 @@ DismissButton::DismissButton(QWidget* parent)
     : QAbstractButton(parent) {
     setToolTip(tr("Dismiss"));
     setAccessibleName(toolTip());
-    setFixedSize(dismissSide, dismissSide);
+    Theme::fixSize(this, Theme::controlHeight, Theme::controlHeight);
     setFocusPolicy(Qt::TabFocus);
 }
 
 void DismissButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const double radius = height() / 2.0;
+    QRectF circle(0, 0, dismissSide, dismissSide);
+    circle.moveCenter(QRectF(rect()).center());
     if (underMouse() || isDown())
-        Painting::drawCard(painter, rect(), radius,
+        Painting::drawCard(painter, circle, circle.height() / 2,
                            Theme::color(Role::secondaryText, isDown() ? 0.28 : 0.18));
     Symbols::draw(painter, QStringLiteral("xmark"), Theme::color(Role::secondaryText), rect(), crossSize);
     if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), radius);
+        Painting::drawFocusRing(painter, rect(), height() / 2.0);
 }

@@ -35,6 +35,10 @@ void MainWindow::addMenuActions() {
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
+    auto* sidebar = new QAction(tr("Show or Hide Sidebar"), this);
+    sidebar->setShortcut(QKeySequence(Qt::Key_F9));
+    connect(sidebar, &QAction::triggered, this, [this] { m_root->showSidebar(!m_root->isSidebarShown()); });
+    addAction(sidebar);
 
     auto* menu = new QMenu(this);
     const auto open = [this] {
@@ -49,6 +53,7 @@ void MainWindow::addMenuActions() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     m_root->select(RootView::Tab::overview);
+    m_root->showSidebar(true);
     QMainWindow::closeEvent(event);
 }
 

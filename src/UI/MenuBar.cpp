@@ -59,7 +59,7 @@ MenuBarController::MenuBarController(AppModel& model, Preferences& preferences, 
 
     auto* panel = new MenuBarPanel(m_model, widget);
     connect(panel, &MenuBarPanel::openMainWindow, this, &MenuBarController::openMainWindow);
-    m_desktop.popover->setContent(panel, panelSize);
+    m_desktop.popover->setContent(panel, Theme::scaled(panelSize));
 
     const auto redraw = [this] { update(m_model.systemSample()); };
     observe(&m_model, this, redraw);

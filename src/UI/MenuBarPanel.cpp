@@ -23,11 +23,10 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int panelSymbolWidth = 16;
+constexpr Theme::Length panelSymbolWidth{16};
 constexpr int panelPadding = 14;
-constexpr int panelEdge = 10; ///< above and below
-constexpr int panelSpacing = 8;
-constexpr int sessionsHeight = 20;    ///< the panel is full with three alerts
+constexpr int panelEdge = 6; ///< above and below; the panel is full with three alerts
+constexpr int panelSpacing = 7;
 constexpr int flatButtonPadding = 10; ///< before the symbol of a button without a border
 
 TextLabel* caption(const QString& text) {
@@ -134,7 +133,6 @@ QLayout* MenuBarPanel::makeStatistics() {
 
 QLayout* MenuBarPanel::makeSessions() {
     m_sessions->setSmall();
-    m_sessions->setFixedHeight(sessionsHeight);
     m_sessions->hide();
     connect(m_sessions, &PushButton::clicked, this, &MenuBarPanel::openMainWindow);
     auto* row = new QHBoxLayout;

@@ -7,6 +7,7 @@
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Style/MessageSeverity.h"
+#include "UI/Style/Painting.h"
 #include "UI/Style/Theme.h"
 
 #include <QAccessible>
@@ -18,11 +19,11 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int symbolFrame = 22;
+constexpr Theme::Length symbolFrame{22};
 constexpr int itemSpacing = 12;
 constexpr QMargins bannerPadding(14, 10, 14, 10);
 /// Aligns the title's first line with the middle of the symbol.
-constexpr int titleDrop = 2;
+constexpr Theme::Length titleDrop{2};
 constexpr int maxTitleLines = 2;
 constexpr int maxBodyLines = 3;
 /// No more can be seen, and laying out a megabyte takes long.
@@ -48,7 +49,7 @@ MessageBanner::MessageBanner(MessageCenter& center, OpenLink open, QWidget* pare
     , m_title(new ClampedLabel(maxTitleLines, TextStyle::headline))
     , m_body(new ClampedLabel(maxBodyLines, TextStyle::callout))
     , m_action(new ActionCapsule) {
-    m_symbol->setFixedHeight(symbolFrame);
+    Theme::fixHeight(m_symbol, symbolFrame);
     m_body->secondary();
     auto* dismiss = new DismissButton;
     auto* texts = new QVBoxLayout;
@@ -114,4 +115,7 @@ void MessageBanner::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), Theme::color(Theme::Role::cardFill));
     painter.fillRect(rect(), Theme::color(role, 0.08));
     painter.fillRect(QRect(0, height() - 1, width(), 1), Theme::color(role, 0.25));
+    if (role == Theme::Role::lime && !Theme::isDark()) // bright on white: its symbol needs a ground
+        Painting::drawCard(painter, m_symbol->geometry().adjusted(-2, -2, 2, 2), Theme::controlRadius,
+                           Theme::color(Theme::Role::primaryText));
 }

@@ -35,6 +35,8 @@ public:
 
     Tab tab() const;
     void select(Tab tab);
+    void showSidebar(bool show);
+    bool isSidebarShown() const { return m_isSidebarShown; }
     /// Open a dialog over the window, in its section, unless one is open already.
     void openFreeRAM();
     void confirmEnd(const ProcessIdentity& host);
@@ -48,10 +50,14 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QWidget* makeSidebarPane();
     QWidget* makeDetail();
-    void restoreSidebar(QSplitter* split, const SettingsFile& file);
+    void restoreSidebar(const SettingsFile& file);
+    bool isFolded() const;
+    void fitSidebar();
     void showSection(int row);
     void addSections(Preferences& preferences);
     /// Adds a section. The calls have to be in the order of Tab.
@@ -61,13 +67,19 @@ private:
 
     AppModel& m_model;
     StoreLater m_storeLater;
+    QSplitter* m_split;
     QListWidget* m_sidebar;
+    IconButton* m_sidebarButton;
     IconButton* m_menuButton;
     MessageBanner* m_banner;
     TextLabel* m_title;
+    QWidget* m_noticeRoom; ///< beside the title
     QStackedWidget* m_sections;
     OverviewView* m_overview;
     SessionsView* m_sessionsView;
+    double m_sidebarWidth = 0; ///< at the default size of text
+    bool m_isSidebarShown = true;
+    bool m_wasFolded = false;
 };
 
 template <>

@@ -27,8 +27,7 @@ namespace {
 constexpr int widgetPadding = 12;
 constexpr int widgetSpacing = 10;
 constexpr int tileSpacing = 8;
-constexpr double cornerRadius = 14;
-constexpr int groupSymbolWidth = 14;
+constexpr Theme::Length groupSymbolWidth{14};
 constexpr double shadowOpacity = 0.35;
 constexpr double shadowBlur = 8; // Qt's blur reaches half as far as it says
 
@@ -43,7 +42,7 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
         return row;
     })
     , m_alertSection(makeAlert()) {
-    setFixedWidth(cardWidth);
+    Theme::fixWidth(this, cardWidth);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(widgetPadding, widgetPadding, widgetPadding, widgetPadding);
     column->setSpacing(widgetSpacing);
@@ -58,9 +57,9 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
 }
 
 QLayout* WidgetView::makeHeader() {
-    auto* symbol = new SymbolView(16, 16);
+    auto* symbol = new SymbolView({16}, {16});
     symbol->set(QStringLiteral("waveform.path.ecg"), Role::accent);
-    m_worst = new SymbolView(16, 16);
+    m_worst = new SymbolView({16}, {16});
     auto* name = (new TextLabel(TextStyle::caption, QFont::DemiBold))->secondary();
     name->setPlainText(QStringLiteral("Tavrin"));
     m_open = new IconButton(QStringLiteral("arrow.up.left.and.arrow.down.right"), tr("Open dashboard"));
@@ -206,7 +205,7 @@ MiniTile::MiniTile(QString title, QWidget* parent)
     : QWidget(parent)
     , m_title(std::move(title))
     , m_shadow(new QGraphicsDropShadowEffect(this)) {
-    setFixedHeight(58);
+    Theme::fixHeight(this, {58});
     m_shadow->setBlurRadius(shadowBlur);
     m_shadow->setOffset(0, 2);
     setGraphicsEffect(m_shadow);
@@ -230,6 +229,8 @@ void MiniTile::paintEvent(QPaintEvent*) {
     gradient.setColorAt(0, Theme::tileColor(m_role));
     gradient.setColorAt(1, Theme::tileColor(m_role, 0.78));
     painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black); // so that white can be read on the lighter end, whatever is below the widget
+    painter.drawRoundedRect(rect(), Theme::cardRadius, Theme::cardRadius);
     painter.setBrush(gradient);
     painter.drawRoundedRect(rect(), Theme::cardRadius, Theme::cardRadius);
 

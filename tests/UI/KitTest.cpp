@@ -1,13 +1,17 @@
 #include "Core/Formatters.h"
 #include "UI/Controls.h"
-#include "UI/Kit/AccessibleScrollArea.h"
+#include "UI/Kit/Accessibility.h"
 #include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/Notice.h"
+#include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
 #include "UI/ModelFixture.h"
 
 #include <QAccessible>
+#include <QCheckBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextDocument>
@@ -68,6 +72,7 @@ TEST(ToolTipTest, ShowsAnyTextAsItStands) {
 
 TEST(NoticeTest, ALaterTextStaysItsWholeTime) {
     Notice notice(u"bolt.fill"_s, 200ms);
+    notice.move(500, 400); // away from the pointer
     EXPECT_FALSE(notice.isVisible());
     notice.show(u"one"_s);
     QTest::qWait(130);
@@ -79,7 +84,7 @@ TEST(NoticeTest, ALaterTextStaysItsWholeTime) {
 }
 
 TEST(SliderTest, MovesByStepsUnderMouseAndKeys) {
-    LabeledSlider slider(u"Size: %1 MB"_s, {50, 2000, 50}, 300, 200);
+    LabeledSlider slider(u"Size: %1 MB"_s, {50, 2000, 50}, 300, {200});
     slider.show();
     EXPECT_EQ(slider.value(), 300);
     auto* knob = slider.findChild<Slider*>();
@@ -138,8 +143,8 @@ TEST(StepperTest, HalvesEndWithTheRangeAndRepeatWhilePressed) {
     EXPECT_EQ(row.value(), 60);
 }
 
-TEST(AccessibleScrollAreaTest, AChildThatHasGoneIsNoChild) {
-    installAccessibleScrollAreas();
+TEST(AccessibilityTest, AChildThatHasGoneIsNoChild) {
+    Accessibility::install();
     SizeList list(u"What goes"_s);
     list.show();
     QAccessibleInterface* area = QAccessible::queryAccessibleInterface(&list);
@@ -149,4 +154,82 @@ TEST(AccessibleScrollAreaTest, AChildThatHasGoneIsNoChild) {
     EXPECT_EQ(area->child(0)->object(), list.viewport());
     for (const int index : {-1, count, count + 1000})
         EXPECT_EQ(area->child(index), nullptr) << index;
+}
+
+TEST(AccessibilityTest, AToggledControlActsAsAClickedOne) {
+    Accessibility::install();
+    QCheckBox box(u"Other programs too"_s);
+    QSignalSpy clicked(&box, &QCheckBox::clicked);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&box);
+    EXPECT_EQ(spoken->role(), QAccessible::CheckBox);
+    EXPECT_EQ(spoken->text(QAccessible::Name), box.text());
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(box.isChecked() && spoken->state().checked);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST(AccessibilityTest, SteppersSlidersAndPickersSayWhatTheyAreAndHold) {
+    Accessibility::install();
+    StepperRow row({u"Load"_s, u"%1%"_s}, {50, 100, 5});
+    row.setValue(85);
+    QAccessibleInterface* stepper = QAccessible::queryAccessibleInterface(row.focusProxy());
+    EXPECT_EQ(stepper->role(), QAccessible::SpinBox);
+    ASSERT_TRUE(stepper->valueInterface());
+    EXPECT_EQ(stepper->valueInterface()->currentValue(), 85);
+    stepper->valueInterface()->setCurrentValue(200);
+    EXPECT_EQ(row.value(), 100);
+
+    const LabeledSlider slider(u"Size: %1 MB"_s, {50, 2000, 50}, 300, {200});
+    QAccessibleInterface* knob = QAccessible::queryAccessibleInterface(slider.focusProxy());
+    EXPECT_EQ(knob->valueInterface()->currentValue(), 300);
+    EXPECT_EQ(knob->valueInterface()->maximumValue(), 2000);
+
+    PopUpButton picker(u"Sort"_s);
+    picker.addItems({u"RAM"_s, u"CPU"_s});
+    QAccessibleInterface* choices = QAccessible::queryAccessibleInterface(&picker);
+    EXPECT_EQ(choices->text(QAccessible::Name), u"Sort"_s);
+    EXPECT_EQ(choices->text(QAccessible::Value), u"RAM"_s);
+}
+
+TEST(AccessibilityTest, PopUpsAreInTheTreeAndDescriptionsArePlain) {
+    Accessibility::install();
+    QWidget panel(nullptr, Qt::Popup);
+    panel.setToolTip(Formatters::toolTip(u"/opt/<b>app</b>"_s));
+    panel.show();
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&panel);
+    EXPECT_EQ(spoken->text(QAccessible::Description), u"/opt/<b>app</b>"_s);
+    EXPECT_EQ(spoken->role(), QAccessible::Window);
+    EXPECT_GE(QAccessible::queryAccessibleInterface(qApp)->indexOfChild(spoken), 0);
+}
+
+TEST(KeptFocusTest, AControlThatIsDisabledForAWhileGetsTheFocusBack) {
+    QWidget window;
+    auto* rescan = new QPushButton(u"Rescan"_s, &window);
+    auto* other = new QPushButton(u"Other"_s, &window);
+    other->move(0, 40);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    rescan->setFocus();
+    KeptFocus::setEnabled(rescan, false);
+    EXPECT_FALSE(other->hasFocus());
+    KeptFocus::setEnabled(rescan, true);
+    EXPECT_TRUE(rescan->hasFocus());
+    KeptFocus::setVisible(rescan, false);
+    other->setFocus();
+    KeptFocus::setVisible(rescan, true);
+    EXPECT_TRUE(other->hasFocus());
+}
+
+TEST(NoticeTest, StaysWhileThePointerIsOverIt) {
+    Notice notice(u"checkmark.seal.fill"_s, 20ms);
+    notice.move(500, 400);
+    notice.show(u"Done"_s, u"not all"_s);
+    EXPECT_EQ(notice.accessibleName(), u"Done. not all"_s);
+    notice.setAttribute(Qt::WA_UnderMouse);
+    EXPECT_FALSE(QTest::qWaitFor([&] { return notice.isHidden(); }, 100));
+    notice.setAttribute(Qt::WA_UnderMouse, false);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&notice, &leave);
+    EXPECT_TRUE(notice.isHidden());
 }

@@ -127,13 +127,13 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
     fakes.relief->answer = [] { return Outcome::failure(u"no <agent>"_s); };
     EXPECT_TRUE(fakes.relief->release());
-    EXPECT_EQ(notice(), u"Purge cancelled or failed"_s);
+    EXPECT_EQ(notice(), u"Purge cancelled or failed. no <agent>"_s);
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->isEnabled());
     EXPECT_TRUE(buttonNamed(view, u"Deep purge (admin)"_s)->toolTip().contains(u"no &lt;agent&gt;"_s));
     fakes.relief->suspended = false;
     fakes.relief->answer = [] { return Outcome::failure(u"no group"_s); };
     press(view, u"Pressure nudge"_s);
-    EXPECT_EQ(notice(), u"memory_pressure failed"_s);
+    EXPECT_EQ(notice(), u"memory_pressure failed. no group"_s);
     EXPECT_EQ(buttonNamed(view, u"Pressure nudge"_s)->accessibleDescription(), u"no group"_s);
     EXPECT_EQ(logged(),
               (QStringList{u"clean memory_pressure -l warn fail"_s, u"clean sudo purge (admin) fail"_s,

@@ -13,7 +13,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int minCacheCardHeight = 110;
+constexpr Theme::Length minCacheCardHeight{110};
 constexpr int lineGap = 6;
 
 QString scannedText(const std::optional<Instant>& scanned, Instant now) {

@@ -29,7 +29,7 @@ CacheDetailDrawer::CacheDetailDrawer(CacheCleanup& cleanup, CacheTarget target, 
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(Translations::of(m_target.name));
-    setMinimumSize(minSize);
+    setMinimumSize(Theme::scaled(minSize));
 
     auto* size = new TextLabel(TextStyle::title, QFont::Bold);
     size->setPlainText(tr("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));
@@ -82,7 +82,7 @@ QStringList CacheDetailDrawer::leftOut() const {
 }
 
 QLayout* CacheDetailDrawer::makeHeader() {
-    auto* symbol = new SymbolView(22, Theme::iconColumn);
+    auto* symbol = new SymbolView({22}, Theme::iconColumn);
     symbol->set(m_target.symbol, Role::accent);
     auto* title = new TextLabel(TextStyle::title2, QFont::Bold);
     title->setPlainText(windowTitle());
@@ -98,7 +98,7 @@ QLayout* CacheDetailDrawer::makeHeader() {
 }
 
 QLayout* CacheDetailDrawer::makeLine(const QString& symbol, const QString& text) const {
-    auto* icon = new SymbolView(14, Theme::iconSize);
+    auto* icon = new SymbolView({14}, Theme::iconSize);
     icon->set(symbol, Role::secondaryText);
     auto* label = (new TextLabel(TextStyle::caption))->secondary()->wrapped();
     label->setPlainText(text);
@@ -125,7 +125,7 @@ QWidget* CacheDetailDrawer::makeBreakdown() {
 void CacheDetailDrawer::refresh() {
     const quint64 bytes = m_preview ? m_preview->sum().bytes : m_target.sizeBytes;
     m_clean->setText(tr("Clean %1").arg(Formatters::bytes(bytes)));
-    m_clean->setEnabled(!m_preview || !m_preview->chosen().isEmpty());
+    m_clean->setEnabled(bytes > 0 && (!m_preview || !m_preview->chosen().isEmpty()));
     if (m_trash)
         m_trash->setEnabled(m_preview && m_clean->isEnabled());
 }

@@ -36,13 +36,13 @@ void CleanupConfirmation::askAll(
         parent, QCoreApplication::translate("CleanupConfirmation", "Clean all reclaimable caches?"),
         CleanupTexts::questionAll(targets));
     auto* preview = new CleanupPreview(cleanup, targets, CleanupChoice::Levels::ofTargets, now);
-    preview->setFixedSize(previewSize);
+    preview->setFixedSize(Theme::scaled(previewSize));
     dialog->addContent(preview);
     auto* button = dialog->addAction({}, PushButton::Look::destructive);
     const auto refresh = [preview, button] {
         button->setText(QCoreApplication::translate("CleanupConfirmation", "Clean %1")
                             .arg(Formatters::bytes(preview->sum().bytes)));
-        button->setEnabled(!preview->chosen().isEmpty());
+        button->setEnabled(preview->sum().bytes > 0 && !preview->chosen().isEmpty());
     };
     refresh();
     QObject::connect(preview, &CleanupPreview::changed, button, refresh);

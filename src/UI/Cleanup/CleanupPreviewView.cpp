@@ -20,11 +20,11 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int previewIndentation = 20;
+constexpr Theme::Length previewIndentation{20};
 constexpr int previewPadding = 8;
-constexpr int previewRowHeight = 28;
-constexpr int tickSide = 16;
-constexpr int branchSymbolSize = 12;
+constexpr Theme::Length previewRowHeight{28};
+constexpr Theme::Length tickSide{16};
+constexpr Theme::Length branchSymbolSize{12};
 constexpr double leftOutOpacity = 0.55;
 
 QRectF tickBoxIn(const QRect& cell) {
@@ -62,7 +62,7 @@ public:
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {100, std::max(previewRowHeight, option.fontMetrics.height() + 8)};
+        return {100, std::max<int>(previewRowHeight, option.fontMetrics.height() + 8)};
     }
 
 protected:

@@ -12,6 +12,7 @@
 #include "UI/Cleanup/ProjectLeftoversSheet.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/FlowGrid.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"
@@ -19,7 +20,7 @@
 #include "UI/Kit/TextLabel.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QPointer>
 #include <QScrollArea>
 
@@ -27,7 +28,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int minCardWidth = 220;
+constexpr Theme::Length minCardWidth{220};
 constexpr int cacheCardGap = 12;
 
 } // namespace
@@ -41,6 +42,7 @@ CleanupView::CleanupView(AppModel& model, Preferences& preferences, QWidget* par
     , m_showAll(new QCheckBox(tr("Show all")))
     , m_rescan(new PushButton(tr("Rescan"), PushButton::Look::normal, QStringLiteral("arrow.clockwise")))
     , m_cleanAll(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill")))
+    , m_cleaning(new Spinner)
     , m_spinner(new Spinner)
     , m_progress((new TextLabel(TextStyle::caption))->secondary())
     , m_unfinished(new ClampedLabel(1, TextStyle::caption))
@@ -55,8 +57,14 @@ CleanupView::CleanupView(AppModel& model, Preferences& preferences, QWidget* par
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, Theme::pagePadding, 0, 0);
     column->setSpacing(Theme::rowSpacing);
-    column->addLayout(makeHeader());
-    column->addLayout(makeProgress());
+    auto* top = new QWidget;
+    Theme::limitWidth(top, {Theme::maxContentWidth.pixels + 2 * Theme::pagePadding});
+    auto* topColumn = new QVBoxLayout(top);
+    topColumn->setContentsMargins(0, 0, 0, 0);
+    topColumn->setSpacing(Theme::rowSpacing);
+    topColumn->addLayout(makeHeader());
+    topColumn->addLayout(makeProgress());
+    column->addWidget(top);
     column->addWidget(makeGrid(), 1);
     m_cards.reserve(m_model.cleanup().targets().size());
     m_grid->addWidget(m_leftovers);
@@ -92,9 +100,23 @@ QLayout* CleanupView::makeHeader() {
     row->addLayout(texts, 1);
     row->addWidget(m_showAll);
     row->addWidget(m_rescan);
-    row->addWidget(m_cleanAll);
+    row->addWidget(makeCleanAll());
     m_cleanAll->setTint(Theme::Role::red);
     return row;
+}
+
+/// Returns the button, and the spinner that stands in its place while it works.
+QWidget* CleanupView::makeCleanAll() {
+    QSizePolicy policy = m_cleanAll->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_cleanAll->setSizePolicy(policy);
+    m_cleaning->hide();
+    auto* place = new QWidget;
+    auto* layers = new QGridLayout(place);
+    layers->setContentsMargins(0, 0, 0, 0);
+    layers->addWidget(m_cleanAll, 0, 0);
+    layers->addWidget(m_cleaning, 0, 0, Qt::AlignCenter);
+    return place;
 }
 
 /// Returns a row that keeps its room while it is empty, so that the cards do not jump.
@@ -141,9 +163,11 @@ void CleanupView::refresh() {
     m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
                                                        : QStringLiteral("• ") + m_lastCleanResult);
     m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
-    m_rescan->setEnabled(!cleanup.isScanning());
-    m_cleanAll->setBusy(m_cleaningAll);
-    m_cleanAll->setEnabled(!m_cleaningAll && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
+    KeptFocus::setEnabled(m_rescan, !cleanup.isScanning());
+    KeptFocus::setEnabled(m_cleanAll,
+                          !m_cleaningAll && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
+    KeptFocus::setVisible(m_cleanAll, !m_cleaningAll);
+    m_cleaning->setVisible(m_cleaningAll);
 }
 
 void CleanupView::refreshCards() {

@@ -27,6 +27,7 @@ protected:
 
 private:
     QLayout* makeHeader();
+    QWidget* makeCleanAll();
     QLayout* makeProgress();
     QWidget* makeGrid();
     void refresh();
@@ -49,6 +50,7 @@ private:
     QCheckBox* m_showAll;
     PushButton* m_rescan;
     PushButton* m_cleanAll;
+    Spinner* m_cleaning;
     Spinner* m_spinner;
     TextLabel* m_progress;
     TextLabel* m_unfinished;

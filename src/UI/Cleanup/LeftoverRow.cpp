@@ -13,8 +13,8 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int leftoverRowHeight = 44;
-constexpr int leftoverTickSide = 16;
+constexpr Theme::Length leftoverRowHeight{44};
+constexpr Theme::Length leftoverTickSide{16};
 constexpr double tickedStrength = 0.12;
 
 } // namespace
@@ -22,7 +22,7 @@ constexpr double tickedStrength = 0.12;
 LeftoverRow::LeftoverRow(QWidget* parent)
     : QAbstractButton(parent) {
     setCheckable(true);
-    setFixedHeight(leftoverRowHeight);
+    Theme::fixHeight(this, leftoverRowHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_path, [this](const QByteArray& path) { Q_EMIT ticked(path); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Cleanup/ProjectLeftovers.h"
+#include "UI/Style/Theme.h"
 
 #include <QAbstractButton>
 
@@ -18,9 +19,9 @@ public:
     QSize sizeHint() const override;
 
     /// Widths of the columns, for the heads.
-    static constexpr int sizeWidth = 76;
-    static constexpr int lastUseWidth = 110;
-    static constexpr int noteWidth = 170;
+    static constexpr Theme::Length sizeWidth{76};
+    static constexpr Theme::Length lastUseWidth{110};
+    static constexpr Theme::Length noteWidth{170};
     static constexpr int padding = 10;
 
 Q_SIGNALS:

@@ -33,9 +33,9 @@ namespace {
 
 constexpr QSize leftoversSize(820, 640);
 constexpr qsizetype maxShownProjects = 200;
-constexpr int maxPathsHeight = 300;
+constexpr Theme::Length maxPathsHeight{300};
 constexpr int maxListedPaths = 500;
-constexpr int leftoverSearchWidth = 220;
+constexpr Theme::Length leftoverSearchWidth{220};
 
 /// What takes the place of the list.
 enum class Page { rows, nothing, searching };
@@ -69,18 +69,18 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Project leftovers"));
-    resize(leftoversSize);
+    resize(Theme::scaled(leftoversSize));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::sheetMargins);
+    column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(12);
-    column->addLayout(makeHeader());
-    column->addLayout(makeSources());
-    column->addWidget(new Divider);
+    column->addLayout(beforeScrollBar(makeHeader()));
+    column->addLayout(beforeScrollBar(makeSources()));
+    column->addLayout(beforeScrollBar(new Divider));
     QWidget* list = makeList();
     column->addLayout(makeHeads());
     column->addWidget(list, 1);
-    column->addWidget(new Divider);
-    column->addLayout(makeFoot());
+    column->addLayout(beforeScrollBar(new Divider));
+    column->addLayout(beforeScrollBar(makeFoot()));
     if (!m_leftovers.lastSearch() && !m_leftovers.isSearching())
         search();
     refresh();

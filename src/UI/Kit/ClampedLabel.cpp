@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int comfortableWidth = 320;
+constexpr Theme::Length comfortableWidth{320};
 
 } // namespace
 

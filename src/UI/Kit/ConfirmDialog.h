@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/Kit/PushButton.h"
+#include "UI/Style/Theme.h"
 
 #include <QDialog>
 
@@ -20,7 +21,7 @@ public:
     /// Adds a widget between the text and the buttons. It has to be at least as wide as `textWidth`.
     void addContent(QWidget* content);
 
-    static constexpr int textWidth = 420;
+    static constexpr Theme::Length textWidth{420};
 
 private:
     QVBoxLayout* m_column;

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int minEmptyHeight = 120;
-constexpr int emptySymbolSize = 30;
+constexpr Theme::Length minEmptyHeight{120};
+constexpr Theme::Length emptySymbolSize{30};
 
 } // namespace
 

@@ -11,7 +11,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int formRowPadding = 7;
-constexpr int minRowHeight = 24;
+constexpr Theme::Length minRowHeight{24};
 
 } // namespace
 
@@ -55,6 +55,7 @@ void FormSection::addRow(const QString& label, QWidget* control, QWidget* illust
     auto* text = new TextLabel(TextStyle::body);
     text->setPlainText(label);
     text->setMinimumHeight(minRowHeight);
+    text->setBuddy(control);
     control->setAccessibleName(label);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);

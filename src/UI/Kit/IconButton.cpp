@@ -2,14 +2,14 @@
 
 #include "UI/Style/Symbols.h"
 
+#include <QEvent>
 #include <QStyleOption>
 
 using Theme::Role;
 
 namespace {
 
-constexpr int side = 26;
-constexpr int iconSymbolSize = 18;
+constexpr Theme::Length iconSymbolSize{18};
 constexpr int textPadding = 8;
 
 } // namespace
@@ -19,9 +19,19 @@ IconButton::IconButton(const QString& symbol, const QString& help, Role tint, QW
     , m_tint(tint) {
     setIcon(Symbols::icon(symbol));
     setIconSize({iconSymbolSize, iconSymbolSize});
+    setHelp(help);
+    Theme::fixSize(this, Theme::controlHeight, Theme::controlHeight);
+}
+
+void IconButton::setHelp(const QString& help) {
     setToolTip(help);
     setAccessibleName(help);
-    setFixedSize(side, side);
+}
+
+void IconButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange)
+        setIconSize({iconSymbolSize, iconSymbolSize});
+    QToolButton::changeEvent(event);
 }
 
 void IconButton::initStyleOption(QStyleOptionToolButton* option) const {
@@ -33,11 +43,11 @@ TextButton::TextButton(const QString& text, QWidget* parent)
     : QToolButton(parent) {
     setText(text);
     setToolButtonStyle(Qt::ToolButtonTextOnly);
-    setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
+    Theme::useFont(this, Theme::TextStyle::body, QFont::Medium);
 }
 
 QSize TextButton::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text()) + 2 * textPadding, side};
+    return {fontMetrics().horizontalAdvance(text()) + 2 * textPadding, Theme::controlHeight};
 }
 
 void TextButton::initStyleOption(QStyleOptionToolButton* option) const {

@@ -12,8 +12,11 @@ public:
     IconButton(const QString& symbol, const QString& help, Theme::Role tint = Theme::Role::secondaryText,
                QWidget* parent = nullptr);
 
+    void setHelp(const QString& help);
+
 protected:
     void initStyleOption(QStyleOptionToolButton* option) const override;
+    void changeEvent(QEvent* event) override;
 
 private:
     Theme::Role m_tint;

@@ -7,7 +7,8 @@
 
 class TextLabel;
 
-/// A short text about the outcome of an action, with a button to dismiss it. Hidden until it has a text.
+/// A short text about the outcome of an action, with a button to dismiss it. Hidden until it has a text. It
+/// stays while the pointer is over it, and screen readers announce it.
 class Notice : public QWidget {
     Q_OBJECT
 
@@ -16,12 +17,18 @@ public:
     /// dismissed.
     Notice(const QString& symbol, std::chrono::milliseconds lifetime, QWidget* parent = nullptr);
 
-    void show(const QString& text);
+    /// Shows the text, and in red after it what has failed.
+    void show(const QString& text, const QString& failure = {});
 
 protected:
+    void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void expire();
+
     TextLabel* m_text;
+    TextLabel* m_failure;
     QTimer m_timer;
+    bool m_isExpired = false; ///< while the pointer is over it
 };

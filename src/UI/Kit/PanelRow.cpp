@@ -15,7 +15,7 @@ constexpr int verticalPadding = 3;
 
 } // namespace
 
-PanelRow::PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent)
+PanelRow::PanelRow(Theme::TextStyle style, Theme::Length symbolWidth, QWidget* parent)
     : QWidget(parent)
     , m_style(style)
     , m_symbolWidth(symbolWidth) {
@@ -35,7 +35,7 @@ void PanelRow::set(const Content& content) {
 
 QSize PanelRow::sizeHint() const {
     const auto line = static_cast<int>(Painting::lineHeight(Theme::font(m_style)));
-    return {120, std::max(m_symbolWidth, line) + 2 * verticalPadding};
+    return {Theme::scaled(120), std::max<int>(m_symbolWidth, line) + 2 * verticalPadding};
 }
 
 void PanelRow::paintEvent(QPaintEvent*) {

@@ -21,7 +21,7 @@ public:
     };
 
     /// The symbol is centred in a column of `symbolWidth`.
-    PanelRow(Theme::TextStyle style, int symbolWidth, QWidget* parent = nullptr);
+    PanelRow(Theme::TextStyle style, Theme::Length symbolWidth, QWidget* parent = nullptr);
 
     void set(const Content& content);
 
@@ -32,6 +32,6 @@ protected:
 
 private:
     Theme::TextStyle m_style;
-    int m_symbolWidth;
+    Theme::Length m_symbolWidth;
     Content m_content;
 };

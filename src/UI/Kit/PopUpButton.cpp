@@ -10,8 +10,8 @@ using Theme::Role;
 PopUpButton::PopUpButton(const QString& label, QWidget* parent)
     : QComboBox(parent)
     , m_label(label.isEmpty() ? QString() : label + QStringLiteral(": ")) {
-    setFont(Theme::font(Theme::TextStyle::body));
-    setFixedHeight(Theme::controlHeight);
+    Theme::useFont(this, Theme::TextStyle::body);
+    Theme::fixHeight(this, Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccessibleName(label);
 }

@@ -12,8 +12,8 @@ PushButton::PushButton(const QString& text, Look look, QString symbol, QWidget* 
     , m_look(look)
     , m_symbol(std::move(symbol))
     , m_spinner(new Spinner(this)) {
-    setFont(Theme::font(Theme::TextStyle::body, QFont::Medium));
-    setFixedHeight(Theme::controlHeight);
+    Theme::useFont(this, Theme::TextStyle::body, QFont::Medium);
+    Theme::fixHeight(this, Theme::controlHeight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setIconSize(m_spinner->size());
     setFlat(look == Look::borderless);
@@ -33,8 +33,7 @@ void PushButton::setTint(Role tint) {
 }
 
 void PushButton::setSmall() {
-    setFont(Theme::font(Theme::TextStyle::callout, QFont::Medium));
-    setFixedHeight(Theme::smallControlHeight);
+    Theme::useFont(this, Theme::TextStyle::callout, QFont::Medium);
 }
 
 void PushButton::setBusy(bool busy) {

@@ -14,9 +14,9 @@ using Theme::Role;
 namespace {
 
 constexpr int leadLeft = 6;
-constexpr int leadRoom = 18;
-constexpr int trailRoom = 20;
-constexpr int searchSymbolSize = 14;
+constexpr Theme::Length leadRoom{18};
+constexpr Theme::Length trailRoom{20};
+constexpr Theme::Length searchSymbolSize{14};
 
 } // namespace
 

@@ -10,8 +10,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int sidebarRowHeight = 34;
+constexpr Theme::Length sidebarRowHeight{34};
 constexpr int inset = 10;
+constexpr int symbolInset = 8;
 
 QColor rowFill(QStyle::State state) {
     if (state & QStyle::State_Selected)
@@ -30,7 +31,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     if (selected && option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange)
         Painting::drawFocusRing(*painter, row, Theme::controlRadius);
 
-    QRectF line = row.adjusted(8, 0, -8, 0);
+    QRectF line = row.adjusted(symbolInset, 0, -symbolInset, 0);
     const QRectF icon(line.left(), line.top(), Theme::iconColumn, line.height());
     const QColor tint = Theme::color(selected ? Role::accent : Role::secondaryText);
     Symbols::draw(*painter, index.data(symbolRole).toString(), tint, icon, Theme::iconSize);

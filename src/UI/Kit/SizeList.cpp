@@ -17,7 +17,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int lineHeight = 26;
+constexpr Theme::Length lineHeight{26};
 constexpr int edge = 3; ///< room for the ring round the viewport
 constexpr int sizeRowPadding = 9;
 constexpr int maxDetailLines = 2;
@@ -63,7 +63,7 @@ protected:
     }
 
 private:
-    static constexpr int textOverlap = 4; ///< the line is higher than its text
+    static constexpr Theme::Length textOverlap{4}; ///< the line is higher than its text
 
     QString m_name;
     QString m_figure;

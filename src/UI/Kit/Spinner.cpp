@@ -1,7 +1,5 @@
 #include "UI/Kit/Spinner.h"
 
-#include "UI/Style/Theme.h"
-
 #include <QPainter>
 
 namespace {
@@ -15,7 +13,7 @@ constexpr double lineWidth = 2;
 
 Spinner::Spinner(QWidget* parent)
     : QWidget(parent) {
-    setFixedSize(side, side);
+    Theme::fixSize(this, side, side);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("In progress"));
 }

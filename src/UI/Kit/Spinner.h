@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/Style/Theme.h"
+
 #include <QBasicTimer>
 #include <QWidget>
 
@@ -8,7 +10,7 @@ class Spinner : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int side = 15;
+    static constexpr Theme::Length side{15};
 
     explicit Spinner(QWidget* parent = nullptr);
 

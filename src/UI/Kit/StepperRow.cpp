@@ -20,7 +20,7 @@ StepperRow::StepperRow(Look look, const Stepper::Range& range, QWidget* parent)
     : QWidget(parent)
     , m_look(std::move(look))
     , m_stepper(new Stepper(range)) {
-    setFont(Theme::font(Theme::TextStyle::body));
+    Theme::useFont(this, Theme::TextStyle::body);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusProxy(m_stepper);
     auto* row = new QHBoxLayout(this);
@@ -54,7 +54,7 @@ void StepperRow::showValue() {
 }
 
 QSize StepperRow::sizeHint() const {
-    return {240, Theme::smallControlHeight};
+    return {240, Theme::controlHeight};
 }
 
 void StepperRow::paintEvent(QPaintEvent*) {

@@ -4,10 +4,10 @@
 
 #include <QPainter>
 
-SymbolView::SymbolView(int size, int width, QWidget* parent)
+SymbolView::SymbolView(Theme::Length size, Theme::Length width, QWidget* parent)
     : QWidget(parent)
     , m_size(size) {
-    setFixedSize(width, size);
+    Theme::fixSize(this, width, size);
 }
 
 void SymbolView::set(const QString& name, Theme::Role role) {

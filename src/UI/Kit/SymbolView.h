@@ -9,7 +9,7 @@ class SymbolView : public QWidget {
     Q_OBJECT
 
 public:
-    SymbolView(int size, int width, QWidget* parent = nullptr);
+    SymbolView(Theme::Length size, Theme::Length width, QWidget* parent = nullptr);
 
     void set(const QString& name, Theme::Role role);
 
@@ -19,5 +19,5 @@ protected:
 private:
     QString m_name;
     Theme::Role m_role = Theme::Role::secondaryText;
-    int m_size;
+    Theme::Length m_size;
 };

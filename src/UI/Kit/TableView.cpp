@@ -17,8 +17,8 @@ using Theme::Role;
 
 namespace {
 
-constexpr int tableHeaderHeight = 28;
-constexpr int minSection = 40;
+constexpr Theme::Length tableHeaderHeight{28};
+constexpr Theme::Length minSection{40};
 
 } // namespace
 
@@ -37,7 +37,7 @@ TableView::TableView(const QString& name, QWidget* parent)
     useSlimScrollBar(this);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
-    header()->setFixedHeight(tableHeaderHeight);
+    Theme::fixHeight(header(), tableHeaderHeight);
     header()->setMinimumSectionSize(minSection);
     QPalette clear = palette(); // the delegate draws the background of selected rows
     clear.setColor(QPalette::Highlight, Qt::transparent);

@@ -7,7 +7,7 @@
 TextLabel::TextLabel(Theme::TextStyle style, std::optional<QFont::Weight> weight, QWidget* parent)
     : QLabel(parent) {
     setTextFormat(Qt::PlainText);
-    setFont(Theme::font(style, weight));
+    Theme::useFont(this, style, weight);
 }
 
 TextLabel* TextLabel::secondary() {

@@ -10,7 +10,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int optimizeCardPadding = 16;
-constexpr int headerSymbol = 20;
+constexpr Theme::Length headerSymbol{20};
 
 } // namespace
 

@@ -24,7 +24,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int optimizeCardGap = 18;
-constexpr int noticeHeight = 48; // as the head of the card behind it
 constexpr auto noticeLifetime = 6s;
 
 } // namespace
@@ -33,7 +32,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     : QScrollArea(parent)
     , m_model(model)
     , m_preferences(preferences)
-    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime, viewport()))
+    , m_notice(new Notice(QStringLiteral("checkmark.seal.fill"), noticeLifetime, this))
     , m_memory(new MemoryCard)
     , m_quickKills(new QuickKillsCard)
     , m_mcp(new MCPCard)
@@ -44,7 +43,6 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     for (QWidget* part : parts)
         column->addWidget(part);
     column->addStretch();
-    m_notice->raise();
     setAccessibleName(tr("Optimize"));
     connectCards();
     refreshOnScreen(this, {&m_model, &m_preferences}, [this] { refresh(); });
@@ -63,11 +61,6 @@ void OptimizeView::connectCards() {
     connect(m_auto, &AutoOptimizeCard::switched, &m_model, &AppModel::setAutoOptimizeEnabled);
 }
 
-void OptimizeView::resizeEvent(QResizeEvent* event) {
-    QScrollArea::resizeEvent(event);
-    placeNotice();
-}
-
 void OptimizeView::refresh() {
     m_quickKills->refresh(m_model.actions(), m_preferences.quickKillPresets());
     m_mcp->refresh(m_model.mcpReport());
@@ -75,16 +68,8 @@ void OptimizeView::refresh() {
     m_auto->refresh(m_model.autoOptimizeEnabled());
 }
 
-void OptimizeView::toast(const QString& message) {
-    m_notice->show(message);
-    placeNotice();
-}
-
-/// Places the notice over the page: if the cards moved, the second press of a double click would hit another
-/// button than the first.
-void OptimizeView::placeNotice() {
-    const int width = viewport()->width() - Theme::pageMargins.left() - Theme::pageMargins.right();
-    m_notice->setGeometry(Theme::pageMargins.left(), Theme::pageMargins.top(), width, noticeHeight);
+void OptimizeView::toast(const QString& message, const QString& failure) {
+    m_notice->show(message, failure);
 }
 
 void OptimizeView::nudge() {
@@ -92,7 +77,8 @@ void OptimizeView::nudge() {
         if (!self)
             return;
         self->m_memory->setNudgeFailure(nudged.reason);
-        self->toast(nudged.done ? tr("Sent memory_pressure -l warn") : tr("memory_pressure failed"));
+        self->toast(nudged.done ? tr("Sent memory_pressure -l warn") : tr("memory_pressure failed"),
+                    nudged.reason);
     });
 }
 
@@ -103,7 +89,8 @@ void OptimizeView::purge() {
             return;
         self->m_memory->setPurging(false);
         self->m_memory->setPurgeFailure(purged.reason);
-        self->toast(purged.done ? tr("Inactive memory purged") : tr("Purge cancelled or failed"));
+        self->toast(purged.done ? tr("Inactive memory purged") : tr("Purge cancelled or failed"),
+                    purged.reason);
     });
 }
 
@@ -136,11 +123,9 @@ void OptimizeView::cleanAll(const QList<CacheTarget>& targets) {
             if (!self)
                 return;
             const CleanupReport& report = self->m_model.cleanup().report();
-            QStringList sentences{CleanupTexts::outcome(asked, cleaned, report)};
-            if (!report.failures.isEmpty())
-                sentences.append(CleanupTexts::unfinished(report));
             self->m_caches->setCleaning(false);
             self->refresh();
-            self->toast(sentences.join(QStringLiteral(" • ")));
+            self->toast(CleanupTexts::outcome(asked, cleaned, report),
+                        report.failures.isEmpty() ? QString() : CleanupTexts::unfinished(report));
         });
 }

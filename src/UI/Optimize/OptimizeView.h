@@ -21,14 +21,14 @@ class OptimizeView : public QScrollArea {
 public:
     OptimizeView(AppModel& model, Preferences& preferences, QWidget* parent = nullptr);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
+    /// Returns what tells of outcomes. It stands beside the section's title, so that no card moves under the
+    /// second press of a double click. Until it is placed there it belongs to this widget.
+    Notice* notice() const { return m_notice; }
 
 private:
     void connectCards();
     void refresh();
-    void toast(const QString& message);
-    void placeNotice();
+    void toast(const QString& message, const QString& failure = {});
     void nudge();
     void purge();
     void killPreset(const QuickKillPreset& preset);

@@ -12,17 +12,17 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int presetTileHeight = 52;
+constexpr Theme::Length presetTileHeight{52};
 constexpr int tilePadding = 10;
-constexpr int tileSymbolWidth = 18;
-constexpr int tileBadgeHeight = 18;
+constexpr Theme::Length tileSymbolWidth{18};
+constexpr Theme::Length tileBadgeHeight{18};
 constexpr int tileBadgePadding = 6;
 
 } // namespace
 
 PresetTile::PresetTile(QWidget* parent)
     : QAbstractButton(parent) {
-    setFixedHeight(presetTileHeight);
+    Theme::fixHeight(this, presetTileHeight);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_preset, [this](const auto& preset) { Q_EMIT killRequested(preset); });

@@ -15,10 +15,10 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int serverRowHeight = 28;
-constexpr int serverBytesWidth = 80;
-constexpr int serverPidWidth = 86;
-constexpr int parentWidth = 170;
+constexpr Theme::Length serverRowHeight{28};
+constexpr Theme::Length serverBytesWidth{80};
+constexpr Theme::Length serverPidWidth{86};
+constexpr Theme::Length parentWidth{170};
 
 QFont monospaced() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -30,7 +30,7 @@ QFont monospaced() {
 
 ServerRow::ServerRow(QWidget* parent)
     : QWidget(parent) {
-    setFixedHeight(serverRowHeight);
+    Theme::fixHeight(this, serverRowHeight);
     auto* quit = new IconButton(QStringLiteral("stop.circle"), tr("Quit"));
     m_buttonWidth = quit->width();
     actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });

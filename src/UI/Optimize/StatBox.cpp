@@ -4,12 +4,15 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 using Theme::TextStyle;
 
 namespace {
 
 constexpr int statPadding = 10;
-constexpr int minStatWidth = 92;
+constexpr Theme::Length minStatWidth{92};
 constexpr double letterSpacing = 0.5;
 
 QFont labelFont() {
@@ -36,12 +39,16 @@ void StatBox::set(const QString& value, Theme::Role role) {
     m_value = value;
     m_role = role;
     setAccessibleName(m_label + u' ' + m_value);
+    updateGeometry();
     update();
 }
 
 QSize StatBox::sizeHint() const {
     const int heights = QFontMetrics(labelFont()).height() + QFontMetrics(valueFont()).height();
-    return {minStatWidth, heights + Theme::textGap + 2 * statPadding};
+    const double text =
+        std::max(Painting::tabularWidth(labelFont(), m_label), Painting::tabularWidth(valueFont(), m_value));
+    return {std::max<int>(minStatWidth, static_cast<int>(std::ceil(text)) + 1 + 2 * statPadding),
+            heights + Theme::textGap + 2 * statPadding};
 }
 
 void StatBox::paintEvent(QPaintEvent*) {

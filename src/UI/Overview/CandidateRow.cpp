@@ -12,10 +12,10 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int candidateRowHeight = 42;
-constexpr int boxSide = 16;
-constexpr int candidateBytesWidth = 72;
-constexpr int idleWidth = 52;
+constexpr Theme::Length candidateRowHeight{42};
+constexpr Theme::Length boxSide{16};
+constexpr Theme::Length candidateBytesWidth{72};
+constexpr Theme::Length idleWidth{52};
 constexpr double tickedOpacity = 0.12;
 
 QRectF upperHalf(const QRectF& row) {
@@ -42,7 +42,7 @@ QString givesBack(const FreeRamPreview& candidate) {
 CandidateRow::CandidateRow(QWidget* parent)
     : QAbstractButton(parent) {
     setCheckable(true);
-    setFixedHeight(candidateRowHeight);
+    Theme::fixHeight(this, candidateRowHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     actOnPressed(this, m_candidate.pid, [this](qint32 pid) { Q_EMIT ticked(pid); });

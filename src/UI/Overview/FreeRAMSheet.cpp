@@ -29,7 +29,7 @@ namespace {
 constexpr QSize sheetSize(560, 660);
 constexpr double initialMinIdle = 10; // minutes
 constexpr double initialMinRSS = 300; // MiB
-constexpr int thresholdSliderWidth = 200;
+constexpr Theme::Length thresholdSliderWidth{200};
 constexpr qsizetype preselected = 5;
 
 } // namespace
@@ -56,7 +56,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Free RAM"));
-    resize(sheetSize);
+    resize(Theme::scaled(sheetSize));
 
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
     explanation->setPlainText(
@@ -68,17 +68,17 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     m_action->setDefault(true);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::sheetMargins);
+    column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(12);
-    column->addLayout(makeHeader());
-    column->addWidget(explanation);
-    column->addLayout(makeThresholds());
-    column->addWidget(new Divider);
+    column->addLayout(beforeScrollBar(makeHeader()));
+    column->addLayout(beforeScrollBar(explanation));
+    column->addLayout(beforeScrollBar(makeThresholds()));
+    column->addLayout(beforeScrollBar(new Divider));
     column->addWidget(makeList(), 1);
-    column->addWidget(new Divider);
-    column->addLayout(makeSelectionBar());
-    column->addWidget(m_result);
-    column->addWidget(m_action, 0, Qt::AlignRight);
+    column->addLayout(beforeScrollBar(new Divider));
+    column->addLayout(beforeScrollBar(makeSelectionBar()));
+    column->addLayout(beforeScrollBar(m_result));
+    column->addLayout(beforeScrollBar(m_action, Qt::AlignRight));
 
     refresh();
     tickFirst(preselected);

@@ -18,12 +18,12 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int groupHeaderHeight = 44;
-constexpr int labelWidth = 230;
-constexpr int groupBytesWidth = 84;
-constexpr int groupCpuWidth = 84;
-constexpr int chevronWidth = 16;
-constexpr int groupChevronSize = 12;
+constexpr Theme::Length groupHeaderHeight{44};
+constexpr Theme::Length labelWidth{230};
+constexpr Theme::Length groupBytesWidth{84};
+constexpr Theme::Length groupCpuWidth{84};
+constexpr Theme::Length chevronWidth{16};
+constexpr Theme::Length groupChevronSize{12};
 constexpr int groupBarHeight = 6;
 constexpr int columnGap = 12;
 
@@ -32,7 +32,7 @@ constexpr int columnGap = 12;
 GroupHeader::GroupHeader(ProcGroup group, QWidget* parent)
     : QAbstractButton(parent) {
     m_rollup.group = group;
-    setFixedHeight(groupHeaderHeight);
+    Theme::fixHeight(this, groupHeaderHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);

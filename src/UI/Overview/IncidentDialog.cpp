@@ -18,9 +18,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int incidentWidth = 460;
-constexpr int listHeight = 260;
-constexpr int graphHeight = 56;
+constexpr Theme::Length incidentWidth{460};
+constexpr Theme::Length listHeight{260};
+constexpr Theme::Length graphHeight{56};
 
 QString clockTime(Instant at) {
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(at.time_since_epoch());
@@ -108,7 +108,7 @@ QLayout* IncidentDialog::makeFigure(const QString& name, const QList<double>& va
     head->addWidget(label, 1);
     head->addWidget(figures);
     auto* line = new Sparkline;
-    line->setFixedHeight(graphHeight);
+    Theme::fixHeight(line, graphHeight);
     line->set(values, color);
     line->setAccessibleName(QStringLiteral("%1 %2").arg(name, range));
     auto* column = new QVBoxLayout;

@@ -13,14 +13,14 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int metricTileHeight = 130;
+constexpr Theme::Length metricTileHeight{130};
 
 } // namespace
 
 MetricTile::MetricTile(QWidget* parent)
     : QWidget(parent)
     , m_sparkline(new Sparkline(this)) {
-    setMinimumHeight(metricTileHeight);
+    Theme::fixHeight(this, metricTileHeight);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding,
                                Theme::cardPadding);

@@ -15,7 +15,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int resultRowHeight = 22;
+constexpr Theme::Length resultRowHeight{22};
 constexpr int maxRowsShown = 5;
 
 struct ResultLook {
@@ -43,7 +43,7 @@ public:
         : m_look(lookOf(record.outcome))
         , m_name(Formatters::visible(record.name))
         , m_pid(QStringLiteral("(%1)").arg(record.pid)) {
-        setFixedHeight(resultRowHeight);
+        Theme::fixHeight(this, resultRowHeight);
         setAccessibleName(QStringLiteral("%1 %2 %3").arg(m_name, m_pid, m_look.text));
     }
 

@@ -16,16 +16,16 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int processRowHeight = 26;
-constexpr int processPidWidth = 60;
-constexpr int processCpuWidth = 50;
-constexpr int memoryWidth = 80;
+constexpr Theme::Length processRowHeight{26};
+constexpr Theme::Length processPidWidth{60};
+constexpr Theme::Length processCpuWidth{50};
+constexpr Theme::Length memoryWidth{80};
 
 } // namespace
 
 ProcessRow::ProcessRow(QWidget* parent)
     : QWidget(parent) {
-    setFixedHeight(processRowHeight);
+    Theme::fixHeight(this, processRowHeight);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(mirrored({0, 0, Theme::cardPadding, 0}));
     row->setSpacing(Theme::textGap);

@@ -25,7 +25,7 @@ ProcessControls::ProcessControls(QWidget* parent)
     , m_group(new PopUpButton(tr("Group")))
     , m_sort(new PopUpButton(tr("Sort")))
     , m_minRSS(
-          new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, filterSliderWidth))
+          new LabeledSlider(tr("Min RAM %1 MB"), {0, 500, 10}, ProcessQuery().minRSSMB, {filterSliderWidth}))
     , m_fold(new QCheckBox(tr("Group duplicates"))) {
     m_group->addItem(tr("All"));
     for (const ProcGroup group : allCases<ProcGroup>())

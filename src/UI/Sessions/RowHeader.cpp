@@ -12,7 +12,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int chevronSize = 12;
+constexpr Theme::Length chevronSize{12};
 
 double upperHeight() {
     return Painting::lineHeight(Theme::font(TextStyle::body));
@@ -31,7 +31,7 @@ double top(const QRectF& cell) {
 
 RowHeader::RowHeader(QWidget* parent)
     : QAbstractButton(parent) {
-    setFixedHeight(height);
+    Theme::fixHeight(this, height);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);

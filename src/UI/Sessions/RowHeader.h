@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/Style/Theme.h"
+
 #include <QAbstractButton>
 
 class QPainter;
@@ -10,10 +12,10 @@ class RowHeader : public QAbstractButton {
     Q_OBJECT
 
 public:
-    static constexpr int height = 50;
-    static constexpr int chevronColumn = 24; ///< with the gap beside it
-    static constexpr int symbolColumn = 22;  ///< with the gap beside it
-    static constexpr int memoryWidth = 92;
+    static constexpr Theme::Length height{50};
+    static constexpr Theme::Length chevronColumn{24}; ///< with the gap beside it
+    static constexpr Theme::Length symbolColumn{22};  ///< with the gap beside it
+    static constexpr Theme::Length memoryWidth{92};
 
     explicit RowHeader(QWidget* parent = nullptr);
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int searchWidth = 230;
+constexpr Theme::Length searchWidth{230};
 
 QString sortKey() {
     return QStringLiteral("ui.sessions.sort");

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int sessionListHeight = 260;
+constexpr Theme::Length sessionListHeight{260};
 constexpr SessionPart parts[] = {SessionPart::agent, SessionPart::server, SessionPart::devServer,
                                  SessionPart::browser, SessionPart::command};
 

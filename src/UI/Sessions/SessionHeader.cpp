@@ -18,8 +18,8 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int stateSymbolSize = 12;
-constexpr int cpuWidth = 46;
+constexpr Theme::Length stateSymbolSize{12};
+constexpr Theme::Length cpuWidth{46};
 constexpr QSize sparklineSize(56, 24);
 constexpr int headerFigureGap = 14;
 constexpr int barHeight = 4;

@@ -17,10 +17,10 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int treeRowHeight = 26;
-constexpr int indent = 18;
+constexpr Theme::Length treeRowHeight{26};
+constexpr Theme::Length indent{18};
 constexpr int maxIndented = 8; ///< deeper ones stand as far to the right as this depth
-constexpr int partSymbolSize = 14;
+constexpr Theme::Length partSymbolSize{14};
 constexpr int portsGap = 12;
 constexpr int treeColumnGap = 14;
 
@@ -29,7 +29,7 @@ constexpr int treeColumnGap = 14;
 SessionProcessRow::SessionProcessRow(int trailing, QWidget* parent)
     : QWidget(parent)
     , m_trailing(trailing) {
-    setFixedHeight(treeRowHeight);
+    Theme::fixHeight(this, treeRowHeight);
 }
 
 void SessionProcessRow::set(const SessionProcess& member, int depth, Instant now) {

@@ -28,7 +28,7 @@ namespace {
 
 enum Page { list, nothing, noMatch };
 
-constexpr int emptyTextWidth = 460;
+constexpr Theme::Length emptyTextWidth{460};
 
 /// The button of a row that has the focus, by the session and its place in the row. The rows are reused, so
 /// the focus has to follow its session.
@@ -117,7 +117,8 @@ SessionsView::SessionsView(AppModel& model, Preferences& preferences, QWidget* p
     connect(search, &QShortcut::activated, m_controls, &SessionControls::focusSearch);
     connect(m_controls, &SessionControls::changed, this, &SessionsView::showReport);
     connect(m_actions, &SessionActions::endingChanged, this, &SessionsView::showReport);
-    connect(m_actions, &SessionActions::failed, m_notice, &Notice::show);
+    connect(m_actions, &SessionActions::failed, m_notice,
+            [this](const QString& reason) { m_notice->show(reason); });
     connect(m_actions, &SessionActions::ended, this, &SessionsView::addResult);
     showReport();
     refreshOnScreen(this, {&m_model}, [this] { refresh(); });

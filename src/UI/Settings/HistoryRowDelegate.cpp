@@ -22,9 +22,9 @@ namespace {
 using Column = HistoryTableModel::Column;
 
 constexpr int historyPadding = 8;
-constexpr int historyRowHeight = 26;
-constexpr int okWidth = 40;
-constexpr int historySymbolSize = 14;
+constexpr Theme::Length historyRowHeight{26};
+constexpr Theme::Length okWidth{40};
+constexpr Theme::Length historySymbolSize{14};
 /// Of a detail, which may be a megabyte long. This is more than any window is wide.
 constexpr qsizetype maxPainted = 2000;
 constexpr qsizetype maxInToolTip = 4000;

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int pickerWidth = 220;
+constexpr Theme::Length pickerWidth{220};
 
 /// Writes the whole file, or leaves an older one as it was. A full disk can cut a file short without an
 /// error, so the size is checked. The log itself is never replaced.

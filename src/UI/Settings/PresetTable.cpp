@@ -20,9 +20,9 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int presetRowHeight = 32;
+constexpr Theme::Length presetRowHeight{32};
 constexpr int presetPadding = 8;
-constexpr int presetSymbolSize = 16;
+constexpr Theme::Length presetSymbolSize{16};
 
 class RowDelegate : public QStyledItemDelegate {
 public:

@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int sheetWidth = 540;
-constexpr int fieldWidth = 220;
-constexpr int editorSymbolSize = 20;
+constexpr Theme::Length sheetWidth{540};
+constexpr Theme::Length fieldWidth{220};
+constexpr Theme::Length editorSymbolSize{20};
 
 } // namespace
 

@@ -18,8 +18,9 @@
 
 namespace {
 
-constexpr QSize windowSize(640, 460);
-constexpr int tabBarHeight = 62;
+constexpr Theme::Length windowWidth{640};
+constexpr Theme::Length windowHeight{460};
+constexpr Theme::Length tabBarHeight{62};
 
 /// Names of symbols, in the order of SettingsScene::Tab.
 constexpr QStringView tabSymbols[] = {u"gear",          u"waveform", u"bell",
@@ -37,9 +38,9 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem,
     , m_row(new QHBoxLayout)
     , m_contents(new QStackedWidget) {
     setWindowTitle(tr("Tavrin Settings"));
-    setFixedSize(windowSize);
+    Theme::fixSize(this, windowWidth, windowHeight);
     auto* bar = new QWidget;
-    bar->setFixedHeight(tabBarHeight);
+    Theme::fixHeight(bar, tabBarHeight);
     bar->setLayout(m_row);
     bar->setAccessibleName(tr("Tabs"));
     m_row->setContentsMargins(0, 0, 0, 1);

@@ -11,12 +11,12 @@ using Theme::Role;
 
 namespace {
 
-constexpr int minTabWidth = 72;
+constexpr Theme::Length minTabWidth{72};
 constexpr int tabPadding = 10;
-constexpr int tabHeight = 50;
-constexpr int tabSymbolSize = 20;
-constexpr int symbolTop = 5;
-constexpr int labelHeight = 20;
+constexpr Theme::Length tabHeight{50};
+constexpr Theme::Length tabSymbolSize{20};
+constexpr Theme::Length symbolTop{5};
+constexpr Theme::Length labelHeight{20};
 
 } // namespace
 
@@ -24,7 +24,7 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
     : QAbstractButton(parent)
     , m_symbol(std::move(symbol)) {
     setText(label);
-    setFont(Theme::font(Theme::TextStyle::callout, QFont::Medium));
+    Theme::useFont(this, Theme::TextStyle::callout, QFont::Medium);
     setCheckable(true);
     setAutoExclusive(true);
     setFocusPolicy(Qt::TabFocus);
@@ -32,7 +32,7 @@ TabButton::TabButton(QString symbol, const QString& label, QWidget* parent)
 }
 
 QSize TabButton::sizeHint() const {
-    return {std::max(minTabWidth, fontMetrics().horizontalAdvance(text()) + 2 * tabPadding), tabHeight};
+    return {std::max<int>(minTabWidth, fontMetrics().horizontalAdvance(text()) + 2 * tabPadding), tabHeight};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {

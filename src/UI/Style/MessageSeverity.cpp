@@ -41,7 +41,7 @@ QColor buttonOutline(Severity severity) {
 }
 
 QColor actionLabelColor(Severity severity) {
-    return isSolid(severity) ? QColor(Qt::black) : Theme::color(role(severity));
+    return isSolid(severity) ? QColor(Qt::black) : Theme::textOnTint(role(severity));
 }
 
 } // namespace MessageSeverity

@@ -1,5 +1,6 @@
 #include "UI/Style/Style.h"
 
+#include "UI/Style/MenuDrawing.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -14,20 +15,21 @@ using Theme::Role;
 
 namespace {
 
-constexpr QSizeF switchTrack(34, 20);
+constexpr Theme::Length switchWidth{34};
+constexpr Theme::Length switchHeight{20};
 constexpr int knobInset = 2;
 constexpr int switchGap = 8;
 constexpr int fieldPadding = 6;
 constexpr int buttonPadding = 12;
-constexpr int smallButtonPadding = 10;
 constexpr int buttonGap = 6;
 constexpr int comboPadding = 10;
-constexpr int comboChevronSize = 11;
+constexpr Theme::Length comboChevronSize{11};
 constexpr int sliderTrackHeight = 4;
 constexpr int thumbInset = 3;
-constexpr int minThumbLength = 36;
+constexpr Theme::Length minThumbLength{36};
 constexpr int sectionPadding = 8;
-constexpr int sortChevronSize = 10;
+constexpr int toolTipPadding = 5;
+constexpr Theme::Length sortChevronSize{10};
 
 /// Returns whether the widget is in a window of the program, also in the panel of the tray.
 bool isInOurWindow(const QWidget* widget) {
@@ -40,6 +42,20 @@ bool isOurs(const QWidget* widget) {
     return isInOurWindow(widget) && widget->window()->windowType() != Qt::Popup;
 }
 
+/// Draws the ground of a menu, a drop-down list or a tool tip, with square corners: their windows are opaque.
+void drawPopUp(QPainter& painter, const QRect& area) {
+    painter.fillRect(area, Theme::color(Role::cardFill));
+    painter.setPen(Theme::color(Role::controlBorder));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+}
+
+/// Draws the ring round the current row of a table. The mouse shows which row that is without it.
+void drawRowFocus(QPainter& painter, const QStyleOption& row) {
+    if (row.state & QStyle::State_KeyboardFocusChange)
+        Painting::drawFocusRing(painter, row.rect, Theme::controlRadius);
+}
+
 /// Returns null unless the option is that of a vertical scroll bar which this style draws.
 const QStyleOptionSlider* slimBar(const QStyleOptionComplex* option, const QWidget* widget) {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
@@ -47,7 +63,7 @@ const QStyleOptionSlider* slimBar(const QStyleOptionComplex* option, const QWidg
 }
 
 void drawTextField(QPainter& painter, const QStyleOption& field) {
-    Painting::drawCard(painter, field.rect, Theme::controlRadius);
+    Painting::drawControl(painter, field.rect);
     if (field.state & QStyle::State_HasFocus)
         Painting::drawFocusRing(painter, field.rect, Theme::controlRadius);
 }
@@ -56,8 +72,7 @@ void drawSwitch(QPainter& painter, const QRectF& track, QStyle::State state, dou
     const double radius = track.height() / 2;
     const bool isOn = state & QStyle::State_On;
     Painting::drawCard(painter, track, radius,
-                       isOn ? Theme::tileColor(Role::green, opacity)
-                            : Theme::color(Role::gray, 0.45 * opacity));
+                       isOn ? Theme::tileColor(Role::green, opacity) : Theme::color(Role::gray, opacity));
     const double side = track.height() - 2 * knobInset;
     const double x = isOn ? track.right() - knobInset - side : track.left() + knobInset;
     Painting::drawCard(painter, QRectF(x, track.top() + knobInset, side, side), side / 2, Qt::white);
@@ -71,7 +86,7 @@ void drawCheckBox(QPainter& painter, const QStyleOptionButton& box, const QWidge
     const double opacity = box.state & QStyle::State_Enabled ? 1 : Theme::disabledOpacity;
     const bool isSpread = widget && widget->sizePolicy().expandingDirections() & Qt::Horizontal;
     QRectF line = box.rect;
-    QRectF track(line.topLeft(), switchTrack);
+    QRectF track(line.topLeft(), QSizeF(switchWidth, switchHeight));
     track.moveTop(line.top() + (line.height() - track.height()) / 2);
     if (isSpread) {
         track.moveRight(line.right());
@@ -106,11 +121,11 @@ void drawButtonGround(QPainter& painter, const QStyleOptionButton& button) {
                            button.state & QStyle::State_Sunken ? fill.darker(125) : hovered);
         if (button.state & QStyle::State_HasFocus) // the ring's colour cannot be seen on the fill
             Painting::drawCard(painter, area.adjusted(2, 2, -2, -2), Theme::controlRadius - 2,
-                               Qt::transparent, QColor(255, 255, 255, 190));
+                               Qt::transparent, Qt::white);
         return;
     }
     if (!(button.features & QStyleOptionButton::Flat))
-        Painting::drawCard(painter, area, Theme::controlRadius);
+        Painting::drawControl(painter, area);
     Painting::drawFeedback(painter, area, button.state, Theme::controlRadius, 0.7);
 }
 
@@ -148,7 +163,7 @@ void drawComboBox(QPainter& painter, const QStyleOptionComboBox& box) {
     const Painting::Mirrored mirrored(painter, box.rect, box.direction);
     const QRectF area = box.rect;
     const bool isEnabled = box.state & QStyle::State_Enabled;
-    Painting::drawCard(painter, area, Theme::controlRadius);
+    Painting::drawControl(painter, area);
     if (isEnabled && box.state & QStyle::State_MouseOver)
         Painting::drawCard(painter, area, Theme::controlRadius, Theme::color(Role::hoverFill, 0.7));
     const QRectF chevron(area.right() - comboPadding - comboChevronSize, 0, comboChevronSize, area.height());
@@ -211,8 +226,8 @@ void drawSlider(QPainter& painter, const QStyleOptionSlider& slider) {
     const QRectF knob = Style::knob(slider);
     const double share = (knob.center().x() - track.left()) / track.width();
     Painting::drawProgress(painter, track, share, Theme::color(Role::accent, isEnabled ? 1 : 0.4));
-    const double radius = Style::knobSide / 2.0;
-    Painting::drawCard(painter, knob, radius, Qt::white, Theme::color(Role::gray, 0.7));
+    const double radius = knob.height() / 2;
+    Painting::drawCard(painter, knob, radius, Qt::white, Theme::color(Role::controlBorder));
     if (slider.state & QStyle::State_HasFocus)
         Painting::drawFocusRing(painter, knob.adjusted(-2, -2, 2, 2), radius + 2);
 }
@@ -222,9 +237,10 @@ QRect scrollBarPart(const QStyleOptionSlider& slider, QStyle::SubControl part) {
     const QRect bar = slider.rect;
     const qint64 whole = qint64(slider.maximum) - slider.minimum + slider.pageStep;
     const int length =
-        whole > 0 ? qBound(minThumbLength, static_cast<int>(bar.height() * qint64(slider.pageStep) / whole),
-                           qMax(minThumbLength, bar.height()))
-                  : bar.height();
+        whole > 0
+            ? qBound<int>(minThumbLength, static_cast<int>(bar.height() * qint64(slider.pageStep) / whole),
+                          qMax<int>(minThumbLength, bar.height()))
+            : bar.height();
     const int start = QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, slider.sliderPosition,
                                                       bar.height() - length);
     switch (part) {
@@ -250,7 +266,7 @@ void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
     const QRectF thumb = scrollBarPart(bar, QStyle::SC_ScrollBarSlider);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Theme::color(Role::gray, isLit ? 0.7 : 0.4));
+    painter.setBrush(Theme::color(Role::gray, isLit ? 1 : 0.75));
     const double radius = (Theme::scrollBarRoom - 2 * thumbInset) / 2.0;
     painter.drawRoundedRect(thumb.adjusted(thumbInset, 2, -thumbInset, -2), radius, radius);
 }
@@ -272,6 +288,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const {
     if (element == PE_PanelLineEdit && isOurs(widget))
         drawTextField(*painter, *option);
+    else if (element == PE_PanelMenu || element == PE_PanelTipLabel)
+        drawPopUp(*painter, option->rect);
+    else if (element == PE_FrameMenu)
+        return; // the panel has it
+    else if (element == PE_FrameFocusRect && isInOurWindow(widget))
+        drawRowFocus(*painter, *option);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
@@ -280,10 +302,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
                         const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (element == CE_PushButton && button && isInOurWindow(widget))
         drawPushButton(*painter, *button);
     else if (element == CE_CheckBox && button && isOurs(widget))
         drawCheckBox(*painter, *button, widget);
+    else if (element == CE_MenuItem && item)
+        MenuDrawing::drawItem(*painter, *item);
     else if (element == CE_Header && section && isOurs(widget))
         drawHeaderSection(*painter, *section);
     else if (element == CE_HeaderEmptyArea && isOurs(widget))
@@ -313,22 +338,45 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
                               const QWidget* widget) const {
     const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (type == CT_PushButton && box && isInOurWindow(widget)) {
-        const int height = widget->height(); // the option has the size of the text
-        const int padding = height < Theme::controlHeight ? smallButtonPadding : buttonPadding;
-        return {buttonContents(*box).width() + 2 * padding, height};
+        return {buttonContents(*box).width() + 2 * buttonPadding, Theme::controlHeight};
     }
     if (type == CT_ComboBox && isInOurWindow(widget))
         return {contents.width() + 2 * comboPadding + buttonGap + comboChevronSize, Theme::controlHeight};
     if (type == CT_CheckBox && box && isOurs(widget)) {
         const int text =
             box->text.isEmpty() ? 0 : switchGap + box->fontMetrics.horizontalAdvance(box->text) + 2;
-        return {static_cast<int>(switchTrack.width()) + text, Theme::smallControlHeight};
+        return {switchWidth + text, Theme::controlHeight};
     }
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type == CT_MenuItem && item)
+        return MenuDrawing::itemSize(*item, contents);
     if (type == CT_LineEdit && isOurs(widget))
         return {contents.width() + 2 * fieldPadding, Theme::controlHeight};
     if (type == CT_ScrollBar && slimBar(qstyleoption_cast<const QStyleOptionComplex*>(option), widget))
         return {Theme::scrollBarRoom, 3 * minThumbLength};
     return QProxyStyle::sizeFromContents(type, option, contents, widget);
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+    case PM_MenuPanelWidth:
+        return 1;
+    case PM_MenuHMargin:
+        return 0;
+    case PM_MenuVMargin:
+        return 4;
+    case PM_ToolTipLabelFrameWidth:
+        return toolTipPadding;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* data) const {
+    if (hint == SH_ToolTipLabel_Opacity)
+        return 255;
+    return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {

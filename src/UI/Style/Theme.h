@@ -3,8 +3,11 @@
 #include <QColor>
 #include <QFont>
 #include <QMargins>
+#include <QSize>
 
 #include <optional>
+
+class QWidget;
 
 /// Every colour, text style, radius and spacing of the program. Screens use these, not numbers of their own.
 namespace Theme {
@@ -25,6 +28,7 @@ enum class Role {
     sidebarFill,
     cardFill,
     cardBorder,
+    controlBorder, ///< of what can be clicked or typed into
     separator,
     hoverFill,
     trackFill, ///< the empty part of a progress bar
@@ -32,6 +36,19 @@ enum class Role {
 };
 
 enum class TextStyle { largeTitle, title, title2, title3, headline, body, callout, caption, caption2 };
+
+/// Returns how much larger the desktop's text is than the size that lengths are given for; 1 at least.
+double scale();
+
+/// Returns a length given for the default size of text, for the text in use.
+int scaled(double pixels);
+QSize scaled(const QSize& size);
+
+/// The height of a row, the width of a column or the size of a symbol: it grows with the desktop's text.
+struct Length {
+    int pixels;                                     ///< at the default size of text
+    operator int() const { return scaled(pixels); } // NOLINT: it stands for the number
+};
 
 // Points at 1x, which are device-independent pixels here.
 inline constexpr int pagePadding = 20;
@@ -50,10 +67,10 @@ inline constexpr double tileRadius = 12;
 inline constexpr double cardRadius = 10;
 inline constexpr double controlRadius = 7;
 inline constexpr double disabledOpacity = 0.45; ///< of a control's text and fill
-inline constexpr int controlHeight = 28;
-inline constexpr int smallControlHeight = 24;
-inline constexpr int iconColumn = 24;
-inline constexpr int iconSize = 18;
+inline constexpr Length controlHeight{28};      ///< the least height of what can be clicked
+inline constexpr Length iconColumn{24};
+inline constexpr Length iconSize{18};
+inline constexpr Length maxContentWidth{1100}; ///< of a page
 
 /// Returns the role's colour in the current scheme, light or dark, at `opacity` from 0 to 1.
 QColor color(Role role, double opacity = 1);
@@ -61,12 +78,44 @@ QColor color(Role role, double opacity = 1);
 /// Returns the role's colour as the background of white text, the same in both schemes.
 QColor tileColor(Role role, double opacity = 1);
 
+/// Returns the role's colour as text on a ground of the same colour at up to 0.18.
+QColor textOnTint(Role role);
+
+/// Returns the contrast ratio of the web accessibility guidelines, 1 to 21.
+double contrast(const QColor& one, const QColor& other);
+
 /// Returns the style scaled from the desktop's own font. `weight` replaces the style's own.
 QFont font(TextStyle style, std::optional<QFont::Weight> weight = std::nullopt);
 
+/// Gives the widget the style's font, now and when the desktop's font changes.
+void useFont(QWidget* widget, TextStyle style, std::optional<QFont::Weight> weight = std::nullopt);
+
+/// Sets the application's font. The widgets that got fonts and sizes here follow.
+void applyFont(const QFont& font);
+
+/// Gives the widget a size that grows with the desktop's text.
+void fixHeight(QWidget* widget, Length height);
+void fixWidth(QWidget* widget, Length width);
+void fixSize(QWidget* widget, Length width, Length height);
+void limitWidth(QWidget* widget, Length most);
+
 bool isDark();
 
+/// Returns whether the desktop asks for no motion.
+bool reducesMotion();
+void reduceMotion(bool reduce);
+
+/// What the desktop chose.
+struct Look {
+    bool dark = false;
+    std::optional<QColor> accent = std::nullopt; ///< in place of ours; made readable where it is not
+    bool highContrast = false;
+};
+
 /// Sets the scheme's palette on the application. Every widget receives a palette change.
-void apply(bool dark);
+void apply(const Look& look);
+inline void apply(bool dark) {
+    apply(Look{.dark = dark});
+}
 
 } // namespace Theme
