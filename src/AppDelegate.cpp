@@ -22,7 +22,7 @@ AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, MessageCente
     , m_messages(messages)
     , m_desktop(std::move(desktop))
     , m_loginItem(std::move(loginItem))
-    , m_widget(m_desktop) {}
+    , m_widget(m_desktop, &m_preferences.file()) {}
 
 AppDelegate::~AppDelegate() {
     delete m_settings;

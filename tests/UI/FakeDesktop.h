@@ -59,9 +59,14 @@ public:
 class FakePanel : public FloatingPanel, public ShownContent {
 public:
     int placements = 0;
+    QPoint corner;
 
     void setContent(QWidget* widget, double) override { content.reset(widget); }
-    void placeBottomLeft(QPoint) override { ++placements; }
+    void placeBottomLeft(QPoint where) override {
+        ++placements;
+        corner = where;
+    }
+    QPoint bottomLeft() const override { return corner; }
     void orderFront() override { setShown(true); }
     void orderOut() override { setShown(false); }
     bool isVisible() const override { return shown; }

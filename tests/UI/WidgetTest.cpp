@@ -41,6 +41,22 @@ TEST_F(WidgetTest, OnePanelKeepsItsPlace) {
     EXPECT_EQ(view().width(), 240);
 }
 
+TEST_F(WidgetTest, StandsWhereItStoodUnlessThatScreenIsGone) {
+    for (const auto& [left, isThere] : {std::pair(100, true), std::pair(90000, false)}) {
+        {
+            WidgetWindow first(desktop.desktop(), &prefs.file());
+            first.show(model);
+            desktop.panels->last()->corner = {left, 300};
+            first.hide();
+            desktop.panels->clear();
+        }
+        WidgetWindow second(desktop.desktop(), &prefs.file());
+        second.show(model);
+        EXPECT_EQ(desktop.panels->last()->corner == QPoint(left, 300), isThere);
+        desktop.panels->clear();
+    }
+}
+
 TEST_F(WidgetTest, ShortBytes) {
     const std::pair<quint64, const char16_t*> cases[] = {{1073741824, u"1G"},
                                                          {1073741823, u"1024M"},

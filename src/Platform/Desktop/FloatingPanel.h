@@ -14,6 +14,8 @@ public:
     virtual void setContent(QWidget* content, double cornerRadius) = 0;
     /// Moves the bottom left corner to `corner`, in screen coordinates.
     virtual void placeBottomLeft(QPoint corner) = 0;
+    /// Returns that corner, where the user left it.
+    virtual QPoint bottomLeft() const = 0;
     virtual void orderFront() = 0;
     virtual void orderOut() = 0;
     virtual bool isVisible() const = 0;

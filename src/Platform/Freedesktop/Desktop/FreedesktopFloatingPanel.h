@@ -14,6 +14,7 @@ public:
 
     void setContent(QWidget* content, double cornerRadius) override;
     void placeBottomLeft(QPoint corner) override;
+    QPoint bottomLeft() const override { return m_place + QPoint(0, height()); }
     void orderFront() override;
     void orderOut() override;
     bool isVisible() const override { return QWidget::isVisible(); }
