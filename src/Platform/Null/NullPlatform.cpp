@@ -6,6 +6,7 @@
 #include "Platform/Identity.h"
 #include "Platform/ListeningPorts.h"
 #include "Platform/LoginItem.h"
+#include "Platform/MachineDetails.h"
 #include "Platform/MemoryKills.h"
 #include "Platform/Places.h"
 #include "Platform/Platform.h"
@@ -152,6 +153,10 @@ std::unique_ptr<Terminal> Platform::makeTerminal() {
 
 std::unique_ptr<RunningProgram> Platform::makeRunningProgram() {
     return std::make_unique<NullRunningProgram>();
+}
+
+std::shared_ptr<MachineDetails> MachineDetails::native() {
+    return std::make_shared<MachineDetails>();
 }
 
 std::unique_ptr<Appearance> Platform::makeAppearance() {
