@@ -12,6 +12,7 @@
 #include "UI/Optimize/PresetTile.h"
 #include "UI/Overview/GroupRow.h"
 #include "UI/Overview/IncidentDialog.h"
+#include "UI/Overview/OverviewView.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 
@@ -110,6 +111,20 @@ void shootOtherSections(Camera& camera, MainWindow& window, Stage& stage) {
     camera.take(window, u"processes-large"_s);
 }
 
+/// Takes the pages behind the tiles, with the figures of this machine.
+void shootPages(Camera& camera, MainWindow& window, Stage& stage) {
+    auto* overview = window.findChild<OverviewView*>();
+    for (const auto& [kind, name] : {std::pair(DetailPage::Kind::cpu, u"overview-cpu"_s),
+                                     std::pair(DetailPage::Kind::memory, u"overview-memory"_s),
+                                     std::pair(DetailPage::Kind::disk, u"overview-disk"_s),
+                                     std::pair(DetailPage::Kind::thermal, u"overview-thermal"_s)}) {
+        overview->openPage(kind);
+        stage.play(20, 24, 8.1);
+        camera.take(window, name);
+    }
+    Q_EMIT overview->findChildren<DetailPage*>().last()->left();
+}
+
 } // namespace
 
 void shootSections(Camera& camera) {
@@ -120,6 +135,7 @@ void shootSections(Camera& camera) {
     window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
     camera.take(window, u"overview-open-group"_s);
 
+    shootPages(camera, window, calm);
     shootOtherSections(camera, window, calm);
 
     Stage pressed;

@@ -176,9 +176,13 @@ MemoryLineUp AppModel::memoryLineUp() const {
 void AppModel::appendHistory(const SystemSample& sample) {
     Q_EMIT objectWillChange();
     m_state.systemHistory.append(sample);
-    const qsizetype surplus = m_state.systemHistory.size() - m_preferences.historyRetentionSamples();
+    const qsizetype surplus = m_state.systemHistory.size() - historyLimit();
     if (surplus > 0)
         m_state.systemHistory.remove(0, surplus);
+}
+
+int AppModel::historyLimit() const {
+    return m_preferences.historyRetentionSamples();
 }
 
 bool AppModel::isPaused() const {

@@ -63,6 +63,8 @@ public:
     void wantSessions();
 
     /// The ledger of true memory. Views tell it what they show.
+    /// Returns how many samples the history holds at most.
+    int historyLimit() const;
     MemoryLedger& memoryLedger() { return m_ledger; }
     ActionLog& actionLog() { return m_actionLog; }
     const ActionLog& actionLog() const { return m_actionLog; }

@@ -201,6 +201,23 @@ TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
               (QStringList{u"forceKill pid=101 fail"_s, u"forceKill pid=100 ok"_s, u"quit pid=100 ok"_s}));
 }
 
+TEST_F(OverviewViewTest, ARowStaysWhereItIsWhileItIsInUse) {
+    addProcesses(1, "claude", 300 * MiB);
+    addProcesses(1, "codex", 200 * MiB);
+    view.show();
+    tick();
+    header(ProcGroup::agents)->click();
+    const QStringList before = rows();
+    ASSERT_EQ(before.size(), 2);
+    view.findChildren<ProcessRow*>().at(1)->findChild<IconButton*>()->setFocus();
+    fakes.processes->processes[101].task->residentBytes = 900 * MiB;
+    tick();
+    EXPECT_TRUE(rows().at(1).startsWith(u"101 "_s)) << qPrintable(rows().join(u'\n'));
+    view.findChild<MetricTile*>()->setFocus();
+    tick();
+    EXPECT_TRUE(rows().at(0).startsWith(u"101 "_s)) << qPrintable(rows().join(u'\n'));
+}
+
 TEST_F(OverviewViewTest, AnAlertsQuitEndsTheProcessItNames) {
     addProcesses(1, "claude", quint64(900) << 20);
     show();

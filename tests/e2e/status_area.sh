@@ -99,11 +99,18 @@ kill "$tray_program"
 check "without a tray the pill shows the figures" shown "$pill"
 sleep 1 # the window manager moves the focus about after the panel's end
 eval "$(xdotool getwindowgeometry --shell "$(window_of_size "$pill")")"
-[ $((X + WIDTH)) -gt 1200 ] && [ "$Y" -lt 60 ] || fail "the pill stands at the top right: $X $Y"
+right=$((X + WIDTH))
+[ "$right" -gt 1000 ] && [ "$right" -lt 1140 ] && [ "$Y" -lt 60 ] || fail "the pill stands beside the buttons of a maximized window: $X $Y"
+xprop -id "$(window_of_size "$pill")" _NET_WM_STATE | grep -q SKIP_TASKBAR || fail "the pill has no entry in the task bar"
+xprop -id "$widget" _NET_WM_STATE | grep -q SKIP_TASKBAR || fail "nor has the widget"
 click $((X + WIDTH / 2)) $((Y + HEIGHT / 2))
 check "a click on the pill opens the panel" shown "$panel"
 xdotool key Escape
 check "Escape closes it there too" not shown "$panel"
+xdotool mousemove $((X + 20)) $((Y + 10)) mousedown 1 mousemove_relative -- -60 40 mousemove_relative -- -60 40 mouseup 1
+pill_moved() { [ "$(xdotool getwindowgeometry "$(window_of_size "$pill")" | awk '/Position/ { print $2 }')" = "$((X - 120)),$((Y + 80))" ]; }
+check "the pill is dragged" pill_moved
+not shown "$panel" || fail "a drag opens no panel"
 start_tray
 check "a tray that appears takes the pill's place" not shown "$pill"
 

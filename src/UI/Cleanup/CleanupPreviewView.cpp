@@ -28,7 +28,8 @@ constexpr Theme::Length branchSymbolSize{12};
 constexpr double leftOutOpacity = 0.55;
 
 QRectF tickBoxIn(const QRect& cell) {
-    return {cell.left() + 2.0, cell.top() + (cell.height() - tickSide) / 2.0, tickSide, tickSide};
+    return {cell.left() + 2.0, cell.top() + (cell.height() - tickSide) / 2.0, double(tickSide),
+            double(tickSide)};
 }
 
 class PreviewDelegate : public QStyledItemDelegate {

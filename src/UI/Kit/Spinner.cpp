@@ -19,7 +19,8 @@ Spinner::Spinner(QWidget* parent)
 }
 
 void Spinner::showEvent(QShowEvent*) {
-    m_timer.start(milliseconds, this);
+    if (!Theme::reducesMotion())
+        m_timer.start(milliseconds, this);
 }
 
 void Spinner::hideEvent(QHideEvent*) {

@@ -43,6 +43,7 @@ OptimizeView::OptimizeView(AppModel& model, Preferences& preferences, QWidget* p
     for (QWidget* part : parts)
         column->addWidget(part);
     column->addStretch();
+    setFocusPolicy(Qt::NoFocus); // no stop without a ring
     setAccessibleName(tr("Optimize"));
     connectCards();
     refreshOnScreen(this, {&m_model, &m_preferences}, [this] { refresh(); });

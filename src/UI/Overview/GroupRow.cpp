@@ -7,6 +7,7 @@
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -165,6 +166,10 @@ void GroupRow::set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded,
     if (isExpanded)
         showMembers(members);
     m_body->setVisible(isExpanded);
+}
+
+bool GroupRow::isInUse() const {
+    return m_body->underMouse() || m_body->isAncestorOf(QApplication::focusWidget());
 }
 
 void GroupRow::setNote(const QString& note) {

@@ -26,6 +26,8 @@ public:
     void set(const GroupRollup& rollup, quint64 totalRAM, bool isExpanded, const QList<ProcSample>& members);
     /// Sets a line for the tool tip and the description, or none.
     void setNote(const QString& note);
+    /// Returns whether the pointer or the focus is on the members.
+    bool isInUse() const;
 
 Q_SIGNALS:
     void toggled();

@@ -4,23 +4,32 @@
 #include "UI/Overview/Sparkline.h"
 #include "UI/Style/Painting.h"
 
-#include <QEvent>
+#include <QAccessible>
+#include <QDateTime>
+#include <QKeyEvent>
+#include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
 
 using Theme::Role;
 using Theme::TextStyle;
 
 namespace {
 
-constexpr Theme::Length metricTileHeight{130};
+constexpr Theme::Length metricTileHeight{148};
 
 } // namespace
 
 MetricTile::MetricTile(QWidget* parent)
-    : QWidget(parent)
+    : QAbstractButton(parent)
     , m_sparkline(new Sparkline(this)) {
     Theme::fixHeight(this, metricTileHeight);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::cardPadding, Theme::cardPadding, Theme::cardPadding,
                                Theme::cardPadding);
@@ -33,10 +42,72 @@ void MetricTile::set(const Metric& metric) {
         return;
     m_metric = metric;
     tintSparkline();
-    setAccessibleName(QStringLiteral("%1 %2").arg(metric.title, metric.value));
-    setAccessibleDescription(metric.sub.value_or(QString()));
     setToolTip(Formatters::toolTip(metric.toolTip));
+    if (!underMouse() && !hasFocus())
+        m_marked = -1;
+    describe();
     update();
+}
+
+/// Says the figure, or that of the marked moment.
+void MetricTile::describe() {
+    m_sparkline->mark(m_marked);
+    setAccessibleName(QStringLiteral("%1 %2").arg(m_metric.title, m_metric.value));
+    if (m_marked >= 0 && m_marked < m_metric.history.size())
+        setAccessibleDescription(markText().join(QStringLiteral(", ")));
+    else
+        setAccessibleDescription(m_metric.sub.value_or(QString()));
+}
+
+/// Returns the time and the figure of the marked moment.
+QStringList MetricTile::markText() const {
+    const auto milliseconds = std::llround(m_metric.times.value(m_marked) * 1000);
+    const QTime time = QDateTime::fromMSecsSinceEpoch(milliseconds).time();
+    return {QLocale().toString(time, QStringLiteral("HH:mm:ss")),
+            Formatters::percent(m_metric.history.value(m_marked))};
+}
+
+void MetricTile::moveMark(qsizetype index) {
+    const qsizetype last = m_metric.history.size() - 1;
+    const qsizetype wanted = index < 0 || last < 1 ? -1 : std::min(index, last);
+    if (wanted == m_marked)
+        return;
+    m_marked = wanted;
+    describe();
+    QAccessibleEvent spoken(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&spoken);
+    update();
+}
+
+void MetricTile::mouseMoveEvent(QMouseEvent* event) {
+    const double share = (event->position().x() - m_sparkline->x()) / std::max(1, m_sparkline->width());
+    moveMark(std::lround(std::clamp(share, 0.0, 1.0) * static_cast<double>(m_metric.history.size() - 1)));
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+void MetricTile::leaveEvent(QEvent* event) {
+    moveMark(-1);
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void MetricTile::focusOutEvent(QFocusEvent* event) {
+    moveMark(-1);
+    QAbstractButton::focusOutEvent(event);
+}
+
+void MetricTile::keyPressEvent(QKeyEvent* event) {
+    const qsizetype last = m_metric.history.size() - 1;
+    const auto step = std::max<qsizetype>(1, last / std::max(1, m_sparkline->width() / 2));
+    const qsizetype from = m_marked < 0 ? last : m_marked;
+    if (event->key() == Qt::Key_Left)
+        moveMark(std::max<qsizetype>(0, from - step));
+    else if (event->key() == Qt::Key_Right)
+        moveMark(from + step);
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 void MetricTile::tintSparkline() {
@@ -47,14 +118,34 @@ void MetricTile::tintSparkline() {
 void MetricTile::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange)
         tintSparkline();
-    QWidget::changeEvent(event);
+    QAbstractButton::changeEvent(event);
 }
 
 void MetricTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::mirror(painter, *this);
     Painting::drawCard(painter, rect(), Theme::tileRadius);
+    Painting::drawFeedback(painter, *this, Theme::tileRadius, 0.5);
     paintFigures(painter);
+    paintScale(painter);
+}
+
+/// Draws the range of the line and its span of time, or the time and the figure of the marked moment.
+void MetricTile::paintScale(QPainter& painter) {
+    if (m_metric.history.size() < 2)
+        return;
+    Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
+    const double height = Painting::lineHeight(painter.font());
+    const QRectF line(Theme::cardPadding, m_sparkline->y() - height - Theme::textGap,
+                      width() - 2 * Theme::cardPadding, height);
+    QStringList texts{tr("0–%1").arg(Formatters::percent(std::max(1.0, std::ranges::max(m_metric.history)))),
+                      Formatters::duration(m_metric.times.last() - m_metric.times.first())};
+    if (m_marked >= 0) {
+        texts = markText();
+        painter.setPen(Theme::color(Role::primaryText));
+    }
+    Painting::drawTabular(painter, line, Qt::AlignLeft, texts.first());
+    Painting::drawTabular(painter, line, Qt::AlignRight, texts.last());
 }
 
 void MetricTile::paintFigures(QPainter& painter) {

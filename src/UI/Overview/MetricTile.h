@@ -2,9 +2,9 @@
 
 #include "UI/Style/Theme.h"
 
+#include <QAbstractButton>
 #include <QList>
 #include <QString>
-#include <QWidget>
 
 #include <optional>
 
@@ -21,6 +21,7 @@ struct Metric {
     QList<double> history; ///< the points of its sparkline; may be empty
     QString toolTip = {};
     QList<double> pressure = {}; ///< the points of a second line, in percent; empty while there was none
+    QList<double> times = {};    ///< of the points, in seconds since the epoch
 
     bool operator==(const Metric&) const = default;
 };
@@ -35,8 +36,9 @@ Metric thermal(const SystemSample& sample);
 QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history, const MemoryLineUp& lineUp);
 } // namespace Metrics
 
-/// One tile of the dashboard: a title, a big figure, a second line and a sparkline.
-class MetricTile : public QWidget {
+/// One tile of the dashboard: a title, a big figure, a second line and a sparkline with its scale. The
+/// pointer, or the arrow keys, show one moment of the line. A click opens the page of the figure.
+class MetricTile : public QAbstractButton {
     Q_OBJECT
 
 public:
@@ -47,11 +49,20 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void paintFigures(QPainter& painter);
+    void paintScale(QPainter& painter);
+    void moveMark(qsizetype index);
+    void describe();
+    QStringList markText() const;
     void tintSparkline();
 
     Metric m_metric;
     Sparkline* m_sparkline;
+    qsizetype m_marked = -1; ///< the index of a point, or -1
 };

@@ -1,6 +1,7 @@
 #include "Core/Formatters.h"
 #include "Core/Memory/MemoryLineUp.h"
 #include "UI/Overview/MetricTile.h"
+#include "UI/Overview/SeriesLog.h"
 #include "UI/Style/Levels.h"
 
 #include <QCoreApplication>
@@ -100,7 +101,14 @@ Metric thermal(const SystemSample& sample) {
 
 QList<Metric> all(const SystemSample& sample, const QList<SystemSample>& history,
                   const MemoryLineUp& lineUp) {
-    return {cpu(sample, history), memory(sample, history, lineUp), disk(sample), thermal(sample)};
+    const QList<double> times = series(history, [](const SystemSample& s) { return secondsOf(s.timestamp); });
+    QList<Metric> metrics{cpu(sample, history), memory(sample, history, lineUp), disk(sample),
+                          thermal(sample)};
+    for (Metric& metric : metrics) {
+        if (!metric.history.isEmpty())
+            metric.times = times;
+    }
+    return metrics;
 }
 
 } // namespace Metrics

@@ -13,6 +13,10 @@
 #include "UI/Sessions/SessionTexts.h"
 
 #include <QHBoxLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <functional>
 
 using Theme::TextStyle;
 
@@ -26,16 +30,23 @@ TextLabel* heading(const QString& text) {
 
 } // namespace
 
-OverviewView::OverviewView(AppModel& model, QWidget* parent)
+OverviewView::OverviewView(AppModel& model, std::shared_ptr<MachineDetails> machine, QWidget* parent)
     : QScrollArea(parent)
     , m_model(model)
+    , m_machine(std::move(machine))
+    , m_dashboard(new QWidget)
     , m_alerts(new AlertStripView) {
-    auto* column = makeScrollingPage(this, Theme::pageMargins, Theme::pageSpacing);
+    auto* page = makeScrollingPage(this, Theme::pageMargins, 0);
+    page->addWidget(m_dashboard);
+    auto* column = new QVBoxLayout(m_dashboard);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::pageSpacing);
     column->addLayout(makeHeader());
     column->addWidget(m_alerts);
     column->addLayout(makeTiles());
     column->addLayout(makeGroups());
     column->addStretch();
+    setFocusPolicy(Qt::NoFocus); // no stop without a ring
     setAccessibleName(tr("Overview"));
 
     connect(m_alerts, &AlertStripView::actionRequested, this, &OverviewView::actOn);
@@ -67,6 +78,8 @@ QLayout* OverviewView::makeTiles() {
     for (qsizetype i = 0; i < Metrics::all({}, {}, {}).size(); ++i) {
         m_tiles.append(new MetricTile);
         row->addWidget(m_tiles.last(), 1);
+        connect(m_tiles.last(), &MetricTile::clicked, this,
+                [this, i] { openPage(static_cast<DetailPage::Kind>(i)); });
     }
     return row;
 }
@@ -87,7 +100,36 @@ QLayout* OverviewView::makeGroups() {
     return column;
 }
 
+void OverviewView::openPage(DetailPage::Kind kind) {
+    closePage();
+    DetailPage*& page = m_pages[kind];
+    if (!page) {
+        page = DetailPage::make(kind, m_model, m_machine);
+        widget()->layout()->addWidget(page);
+        connect(page, &DetailPage::left, this, [this, kind] {
+            closePage();
+            m_tiles[static_cast<qsizetype>(kind)]->setFocus(Qt::OtherFocusReason);
+        });
+    }
+    m_page = page;
+    m_dashboard->hide();
+    page->show();
+    page->focusBack();
+    verticalScrollBar()->setValue(0);
+}
+
+void OverviewView::closePage() {
+    if (!m_page)
+        return;
+    m_page->hide();
+    m_page = nullptr;
+    m_dashboard->show();
+    refresh();
+}
+
 void OverviewView::refresh() {
+    if (m_page) // it reads for itself
+        return;
     m_model.wantSessions();
     m_model.memoryLedger().wantAll();
     m_alerts->set(m_model.alerts(), [this](const QString& id) { return m_model.incident(id) != nullptr; });
@@ -113,8 +155,24 @@ void OverviewView::refreshGroups() {
         const bool expanded = m_expanded == rollup.group;
         m_groupRows[static_cast<qsizetype>(rollup.group)]->set(
             rollup, m_model.systemSample().memTotalBytes, expanded,
-            expanded ? members(rollup.group) : QList<ProcSample>());
+            expanded ? heldMembers(rollup.group) : QList<ProcSample>());
     }
+}
+
+/// Returns the members, in the order of before while one of them is in use: its button must not move away.
+QList<ProcSample> OverviewView::heldMembers(ProcGroup group) {
+    QList<ProcSample> result = members(group);
+    if (m_groupRows[static_cast<qsizetype>(group)]->isInUse()) {
+        const auto place = [this](const ProcSample& process) {
+            const qsizetype index = m_order.indexOf(process.pid);
+            return index < 0 ? m_order.size() : index;
+        };
+        std::ranges::stable_sort(result, std::ranges::less(), place);
+    }
+    m_order.clear();
+    for (const ProcSample& process : result)
+        m_order.append(process.pid);
+    return result;
 }
 
 QList<ProcSample> OverviewView::members(ProcGroup group) const {

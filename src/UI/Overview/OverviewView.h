@@ -1,10 +1,14 @@
 #pragma once
 
 #include "Core/Sampling/ProcSample.h"
+#include "Platform/MachineDetails.h"
+#include "UI/Overview/DetailPage.h"
 
+#include <QHash>
 #include <QList>
 #include <QScrollArea>
 
+#include <memory>
 #include <optional>
 
 class AlertStripView;
@@ -18,8 +22,11 @@ class OverviewView : public QScrollArea {
     Q_OBJECT
 
 public:
-    explicit OverviewView(AppModel& model, QWidget* parent = nullptr);
+    explicit OverviewView(AppModel& model, std::shared_ptr<MachineDetails> machine = MachineDetails::native(),
+                          QWidget* parent = nullptr);
 
+    /// Shows the page behind a tile in place of the dashboard.
+    void openPage(DetailPage::Kind kind);
     /// Opens the sheet that frees memory.
     void openFreeRAM();
 
@@ -36,13 +43,20 @@ private:
     void refreshTiles();
     void refreshGroups();
     void toggle(ProcGroup group);
+    void closePage();
     void actOn(const Alert& alert);
     void showDetails(const QString& alertId);
     QList<ProcSample> members(ProcGroup group) const;
+    QList<ProcSample> heldMembers(ProcGroup group);
 
     AppModel& m_model;
+    std::shared_ptr<MachineDetails> m_machine;
+    QWidget* m_dashboard;
+    DetailPage* m_page = nullptr; ///< in place of the dashboard
+    QHash<DetailPage::Kind, DetailPage*> m_pages;
     AlertStripView* m_alerts;
     QList<MetricTile*> m_tiles;   ///< in the order of Metrics::all
     QList<GroupRow*> m_groupRows; ///< in group order
     std::optional<ProcGroup> m_expanded;
+    QList<qint32> m_order; ///< of the open group's members, as they are shown
 };

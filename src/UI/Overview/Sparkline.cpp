@@ -1,35 +1,16 @@
 #include "UI/Overview/Sparkline.h"
 
+#include "UI/Kit/LinePoints.h"
+#include "UI/Style/Theme.h"
+
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
-
-namespace {
-
-/// Returns the lowest and the highest point of each column of pixels. More cannot be seen, and stroking the
-/// thousands of a long history takes tens of milliseconds.
-QPolygonF thinned(const QPolygonF& line) {
-    const auto isLower = [](QPointF a, QPointF b) { return a.y() < b.y(); };
-    QPolygonF result;
-    for (auto column = line.begin(); column != line.end();) {
-        const auto end = std::find_if(column, line.end(), [x = std::floor(column->x())](QPointF point) {
-            return std::floor(point.x()) != x;
-        });
-        const auto [lowest, highest] = std::minmax_element(column, end, isLower);
-        result.append(*std::min(lowest, highest));
-        if (lowest != highest)
-            result.append(*std::max(lowest, highest));
-        column = end;
-    }
-    return result;
-}
-
-} // namespace
 
 Sparkline::Sparkline(QWidget* parent)
     : QWidget(parent) {
     setFixedHeight(32);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void Sparkline::set(const QList<double>& values, const QColor& color) {
@@ -56,6 +37,13 @@ void Sparkline::setSecond(const QList<double>& values, const QColor& color) {
     update();
 }
 
+void Sparkline::mark(qsizetype index) {
+    if (index == m_marked)
+        return;
+    m_marked = index;
+    update();
+}
+
 void Sparkline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -63,10 +51,18 @@ void Sparkline::paintEvent(QPaintEvent*) {
     painter.translate(0, 0.75);
     drawLine(painter, m_values, m_color);
     drawLine(painter, m_secondValues, m_secondColor);
+    if (m_marked < 0 || m_marked >= m_values.size())
+        return;
+    constexpr double radius = 3;
+    const QPointF point = points(m_values, QSizeF(width(), height() - 1.5)).value(m_marked);
+    painter.fillRect(QRectF(qRound(point.x()), 0, 1, height()), Theme::color(Theme::Role::separator, 2));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_color);
+    painter.drawEllipse(point, radius, radius);
 }
 
 void Sparkline::drawLine(QPainter& painter, const QList<double>& values, QColor ink) const {
     ink.setAlphaF(0.7F);
     painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
-    painter.drawPolyline(thinned(points(values, QSizeF(width(), height() - 1.5))));
+    painter.drawPolyline(thinnedLine(points(values, QSizeF(width(), height() - 1.5))));
 }
