@@ -21,12 +21,15 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
         connect(tile, &PresetTile::killRequested, this, &QuickKillsCard::killRequested);
         const int index = m_grid->count();
         m_grid->addWidget(tile, index / tileColumns, index % tileColumns);
+        if (index > 0) // the cards below have their stops already
+            setTabOrder(m_grid->itemAt(index - 1)->widget(), tile);
         return tile;
     }) {
     m_grid->setSpacing(tileGap);
     for (int column = 0; column < tileColumns; ++column)
         m_grid->setColumnStretch(column, 1);
     content()->addLayout(m_grid);
+    m_tiles.reserve(1);
 }
 
 void QuickKillsCard::refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets) {

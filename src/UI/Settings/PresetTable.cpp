@@ -65,7 +65,7 @@ PresetTable::PresetTable(QWidget* parent)
     setItemDelegate(new RowDelegate(this));
     for (int column = 0; column < PresetTableModel::columns; ++column) {
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
-        header()->resizeSection(column, PresetTableModel::column(column).width);
+        header()->resizeSection(column, Theme::scaled(PresetTableModel::column(column).width));
     }
     header()->setSectionResizeMode(PresetTableModel::name, QHeaderView::Stretch); // takes the remaining width
 }

@@ -281,7 +281,7 @@ QRectF Style::knob(const QStyleOptionSlider& slider) {
     const double share =
         double(slider.sliderPosition - slider.minimum) / std::max(1, slider.maximum - slider.minimum);
     return {area.left() + share * (area.width() - knobSide), area.top() + (area.height() - knobSide) / 2,
-            knobSide, knobSide};
+            double(knobSide), double(knobSide)};
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -48,7 +48,9 @@ void StatusPill::setMenu(QMenu* menu) {
 
 void StatusPill::showEvent(QShowEvent* event) {
     X11Window::setOnAllDesktops(this);
-    X11Window::keepOffTaskbar(this);
+    // Once it is mapped: the window manager takes no requests for other windows.
+    QMetaObject::invokeMethod(
+        this, [this] { X11Window::keepOffTaskbar(this); }, Qt::QueuedConnection);
     fit();
     QWidget::showEvent(event);
 }
