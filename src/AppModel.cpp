@@ -39,6 +39,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_preferences(preferences)
     , m_sampler(m_platform, [this](const ProcSample& process) { return m_grouper.groupOf(process); })
     , m_ledger(m_platform.processMemory, m_platform.clock)
+    , m_facts(m_platform)
     , m_rules(*m_platform.identity, [this](const ProcSample& process) { return projectOf(process); })
     , m_servers(m_platform.processes, m_platform.clock)
     , m_sessions(m_platform)
@@ -112,6 +113,10 @@ void AppModel::tickEarly() {
         return;
     m_timer.start(); // the next tick is a whole interval away
     tick();
+}
+
+ProtectedProcesses AppModel::protectedProcesses() const {
+    return {m_state.processes, m_platform.identity->processId()};
 }
 
 void AppModel::publishAlerts() {

@@ -5,12 +5,14 @@
 #include "Core/Cleanup/CacheCleanup.h"
 #include "Core/Cleanup/ProjectLeftovers.h"
 #include "Core/Grouping/ProcessGrouper.h"
+#include "Core/Inspection/ProcessFacts.h"
 #include "Core/Mcp/MCPConfiguration.h"
 #include "Core/Mcp/ServerWatch.h"
 #include "Core/Memory/MemoryLedger.h"
 #include "Core/Memory/MemoryLineUp.h"
 #include "Core/Observable.h"
 #include "Core/Relief/AutoOptimizer.h"
+#include "Core/Relief/ProtectedProcesses.h"
 #include "Core/Sampling/Sampler.h"
 #include "Core/Sessions/SessionFinder.h"
 #include "Model/MemoryWatch.h"
@@ -45,6 +47,8 @@ public:
     void setIdle(const ProcessIdentity& process, double seconds) { m_sampler.setIdle(process, seconds); }
     /// Returns the period of the sampling timer in seconds, -1 while it is stopped.
     double timerInterval() const;
+    /// Ticks now, unless the timer is stopped or the last tick was less than half a second ago.
+    void tickEarly();
 
     const SystemSample& systemSample() const { return m_state.systemSample; }
     const QList<SystemSample>& systemHistory() const { return m_state.systemHistory; }
@@ -66,6 +70,10 @@ public:
     /// Returns how many samples the history holds at most.
     int historyLimit() const;
     MemoryLedger& memoryLedger() { return m_ledger; }
+    /// What is read of processes only while a view shows it.
+    ProcessFacts& facts() { return m_facts; }
+    /// Finds the processes of the last full tick that no single press may end.
+    ProtectedProcesses protectedProcesses() const;
     ActionLog& actionLog() { return m_actionLog; }
     const ActionLog& actionLog() const { return m_actionLog; }
     CacheCleanup& cleanup() { return m_cleanup; }
@@ -88,7 +96,6 @@ private:
     void followSessions(const QList<MCPInspector::LiveServer>& servers);
     void publishSessions(SessionReport report);
     void publishAlerts();
-    void tickEarly();
     QString projectOf(const ProcSample& process) const;
     void bindTimer(double intervalSeconds);
     void followPollInterval();
@@ -102,6 +109,7 @@ private:
     ProcessGrouper m_grouper;
     Sampler m_sampler;
     MemoryLedger m_ledger;
+    ProcessFacts m_facts;
     RulesEngine m_rules;
     MCPConfiguration m_mcpConfiguration;
     ServerWatch m_servers;

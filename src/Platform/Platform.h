@@ -14,6 +14,7 @@ class MemoryKills;
 class Places;
 class PowerMode;
 class Pressure;
+class ProcessDetails;
 class ProcessMemory;
 class ProcessTable;
 class ProgramService;
@@ -28,6 +29,7 @@ struct Platform {
     std::shared_ptr<HostStatistics> host;
     std::shared_ptr<ProcessTable> processes;
     std::shared_ptr<ProcessMemory> processMemory;
+    std::shared_ptr<ProcessDetails> processDetails;
     std::shared_ptr<ListeningPorts> listeningPorts;
     std::shared_ptr<Pressure> pressure;
     std::shared_ptr<MemoryKills> memoryKills;

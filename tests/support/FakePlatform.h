@@ -11,6 +11,7 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/Pressure.h"
+#include "Platform/ProcessDetails.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "support/FakePlaces.h"
@@ -21,6 +22,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <atomic>
 
 // Scripted answers of an operating system: tests set the fields and read the requests.
 
@@ -147,6 +149,41 @@ private:
     }
 };
 
+/// Called on threads: set the answers while nothing is read.
+class FakeProcessDetails : public ProcessDetails {
+public:
+    QHash<qint32, DiskCounters> disks;
+    QHash<qint32, QByteArrayList> commandLines;
+    QHash<qint32, QByteArray> folders;
+    QHash<qint32, QByteArray> groups;
+    QHash<qint32, OpenFiles> files;
+    QHash<qint32, QByteArrayList> environments;
+    QHash<quint32, QString> users;
+    std::atomic<int> environmentReadings = 0;
+    std::atomic<int> diskReadings = 0;
+
+    std::optional<DiskCounters> disk(qint32 pid) override {
+        ++diskReadings;
+        return answer(disks, pid);
+    }
+    QByteArrayList commandLine(qint32 pid) override { return commandLines.value(pid); }
+    QByteArray workingDirectory(qint32 pid) override { return folders.value(pid); }
+    QByteArray controlGroup(qint32 pid) override { return groups.value(pid); }
+    std::optional<OpenFiles> openFiles(qint32 pid, int) override { return answer(files, pid); }
+    std::optional<QByteArrayList> environment(qint32 pid) override {
+        ++environmentReadings;
+        return answer(environments, pid);
+    }
+    QString userName(quint32 uid) override { return users.value(uid); }
+
+private:
+    template <typename Value>
+    static std::optional<Value> answer(const QHash<qint32, Value>& known, qint32 pid) {
+        const auto found = known.constFind(pid);
+        return found == known.constEnd() ? std::nullopt : std::optional(*found);
+    }
+};
+
 class FakeListeningPorts : public ListeningPorts {
 public:
     QList<ListeningSocket> listening;
@@ -239,6 +276,7 @@ struct FakePlatform {
     std::shared_ptr<FakeHostStatistics> host = std::make_shared<FakeHostStatistics>();
     std::shared_ptr<FakeProcessTable> processes = std::make_shared<FakeProcessTable>();
     std::shared_ptr<FakeProcessMemory> processMemory = std::make_shared<FakeProcessMemory>();
+    std::shared_ptr<FakeProcessDetails> processDetails = std::make_shared<FakeProcessDetails>();
     std::shared_ptr<FakeListeningPorts> listeningPorts = std::make_shared<FakeListeningPorts>();
     std::shared_ptr<FakePressure> pressure = std::make_shared<FakePressure>();
     std::shared_ptr<FakeMemoryKills> memoryKills = std::make_shared<FakeMemoryKills>();
@@ -256,6 +294,7 @@ struct FakePlatform {
         return {.host = host,
                 .processes = processes,
                 .processMemory = processMemory,
+                .processDetails = processDetails,
                 .listeningPorts = listeningPorts,
                 .pressure = pressure,
                 .memoryKills = memoryKills,

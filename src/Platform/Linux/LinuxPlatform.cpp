@@ -11,6 +11,7 @@
 #include "Platform/Linux/LinuxMemoryKills.h"
 #include "Platform/Linux/LinuxPowerMode.h"
 #include "Platform/Linux/LinuxPressure.h"
+#include "Platform/Linux/LinuxProcessDetails.h"
 #include "Platform/Linux/LinuxProcessMemory.h"
 #include "Platform/Linux/LinuxProcessTable.h"
 #include "Platform/Linux/LinuxRelief.h"
@@ -33,6 +34,7 @@ Platform Platform::native() {
     return {.host = std::make_shared<LinuxHostStatistics>(),
             .processes = std::make_shared<LinuxProcessTable>(),
             .processMemory = std::make_shared<LinuxProcessMemory>(),
+            .processDetails = std::make_shared<LinuxProcessDetails>(),
             .listeningPorts = std::make_shared<LinuxListeningPorts>(),
             .pressure = std::make_shared<LinuxPressure>(),
             .memoryKills = std::make_shared<LinuxMemoryKills>(tools),

@@ -12,6 +12,7 @@
 #include "Platform/Platform.h"
 #include "Platform/PowerMode.h"
 #include "Platform/Pressure.h"
+#include "Platform/ProcessDetails.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/ProcessTable.h"
 #include "Platform/ProgramService.h"
@@ -133,6 +134,7 @@ Platform Platform::native() {
     return {.host = std::make_shared<HostStatistics>(),
             .processes = std::make_shared<NullProcessTable>(),
             .processMemory = std::make_shared<NullProcessMemory>(),
+            .processDetails = std::make_shared<ProcessDetails>(),
             .listeningPorts = std::make_shared<NullListeningPorts>(),
             .pressure = std::make_shared<Pressure>(),
             .memoryKills = std::make_shared<MemoryKills>(),
