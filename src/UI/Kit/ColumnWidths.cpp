@@ -50,7 +50,7 @@ void ColumnWidths::restore(const QString& key, const QList<Column>& columns) {
 
 void ColumnWidths::store() {
     for (int i = 0; i < m_columns.size(); ++i) {
-        if (m_columns[i].defaultWidth > 0)
+        if (m_columns[i].defaultWidth > 0 && !m_header.isSectionHidden(i))
             m_stored.insert(m_columns[i].id, m_header.sectionSize(i));
     }
     QStringList widths;

@@ -51,7 +51,7 @@ LabeledSlider::LabeledSlider(QString text, Range range, double value, Theme::Len
     m_slider->setRange(range.from, range.to);
     m_slider->setSingleStep(range.step);
     m_slider->setPageStep(range.step * std::max(1, (range.to - range.from) / range.step / 10));
-    m_slider->setValue(static_cast<int>(std::lround(value)));
+    setValue(value);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::textGap);
@@ -71,6 +71,10 @@ LabeledSlider::LabeledSlider(QString text, Range range, double value, Theme::Len
 
 double LabeledSlider::value() const {
     return m_slider->value();
+}
+
+void LabeledSlider::setValue(double value) {
+    m_slider->setValue(static_cast<int>(std::lround(value)));
 }
 
 void LabeledSlider::showValue() {

@@ -38,6 +38,7 @@ public:
     LabeledSlider(QString text, Range range, double value, Theme::Length width, QWidget* parent = nullptr);
 
     double value() const;
+    void setValue(double value);
 
 Q_SIGNALS:
     void valueChanged(double value);

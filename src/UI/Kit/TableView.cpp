@@ -52,8 +52,11 @@ void TableView::paintGround(QPainter& painter, const QStyleOptionViewItem& optio
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
+    const bool opensMenu = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
     if (event->matches(QKeySequence::Copy))
         copySelection();
+    else if (opensMenu && currentIndex().isValid())
+        openMenu(currentIndex(), viewport()->mapToGlobal(visualRect(currentIndex()).center()));
     else
         QTreeView::keyPressEvent(event);
 }
@@ -61,14 +64,17 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 void TableView::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
-    if (!index.isValid())
-        return;
+    if (index.isValid())
+        openMenu(index, byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}
+
+void TableView::openMenu(const QModelIndex& index, const QPoint& at) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, index);
     menu->addSeparator();
     menu->addAction(tr("Copy"), this, &TableView::copySelection);
-    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+    menu->popup(at);
 }
 
 void TableView::fillMenu(QMenu&, const QModelIndex&) {}

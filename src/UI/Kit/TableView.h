@@ -24,5 +24,6 @@ protected:
     virtual void fillMenu(QMenu& menu, const QModelIndex& index);
 
 private:
+    void openMenu(const QModelIndex& index, const QPoint& at);
     void copySelection() const;
 };
