@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Core/Sampling/ProcSample.h"
+
+#include <QList>
+
+class AppModel;
+struct ProcessInspection;
+
+/// What the inspector says of a process.
+namespace InspectorTexts {
+
+/// Returns what it is in words: "MCP server context7 for claude in ~/src/app".
+QString whatItIs(const AppModel& model, const ProcSample& process, const ProcessInspection* seen);
+/// Returns the title of the session that it belongs to, empty for none.
+QString sessionOf(const AppModel& model, const ProcSample& process);
+/// Returns its parent, the parent of that and so on, as far as they are listed.
+QList<ProcSample> parentsOf(const AppModel& model, const ProcSample& process);
+/// Returns "Today 09:41, 3.2h ago".
+QString started(const ProcSample& process, Instant now);
+/// Returns ":3000, :5173".
+QString ports(const QList<quint16>& ports);
+
+} // namespace InspectorTexts
