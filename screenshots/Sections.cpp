@@ -19,6 +19,7 @@
 #include <QCoroTask>
 
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTreeView>
 
@@ -98,6 +99,15 @@ void shootOtherSections(Camera& camera, MainWindow& window, Stage& stage) {
     processes->findChild<QCheckBox*>()->click();
     camera.take(window, u"processes-grouped"_s);
     processes->findChild<QCheckBox*>()->click();
+    processes->findChildren<QCheckBox*>().at(1)->click();
+    camera.take(window, u"processes-tree"_s);
+    processes->findChildren<QCheckBox*>().at(1)->click();
+    auto* search = processes->findChild<QLineEdit*>();
+    search->setText(u"co de"_s);
+    camera.take(window, u"processes-search"_s);
+    search->setText(u"zsh nothing"_s);
+    camera.take(window, u"processes-none"_s);
+    search->clear();
     root->select(RootView::Tab::optimize);
     stage.play(1, 24, 8.1);
     camera.take(window, u"optimize"_s);

@@ -13,6 +13,7 @@
 #include "UI/ModelFixture.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Processes/ProcessMenu.h"
+#include "UI/Processes/ProcessTableModel.h"
 #include "UI/RootView.h"
 #include "UI/SampleSessions.h"
 #include "UI/Sessions/SessionDialogs.h"
@@ -224,7 +225,8 @@ TEST_F(TranslationsTest, TheMainWindowAndItsDialogs) {
     SessionDialogs::askEnd(&window, &window, {.ending = ending, .processes = session.processes}, [] {});
     SessionDialogs::askPause(&window, &window, session, [] {});
     QMenu menu(&window);
-    ProcessMenu(model).fill(menu, {.first = model.processes().first(), .sameName = 2}, false);
+    const ProcessTableModel rows;
+    ProcessMenu(model).fill(menu, rows, {.first = model.processes().first(), .sameName = 2}, {});
     settle();
     expectTranslated(window);
 }

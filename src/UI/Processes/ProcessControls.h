@@ -18,16 +18,22 @@ public:
     explicit ProcessControls(QWidget* parent = nullptr);
 
     ProcessQuery query() const;
-    bool groupsDuplicates() const;
-    void setSort(const QString& column);
+    /// Sorts by a column, the other way round when it is sorted by already.
+    void sortBy(const QString& column);
     void focusSearch();
+    void clearSearch();
+    void clearGroup();
+    void clearMinRAM();
 
 Q_SIGNALS:
     void changed();
     /// Emitted before the menu of the columns is shown, so that it can be filled.
     void columnsMenuOpens(QMenu& menu);
+    void detailsToggled();
 
 private:
+    void chooseSort(const QString& column);
+    void setListing(ProcessListing listing);
     QWidget* makeColumnsButton();
 
     SearchField* m_search;
@@ -35,4 +41,8 @@ private:
     PopUpButton* m_sort;
     LabeledSlider* m_minRSS;
     QCheckBox* m_fold;
+    QCheckBox* m_tree;
+    QString m_sortBy = ProcessQuery().sortBy;
+    bool m_isTurned = false;
+    bool m_isPicking = false; ///< the picker follows a head
 };

@@ -24,17 +24,35 @@ ProcessMenu::ProcessMenu(AppModel& model, QObject* parent)
     : QObject(parent)
     , m_model(model) {}
 
-void ProcessMenu::fill(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
-    addButtons(menu, row, isGrouped);
+void ProcessMenu::fill(QMenu& menu, const ProcessTableModel& rows, const ProcessTableRow& row,
+                       const QList<ProcessTableRow>& selected) {
+    if (selected.size() > 1)
+        addEnds(menu, selected);
+    else if (rows.protectionOf(row))
+        addEnds(menu, {row});
+    else
+        addButtons(menu, rows, row);
+    menu.addSeparator();
+    menu.addAction(tr("Details"), this, &ProcessMenu::detailsRequested);
     addApplication(menu, row);
     addGroups(menu, row);
 }
 
-void ProcessMenu::addButtons(QMenu& menu, const ProcessTableRow& row, bool isGrouped) {
-    for (const RowAction action : ProcessRowDelegate::actionsOf(row, isGrouped)) {
-        menu.addAction(entryText(ProcessRowDelegate::helpOf(action, row, isGrouped)), this,
+void ProcessMenu::addButtons(QMenu& menu, const ProcessTableModel& rows, const ProcessTableRow& row) {
+    for (const RowAction action : rows.buttonsOf(row)) {
+        menu.addAction(entryText(rows.helpOf(action, row)), this,
                        [this, action, row] { Q_EMIT triggered(action, row); });
     }
+}
+
+/// Adds the ends that are asked about.
+void ProcessMenu::addEnds(QMenu& menu, const QList<ProcessTableRow>& rows) {
+    const bool isOne = rows.size() == 1;
+    const int count = static_cast<int>(rows.size());
+    menu.addAction(isOne ? tr("Quit…") : tr("Quit %n row(s)…", nullptr, count), this,
+                   [this, rows] { Q_EMIT endRequested(rows, false); });
+    menu.addAction(isOne ? tr("Force kill…") : tr("Force kill %n row(s)…", nullptr, count), this,
+                   [this, rows] { Q_EMIT endRequested(rows, true); });
 }
 
 void ProcessMenu::addApplication(QMenu& menu, const ProcessTableRow& row) {

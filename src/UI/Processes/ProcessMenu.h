@@ -1,29 +1,34 @@
 #pragma once
 
-#include "UI/Processes/ProcessRowDelegate.h"
+#include "UI/Processes/ProcessTableModel.h"
 
 class AppModel;
 struct NukePreview;
 class QMenu;
 
-/// The menu of a row of the Processes section, flat or grouped: the actions of its buttons, quitting its
-/// application, and the group of its programs.
+/// The menu of a row of the Processes section: the actions of its buttons, the end of all selected rows,
+/// details, quitting its application, and the group of its programs.
 class ProcessMenu : public QObject {
     Q_OBJECT
 
 public:
     explicit ProcessMenu(AppModel& model, QObject* parent = nullptr);
 
-    /// Adds the entries. They mean this row, wherever it moves while the menu is open.
-    void fill(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
+    /// Adds the entries. They mean these rows, wherever they move while the menu is open. `selected` has the
+    /// row.
+    void fill(QMenu& menu, const ProcessTableModel& rows, const ProcessTableRow& row,
+              const QList<ProcessTableRow>& selected);
 
 Q_SIGNALS:
     void triggered(RowAction action, const ProcessTableRow& row);
+    void endRequested(const QList<ProcessTableRow>& rows, bool force);
+    void detailsRequested();
     /// Emitted when the user wants to quit the application that owns all processes of the preview.
     void quitRequested(const NukePreview& preview);
 
 private:
-    void addButtons(QMenu& menu, const ProcessTableRow& row, bool isGrouped);
+    void addButtons(QMenu& menu, const ProcessTableModel& rows, const ProcessTableRow& row);
+    void addEnds(QMenu& menu, const QList<ProcessTableRow>& rows);
     void addApplication(QMenu& menu, const ProcessTableRow& row);
     void addGroups(QMenu& menu, const ProcessTableRow& row);
 

@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/TableView.h"
+#include "UI/Processes/ProcessNamePainter.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -18,11 +19,10 @@ namespace {
 
 using Kind = ProcessColumn::Kind;
 
-constexpr int cellPadding = 8;
+constexpr int cellPadding = ProcessNamePainter::cellPadding;
 constexpr int buttonSide = ProcessColumn::buttonSide;
 constexpr int buttonSymbol = 17;
-constexpr int rowBadgeHeight = 14;
-constexpr int rowBadgePadding = 5;
+constexpr int lockSymbol = 13;
 
 const ProcessTableModel& modelOf(const QModelIndex& index) {
     return *static_cast<const ProcessTableModel*>(index.model());
@@ -44,12 +44,24 @@ Role tintOf(RowAction action, const ProcessTableRow& row) {
     return action == RowAction::sweep && row.sameName > 1 ? Role::orange : Role::secondaryText;
 }
 
+/// Returns whether the pointer, the selection or the keyboard is on the row.
+bool isMeant(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    return (option.state & (QStyle::State_MouseOver | QStyle::State_Selected | QStyle::State_HasFocus)) ||
+           (view && view->hasFocus() && view->currentIndex().row() == index.row());
+}
+
 void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
     const ProcessTableModel& model = modelOf(index);
     const ProcessTableRow& row = model.row(index.row());
+    if (!row.isGone && model.protectionOf(row)) {
+        Symbols::draw(painter, QStringLiteral("lock.fill"), Theme::color(Role::secondaryText),
+                      buttonRect(option.rect, 0), lockSymbol);
+        return;
+    }
     const QPoint pointer = option.widget ? option.widget->mapFromGlobal(QCursor::pos()) : QPoint(-1, -1);
     int position = 0;
-    for (const RowAction action : ProcessRowDelegate::actionsOf(row, model.isGrouped())) {
+    for (const RowAction action : model.buttonsOf(row)) {
         const QRect button = buttonRect(option.rect, position++);
         if ((option.state & QStyle::State_MouseOver) && button.contains(pointer))
             Painting::drawCard(painter, button, Theme::controlRadius, Theme::color(Role::hoverFill),
@@ -58,75 +70,56 @@ void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const Q
     }
 }
 
-/// Draws "×12" behind the name. Returns the part of `area` before it.
-QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, qsizetype count) {
-    const QString text = QStringLiteral("×%1").arg(count);
-    const QFont font = Theme::font(TextStyle::caption2, QFont::Bold);
-    const double width = Painting::tabularWidth(font, text) + 2 * rowBadgePadding;
-    const double nameWidth = QFontMetricsF(painter.font()).horizontalAdvance(name) + 1;
-    const double left = std::min(area.left() + nameWidth + cellPadding, area.right() - width);
-    const QRectF badge(left, area.center().y() - rowBadgeHeight / 2.0, width, rowBadgeHeight);
-    painter.save();
-    Painting::drawBadge(painter, badge, Role::orange, font, text);
-    painter.restore();
-    area.setRight(left - cellPadding / 2.0);
-    return area;
-}
-
-void paintName(QPainter& painter, QRectF area, const ProcessTableModel& model, const ProcessTableRow& row,
-               const QString& text) {
-    if (model.isGrouped()) {
-        const QRectF icon(area.left(), area.top(), Theme::iconSize, area.height());
-        Symbols::draw(painter, groupSymbol(row.first.group), Theme::color(Role::secondaryText), icon, 15);
-        area.setLeft(icon.right() + cellPadding);
-        if (row.processes.size() > 1)
-            area = paintBadge(painter, area, text, row.processes.size());
-    }
-    Painting::drawElided(painter, area, Qt::ElideMiddle, text);
-}
-
 } // namespace
-
-QList<RowAction> ProcessRowDelegate::actionsOf(const ProcessTableRow& row, bool isGrouped) {
-    if (isGrouped)
-        return {RowAction::quit, RowAction::sweep};
-    if (row.sameName > 1)
-        return {RowAction::quit, RowAction::forceKill, RowAction::sweep};
-    return {RowAction::quit, RowAction::forceKill};
-}
-
-QString ProcessRowDelegate::helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped) {
-    if (action == RowAction::forceKill)
-        return tr("Force kill one");
-    if (action == RowAction::quit)
-        return isGrouped ? tr("Quit all %1").arg(row.processes.size()) : tr("Quit one");
-    if (isGrouped)
-        return tr("Nuke all %1 (with confirm)").arg(row.processes.size());
-    return tr("Nuke all %1 “%2” processes").arg(row.sameName).arg(Formatters::visible(row.first.name));
-}
 
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
     TableView::paintGround(*painter, option);
     const ProcessTableModel& model = modelOf(index);
     const ProcessColumn& column = model.columnOf(index);
-    if (column.kind == Kind::actions) {
-        paintButtons(*painter, option, index);
-        return;
-    }
-    const QString text = index.data(Qt::DisplayRole).toString();
+    const ProcessTableRow& row = model.row(index.row());
+    const double opacity = painter->opacity();
+    if (row.isGone || row.isLeaving)
+        painter->setOpacity(opacity * Theme::disabledOpacity);
     const QRectF area = QRectF(option.rect).adjusted(cellPadding, 0, -cellPadding, 0);
     Painting::setTextStyle(*painter, TextStyle::callout, column.role);
-    if (column.kind == Kind::name)
-        paintName(*painter, area, model, model.row(index.row()), text);
-    else if (column.isFigure())
+    if (column.kind == Kind::actions) {
+        if (isMeant(option, index))
+            paintButtons(*painter, option, index);
+    } else if (column.kind == Kind::name) {
+        ProcessNamePainter::paint(*painter, area, model, row);
+    } else if (const QString text = index.data(Qt::DisplayRole).toString(); column.kind == Kind::command) {
+        ProcessNamePainter::paintMarked(*painter, area, Qt::ElideRight, text, model.words());
+    } else if (column.isFigure()) {
         Painting::drawTabular(*painter, area, Qt::AlignRight, text);
-    else
+    } else {
         Painting::drawElided(*painter, area, Qt::ElideRight, text);
+    }
+    painter->setOpacity(opacity);
 }
 
 QSize ProcessRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
     return {40, rowHeight};
+}
+
+std::optional<ProcessRowDelegate::Pressed> ProcessRowDelegate::hit(const QPoint& position, const QRect& cell,
+                                                                   const QModelIndex& index) {
+    const ProcessTableModel& model = modelOf(index);
+    const ProcessTableRow& row = model.row(index.row());
+    const Kind kind = model.columnOf(index).kind;
+    if (kind == Kind::name && row.branch != ProcessTableRow::Branch::none) {
+        const QRect sign = ProcessNamePainter::signRect(cell, row);
+        return sign.contains(position) ? std::optional(Pressed{{}, row, sign}) : std::nullopt;
+    }
+    if (kind != Kind::actions)
+        return std::nullopt;
+    int place = 0;
+    for (const RowAction action : model.buttonsOf(row)) {
+        const QRect button = buttonRect(cell, place++);
+        if (button.contains(position))
+            return Pressed{action, row, button};
+    }
+    return std::nullopt;
 }
 
 bool ProcessRowDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const QStyleOptionViewItem& option,
@@ -138,24 +131,18 @@ bool ProcessRowDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const Q
     const auto* mouse = static_cast<QMouseEvent*>(event);
     if (mouse->button() != Qt::LeftButton)
         return false;
-    const ProcessTableModel& model = modelOf(index);
-    m_pressed.reset();
-    if (model.columnOf(index).kind != Kind::actions)
-        return false;
-    const ProcessTableRow& row = model.row(index.row());
-    int position = 0;
-    for (const RowAction action : actionsOf(row, model.isGrouped())) {
-        const QRect button = buttonRect(option.rect, position++);
-        if (button.contains(mouse->pos()))
-            m_pressed = Pressed{action, row, button};
-    }
+    m_pressed = hit(mouse->pos(), option.rect, index);
     return m_pressed.has_value();
 }
 
 void ProcessRowDelegate::release(const QPoint& position) {
     const auto pressed = std::exchange(m_pressed, std::nullopt);
-    if (pressed && pressed->button.contains(position))
-        Q_EMIT triggered(pressed->action, pressed->row);
+    if (!pressed || !pressed->place.contains(position))
+        return;
+    if (pressed->action)
+        Q_EMIT triggered(*pressed->action, pressed->row);
+    else
+        Q_EMIT foldToggled(pressed->row);
 }
 
 bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
@@ -165,14 +152,11 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const ProcessTableModel& model = modelOf(index);
     const ProcessTableRow& row = model.row(index.row());
     const ProcessColumn& column = model.columnOf(index);
-    QString text = column.toolTip ? column.toolTip(row) : QString();
-    int position = 0;
-    if (column.kind == Kind::actions) {
-        for (const RowAction action : actionsOf(row, model.isGrouped())) {
-            if (buttonRect(option.rect, position++).contains(event->pos()))
-                text = helpOf(action, row, model.isGrouped());
-        }
-    }
+    QString text = column.toolTip ? column.toolTip(row, model.facts()) : QString();
+    if (const auto pressable = hit(event->pos(), option.rect, index); pressable && pressable->action)
+        text = model.helpOf(*pressable->action, row);
+    else if (const auto reason = model.protectionOf(row); reason && column.kind == Kind::actions)
+        text = tr("%1 Its menu can end it.").arg(ProtectedProcesses::consequence(*reason));
     QToolTip::showText(event->globalPos(), Formatters::toolTip(text), view);
     return true;
 }

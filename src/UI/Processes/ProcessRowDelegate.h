@@ -6,11 +6,9 @@
 
 #include <optional>
 
-/// What a row's buttons do.
-enum class RowAction { quit, forceKill, sweep };
-
-/// Draws the cells and the buttons of the rows of the Processes section. A click means the row whose button
-/// was pressed, wherever that row has moved since.
+/// Draws the cells and the buttons of the rows of the Processes section. Buttons are on the row that is
+/// hovered, selected or focused. A click means the row whose button was pressed, wherever that row has moved
+/// since.
 class ProcessRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -19,12 +17,10 @@ public:
 
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Returns the actions of the row's buttons, in order.
-    static QList<RowAction> actionsOf(const ProcessTableRow& row, bool isGrouped);
-    static QString helpOf(RowAction action, const ProcessTableRow& row, bool isGrouped);
-
     /// Ends the click. The view calls it on a release, as the row may have moved or gone by then.
     void release(const QPoint& position);
+    /// Returns whether a button is pressed.
+    bool isPressed() const { return m_pressed.has_value(); }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -36,13 +32,17 @@ public:
 
 Q_SIGNALS:
     void triggered(RowAction action, const ProcessTableRow& row);
+    /// Emitted when the user folds or opens a branch of the tree.
+    void foldToggled(const ProcessTableRow& row);
 
 private:
     struct Pressed {
-        RowAction action;
+        std::optional<RowAction> action; ///< none for the sign before the name of a branch
         ProcessTableRow row;
-        QRect button; ///< where it was
+        QRect place; ///< where the button was
     };
+
+    static std::optional<Pressed> hit(const QPoint& position, const QRect& cell, const QModelIndex& index);
 
     std::optional<Pressed> m_pressed;
 };

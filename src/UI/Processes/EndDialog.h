@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Core/Sampling/ProcSample.h"
+
+#include <QList>
+
+#include <functional>
+
+class AppModel;
+class QWidget;
+
+/// The question before several processes are ended together, or one that more depends on.
+namespace EndDialog {
+
+/// Returns whether the end of these has to be asked about.
+bool isNeeded(const AppModel& model, const QList<ProcSample>& processes);
+
+/// Asks whether to end them, and lists them with what goes with each. The dialog is modal for `parent`, which
+/// `model` outlives. `end` is called with the answer.
+void ask(QWidget* parent, const AppModel& model, const QList<ProcSample>& processes, bool force,
+         const std::function<void(const QList<ProcSample>&)>& end);
+
+} // namespace EndDialog
