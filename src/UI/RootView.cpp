@@ -12,12 +12,14 @@
 #include "UI/Processes/ProcessesView.h"
 #include "UI/Processes/QuitDialog.h"
 #include "UI/Sessions/SessionsView.h"
+#include "UI/ShortcutsSheet.h"
 #include "UI/Style/Theme.h"
 
 #include <QDialog>
 #include <QEvent>
 #include <QListWidget>
 #include <QMenu>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -80,6 +82,7 @@ RootView::RootView(AppModel& model, Preferences& preferences, MessageCenter& mes
     addSections(preferences);
     connect(m_sidebarButton, &IconButton::clicked, this, [this] { showSidebar(!m_isSidebarShown); });
     showSidebar(true);
+    addKeys();
     tintSidebar();
     select(Tab::overview);
 }
@@ -94,6 +97,20 @@ void RootView::addSections(Preferences& preferences) {
     addSection(Tab::processes, new ProcessesView(m_model, preferences));
     addSection(Tab::cleanup, new CleanupView(m_model, preferences));
     addSection(Tab::sessions, m_sessionsView);
+}
+
+void RootView::addKeys() {
+    for (int place = 0; place < m_sections->count(); ++place) {
+        auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)), this);
+        connect(key, &QShortcut::activated, this, [this, place] { select(static_cast<Tab>(place)); });
+    }
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_F1), QKeySequence(Qt::Key_Question)}) {
+        auto* help = new QShortcut(keys, this);
+        connect(help, &QShortcut::activated, this, [this] {
+            if (!hasDialog())
+                (new ShortcutsSheet(window()))->open();
+        });
+    }
 }
 
 /// Returns the selected section under its title, with the announcement above them.

@@ -60,6 +60,7 @@ private:
     void fitSidebar();
     void showSection(int row);
     void addSections(Preferences& preferences);
+    void addKeys();
     /// Adds a section. The calls have to be in the order of Tab.
     void addSection(Tab tab, QWidget* section);
     void tintSidebar();

@@ -3,6 +3,7 @@
 #include "Core/Announcements/MessageCenter.h"
 #include "UI/ModelFixture.h"
 #include "UI/RootView.h"
+#include "UI/ShortcutsSheet.h"
 #include "support/ScriptedFeed.h"
 
 #include <QListWidget>
@@ -34,6 +35,25 @@ TEST_F(MainWindowTest, ClosingOnlyOrdersItOutAndItComesBackOnTheOverview) {
     EXPECT_EQ(window.windowTitle(), u"Tavrin"_s);
     EXPECT_GE(window.centralWidget()->width(), 1000);
     EXPECT_GE(window.centralWidget()->height(), 680);
+}
+
+TEST_F(MainWindowTest, KeysGoToTheSectionsAndShowTheKeys) {
+    MainWindow window(model, prefs, messages);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(window.root().tab(), RootView::Tab::sessions);
+    QTest::keyClick(&window, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(window.root().tab(), RootView::Tab::processes);
+    for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Question}) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window)); // again after the sheet
+        QTest::keyClick(&window, key);
+        auto* sheet = window.findChild<ShortcutsSheet*>();
+        ASSERT_TRUE(sheet);
+        QTest::keyClick(sheet, Qt::Key_Escape);
+        settle();
+        EXPECT_FALSE(window.findChild<ShortcutsSheet*>());
+    }
 }
 
 TEST_F(MainWindowTest, SizePlaceAndSidebarOutlastTheProgram) {
