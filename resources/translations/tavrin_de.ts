@@ -802,6 +802,46 @@
         <source>Force</source>
         <translation>Erzw.</translation>
     </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>Gelesen</translation>
+    </message>
+    <message>
+        <source>Read from disks a second, of your own processes</source>
+        <translation>Von Datenträgern gelesen je Sekunde, nur eigene Prozesse</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>Geschrieben</translation>
+    </message>
+    <message>
+        <source>Written to disks a second, of your own processes</source>
+        <translation>Auf Datenträger geschrieben je Sekunde, nur eigene Prozesse</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Gestartet</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Elternprozess</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -860,6 +900,74 @@
     <message>
         <source>Dismiss</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 Darunter läuft %n Prozess.</numerusform>
+            <numerusform>%1 Darunter laufen %n Prozesse.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill %1?</source>
+        <translation>Beenden von %1 erzwingen?</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>%1 beenden?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>Beenden von %n Prozess erzwingen?</numerusform>
+            <numerusform>Beenden von %n Prozessen erzwingen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>%n Prozess beenden?</numerusform>
+            <numerusform>%n Prozesse beenden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They hold %1. They end at once, and what is not saved is lost.</source>
+        <translation>Sie belegen %1. Sie enden sofort, und nicht Gespeichertes geht verloren.</translation>
+    </message>
+    <message>
+        <source>They hold %1. They are asked to end, and may lose what is not saved.</source>
+        <translation>Sie belegen %1. Sie werden zum Beenden aufgefordert und können nicht Gespeichertes verlieren.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It ends at once, and what is not saved is lost.</source>
+        <translation>PID %1 belegt %2. Der Prozess endet sofort, und nicht Gespeichertes geht verloren.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>PID %1 belegt %2. Der Prozess wird zum Beenden aufgefordert und kann nicht Gespeichertes verlieren.</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Beenden erzwungen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Beenden von %1 erzwingen</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>%1 beenden</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1520,251 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Listens on %1</source>
+        <translation>Wartet auf Verbindungen an %1</translation>
+    </message>
+    <message>
+        <source>Program of the group %1</source>
+        <translation>Programm der Gruppe %1</translation>
+    </message>
+    <message>
+        <source>Program of no known group</source>
+        <translation>Programm keiner bekannten Gruppe</translation>
+    </message>
+    <message>
+        <source>%1, %2 ago</source>
+        <comment>a point in time, and how long ago</comment>
+        <translation>%1, vor %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1 for %2</source>
+        <translation>MCP-Server %1 für %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1, which nobody uses any more</source>
+        <translation>MCP-Server %1, den niemand mehr verwendet</translation>
+    </message>
+    <message>
+        <source>Coding agent %1</source>
+        <translation>Coding-Agent %1</translation>
+    </message>
+    <message>
+        <source>MCP server for %1</source>
+        <translation>MCP-Server für %1</translation>
+    </message>
+    <message>
+        <source>Dev server of %1</source>
+        <translation>Entwicklungsserver von %1</translation>
+    </message>
+    <message>
+        <source>Dev server on %1 of %2</source>
+        <translation>Entwicklungsserver an %1 von %2</translation>
+    </message>
+    <message>
+        <source>Browser of %1</source>
+        <translation>Browser von %1</translation>
+    </message>
+    <message>
+        <source>Command of %1</source>
+        <translation>Befehl von %1</translation>
+    </message>
+    <message>
+        <source>Renderer of %1: a page or an extension</source>
+        <translation>Darstellungsprozess von %1: eine Seite oder eine Erweiterung</translation>
+    </message>
+    <message>
+        <source>Graphics process of %1</source>
+        <translation>Grafikprozess von %1</translation>
+    </message>
+    <message>
+        <source>Service process of %1</source>
+        <translation>Dienstprozess von %1</translation>
+    </message>
+    <message>
+        <source>Process that %1 starts others from</source>
+        <translation>Prozess, aus dem %1 andere startet</translation>
+    </message>
+    <message>
+        <source>Content process of %1: pages or extensions</source>
+        <translation>Inhaltsprozess von %1: Seiten oder Erweiterungen</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorGraph</name>
+    <message>
+        <source>%1 s ago</source>
+        <translation>vor %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 min</translation>
+    </message>
+    <message>
+        <source>unknown yet</source>
+        <translation>noch unbekannt</translation>
+    </message>
+    <message>
+        <source>%1: %2 now, at most %3 since %4</source>
+        <translation>%1: jetzt %2, höchstens %3 (%4)</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Beenden erzwungen</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Dateien anzeigen</translation>
+    </message>
+    <message>
+        <source>Show environment</source>
+        <translation>Umgebung anzeigen</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Where it is from</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Gestartet</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>Threads</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Control group</source>
+        <translation>Kontrollgruppe</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>Started from</source>
+        <translation>Gestartet von</translation>
+    </message>
+    <message>
+        <source>Its parents are not listed.</source>
+        <translation>Seine Elternprozesse sind nicht aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Close the details</source>
+        <translation>Details schließen</translation>
+    </message>
+    <message>
+        <source>Choose a process in the table.</source>
+        <translation>Wählen Sie einen Prozess in der Tabelle.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <source>It has ended.</source>
+        <translation>Der Prozess ist beendet.</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>%1 beenden</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Beenden von %1 erzwingen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>%n offene Datei</numerusform>
+            <numerusform>%n offene Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>listens on %1</source>
+        <translation>lauscht auf %1</translation>
+    </message>
+    <message>
+        <source>Unknown: the system tells it only of your own processes.</source>
+        <translation>Unbekannt: Das System nennt es nur von eigenen Prozessen.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Offene Dateien</translation>
+    </message>
+    <message>
+        <source>The first %1 are listed.</source>
+        <translation>Die ersten %1 sind aufgeführt.</translation>
+    </message>
+    <message>
+        <source>The system refuses it</source>
+        <translation>Das System verweigert es</translation>
+    </message>
+    <message>
+        <source>hidden, as it may be a secret</source>
+        <translation>ausgeblendet, weil es geheim sein kann</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Sie ist leer.</translation>
+    </message>
+</context>
+<context>
     <name>LeaveOutOffer</name>
     <message>
         <source>and %1 more</source>
@@ -1545,6 +1898,25 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>Tief leeren (Admin)</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryKindsBar</name>
+    <message>
+        <source>Own</source>
+        <translation>Eigen</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>Geteilt</translation>
+    </message>
+    <message>
+        <source>In memory, kinds unknown</source>
+        <translation>Im Speicher, Art unbekannt</translation>
+    </message>
+    <message>
+        <source>In swap</source>
+        <translation>Im Swap</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +2099,61 @@
     <message>
         <source>No swap</source>
         <translation>Kein Swap</translation>
+    </message>
+</context>
+<context>
+    <name>NothingFound</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Show all groups</source>
+        <translation>Alle Gruppen anzeigen</translation>
+    </message>
+    <message>
+        <source>Show all sizes</source>
+        <translation>Alle Größen anzeigen</translation>
+    </message>
+    <message>
+        <source>Clear all filters</source>
+        <translation>Alle Filter aufheben</translation>
+    </message>
+    <message>
+        <source>No processes match</source>
+        <translation>Keine passenden Prozesse</translation>
+    </message>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>Mindest-RAM von %1 MB blendet %n weiteren aus.</numerusform>
+            <numerusform>Mindest-RAM von %1 MB blendet %n weitere aus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>Die Gruppe %1 blendet %n weiteren aus.</numerusform>
+            <numerusform>Die Gruppe %1 blendet %n weitere aus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>Die Suche blendet %n weiteren aus.</numerusform>
+            <numerusform>Die Suche blendet %n weitere aus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>Die Filter zusammen blenden %n Prozess aus.</numerusform>
+            <numerusform>Die Filter zusammen blenden %n Prozesse aus.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>Ändern Sie Suche, Gruppe oder Mindest-RAM, um mehr zu sehen.</translation>
     </message>
 </context>
 <context>
@@ -1989,6 +2416,26 @@
         <source>Columns</source>
         <translation>Spalten</translation>
     </message>
+    <message>
+        <source>Tree</source>
+        <translation>Baum</translation>
+    </message>
+    <message>
+        <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
+        <translation>Wörter aus Name, Pfad oder Argumenten, eine PID, oder :8080 für den, der an diesem Port wartet</translation>
+    </message>
+    <message>
+        <source>Children below their parents</source>
+        <translation>Kindprozesse unter ihren Elternprozessen</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Shows the chosen process in a panel beside the table</source>
+        <translation>Zeigt den gewählten Prozess neben der Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
@@ -2003,6 +2450,32 @@
     <message>
         <source>As detected</source>
         <translation>Wie erkannt</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>Beenden…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>%n Zeile beenden…</numerusform>
+            <numerusform>%n Zeilen beenden…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill…</source>
+        <translation>Beenden erzwingen…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>Beenden von %n Zeile erzwingen…</numerusform>
+            <numerusform>Beenden von %n Zeilen erzwingen…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2023,6 +2496,13 @@
 <context>
     <name>ProcessRowDelegate</name>
     <message>
+        <source>%1 Its menu can end it.</source>
+        <translation>%1 Das Menü der Zeile kann ihn beenden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableModel</name>
+    <message>
         <source>Force kill one</source>
         <translation>Beenden dieses Prozesses erzwingen</translation>
     </message>
@@ -2042,6 +2522,34 @@
         <source>Nuke all %1 “%2” processes</source>
         <translation>Alle %1 „%2“-Prozesse abräumen</translation>
     </message>
+    <message>
+        <source>%1, row %2 of %3</source>
+        <translation>%1, Zeile %2 von %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>Ebene %1</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>eingeklappt</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>ausgeklappt</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>asked to end</source>
+        <translation>zum Beenden aufgefordert</translation>
+    </message>
 </context>
 <context>
     <name>ProcessTableView</name>
@@ -2049,16 +2557,46 @@
         <source>Processes</source>
         <translation>Prozesse</translation>
     </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>%1 ausblenden</translation>
+    </message>
+    <message>
+        <source>Move column</source>
+        <translation>Spalte verschieben</translation>
+    </message>
+    <message>
+        <source>Reset columns</source>
+        <translation>Spalten zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>Nach rechts</translation>
+    </message>
 </context>
 <context>
     <name>ProcessesView</name>
-    <message>
-        <source>No processes match</source>
-        <translation>Keine passenden Prozesse</translation>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%1 von %n Prozess</numerusform>
+            <numerusform>%1 von %n Prozessen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%1 Namen von %n Prozess</numerusform>
+            <numerusform>%1 Namen von %n Prozessen</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Change the search, the group or Min RAM to see more.</source>
-        <translation>Ändern Sie Suche, Gruppe oder Mindest-RAM, um mehr zu sehen.</translation>
+        <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
+        <translation>%1. Die Reihenfolge bleibt, solange eine Zeile benutzt wird; F5 sortiert neu.</translation>
     </message>
 </context>
 <context>
@@ -2211,6 +2749,29 @@
     <message>
         <source>Remove %1</source>
         <translation>%1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedProcesses</name>
+    <message>
+        <source>It is the first process of this system, which ends with it.</source>
+        <translation>Es ist der erste Prozess dieses Systems, das mit ihm endet.</translation>
+    </message>
+    <message>
+        <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
+        <translation>Er zeichnet den Bildschirm: Alle Fenster schließen sich, und nicht Gespeichertes darin geht verloren.</translation>
+    </message>
+    <message>
+        <source>It holds your login: you are logged out, and what is not saved is lost.</source>
+        <translation>Er hält Ihre Anmeldung: Sie werden abgemeldet, und nicht Gespeichertes geht verloren.</translation>
+    </message>
+    <message>
+        <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
+        <translation>Er betreibt die Dienste Ihrer Anmeldung, wie Ton und Nachrichtenbus, und einen großen Teil der Arbeitsumgebung. Sie enden mit ihm.</translation>
+    </message>
+    <message>
+        <source>Tavrin was started from it and may end with it, as may everything else that was.</source>
+        <translation>Tavrin wurde von ihm gestartet und kann mit ihm enden, wie alles andere, was von ihm gestartet wurde.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3541,97 @@
     <message>
         <source>Previous Tab</source>
         <translation>Vorheriger Reiter</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Überall</translation>
+    </message>
+    <message>
+        <source>Go to a section</source>
+        <translation>Zu einem Bereich gehen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Quit Tavrin</source>
+        <translation>Tavrin beenden</translation>
+    </message>
+    <message>
+        <source>This sheet</source>
+        <translation>Diese Übersicht</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Jump to a name</source>
+        <translation>Zu einem Namen springen</translation>
+    </message>
+    <message>
+        <source>its first letters</source>
+        <translation>seine ersten Buchstaben</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Erste und letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Select more rows, or all</source>
+        <translation>Weitere oder alle Zeilen auswählen</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Beenden erzwungen</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menü der Zeile</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows</source>
+        <translation>Ausgewählte Zeilen kopieren</translation>
+    </message>
+    <message>
+        <source>Fold or open a branch of the tree</source>
+        <translation>Zweig des Baums ein- oder ausklappen</translation>
+    </message>
+    <message>
+        <source>Read and sort anew</source>
+        <translation>Neu lesen und sortieren</translation>
+    </message>
+    <message>
+        <source>Leave the row</source>
+        <translation>Zeile verlassen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
     </message>
 </context>
 <context>

@@ -2,12 +2,46 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>CleanupPreview</name>
+    <message numerus="yes">
+        <source> • %n left out</source>
+        <translation>
+            <numerusform> • %n left out</numerusform>
+            <numerusform> • %n left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CleanupTexts</name>
     <message numerus="yes">
         <source>%n volume(s), %1</source>
         <translation>
             <numerusform>%n volume, %1</numerusform>
             <numerusform>%n volumes, %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 %n process runs below it.</numerusform>
+            <numerusform>%1 %n processes run below it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>Force kill %n process?</numerusform>
+            <numerusform>Force kill %n processes?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>Quit %n process?</numerusform>
+            <numerusform>Quit %n processes?</numerusform>
         </translation>
     </message>
 </context>
@@ -71,6 +105,16 @@
     </message>
 </context>
 <context>
+    <name>InspectorPanel</name>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>%n open file</numerusform>
+            <numerusform>%n open files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LeftoverTexts</name>
     <message numerus="yes">
         <source>Stopped: removed %n folder(s), freed ~%1</source>
@@ -88,6 +132,37 @@
     </message>
 </context>
 <context>
+    <name>NothingFound</name>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>Min RAM of %1 MB hides %n more.</numerusform>
+            <numerusform>Min RAM of %1 MB hides %n more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>The group %1 hides %n more.</numerusform>
+            <numerusform>The group %1 hides %n more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>The search hides %n more.</numerusform>
+            <numerusform>The search hides %n more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>The filters together hide %n process.</numerusform>
+            <numerusform>The filters together hide %n processes.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>NotificationPlan</name>
     <message numerus="yes">
         <source>%n large session(s)</source>
@@ -101,6 +176,40 @@
         <translation>
             <numerusform>%n idle agent</numerusform>
             <numerusform>%n idle agents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProcessMenu</name>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>Quit %n row…</numerusform>
+            <numerusform>Quit %n rows…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>Force kill %n row…</numerusform>
+            <numerusform>Force kill %n rows…</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProcessesView</name>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%1 of %n process</numerusform>
+            <numerusform>%1 of %n processes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%1 names of %n process</numerusform>
+            <numerusform>%1 names of %n processes</numerusform>
         </translation>
     </message>
 </context>

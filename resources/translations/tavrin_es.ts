@@ -802,6 +802,46 @@
         <source>Force</source>
         <translation>Forzar</translation>
     </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>Lectura de disco</translation>
+    </message>
+    <message>
+        <source>Read from disks a second, of your own processes</source>
+        <translation>Leído de los discos por segundo, solo de sus procesos</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>Escritura en disco</translation>
+    </message>
+    <message>
+        <source>Written to disks a second, of your own processes</source>
+        <translation>Escrito en los discos por segundo, solo de sus procesos</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Iniciado</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Proceso padre</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -860,6 +900,74 @@
     <message>
         <source>Dismiss</source>
         <translation>Descartar</translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 Debajo se ejecuta %n proceso.</numerusform>
+            <numerusform>%1 Debajo se ejecutan %n procesos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill %1?</source>
+        <translation>¿Forzar el fin de %1?</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>¿Cerrar %1?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>¿Forzar el fin de %n proceso?</numerusform>
+            <numerusform>¿Forzar el fin de %n procesos?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>¿Terminar %n proceso?</numerusform>
+            <numerusform>¿Terminar %n procesos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They hold %1. They end at once, and what is not saved is lost.</source>
+        <translation>Ocupan %1. Terminan de inmediato y se pierde lo que no se haya guardado.</translation>
+    </message>
+    <message>
+        <source>They hold %1. They are asked to end, and may lose what is not saved.</source>
+        <translation>Ocupan %1. Se les pide que terminen y pueden perder lo que no se haya guardado.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It ends at once, and what is not saved is lost.</source>
+        <translation>El PID %1 ocupa %2. Termina de inmediato y se pierde lo que no se haya guardado.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>El PID %1 ocupa %2. Se le pide que termine y puede perder lo que no esté guardado.</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Cierre forzado</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Forzar el fin de %1</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Cerrar %1</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1520,251 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Listens on %1</source>
+        <translation>Escucha en %1</translation>
+    </message>
+    <message>
+        <source>Program of the group %1</source>
+        <translation>Programa del grupo %1</translation>
+    </message>
+    <message>
+        <source>Program of no known group</source>
+        <translation>Programa de ningún grupo conocido</translation>
+    </message>
+    <message>
+        <source>%1, %2 ago</source>
+        <comment>a point in time, and how long ago</comment>
+        <translation>%1, hace %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1 for %2</source>
+        <translation>Servidor MCP %1 para %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1, which nobody uses any more</source>
+        <translation>Servidor MCP %1, que ya nadie usa</translation>
+    </message>
+    <message>
+        <source>Coding agent %1</source>
+        <translation>Agente de programación %1</translation>
+    </message>
+    <message>
+        <source>MCP server for %1</source>
+        <translation>Servidor MCP para %1</translation>
+    </message>
+    <message>
+        <source>Dev server of %1</source>
+        <translation>Servidor de desarrollo de %1</translation>
+    </message>
+    <message>
+        <source>Dev server on %1 of %2</source>
+        <translation>Servidor de desarrollo en %1 de %2</translation>
+    </message>
+    <message>
+        <source>Browser of %1</source>
+        <translation>Navegador de %1</translation>
+    </message>
+    <message>
+        <source>Command of %1</source>
+        <translation>Orden de %1</translation>
+    </message>
+    <message>
+        <source>Renderer of %1: a page or an extension</source>
+        <translation>Proceso de representación de %1: una página o una extensión</translation>
+    </message>
+    <message>
+        <source>Graphics process of %1</source>
+        <translation>Proceso de gráficos de %1</translation>
+    </message>
+    <message>
+        <source>Service process of %1</source>
+        <translation>Proceso de servicio de %1</translation>
+    </message>
+    <message>
+        <source>Process that %1 starts others from</source>
+        <translation>Proceso desde el que %1 inicia otros</translation>
+    </message>
+    <message>
+        <source>Content process of %1: pages or extensions</source>
+        <translation>Proceso de contenido de %1: páginas o extensiones</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorGraph</name>
+    <message>
+        <source>%1 s ago</source>
+        <translation>hace %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>hace %1 min</translation>
+    </message>
+    <message>
+        <source>unknown yet</source>
+        <translation>aún desconocido</translation>
+    </message>
+    <message>
+        <source>%1: %2 now, at most %3 since %4</source>
+        <translation>%1: %2 ahora, como máximo %3 (%4)</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>ahora</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Quit</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Cierre forzado</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Mostrar archivos</translation>
+    </message>
+    <message>
+        <source>Show environment</source>
+        <translation>Mostrar entorno</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Where it is from</source>
+        <translation>Procedencia</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Iniciado</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>Hilos</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Control group</source>
+        <translation>Grupo de control</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copiar la orden</translation>
+    </message>
+    <message>
+        <source>Started from</source>
+        <translation>Iniciado desde</translation>
+    </message>
+    <message>
+        <source>Its parents are not listed.</source>
+        <translation>Sus procesos padre no figuran en la lista.</translation>
+    </message>
+    <message>
+        <source>Close the details</source>
+        <translation>Cerrar los detalles</translation>
+    </message>
+    <message>
+        <source>Choose a process in the table.</source>
+        <translation>Elija un proceso de la tabla.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Entorno</translation>
+    </message>
+    <message>
+        <source>It has ended.</source>
+        <translation>Ha terminado.</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Cerrar %1</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Forzar el fin de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>%n archivo abierto</numerusform>
+            <numerusform>%n archivos abiertos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>listens on %1</source>
+        <translation>escucha en %1</translation>
+    </message>
+    <message>
+        <source>Unknown: the system tells it only of your own processes.</source>
+        <translation>Desconocido: el sistema solo lo indica de sus propios procesos.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Archivos abiertos</translation>
+    </message>
+    <message>
+        <source>The first %1 are listed.</source>
+        <translation>Se listan los %1 primeros.</translation>
+    </message>
+    <message>
+        <source>The system refuses it</source>
+        <translation>El sistema lo deniega</translation>
+    </message>
+    <message>
+        <source>hidden, as it may be a secret</source>
+        <translation>oculto, porque puede ser un secreto</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Está vacío.</translation>
+    </message>
+</context>
+<context>
     <name>LeaveOutOffer</name>
     <message>
         <source>and %1 more</source>
@@ -1545,6 +1898,25 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>Purga profunda (admin)</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryKindsBar</name>
+    <message>
+        <source>Own</source>
+        <translation>Propia</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>Compartida</translation>
+    </message>
+    <message>
+        <source>In memory, kinds unknown</source>
+        <translation>En memoria, tipo desconocido</translation>
+    </message>
+    <message>
+        <source>In swap</source>
+        <translation>En swap</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +2099,61 @@
     <message>
         <source>No swap</source>
         <translation>Sin swap</translation>
+    </message>
+</context>
+<context>
+    <name>NothingFound</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Show all groups</source>
+        <translation>Mostrar todos los grupos</translation>
+    </message>
+    <message>
+        <source>Show all sizes</source>
+        <translation>Mostrar todos los tamaños</translation>
+    </message>
+    <message>
+        <source>Clear all filters</source>
+        <translation>Quitar todos los filtros</translation>
+    </message>
+    <message>
+        <source>No processes match</source>
+        <translation>No coincide ningún proceso</translation>
+    </message>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>La RAM mínima de %1 MB oculta %n más.</numerusform>
+            <numerusform>La RAM mínima de %1 MB oculta %n más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>El grupo %1 oculta %n más.</numerusform>
+            <numerusform>El grupo %1 oculta %n más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>La búsqueda oculta %n más.</numerusform>
+            <numerusform>La búsqueda oculta %n más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>Los filtros juntos ocultan %n proceso.</numerusform>
+            <numerusform>Los filtros juntos ocultan %n procesos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>Cambie la búsqueda, el grupo o la RAM mínima para ver más.</translation>
     </message>
 </context>
 <context>
@@ -1989,6 +2416,26 @@
         <source>Columns</source>
         <translation>Columnas</translation>
     </message>
+    <message>
+        <source>Tree</source>
+        <translation>Árbol</translation>
+    </message>
+    <message>
+        <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
+        <translation>Palabras de un nombre, una ruta o argumentos, un PID, o :8080 para quien escucha en ese puerto</translation>
+    </message>
+    <message>
+        <source>Children below their parents</source>
+        <translation>Los hijos bajo sus padres</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Shows the chosen process in a panel beside the table</source>
+        <translation>Muestra el proceso elegido junto a la tabla</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
@@ -2003,6 +2450,32 @@
     <message>
         <source>As detected</source>
         <translation>Según detección</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>Terminar…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>Terminar %n fila…</numerusform>
+            <numerusform>Terminar %n filas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill…</source>
+        <translation>Forzar el fin…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>Forzar el fin de %n fila…</numerusform>
+            <numerusform>Forzar el fin de %n filas…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2023,6 +2496,13 @@
 <context>
     <name>ProcessRowDelegate</name>
     <message>
+        <source>%1 Its menu can end it.</source>
+        <translation>%1 El menú de la fila puede terminarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableModel</name>
+    <message>
         <source>Force kill one</source>
         <translation>Forzar el cierre de este</translation>
     </message>
@@ -2042,6 +2522,34 @@
         <source>Nuke all %1 “%2” processes</source>
         <translation>Matar los %1 procesos «%2»</translation>
     </message>
+    <message>
+        <source>%1, row %2 of %3</source>
+        <translation>%1, fila %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>nivel %1</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>plegado</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>desplegado</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminado</translation>
+    </message>
+    <message>
+        <source>asked to end</source>
+        <translation>se le pidió terminar</translation>
+    </message>
 </context>
 <context>
     <name>ProcessTableView</name>
@@ -2049,16 +2557,46 @@
         <source>Processes</source>
         <translation>Procesos</translation>
     </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>Ocultar %1</translation>
+    </message>
+    <message>
+        <source>Move column</source>
+        <translation>Mover columna</translation>
+    </message>
+    <message>
+        <source>Reset columns</source>
+        <translation>Restablecer columnas</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>A la izquierda</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>A la derecha</translation>
+    </message>
 </context>
 <context>
     <name>ProcessesView</name>
-    <message>
-        <source>No processes match</source>
-        <translation>Ningún proceso coincide</translation>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%1 de %n proceso</numerusform>
+            <numerusform>%1 de %n procesos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%1 nombres de %n proceso</numerusform>
+            <numerusform>%1 nombres de %n procesos</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Change the search, the group or Min RAM to see more.</source>
-        <translation>Cambie la búsqueda, el grupo o la RAM mín. para ver más.</translation>
+        <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
+        <translation>%1. El orden se mantiene mientras se usa una fila; F5 vuelve a ordenar.</translation>
     </message>
 </context>
 <context>
@@ -2211,6 +2749,29 @@
     <message>
         <source>Remove %1</source>
         <translation>Eliminar %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedProcesses</name>
+    <message>
+        <source>It is the first process of this system, which ends with it.</source>
+        <translation>Es el primer proceso de este sistema, que termina con él.</translation>
+    </message>
+    <message>
+        <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
+        <translation>Dibuja la pantalla: se cierran todas las ventanas y se pierde lo que no se haya guardado en ellas.</translation>
+    </message>
+    <message>
+        <source>It holds your login: you are logged out, and what is not saved is lost.</source>
+        <translation>Mantiene su inicio de sesión: se cierra la sesión y se pierde lo que no se haya guardado.</translation>
+    </message>
+    <message>
+        <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
+        <translation>Ejecuta los servicios de su sesión, como el sonido y el bus de mensajes, y gran parte del escritorio. Terminan con él.</translation>
+    </message>
+    <message>
+        <source>Tavrin was started from it and may end with it, as may everything else that was.</source>
+        <translation>Tavrin se inició desde él y puede terminar con él, como todo lo demás que se inició así.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3541,97 @@
     <message>
         <source>Previous Tab</source>
         <translation>Pestaña anterior</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>En todas partes</translation>
+    </message>
+    <message>
+        <source>Go to a section</source>
+        <translation>Ir a una sección</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>Quit Tavrin</source>
+        <translation>Salir de Tavrin</translation>
+    </message>
+    <message>
+        <source>This sheet</source>
+        <translation>Esta hoja</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Jump to a name</source>
+        <translation>Saltar a un nombre</translation>
+    </message>
+    <message>
+        <source>its first letters</source>
+        <translation>sus primeras letras</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Primera y última fila</translation>
+    </message>
+    <message>
+        <source>Select more rows, or all</source>
+        <translation>Seleccionar más filas, o todas</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Cierre forzado</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menú de la fila</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows</source>
+        <translation>Copiar las filas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Fold or open a branch of the tree</source>
+        <translation>Plegar o desplegar una rama del árbol</translation>
+    </message>
+    <message>
+        <source>Read and sort anew</source>
+        <translation>Leer y ordenar de nuevo</translation>
+    </message>
+    <message>
+        <source>Leave the row</source>
+        <translation>Dejar la fila</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
     </message>
 </context>
 <context>

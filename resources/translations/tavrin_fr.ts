@@ -802,6 +802,46 @@
         <source>Force</source>
         <translation>Forcer</translation>
     </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>Lecture disque</translation>
+    </message>
+    <message>
+        <source>Read from disks a second, of your own processes</source>
+        <translation>Lu sur les disques par seconde, pour vos propres processus</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>Écriture disque</translation>
+    </message>
+    <message>
+        <source>Written to disks a second, of your own processes</source>
+        <translation>Écrit sur les disques par seconde, pour vos propres processus</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Démarré</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Parent</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -860,6 +900,74 @@
     <message>
         <source>Dismiss</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 %n processus s’exécute en dessous.</numerusform>
+            <numerusform>%1 %n processus s’exécutent en dessous.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill %1?</source>
+        <translation>Forcer l’arrêt de %1 ?</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>Quitter %1 ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>Forcer l’arrêt de %n processus ?</numerusform>
+            <numerusform>Forcer l’arrêt de %n processus ?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>Quitter %n processus ?</numerusform>
+            <numerusform>Quitter %n processus ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They hold %1. They end at once, and what is not saved is lost.</source>
+        <translation>Ils occupent %1. Ils s’arrêtent aussitôt, et ce qui n’est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>They hold %1. They are asked to end, and may lose what is not saved.</source>
+        <translation>Ils occupent %1. Il leur est demandé de s’arrêter, et ils peuvent perdre ce qui n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It ends at once, and what is not saved is lost.</source>
+        <translation>Le PID %1 occupe %2. Il s’arrête aussitôt, et ce qui n’est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter ; il peut perdre ce qui n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Arrêt forcé</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Forcer l’arrêt de %1</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Quitter %1</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1520,251 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Listens on %1</source>
+        <translation>Écoute sur %1</translation>
+    </message>
+    <message>
+        <source>Program of the group %1</source>
+        <translation>Programme du groupe %1</translation>
+    </message>
+    <message>
+        <source>Program of no known group</source>
+        <translation>Programme d’aucun groupe connu</translation>
+    </message>
+    <message>
+        <source>%1, %2 ago</source>
+        <comment>a point in time, and how long ago</comment>
+        <translation>%1, il y a %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1 for %2</source>
+        <translation>Serveur MCP %1 pour %2</translation>
+    </message>
+    <message>
+        <source>MCP server %1, which nobody uses any more</source>
+        <translation>Serveur MCP %1, que plus personne n’utilise</translation>
+    </message>
+    <message>
+        <source>Coding agent %1</source>
+        <translation>Agent de programmation %1</translation>
+    </message>
+    <message>
+        <source>MCP server for %1</source>
+        <translation>Serveur MCP pour %1</translation>
+    </message>
+    <message>
+        <source>Dev server of %1</source>
+        <translation>Serveur de développement de %1</translation>
+    </message>
+    <message>
+        <source>Dev server on %1 of %2</source>
+        <translation>Serveur de développement sur %1 de %2</translation>
+    </message>
+    <message>
+        <source>Browser of %1</source>
+        <translation>Navigateur de %1</translation>
+    </message>
+    <message>
+        <source>Command of %1</source>
+        <translation>Commande de %1</translation>
+    </message>
+    <message>
+        <source>Renderer of %1: a page or an extension</source>
+        <translation>Moteur de rendu de %1 : une page ou une extension</translation>
+    </message>
+    <message>
+        <source>Graphics process of %1</source>
+        <translation>Processus graphique de %1</translation>
+    </message>
+    <message>
+        <source>Service process of %1</source>
+        <translation>Processus de service de %1</translation>
+    </message>
+    <message>
+        <source>Process that %1 starts others from</source>
+        <translation>Processus à partir duquel %1 en lance d’autres</translation>
+    </message>
+    <message>
+        <source>Content process of %1: pages or extensions</source>
+        <translation>Processus de contenu de %1 : pages ou extensions</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorGraph</name>
+    <message>
+        <source>%1 s ago</source>
+        <translation>il y a %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>il y a %1 min</translation>
+    </message>
+    <message>
+        <source>unknown yet</source>
+        <translation>encore inconnu</translation>
+    </message>
+    <message>
+        <source>%1: %2 now, at most %3 since %4</source>
+        <translation>%1 : %2 maintenant, au plus %3 (%4)</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>maintenant</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Arrêt forcé</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Afficher les fichiers</translation>
+    </message>
+    <message>
+        <source>Show environment</source>
+        <translation>Afficher l’environnement</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Where it is from</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Démarré</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>Threads</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Control group</source>
+        <translation>Groupe de contrôle</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copier la commande</translation>
+    </message>
+    <message>
+        <source>Started from</source>
+        <translation>Lancé depuis</translation>
+    </message>
+    <message>
+        <source>Its parents are not listed.</source>
+        <translation>Ses parents ne figurent pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>Close the details</source>
+        <translation>Fermer les détails</translation>
+    </message>
+    <message>
+        <source>Choose a process in the table.</source>
+        <translation>Choisissez un processus dans le tableau.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <source>It has ended.</source>
+        <translation>Il est terminé.</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>Quitter %1</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>Forcer l’arrêt de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>%n fichier ouvert</numerusform>
+            <numerusform>%n fichiers ouverts</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>listens on %1</source>
+        <translation>écoute sur %1</translation>
+    </message>
+    <message>
+        <source>Unknown: the system tells it only of your own processes.</source>
+        <translation>Inconnu : le système ne l’indique que pour vos propres processus.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Lecture en cours…</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>The first %1 are listed.</source>
+        <translation>Les %1 premiers sont listés.</translation>
+    </message>
+    <message>
+        <source>The system refuses it</source>
+        <translation>Le système le refuse</translation>
+    </message>
+    <message>
+        <source>hidden, as it may be a secret</source>
+        <translation>masqué, car il peut s’agir d’un secret</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Il est vide.</translation>
+    </message>
+</context>
+<context>
     <name>LeaveOutOffer</name>
     <message>
         <source>and %1 more</source>
@@ -1545,6 +1898,25 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>Purge profonde (admin)</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryKindsBar</name>
+    <message>
+        <source>Own</source>
+        <translation>Propre</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>Partagée</translation>
+    </message>
+    <message>
+        <source>In memory, kinds unknown</source>
+        <translation>En mémoire, type inconnu</translation>
+    </message>
+    <message>
+        <source>In swap</source>
+        <translation>Dans le swap</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +2099,61 @@
     <message>
         <source>No swap</source>
         <translation>Pas de swap</translation>
+    </message>
+</context>
+<context>
+    <name>NothingFound</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Show all groups</source>
+        <translation>Afficher tous les groupes</translation>
+    </message>
+    <message>
+        <source>Show all sizes</source>
+        <translation>Afficher toutes les tailles</translation>
+    </message>
+    <message>
+        <source>Clear all filters</source>
+        <translation>Effacer tous les filtres</translation>
+    </message>
+    <message>
+        <source>No processes match</source>
+        <translation>Aucun processus ne correspond</translation>
+    </message>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>La RAM minimale de %1 Mo en masque %n autre.</numerusform>
+            <numerusform>La RAM minimale de %1 Mo en masque %n autres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>Le groupe %1 en masque %n autre.</numerusform>
+            <numerusform>Le groupe %1 en masque %n autres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>La recherche en masque %n autre.</numerusform>
+            <numerusform>La recherche en masque %n autres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>Les filtres ensemble masquent %n processus.</numerusform>
+            <numerusform>Les filtres ensemble masquent %n processus.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>Modifiez la recherche, le groupe ou la RAM minimale pour en voir plus.</translation>
     </message>
 </context>
 <context>
@@ -1989,6 +2416,26 @@
         <source>Columns</source>
         <translation>Colonnes</translation>
     </message>
+    <message>
+        <source>Tree</source>
+        <translation>Arbre</translation>
+    </message>
+    <message>
+        <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
+        <translation>Mots d’un nom, d’un chemin ou d’arguments, un PID, ou :8080 pour qui écoute sur ce port</translation>
+    </message>
+    <message>
+        <source>Children below their parents</source>
+        <translation>Les enfants sous leurs parents</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Shows the chosen process in a panel beside the table</source>
+        <translation>Affiche le processus choisi à côté du tableau</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
@@ -2003,6 +2450,32 @@
     <message>
         <source>As detected</source>
         <translation>Tel que détecté</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>Quitter…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>Quitter %n ligne…</numerusform>
+            <numerusform>Quitter %n lignes…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill…</source>
+        <translation>Forcer l’arrêt…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>Forcer l’arrêt de %n ligne…</numerusform>
+            <numerusform>Forcer l’arrêt de %n lignes…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2023,6 +2496,13 @@
 <context>
     <name>ProcessRowDelegate</name>
     <message>
+        <source>%1 Its menu can end it.</source>
+        <translation>%1 Le menu de la ligne peut l’arrêter.</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableModel</name>
+    <message>
         <source>Force kill one</source>
         <translation>Forcer l’arrêt de ce processus</translation>
     </message>
@@ -2042,6 +2522,34 @@
         <source>Nuke all %1 “%2” processes</source>
         <translation>Tuer les %1 processus « %2 »</translation>
     </message>
+    <message>
+        <source>%1, row %2 of %3</source>
+        <translation>%1, ligne %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>niveau %1</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>replié</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>déplié</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>asked to end</source>
+        <translation>arrêt demandé</translation>
+    </message>
 </context>
 <context>
     <name>ProcessTableView</name>
@@ -2049,16 +2557,46 @@
         <source>Processes</source>
         <translation>Processus</translation>
     </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>Masquer %1</translation>
+    </message>
+    <message>
+        <source>Move column</source>
+        <translation>Déplacer la colonne</translation>
+    </message>
+    <message>
+        <source>Reset columns</source>
+        <translation>Réinitialiser les colonnes</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>Vers la gauche</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>Vers la droite</translation>
+    </message>
 </context>
 <context>
     <name>ProcessesView</name>
-    <message>
-        <source>No processes match</source>
-        <translation>Aucun processus ne correspond</translation>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%1 sur %n processus</numerusform>
+            <numerusform>%1 sur %n processus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%1 noms pour %n processus</numerusform>
+            <numerusform>%1 noms pour %n processus</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Change the search, the group or Min RAM to see more.</source>
-        <translation>Modifiez la recherche, le groupe ou la RAM min. pour en voir plus.</translation>
+        <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
+        <translation>%1. L’ordre est figé tant qu’une ligne est utilisée ; F5 trie à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -2211,6 +2749,29 @@
     <message>
         <source>Remove %1</source>
         <translation>Supprimer %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedProcesses</name>
+    <message>
+        <source>It is the first process of this system, which ends with it.</source>
+        <translation>C’est le premier processus de ce système, qui s’arrête avec lui.</translation>
+    </message>
+    <message>
+        <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
+        <translation>Il dessine l’écran : toutes les fenêtres se ferment, et ce qui n’y est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>It holds your login: you are logged out, and what is not saved is lost.</source>
+        <translation>Il tient votre session : vous êtes déconnecté, et ce qui n’est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
+        <translation>Il fait tourner les services de votre session, comme le son et le bus de messages, et une grande partie du bureau. Ils s’arrêtent avec lui.</translation>
+    </message>
+    <message>
+        <source>Tavrin was started from it and may end with it, as may everything else that was.</source>
+        <translation>Tavrin a été lancé depuis lui et peut s’arrêter avec lui, comme tout ce qui l’a été aussi.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3541,97 @@
     <message>
         <source>Previous Tab</source>
         <translation>Onglet précédent</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Partout</translation>
+    </message>
+    <message>
+        <source>Go to a section</source>
+        <translation>Aller à une section</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Quit Tavrin</source>
+        <translation>Quitter Tavrin</translation>
+    </message>
+    <message>
+        <source>This sheet</source>
+        <translation>Cette feuille</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Jump to a name</source>
+        <translation>Aller à un nom</translation>
+    </message>
+    <message>
+        <source>its first letters</source>
+        <translation>ses premières lettres</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Première et dernière ligne</translation>
+    </message>
+    <message>
+        <source>Select more rows, or all</source>
+        <translation>Sélectionner d’autres lignes, ou toutes</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>Arrêt forcé</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menu de la ligne</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows</source>
+        <translation>Copier les lignes sélectionnées</translation>
+    </message>
+    <message>
+        <source>Fold or open a branch of the tree</source>
+        <translation>Replier ou déplier une branche de l’arbre</translation>
+    </message>
+    <message>
+        <source>Read and sort anew</source>
+        <translation>Relire et trier à nouveau</translation>
+    </message>
+    <message>
+        <source>Leave the row</source>
+        <translation>Quitter la ligne</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>

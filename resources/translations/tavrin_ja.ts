@@ -800,6 +800,46 @@
         <source>Force</source>
         <translation>強制</translation>
     </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>ディスク読み取り</translation>
+    </message>
+    <message>
+        <source>Read from disks a second, of your own processes</source>
+        <translation>1 秒間にディスクから読み取った量（自分のプロセスのみ）</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>ディスク書き込み</translation>
+    </message>
+    <message>
+        <source>Written to disks a second, of your own processes</source>
+        <translation>1 秒間にディスクへ書き込んだ量（自分のプロセスのみ）</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>親</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>セッション</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -858,6 +898,71 @@
     <message>
         <source>Dismiss</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 その下で %n 個のプロセスが動いています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill %1?</source>
+        <translation>%1 を強制終了しますか？</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>%1 を終了しますか？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>%n 個のプロセスを強制終了しますか？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>%n 個のプロセスを終了しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They hold %1. They end at once, and what is not saved is lost.</source>
+        <translation>%1 を使用しています。ただちに終了し、保存していない内容は失われます。</translation>
+    </message>
+    <message>
+        <source>They hold %1. They are asked to end, and may lose what is not saved.</source>
+        <translation>%1 を使用しています。終了を求めます。保存していない内容は失われることがあります。</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It ends at once, and what is not saved is lost.</source>
+        <translation>PID %1 は %2 を使用しています。ただちに終了し、保存していない内容は失われます。</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>PID %1 は %2 を使用しています。終了を求めます。保存していない内容は失われることがあります。</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>強制終了</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>%1 を強制終了</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>%1 を終了</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1507,250 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Listens on %1</source>
+        <translation>%1 で待ち受け中</translation>
+    </message>
+    <message>
+        <source>Program of the group %1</source>
+        <translation>グループ「%1」のプログラム</translation>
+    </message>
+    <message>
+        <source>Program of no known group</source>
+        <translation>既知のグループに属さないプログラム</translation>
+    </message>
+    <message>
+        <source>%1, %2 ago</source>
+        <comment>a point in time, and how long ago</comment>
+        <translation>%1、%2前</translation>
+    </message>
+    <message>
+        <source>MCP server %1 for %2</source>
+        <translation>%2 の MCP サーバー %1</translation>
+    </message>
+    <message>
+        <source>MCP server %1, which nobody uses any more</source>
+        <translation>もう使われていない MCP サーバー %1</translation>
+    </message>
+    <message>
+        <source>Coding agent %1</source>
+        <translation>コーディングエージェント %1</translation>
+    </message>
+    <message>
+        <source>MCP server for %1</source>
+        <translation>%1 の MCP サーバー</translation>
+    </message>
+    <message>
+        <source>Dev server of %1</source>
+        <translation>%1 の開発サーバー</translation>
+    </message>
+    <message>
+        <source>Dev server on %1 of %2</source>
+        <translation>%2 の開発サーバー（%1）</translation>
+    </message>
+    <message>
+        <source>Browser of %1</source>
+        <translation>%1 のブラウザ</translation>
+    </message>
+    <message>
+        <source>Command of %1</source>
+        <translation>%1 のコマンド</translation>
+    </message>
+    <message>
+        <source>Renderer of %1: a page or an extension</source>
+        <translation>%1 のレンダラー: ページまたは拡張機能</translation>
+    </message>
+    <message>
+        <source>Graphics process of %1</source>
+        <translation>%1 のグラフィックスプロセス</translation>
+    </message>
+    <message>
+        <source>Service process of %1</source>
+        <translation>%1 のサービスプロセス</translation>
+    </message>
+    <message>
+        <source>Process that %1 starts others from</source>
+        <translation>%1 が他のプロセスを起動する元のプロセス</translation>
+    </message>
+    <message>
+        <source>Content process of %1: pages or extensions</source>
+        <translation>%1 のコンテンツプロセス: ページまたは拡張機能</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorGraph</name>
+    <message>
+        <source>%1 s ago</source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分前</translation>
+    </message>
+    <message>
+        <source>unknown yet</source>
+        <translation>まだ不明</translation>
+    </message>
+    <message>
+        <source>%1: %2 now, at most %3 since %4</source>
+        <translation>%1: 現在 %2、最大 %3（%4から）</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>現在</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>強制終了</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>ファイルを表示</translation>
+    </message>
+    <message>
+        <source>Show environment</source>
+        <translation>環境変数を表示</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Where it is from</source>
+        <translation>由来</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>スレッド</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>セッション</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Control group</source>
+        <translation>コントロールグループ</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>コマンドをコピー</translation>
+    </message>
+    <message>
+        <source>Started from</source>
+        <translation>起動元</translation>
+    </message>
+    <message>
+        <source>Its parents are not listed.</source>
+        <translation>親プロセスは一覧にありません。</translation>
+    </message>
+    <message>
+        <source>Close the details</source>
+        <translation>詳細を閉じる</translation>
+    </message>
+    <message>
+        <source>Choose a process in the table.</source>
+        <translation>表からプロセスを選んでください。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>環境変数</translation>
+    </message>
+    <message>
+        <source>It has ended.</source>
+        <translation>終了しました。</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>%1 を終了</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>%1 を強制終了</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>開いているファイル %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>listens on %1</source>
+        <translation>%1 で待ち受け</translation>
+    </message>
+    <message>
+        <source>Unknown: the system tells it only of your own processes.</source>
+        <translation>不明: システムは自分のプロセスについてだけ教えます。</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>読み取り中…</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>開いているファイル</translation>
+    </message>
+    <message>
+        <source>The first %1 are listed.</source>
+        <translation>最初の %1 個を表示しています。</translation>
+    </message>
+    <message>
+        <source>The system refuses it</source>
+        <translation>システムが拒否しました</translation>
+    </message>
+    <message>
+        <source>hidden, as it may be a secret</source>
+        <translation>秘密の可能性があるため非表示</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>空です。</translation>
+    </message>
+</context>
+<context>
     <name>LeaveOutOffer</name>
     <message>
         <source>and %1 more</source>
@@ -1533,6 +1882,25 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>ディープパージ (管理者)</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryKindsBar</name>
+    <message>
+        <source>Own</source>
+        <translation>固有</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>共有</translation>
+    </message>
+    <message>
+        <source>In memory, kinds unknown</source>
+        <translation>メモリ内（種類は不明）</translation>
+    </message>
+    <message>
+        <source>In swap</source>
+        <translation>スワップ内</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +2083,57 @@
     <message>
         <source>No swap</source>
         <translation>スワップなし</translation>
+    </message>
+</context>
+<context>
+    <name>NothingFound</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索を消去</translation>
+    </message>
+    <message>
+        <source>Show all groups</source>
+        <translation>すべてのグループを表示</translation>
+    </message>
+    <message>
+        <source>Show all sizes</source>
+        <translation>すべてのサイズを表示</translation>
+    </message>
+    <message>
+        <source>Clear all filters</source>
+        <translation>すべてのフィルターを解除</translation>
+    </message>
+    <message>
+        <source>No processes match</source>
+        <translation>一致するプロセスがありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>最小 RAM %1 MB により、ほかに %n 個が非表示です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>グループ「%1」により、ほかに %n 個が非表示です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>検索により、ほかに %n 個が非表示です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>フィルターの組み合わせで %n 個のプロセスが非表示です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>検索、グループ、最小 RAM を変えると表示が増えます。</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2394,26 @@
         <source>Columns</source>
         <translation>列</translation>
     </message>
+    <message>
+        <source>Tree</source>
+        <translation>ツリー</translation>
+    </message>
+    <message>
+        <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
+        <translation>名前・パス・引数の単語、PID、または :8080（そのポートで待ち受けるプロセス）</translation>
+    </message>
+    <message>
+        <source>Children below their parents</source>
+        <translation>子を親の下に表示</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Shows the chosen process in a panel beside the table</source>
+        <translation>選んだプロセスを表の横のパネルに表示</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
@@ -1989,6 +2428,30 @@
     <message>
         <source>As detected</source>
         <translation>検出どおり</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>終了…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>%n 行を終了…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill…</source>
+        <translation>強制終了…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>%n 行を強制終了…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2472,13 @@
 <context>
     <name>ProcessRowDelegate</name>
     <message>
+        <source>%1 Its menu can end it.</source>
+        <translation>%1 行のメニューから終了できます。</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableModel</name>
+    <message>
         <source>Force kill one</source>
         <translation>これを強制終了</translation>
     </message>
@@ -2028,6 +2498,34 @@
         <source>Nuke all %1 “%2” processes</source>
         <translation>%1 個の「%2」プロセスを一掃</translation>
     </message>
+    <message>
+        <source>%1, row %2 of %3</source>
+        <translation>%1、%3 行中 %2 行目</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>レベル %1</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>折りたたみ</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>展開</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>終了済み</translation>
+    </message>
+    <message>
+        <source>asked to end</source>
+        <translation>終了を要求済み</translation>
+    </message>
 </context>
 <context>
     <name>ProcessTableView</name>
@@ -2035,16 +2533,44 @@
         <source>Processes</source>
         <translation>プロセス</translation>
     </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>%1 を隠す</translation>
+    </message>
+    <message>
+        <source>Move column</source>
+        <translation>列を移動</translation>
+    </message>
+    <message>
+        <source>Reset columns</source>
+        <translation>列をリセット</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>左へ</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>右へ</translation>
+    </message>
 </context>
 <context>
     <name>ProcessesView</name>
-    <message>
-        <source>No processes match</source>
-        <translation>一致するプロセスがありません</translation>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%n 個中 %1 個のプロセス</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%n 個のプロセスの %1 個の名前</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Change the search, the group or Min RAM to see more.</source>
-        <translation>検索、グループ、最小 RAM を変えると、さらに表示されます。</translation>
+        <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
+        <translation>%1。行の使用中は並び順を保ちます。F5 で並べ替えます。</translation>
     </message>
 </context>
 <context>
@@ -2195,6 +2721,29 @@
     <message>
         <source>Remove %1</source>
         <translation>%1 を削除</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedProcesses</name>
+    <message>
+        <source>It is the first process of this system, which ends with it.</source>
+        <translation>このシステムの最初のプロセスで、システムも一緒に終了します。</translation>
+    </message>
+    <message>
+        <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
+        <translation>画面を描画しています。すべてのウィンドウが閉じ、保存していない内容は失われます。</translation>
+    </message>
+    <message>
+        <source>It holds your login: you are logged out, and what is not saved is lost.</source>
+        <translation>ログインを保っています。ログアウトされ、保存していない内容は失われます。</translation>
+    </message>
+    <message>
+        <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
+        <translation>音声やメッセージバスなどログインのサービスと、デスクトップの多くを動かしています。これらも一緒に終了します。</translation>
+    </message>
+    <message>
+        <source>Tavrin was started from it and may end with it, as may everything else that was.</source>
+        <translation>Tavrin はここから起動されており、同じく起動されたものとともに終了することがあります。</translation>
     </message>
 </context>
 <context>
@@ -2954,6 +3503,97 @@
     <message>
         <source>Previous Tab</source>
         <translation>前のタブ</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>全体</translation>
+    </message>
+    <message>
+        <source>Go to a section</source>
+        <translation>セクションへ移動</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Quit Tavrin</source>
+        <translation>Tavrin を終了</translation>
+    </message>
+    <message>
+        <source>This sheet</source>
+        <translation>この一覧</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Jump to a name</source>
+        <translation>名前へ移動</translation>
+    </message>
+    <message>
+        <source>its first letters</source>
+        <translation>先頭の文字</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>最初と最後の行</translation>
+    </message>
+    <message>
+        <source>Select more rows, or all</source>
+        <translation>さらに行を選択、またはすべて選択</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>強制終了</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>行のメニュー</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows</source>
+        <translation>選択した行をコピー</translation>
+    </message>
+    <message>
+        <source>Fold or open a branch of the tree</source>
+        <translation>ツリーの枝を折りたたむ、または開く</translation>
+    </message>
+    <message>
+        <source>Read and sort anew</source>
+        <translation>読み直して並べ替え</translation>
+    </message>
+    <message>
+        <source>Leave the row</source>
+        <translation>行から離れる</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
     </message>
 </context>
 <context>

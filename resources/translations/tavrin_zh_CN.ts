@@ -800,6 +800,46 @@
         <source>Force</source>
         <translation>强制</translation>
     </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>磁盘读取</translation>
+    </message>
+    <message>
+        <source>Read from disks a second, of your own processes</source>
+        <translation>每秒从磁盘读取的数据，仅限您自己的进程</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>磁盘写入</translation>
+    </message>
+    <message>
+        <source>Written to disks a second, of your own processes</source>
+        <translation>每秒写入磁盘的数据，仅限您自己的进程</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>启动时间</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>父进程</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>会话</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -858,6 +898,71 @@
     <message>
         <source>Dismiss</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>EndDialog</name>
+    <message>
+        <source>Processes</source>
+        <translation>进程</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %n process(es) run below it.</source>
+        <translation>
+            <numerusform>%1 其下运行着 %n 个进程。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill %1?</source>
+        <translation>强制结束 %1？</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>退出 %1？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n process(es)?</source>
+        <translation>
+            <numerusform>强制结束 %n 个进程？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n process(es)?</source>
+        <translation>
+            <numerusform>退出 %n 个进程？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They hold %1. They end at once, and what is not saved is lost.</source>
+        <translation>它们占用 %1。它们会立即结束，未保存的内容将丢失。</translation>
+    </message>
+    <message>
+        <source>They hold %1. They are asked to end, and may lose what is not saved.</source>
+        <translation>它们占用 %1。将请求它们结束，未保存的内容可能丢失。</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It ends at once, and what is not saved is lost.</source>
+        <translation>PID %1 占用 %2。它会立即结束，未保存的内容将丢失。</translation>
+    </message>
+    <message>
+        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
+        <translation>PID %1 占用 %2。将请求它结束，未保存的内容可能丢失。</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>强制结束</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>强制结束 %1</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>退出 %1</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1507,250 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Listens on %1</source>
+        <translation>监听 %1</translation>
+    </message>
+    <message>
+        <source>Program of the group %1</source>
+        <translation>属于“%1”组的程序</translation>
+    </message>
+    <message>
+        <source>Program of no known group</source>
+        <translation>不属于任何已知组的程序</translation>
+    </message>
+    <message>
+        <source>%1, %2 ago</source>
+        <comment>a point in time, and how long ago</comment>
+        <translation>%1，%2前</translation>
+    </message>
+    <message>
+        <source>MCP server %1 for %2</source>
+        <translation>%2 的 MCP 服务器 %1</translation>
+    </message>
+    <message>
+        <source>MCP server %1, which nobody uses any more</source>
+        <translation>MCP 服务器 %1，已无人使用</translation>
+    </message>
+    <message>
+        <source>Coding agent %1</source>
+        <translation>编码代理 %1</translation>
+    </message>
+    <message>
+        <source>MCP server for %1</source>
+        <translation>%1 的 MCP 服务器</translation>
+    </message>
+    <message>
+        <source>Dev server of %1</source>
+        <translation>%1 的开发服务器</translation>
+    </message>
+    <message>
+        <source>Dev server on %1 of %2</source>
+        <translation>%2 在 %1 上的开发服务器</translation>
+    </message>
+    <message>
+        <source>Browser of %1</source>
+        <translation>%1 的浏览器</translation>
+    </message>
+    <message>
+        <source>Command of %1</source>
+        <translation>%1 的命令</translation>
+    </message>
+    <message>
+        <source>Renderer of %1: a page or an extension</source>
+        <translation>%1 的渲染进程：页面或扩展</translation>
+    </message>
+    <message>
+        <source>Graphics process of %1</source>
+        <translation>%1 的图形进程</translation>
+    </message>
+    <message>
+        <source>Service process of %1</source>
+        <translation>%1 的服务进程</translation>
+    </message>
+    <message>
+        <source>Process that %1 starts others from</source>
+        <translation>%1 用来启动其他进程的进程</translation>
+    </message>
+    <message>
+        <source>Content process of %1: pages or extensions</source>
+        <translation>%1 的内容进程：页面或扩展</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorGraph</name>
+    <message>
+        <source>%1 s ago</source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分钟前</translation>
+    </message>
+    <message>
+        <source>unknown yet</source>
+        <translation>尚未知</translation>
+    </message>
+    <message>
+        <source>%1: %2 now, at most %3 since %4</source>
+        <translation>%1：现在 %2，最高 %3（%4 起）</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>现在</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>强制结束</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>内存</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>显示文件</translation>
+    </message>
+    <message>
+        <source>Show environment</source>
+        <translation>显示环境</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Where it is from</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>PID</source>
+        <translation>PID</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>启动时间</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>线程</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Control group</source>
+        <translation>控制组</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>复制命令</translation>
+    </message>
+    <message>
+        <source>Started from</source>
+        <translation>启动自</translation>
+    </message>
+    <message>
+        <source>Its parents are not listed.</source>
+        <translation>其父进程未列出。</translation>
+    </message>
+    <message>
+        <source>Close the details</source>
+        <translation>关闭详细信息</translation>
+    </message>
+    <message>
+        <source>Choose a process in the table.</source>
+        <translation>请在表格中选择一个进程。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>环境</translation>
+    </message>
+    <message>
+        <source>It has ended.</source>
+        <translation>它已结束。</translation>
+    </message>
+    <message>
+        <source>Quit %1</source>
+        <translation>退出 %1</translation>
+    </message>
+    <message>
+        <source>Force kill %1</source>
+        <translation>强制结束 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open file(s)</source>
+        <translation>
+            <numerusform>%n 个打开的文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>listens on %1</source>
+        <translation>监听 %1</translation>
+    </message>
+    <message>
+        <source>Unknown: the system tells it only of your own processes.</source>
+        <translation>未知：系统只提供您自己进程的信息。</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>打开的文件</translation>
+    </message>
+    <message>
+        <source>The first %1 are listed.</source>
+        <translation>仅列出前 %1 个。</translation>
+    </message>
+    <message>
+        <source>The system refuses it</source>
+        <translation>系统拒绝</translation>
+    </message>
+    <message>
+        <source>hidden, as it may be a secret</source>
+        <translation>已隐藏，可能是机密</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>为空。</translation>
+    </message>
+</context>
+<context>
     <name>LeaveOutOffer</name>
     <message>
         <source>and %1 more</source>
@@ -1533,6 +1882,25 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>深度清除（管理员）</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryKindsBar</name>
+    <message>
+        <source>Own</source>
+        <translation>独占</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>共享</translation>
+    </message>
+    <message>
+        <source>In memory, kinds unknown</source>
+        <translation>在内存中，类型未知</translation>
+    </message>
+    <message>
+        <source>In swap</source>
+        <translation>在交换空间中</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +2083,57 @@
     <message>
         <source>No swap</source>
         <translation>无交换空间</translation>
+    </message>
+</context>
+<context>
+    <name>NothingFound</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Show all groups</source>
+        <translation>显示所有组</translation>
+    </message>
+    <message>
+        <source>Show all sizes</source>
+        <translation>显示所有大小</translation>
+    </message>
+    <message>
+        <source>Clear all filters</source>
+        <translation>清除所有筛选</translation>
+    </message>
+    <message>
+        <source>No processes match</source>
+        <translation>没有匹配的进程</translation>
+    </message>
+    <message numerus="yes">
+        <source>Min RAM of %1 MB hides %n more.</source>
+        <translation>
+            <numerusform>最小内存 %1 MB 另外隐藏了 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The group %1 hides %n more.</source>
+        <translation>
+            <numerusform>“%1”组另外隐藏了 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search hides %n more.</source>
+        <translation>
+            <numerusform>搜索另外隐藏了 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filters together hide %n process(es).</source>
+        <translation>
+            <numerusform>这些筛选共隐藏了 %n 个进程。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change the search, the group or Min RAM to see more.</source>
+        <translation>更改搜索、组或最小内存以查看更多。</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2394,26 @@
         <source>Columns</source>
         <translation>列</translation>
     </message>
+    <message>
+        <source>Tree</source>
+        <translation>树</translation>
+    </message>
+    <message>
+        <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
+        <translation>名称、路径或参数中的词，PID，或 :8080 查找监听该端口的进程</translation>
+    </message>
+    <message>
+        <source>Children below their parents</source>
+        <translation>子进程位于父进程之下</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Shows the chosen process in a panel beside the table</source>
+        <translation>在表格旁的面板中显示所选进程</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
@@ -1989,6 +2428,30 @@
     <message>
         <source>As detected</source>
         <translation>按检测结果</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>退出…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quit %n row(s)…</source>
+        <translation>
+            <numerusform>退出 %n 行…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Force kill…</source>
+        <translation>强制结束…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Force kill %n row(s)…</source>
+        <translation>
+            <numerusform>强制结束 %n 行…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2472,13 @@
 <context>
     <name>ProcessRowDelegate</name>
     <message>
+        <source>%1 Its menu can end it.</source>
+        <translation>%1 可通过其菜单结束。</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessTableModel</name>
+    <message>
         <source>Force kill one</source>
         <translation>强制结束此进程</translation>
     </message>
@@ -2028,6 +2498,34 @@
         <source>Nuke all %1 “%2” processes</source>
         <translation>清除全部 %1 个“%2”进程</translation>
     </message>
+    <message>
+        <source>%1, row %2 of %3</source>
+        <translation>%1，第 %2 行，共 %3 行</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>第 %1 级</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>已折叠</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>已展开</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>已结束</translation>
+    </message>
+    <message>
+        <source>asked to end</source>
+        <translation>已请求结束</translation>
+    </message>
 </context>
 <context>
     <name>ProcessTableView</name>
@@ -2035,16 +2533,44 @@
         <source>Processes</source>
         <translation>进程</translation>
     </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>隐藏 %1</translation>
+    </message>
+    <message>
+        <source>Move column</source>
+        <translation>移动列</translation>
+    </message>
+    <message>
+        <source>Reset columns</source>
+        <translation>重置列</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>左移</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>右移</translation>
+    </message>
 </context>
 <context>
     <name>ProcessesView</name>
-    <message>
-        <source>No processes match</source>
-        <translation>没有匹配的进程</translation>
+    <message numerus="yes">
+        <source>%1 of %n process(es)</source>
+        <translation>
+            <numerusform>%1 / %n 个进程</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 names of %n process(es)</source>
+        <translation>
+            <numerusform>%1 个名称，共 %n 个进程</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Change the search, the group or Min RAM to see more.</source>
-        <translation>更改搜索、分组或最少内存可查看更多。</translation>
+        <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
+        <translation>%1。使用某行期间顺序保持不变；按 F5 重新排序。</translation>
     </message>
 </context>
 <context>
@@ -2195,6 +2721,29 @@
     <message>
         <source>Remove %1</source>
         <translation>删除 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedProcesses</name>
+    <message>
+        <source>It is the first process of this system, which ends with it.</source>
+        <translation>它是本系统的第一个进程，系统会随之结束。</translation>
+    </message>
+    <message>
+        <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
+        <translation>它负责绘制屏幕：所有窗口都会关闭，其中未保存的内容将丢失。</translation>
+    </message>
+    <message>
+        <source>It holds your login: you are logged out, and what is not saved is lost.</source>
+        <translation>它维持您的登录：您将被注销，未保存的内容将丢失。</translation>
+    </message>
+    <message>
+        <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
+        <translation>它运行您登录会话的服务（如声音和消息总线）以及桌面的大部分。它们会随之结束。</translation>
+    </message>
+    <message>
+        <source>Tavrin was started from it and may end with it, as may everything else that was.</source>
+        <translation>Tavrin 由它启动，可能随之结束，由它启动的其他程序也是如此。</translation>
     </message>
 </context>
 <context>
@@ -2954,6 +3503,97 @@
     <message>
         <source>Previous Tab</source>
         <translation>上一个标签页</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>全局</translation>
+    </message>
+    <message>
+        <source>Go to a section</source>
+        <translation>转到某个部分</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Quit Tavrin</source>
+        <translation>退出 Tavrin</translation>
+    </message>
+    <message>
+        <source>This sheet</source>
+        <translation>本页</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>进程</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Jump to a name</source>
+        <translation>跳转到名称</translation>
+    </message>
+    <message>
+        <source>its first letters</source>
+        <translation>输入其开头字母</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>第一行和最后一行</translation>
+    </message>
+    <message>
+        <source>Select more rows, or all</source>
+        <translation>选择更多行或全部</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Force kill</source>
+        <translation>强制结束</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>行的菜单</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows</source>
+        <translation>复制所选行</translation>
+    </message>
+    <message>
+        <source>Fold or open a branch of the tree</source>
+        <translation>折叠或展开树的分支</translation>
+    </message>
+    <message>
+        <source>Read and sort anew</source>
+        <translation>重新读取并排序</translation>
+    </message>
+    <message>
+        <source>Leave the row</source>
+        <translation>离开该行</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
     </message>
 </context>
 <context>
