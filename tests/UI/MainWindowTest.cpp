@@ -46,7 +46,8 @@ TEST_F(MainWindowTest, KeysGoToTheSectionsAndShowTheKeys) {
     QTest::keyClick(&window, Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(window.root().tab(), RootView::Tab::processes);
     for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Question}) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window)); // again after the sheet
+        window.activateWindow(); // again after the sheet
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         QTest::keyClick(&window, key);
         auto* sheet = window.findChild<ShortcutsSheet*>();
         ASSERT_TRUE(sheet);
