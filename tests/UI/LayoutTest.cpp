@@ -134,10 +134,10 @@ TEST_P(LayoutTest, TabGoesInTheOrderTheEyeGoes) {
                 continue;
             const QRect place(stop->mapTo(&root, QPoint()), stop->size());
             const QRect last = before ? QRect(before->mapTo(&root, QPoint()), before->size()) : QRect();
-            const bool isOtherPane = before && place.left() >= last.right() && last.right() < root.width() / 4;
+            const bool isOtherPane =
+                before && place.left() >= last.right() && last.right() < root.width() / 4;
             EXPECT_TRUE(!before || isOtherPane || place.bottom() > last.top())
-                << at(rawValue(tab).toStdString()) << ": " << nameOf(*stop) << " after "
-                << nameOf(*before);
+                << at(rawValue(tab).toStdString()) << ": " << nameOf(*stop) << " after " << nameOf(*before);
             before = stop;
         }
     }
