@@ -40,8 +40,9 @@ class NullNotifications : public Notifications {
 };
 
 class NullFloatingPanel : public FloatingPanel {
-    void setContent(QWidget* content) override { m_content.reset(content); }
+    void setContent(QWidget* content, double) override { m_content.reset(content); }
     void placeBottomLeft(QPoint) override {}
+    QPoint bottomLeft() const override { return {}; }
     void orderFront() override {}
     void orderOut() override {}
     bool isVisible() const override { return false; }
