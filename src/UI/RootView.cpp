@@ -4,6 +4,7 @@
 #include "Preferences.h"
 #include "UI/Cleanup/CleanupView.h"
 #include "UI/Kit/IconButton.h"
+#include "UI/Kit/Notice.h"
 #include "UI/Kit/SidebarDelegate.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/MessageBanner.h"

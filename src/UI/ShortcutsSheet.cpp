@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int sheetWidth = 460;
-constexpr int maxSheetHeight = 460;
+constexpr int keysWidth = 460;
+constexpr int maxKeysHeight = 460;
 
 /// Returns the keys as the desktop names them.
 QString shown(const QList<QKeyCombination>& keys, const QString& between = QStringLiteral(", ")) {
@@ -52,7 +52,7 @@ ShortcutsSheet::ShortcutsSheet(QWidget* parent)
         {.name = tr("Fold or open a branch of the tree"), .figure = shown({Qt::Key_Left, Qt::Key_Right})});
     keys->addRow({.name = tr("Read and sort anew"), .figure = shown({Qt::Key_F5})});
     keys->addRow({.name = tr("Leave the row"), .figure = shown({Qt::Key_Escape})});
-    keys->fit(sheetWidth, maxSheetHeight);
+    keys->fit(keysWidth, maxKeysHeight);
     auto* done = new PushButton(tr("Done"), PushButton::Look::prominent);
     done->setDefault(true);
     connect(done, &QPushButton::clicked, this, &QDialog::accept);

@@ -24,7 +24,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int panelMargin = 14;
-constexpr int headSymbolSize = 24;
+constexpr Theme::Length headSymbolSize{24};
 constexpr int listWidth = 250;
 constexpr int maxOpenHeight = 220;
 constexpr int maxCommandLines = 8;

@@ -54,9 +54,9 @@ void Graph::setSmall() {
     updateGeometry();
 }
 
-void Graph::set(Data data) {
-    const bool isOtherLegend = data.series.size() != m_data.series.size();
-    m_data = std::move(data);
+void Graph::set(Data shown) {
+    const bool isOtherLegend = shown.series.size() != m_data.series.size();
+    m_data = std::move(shown);
     if (isOtherLegend)
         updateGeometry();
     describe();

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int nothingSymbolSize = 30;
+constexpr Theme::Length nothingSymbolSize{30};
 
 } // namespace
 

@@ -14,7 +14,7 @@ namespace {
 
 using Branch = ProcessTableRow::Branch;
 
-constexpr int cellPadding = ProcessNamePainter::cellPadding;
+using ProcessNamePainter::cellPadding;
 constexpr int rowBadgeHeight = 14;
 constexpr int rowBadgePadding = 5;
 constexpr int indentStep = 16;

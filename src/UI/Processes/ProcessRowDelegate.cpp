@@ -19,7 +19,7 @@ namespace {
 
 using Kind = ProcessColumn::Kind;
 
-constexpr int cellPadding = ProcessNamePainter::cellPadding;
+using ProcessNamePainter::cellPadding;
 constexpr int buttonSide = ProcessColumn::buttonSide;
 constexpr int buttonSymbol = 17;
 constexpr int lockSymbol = 13;
