@@ -71,7 +71,7 @@ start_program
 check_shown "a danger is shown"
 check "with its text" told "summary: 'Free RAM low'"
 check "as critical" told "urgency: CRITICAL"
-check "under the program's name" told "desktop_entry: 'tavrin'"
+check "under the program's name" told "desktop_entry: 'org.example.tavrin'"
 check "with its actions" told '"free_ram": "Free RAM…"'
 close_window
 dunstctl action

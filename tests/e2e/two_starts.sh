@@ -88,7 +88,7 @@ press "Show floating widget on launch"
 press "Show in task bar"
 check "the task bar entry goes at once" not in_task_bar
 press "General" Right
-press "2s" End
+press "Poll interval" End
 check "the interval is stored" stored "pref.pollIntervalSeconds=10"
 shows "and what follows from it is shown" "Keeps 150 samples for the Overview sparklines."
 press "Sampling" Right
