@@ -165,5 +165,10 @@ void MetricTile::paintFigures(QPainter& painter) {
     if (!m_metric.sub)
         return;
     next(TextStyle::caption2, QFont::Normal, Role::secondaryText);
-    Painting::drawTabular(painter, line, Qt::AlignLeft, *m_metric.sub);
+    const bool isTooWide = painter.fontMetrics().horizontalAdvance(*m_metric.sub) > line.width();
+    const QString between = QStringLiteral(" • ");
+    for (const QString& part : isTooWide ? m_metric.sub->split(between) : QStringList(*m_metric.sub)) {
+        Painting::drawTabular(painter, line, Qt::AlignLeft, part);
+        line.translate(0, line.height());
+    }
 }
