@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxProcessTable.h"
 
 #include "Platform/Child.h"
+#include "Platform/Linux/PageReclaim.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -14,9 +15,11 @@
 #include <unistd.h>
 
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <cstring>
 #include <source_location>
 #include <span>
 #include <thread>
@@ -155,6 +158,44 @@ TEST(ProcessTable, ReadsWhatABusyChildUses) {
         const double atRest = usedByOwnAccount(child, '.');
         EXPECT_NEAR(read(), atRest, tolerance);
     }
+}
+
+TEST(ProcessTable, SeesASleepingProcessLoseASharedFile) {
+    constexpr quint64 bytes = quint64(8) << 20;
+    const int file = memfd_create("shared", MFD_CLOEXEC);
+    ASSERT_EQ(ftruncate(file, bytes), 0);
+    const Child child([file](int socket) {
+        void* memory = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+        std::memset(memory, 'x', bytes);
+        static_cast<void>(!write(socket, "!", 1));
+        waitForCommands(socket);
+    });
+    ASSERT_EQ(child.heard(), '!');
+    LinuxProcessTable table;
+    const auto resident = [&] {
+        listed(table);
+        return table.taskInfo(child.pid()).value().residentBytes;
+    };
+    const quint64 before = resident();
+    EXPECT_EQ(resident(), before);
+    ASSERT_EQ(ftruncate(file, 0), 0);
+    ::close(file);
+    quint64 after = before;
+    for (int pass = 0; pass < 5; ++pass)
+        after = resident();
+    EXPECT_LE(after + bytes, before + (quint64(1) << 20));
+}
+
+TEST(PageReclaim, CountsWhatTheKernelTookByAnyWay) {
+    EXPECT_EQ(
+        PageReclaim::pagesTaken("nr_free_pages 9\npgsteal_kswapd 40\npgscan_kswapd 7\npgsteal_direct 2\n"),
+        42U);
+    EXPECT_EQ(PageReclaim::pagesTaken("nr_free_pages 9\n"), std::nullopt);
+    EXPECT_EQ(PageReclaim::pagesTaken("pgsteal_kswapd \n"), std::nullopt);
+    PageReclaim unknown("/nonexistent");
+    EXPECT_TRUE(unknown.hasWorked() && unknown.hasWorked());
+    PageReclaim real("/proc");
+    EXPECT_TRUE(real.hasWorked());
 }
 
 TEST(ProcessTable, AnswersNothingOfAProcessThatIsGone) {

@@ -24,6 +24,7 @@ constexpr qsizetype descriptorsForTheRest = 128; // a scan of the caches alone t
 constexpr qsizetype hashedBytes = 4096;
 // Restoring a checkpoint starts processes under chosen PIDs, which leave the last PID unchanged.
 constexpr int maxRepeats = 15;
+constexpr int passesPerReading = 5; // of the pages of a process that sleeps, as the header says
 constexpr qsizetype maxArguments = 6 * 1024 * 1024; // the limit of exec(2)
 
 /// Makes the clock id as clock_getcpuclockid(3) does, without its system call.
@@ -62,6 +63,7 @@ quint64 hashOf(QByteArrayView name, QByteArrayView arguments, QByteArrayView exe
 
 LinuxProcessTable::LinuxProcessTable(const std::string& root)
     : m_folder(root)
+    , m_reclaim(root)
     , m_loadAverage(root + "/loadavg")
     , m_descriptorBudget(DescriptorLimit::raised() - descriptorsForTheRest)
     , m_pageSize(static_cast<quint64>(sysconf(_SC_PAGESIZE)))
@@ -70,6 +72,7 @@ LinuxProcessTable::LinuxProcessTable(const std::string& root)
 int LinuxProcessTable::listAllPids(std::span<qint32> pids) {
     const bool unchanged = !hasNewPids() && !m_hasExited && m_repeats < maxRepeats;
     m_repeats = unchanged ? m_repeats + 1 : 0;
+    m_isReclaiming = m_reclaim.hasWorked();
     if (!unchanged) {
         listAnew();
         m_hasExited = false;
@@ -116,7 +119,9 @@ LinuxProcessTable::Process LinuxProcessTable::keptOrNew(const ProcFolder::Row& r
     while (kept != m_processes.end() && kept->pid < row.pid)
         ++kept;
     const bool isKept = kept != m_processes.end() && kept->pid == row.pid;
-    Process process = isKept ? std::move(*kept) : Process{.pid = row.pid};
+    // Not all in the same pass.
+    Process process =
+        isKept ? std::move(*kept) : Process{.pid = row.pid, .passesSincePages = row.pid % passesPerReading};
     if (!isKept || (process.isKernelThread && process.inode != row.inode)) {
         process.inode = row.inode;
         process.isKernelThread = isKernelThread(process);
@@ -182,23 +187,27 @@ std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
 
 /// Sets errno to ESRCH when the process of the descriptors is gone.
 std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
-    const auto pages = pagesOf(process);
-    if (!pages)
-        return std::nullopt;
     const auto cpu = cpuTimeNs(process.pid);
+    const bool hasRun = process.threads == 0 || process.cpuTimeNs != cpu;
+    if (hasRun || m_isReclaiming || ++process.passesSincePages >= passesPerReading) {
+        const auto pages = pagesOf(process);
+        if (!pages)
+            return std::nullopt;
+        process.pages = *pages;
+        process.passesSincePages = 0;
+    }
     if (!cpu)
         return std::nullopt;
-    // A process that has not run has started and ended no thread.
-    if (process.threads == 0 || process.cpuTimeNs != *cpu) {
+    if (hasRun) { // else it has started and ended no thread
         const auto threads = threadCount(process);
         if (!threads)
             return std::nullopt;
         process.threads = *threads;
         process.cpuTimeNs = *cpu;
     }
-    return TaskInfo{.virtualBytes = pages->virtualPages * m_pageSize,
-                    .residentBytes = pages->residentPages * m_pageSize,
-                    .anonymousBytes = pages->anonymousPages * m_pageSize,
+    return TaskInfo{.virtualBytes = process.pages.virtualPages * m_pageSize,
+                    .residentBytes = process.pages.residentPages * m_pageSize,
+                    .anonymousBytes = process.pages.anonymousPages * m_pageSize,
                     .cpuTimeNs = *cpu,
                     .threads = process.threads};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Linux/KernelFile.h"
+#include "Platform/Linux/PageReclaim.h"
 #include "Platform/Linux/ProcFolder.h"
 #include "Platform/Linux/ProcStat.h"
 #include "Platform/ProcessTable.h"
@@ -13,9 +14,12 @@
 /// The processes in procfs without kernel threads.
 ///
 /// For passes over all processes every few seconds. A pass makes at most three system calls per process, the
-/// first and the last on descriptors that stay open from pass to pass:
-///   - `/proc/N/statm` (pread): resident and virtual pages;
+/// last two on descriptors that stay open from pass to pass:
 ///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
+///   - `/proc/N/statm` (pread): resident and virtual pages. A process that has not run has taken no memory,
+///   so
+///     this is read where the clock has moved or the kernel takes memory back, and else at every fifth pass:
+///     a shared file can shrink, and another process can give pages back for it;
 ///   - `/proc/N/task` (fstat), where the clock has moved: two links and one per thread. It is opened once the
 ///     process has run since it was first seen.
 /// The last listing is repeated while no PID was assigned and no listed process has gone. A descriptor of a
@@ -45,6 +49,12 @@ public:
     ProcessInheritance inheritance(qint32 pid, const QByteArrayList& variables) override;
 
 private:
+    struct Pages {
+        quint64 virtualPages = 0;
+        quint64 residentPages = 0;
+        quint64 anonymousPages = 0;
+    };
+
     struct Process {
         qint32 pid = 0;
         KernelFile statm;
@@ -55,13 +65,9 @@ private:
         bool isKernelThread = false;
         int threads = 0; ///< at cpuTimeNs; 0 before the first pass
         quint64 cpuTimeNs = 0;
+        Pages pages; ///< as last read
+        int passesSincePages = 0;
         bool wasHashed = false; ///< by `textHash`
-    };
-
-    struct Pages {
-        quint64 virtualPages = 0;
-        quint64 residentPages = 0;
-        quint64 anonymousPages = 0;
     };
 
     bool hasNewPids();
@@ -85,6 +91,8 @@ private:
     bool statOf(qint32 pid, const char* name, struct stat& result) const;
 
     ProcFolder m_folder;
+    PageReclaim m_reclaim;
+    bool m_isReclaiming = true; ///< in this pass or since the last one
     KernelFile m_loadAverage;
     std::string m_lastPid;            ///< of m_loadAverage at the last call
     std::vector<qint32> m_listed;     ///< of the last listing, without kernel threads
