@@ -2050,7 +2050,7 @@
     </message>
     <message>
         <source> • pressure %1 %</source>
-        <translation> • 圧迫 %1 %</translation>
+        <translation> • 圧迫 %1%</translation>
     </message>
     <message>
         <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>

@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Scanned %1</source>
-        <translation>扫描于 %1</translation>
+        <translation>扫描：%1</translation>
     </message>
     <message>
         <source>Not in Clean All.</source>
@@ -2050,7 +2050,7 @@
     </message>
     <message>
         <source> • pressure %1 %</source>
-        <translation> • 压力 %1 %</translation>
+        <translation> • 压力 %1%</translation>
     </message>
     <message>
         <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>

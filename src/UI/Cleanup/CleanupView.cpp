@@ -38,7 +38,7 @@ CleanupView::CleanupView(AppModel& model, Preferences& preferences, QWidget* par
     , m_model(model)
     , m_preferences(preferences)
     , m_total((new TextLabel(TextStyle::callout))->secondary())
-    , m_result(new TextLabel(TextStyle::callout))
+    , m_result(new ClampedLabel(2, TextStyle::callout))
     , m_showAll(new QCheckBox(tr("Show all")))
     , m_rescan(new PushButton(tr("Rescan"), PushButton::Look::normal, QStringLiteral("arrow.clockwise")))
     , m_cleanAll(new PushButton(tr("Clean All"), PushButton::Look::prominent, QStringLiteral("trash.fill")))

@@ -7,6 +7,7 @@
 
 class AppModel;
 class CacheCard;
+class ClampedLabel;
 class FlowGrid;
 class Preferences;
 class QCheckBox;
@@ -46,7 +47,7 @@ private:
     bool m_wasCancelled = false; ///< the run of the last result
 
     TextLabel* m_total;
-    TextLabel* m_result;
+    ClampedLabel* m_result;
     QCheckBox* m_showAll;
     PushButton* m_rescan;
     PushButton* m_cleanAll;

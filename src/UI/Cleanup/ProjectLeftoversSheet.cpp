@@ -47,7 +47,7 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     , m_model(model)
     , m_leftovers(model.projectLeftovers())
     , m_preferences(preferences)
-    , m_sources((new TextLabel(TextStyle::caption))->secondary())
+    , m_sources(new ClampedLabel(2, TextStyle::caption))
     , m_addFolder(new PushButton(tr("Add folder…")))
     , m_home(new PushButton(tr("Home folder")))
     , m_search(new SearchField(tr("Search projects")))
@@ -107,6 +107,7 @@ QLayout* ProjectLeftoversSheet::makeHeader() {
 }
 
 QLayout* ProjectLeftoversSheet::makeSources() {
+    m_sources->secondary();
     m_sources->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_search->setFixedWidth(leftoverSearchWidth);
     auto* row = new QHBoxLayout;
@@ -222,7 +223,6 @@ void ProjectLeftoversSheet::refresh() {
         folders.append(LeftoverTexts::pathOf(QFile::encodeName(folder)));
     m_sources->setPlainText(folders.isEmpty() ? tr("Looks in the home folder, without hidden folders")
                                               : tr("Looks in %1").arg(Formatters::list(folders)));
-    m_sources->setToolTip(Formatters::toolTip(m_sources->text()));
     m_home->setVisible(!folders.isEmpty());
     const bool isIdle = !m_leftovers.isSearching() && !m_leftovers.isRemoving();
     for (PushButton* button : {m_addFolder, m_home, m_rescan})

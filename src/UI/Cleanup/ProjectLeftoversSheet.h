@@ -51,7 +51,7 @@ private:
     QSet<QByteArray> m_asked;  ///< paths of projects whose changes were asked for
     bool m_isAsking = false;
 
-    TextLabel* m_sources;
+    ClampedLabel* m_sources;
     PushButton* m_addFolder;
     PushButton* m_home;
     SearchField* m_search;
