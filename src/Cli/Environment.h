@@ -18,7 +18,7 @@ struct Environment {
     Preferences& preferences;
     Terminal& terminal;
     RunningProgram& running;
-    std::chrono::milliseconds betweenReadings{200}; ///< of the counters that loads are made of
+    std::chrono::milliseconds betweenReadings{100}; ///< of the counters that loads are made of
     QString version = {};
     bool wantsColour = true;                       ///< on a terminal
     std::function<void(AppModel& model)> adjust{}; ///< called with a new model, in tests only
