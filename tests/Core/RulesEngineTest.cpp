@@ -205,6 +205,11 @@ TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrAnotherUsers) {
     EXPECT_EQ(evaluate().first().actionPid, std::nullopt);
     processes = {ourselves};
     EXPECT_EQ(evaluate().first().detail, u"95% total — top: —"_s);
+
+    // The display takes every program with it.
+    processes = {process(3, u"Xorg"_s, ProcGroup::other, 91, GiB, 0), mine};
+    EXPECT_EQ(evaluate().first().detail, u"95% total — top: Xorg"_s);
+    EXPECT_EQ(evaluate().first().actionPid, std::nullopt);
 }
 
 TEST_F(RulesEngineTest, ThresholdsThatNoByteCountExpressesSkipTheirRule) {

@@ -2,6 +2,7 @@
 
 #include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Formatters.h"
+#include "Core/Relief/ProtectedProcesses.h"
 #include "Core/Sampling/ProcessFilter.h"
 #include "Core/Translations.h"
 #include "Platform/Identity.h"
@@ -173,12 +174,14 @@ std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample
     const ProcSample* named = target ? target : busiest(processes, [&](const ProcSample& process) {
         return process.pid != identity.processId();
     });
+    const ProtectedProcesses kept(processes, identity.processId());
     return Alert{.id = u"cpu_hot"_s,
                  .severity = Severity::warn,
                  .title = QCoreApplication::translate("RulesEngine", "CPU saturated"),
                  .detail = QCoreApplication::translate("RulesEngine", "%1 total — top: %2")
                                .arg(Formatters::percent(system.cpuPercent), named ? named->name : u"—"_s),
-                 .actionPid = target ? std::optional(target->pid) : std::nullopt};
+                 .actionPid =
+                     target && !kept.contains(target->pid) ? std::optional(target->pid) : std::nullopt};
 }
 
 Alert thermalAlert(ThermalState state) {
