@@ -85,6 +85,8 @@ public:
             listing.bytes += share.entry.bytes;
             listing.entries.push_back(std::move(share.entry));
         }
+        // As a preview shows them, which has no time to sort.
+        std::ranges::stable_sort(listing.entries, std::ranges::greater(), &CleanupListing::Entry::bytes);
     }
 
 private:

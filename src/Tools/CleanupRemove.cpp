@@ -252,6 +252,18 @@ private:
     int m_firstError = 0;
 };
 
+/// Returns the entries folder by folder, each by the inodes, in whose order a disk has what a removal reads.
+std::vector<const CleanupListing::Entry*> inOrderOfTheDisk(const CleanupListing& listing) {
+    std::vector<const CleanupListing::Entry*> entries;
+    for (const CleanupListing::Entry& entry : listing.entries)
+        entries.push_back(&entry);
+    std::ranges::sort(entries, {}, [](const CleanupListing::Entry* entry) {
+        const std::string_view path = entry->path;
+        return std::pair(path.substr(0, path.rfind('/') + 1), entry->inode);
+    });
+    return entries;
+}
+
 } // namespace
 
 CleanupListing Tools::checkEntries(const Folder& folder, const CleanupListing& listing,
@@ -267,7 +279,8 @@ Remainder Tools::removeEntries(const Folder& folder, const CleanupListing& listi
     Locator locator(folder, scope);
     Remover remover(scope, listing.listed, goesOn);
     Remainder remainder;
-    for (const CleanupListing::Entry& entry : listing.entries) {
+    for (const CleanupListing::Entry* each : inOrderOfTheDisk(listing)) {
+        const CleanupListing::Entry& entry = *each;
         const auto found = locator.find(entry);
         const int error = errno;
         Outcome outcome = Outcome::kept;

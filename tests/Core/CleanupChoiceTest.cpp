@@ -35,7 +35,7 @@ quint64 together(QList<CacheTarget> targets) {
 struct CleanupChoiceTest : testing::Test {
     CleanupChoice::Index named(const CleanupChoice& choice, const QString& name,
                                CleanupChoice::Index above = CleanupChoice::top) {
-        for (const auto child : choice.node(above).children) {
+        for (const auto child : choice.children(above)) {
             if (choice.nameOf(child) == name)
                 return child;
             if (const auto below = named(choice, name, child))
@@ -45,7 +45,7 @@ struct CleanupChoiceTest : testing::Test {
     }
     QStringList shownIn(const CleanupChoice& choice, CleanupChoice::Index above = CleanupChoice::top) {
         QStringList names;
-        for (const auto child : choice.node(above).shown)
+        for (const auto child : choice.shown(above))
             names.append(choice.nameOf(child));
         return names;
     }
@@ -93,9 +93,9 @@ TEST_F(CleanupChoiceTest, WhatAProgramUsesAndWhatIsInsideAreChosenOnTheirOwn) {
     EXPECT_EQ(part.sizeBytes, 6u);
     EXPECT_TRUE(part.listing.contains(" b/x") && !part.listing.contains(" b/y") &&
                 !part.listing.contains(" - c"));
-    choice.setTicked(choice.node(CleanupChoice::top).children[0], true);
+    choice.setTicked(choice.children(CleanupChoice::top)[0], true);
     EXPECT_EQ(choice.sum(), (CleanupChoice::Sum{17, 4, 0})) << "by hand even what is in use";
-    choice.setTicked(choice.node(CleanupChoice::top).children[0], false);
+    choice.setTicked(choice.children(CleanupChoice::top)[0], false);
     EXPECT_TRUE(choice.chosen().isEmpty());
 }
 
@@ -103,7 +103,7 @@ TEST_F(CleanupChoiceTest, OrderAndFilter) {
     CleanupChoice choice(
         {targetOf(u"npm"_s, {{u"/h"_s, listingOf({{"Bb", 5}, {"ab", 3}, {"caf\xe9\n", 9}})}})},
         Levels::ofFolders);
-    const auto folder = choice.node(CleanupChoice::top).shown[0];
+    const auto folder = choice.shown(CleanupChoice::top)[0];
     EXPECT_EQ(shownIn(choice, folder)[1], u"Bb"_s) << "the largest first";
     choice.sort(CleanupChoice::Order::name, false);
     EXPECT_EQ(shownIn(choice, folder).first(2), (QStringList{u"Bb"_s, u"ab"_s}));
@@ -126,7 +126,7 @@ TEST_F(CleanupChoiceTest, AnEntryIsFoundByWhatAPersonCallsIt) {
         targetOf(u"models"_s, {{u"/h/blobs"_s, listingOf({{"sha256-9", 7}, {"sha256-1", 4}})}});
     models.listed[0].names = {{u"sha256-9"_s, u"a:8b"_s}, {u"sha256-1"_s, u"b:1b"_s}};
     CleanupChoice choice({models}, Levels::ofFolders);
-    const auto folder = choice.node(CleanupChoice::top).shown[0];
+    const auto folder = choice.shown(CleanupChoice::top)[0];
     choice.sort(CleanupChoice::Order::name, false);
     EXPECT_EQ(shownIn(choice, folder), (QStringList{u"a:8b — sha256-9"_s, u"b:1b — sha256-1"_s}));
     choice.filter(u"b:1"_s);

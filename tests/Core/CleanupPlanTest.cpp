@@ -80,7 +80,7 @@ TEST(CleanupPlan, ReadsAListingUpToTheFirstMalformedRecord) {
         CleanupPlan::ListingReader reader(text);
         QByteArrayList read;
         while (const auto entry = reader.next())
-            read.append(entry->path);
+            read.append(entry->path.toByteArray());
         EXPECT_EQ(read, paths) << text.toStdString();
     }
 }

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "Core/Cleanup/CacheTarget.h"
+#include "Core/Cleanup/CleanupPlan.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
-#include <optional>
 #include <vector>
 
 /// What a scan found, as a tree in which each part is chosen or left out: targets, their folders, the entries
@@ -24,6 +24,7 @@ public:
     using Index = qint32;
     static constexpr Index top = 0;
 
+    /// Takes 40 bytes, as there may be a million: `entryOf` has the rest of an entry.
     struct Node {
         Kind kind = Kind::note;
         Tick tick = Tick::all;
@@ -31,17 +32,13 @@ public:
         bool isInUse = false;
         bool isListed = false; ///< its inside is known
         bool isShown = true;   ///< by the filter
+        qint16 target = 0;
         Index parent = top;
-        qint32 row = 0; ///< among the shown children of its parent
-        qint32 target = 0;
+        qint32 row = 0;     ///< among the shown children of its parent
         qint32 folder = -1; ///< of its target
+        qint32 branch = -1; ///< what is in it; -1 for nothing
         quint64 sizeBytes = 0;
-        std::optional<qint64> modified; ///< seconds since 1970
-        QString text;                   ///< of a target, folder or note; of an entry what a person calls it
-        QByteArrayView path;            ///< of an entry, relative to its folder
-        QByteArrayView record;          ///< of an entry, in its listing
-        std::vector<Index> children;
-        std::vector<Index> shown; ///< those that the filter lets pass, in order
+        const char* record = nullptr; ///< of an entry, in its listing, up to the NUL
     };
 
     /// The parts that are to go.
@@ -59,7 +56,12 @@ public:
     CleanupChoice(QList<CacheTarget> targets, Levels levels);
 
     const Node& node(Index index) const { return m_nodes[static_cast<std::size_t>(index)]; }
+    const std::vector<Index>& children(Index index) const { return branchOf(index).children; }
+    /// Returns the children that the filter lets pass, in order.
+    const std::vector<Index>& shown(Index index) const { return branchOf(index).shown; }
     const QList<CacheTarget>& targets() const { return m_targets; }
+    /// Returns what its listing says of an entry; of another node nothing.
+    CleanupPlan::Entry entryOf(Index index) const;
     /// Returns the last part of an entry's path, behind what a person calls it, or the text of another node.
     QString nameOf(Index index) const;
     /// Returns the absolute path of a folder or an entry, else an empty text.
@@ -73,35 +75,51 @@ public:
     bool insert(Index index, const QByteArray& listing);
 
     void sort(Order order, bool isDescending);
+    bool isSortedBy(Order order, bool isDescending) const {
+        return order == m_order && isDescending == m_isDescending;
+    }
     /// Shows the nodes whose name contains the text, in any case, with those above and below them.
     void filter(const QString& text);
 
     Sum sum() const;
+    /// Returns whether nothing is to go.
+    bool isEmpty() const { return m_targets.isEmpty() || node(top).tick == Tick::none; }
     /// Returns the targets with what is to go of them in `listed`, those without anything left out.
-    QList<CacheTarget> chosen() const;
+    QList<CacheTarget> chosen() const { return chosen(Listings::whole); }
     /// Returns the paths that were left out by hand, the topmost of each.
     QStringList leftOut() const;
 
 private:
+    enum class Listings { whole, headersOnly };
+    struct Branch {
+        std::vector<Index> children;
+        std::vector<Index> shown;
+    };
+
     Node& at(Index index) { return m_nodes[static_cast<std::size_t>(index)]; }
-    Index add(Index parent, Node node);
-    void addTarget(qint32 target, Index parent);
-    void addVolumes(qint32 index, Index parent);
-    void addEntries(Index parent, qint32 target, qint32 folder, QByteArrayView listing);
+    const Branch& branchOf(Index index) const;
+    Branch& growBranch(Index index);
+    Index add(Index parent, Node node, const QString& text = {});
+    void addTarget(qint16 target, Index parent);
+    void addVolumes(qint16 index, Index parent);
+    void addEntries(Index parent, qint16 target, qint32 folder, QByteArrayView listing);
     bool isPart(Index index) const;
     std::vector<Index> withAllBelow(Index index) const;
     void followTicks(Index index);
     void arrange(Index index);
-    bool comesBefore(Index a, Index b) const;
-    void collect(Index index, QByteArray& listing, quint64& bytes) const;
-    void count(Index index, Sum& sum) const;
+    void putInOrder(std::vector<Index>& nodes) const;
+    void collect(Index index, ListedFolder& part, Listings listings) const;
     void leaveOut(Index index, QStringList& paths) const;
-    QList<ListedFolder> chosenFolders(Index index) const;
+    QList<CacheTarget> chosen(Listings listings) const;
+    QList<ListedFolder> chosenFolders(Index index, Listings listings) const;
 
     QList<CacheTarget> m_targets;
     Levels m_levels;
     QList<QByteArray> m_listings; ///< that the views of the nodes point into
     std::vector<Node> m_nodes;
+    std::vector<Branch> m_branches;
+    /// Of targets, folders and notes; of an entry what a person calls it.
+    QHash<Index, QString> m_texts;
     Order m_order = Order::size;
     bool m_isDescending = true;
 };

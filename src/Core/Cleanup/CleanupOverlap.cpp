@@ -65,7 +65,7 @@ QSet<QByteArray> pathsOf(const ListedFolder& folder) {
     QSet<QByteArray> paths;
     CleanupPlan::ListingReader reader(folder.listing);
     while (const auto entry = reader.next())
-        paths.insert(entry->path);
+        paths.insert(entry->path.toByteArray());
     return paths;
 }
 
@@ -93,7 +93,7 @@ quint64 coveredBytes(const Part& inner, const QList<const Part*>& outers) {
     quint64 bytes = 0;
     CleanupPlan::ListingReader reader(inner.folder->listing);
     while (const auto entry = reader.next()) {
-        const QByteArray path = inner.root + '/' + entry->path;
+        const QByteArray path = inner.root + '/' + entry->path.toByteArray();
         const auto coversIt = [&](const Part* outer) { return covers(*outer, path); };
         bytes += std::ranges::any_of(outers, coversIt) ? entry->sizeBytes : 0;
     }

@@ -125,7 +125,7 @@ QWidget* CacheDetailDrawer::makeBreakdown() {
 void CacheDetailDrawer::refresh() {
     const quint64 bytes = m_preview ? m_preview->sum().bytes : m_target.sizeBytes;
     m_clean->setText(tr("Clean %1").arg(Formatters::bytes(bytes)));
-    m_clean->setEnabled(bytes > 0 && (!m_preview || !m_preview->chosen().isEmpty()));
+    m_clean->setEnabled(bytes > 0 && (!m_preview || !m_preview->isEmpty()));
     if (m_trash)
         m_trash->setEnabled(m_preview && m_clean->isEnabled());
 }

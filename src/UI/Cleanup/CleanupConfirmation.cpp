@@ -42,7 +42,7 @@ void CleanupConfirmation::askAll(
     const auto refresh = [preview, button] {
         button->setText(QCoreApplication::translate("CleanupConfirmation", "Clean %1")
                             .arg(Formatters::bytes(preview->sum().bytes)));
-        button->setEnabled(preview->sum().bytes > 0 && !preview->chosen().isEmpty());
+        button->setEnabled(preview->sum().bytes > 0 && !preview->isEmpty());
     };
     refresh();
     QObject::connect(preview, &CleanupPreview::changed, button, refresh);

@@ -56,6 +56,10 @@ QList<CacheTarget> CleanupPreview::chosen() const {
     return m_model->choice().chosen();
 }
 
+bool CleanupPreview::isEmpty() const {
+    return m_model->choice().isEmpty();
+}
+
 QStringList CleanupPreview::leftOut() const {
     return m_model->choice().leftOut();
 }
@@ -63,7 +67,9 @@ QStringList CleanupPreview::leftOut() const {
 void CleanupPreview::listInside(CleanupChoice::Index index) {
     const CleanupChoice::Node& node = m_model->choice().node(index);
     const CacheTarget& target = m_model->choice().targets()[node.target];
-    m_cleanup.listInside(target.rule, target.listed[node.folder].path, node.path.toByteArray())
+    m_cleanup
+        .listInside(target.rule, target.listed[node.folder].path,
+                    m_model->choice().entryOf(index).path.toByteArray())
         .then([self = QPointer<CleanupPreview>(this), index](const Result<QByteArray>& listing) {
             if (!self)
                 return;

@@ -22,6 +22,8 @@ public:
     /// Returns the targets with what is to go of them.
     QList<CacheTarget> chosen() const;
     CleanupChoice::Sum sum() const { return m_sum; }
+    /// Returns whether nothing is to go.
+    bool isEmpty() const;
     /// Returns the paths that the user left out.
     QStringList leftOut() const;
 

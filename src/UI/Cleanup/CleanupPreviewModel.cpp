@@ -43,7 +43,8 @@ QModelIndex CleanupPreviewModel::at(CleanupChoice::Index node, int column) const
 QModelIndex CleanupPreviewModel::index(int row, int column, const QModelIndex& parent) const {
     if (!hasIndex(row, column, parent))
         return {};
-    return at(node(parent).shown[static_cast<std::size_t>(row)], column);
+    const CleanupChoice::Index node = m_choice.shown(nodeOf(parent))[static_cast<std::size_t>(row)];
+    return createIndex(row, column, static_cast<quintptr>(node));
 }
 
 QModelIndex CleanupPreviewModel::parent(const QModelIndex& child) const {
@@ -51,7 +52,7 @@ QModelIndex CleanupPreviewModel::parent(const QModelIndex& child) const {
 }
 
 int CleanupPreviewModel::rowCount(const QModelIndex& parent) const {
-    return parent.column() > 0 ? 0 : static_cast<int>(node(parent).shown.size());
+    return parent.column() > 0 ? 0 : static_cast<int>(m_choice.shown(nodeOf(parent)).size());
 }
 
 int CleanupPreviewModel::columnCount(const QModelIndex&) const {
@@ -60,7 +61,7 @@ int CleanupPreviewModel::columnCount(const QModelIndex&) const {
 
 bool CleanupPreviewModel::hasChildren(const QModelIndex& parent) const {
     const CleanupChoice::Node& found = node(parent);
-    return !found.shown.empty() || (found.isFolder && !found.isListed);
+    return !m_choice.shown(nodeOf(parent)).empty() || (found.isFolder && !found.isListed);
 }
 
 bool CleanupPreviewModel::canFetchMore(const QModelIndex& parent) const {
@@ -106,7 +107,10 @@ void CleanupPreviewModel::filter(const QString& text) {
 void CleanupPreviewModel::sort(int column, Qt::SortOrder order) {
     using Order = CleanupChoice::Order;
     const Order orders[] = {Order::name, Order::size, Order::age};
-    rearrange([&] { m_choice.sort(orders[std::clamp(column, 0, 2)], order == Qt::DescendingOrder); });
+    const Order wanted = orders[std::clamp(column, 0, 2)];
+    const bool isDescending = order == Qt::DescendingOrder;
+    if (!m_choice.isSortedBy(wanted, isDescending))
+        rearrange([&] { m_choice.sort(wanted, isDescending); });
 }
 
 /// Changes rows, and keeps what is open and selected.
@@ -133,9 +137,9 @@ QString CleanupPreviewModel::text(const QModelIndex& index) const {
     default:
         break;
     }
-    if (!found.modified)
+    if (found.kind != Kind::entry)
         return {};
-    const Instant modified = Instant(std::chrono::seconds(*found.modified));
+    const Instant modified = Instant(std::chrono::seconds(m_choice.entryOf(nodeOf(index)).modified));
     return Formatters::ago(std::chrono::duration<double>(m_now - modified).count());
 }
 

@@ -102,12 +102,13 @@ CleanupPreviewView::CleanupPreviewView(CleanupPreviewModel& model, QWidget* pare
     setRootIsDecorated(true);
     setIndentation(previewIndentation);
     setSelectionMode(ExtendedSelection);
+    header()->setSortIndicator(CleanupPreviewModel::size, Qt::DescendingOrder); // as the model is already
     setSortingEnabled(true);
-    sortByColumn(CleanupPreviewModel::size, Qt::DescendingOrder);
     connect(&model, &CleanupPreviewModel::ticksChanged, viewport(), QOverload<>::of(&QWidget::update));
     for (int row = 0; row < model.rowCount(); ++row) {
-        if (model.node(model.index(row, 0)).kind != CleanupChoice::Kind::target)
-            expand(model.index(row, 0));
+        const QModelIndex index = model.index(row, 0);
+        if (model.node(index).kind != CleanupChoice::Kind::target && model.rowCount(index) > 0)
+            expand(index);
     }
 }
 

@@ -34,7 +34,8 @@ void listing(const QByteArray& found) {
     CleanupPlan::ListingReader both(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
     for (const auto& entry : parsed->entries) {
         const auto same = both.next();
-        Fuzz::require(same && same->path.toStdString() == entry.path && same->sizeBytes == entry.bytes);
+        Fuzz::require(same && same->path.toByteArray().toStdString() == entry.path &&
+                      same->sizeBytes == entry.bytes);
     }
     Fuzz::require(!both.next());
 }
