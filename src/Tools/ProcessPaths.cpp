@@ -1,55 +1,33 @@
 #include "Tools/ProcessPaths.h"
 
-#include "Tools/Folder.h"
+#include "Tools/ProcessFolder.h"
 
 #include <climits>
 #include <unistd.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <optional>
 
 using namespace Tools;
 
 namespace {
-
-constexpr std::size_t maxArguments = 1 << 20;
 
 bool isAtOrBelow(const std::string& path, const std::string& folder) {
     return path.starts_with(folder) &&
            (path.size() == folder.size() || folder.ends_with('/') || path[folder.size()] == '/');
 }
 
-std::string targetOf(const Folder& folder, const std::string& name) {
+std::string targetOf(int folder, const char* link) {
     char target[PATH_MAX];
-    const ssize_t length = readlinkat(folder.descriptor(), name.c_str(), target, sizeof target);
+    const ssize_t length = readlinkat(folder, link, target, sizeof target);
     return length > 0 ? std::string(target, static_cast<std::size_t>(length)) : std::string();
 }
 
-std::string beginOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string text(maxArguments, '\0');
-    file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(file.gcount()));
-    return text;
-}
-
 /// Returns the paths of one process, some of them more than once.
-std::vector<std::string> pathsOf(const Folder& process, const std::string& path) {
-    std::vector<std::string> paths{targetOf(process, "cwd"), targetOf(process, "exe")};
-    const auto open = process.openBelow("fd");
-    const auto files = open ? open->names() : std::nullopt;
-    for (const std::string& name : files.value_or(std::vector<std::string>()))
-        paths.push_back(targetOf(*open, name));
-    std::ifstream maps(path + "/maps");
-    for (std::string line; std::getline(maps, line);) {
-        const std::size_t start = line.find('/');
-        if (start != std::string::npos &&
-            (paths.empty() || line.compare(start, line.npos, paths.back()) != 0))
-            paths.push_back(line.substr(start));
-    }
-    const std::string arguments = beginOf(path + "/cmdline");
+std::vector<std::string> pathsOf(const ProcessFolder& process) {
+    std::vector<std::string> paths;
+    process.forEachLink([&paths](int folder, const char* link) { paths.push_back(targetOf(folder, link)); });
+    process.forEachMapped([&paths](const std::string& path) { paths.push_back(path); });
+    const std::string arguments = process.text("cmdline");
     for (std::size_t at = 0; at < arguments.size();) {
         const std::size_t end = std::min(arguments.find('\0', at), arguments.size());
         if (arguments[at] == '/')
@@ -62,24 +40,16 @@ std::vector<std::string> pathsOf(const Folder& process, const std::string& path)
 } // namespace
 
 ProcessPaths::ProcessPaths(const std::string& procFolder, const std::vector<std::string>& folders) {
-    const auto proc = Folder::open(procFolder);
-    const auto names = proc ? proc->names() : std::nullopt;
-    const std::string own = std::to_string(getpid());
-    for (const std::string& name : names.value_or(std::vector<std::string>())) {
-        const bool isProcess = std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
-        const auto process = isProcess && name != own ? proc->openBelow(name) : std::nullopt;
-        if (!process)
-            continue;
-        const std::string path = procFolder + '/' + name;
-        std::string command = beginOf(path + "/comm");
+    ProcessFolder::forEach(procFolder, [&](const ProcessFolder& process) {
+        std::string command = process.text("comm");
         while (command.ends_with('\n'))
             command.pop_back();
-        for (std::string& used : pathsOf(*process, path)) {
+        for (std::string& used : pathsOf(process)) {
             const auto holdsIt = [&used](const std::string& folder) { return isAtOrBelow(used, folder); };
             if (std::ranges::any_of(folders, holdsIt))
                 m_paths.emplace_back(std::move(used), command);
         }
-    }
+    });
     std::ranges::sort(m_paths);
     const auto surplus = std::ranges::unique(m_paths);
     m_paths.erase(surplus.begin(), surplus.end());
