@@ -3,107 +3,26 @@
 // machine busy. The home folder that it scans is temporary, in the working directory.
 
 #include "Core/Cleanup/CacheScanner.h"
-#include "Platform/Clock.h"
-#include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Platform.h"
 #include "Platform/Unix/UnixToolRunner.h"
+#include "ScanHome.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <ctime>
-#include <filesystem>
 #include <memory>
-#include <string>
-#include <string_view>
 #include <vector>
 
-#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int rounds = 7;
-constexpr int filesPerFolder = 250;
-
-struct Part {
-    const char* folder;
-    int files;
-    bool old = false;
-};
-
-// 300,000 files over the places of all targets.
-constexpr Part parts[] = {
-    {".npm/_cacache", 60000},
-    {".npm/_npx", 20000},
-    {".pnpm-store", 20000},
-    {".yarn/cache", 5000},
-    {".cache/yarn", 10000},
-    {".cache/uv", 40000},
-    {".cache/pip", 10000},
-    {".cache/Homebrew", 1000},
-    {".cache/ms-playwright", 10000},
-    {".cache/org.swift.swiftpm", 5000},
-    {".cache/other", 40000},
-    {".cargo/registry/cache", 5000},
-    {"go/pkg/mod/cache", 30000},
-    {"Library/Developer/Xcode/DerivedData", 2000},
-    {"Library/Logs", 1000},
-    {".claude/plugins/cache", 2000},
-    {".local/share/Trash/files", 4000},
-    {"tmp", 20000, true},
-    {"tmp/new", 5000},
-    {"Downloads", 5000, true},
-    {"Downloads/new", 4000},
-    {"Desktop", 1000, true},
-};
-
-/// Replaces the machine's own /tmp.
-class BenchPlaces : public FreedesktopPlaces {
-public:
-    QList<Place> locate(const QString& path) const override {
-        return FreedesktopPlaces::locate(path == u"/tmp" ? u"~/tmp"_s : path);
-    }
-};
-
-/// A file's status change cannot be set, so the clock is ahead.
-class BenchClock : public SystemClock {
-public:
-    static constexpr auto ahead = std::chrono::hours(24 * 400);
-
-    std::chrono::system_clock::time_point now() override { return SystemClock::now() + ahead; }
-};
-
-void makeHome(const std::string& home) {
-    for (const Part& part : parts) {
-        for (int i = 0; i < part.files; ++i) {
-            const std::string folder =
-                home + '/' + part.folder + "/folder " + std::to_string(i / filesPerFolder);
-            if (i % filesPerFolder == 0)
-                std::filesystem::create_directories(folder);
-            const std::string path = folder + "/Screen file " + std::to_string(i);
-            const int file = open(path.c_str(), O_CREAT | O_WRONLY, 0600);
-            if (std::string_view(part.folder) == "Desktop")
-                static_cast<void>(!write(file, "\x89PNG\r\n\x1a\n", 8));
-            constexpr std::chrono::seconds ahead = BenchClock::ahead;
-            const std::time_t written = part.old ? 1000000000 : std::time(nullptr) + ahead.count();
-            const timespec times[] = {{written, 0}, {written, 0}};
-            futimens(file, times);
-            close(file);
-        }
-    }
-}
 
 /// Makes one background job per target, its own commands one after another.
 QString script(const QList<CacheTarget>& measured) {
@@ -146,16 +65,12 @@ double median(std::vector<double> values) {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    const QTemporaryDir home(QDir::currentPath() + u"/scan_bench-XXXXXX"_s);
-    qputenv("HOME", QFile::encodeName(home.path()));
-    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
-        qunsetenv(variable);
-    makeHome(home.path().toStdString());
+    const ScanHome home;
 
     Platform platform;
     platform.tools = std::make_shared<UnixToolRunner>();
-    platform.places = std::make_shared<BenchPlaces>();
-    platform.clock = std::make_shared<BenchClock>();
+    platform.places = std::make_shared<ScanPlaces>();
+    platform.clock = std::make_shared<ScanClock>();
 
     QList<CacheTarget> measured;
     QString commands;

@@ -19,6 +19,7 @@ struct ToolRequest {
     std::stop_token stop = {};                             ///< terminates it as the timeout does
     /// Is called with each whole line of its standard output as it comes, without the line break.
     std::function<void(const QByteArray&)> onOutput = {};
+    char lineEnd = '\n'; ///< of the lines for `onOutput`
 };
 
 struct ToolResult {

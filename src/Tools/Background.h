@@ -2,7 +2,8 @@
 
 namespace Tools {
 
-/// Gives this program, and threads that it starts later, the disk only while no other program needs it.
-void yieldTheDisk();
+/// Puts this program, and threads that it starts later, behind all others: at the lowest priority, and with
+/// the disk only while no other program needs it.
+void workBehindAll();
 
 } // namespace Tools

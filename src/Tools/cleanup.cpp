@@ -256,7 +256,7 @@ int main(int argc, char** argv) {
     }
     std::ios::sync_with_stdio(false);
     if (command->verb != Verb::remove)
-        yieldTheDisk();
+        workBehindAll();
     if (command->verb == Verb::open) {
         std::cout << textOf(openFiles("/proc")) << std::flush;
         return std::cout ? 0 : 1;

@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: du -sk -x PATH\n";
         return usageError;
     }
-    yieldTheDisk();
+    workBehindAll();
     const std::string path = withoutSurplusSlashes(argv[3]);
     std::uint64_t messages = 0;
     const auto size = measureFolder(path, [&messages](const UnreadEntry& entry) {

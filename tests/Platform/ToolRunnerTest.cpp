@@ -137,6 +137,12 @@ TEST(ToolRunner, PassesOnLinesAsTheyComeAndWaitsForTheNext) {
     EXPECT_LT(time.elapsed(), 3000);
     EXPECT_EQ(lines, QByteArrayList({"one"}));
     EXPECT_TRUE(silent.output.isEmpty());
+
+    lines.clear();
+    request.arguments[1] = u"printf 'two\\nlines\\0last\\0end'"_s;
+    request.lineEnd = '\0';
+    QCoro::waitFor(runner.run(request));
+    EXPECT_EQ(lines, QByteArrayList({"two\nlines", "last"}));
 }
 
 TEST(ToolRunner, PassesOnWhatTheToolIsToRead) {
@@ -169,7 +175,7 @@ TEST(ToolRunner, EndsAToolWhenAskedToWhateverItHasStarted) {
 
 TEST(ToolRunner, RunsItsChildrenBehindEverythingElse) {
     const int expected = std::min(19, getpriority(PRIO_PROCESS, 0) + 10);
-    EXPECT_EQ(runShell(u"nice"_s).output.trimmed().toInt(), expected);
+    EXPECT_EQ(runShell(u"sleep 0.2; nice"_s).output.trimmed().toInt(), expected);
     EXPECT_EQ(runShell(u"ionice -p $$"_s).output, "best-effort: prio 7\n");
 }
 

@@ -25,7 +25,8 @@ public:
         }
         const ToolResult result = answer(request);
         if (request.onOutput) {
-            for (const QByteArray& line : result.output.split('\n').mid(0, result.output.count('\n')))
+            const char end = request.lineEnd;
+            for (const QByteArray& line : result.output.split(end).mid(0, result.output.count(end)))
                 request.onOutput(line);
         }
         co_return result;

@@ -18,6 +18,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,13 +49,12 @@ constexpr std::chrono::seconds killTimeout{1};
 constexpr int cannotStart = 126;
 
 /// Runs in the child before its program, with calls that are safe after a fork.
-void prepareChild(pid_t parent, int niceness, const rlimit& descriptors) {
+void prepareChild(pid_t parent, const rlimit& descriptors) {
     // ioprio_set(2), whose header C++ cannot read: the class in the upper bits, the level in the lower 13.
     constexpr int thisProcess = 1;
     constexpr int bestEffort = 2;
     constexpr int lowestPriority = 7;
     setpgid(0, 0);
-    setpriority(PRIO_PROCESS, 0, niceness);
     syscall(SYS_ioprio_set, thisProcess, 0, bestEffort << 13 | lowestPriority);
     setrlimit(RLIMIT_NOFILE, &descriptors);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -68,10 +69,15 @@ void configure(QProcess& process, const ToolRequest& request, bool captureErrors
         process.setStandardErrorFile(QProcess::nullDevice());
     if (!request.captureOutput && !request.onOutput)
         process.setStandardOutputFile(QProcess::nullDevice());
-    constexpr int niceIncrement = 10;
     process.setChildProcessModifier(
-        [parent = getpid(), niceness = getpriority(PRIO_PROCESS, 0) + niceIncrement,
-         descriptors = DescriptorLimit::atStart()] { prepareChild(parent, niceness, descriptors); });
+        [parent = getpid(), descriptors = DescriptorLimit::atStart()] { prepareChild(parent, descriptors); });
+}
+
+/// Lets a started process group run behind everything else. The child does not do it itself: this thread
+/// waits until its program begins, for which a child of low priority may wait long.
+void putBehindAll(pid_t group) {
+    constexpr int niceIncrement = 10;
+    setpriority(PRIO_PGRP, static_cast<id_t>(group), getpriority(PRIO_PROCESS, 0) + niceIncrement);
 }
 
 /// Deletes the process, once it has ended. SIGKILL does not end one that waits for a broken disk.
@@ -113,16 +119,26 @@ void terminate(QProcess* process, const End& end) {
     QTimer::singleShot(2 * killTimeout, process, [end] { end->finish(); });
 }
 
-/// Passes on the whole lines that are there, and keeps them in `output`.
-void passOnLines(QProcess& process, const ToolRequest& request, QByteArray& output) {
-    while (process.canReadLine()) {
-        QByteArray line = process.readLine();
-        if (request.captureOutput)
-            output += line;
-        line.chop(1);
-        request.onOutput(line);
+/// What a process has printed, or what is left of it where nobody wants it all.
+struct PrintedOutput {
+    QByteArray text;
+    qsizetype passedOn = 0;
+
+    /// Passes on the whole lines that are there.
+    void takeFrom(QProcess& process, const ToolRequest& request) {
+        if (process.isReadable() && (request.captureOutput || request.onOutput))
+            text += process.readAllStandardOutput();
+        if (!request.onOutput)
+            return;
+        for (qsizetype end = text.indexOf(request.lineEnd, passedOn); end >= 0;
+             end = text.indexOf(request.lineEnd, passedOn)) {
+            request.onOutput(text.sliced(passedOn, end - passedOn));
+            passedOn = end + 1;
+        }
+        if (!request.captureOutput)
+            text.remove(0, std::exchange(passedOn, 0));
     }
-}
+};
 
 ToolResult resultOf(QProcess& process, bool isOurs) {
     ToolResult result;
@@ -193,8 +209,10 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     QFuture<void> ended = end->future();
     process->start(program, request.arguments);
     const auto group = static_cast<pid_t>(process->processId());
-    if (group > 0)
+    if (group > 0) {
         toolGroups().add(group);
+        putBehindAll(group);
+    }
     if (group > 0 && !request.input.isEmpty()) {
         process->write(request.input);
         process->closeWriteChannel();
@@ -206,10 +224,10 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     QObject::connect(&patience, &QTimer::timeout, process.get(), endIt);
     if (request.timeout)
         patience.start(*request.timeout);
-    QByteArray output;
+    PrintedOutput output;
     if (request.onOutput)
         QObject::connect(process.get(), &QProcess::readyReadStandardOutput, &patience, [&] {
-            passOnLines(*process, request, output);
+            output.takeFrom(*process, request);
             if (request.timeout)
                 patience.start(*request.timeout);
         });
@@ -222,9 +240,8 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     ToolResult result = resultOf(*process, isOurs);
     if (!result.succeeded())
         reportFailure(*process, result);
-    if (request.onOutput)
-        passOnLines(*process, request, output);
+    output.takeFrom(*process, request);
     if (request.captureOutput)
-        result.output = output + process->readAllStandardOutput();
+        result.output = output.text;
     co_return result;
 }
