@@ -707,6 +707,10 @@
         <source>Measuring %1 (%2 of %3)</source>
         <translation>%1 wird gemessen (%2 von %3)</translation>
     </message>
+    <message>
+        <source>Stop measuring</source>
+        <translation>Messung stoppen</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
@@ -1810,6 +1814,21 @@
             <numerusform>%n Ordner entfernt, ~%1 freigegeben</numerusform>
             <numerusform>%n Ordner entfernt, ~%1 freigegeben</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>%n Projekt gefunden</numerusform>
+            <numerusform>%n Projekte gefunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Looking in %1</source>
+        <translation>Suche in %1</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>%1 wird entfernt</translation>
     </message>
 </context>
 <context>

@@ -130,6 +130,13 @@
             <numerusform>Removed %n folders, freed ~%1</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>%n project found</numerusform>
+            <numerusform>%n projects found</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>NothingFound</name>

@@ -707,6 +707,10 @@
         <source>Measuring %1 (%2 of %3)</source>
         <translation>Midiendo %1 (%2 de %3)</translation>
     </message>
+    <message>
+        <source>Stop measuring</source>
+        <translation>Detener la medición</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
@@ -1810,6 +1814,21 @@
             <numerusform>%n carpeta eliminada, ~%1 liberados</numerusform>
             <numerusform>%n carpetas eliminadas, ~%1 liberados</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>%n proyecto encontrado</numerusform>
+            <numerusform>%n proyectos encontrados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Looking in %1</source>
+        <translation>Buscando en %1</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Eliminando %1</translation>
     </message>
 </context>
 <context>

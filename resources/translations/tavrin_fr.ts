@@ -707,6 +707,10 @@
         <source>Measuring %1 (%2 of %3)</source>
         <translation>Mesure de %1 (%2 sur %3)</translation>
     </message>
+    <message>
+        <source>Stop measuring</source>
+        <translation>Arrêter la mesure</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
@@ -1810,6 +1814,21 @@
             <numerusform>%n dossier supprimé, ~%1 libérés</numerusform>
             <numerusform>%n dossiers supprimés, ~%1 libérés</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>%n projet trouvé</numerusform>
+            <numerusform>%n projets trouvés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Looking in %1</source>
+        <translation>Recherche dans %1</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Suppression de %1</translation>
     </message>
 </context>
 <context>

@@ -705,6 +705,10 @@
         <source>Measuring %1 (%2 of %3)</source>
         <translation>%1 を計測中 (%2/%3)</translation>
     </message>
+    <message>
+        <source>Stop measuring</source>
+        <translation>測定を停止</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
@@ -1794,6 +1798,20 @@
         <translation>
             <numerusform>%n 個のフォルダーを削除、約 %1 を解放</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>%n 件のプロジェクトが見つかりました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Looking in %1</source>
+        <translation>%1 を検索中</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>%1 を削除中</translation>
     </message>
 </context>
 <context>

@@ -705,6 +705,10 @@
         <source>Measuring %1 (%2 of %3)</source>
         <translation>正在测量 %1（%2/%3）</translation>
     </message>
+    <message>
+        <source>Stop measuring</source>
+        <translation>停止测量</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
@@ -1794,6 +1798,20 @@
         <translation>
             <numerusform>已删除 %n 个文件夹，释放约 %1</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project(s) found</source>
+        <translation>
+            <numerusform>找到 %n 个项目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Looking in %1</source>
+        <translation>正在查找 %1</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>正在移除 %1</translation>
     </message>
 </context>
 <context>

@@ -108,9 +108,11 @@ bool isHome(const Folder& folder) {
 /// One walk below a named folder.
 class LeftoverSearch {
 public:
-    LeftoverSearch(const ProcessPaths& processes, const std::function<void(const LeftoverProject&)>& found)
+    LeftoverSearch(const ProcessPaths& processes, const std::function<void(const LeftoverProject&)>& found,
+                   const std::function<void(const std::string&)>& looks)
         : m_processes(processes)
-        , m_found(found) {}
+        , m_found(found)
+        , m_looks(looks) {}
 
     void visit(const Folder& folder, const std::string& path, int depth, LeftoverProject* project,
                std::shared_ptr<GitRepository> repository);
@@ -129,6 +131,7 @@ private:
     const std::time_t m_now = std::time(nullptr); ///< what is written later says nothing
     const ProcessPaths& m_processes;
     const std::function<void(const LeftoverProject&)>& m_found;
+    const std::function<void(const std::string&)>& m_looks;
 };
 
 bool LeftoverSearch::isLeftover(const Folder& folder, const std::string& path, const LeftoverRule& rule,
@@ -158,6 +161,7 @@ std::vector<const LeftoverRule*> LeftoverSearch::leftoversIn(const Folder& folde
 
 void LeftoverSearch::visit(const Folder& folder, const std::string& path, int depth, LeftoverProject* project,
                            std::shared_ptr<GitRepository> repository) {
+    m_looks(path);
     Names names = folder.names().value_or(Names());
     std::ranges::sort(names);
     const bool isWorkTree = contains(names, ".git"sv) && !isHome(folder);
@@ -204,6 +208,7 @@ void LeftoverSearch::add(const Folder& folder, const std::string& path, const st
                          LeftoverProject& project) const {
     const auto entry = folder.status(name);
     const std::string whole = path + '/' + name;
+    m_looks(whole);
     const auto size = measureFolder(whole, [](const UnreadEntry&) {});
     if (!entry || !size)
         return;
@@ -251,7 +256,8 @@ std::string LeftoverProject::text() const {
 }
 
 void Tools::findLeftovers(const std::vector<std::string>& folders, const ProcessPaths& processes,
-                          const std::function<void(const LeftoverProject&)>& found) {
+                          const std::function<void(const LeftoverProject&)>& found,
+                          const std::function<void(const std::string&)>& looks) {
     std::vector<std::string> done;
     std::vector<std::string> sorted = folders;
     std::ranges::sort(sorted); // a folder comes before those below it
@@ -263,7 +269,7 @@ void Tools::findLeftovers(const std::vector<std::string>& folders, const Process
             continue;
         done.push_back(path);
         if (const auto folder = Folder::open(path))
-            LeftoverSearch(processes, found)
+            LeftoverSearch(processes, found, looks)
                 .visit(*folder, path == "/" ? std::string() : path, 0, nullptr, GitRepository::around(path));
     }
 }

@@ -29,8 +29,10 @@ struct LeftoverProject {
 /// and calls `found` with each that has leftovers. A folder in which git tracks something is none. A project
 /// is a work tree of git, or else the outermost folder with the file of a maker, such as "Cargo.toml". A
 /// folder below another of the list is looked at once. Memory grows with the depth and with what one project
-/// has.
-void findLeftovers(const std::vector<std::string>& folders, const ProcessPaths& processes,
-                   const std::function<void(const LeftoverProject&)>& found);
+/// has. `looks` is told the path of each folder before it is read or measured.
+void findLeftovers(
+    const std::vector<std::string>& folders, const ProcessPaths& processes,
+    const std::function<void(const LeftoverProject&)>& found,
+    const std::function<void(const std::string& folder)>& looks = [](const std::string&) {});
 
 } // namespace Tools

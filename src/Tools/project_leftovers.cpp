@@ -1,7 +1,10 @@
+#include "Tools/Background.h"
 #include "Tools/ProjectLeftovers.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <iostream>
 #include <iterator>
 #include <optional>
@@ -24,7 +27,23 @@ std::optional<std::string> resolved(const char* path) {
     return whole;
 }
 
+/// Prints "at FOLDER", ended by NUL, ten times a second at most.
+class PlaceRecords {
+public:
+    void operator()(const std::string& folder) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now < m_next)
+            return;
+        std::cout << "at " << folder << '\0' << std::flush;
+        m_next = now + std::chrono::milliseconds(100);
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_next;
+};
+
 int find(std::span<char*> arguments) {
+    workBehindAll();
     std::vector<std::string> folders;
     int status = 0;
     for (const char* argument : arguments) {
@@ -38,8 +57,10 @@ int find(std::span<char*> arguments) {
         status = 1;
     }
     const ProcessPaths processes("/proc", folders);
-    findLeftovers(folders, processes,
-                  [](const LeftoverProject& project) { std::cout << project.text() << std::flush; });
+    PlaceRecords places;
+    findLeftovers(
+        folders, processes, [](const LeftoverProject& project) { std::cout << project.text() << std::flush; },
+        std::ref(places));
     return std::cout ? status : 1;
 }
 
@@ -60,9 +81,10 @@ int printUsers() {
 } // namespace
 
 /// Finds what builds have left in projects. `project_leftovers find /FOLDER...` prints each project as
-/// LeftoverProject::text does. `project_leftovers users` reads a folder without symlinks in its path, ended
-/// by NUL, from standard input and prints "user NAME", ended by NUL, of each running program that works in
-/// it. Status 1 when a folder does not exist, 2 for other arguments.
+/// LeftoverProject::text does, and between them "at FOLDER", ended by NUL, of where it looks.
+/// `project_leftovers users` reads a folder without symlinks in its path, ended by NUL, from standard input
+/// and prints "user NAME", ended by NUL, of each running program that works in it. Status 1 when a folder
+/// does not exist, 2 for other arguments.
 int main(int argc, char** argv) {
     const std::span<char*> arguments(argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0));
     const std::string_view verb = arguments.empty() ? "" : arguments.front();

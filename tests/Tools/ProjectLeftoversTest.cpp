@@ -193,6 +193,8 @@ TEST_F(LeftoversTest, SaysWhoWorksInAProject) {
     EXPECT_EQ(runTool(u"project_leftovers"_s, {u"users"_s}, path + '\0').output, QByteArray());
     EXPECT_EQ(runTool(u"project_leftovers"_s, {u"users"_s}, path).status, 2);
     EXPECT_EQ(runTool(u"project_leftovers"_s, {u"find"_s, u"relative"_s}).status, 2);
+    const QByteArray places = runTool(u"project_leftovers"_s, {u"find"_s, home.path()}).output;
+    EXPECT_TRUE(places.startsWith("at " + QByteArray::fromStdString(top) + '\0')) << places.toStdString();
 }
 
 TEST_F(LeftoversTest, ItsListingRemovesExactlyTheLeftoversWhateverTheirNames) {

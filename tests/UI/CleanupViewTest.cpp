@@ -140,6 +140,31 @@ TEST_F(CleanupViewTest, ScanningShowsHowFarItIs) {
     EXPECT_TRUE(shownNames<Spinner>(*view).isEmpty());
 }
 
+TEST_F(CleanupViewTest, AScanThatIsStoppedChangesNothing) {
+    const auto sortedCards = [this] { // those of one size come in any order
+        QStringList all = cards();
+        all.sort();
+        return all;
+    };
+    rescan();
+    const QStringList before = sortedCards();
+    fakes.clock->advance(300);
+    fakes.tools->suspended = true;
+    press(*view, u"Rescan"_s);
+    tick();
+    press(*view, u"Stop measuring"_s);
+    fakes.tools->answer = [](const ToolRequest& request) {
+        EXPECT_TRUE(request.stop.stop_requested());
+        return ToolResult{.launched = true};
+    };
+    fakes.tools->suspended = false;
+    fakes.tools->release(u"open"_s);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !model.cleanup().isScanning(); }, 2000));
+    fakes.clock->advance(-300);
+    tick();
+    EXPECT_TRUE(sortedCards() == before);
+}
+
 TEST_F(CleanupViewTest, TheDrawerCleansOnlyAfterAsking) {
     rescan();
     EXPECT_EQ(cards()[0], u"npm / pnpm / yarn, 2 MB, Scanned just now"_s);

@@ -35,7 +35,7 @@ struct LeftoversSheetTest : ModelFixture {
                 return ScriptedTools::exited(0, request.arguments[1].endsWith(u"small") ? " M a.c\n" : "");
             if (request.launchPath == u"project_leftovers")
                 return ScriptedTools::exited(0, request.arguments[0] == u"find" ? report : users);
-            return ScriptedTools::exited(0);
+            return ScriptedTools::exited(0, "9 3\nvolume 50 1048626\n");
         };
         tick();
     }
@@ -101,7 +101,7 @@ TEST_F(LeftoversSheetTest, RemovesAfterAQuestionWhatWasTicked) {
     EXPECT_EQ(removals().first().arguments.last(), u"/src/big\nshop"_s);
     EXPECT_EQ(removals().first().input, QByteArray("64:7 0 1\0009 5242880 0 d node_modules\0", 36));
     EXPECT_EQ(rows(), QStringList(busyRow));
-    EXPECT_TRUE(showsText(*sheet, u"Removed 2 folders, freed ~6 MB"_s));
+    EXPECT_TRUE(showsText(*sheet, u"Removed 2 folders, freed ~6 MB • 2 MB came back on the disk"_s));
     EXPECT_EQ(logged(),
               QStringList({u"clean /src/small/dist ok"_s, u"clean /src/big␊shop/node_modules ok"_s}));
 }
@@ -121,10 +121,32 @@ TEST_F(LeftoversSheetTest, LeavesAloneWhatAProgramWorksInByNow) {
     EXPECT_EQ(rows().first(), bigRow);
 }
 
-TEST_F(LeftoversSheetTest, CanBeStopped) {
+TEST_F(LeftoversSheetTest, ShowsHowFarARemovalIs) {
+    open();
+    QTest::mouseClick(sheet->findChildren<LeftoverRow*>().first(), Qt::LeftButton);
+    settle();
+    press(*sheet, u"Remove 1 folder (5 MB)…"_s);
+    fakes.tools->suspended = true;
+    press(*question(), u"Remove 5 MB"_s);
+    EXPECT_TRUE(showsText(*sheet, u"0 bytes of 5 MB"_s));
+    fakes.tools->release(u"users"_s);
+    fakes.tools->requests.last().onOutput("3145728 200");
+    settle();
+    EXPECT_TRUE(showsText(*sheet, u"3 MB of 5 MB • Removing /src/big␊shop/node_modules"_s));
+    fakes.tools->release(u"/src/big\nshop"_s);
+    settle();
+    EXPECT_TRUE(showsText(*sheet, u"Removed 1 folder, freed ~5 MB • 1 MB came back on the disk"_s));
+}
+
+TEST_F(LeftoversSheetTest, ASearchSaysWhereItIsAndCanBeStopped) {
     fakes.tools->suspended = true;
     open();
     EXPECT_TRUE(rows().isEmpty());
+    EXPECT_TRUE(showsText(*sheet, u"0 projects found"_s));
+    for (const QByteArray& record : {"at /src/big\nshop", "project 5 /src/big\nshop", "at /src/caf\xc3\xa9"})
+        fakes.tools->requests.first().onOutput(record);
+    settle();
+    EXPECT_TRUE(showsText(*sheet, u"1 project found • Looking in /src/café"_s));
     press(*sheet, u"Stop searching or removing"_s);
     EXPECT_TRUE(fakes.tools->requests.first().stop.stop_requested());
     fakes.tools->suspended = false;
@@ -134,6 +156,14 @@ TEST_F(LeftoversSheetTest, CanBeStopped) {
     EXPECT_TRUE(showsText(*sheet, u"Not finished: the search (cancelled)"_s));
     EXPECT_FALSE(model.projectLeftovers().lastSearch());
     EXPECT_TRUE(buttonNamed(*sheet, u"Search again"_s)->isEnabled());
+
+    fakes.tools->answer = [](const ToolRequest& request) {
+        request.onOutput("at /net/away");
+        return ToolResult{.launched = true};
+    };
+    press(*sheet, u"Search again"_s);
+    settle();
+    EXPECT_TRUE(showsText(*sheet, u"Not finished: the search (/net/away does not answer.)"_s));
 }
 
 TEST(LeftoverProject, ReadsWhatIsWellFormed) {

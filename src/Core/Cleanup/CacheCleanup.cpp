@@ -121,7 +121,8 @@ QCoro::Task<> CacheCleanup::rescan() {
         if (self && self->m_scansBegun == scan)
             self->publish(self->m_scanProgress, std::optional(progress));
     };
-    CacheScanner scanner(m_platform, tell, m_patience);
+    std::exchange(m_scanning, std::stop_source()).request_stop(); // nobody wants the older one
+    CacheScanner scanner(m_platform, tell, m_patience, m_scanning.get_token());
     auto looking = withWhatStays(m_targets);
     const Result<QList<CacheTarget>> known = co_await looking;
     if (!self || m_scansBegun != scan)

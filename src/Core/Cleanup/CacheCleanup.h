@@ -63,6 +63,8 @@ public:
     QCoro::Task<Result<QByteArray>> listInside(CleanupRule rule, QString folder, QByteArray inside);
     /// Cancels every clean that runs or waits. Those that were running have failed.
     void cancel();
+    /// Ends the scan. What it has not measured by then keeps its figures.
+    void stopScan() { m_scanning.request_stop(); }
 
 private:
     using Way = decltype(&Cleaner::clean);
@@ -91,4 +93,5 @@ private:
     CleanupReport m_report;
     int m_scansBegun = 0;
     std::stop_source m_cleaning; ///< of all cleans that run
+    std::stop_source m_scanning; ///< of the newest scan
 };

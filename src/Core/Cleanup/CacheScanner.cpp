@@ -43,6 +43,23 @@ const auto volumesThatGo =
     "[ -n \"$(ENGINE ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
     "done; } 2>/dev/null || true"_s;
 
+/// Ends its tools when it is told to.
+class StoppableTools : public ToolRunner {
+public:
+    StoppableTools(std::shared_ptr<ToolRunner> tools, std::stop_token stop)
+        : m_tools(std::move(tools))
+        , m_stop(std::move(stop)) {}
+
+    QCoro::Task<ToolResult> run(ToolRequest request) override {
+        request.stop = m_stop;
+        return m_tools->run(request);
+    }
+
+private:
+    std::shared_ptr<ToolRunner> m_tools;
+    std::stop_token m_stop;
+};
+
 /// Returns the script for the engine whose client the target's command begins with.
 QString forEngine(QString script, const CacheTarget& target) {
     return script.replace("ENGINE"_L1, target.pruneCommand.value_or(u"docker"_s).section(u' ', 0, 0));
@@ -81,13 +98,15 @@ QString trimmedBlanks(QStringView text) {
 
 } // namespace
 
-CacheScanner::CacheScanner(const Platform& platform, Progress progress, std::chrono::milliseconds patience)
-    : m_tools(platform.tools)
+CacheScanner::CacheScanner(const Platform& platform, Progress progress, std::chrono::milliseconds patience,
+                           std::stop_token stop)
+    : m_tools(std::make_shared<StoppableTools>(platform.tools, stop))
     , m_places(platform.places)
     , m_targets(platform.cleanupTargets)
     , m_clock(platform.clock)
     , m_progress(std::move(progress))
-    , m_patience(patience) {}
+    , m_patience(patience)
+    , m_stop(std::move(stop)) {}
 
 QCoro::Task<QList<CacheTarget>> CacheScanner::scan(QList<CacheTarget> targets) {
     for (const CacheTarget& target : targets)
@@ -110,11 +129,14 @@ QCoro::Task<> CacheScanner::measure(CacheTarget target) {
     auto finding = PlaceFinder::find(target.paths, m_places, m_patience);
     const Result<QList<FoundPlace>> places = co_await finding;
     CacheTarget measured = target;
-    if (places.done) {
+    if (places.done && !m_stop.stop_requested()) {
         auto scanning = scanPlaces(target, places.value);
         measured = co_await scanning;
         measured.lastScanned = m_clock->now();
-    } else {
+    }
+    if (m_stop.stop_requested()) {
+        measured = target;
+    } else if (!places.done) {
         measured.notes = QStringList(places.reason);
     }
     m_measured.append(measured);
@@ -198,7 +220,8 @@ QCoro::Task<CacheTarget> CacheScanner::scanOldFiles(CacheTarget target, QList<Fo
         while (const auto entry = reader.next()) {
             listed.sizeBytes += entry->sizeBytes;
             if (target.details.size() < maxDetails)
-                target.details.append({folder + u'/' + QFile::decodeName(entry->path), entry->sizeBytes});
+                target.details.append(
+                    {folder + u'/' + QFile::decodeName(entry->path.toByteArray()), entry->sizeBytes});
             if (++sincePause == filesPerPause) { // lets the windows on this thread run
                 sincePause = 0;
                 co_await QCoro::sleepFor(0ms);

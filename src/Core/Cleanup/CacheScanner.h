@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 
 class CleanupTargets;
 class Clock;
@@ -28,9 +29,11 @@ public:
 
     /// Calls `progress` after each measured target. Its `target` is the first that is not measured yet, empty
     /// at the end.
-    /// `patience`: how long the places of a target may take to answer.
+    /// `patience`: how long the places of a target may take to answer. `stop` ends the tools; a target that
+    /// is not measured by then stays as it was.
     explicit CacheScanner(const Platform& platform, Progress progress = {},
-                          std::chrono::milliseconds patience = PlaceFinder::patience);
+                          std::chrono::milliseconds patience = PlaceFinder::patience,
+                          std::stop_token stop = {});
 
     /// Returns the targets with the fields of a scan filled in, largest first, equal sizes in the order of
     /// completion. Targets are measured in parallel, the paths of one target in sequence. A failed tool has
@@ -66,6 +69,7 @@ private:
     std::shared_ptr<Clock> m_clock;
     Progress m_progress;
     std::chrono::milliseconds m_patience;
+    std::stop_token m_stop;
     QByteArray m_used;             ///< by running programs, when the scan began
     QStringList m_waiting;         ///< names of the targets still being measured
     QList<CacheTarget> m_measured; ///< in the order of completion

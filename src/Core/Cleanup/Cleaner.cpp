@@ -62,20 +62,6 @@ QCoro::Task<Result<QByteArray>> runListing(ToolRequest request, QString folder,
     co_return listing;
 }
 
-/// What a removal has printed.
-struct RemovalReport {
-    quint64 bytes = 0;
-    std::optional<qint64> volumeBytes;
-
-    void take(const QByteArray& line) {
-        const QByteArrayList words = line.split(' ');
-        if (words.size() == 3 && words[0] == "volume")
-            volumeBytes = words[2].toLongLong() - words[1].toLongLong();
-        else if (words.size() == 2)
-            bytes = words[0].toULongLong();
-    }
-};
-
 QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder folder, Instant now,
                                                std::shared_ptr<ToolRunner> tools, std::stop_token stop,
                                                Cleaner::Progress progress) {
@@ -86,7 +72,7 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
         before = co_await Cleaner::directoryBytes(folder.path, tools, stop);
     if (stop.stop_requested())
         co_return cancelled();
-    const auto report = std::make_shared<RemovalReport>();
+    const auto report = std::make_shared<CleanupPlan::RemovalReport>();
     ToolRequest request = CleanupPlan::removeRequest(rule, folder, now);
     request.stop = stop;
     request.onOutput = [report, progress](const QByteArray& line) {
@@ -157,7 +143,7 @@ QCoro::Task<Cleaner::CleanResult> trashListed(CleanupRule rule, ListedFolder fol
             isMore = entry.has_value();
             if (!isMore)
                 continue;
-            paths.append(entry->path);
+            paths.append(entry->path.toByteArray());
             moved += entry->sizeBytes;
         }
         auto moving = onThread<QString>([root = folder.root, paths] { return trash(root, paths); });

@@ -108,6 +108,14 @@ ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFold
     return asked;
 }
 
+void CleanupPlan::RemovalReport::take(const QByteArray& line) {
+    const QByteArrayList words = line.split(' ');
+    if (words.size() == 3 && words[0] == "volume")
+        volumeBytes = words[2].toLongLong() - words[1].toLongLong();
+    else if (words.size() == 2)
+        bytes = words[0].toULongLong();
+}
+
 ToolRequest CleanupPlan::shellRequest(const QString& command, std::chrono::milliseconds timeout) {
     ToolRequest asked;
     asked.launchPath = u"/bin/sh"_s;
@@ -141,19 +149,21 @@ std::optional<QByteArrayView> CleanupPlan::ListingReader::takeRecord() {
 
 std::optional<CleanupPlan::Entry> CleanupPlan::ListingReader::next() {
     const auto record = takeRecord();
-    if (!record)
-        return std::nullopt;
-    QByteArrayView rest = record->chopped(1);
+    return record ? entryOf(*record) : std::nullopt;
+}
+
+std::optional<CleanupPlan::Entry> CleanupPlan::entryOf(QByteArrayView record) {
+    QByteArrayView rest = record.chopped(1);
     takeField(rest); // the inode
     bool isSize = false;
     bool isTime = false;
     Entry entry{.sizeBytes = takeField(rest).toULongLong(&isSize),
                 .modified = takeField(rest).toLongLong(&isTime),
-                .record = *record};
+                .record = record};
     const QByteArrayView marks = takeField(rest);
     entry.isFolder = marks.startsWith('d');
     entry.isInUse = marks.endsWith('u');
-    entry.path = rest.toByteArray();
+    entry.path = rest;
     return isSize && isTime && !rest.isEmpty() ? std::optional(entry) : std::nullopt;
 }
 
@@ -176,7 +186,8 @@ CleanupPlan::Names CleanupPlan::namesOf(const CacheTarget& target, qsizetype max
     std::ranges::stable_sort(largest, std::ranges::greater(), &Entry::sizeBytes);
     for (const Entry& entry : largest.first(std::min(maxShown, largest.size())))
         names.shown.append(
-            {QFile::decodeName(entry.path.mid(entry.path.lastIndexOf('/') + 1)), entry.sizeBytes});
+            {QFile::decodeName(entry.path.sliced(entry.path.lastIndexOf('/') + 1).toByteArray()),
+             entry.sizeBytes});
     return names;
 }
 

@@ -31,21 +31,33 @@ ToolRequest checkRequest(const CleanupRule& rule, const ListedFolder& folder, In
 /// Asks to remove the entries of a listing from the folder that was listed. It prints lines of
 /// "BYTES ENTRIES", what is gone so far, and at last "volume BEFORE AFTER", the free bytes.
 ToolRequest removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now);
+
+/// What removeRequest has printed.
+struct RemovalReport {
+    quint64 bytes = 0;                                ///< gone so far
+    std::optional<qint64> volumeBytes = std::nullopt; ///< by which the free bytes grew in the end
+
+    void take(const QByteArray& line);
+};
+
 /// Asks a login shell, which finds the tools of vendors on the user's path.
 ToolRequest shellRequest(const QString& command, std::chrono::milliseconds timeout);
 
 /// Returns the folder of the action log, which no clean removes.
 QString keptFolder();
 
-/// One entry of a listing. Its path is relative to the folder, in any encoding.
+/// One entry of a listing, which it points into.
 struct Entry {
     quint64 sizeBytes = 0; ///< the length of an old file, or the space of the entry with all below it
     qint64 modified = 0;   ///< seconds since 1970, of the newest below it
     bool isFolder = false;
-    bool isInUse = false; ///< a running program has it open, or something below it
-    QByteArray path;
+    bool isInUse = false;  ///< a running program has it open, or something below it
+    QByteArrayView path;   ///< relative to the folder, in any encoding
     QByteArrayView record; ///< its text in the listing, with the NUL at the end
 };
+
+/// Reads a record of a listing, with the NUL at its end. Returns an empty optional when it is malformed.
+std::optional<Entry> entryOf(QByteArrayView record);
 
 /// Reads a listing from the front.
 class ListingReader {

@@ -2,6 +2,7 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
 #include "Platform/ToolRunner.h"
@@ -24,7 +25,7 @@ namespace {
 
 constexpr QByteArrayView userStart = "user ";
 constexpr QByteArrayView folderStart = "folder ";
-constexpr auto searchTimeout = 10min;
+constexpr auto searchTimeout = 2min; // since it last said where it is
 constexpr auto usersTimeout = 30s;
 constexpr auto changesTimeout = 20s;
 
@@ -61,7 +62,8 @@ void takeListing(LeftoverProject& project, QByteArrayView listing) {
     const QByteArray start =
         QFile::encodeName(project.listedFolder == u"/"_s ? QString() : project.listedFolder);
     while (const auto entry = reader.next()) {
-        project.folders.append({start + '/' + entry->path, entry->sizeBytes, entry->record.toByteArray()});
+        project.folders.append(
+            {start + '/' + entry->path.toByteArray(), entry->sizeBytes, entry->record.toByteArray()});
         project.sizeBytes += entry->sizeBytes;
     }
     std::ranges::stable_sort(project.folders, std::ranges::greater(), &Leftover::sizeBytes);
@@ -71,13 +73,6 @@ void takeListing(LeftoverProject& project, QByteArrayView listing) {
 qsizetype endOf(QByteArrayView report) {
     const qsizetype next = report.indexOf(QByteArrayView("\0project ", 9));
     return next < 0 ? report.size() : next + 1;
-}
-
-QString failureOf(const ToolResult& result, bool wasStopped) {
-    if (wasStopped)
-        return QCoreApplication::translate("ProjectLeftovers", "cancelled");
-    return result.errorLine.isEmpty() ? QCoreApplication::translate("ProjectLeftovers", "it did not finish")
-                                      : result.errorLine;
 }
 
 QStringList usersIn(const QByteArray& report) {
@@ -125,9 +120,33 @@ quint64 ProjectLeftovers::totalBytes() const {
                            [](quint64 sum, const LeftoverProject& each) { return sum + each.sizeBytes; });
 }
 
+/// Takes what a search prints as it comes.
+void ProjectLeftovers::follow(const QByteArray& record) {
+    Progress progress = m_progress;
+    if (record.startsWith("project "))
+        ++progress.found;
+    else if (record.startsWith("at /"))
+        progress.folder = record.mid(3);
+    else
+        return;
+    publish(m_progress, progress);
+}
+
+QString ProjectLeftovers::failureOf(const ToolResult& result, bool wasStopped) const {
+    if (wasStopped)
+        return QCoreApplication::translate("ProjectLeftovers", "cancelled");
+    if (!result.errorLine.isEmpty())
+        return result.errorLine;
+    const bool wasSilent = result.launched && result.exitStatus < 0 && m_isSearching;
+    return wasSilent && !m_progress.folder.isEmpty()
+               ? PlaceFinder::silence(QFile::decodeName(m_progress.folder))
+               : QCoreApplication::translate("ProjectLeftovers", "it did not finish");
+}
+
 QCoro::Task<> ProjectLeftovers::search(QStringList folders) {
     const QPointer<ProjectLeftovers> self(this);
     const int search = ++m_searchesBegun;
+    publish(m_progress, Progress());
     publish(m_isSearching, true);
     folders.removeIf([](const QString& folder) { return !folder.startsWith(u'/'); });
     if (folders.isEmpty())
@@ -138,6 +157,11 @@ QCoro::Task<> ProjectLeftovers::search(QStringList folders) {
     request.captureOutput = true;
     request.timeout = searchTimeout;
     request.stop = m_stop.get_token();
+    request.lineEnd = '\0';
+    request.onOutput = [self, search](const QByteArray& record) {
+        if (self && self->m_searchesBegun == search)
+            self->follow(record);
+    };
     auto running = m_platform.tools->run(request);
     const ToolResult result = co_await running;
     if (!self || m_searchesBegun != search)
@@ -178,12 +202,13 @@ QCoro::Task<> ProjectLeftovers::findChanges(QByteArray project) {
     publish(m_projects, projects);
 }
 
-QCoro::Task<QStringList> ProjectLeftovers::usersOf(QByteArray project) {
+QCoro::Task<QStringList> ProjectLeftovers::usersOf(QByteArray project, std::stop_token stop) {
     ToolRequest request;
     request.launchPath = u"project_leftovers"_s;
     request.arguments = {u"users"_s};
     request.captureOutput = true;
     request.timeout = usersTimeout;
+    request.stop = stop;
     request.input = project + '\0';
     auto running = m_platform.tools->run(request);
     const ToolResult result = co_await running;
@@ -193,10 +218,22 @@ QCoro::Task<QStringList> ProjectLeftovers::usersOf(QByteArray project) {
 }
 
 QCoro::Task<Outcome> ProjectLeftovers::removeFolder(LeftoverProject project, Leftover folder,
-                                                    std::stop_token stop) {
+                                                    std::stop_token stop,
+                                                    std::shared_ptr<CleanupPlan::RemovalReport> report) {
+    const QPointer<ProjectLeftovers> self(this);
     const ListedFolder listed{project.listedFolder, folder.sizeBytes, project.header + folder.record};
+    Progress progress = m_progress;
+    progress.folder = folder.path;
+    publish(m_progress, progress);
     ToolRequest request = CleanupPlan::removeRequest({}, listed, m_platform.clock->now());
     request.stop = stop;
+    request.onOutput = [self, report, progress, most = folder.sizeBytes](const QByteArray& line) {
+        report->take(line);
+        Progress now = progress;
+        now.bytes += std::min(report->bytes, most);
+        if (self)
+            self->publish(self->m_progress, now);
+    };
     auto running = m_platform.tools->run(request);
     const ToolResult result = co_await running;
     const bool isGone = !QFileInfo::exists(QFile::decodeName(folder.path));
@@ -212,7 +249,7 @@ QCoro::Task<ProjectLeftovers::Removal> ProjectLeftovers::removeOne(LeftoverProje
                                                                    std::stop_token stop) {
     const QPointer<ProjectLeftovers> self(this);
     Removal removal;
-    auto asking = usersOf(project.path);
+    auto asking = usersOf(project.path, stop);
     const QStringList users = co_await asking;
     Outcome outcome = users.isEmpty()
                           ? Outcome::success()
@@ -222,12 +259,15 @@ QCoro::Task<ProjectLeftovers::Removal> ProjectLeftovers::removeOne(LeftoverProje
         if (!self || stop.stop_requested())
             break;
         const QString path = QFile::decodeName(folder.path);
+        const auto report = std::make_shared<CleanupPlan::RemovalReport>();
         if (users.isEmpty()) {
-            auto removing = removeFolder(project, folder, stop);
+            auto removing = removeFolder(project, folder, stop, report);
             outcome = co_await removing;
         }
         if (!self)
             break;
+        if (report->volumeBytes)
+            removal.volumeBytes = removal.volumeBytes.value_or(0) + *report->volumeBytes;
         m_log.record(ActionLogEntry::Kind::clean, path, outcome.done ? folder.sizeBytes : 0, outcome.done);
         if (outcome.done) {
             ++removal.folders;
@@ -254,6 +294,10 @@ QCoro::Task<> ProjectLeftovers::remove(QList<LeftoverProject> projects) {
     const QPointer<ProjectLeftovers> self(this);
     if (m_isRemoving)
         co_return;
+    Progress progress;
+    for (const LeftoverProject& project : std::as_const(projects))
+        progress.totalBytes += project.sizeBytes;
+    publish(m_progress, progress);
     publish(m_isRemoving, true);
     const std::stop_token stop = m_stop.get_token();
     Removal all;
@@ -265,6 +309,8 @@ QCoro::Task<> ProjectLeftovers::remove(QList<LeftoverProject> projects) {
         all.folders += removal.folders;
         all.freedBytes += removal.freedBytes;
         all.failures += removal.failures;
+        if (removal.volumeBytes)
+            all.volumeBytes = all.volumeBytes.value_or(0) + *removal.volumeBytes;
     }
     all.wasCancelled = stop.stop_requested();
     publish(m_lastRemoval, std::optional(all));

@@ -12,10 +12,16 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <stop_token>
 
 class ActionLog;
+struct ToolResult;
+
+namespace CleanupPlan {
+struct RemovalReport;
+}
 
 /// A folder that a build has left in a project.
 struct Leftover {
@@ -56,8 +62,20 @@ public:
         quint64 freedBytes = 0;
         QStringList failures = {}; ///< the path of each that is left, with the reason
         bool wasCancelled = false;
+        /// What came back on the volumes; negative when other programs wrote more.
+        std::optional<qint64> volumeBytes = std::nullopt;
 
         bool operator==(const Removal&) const = default;
+    };
+
+    /// How far a search or a removal has come.
+    struct Progress {
+        QByteArray folder = {}; ///< that it looks into or removes; empty at first
+        int found = 0;          ///< projects with leftovers, by a search
+        quint64 bytes = 0;      ///< removed so far
+        quint64 totalBytes = 0; ///< to be removed
+
+        bool operator==(const Progress&) const = default;
     };
 
     /// `log` outlives this.
@@ -66,6 +84,8 @@ public:
     const QList<LeftoverProject>& projects() const { return m_projects; }
     bool isSearching() const { return m_isSearching; }
     bool isRemoving() const { return m_isRemoving; }
+    /// Returns how far the search or the removal that runs has come.
+    const Progress& progress() const { return m_progress; }
     /// Returns when a search last ended by itself.
     const std::optional<Instant>& lastSearch() const { return m_lastSearch; }
     /// Returns the space of all leftovers.
@@ -85,9 +105,12 @@ public:
     void stop();
 
 private:
+    void follow(const QByteArray& record);
+    QString failureOf(const ToolResult& result, bool wasStopped) const;
     QCoro::Task<Removal> removeOne(LeftoverProject project, std::stop_token stop);
-    QCoro::Task<Outcome> removeFolder(LeftoverProject project, Leftover folder, std::stop_token stop);
-    QCoro::Task<QStringList> usersOf(QByteArray project);
+    QCoro::Task<Outcome> removeFolder(LeftoverProject project, Leftover folder, std::stop_token stop,
+                                      std::shared_ptr<CleanupPlan::RemovalReport> report);
+    QCoro::Task<QStringList> usersOf(QByteArray project, std::stop_token stop);
     void forget(const Leftover& folder);
 
     Platform m_platform;
@@ -96,6 +119,7 @@ private:
     QSet<QByteArray> m_asked; ///< the projects whose changes were asked for
     bool m_isSearching = false;
     bool m_isRemoving = false;
+    Progress m_progress;
     std::optional<Instant> m_lastSearch;
     QString m_searchFailure;
     std::optional<Removal> m_lastRemoval;

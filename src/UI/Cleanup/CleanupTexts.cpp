@@ -152,10 +152,10 @@ QString CleanupTexts::outcome(qsizetype asked, std::pair<int, quint64> cleaned, 
         .arg(freed);
 }
 
-QString CleanupTexts::cameBack(const CleanupReport& report) {
-    if (!report.volumeBytes)
+QString CleanupTexts::cameBack(std::optional<qint64> volumeBytes) {
+    if (!volumeBytes)
         return {};
-    const auto bytes = static_cast<quint64>(std::max<qint64>(0, *report.volumeBytes));
+    const auto bytes = static_cast<quint64>(std::max<qint64>(0, *volumeBytes));
     return QCoreApplication::translate("CleanupTexts", "%1 came back on the disk")
         .arg(Formatters::bytes(bytes));
 }

@@ -26,7 +26,7 @@ QString questionAll(const QList<CacheTarget>& targets);
 /// Returns the outcome of a run over `asked` targets; `cleaned` is the result of CacheCleanup::cleanAll.
 QString outcome(qsizetype asked, std::pair<int, quint64> cleaned, const CleanupReport& report);
 /// Returns what came back on the disk beside what was removed. Empty when that is unknown.
-QString cameBack(const CleanupReport& report);
+QString cameBack(std::optional<qint64> volumeBytes);
 /// Returns the targets that were not cleaned to the end, and why. Empty when there is none.
 QString unfinished(const CleanupReport& report);
 

@@ -78,7 +78,7 @@ CleanupView::CleanupView(AppModel& model, Preferences& preferences, QWidget* par
     connect(m_rescan, &QPushButton::clicked, this, [this] { m_model.cleanup().rescan(); });
     connect(m_leftovers, &CacheCard::opened, this, &CleanupView::openLeftovers);
     connect(m_cleanAll, &QPushButton::clicked, this, &CleanupView::confirmCleanAll);
-    connect(m_cancel, &QPushButton::clicked, &m_model.cleanup(), &CacheCleanup::cancel);
+    connect(m_cancel, &QPushButton::clicked, this, &CleanupView::stop);
     refreshOnScreen(this, {&m_model, &m_model.projectLeftovers()}, [this] { refresh(); });
 }
 
@@ -125,7 +125,6 @@ QLayout* CleanupView::makeProgress() {
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
     row->setSpacing(6);
     m_cancel->setSmall();
-    m_cancel->setAccessibleName(tr("Stop cleaning"));
     QSizePolicy policy = m_cancel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_cancel->setSizePolicy(policy);
@@ -204,12 +203,20 @@ void CleanupView::refreshProgress() {
         m_progress->setPlainText(
             CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *cleanup.scanProgress()));
     else
-        m_progress->setPlainText(CleanupTexts::cameBack(cleanup.report()));
+        m_progress->setPlainText(CleanupTexts::cameBack(cleanup.report().volumeBytes));
     m_unfinished->setPlainText(unfinished);
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy || cleanup.report().volumeBytes);
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
-    m_cancel->setVisible(cleanup.isCleaning());
+    m_cancel->setVisible(isBusy);
+    m_cancel->setAccessibleName(cleanup.isCleaning() ? tr("Stop cleaning") : tr("Stop measuring"));
+}
+
+void CleanupView::stop() {
+    if (m_model.cleanup().isCleaning())
+        m_model.cleanup().cancel();
+    else
+        m_model.cleanup().stopScan();
 }
 
 void CleanupView::open(const CacheTarget& target) {

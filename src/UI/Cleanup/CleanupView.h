@@ -38,6 +38,7 @@ private:
     void openLeftovers();
     void confirmCleanAll();
     void cleanAll(const QList<CacheTarget>& targets);
+    void stop();
 
     AppModel& m_model;
     Preferences& m_preferences;

@@ -1,6 +1,7 @@
 #include "UI/Cleanup/LeftoverTexts.h"
 
 #include "Core/Formatters.h"
+#include "UI/Cleanup/CleanupTexts.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -45,13 +46,33 @@ bool LeftoverTexts::matches(const LeftoverProject& project, const QString& searc
     return false;
 }
 
+QString LeftoverTexts::progress(const ProjectLeftovers& leftovers) {
+    const ProjectLeftovers::Progress& progress = leftovers.progress();
+    QStringList parts;
+    if (leftovers.isSearching()) {
+        parts.append(
+            QCoreApplication::translate("LeftoverTexts", "%n project(s) found", nullptr, progress.found));
+        if (!progress.folder.isEmpty())
+            parts.append(
+                QCoreApplication::translate("LeftoverTexts", "Looking in %1").arg(pathOf(progress.folder)));
+    } else if (leftovers.isRemoving()) {
+        parts.append(QCoreApplication::translate("CleanupTexts", "%1 of %2")
+                         .arg(Formatters::bytes(progress.bytes), Formatters::bytes(progress.totalBytes)));
+        if (!progress.folder.isEmpty())
+            parts.append(
+                QCoreApplication::translate("LeftoverTexts", "Removing %1").arg(pathOf(progress.folder)));
+    }
+    return parts.join(u" • "_s);
+}
+
 QString LeftoverTexts::outcome(const ProjectLeftovers::Removal& removal) {
     const QString freed = Formatters::bytes(removal.freedBytes);
-    if (removal.wasCancelled)
-        return QCoreApplication::translate("LeftoverTexts", "Stopped: removed %n folder(s), freed ~%1",
-                                           nullptr, removal.folders)
-            .arg(freed);
-    return QCoreApplication::translate("LeftoverTexts", "Removed %n folder(s), freed ~%1", nullptr,
-                                       removal.folders)
-        .arg(freed);
+    const QString text =
+        removal.wasCancelled
+            ? QCoreApplication::translate("LeftoverTexts", "Stopped: removed %n folder(s), freed ~%1",
+                                          nullptr, removal.folders)
+            : QCoreApplication::translate("LeftoverTexts", "Removed %n folder(s), freed ~%1", nullptr,
+                                          removal.folders);
+    const QString cameBack = CleanupTexts::cameBack(removal.volumeBytes);
+    return text.arg(freed) + (cameBack.isEmpty() ? QString() : u" • "_s + cameBack);
 }

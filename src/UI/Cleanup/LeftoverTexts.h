@@ -21,6 +21,8 @@ QString note(const LeftoverProject& project);
 /// Returns whether the project, a leftover or its note contains the text.
 bool matches(const LeftoverProject& project, const QString& search);
 
+/// Returns how far the search or the removal that runs has come.
+QString progress(const ProjectLeftovers& leftovers);
 QString outcome(const ProjectLeftovers::Removal& removal);
 
 } // namespace LeftoverTexts

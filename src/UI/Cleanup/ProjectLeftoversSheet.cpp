@@ -62,6 +62,7 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     })
     , m_more((new TextLabel(TextStyle::caption))->secondary())
     , m_spinner(new Spinner)
+    , m_progress(new ClampedLabel(1, TextStyle::caption))
     , m_outcome(new TextLabel(TextStyle::callout))
     , m_unfinished(new ClampedLabel(2, TextStyle::caption))
     , m_stop(new PushButton(tr("Stop")))
@@ -157,12 +158,14 @@ QWidget* ProjectLeftoversSheet::makeList() {
 }
 
 QLayout* ProjectLeftoversSheet::makeFoot() {
+    m_progress->secondary();
     m_unfinished->tinted(Role::red);
     m_outcome->tinted(Role::green);
     m_stop->setAccessibleName(tr("Stop searching or removing"));
     m_remove->setTint(Role::red);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
+    texts->addWidget(m_progress);
     texts->addWidget(m_outcome);
     texts->addWidget(m_unfinished);
     auto* row = new QHBoxLayout;
@@ -254,13 +257,16 @@ void ProjectLeftoversSheet::refreshFoot() {
     }
     const auto& removal = m_leftovers.lastRemoval();
     const bool isBusy = m_leftovers.isSearching() || m_leftovers.isRemoving();
+    m_progress->setPlainText(LeftoverTexts::progress(m_leftovers));
+    m_progress->setVisible(isBusy);
     m_outcome->setPlainText(removal ? LeftoverTexts::outcome(*removal) : QString());
+    m_outcome->setVisible(!isBusy);
     QStringList unfinished = removal ? removal->failures : QStringList();
     if (!m_leftovers.searchFailure().isEmpty())
         unfinished.append(tr("the search (%1)").arg(m_leftovers.searchFailure()));
     m_unfinished->setPlainText(
         unfinished.isEmpty() ? QString() : tr("Not finished: %1").arg(Formatters::list(unfinished)));
-    m_unfinished->setVisible(!unfinished.isEmpty());
+    m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
     m_spinner->setVisible(isBusy);
     m_stop->setVisible(isBusy);
     m_remove->setText(folders == 0 ? tr("Remove…")

@@ -62,6 +62,7 @@ private:
     RowPool<LeftoverRow> m_rows;
     TextLabel* m_more;
     Spinner* m_spinner;
+    ClampedLabel* m_progress;
     TextLabel* m_outcome;
     ClampedLabel* m_unfinished;
     PushButton* m_stop;
