@@ -83,7 +83,7 @@ void AppModel::tick() {
     publish(m_state.systemSample, sample);
     appendHistory(sample);
     if (isPaused())
-        return;
+        return appendGroups({});
 
     QList<ProcSample> processes = m_sampler.sampleProcesses();
     m_actions.pausedSessions().wake(processes);
@@ -93,6 +93,7 @@ void AppModel::tick() {
     std::ranges::stable_sort(processes, std::ranges::greater(), &ProcSample::rssBytes);
     publish(m_state.processes, std::move(processes));
     publish(m_state.groups, rollups);
+    appendGroups(rollups);
     MCPInspector::Report mcpReport{.configured = m_mcpConfiguration.readConfigured(),
                                    .live = m_servers.detectLive(m_state.processes),
                                    .isUnknown = m_mcpConfiguration.isUnknown()};
@@ -116,7 +117,7 @@ void AppModel::tickEarly() {
 }
 
 ProtectedProcesses AppModel::protectedProcesses() const {
-    return {m_state.processes, m_platform.identity->processId()};
+    return {m_state.processes, m_platform.identity->processId(), m_platform.identity->displayServers()};
 }
 
 void AppModel::publishAlerts() {
@@ -184,6 +185,16 @@ void AppModel::appendHistory(const SystemSample& sample) {
     const qsizetype surplus = m_state.systemHistory.size() - historyLimit();
     if (surplus > 0)
         m_state.systemHistory.remove(0, surplus);
+    m_state.coreHistory.append(secondsOf(sample.timestamp), m_sampler.coreLoads(), historyLimit());
+}
+
+/// Appends the sums of this tick, unknown ones without groups.
+void AppModel::appendGroups(const QList<GroupRollup>& groups) {
+    QList<double> bytes;
+    bytes.reserve(groups.size());
+    for (const GroupRollup& group : groups)
+        bytes.append(static_cast<double>(group.memory.bytes));
+    m_state.groupHistory.append(secondsOf(m_state.systemSample.timestamp), bytes, historyLimit());
 }
 
 int AppModel::historyLimit() const {

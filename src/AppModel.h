@@ -52,6 +52,8 @@ public:
 
     const SystemSample& systemSample() const { return m_state.systemSample; }
     const QList<SystemSample>& systemHistory() const { return m_state.systemHistory; }
+    const FigureHistory& coreHistory() const { return m_state.coreHistory; }
+    const FigureHistory& groupHistory() const { return m_state.groupHistory; }
     const QList<ProcSample>& processes() const { return m_state.processes; }
     const ProcSample* process(qint32 pid) const { return m_state.process(pid); }
     const QList<GroupRollup>& groups() const { return m_state.groups; }
@@ -66,9 +68,11 @@ public:
     /// whenever they refresh, before they read the report.
     void wantSessions();
 
-    /// The ledger of true memory. Views tell it what they show.
+    /// Returns whether processes are not read now, to save power.
+    bool isPaused() const;
     /// Returns how many samples the history holds at most.
     int historyLimit() const;
+    /// The ledger of true memory. Views tell it what they show.
     MemoryLedger& memoryLedger() { return m_ledger; }
     /// What is read of processes only while a view shows it.
     ProcessFacts& facts() { return m_facts; }
@@ -100,7 +104,7 @@ private:
     void bindTimer(double intervalSeconds);
     void followPollInterval();
     void appendHistory(const SystemSample& sample);
-    bool isPaused() const;
+    void appendGroups(const QList<GroupRollup>& groups);
     QList<qint32> pidsOf(ProcGroup group) const;
 
     Platform m_platform;

@@ -4,6 +4,7 @@
 #include "Core/Grouping/GroupRollup.h"
 #include "Core/Mcp/MCPInspector.h"
 #include "Core/Pressure/FlightRecorder.h"
+#include "Core/Sampling/FigureHistory.h"
 #include "Core/Sampling/ProcSample.h"
 #include "Core/Sampling/SystemSample.h"
 #include "Core/Sessions/Session.h"
@@ -15,6 +16,8 @@ struct PublishedState {
     SystemSample systemSample = SystemSample::zero();
     /// Oldest first; at most Preferences::historyRetentionSamples() after a tick.
     QList<SystemSample> systemHistory;
+    FigureHistory coreHistory;   ///< the load of each CPU in percent, as long as the history
+    FigureHistory groupHistory;  ///< the bytes of each group, in group order; unknown while paused
     QList<ProcSample> processes; ///< largest resident memory first
     QList<GroupRollup> groups;   ///< one per group, in group order; empty before the first tick
     QList<Alert> alerts;

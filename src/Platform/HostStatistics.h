@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QtGlobal>
 
 #include <optional>
@@ -14,6 +15,14 @@ struct CpuTicks {
     bool operator==(const CpuTicks&) const = default;
 };
 
+/// CPU ticks of one CPU. The counts never decrease, but for a step back by a few.
+struct CoreTicks {
+    quint64 busy = 0;
+    quint64 idle = 0;
+
+    bool operator==(const CoreTicks&) const = default;
+};
+
 /// Use of memory. The first three figures do not overlap. A figure that the system refuses is 0.
 struct MemoryUse {
     quint64 activeBytes = 0;
@@ -24,6 +33,7 @@ struct MemoryUse {
     quint64 totalBytes = 0; ///< physical memory
     /// Anonymous and shared memory of all programs; the rest of what is used is the kernel's.
     std::optional<quint64> programBytes = {};
+    std::optional<quint64> cacheBytes = {}; ///< of files in memory, which can be given back
 
     bool operator==(const MemoryUse&) const = default;
 };
@@ -43,6 +53,8 @@ public:
     virtual ~HostStatistics() = default;
 
     virtual std::optional<CpuTicks> cpuTicks() { return {}; }
+    /// Returns the ticks of each CPU that is online, in order, as of the last call of `cpuTicks`.
+    virtual QList<CoreTicks> coreTicks() { return {}; }
     virtual MemoryUse memoryUse() { return {}; }
     virtual std::optional<VolumeSize> rootVolume() { return {}; }
     /// Returns 0 nominal, 1 fair, 2 serious or 3 critical.

@@ -5,14 +5,6 @@
 
 #include <memory>
 
-/// The ticks of one CPU since the system started. The counts never decrease, but for a step back by a few.
-struct CoreTicks {
-    quint64 busy = 0;
-    quint64 idle = 0;
-
-    bool operator==(const CoreTicks&) const = default;
-};
-
 /// What has gone to and from one disk since the system started. The counts never decrease.
 struct DiskTraffic {
     QString device; ///< "nvme0n1"
@@ -45,10 +37,6 @@ class MachineDetails {
 public:
     virtual ~MachineDetails() = default;
 
-    /// Returns the ticks of each CPU that is online, in order.
-    virtual QList<CoreTicks> coreTicks() { return {}; }
-    /// Returns the bytes of files in memory that can be given back; 0 when unknown.
-    virtual quint64 cacheBytes() { return 0; }
     virtual QList<DiskTraffic> disks() { return {}; }
     virtual QList<HeatSensor> sensors() { return {}; }
     /// May wait for a disk. Can be called on any thread.

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -66,8 +67,11 @@ TEST_F(AppModelTest, LowPowerPausesAllButTheSystemSample) {
     settings.preferences.pauseOnLowPower.set(true);
     fakes.processes->remove(1);
     fakes.host->memory.swapUsedBytes = 99;
+    fakes.clock->advance(2);
     tick();
     EXPECT_EQ(model->systemSample().swapUsedBytes, 99U);
+    ASSERT_EQ(model->groupHistory().times.size(), 2);
+    EXPECT_TRUE(std::isnan(model->groupHistory().values[0].last())) << "nobody counted the groups then";
     EXPECT_EQ(model->systemHistory().size(), 2);
     EXPECT_EQ(model->processes().size(), 1);
     settings.preferences.pauseOnLowPower.set(false);

@@ -55,6 +55,21 @@ TEST_F(SamplerTest, LoadIsTheBusyShareSinceTheLastReading) {
     }
 }
 
+TEST_F(SamplerTest, EachCoreHasItsLoad) {
+    const std::pair<QList<CoreTicks>, QList<double>> steps[] = {
+        {{{.busy = 10, .idle = 90}, {.busy = 0, .idle = 0}}, {}},
+        {{{.busy = 40, .idle = 100}, {.busy = 0, .idle = 10}}, {75, 0}},
+        {{{.busy = 39, .idle = 100}, {.busy = 5, .idle = 10}}, {0, 100}}, // one stepped back by a few
+        {{{.busy = 80, .idle = 100}}, {}},                                // one was switched off
+        {{{.busy = 90, .idle = 110}}, {50}},
+    };
+    for (const auto& [cores, loads] : steps) {
+        fakes.host->cores = cores;
+        sampler.sample();
+        EXPECT_EQ(sampler.coreLoads(), loads);
+    }
+}
+
 TEST_F(SamplerTest, RefusedFiguresAreZeroAndLeaveTheOthersAlone) {
     fakes.host->root.reset();
     fakes.host->memory = {.totalBytes = fakes.host->memory.totalBytes};

@@ -41,6 +41,9 @@ TEST(HostStatistics, AgreesWithTheSystemsOwnTools) {
     ASSERT_TRUE(ticks);
     EXPECT_GT(ticks->user, 0u);
     EXPECT_GT(ticks->idle, 0u);
+    EXPECT_EQ(host.coreTicks().size(), outputOf("getconf _NPROCESSORS_ONLN").toInt());
+    ASSERT_TRUE(memory.cacheBytes);
+    EXPECT_NEAR(static_cast<double>(*memory.cacheBytes), row.at(5).toDouble(), total * 0.02);
 }
 
 TEST(HostStatistics, CountsCpuTicksByKind) {
@@ -59,6 +62,19 @@ TEST(HostStatistics, CountsCpuTicksByKind) {
         tree.makeFile(u"proc/stat"_s, line);
         EXPECT_EQ(LinuxHostStatistics(tree.path()).cpuTicks(), expected) << line;
     }
+}
+
+TEST(HostStatistics, CountsTheTicksOfEachCore) {
+    TemporaryFolder tree;
+    tree.makeFile(u"proc/stat"_s,
+                  "cpu  9 9 9 9\ncpu0 10 1 5 70 4 1 2 3 0 0\ncpu1 broken\ncpu3 20 0 0 80\nintr 1\n");
+    LinuxHostStatistics host(tree.path());
+    EXPECT_TRUE(host.coreTicks().isEmpty()) << "nothing was read yet";
+    host.cpuTicks();
+    EXPECT_EQ(host.coreTicks(), (QList<CoreTicks>{{.busy = 22, .idle = 74}, {.busy = 20, .idle = 80}}));
+    tree.makeFile(u"proc/stat"_s, "cpu  9 9 9 9\ncpu0 10 1 5 7");
+    EXPECT_TRUE(host.cpuTicks());
+    EXPECT_TRUE(host.coreTicks().isEmpty()) << "a line that is cut short says another number";
 }
 
 TEST(HostStatistics, FollowsNoCounterThatStepsBack) {
@@ -197,10 +213,13 @@ TEST(HostStatistics, TheThermalLevelIsThatOfTheWorstZone) {
 
 } // namespace
 
-TEST(HostStatistics, TellsWhatProgramsHold) {
+TEST(HostStatistics, TellsWhatProgramsAndFilesHold) {
     TemporaryFolder tree;
     tree.makeFile(u"proc/meminfo"_s, typical + "AnonPages: 300000 kB\nShmem: 20000 kB\n");
     EXPECT_EQ(LinuxHostStatistics(tree.path()).memoryUse().programBytes, 320000U * 1024);
     tree.makeFile(u"proc/meminfo"_s, typical + "AnonPages: 300000 kB\n");
     EXPECT_FALSE(LinuxHostStatistics(tree.path()).memoryUse().programBytes);
+    EXPECT_FALSE(LinuxHostStatistics(tree.path()).memoryUse().cacheBytes);
+    tree.makeFile(u"proc/meminfo"_s, "Buffers: 10 kB\nCached: 50 kB\nShmem: 20 kB\nSReclaimable: 8 kB\n");
+    EXPECT_EQ(LinuxHostStatistics(tree.path()).memoryUse().cacheBytes, 48U * 1024);
 }

@@ -50,8 +50,10 @@ public:
                         .totalBytes = quint64(16) << 30};
     std::optional<VolumeSize> root = VolumeSize{.totalBytes = 4000 << 10, .freeBytes = 1600 << 10};
     int thermal = 0;
+    QList<CoreTicks> cores;
 
     std::optional<CpuTicks> cpuTicks() override { return ticks; }
+    QList<CoreTicks> coreTicks() override { return cores; }
     MemoryUse memoryUse() override { return memory; }
     std::optional<VolumeSize> rootVolume() override { return root; }
     int thermalLevel() override { return thermal; }
@@ -212,9 +214,11 @@ class FakeIdentity : public Identity {
 public:
     quint32 uid = 1000;
     qint32 pid = 4242;
+    QList<qint32> display;
 
     quint32 userId() const override { return uid; }
     qint32 processId() const override { return pid; }
+    QList<qint32> displayServers() const override { return display; }
 };
 
 class FakeApplications : public Applications {

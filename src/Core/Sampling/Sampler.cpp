@@ -43,6 +43,20 @@ QString procArgs(QStringList arguments) {
     return arguments.join(u' ');
 }
 
+/// Returns the load of each CPU between two readings, in percent; nothing where their number differs.
+QList<double> loadsBetween(const QList<CoreTicks>& before, const QList<CoreTicks>& now) {
+    QList<double> loads;
+    if (before.size() != now.size())
+        return loads;
+    loads.reserve(now.size());
+    for (qsizetype i = 0; i < now.size(); ++i) {
+        const auto busy = static_cast<double>(now[i].busy - std::min(before[i].busy, now[i].busy));
+        const auto idle = static_cast<double>(now[i].idle - std::min(before[i].idle, now[i].idle));
+        loads.append(busy + idle > 0 ? busy / (busy + idle) * 100 : 0);
+    }
+    return loads;
+}
+
 quint64 busy(const CpuTicks& ticks) {
     return ticks.user + ticks.system + ticks.nice;
 }
@@ -62,11 +76,14 @@ SystemSample Sampler::sample() {
     sample.id = QUuid::createUuid();
     sample.timestamp = m_clock->now();
     sample.cpuPercent = cpuLoad();
+    const QList<CoreTicks> cores = m_host->coreTicks();
+    m_coreLoads = loadsBetween(std::exchange(m_prevCores, cores), cores);
     const MemoryUse memory = m_host->memoryUse();
     sample.memUsedBytes = memory.activeBytes + memory.wiredBytes + memory.compressedBytes;
     sample.memWiredBytes = memory.wiredBytes;
     sample.memCompressedBytes = memory.compressedBytes;
     sample.memProgramBytes = memory.programBytes;
+    sample.memCacheBytes = memory.cacheBytes;
     sample.memTotalBytes = memory.totalBytes;
     sample.swapUsedBytes = memory.swapUsedBytes;
     sample.swapTotalBytes = memory.swapTotalBytes;

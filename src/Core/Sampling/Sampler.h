@@ -33,6 +33,8 @@ public:
 
     /// Reads the whole machine. An unavailable figure is 0, and so is the CPU load of the first reading.
     SystemSample sample();
+    /// Returns the load of each CPU between the last two samples in percent; nothing where it is unknown.
+    const QList<double>& coreLoads() const { return m_coreLoads; }
 
     /// Returns one record per readable process, in the system's order, none when the listing fails. A new
     /// program, title or parent of a process shows within three passes; its CPU and idle time go on.
@@ -104,6 +106,8 @@ private:
     std::shared_ptr<Applications> m_applications;
     Classifier m_classify;
     std::optional<CpuTicks> m_prevHostCPU;
+    QList<CoreTicks> m_prevCores;
+    QList<double> m_coreLoads;
     QHash<qint32, Known> m_known; ///< by PID
     QSet<QString> m_texts;        ///< names, paths and arguments, each stored once
     qsizetype m_gone = 0;         ///< ended processes since texts were last dropped

@@ -36,6 +36,7 @@ struct SystemSample {
     quint64 memWiredBytes = 0;
     quint64 memCompressedBytes = 0;
     std::optional<quint64> memProgramBytes = {}; ///< anonymous and shared memory of all programs
+    std::optional<quint64> memCacheBytes = {};   ///< of files in memory, which can be given back
     quint64 swapUsedBytes = 0;
     quint64 swapTotalBytes = 0;
     quint64 diskFreeBytes = 0; ///< of the root volume, for an ordinary user

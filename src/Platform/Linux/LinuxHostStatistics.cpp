@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <sys/statvfs.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -16,9 +17,27 @@ using namespace KernelText;
 namespace {
 
 constexpr quint64 kib = 1024;
+constexpr std::size_t longestCpuLine = 256;
 
 std::string pathIn(const QString& root, const QString& path) {
     return QFile::encodeName(root + u'/' + path).toStdString();
+}
+
+/// Takes the counts of a line of `/proc/stat`, after its name. Returns an empty optional for a line that says
+/// less than the oldest kernels do.
+std::optional<CpuTicks> ticksOf(std::string_view line) {
+    enum { user, nice, system, idle, iowait, irq, softirq, steal, columns };
+    std::array<quint64, columns> ticks{};
+    for (int column = 0; column < columns; ++column) {
+        const auto count = takeNumber(line);
+        if (!count && column <= idle)
+            return std::nullopt;
+        ticks[column] = count.value_or(0); // old kernels end the line earlier
+    }
+    return CpuTicks{.user = ticks[user],
+                    .system = ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal],
+                    .idle = ticks[idle] + ticks[iowait],
+                    .nice = ticks[nice]};
 }
 
 /// Adds increases only. A count decreases a little when the kernel sums up its CPUs anew (proc(5)), and much
@@ -48,6 +67,15 @@ quint64 unpageableBytes(std::string_view meminfo) {
     return sum;
 }
 
+std::optional<quint64> cacheBytes(std::string_view meminfo) {
+    const auto cached = numberOf(meminfo, "Cached:");
+    if (!cached)
+        return std::nullopt;
+    const quint64 files =
+        *cached + numberOf(meminfo, "Buffers:").value_or(0) + numberOf(meminfo, "SReclaimable:").value_or(0);
+    return (files - std::min(files, numberOf(meminfo, "Shmem:").value_or(0))) * kib;
+}
+
 std::optional<quint64> programBytes(std::string_view meminfo) {
     const auto anonymous = numberOf(meminfo, "AnonPages:");
     const auto shared = numberOf(meminfo, "Shmem:");
@@ -58,6 +86,7 @@ std::optional<quint64> programBytes(std::string_view meminfo) {
 
 LinuxHostStatistics::LinuxHostStatistics(const QString& root)
     : m_stat(pathIn(root, QStringLiteral("proc/stat")))
+    , m_statBuffer((2 + std::max(0L, sysconf(_SC_NPROCESSORS_CONF))) * longestCpuLine)
     , m_meminfo(pathIn(root, QStringLiteral("proc/meminfo")))
     , m_zones(root + QStringLiteral("/sys")) {
     if (!m_stat.isOpen() || !m_meminfo.isOpen())
@@ -71,30 +100,32 @@ LinuxHostStatistics::LinuxHostStatistics(const QString& root)
 }
 
 std::optional<CpuTicks> LinuxHostStatistics::cpuTicks() {
-    std::array<char, 512> buffer;
-    auto line = m_stat.read(buffer);
-    if (!line.starts_with("cpu "))
+    const auto text = m_stat.read(m_statBuffer);
+    m_statLines = text.substr(0, text.rfind('\n') + 1);
+    if (!m_statLines.starts_with("cpu "))
         return std::nullopt;
-    line.remove_prefix(4);
-    line = line.substr(0, line.find('\n'));
-
-    enum { user, nice, system, idle, iowait, irq, softirq, steal, columns };
-    std::array<quint64, columns> ticks{};
-    for (int column = 0; column < columns; ++column) {
-        const auto count = takeNumber(line);
-        if (!count && column <= idle)
-            return std::nullopt;
-        ticks[column] = count.value_or(0); // old kernels end the line earlier
-    }
-    const CpuTicks now = {.user = ticks[user],
-                          .system = ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal],
-                          .idle = ticks[idle] + ticks[iowait],
-                          .nice = ticks[nice]};
+    const auto now = ticksOf(m_statLines.substr(4, m_statLines.find('\n') - 4));
+    if (!now)
+        return std::nullopt;
     if (!m_ticks)
-        m_ticks = m_lastTicks = now;
-    addForwardSteps(*m_ticks, m_lastTicks, now);
-    m_lastTicks = now;
+        m_ticks = m_lastTicks = *now;
+    addForwardSteps(*m_ticks, m_lastTicks, *now);
+    m_lastTicks = *now;
     return m_ticks;
+}
+
+QList<CoreTicks> LinuxHostStatistics::coreTicks() {
+    QList<CoreTicks> result;
+    for (std::string_view rest = m_statLines; rest.starts_with("cpu");
+         rest.remove_prefix(rest.find('\n') + 1)) {
+        const auto line = rest.substr(0, rest.find('\n'));
+        const auto gap = line.find(' ');
+        if (gap == 3) // the line of all together
+            continue;
+        if (const auto ticks = ticksOf(line.substr(std::min(gap, line.size()))))
+            result.append({.busy = ticks->user + ticks->nice + ticks->system, .idle = ticks->idle});
+    }
+    return result;
 }
 
 MemoryUse LinuxHostStatistics::memoryUse() {
@@ -109,7 +140,8 @@ MemoryUse LinuxHostStatistics::memoryUse() {
             .swapUsedBytes = usedBytes(meminfo, "SwapTotal:", "SwapFree:"),
             .swapTotalBytes = bytesOf(meminfo, "SwapTotal:"),
             .totalBytes = bytesOf(meminfo, "MemTotal:"),
-            .programBytes = programBytes(meminfo)};
+            .programBytes = programBytes(meminfo),
+            .cacheBytes = cacheBytes(meminfo)};
 }
 
 quint64 LinuxHostStatistics::zramBytes() const {

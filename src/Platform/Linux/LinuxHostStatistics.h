@@ -14,9 +14,10 @@ public:
     /// `root` contains `proc` and `sys`. The volume is always that of "/".
     explicit LinuxHostStatistics(const QString& root = QStringLiteral("/"));
 
-    /// Reads the first line of `/proc/stat`. irq, softirq and steal count as system, iowait as idle; user
-    /// includes guest.
+    /// Reads `/proc/stat`, and returns its first line. irq, softirq and steal count as system, iowait as
+    /// idle; user includes guest.
     std::optional<CpuTicks> cpuTicks() override;
+    QList<CoreTicks> coreTicks() override;
     /// Reads `/proc/meminfo`. Active, wired and compressed add up to MemTotal - MemAvailable.
     MemoryUse memoryUse() override;
     std::optional<VolumeSize> rootVolume() override;
@@ -26,6 +27,8 @@ private:
     quint64 zramBytes() const;
 
     KernelFile m_stat;
+    std::vector<char> m_statBuffer;
+    std::string_view m_statLines; ///< as of the last reading; a line that was cut short is left out
     KernelFile m_meminfo;
     std::vector<KernelFile> m_zram;
     ThermalZones m_zones;

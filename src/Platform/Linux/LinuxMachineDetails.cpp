@@ -17,7 +17,6 @@ using namespace KernelText;
 namespace {
 
 constexpr quint64 bytesPerSector = 512; // of /proc/diskstats, whatever the disk's own
-constexpr quint64 bytesPerKib = 1024;
 constexpr qsizetype longestTable = 4 << 20;
 
 QByteArray textOf(const std::string& path) {
@@ -28,20 +27,6 @@ QByteArray textOf(const std::string& path) {
 QString firstLine(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readLine(256)).trimmed() : QString();
-}
-
-std::optional<CoreTicks> ticksOf(std::string_view line) {
-    enum { user, nice, system, idle, iowait, irq, softirq, steal, columns };
-    std::array<quint64, columns> ticks{};
-    for (int column = 0; column < columns; ++column) {
-        const auto count = takeNumber(line);
-        if (!count && column <= idle)
-            return std::nullopt;
-        ticks[column] = count.value_or(0);
-    }
-    return CoreTicks{.busy = ticks[user] + ticks[nice] + ticks[system] + ticks[irq] + ticks[softirq] +
-                             ticks[steal],
-                     .idle = ticks[idle] + ticks[iowait]};
 }
 
 /// Undoes the escapes of mounts(5): "\040" is a blank.
@@ -67,29 +52,6 @@ LinuxMachineDetails::LinuxMachineDetails(QString root)
 
 std::string LinuxMachineDetails::path(const QString& relative) const {
     return QFile::encodeName(m_root + u'/' + relative).toStdString();
-}
-
-QList<CoreTicks> LinuxMachineDetails::coreTicks() {
-    QList<CoreTicks> result;
-    for (const QByteArray& line : textOf(path(QStringLiteral("proc/stat"))).split('\n')) {
-        if (!line.startsWith("cpu"))
-            break;
-        const qsizetype gap = line.indexOf(' ');
-        if (gap <= 3) // the line of all together
-            continue;
-        if (const auto ticks = ticksOf(std::string_view(line.constData() + gap, line.size() - gap)))
-            result.append(*ticks);
-    }
-    return result;
-}
-
-quint64 LinuxMachineDetails::cacheBytes() {
-    const QByteArray text = textOf(path(QStringLiteral("proc/meminfo")));
-    const std::string_view meminfo(text.constData(), text.size());
-    quint64 kib = 0;
-    for (const auto* key : {"Buffers:", "Cached:", "SReclaimable:"})
-        kib += numberOf(meminfo, key).value_or(0);
-    return (kib - std::min(kib, numberOf(meminfo, "Shmem:").value_or(0))) * bytesPerKib;
 }
 
 QList<DiskTraffic> LinuxMachineDetails::disks() {

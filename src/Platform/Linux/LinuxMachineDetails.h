@@ -5,17 +5,13 @@
 
 #include <vector>
 
-/// Reads `/proc/stat`, `/proc/meminfo`, `/proc/diskstats`, `/proc/self/mounts`, and the temperatures of
-/// `/sys/class/hwmon`, or of the thermal zones where there are none. Each file is opened at its first use.
+/// Reads `/proc/diskstats`, `/proc/self/mounts`, and the temperatures of `/sys/class/hwmon`, or of the
+/// thermal zones where there are none. Each file is opened at its first use.
 class LinuxMachineDetails : public MachineDetails {
 public:
     /// `root` contains `proc` and `sys`.
     explicit LinuxMachineDetails(QString root = QStringLiteral("/"));
 
-    /// irq, softirq and steal count as busy, iowait as idle.
-    QList<CoreTicks> coreTicks() override;
-    /// Buffers, Cached and SReclaimable less Shmem.
-    quint64 cacheBytes() override;
     /// Reads the counters of real disks: those with a device behind them in `/sys/block`.
     QList<DiskTraffic> disks() override;
     QList<HeatSensor> sensors() override;

@@ -1,13 +1,9 @@
 #include "UI/Overview/CpuPage.h"
 
 #include "AppModel.h"
-#include "Platform/MachineDetails.h"
 #include "UI/Kit/FlowGrid.h"
 
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -25,18 +21,6 @@ CpuPage::CpuPage(AppModel& model, std::shared_ptr<MachineDetails> machine)
     column()->addStretch();
 }
 
-QList<double> CpuPage::loads(const QList<CoreTicks>& before, const QList<CoreTicks>& now) {
-    QList<double> result;
-    if (before.size() != now.size())
-        return result;
-    for (qsizetype i = 0; i < now.size(); ++i) {
-        const auto busy = static_cast<double>(now[i].busy - std::min(before[i].busy, now[i].busy));
-        const double all = busy + static_cast<double>(now[i].idle - std::min(before[i].idle, now[i].idle));
-        result.append(all > 0 ? busy / all * fullLoad : 0);
-    }
-    return result;
-}
-
 void CpuPage::refresh() {
     QList<double> load;
     for (const SystemSample& sample : model().systemHistory())
@@ -49,25 +33,18 @@ void CpuPage::refresh() {
 }
 
 void CpuPage::refreshCores() {
-    const Instant at = model().systemSample().timestamp;
-    if (std::exchange(m_readAt, at) == at)
-        return;
-    const QList<CoreTicks> now = machine().coreTicks();
-    const QList<double> load = loads(std::exchange(m_ticks, now), now);
-    QStringList names;
-    for (qsizetype i = 0; i < load.size(); ++i)
-        names.append(tr("Core %1").arg(i));
-    note(m_log, names, load);
-    while (m_cores.size() < names.size()) {
-        m_cores.append(new Graph(names[m_cores.size()], Graph::Unit::percent));
-        m_cores.last()->setSmall();
+    const FigureHistory& history = model().coreHistory();
+    const qsizetype count = history.values.size();
+    while (m_cores.size() < count) {
+        m_cores.append(
+            new Graph(tr("Core %1").arg(m_cores.size()), Graph::Unit::percent, Graph::Size::small));
         m_grid->addWidget(m_cores.last());
     }
     for (qsizetype i = 0; i < m_cores.size(); ++i) {
-        m_cores[i]->setVisible(i < names.size());
-        if (i < names.size())
-            m_cores[i]->set({.times = m_log.times,
-                             .series = {{names[i], Theme::Role::blue, m_log.values[i]}},
+        m_cores[i]->setVisible(i < count);
+        if (i < count)
+            m_cores[i]->set({.times = history.times,
+                             .series = {{QString(), Theme::Role::blue, history.values[i]}},
                              .isStacked = true,
                              .top = fullLoad});
     }

@@ -1,19 +1,15 @@
 #pragma once
 
-#include "Platform/MachineDetails.h"
 #include "UI/Overview/DetailPage.h"
 
 class FlowGrid;
 
-/// The load of the processor: all of it over the history, and each core since the page was opened.
+/// The load of the processor over the history: all of it, and each core.
 class CpuPage : public DetailPage {
     Q_OBJECT
 
 public:
     CpuPage(AppModel& model, std::shared_ptr<MachineDetails> machine);
-
-    /// Returns the load of each core between two readings, in percent; nothing where their number differs.
-    static QList<double> loads(const QList<CoreTicks>& before, const QList<CoreTicks>& now);
 
 protected:
     void refresh() override;
@@ -24,7 +20,4 @@ private:
     Graph* m_all;
     FlowGrid* m_grid;
     QList<Graph*> m_cores;
-    QList<CoreTicks> m_ticks;
-    Instant m_readAt;
-    SeriesLog m_log;
 };

@@ -1,6 +1,7 @@
 #include "UI/Overview/DetailPage.h"
 
 #include "AppModel.h"
+#include "Core/Formatters.h"
 #include "Platform/MachineDetails.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
@@ -12,6 +13,8 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+
+#include <utility>
 
 using Theme::Role;
 
@@ -73,15 +76,32 @@ Graph* DetailPage::addGraph(const QString& title, Graph::Unit unit) {
     return graph;
 }
 
-void DetailPage::note(SeriesLog& log, const QStringList& names, const QList<double>& figures) {
-    log.append(m_model.systemSample().timestamp, names, figures, m_model.historyLimit());
+void DetailPage::hideEvent(QHideEvent* event) {
+    m_wasAway = true;
+    QWidget::hideEvent(event);
 }
 
-void DetailPage::draw(Graph* graph, const SeriesLog& log, bool isStacked, double top) {
-    Graph::Data data{.times = log.times, .series = {}, .isStacked = isStacked, .top = top};
-    for (qsizetype i = 0; i < log.names.size(); ++i)
-        data.series.append({log.names[i], seriesRoles[i % std::ssize(seriesRoles)], log.values[i]});
-    graph->set(std::move(data));
+void DetailPage::note(const QStringList& names, const QList<double>& figures) {
+    const Instant now = m_model.systemSample().timestamp;
+    if (std::exchange(m_wasAway, false))
+        m_log.interrupt(now, m_model.historyLimit());
+    m_log.append(now, names, figures, m_model.historyLimit());
+}
+
+void DetailPage::drawNoted(Graph* graph) const {
+    const QList<double>& times = m_log.history.times;
+    QString note;
+    if (!times.isEmpty())
+        note = tr("since %1, while this page is open")
+                   .arg(Formatters::timeOfDay(times.first(), QLocale::ShortFormat));
+    graph->set({.times = times, .series = colored(m_log.names, m_log.history), .note = note});
+}
+
+QList<Graph::Series> DetailPage::colored(const QStringList& names, const FigureHistory& history) {
+    QList<Graph::Series> series;
+    for (qsizetype i = 0; i < std::min(names.size(), history.values.size()); ++i)
+        series.append({names[i], seriesRoles[i % std::ssize(seriesRoles)], history.values[i]});
+    return series;
 }
 
 QList<double> DetailPage::historyTimes() const {

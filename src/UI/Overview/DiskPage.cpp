@@ -4,6 +4,8 @@
 #include "Core/Cleanup/OnThread.h"
 #include "Core/Formatters.h"
 #include "UI/Kit/Card.h"
+#include "UI/Kit/EmptyState.h"
+#include "UI/Kit/TextLabel.h"
 #include "UI/Style/Levels.h"
 
 #include <QPainter>
@@ -44,6 +46,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
+        Painting::mirror(painter, *this);
         QRectF line(0, 0, width(), height() - volumeBarHeight - 10);
         Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
         Painting::drawTabular(painter, line, Qt::AlignRight, m_figure);
@@ -68,17 +71,32 @@ DiskPage::DiskPage(AppModel& model, std::shared_ptr<MachineDetails> machine)
         m_volumeColumn->addWidget(row);
         return row;
     })
-    , m_traffic(nullptr) {
+    , m_volumeState((new TextLabel(TextStyle::callout))->secondary()->wrapped())
+    , m_traffic(nullptr)
+    , m_noTraffic(new EmptyState(QStringLiteral("server.rack"), tr("No figures of reading and writing"),
+                                 tr("This computer shows programs no disk of its own, as many containers. "
+                                    "What single processes read and write is in columns of the Processes "
+                                    "section."))) {
     auto* card = new Card;
     card->setLayout(m_volumeColumn);
     m_volumeColumn->setContentsMargins(Theme::cardPadding, 8, Theme::cardPadding, 8);
     m_volumeColumn->setSpacing(0);
+    m_volumeColumn->addWidget(m_volumeState);
+    m_volumeState->setPlainText(tr("Being read…"));
     column()->addWidget(card);
-    m_traffic = addGraph(tr("Read and written, while this page is open"), Graph::Unit::bytesPerSecond);
+    m_traffic = addGraph(tr("Read and written"), Graph::Unit::bytesPerSecond);
+    column()->addWidget(m_noTraffic);
+    m_noTraffic->hide();
     column()->addStretch();
 }
 
 DiskPage::~DiskPage() = default;
+
+/// What goes on while the page is away belongs to no moment of its graph.
+void DiskPage::hideEvent(QHideEvent* event) {
+    m_before.clear();
+    DetailPage::hideEvent(event);
+}
 
 void DiskPage::refresh() {
     refreshVolumes();
@@ -99,10 +117,17 @@ void DiskPage::refreshVolumes() {
             return;
         self->m_isReadingVolumes = false;
         self->m_volumesAt = now;
-        if (volumes)
-            self->m_volumes.show(volumes->size(),
-                                 [&volumes](VolumeRow& row, qsizetype i) { row.set(volumes->at(i)); });
+        self->showVolumes(volumes);
     });
+}
+
+void DiskPage::showVolumes(const std::optional<QList<MountedVolume>>& volumes) {
+    const qsizetype count = volumes ? volumes->size() : 0;
+    m_volumes.show(count, [&volumes](VolumeRow& row, qsizetype i) { row.set(volumes->at(i)); });
+    m_volumeState->setPlainText(
+        volumes ? tr("No volume of a disk is mounted here. The tile shows the space of the root folder.")
+                : tr("A disk does not answer. It is asked again every 10 seconds while this page is open."));
+    m_volumeState->setVisible(count == 0);
 }
 
 void DiskPage::refreshTraffic() {
@@ -125,8 +150,10 @@ void DiskPage::refreshTraffic() {
     }
     m_before = now;
     m_readAt = at;
+    m_traffic->setVisible(!now.isEmpty());
+    m_noTraffic->setVisible(now.isEmpty());
     if (names.isEmpty())
         return;
-    note(m_log, names, rates);
-    draw(m_traffic, m_log, false);
+    note(names, rates);
+    drawNoted(m_traffic);
 }

@@ -2,9 +2,9 @@
 
 #include "AppModel.h"
 #include "Core/Translations.h"
-#include "Platform/MachineDetails.h"
 
 #include <QVBoxLayout>
+#include <QtNumeric>
 
 #include <algorithm>
 
@@ -15,40 +15,27 @@ MemoryPage::MemoryPage(AppModel& model, std::shared_ptr<MachineDetails> machine)
     , m_used(addGraph(tr("In use"), Graph::Unit::bytes))
     , m_swap(addGraph(tr("Swap in use"), Graph::Unit::bytes))
     , m_pressure(addGraph(tr("Time that programs waited for memory"), Graph::Unit::percent))
-    , m_groups(addGraph(tr("Groups, while this page is open"), Graph::Unit::bytes))
-    , m_cache(addGraph(tr("File cache, while this page is open"), Graph::Unit::bytes)) {
+    , m_groups(addGraph(tr("Groups"), Graph::Unit::bytes))
+    , m_cache(addGraph(tr("File cache"), Graph::Unit::bytes)) {
     column()->addStretch();
 }
 
 void MemoryPage::refresh() {
     model().memoryLedger().wantAll();
-    refreshHistory();
-    QStringList names;
-    QList<double> bytes;
-    for (const ProcGroup group : allCases<ProcGroup>()) {
-        const auto found = std::ranges::find(model().groups(), group, &GroupRollup::group);
-        names.append(Translations::of(group));
-        bytes.append(found == model().groups().end() ? 0 : static_cast<double>(found->memory.bytes));
-    }
-    note(m_groupLog, names, bytes);
-    draw(m_groups, m_groupLog, true);
-    note(m_cacheLog, {tr("Cache")}, {static_cast<double>(machine().cacheBytes())});
-    draw(m_cache, m_cacheLog, true);
+    refreshUse();
+    refreshWaiting();
+    refreshGroups();
+    refreshCache();
 }
 
-void MemoryPage::refreshHistory() {
-    QList<double> programs, kernel, compressed, swap, some, full;
-    bool hasPressure = false;
+void MemoryPage::refreshUse() {
+    QList<double> programs, kernel, compressed, swap;
     for (const SystemSample& sample : model().systemHistory()) {
         const quint64 fixed = sample.memWiredBytes + sample.memCompressedBytes;
         programs.append(static_cast<double>(sample.memUsedBytes - std::min(fixed, sample.memUsedBytes)));
         kernel.append(static_cast<double>(sample.memWiredBytes));
         compressed.append(static_cast<double>(sample.memCompressedBytes));
         swap.append(static_cast<double>(sample.swapUsedBytes));
-        const PressureLevel level = sample.memoryPressure.value_or(PressureLevel());
-        some.append(level.some);
-        full.append(level.full);
-        hasPressure = hasPressure || sample.memoryPressure;
     }
     const SystemSample& last = model().systemSample();
     const QList<double> times = historyTimes();
@@ -60,13 +47,39 @@ void MemoryPage::refreshHistory() {
                  .top = static_cast<double>(last.memTotalBytes)});
     m_swap->setVisible(last.swapTotalBytes > 0);
     m_swap->set({.times = times,
-                 .series = {{tr("Swap"), Role::orange, swap}},
+                 .series = {{QString(), Role::orange, swap}},
                  .isStacked = true,
                  .top = static_cast<double>(last.swapTotalBytes)});
-    m_pressure->setVisible(hasPressure);
+}
+
+void MemoryPage::refreshWaiting() {
+    QList<double> some, full;
+    for (const SystemSample& sample : model().systemHistory()) {
+        const PressureLevel unknown{.some = qQNaN(), .full = qQNaN()};
+        const PressureLevel level = sample.memoryPressure.value_or(unknown);
+        some.append(level.some);
+        full.append(level.full);
+    }
+    m_pressure->setVisible(model().systemSample().memoryPressure.has_value());
     m_pressure->set(
-        {.times = times,
+        {.times = historyTimes(),
          .series = {{tr("Some programs"), Role::orange, some}, {tr("All programs"), Role::red, full}},
          .isStacked = false,
          .top = 100});
+}
+
+void MemoryPage::refreshCache() {
+    QList<double> cache;
+    for (const SystemSample& sample : model().systemHistory())
+        cache.append(sample.memCacheBytes ? static_cast<double>(*sample.memCacheBytes) : qQNaN());
+    m_cache->setVisible(model().systemSample().memCacheBytes.has_value());
+    m_cache->set({.times = historyTimes(), .series = {{QString(), Role::blue, cache}}, .isStacked = true});
+}
+
+void MemoryPage::refreshGroups() {
+    QStringList names;
+    for (const ProcGroup group : allCases<ProcGroup>())
+        names.append(Translations::of(group));
+    const FigureHistory& history = model().groupHistory();
+    m_groups->set({.times = history.times, .series = colored(names, history), .isStacked = true});
 }

@@ -2,8 +2,8 @@
 
 #include "UI/Overview/DetailPage.h"
 
-/// What is in memory: programs, the kernel and the compressor stacked over the history, swap and pressure;
-/// the groups and the cache since the page was opened.
+/// What is in memory over the history: programs, the kernel and the compressor stacked, swap and pressure,
+/// the groups and the cache.
 class MemoryPage : public DetailPage {
     Q_OBJECT
 
@@ -14,13 +14,14 @@ protected:
     void refresh() override;
 
 private:
-    void refreshHistory();
+    void refreshUse();
+    void refreshWaiting();
+    void refreshCache();
+    void refreshGroups();
 
     Graph* m_used;
     Graph* m_swap;
     Graph* m_pressure;
     Graph* m_groups;
     Graph* m_cache;
-    SeriesLog m_groupLog;
-    SeriesLog m_cacheLog;
 };

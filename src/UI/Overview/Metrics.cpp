@@ -1,7 +1,6 @@
 #include "Core/Formatters.h"
 #include "Core/Memory/MemoryLineUp.h"
 #include "UI/Overview/MetricTile.h"
-#include "UI/Overview/SeriesLog.h"
 #include "UI/Style/Levels.h"
 
 #include <QCoreApplication>

@@ -1,19 +1,17 @@
 #pragma once
 
 #include "Core/Instant.h"
+#include "Core/Sampling/FigureHistory.h"
 
-#include <QList>
-#include <QString>
+#include <QStringList>
 
-/// Named figures over time that a page keeps while it is open. It forgets them when the names change.
+/// Named figures over time that a page keeps, of the moments when it was open.
 struct SeriesLog {
-    QList<double> times; ///< seconds since the epoch
     QStringList names;
-    QList<QList<double>> values; ///< for each name, one for each time
+    FigureHistory history;
 
-    /// Adds the figures of a moment, and drops the oldest beyond `limit`.
+    /// Adds the figures of a moment. Forgets the others when the names change.
     void append(Instant at, const QStringList& shownNames, const QList<double>& figures, qsizetype limit);
+    /// Says that the figures before this moment are unknown, back to the last ones.
+    void interrupt(Instant before, qsizetype limit);
 };
-
-/// Returns the instant in seconds since the epoch.
-double secondsOf(Instant instant);

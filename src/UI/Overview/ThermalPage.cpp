@@ -9,7 +9,7 @@
 
 ThermalPage::ThermalPage(AppModel& model, std::shared_ptr<MachineDetails> machine)
     : DetailPage(tr("Thermal"), model, std::move(machine))
-    , m_sensors(addGraph(tr("Sensors, while this page is open"), Graph::Unit::degrees))
+    , m_sensors(addGraph(tr("Sensors"), Graph::Unit::degrees))
     , m_none(new EmptyState(
           QStringLiteral("waveform"), tr("No temperatures"),
           tr("This computer shows no sensors to programs, as most virtual machines. The tile shows "
@@ -27,6 +27,6 @@ void ThermalPage::refresh() {
     }
     m_sensors->setVisible(!names.isEmpty());
     m_none->setVisible(names.isEmpty());
-    note(m_log, names, degrees);
-    draw(m_sensors, m_log, false);
+    note(names, degrees);
+    drawNoted(m_sensors);
 }

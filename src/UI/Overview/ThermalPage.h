@@ -17,5 +17,4 @@ protected:
 private:
     Graph* m_sensors;
     EmptyState* m_none;
-    SeriesLog m_log;
 };
