@@ -5,6 +5,7 @@ class Camera;
 // Each takes the pictures of a part of the program.
 
 void shootSections(Camera& camera);
+void shootInspector(Camera& camera);
 void shootCleanup(Camera& camera);
 void shootFreeRAM(Camera& camera);
 void shootPanels(Camera& camera);

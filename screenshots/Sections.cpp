@@ -129,7 +129,8 @@ void shootPages(Camera& camera, MainWindow& window, Stage& stage) {
                                      std::pair(DetailPage::Kind::disk, u"overview-disk"_s),
                                      std::pair(DetailPage::Kind::thermal, u"overview-thermal"_s)}) {
         overview->openPage(kind);
-        stage.play(20, 24, 8.1);
+        for (int i = 0; i < 12; ++i)
+            stage.play(1, 24, 8.1); // the page reads for itself after each tick
         camera.take(window, name);
     }
     Q_EMIT overview->findChildren<DetailPage*>().last()->left();

@@ -95,8 +95,10 @@ void Stage::play(int ticks, double load, double usedGB) {
         CpuTicks& counters = *fakes.host->ticks;
         counters.user += static_cast<quint64>(std::lround(std::clamp(wave, 2.0, 99.0) * 10));
         counters.idle += static_cast<quint64>(std::lround((100 - std::clamp(wave, 2.0, 99.0)) * 10));
+        playCores(wave);
         const double used = usedGB - 1.5 * (ticks - i) / ticks + 0.15 * std::sin(i / 11.0);
         fakes.host->memory.activeBytes = static_cast<quint64>(used * double(GiB));
+        fakes.host->memory.cacheBytes = static_cast<quint64>((14.5 - used) * 0.7 * double(GiB));
         fakes.host->memory.programBytes = fakes.host->memory.activeBytes * 9 / 10;
         fakes.clock->advance(2);
         for (FakeProcess& process : fakes.processes->processes)
@@ -106,6 +108,19 @@ void Stage::play(int ticks, double load, double usedGB) {
         model.memoryLedger().waitForSlice();
     }
     QCoreApplication::processEvents();
+}
+
+/// Lets eight cores work, each with a rhythm of its own about the load of all.
+void Stage::playCores(double load) {
+    QList<CoreTicks>& cores = fakes.host->cores;
+    cores.resize(8);
+    ++m_played;
+    for (qsizetype i = 0; i < cores.size(); ++i) {
+        const double place = static_cast<double>(i);
+        const double own = std::clamp(load + 30 * std::sin(m_played / (3.0 + place)) - 4 * place, 1.0, 99.0);
+        cores[i].busy += static_cast<quint64>(own * 10);
+        cores[i].idle += static_cast<quint64>((100 - own) * 10);
+    }
 }
 
 void Stage::fillCaches() {

@@ -19,5 +19,8 @@ struct Stage : ModelFixture {
     void addServers();
 
 private:
+    void playCores(double load);
+
     QHash<QByteArray, quint64> m_cpuTimePerTick;
+    int m_played = 0; ///< ticks
 };

@@ -38,6 +38,7 @@ int main(int argc, char** argv) {
         QApplication::setFont(QFont(u"Inter"_s, 10));
     Camera camera(QString::fromLocal8Bit(argv[1]));
     shootSections(camera);
+    shootInspector(camera);
     shootCleanup(camera);
     shootSessions(camera);
     shootFreeRAM(camera);

@@ -1,7 +1,8 @@
 #include "Core/Formatters.h"
 
 #include <QCoreApplication>
-#include <QLocale>
+#include <QDateTime>
+#include <QRegularExpression>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -135,6 +136,21 @@ QString ago(double seconds) {
                                            static_cast<int>(seconds / unit.seconds));
     }
     return QCoreApplication::translate("Formatters", "just now");
+}
+
+QString timeFormat(const QLocale& locale) {
+    static const QRegularExpression zone(QStringLiteral("\\s*\\(?t+\\)?"));
+    QStringList parts = locale.timeFormat(QLocale::LongFormat).split(u'\'');
+    for (qsizetype i = 0; i < parts.size(); i += 2) // what stands between quotes is text
+        parts[i].remove(zone);
+    return parts.join(u'\'').trimmed();
+}
+
+QString timeOfDay(double seconds, QLocale::FormatType format) {
+    const QLocale locale;
+    const QTime time = QDateTime::fromMSecsSinceEpoch(std::llround(seconds * 1000)).time();
+    return format == QLocale::LongFormat ? locale.toString(time, timeFormat(locale))
+                                         : locale.toString(time, format);
 }
 
 QString percent(double value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QStringList>
 
 /// The texts for figures on screen, in the user's language.
@@ -20,6 +21,12 @@ QString bytesForLog(quint64 count);
 
 /// Returns "5 minutes ago" or "1 day ago" in whole units, "just now" below a second and for the future.
 QString ago(double seconds);
+
+/// Returns the locale's long format of a time, without the time zone.
+QString timeFormat(const QLocale& locale);
+
+/// Returns the local time of an instant in seconds since the epoch, with its seconds in the long format.
+QString timeOfDay(double seconds, QLocale::FormatType format = QLocale::LongFormat);
 
 /// Returns a whole number with its sign: "42%".
 QString percent(double value);

@@ -10,6 +10,7 @@
 struct Application {
     QString id;   ///< of its desktop entry, without ".desktop"; without an entry, the sandbox's name for it
     QString name; ///< as in the menu, in the user's language
+    QString icon = {}; ///< its name in the theme, or the path of a file; empty when unknown
 
     bool operator==(const Application&) const = default;
 };

@@ -50,8 +50,8 @@ protected:
 
     void entry(const char* id, const char* name, const char* exec) {
         m_folder.makeFile(u"usr/share/applications/"_s + QString::fromUtf8(id) + u".desktop"_s,
-                          u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2\n"_s
-                              .arg(QString::fromUtf8(name), here(exec))
+                          u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nIcon=%3-icon\n"_s
+                              .arg(QString::fromUtf8(name), here(exec), QString::fromUtf8(id))
                               .toUtf8());
     }
 
@@ -128,6 +128,9 @@ TEST_F(ApplicationsTest, AProcessIsOfTheApplicationThatItsProgramSays) {
         const auto application = applications.ofProcess(pid);
         EXPECT_EQ(application.value_or(Application()).id, QString::fromUtf8(running.id)) << running.what;
         EXPECT_EQ(application.value_or(Application()).name, QString::fromUtf8(running.name)) << running.what;
+        if (*running.id != 0 && *running.flatpak == 0) {
+            EXPECT_EQ(application->icon, QString::fromUtf8(running.id) + u"-icon"_s) << running.what;
+        }
     }
     EXPECT_EQ(applications.idsOf(u"Firefox"_s).size(), 2);
     EXPECT_EQ(applications.idsOf(u"firefox"_s), QStringList(u"firefox"_s));

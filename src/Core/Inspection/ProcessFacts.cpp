@@ -2,6 +2,7 @@
 
 #include "Core/Cleanup/OnThread.h"
 #include "Core/Inspection/ProcessInspection.h"
+#include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/Identity.h"
 #include "Platform/ListeningPorts.h"
@@ -21,6 +22,7 @@ constexpr std::chrono::milliseconds leastDiskInterval(900); // a period of a sec
 ProcessFacts::ProcessFacts(const Platform& platform)
     : m_details(platform.processDetails)
     , m_ports(platform.listeningPorts)
+    , m_applications(platform.applications)
     , m_identity(platform.identity)
     , m_clock(platform.clock) {}
 
@@ -155,6 +157,10 @@ QCoro::Task<std::optional<ProcessInspection>> ProcessFacts::inspect(qint32 pid) 
         return ProcessInspection::read(*details, *ports, listening, pid);
     };
     return onThread<ProcessInspection>(look);
+}
+
+std::optional<Application> ProcessFacts::application(qint32 pid) const {
+    return m_applications->ofProcess(pid);
 }
 
 QCoro::Task<std::optional<QList<EnvironmentVariable>>> ProcessFacts::environment(qint32 pid) const {

@@ -11,10 +11,12 @@
 #include <chrono>
 #include <optional>
 
+class Applications;
 class Clock;
 class Identity;
 class ListeningPorts;
 class ProcessDetails;
+struct Application;
 struct DiskCounters;
 struct EnvironmentVariable;
 struct Platform;
@@ -53,6 +55,8 @@ public:
 
     /// Reads what the system tells of one process. Empty when it cannot be read now.
     QCoro::Task<std::optional<ProcessInspection>> inspect(qint32 pid) const;
+    /// Finds the application that a process belongs to, now.
+    std::optional<Application> application(qint32 pid) const;
     /// Reads the environment that a process was started with. Empty when it is refused.
     QCoro::Task<std::optional<QList<EnvironmentVariable>>> environment(qint32 pid) const;
 
@@ -75,6 +79,7 @@ private:
 
     std::shared_ptr<ProcessDetails> m_details;
     std::shared_ptr<ListeningPorts> m_ports;
+    std::shared_ptr<Applications> m_applications;
     std::shared_ptr<Identity> m_identity;
     std::shared_ptr<Clock> m_clock;
     QHash<qint32, Disk> m_disks; ///< by PID

@@ -132,6 +132,7 @@ std::optional<DesktopEntry> DesktopEntry::parse(QByteArrayView text, const QStri
         return std::nullopt;
     DesktopEntry entry{.id = {},
                        .name = name,
+                       .icon = localized(keys, "Icon", locale),
                        .command = arguments(keys.value("Exec")),
                        .tryProgram = keys.value("TryExec")};
     // A program in a terminal has no window of its own.

@@ -10,6 +10,7 @@
 struct DesktopEntry {
     QString id;            ///< without ".desktop"
     QString name;          ///< in the locale, on one line
+    QString icon = {};     ///< a name in the theme, or a path
     QStringList command;   ///< the program and its fixed arguments, without field codes
     QString tryProgram;    ///< has to exist for the entry to be shown
     bool isListed = false; ///< the menu shows it, and it has a window of its own

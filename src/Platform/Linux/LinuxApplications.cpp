@@ -47,7 +47,8 @@ std::optional<Application> LinuxApplications::ofProgram(const QString& executabl
     const auto* program = m_entries.ofFile(executable);
     if (!program && QFileInfo(executable).isSymLink())
         program = m_entries.ofFile(QFileInfo(executable).canonicalFilePath());
-    return program ? std::optional(Application{program->entry.id, program->entry.name}) : std::nullopt;
+    return program ? std::optional(Application{program->entry.id, program->entry.name, program->entry.icon})
+                   : std::nullopt;
 }
 
 std::optional<Application> LinuxApplications::ofProcess(qint32 pid) {
@@ -87,12 +88,12 @@ std::optional<Application> LinuxApplications::ofSnap(const QString& name, const 
 
 Application LinuxApplications::named(const QString& id) {
     const auto* entry = m_entries.withId(id);
-    return entry ? toldApart(*entry) : Application{id, id};
+    return entry ? toldApart(*entry) : Application{id, id, id};
 }
 
 Application LinuxApplications::toldApart(DesktopEntry entry) {
     const bool isUnique = m_entries.idsOf(entry.name).size() < 2;
-    return {entry.id, isUnique ? entry.name : entry.id};
+    return {entry.id, isUnique ? entry.name : entry.id, entry.icon};
 }
 
 /// Finds the script, given as an absolute path in the interpreter's first argument that is not an option.

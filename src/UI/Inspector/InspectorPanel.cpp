@@ -2,11 +2,12 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
+#include "Platform/Applications.h"
 #include "UI/Inspector/FieldList.h"
-#include "UI/Inspector/InspectorGraph.h"
 #include "UI/Inspector/InspectorTexts.h"
 #include "UI/Inspector/MemoryKindsBar.h"
 #include "UI/Kit/ClampedLabel.h"
+#include "UI/Kit/Graph.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"
@@ -16,26 +17,28 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QPointer>
+
+#include <utility>
 
 using Theme::Role;
 using Theme::TextStyle;
 
 namespace {
 
-constexpr int panelMargin = 14;
+constexpr int panelMargin = 12;
 constexpr Theme::Length headSymbolSize{24};
 constexpr int listWidth = 250;
 constexpr int maxOpenHeight = 220;
 constexpr int maxCommandLines = 8;
-constexpr double leastBytes = 1 << 20;
+constexpr int maxNameLines = 2;
 
-QString percentText(double value) {
-    return Formatters::percent(value);
-}
-
-QString sizeText(double value) {
-    return Formatters::bytes(static_cast<quint64>(value));
+/// Returns the icon that a menu entry names, null where there is none.
+QIcon iconOf(const std::optional<Application>& application) {
+    const QString name = application ? application->icon : QString();
+    const QIcon icon = name.contains(u'/') ? QIcon(name) : QIcon::fromTheme(name);
+    return icon.pixmap(headSymbolSize).isNull() ? QIcon() : icon;
 }
 
 } // namespace
@@ -51,12 +54,12 @@ InspectorPanel::InspectorPanel(AppModel& model, QWidget* parent)
     , m_body(new QWidget)
     , m_column(new QVBoxLayout(m_body))
     , m_icon(new SymbolView(headSymbolSize, headSymbolSize))
-    , m_name(new TextLabel(TextStyle::title3, QFont::Bold))
+    , m_name(new ClampedLabel(maxNameLines, TextStyle::title3, QFont::Bold))
     , m_what((new TextLabel(TextStyle::callout))->secondary()->wrapped())
     , m_quit(new PushButton(tr("Quit")))
     , m_kill(new PushButton(tr("Force kill"), PushButton::Look::destructive))
-    , m_cpu(new InspectorGraph(tr("CPU"), Role::green, 10, percentText))
-    , m_ram(new InspectorGraph(tr("Memory"), Role::blue, leastBytes, sizeText))
+    , m_cpu(new Graph(tr("CPU"), Graph::Unit::percent, Graph::Size::compact))
+    , m_ram(new Graph(tr("Memory"), Graph::Unit::bytes, Graph::Size::compact))
     , m_kinds(new MemoryKindsBar)
     , m_fields(new FieldList)
     , m_command(new ClampedLabel(maxCommandLines, TextStyle::callout))
@@ -110,7 +113,6 @@ void InspectorPanel::layOutHead() {
     row->setSpacing(Theme::rowSpacing);
     auto* close = new IconButton(QStringLiteral("xmark"), tr("Close the details"));
     connect(close, &IconButton::clicked, this, &InspectorPanel::closed);
-    m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(m_icon);
     row->addWidget(m_name, 1);
     row->addWidget(close);
@@ -123,6 +125,7 @@ void InspectorPanel::layOutHead() {
                  [this](const ProcSample& process) { Q_EMIT endRequested(process, false); });
     actOnPressed(m_kill, m_process,
                  [this](const ProcSample& process) { Q_EMIT endRequested(process, true); });
+    m_icon->set(QStringLiteral("list.bullet.rectangle"), Role::secondaryText);
     m_name->setPlainText(tr("Details"));
     m_what->setPlainText(tr("Choose a process in the table."));
     auto* page = makeScrollingPage(this, {panelMargin, panelMargin, panelMargin, panelMargin}, 12);
@@ -174,6 +177,7 @@ void InspectorPanel::setProcess(const ProcSample& process) {
     m_process = process;
     m_body->show();
     m_model.memoryLedger().wantAsked({process.pid});
+    m_iconOf.clear();
     forgetDetails();
     refresh();
 }
@@ -185,7 +189,6 @@ void InspectorPanel::forgetDetails() {
     delete std::exchange(m_environment, nullptr);
     m_showEnvironment->show();
     m_showEnvironment->setText(tr("Show environment"));
-    m_showEnvironment->setEnabled(true);
 }
 
 void InspectorPanel::refresh() {
@@ -207,9 +210,18 @@ void InspectorPanel::refresh() {
     showInspection();
 }
 
-void InspectorPanel::showFigures() {
+/// Shows the icon of the application, else the symbol of the group. The application is asked for once for
+/// each program that the process runs.
+void InspectorPanel::showIcon() {
     m_icon->set(groupSymbol(m_process.group), Role::secondaryText);
-    m_name->setPlainText(fontMetrics().elidedText(m_process.name, Qt::ElideMiddle, 4 * listWidth));
+    const QString program = QStringLiteral("%1 %2").arg(m_process.pid).arg(m_process.executablePath);
+    if (!m_hasEnded && std::exchange(m_iconOf, program) != program)
+        m_icon->setIcon(iconOf(m_model.facts().application(m_process.pid)));
+}
+
+void InspectorPanel::showFigures() {
+    showIcon();
+    m_name->setPlainText(m_process.name);
     m_name->setToolTip(Formatters::toolTip(m_process.executablePath));
     m_what->setPlainText(
         m_hasEnded ? tr("It has ended.")
@@ -230,19 +242,14 @@ void InspectorPanel::showFigures() {
 }
 
 void InspectorPanel::showHistory() {
-    const auto points = m_history.of(m_process.identity());
-    const Instant now = m_model.systemSample().timestamp;
-    const auto ago = [now](Instant at) { return std::chrono::duration<double>(now - at).count(); };
-    std::vector<InspectorGraph::Point> cpu;
-    std::vector<InspectorGraph::Point> ram;
-    for (const InspectedHistory::Point& point : points) {
-        cpu.push_back({ago(point.at), point.cpuPercent});
-        ram.push_back({ago(point.at), static_cast<double>(point.rssBytes)});
+    QList<double> times, cpu, ram;
+    for (const InspectedHistory::Point& point : m_history.of(m_process.identity())) {
+        times.append(secondsOf(point.at));
+        cpu.append(point.cpuPercent);
+        ram.append(static_cast<double>(point.rssBytes));
     }
-    constexpr double shortest = 60;
-    const double seconds = std::max(shortest, points.empty() ? 0 : ago(points.front().at));
-    m_cpu->set(std::move(cpu), seconds);
-    m_ram->set(std::move(ram), seconds);
+    m_cpu->set({.times = times, .series = {{QString(), Role::green, cpu}}, .isStacked = true});
+    m_ram->set({.times = times, .series = {{QString(), Role::blue, ram}}, .isStacked = true});
 }
 
 void InspectorPanel::showFields() {
@@ -277,7 +284,8 @@ void InspectorPanel::showInspection() {
         open.append(tr("listens on %1").arg(InspectorTexts::ports(m_inspection->ports)));
     if (isKnown && !hasFiles)
         open.append(tr("Unknown: the system tells it only of your own processes."));
-    m_open->setPlainText(isKnown ? Formatters::list(open) : tr("Being read…"));
+    const QString unread = m_hasEnded ? tr("Unknown: it has ended.") : tr("Being read…");
+    m_open->setPlainText(isKnown ? Formatters::list(open) : unread);
 }
 
 void InspectorPanel::showFiles() {
@@ -290,6 +298,7 @@ void InspectorPanel::showFiles() {
         m_files->addLine(tr("The first %1 are listed.").arg(m_inspection->files.size()));
     m_files->fit(listWidth, maxOpenHeight);
     m_openColumn->addWidget(m_files);
+    m_files->setFocus(Qt::OtherFocusReason);
     m_showFiles->hide();
 }
 
@@ -314,7 +323,6 @@ QCoro::Task<> InspectorPanel::inspect(ProcessIdentity process) {
 }
 
 QCoro::Task<> InspectorPanel::readEnvironment(ProcessIdentity process) {
-    m_showEnvironment->setEnabled(false);
     const QPointer<InspectorPanel> self(this);
     const auto variables = co_await m_model.facts().environment(process.pid);
     if (!self || !isOn(process) || m_environment)
@@ -332,5 +340,7 @@ QCoro::Task<> InspectorPanel::readEnvironment(ProcessIdentity process) {
         m_environment->addLine(tr("It is empty."));
     m_environment->fit(listWidth, maxOpenHeight);
     m_environmentColumn->addWidget(m_environment);
+    if (m_showEnvironment->hasFocus())
+        m_environment->setFocus(Qt::OtherFocusReason);
     m_showEnvironment->hide();
 }

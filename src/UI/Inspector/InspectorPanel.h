@@ -14,7 +14,7 @@
 class AppModel;
 class ClampedLabel;
 class FieldList;
-class InspectorGraph;
+class Graph;
 class MemoryKindsBar;
 class PushButton;
 class QVBoxLayout;
@@ -66,6 +66,7 @@ private:
     void layOutFigures();
     void layOutOpen();
     QVBoxLayout* addSection(const QString& title);
+    void showIcon();
     void showFigures();
     void showHistory();
     void showFields();
@@ -86,14 +87,15 @@ private:
     std::optional<ProcessInspection> m_inspection;
     bool m_isInspecting = false;
     QString m_commandLine;
+    QString m_iconOf; ///< the program whose icon is shown
 
     SymbolView* m_icon;
-    TextLabel* m_name;
+    ClampedLabel* m_name;
     TextLabel* m_what;
     PushButton* m_quit;
     PushButton* m_kill;
-    InspectorGraph* m_cpu;
-    InspectorGraph* m_ram;
+    Graph* m_cpu;
+    Graph* m_ram;
     MemoryKindsBar* m_kinds;
     FieldList* m_fields;
     Fields m_at{};

@@ -14,7 +14,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr int barHeight = 10;
-constexpr int legendGap = 6;
+constexpr int legendGap = 8;
 constexpr int dotSide = 8;
 constexpr int mostKinds = 3;
 
@@ -60,6 +60,7 @@ QSize MemoryKindsBar::sizeHint() const {
 
 void MemoryKindsBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     const QList<Part> shown = parts();
     quint64 all = 0;
     for (const Part& part : shown)

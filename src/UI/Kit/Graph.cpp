@@ -5,9 +5,7 @@
 #include "UI/Style/Painting.h"
 
 #include <QAccessible>
-#include <QDateTime>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -19,17 +17,13 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int graphPadding = 12;
-constexpr int axisGap = 6;
+constexpr int cardInset = 12;
+constexpr int axisGap = 8;
 constexpr int legendGap = 16;
 constexpr Theme::Length legendDot{8};
-constexpr Theme::Length plotHeight{140};
-constexpr Theme::Length smallPlotHeight{44};
+constexpr Theme::Length plotHeights[] = {{140}, {56}, {44}}; ///< in the order of Graph::Size
+constexpr int usualWidths[] = {480, 200, 160};
 constexpr int scaleSteps = 2;
-
-QString timeText(double seconds, QLocale::FormatType format) {
-    return QLocale().toString(QDateTime::fromMSecsSinceEpoch(std::llround(seconds * 1000)).time(), format);
-}
 
 double captionHeight() {
     return Painting::lineHeight(Theme::font(TextStyle::caption));
@@ -37,21 +31,17 @@ double captionHeight() {
 
 } // namespace
 
-Graph::Graph(QString title, Unit unit, QWidget* parent)
+Graph::Graph(QString title, Unit unit, Size size, QWidget* parent)
     : QWidget(parent)
     , m_title(std::move(title))
-    , m_unit(unit) {
+    , m_unit(unit)
+    , m_size(size) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     describe();
-}
-
-void Graph::setSmall() {
-    m_isSmall = true;
-    updateGeometry();
 }
 
 void Graph::set(Data shown) {
@@ -64,6 +54,8 @@ void Graph::set(Data shown) {
 }
 
 QString Graph::text(Unit unit, double value) {
+    if (std::isnan(value))
+        return QStringLiteral("—");
     switch (unit) {
     case Unit::percent:
         return Formatters::percent(value);
@@ -79,11 +71,12 @@ QString Graph::text(Unit unit, double value) {
 }
 
 double Graph::roundTop(Unit unit, double largest) {
+    constexpr double kib = 1024;
     const bool isBytes = unit == Unit::bytes || unit == Unit::bytesPerSecond;
-    double scale = 1;
-    while (isBytes && largest / scale >= 1024)
-        scale *= 1024;
-    const double wanted = std::max(largest / scale, 1.0);
+    double scale = isBytes ? kib : 1;
+    while (isBytes && largest / scale > 500)
+        scale *= kib;
+    const double wanted = std::max(largest / scale, isBytes ? 1.0 : 10.0);
     double power = 1;
     while (wanted > 10 * power)
         power *= 10;
@@ -102,10 +95,22 @@ double Graph::top() const {
         double sum = 0;
         for (const Series& series : m_data.series) {
             sum = m_data.isStacked ? sum + series.values[i] : series.values[i];
-            largest = std::max(largest, sum);
+            largest = std::max(largest, sum); // which leaves out what is not known
         }
     }
     return roundTop(m_unit, largest);
+}
+
+bool Graph::hasLegend() const {
+    return m_data.series.size() > 1 || (m_data.series.size() == 1 && !m_data.series[0].name.isEmpty());
+}
+
+bool Graph::isDrawable() const {
+    return m_data.times.size() > 1;
+}
+
+int Graph::padding() const {
+    return m_size == Size::compact ? 0 : cardInset;
 }
 
 qsizetype Graph::shownIndex() const {
@@ -126,16 +131,20 @@ QList<std::pair<QString, Role>> Graph::legend() const {
     for (const Series& series : m_data.series) {
         const QString figure = index < 0 ? QStringLiteral("—") : text(m_unit, series.values[index]);
         result.append(
-            {m_isSmall || series.name.isEmpty() ? figure : QStringLiteral("%1 %2").arg(series.name, figure),
-             series.role});
+            {series.name.isEmpty() ? figure : QStringLiteral("%1 %2").arg(series.name, figure), series.role});
     }
     return result;
 }
 
+/// Returns the time of the chosen moment, else the note.
+QString Graph::momentText() const {
+    return m_cursor && shownIndex() >= 0 ? Formatters::timeOfDay(m_data.times[shownIndex()]) : m_data.note;
+}
+
 void Graph::describe() {
     QStringList spoken{m_title};
-    if (m_cursor && shownIndex() >= 0)
-        spoken.append(timeText(m_data.times[shownIndex()], QLocale::LongFormat));
+    if (const QString moment = momentText(); !moment.isEmpty())
+        spoken.append(moment);
     for (const auto& [entry, role] : legend())
         spoken.append(entry);
     setAccessibleName(spoken.join(QStringLiteral(", ")));
@@ -152,10 +161,11 @@ void Graph::moveCursor(std::optional<double> time) {
 }
 
 void Graph::mouseMoveEvent(QMouseEvent* event) {
-    const QRectF area = plot();
-    if (m_data.times.size() < 2)
+    if (!isDrawable())
         return;
-    const double share = std::clamp((event->position().x() - area.left()) / area.width(), 0.0, 1.0);
+    const QRectF area = plot();
+    const double pointer = Painting::mirrored(event->position(), rect(), layoutDirection()).x();
+    const double share = std::clamp((pointer - area.left()) / area.width(), 0.0, 1.0);
     moveCursor(m_data.times.first() + share * (m_data.times.last() - m_data.times.first()));
 }
 
@@ -168,29 +178,33 @@ void Graph::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
 }
 
-void Graph::keyPressEvent(QKeyEvent* event) {
+/// Returns the moment that a key leads to, -1 for another key.
+qsizetype Graph::indexForKey(int key) const {
     const qsizetype last = m_data.times.size() - 1;
     const auto step = std::max<qsizetype>(1, last / std::max(1, static_cast<int>(plot().width()) / 4));
-    std::optional<qsizetype> index;
-    if (event->key() == Qt::Key_Left)
-        index = shownIndex() - step;
-    else if (event->key() == Qt::Key_Right)
-        index = shownIndex() + step;
-    else if (event->key() == Qt::Key_Home)
-        index = 0;
-    else if (event->key() == Qt::Key_End)
-        index = last;
+    const int earlier = layoutDirection() == Qt::RightToLeft ? Qt::Key_Right : Qt::Key_Left;
+    if (key == Qt::Key_Home)
+        return 0;
+    if (key == Qt::Key_End)
+        return last;
+    if (key == Qt::Key_Left || key == Qt::Key_Right)
+        return std::clamp<qsizetype>(shownIndex() + (key == earlier ? -step : step), 0, last);
+    return -1;
+}
+
+void Graph::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && m_cursor)
         return moveCursor(std::nullopt);
-    if (index && last >= 0)
-        moveCursor(m_data.times[std::clamp<qsizetype>(*index, 0, last)]);
+    const qsizetype index = m_data.times.isEmpty() ? -1 : indexForKey(event->key());
+    if (index >= 0)
+        moveCursor(m_data.times[index]);
     else
         QWidget::keyPressEvent(event);
 }
 
-/// Returns how many lines the legend takes, in the order in which `paintHead` places its entries.
+/// Returns how many lines the legend takes, in the order in which `paintLegend` places its entries.
 int Graph::legendLines(int width) const {
-    if (m_isSmall)
+    if (!hasLegend())
         return 0;
     const QFontMetricsF metrics(Theme::font(TextStyle::caption));
     double left = 0;
@@ -199,7 +213,7 @@ int Graph::legendLines(int width) const {
         // the longest figure, so that the graph keeps its height while figures change
         const double entry = legendDot + axisGap + metrics.horizontalAdvance(series.name) +
                              metrics.horizontalAdvance(QStringLiteral(" 0,000.0 GB/s")) + legendGap;
-        if (left > 0 && left + entry > width - 2 * graphPadding) {
+        if (left > 0 && left + entry > width - 2 * padding()) {
             ++lines;
             left = 0;
         }
@@ -209,27 +223,33 @@ int Graph::legendLines(int width) const {
 }
 
 QSize Graph::sizeHint() const {
-    const int width = Theme::scaled(m_isSmall ? 160 : 480);
+    const int width = Theme::scaled(usualWidths[static_cast<int>(m_size)]);
     return {width, heightForWidth(width)};
 }
 
 int Graph::heightForWidth(int width) const {
     const double line = captionHeight() + Theme::textGap;
     const double head = (1 + legendLines(width)) * line + axisGap;
-    const double foot = m_isSmall ? 0 : line + axisGap;
-    return static_cast<int>(2 * graphPadding + head + foot) + (m_isSmall ? smallPlotHeight : plotHeight);
+    const double foot = hasAxes() ? line + axisGap : 0;
+    return static_cast<int>(2 * padding() + head + foot) + plotHeights[static_cast<int>(m_size)];
 }
 
 QRectF Graph::plot() const {
     const double line = captionHeight() + Theme::textGap;
-    QRectF area = QRectF(rect()).adjusted(graphPadding, graphPadding, -graphPadding, -graphPadding);
+    QRectF area = QRectF(rect()).adjusted(padding(), padding(), -padding(), -padding());
     area.setTop(area.top() + (1 + legendLines(width())) * line + axisGap);
-    if (m_isSmall)
+    if (!hasAxes())
         return area;
     area.setBottom(area.bottom() - line - axisGap);
-    area.setLeft(area.left() + Painting::tabularWidth(Theme::font(TextStyle::caption), text(m_unit, top())) +
-                 axisGap);
+    double widest = 0;
+    for (int step = 0; step <= scaleSteps; ++step)
+        widest = std::max(widest, Painting::tabularWidth(Theme::font(TextStyle::caption), scaleText(step)));
+    area.setLeft(area.left() + widest + axisGap);
     return area;
+}
+
+QString Graph::scaleText(int step) const {
+    return text(m_unit, top() * step / scaleSteps);
 }
 
 double Graph::x(const QRectF& area, qsizetype index) const {
@@ -240,84 +260,121 @@ double Graph::x(const QRectF& area, qsizetype index) const {
 
 void Graph::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Painting::drawCard(painter, rect());
+    Painting::mirror(painter, *this);
+    const bool isOnCard = m_size == Size::compact;
+    if (!isOnCard)
+        Painting::drawCard(painter, rect());
     const QRectF area = plot();
     paintHead(painter);
     paintAxes(painter, area);
-    if (m_data.times.size() > 1)
-        paintSeries(painter, area);
-    paintCursor(painter, area);
+    if (isDrawable()) {
+        for (const Run& run : runs())
+            paintRun(painter, area, run);
+        paintCursor(painter, area);
+    }
     if (hasFocus())
-        Painting::drawFocusRing(painter, rect(), Theme::cardRadius);
+        Painting::drawFocusRing(painter, isOnCard ? area.adjusted(-2, -2, 0, 2) : QRectF(rect()),
+                                isOnCard ? Theme::controlRadius : Theme::cardRadius);
 }
 
 void Graph::paintHead(QPainter& painter) const {
-    const double height = captionHeight();
-    QRectF line(graphPadding, graphPadding, width() - 2 * graphPadding, height);
+    QRectF line(padding(), padding(), width() - 2 * padding(), captionHeight());
+    QStringList parts;
+    if (const QString moment = momentText(); hasAxes() && !moment.isEmpty())
+        parts.append(moment);
+    if (const auto entries = legend(); !hasLegend() && !entries.isEmpty())
+        parts.append(entries[0].first);
+    const QString figure = parts.join(QStringLiteral(" • "));
+    Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
+    const double figureWidth = Painting::tabularWidth(painter.font(), figure);
+    Painting::drawTabular(painter, Painting::takeRight(line, figureWidth), Qt::AlignRight, figure);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText, QFont::DemiBold);
     Painting::drawElided(painter, line, Qt::ElideRight, m_title);
+    line.setRight(width() - padding());
+    if (hasLegend())
+        paintLegend(painter, line.translated(0, captionHeight() + Theme::textGap));
+}
+
+void Graph::paintLegend(QPainter& painter, QRectF line) const {
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
-    const auto entries = legend();
-    if (m_isSmall) {
-        Painting::drawTabular(painter, line, Qt::AlignRight,
-                              entries.isEmpty() ? QString() : entries[0].first);
-        return;
-    }
-    if (m_cursor && shownIndex() >= 0)
-        Painting::drawTabular(painter, line, Qt::AlignRight,
-                              timeText(m_data.times[shownIndex()], QLocale::LongFormat).section(u' ', 0, 1));
-    const double step = height + Theme::textGap;
-    line.translate(0, step);
     double left = line.left();
-    for (const auto& [entry, role] : entries) {
+    for (const auto& [entry, role] : legend()) {
         const double needed = legendDot + axisGap + Painting::tabularWidth(painter.font(), entry);
         if (left > line.left() && left + needed > line.right()) {
-            line.translate(0, step);
+            line.translate(0, line.height() + Theme::textGap);
             left = line.left();
         }
         const QRectF dot(left, line.center().y() - legendDot / 2.0, legendDot, legendDot);
         Painting::drawCard(painter, dot, legendDot / 2.0, Theme::color(role));
-        Painting::drawTabular(painter, QRectF(dot.right() + axisGap, line.top(), needed, height),
-                              Qt::AlignLeft, entry);
+        Painting::drawTabular(
+            painter, QRectF(dot.right() + axisGap, line.top(), needed - legendDot - axisGap, line.height()),
+            Qt::AlignLeft, entry);
         left += needed + legendGap;
     }
 }
 
 void Graph::paintAxes(QPainter& painter, const QRectF& area) const {
-    const double largest = top();
     Painting::setTextStyle(painter, TextStyle::caption, Role::secondaryText);
     for (int step = 0; step <= scaleSteps; ++step) {
         const double y = qRound(area.bottom() - area.height() * step / scaleSteps);
         painter.fillRect(QRectF(area.left(), y, area.width(), 1), Theme::color(Role::separator));
-        if (m_isSmall)
+        if (!hasAxes())
             continue;
-        const QRectF label(graphPadding, y - captionHeight() / 2, area.left() - axisGap - graphPadding,
+        const QRectF label(padding(), y - captionHeight() / 2, area.left() - axisGap - padding(),
                            captionHeight());
-        Painting::drawTabular(painter, label, Qt::AlignRight, text(m_unit, largest * step / scaleSteps));
+        Painting::drawTabular(painter, label, Qt::AlignRight, scaleText(step));
     }
-    if (m_isSmall || m_data.times.size() < 2)
-        return;
-    const QRectF foot(area.left(), area.bottom() + axisGap, area.width(), captionHeight());
-    const double first = m_data.times.first();
-    const double last = m_data.times.last();
-    const QLocale::FormatType format = QLocale::ShortFormat;
-    Painting::drawTabular(painter, foot, Qt::AlignLeft, timeText(first, format));
-    Painting::drawTabular(painter, foot, Qt::AlignHCenter, timeText((first + last) / 2, format));
-    Painting::drawTabular(painter, foot, Qt::AlignRight, timeText(last, format));
+    if (hasAxes())
+        paintTimes(painter, area);
 }
 
-void Graph::paintSeries(QPainter& painter, const QRectF& area) const {
+/// Draws the times below, or why there is no line yet.
+void Graph::paintTimes(QPainter& painter, const QRectF& area) const {
+    const QRectF foot(area.left(), area.bottom() + axisGap, area.width(), captionHeight());
+    if (!isDrawable())
+        return Painting::drawElided(painter, foot, Qt::ElideRight,
+                                    tr("The line begins with the next figure."));
+    const double first = m_data.times.first();
+    const double last = m_data.times.last();
+    constexpr double shortest = 120; // below it two of the times are the same minute
+    const auto timeText = [span = last - first](double time) {
+        return Formatters::timeOfDay(time, span > shortest ? QLocale::ShortFormat : QLocale::LongFormat);
+    };
+    Painting::drawTabular(painter, foot, Qt::AlignLeft, timeText(first));
+    if (foot.width() > 4 * Painting::tabularWidth(painter.font(), timeText(first)))
+        Painting::drawTabular(painter, foot, Qt::AlignHCenter, timeText((first + last) / 2));
+    Painting::drawTabular(painter, foot, Qt::AlignRight, timeText(last));
+}
+
+QList<Graph::Run> Graph::runs() const {
+    const auto isKnown = [this](qsizetype index) {
+        return std::ranges::none_of(
+            m_data.series, [index](const Series& series) { return std::isnan(series.values[index]); });
+    };
+    QList<Run> result;
+    for (qsizetype begin = 0; begin < m_data.times.size();) {
+        qsizetype end = begin;
+        while (end < m_data.times.size() && isKnown(end))
+            ++end;
+        if (end > begin)
+            result.append({begin, end});
+        begin = end + 1;
+    }
+    return result;
+}
+
+void Graph::paintRun(QPainter& painter, const QRectF& area, Run run) const {
     const double largest = top();
-    QList<double> base(m_data.times.size(), 0);
+    QList<double> base(run.end - run.begin, 0);
     QList<std::pair<QPolygonF, Role>> lines;
     for (const Series& series : m_data.series) {
         QPolygonF line;
-        line.reserve(m_data.times.size());
-        for (qsizetype i = 0; i < m_data.times.size(); ++i) {
-            const double value = base[i] + series.values[i];
+        line.reserve(base.size());
+        for (qsizetype i = run.begin; i < run.end; ++i) {
+            const double value = base[i - run.begin] + series.values[i];
             line.append({x(area, i), area.bottom() - std::min(value / largest, 1.0) * area.height()});
             if (m_data.isStacked)
-                base[i] = value;
+                base[i - run.begin] = value;
         }
         lines.prepend({thinnedLine(line), series.role});
     }
@@ -339,9 +396,7 @@ void Graph::paintSeries(QPainter& painter, const QRectF& area) const {
 }
 
 void Graph::paintCursor(QPainter& painter, const QRectF& area) const {
-    const qsizetype index = shownIndex();
-    if (!m_cursor || index < 0 || m_data.times.size() < 2)
-        return;
-    painter.fillRect(QRectF(qRound(x(area, index)), area.top(), 1, area.height()),
-                     Theme::color(Role::secondaryText));
+    if (m_cursor)
+        painter.fillRect(QRectF(qRound(x(area, shownIndex())), area.top(), 1, area.height()),
+                         Theme::color(Role::secondaryText));
 }

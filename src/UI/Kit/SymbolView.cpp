@@ -18,7 +18,14 @@ void SymbolView::set(const QString& name, Theme::Role role) {
     update();
 }
 
+void SymbolView::setIcon(const QIcon& icon) {
+    m_icon = icon;
+    update();
+}
+
 void SymbolView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    if (!m_icon.isNull())
+        return m_icon.paint(&painter, rect());
     Symbols::draw(painter, m_name, Theme::color(m_role), rect(), m_size);
 }

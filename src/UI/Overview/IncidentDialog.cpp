@@ -7,9 +7,7 @@
 #include "UI/Overview/Sparkline.h"
 #include "UI/Style/Levels.h"
 
-#include <QDateTime>
 #include <QHBoxLayout>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -23,9 +21,7 @@ constexpr Theme::Length listHeight{260};
 constexpr Theme::Length graphHeight{56};
 
 QString clockTime(Instant at) {
-    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(at.time_since_epoch());
-    return QLocale().toString(QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time(),
-                              QStringLiteral("HH:mm:ss"));
+    return Formatters::timeOfDay(secondsOf(at));
 }
 
 template <typename Read> QList<double> lineOf(const Incident& incident, Read read) {

@@ -1,8 +1,9 @@
 #include "UI/Settings/LocalTimeText.h"
 
+#include "Core/Formatters.h"
+
 #include <QDateTime>
 #include <QRegularExpression>
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -14,20 +15,11 @@ QString abbreviatedDate(const QLocale& locale) {
     return locale.dateFormat(QLocale::LongFormat).remove(weekday).replace(u"MMMM"_s, u"MMM"_s);
 }
 
-/// Returns the long format without the time zone. Letters between quotes are text.
-QString standardTime(const QLocale& locale) {
-    static const QRegularExpression zone(u"\\s*\\(?t+\\)?"_s);
-    QStringList parts = locale.timeFormat(QLocale::LongFormat).split(u'\'');
-    for (qsizetype i = 0; i < parts.size(); i += 2)
-        parts[i].remove(zone);
-    return parts.join(u'\'').trimmed();
-}
-
 } // namespace
 
 LocalTimeText::LocalTimeText(const QLocale& locale)
     : m_locale(locale)
-    , m_format(abbreviatedDate(locale) + u' ' + standardTime(locale)) {}
+    , m_format(abbreviatedDate(locale) + u' ' + Formatters::timeFormat(locale)) {}
 
 QString LocalTimeText::of(Instant instant) const {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(instant.time_since_epoch());
