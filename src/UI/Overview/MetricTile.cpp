@@ -5,9 +5,7 @@
 #include "UI/Style/Painting.h"
 
 #include <QAccessible>
-#include <QDateTime>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -61,9 +59,7 @@ void MetricTile::describe() {
 
 /// Returns the time and the figure of the marked moment.
 QStringList MetricTile::markText() const {
-    const auto milliseconds = std::llround(m_metric.times.value(m_marked) * 1000);
-    const QTime time = QDateTime::fromMSecsSinceEpoch(milliseconds).time();
-    return {QLocale().toString(time, QStringLiteral("HH:mm:ss")),
+    return {Formatters::timeOfDay(m_metric.times.value(m_marked)),
             Formatters::percent(m_metric.history.value(m_marked))};
 }
 
@@ -80,7 +76,8 @@ void MetricTile::moveMark(qsizetype index) {
 }
 
 void MetricTile::mouseMoveEvent(QMouseEvent* event) {
-    const double share = (event->position().x() - m_sparkline->x()) / std::max(1, m_sparkline->width());
+    const double pointer = Painting::mirrored(event->position(), rect(), layoutDirection()).x();
+    const double share = (pointer - m_sparkline->x()) / std::max(1, m_sparkline->width());
     moveMark(std::lround(std::clamp(share, 0.0, 1.0) * static_cast<double>(m_metric.history.size() - 1)));
     QAbstractButton::mouseMoveEvent(event);
 }
@@ -100,9 +97,11 @@ void MetricTile::keyPressEvent(QKeyEvent* event) {
     const qsizetype last = m_metric.history.size() - 1;
     const auto step = std::max<qsizetype>(1, last / std::max(1, m_sparkline->width() / 2));
     const qsizetype from = m_marked < 0 ? last : m_marked;
-    if (event->key() == Qt::Key_Left)
+    const bool isEarlier =
+        event->key() == (layoutDirection() == Qt::RightToLeft ? Qt::Key_Right : Qt::Key_Left);
+    if (isEarlier)
         moveMark(std::max<qsizetype>(0, from - step));
-    else if (event->key() == Qt::Key_Right)
+    else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)
         moveMark(from + step);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();

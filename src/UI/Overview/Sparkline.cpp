@@ -1,7 +1,7 @@
 #include "UI/Overview/Sparkline.h"
 
 #include "UI/Kit/LinePoints.h"
-#include "UI/Style/Theme.h"
+#include "UI/Style/Painting.h"
 
 #include <QPainter>
 
@@ -46,6 +46,7 @@ void Sparkline::mark(qsizetype index) {
 
 void Sparkline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Painting::mirror(painter, *this);
     painter.setRenderHint(QPainter::Antialiasing);
     // A stroke is centred on its line: its outer half needs room.
     painter.translate(0, 0.75);

@@ -27,6 +27,23 @@ int indentOf(const ProcessTableRow& row) {
     return std::min(row.depth, deepestIndent) * indentStep;
 }
 
+/// Draws a ground behind the parts of a text that `drawElided` draws in the same area.
+void paintMarks(QPainter& painter, const QRectF& area, const QString& shown,
+                const QList<SearchWords::Part>& parts) {
+    const Painting::Upright upright(painter, area);
+    const QFontMetricsF metrics(painter.font());
+    const double all = metrics.horizontalAdvance(shown);
+    const double left = upright.isMirrored() ? area.right() - all : area.left();
+    for (const SearchWords::Part& part : parts) {
+        double begin = metrics.horizontalAdvance(shown.left(part.begin));
+        const double length = metrics.horizontalAdvance(shown.left(part.begin + part.length)) - begin;
+        if (shown.isRightToLeft())
+            begin = all - begin - length;
+        const QRectF mark(left + begin, area.center().y() - metrics.height() / 2, length, metrics.height());
+        Painting::drawCard(painter, mark, 3, Theme::color(Role::yellow, markOpacity), Qt::transparent);
+    }
+}
+
 /// Draws "×12" behind the name. Returns the part of `area` before it.
 QRectF paintBadge(QPainter& painter, QRectF area, const QString& name, const QString& text, Role role) {
     const QFont font = Theme::font(TextStyle::caption2, QFont::Bold);
@@ -79,17 +96,8 @@ QRect ProcessNamePainter::signRect(const QRect& cell, const ProcessTableRow& row
 void ProcessNamePainter::paintMarked(QPainter& painter, const QRectF& area, Qt::TextElideMode mode,
                                      const QString& text, const SearchWords& words) {
     if (!words.isEmpty()) {
-        const QFontMetricsF metrics(painter.font());
-        const QString shown = metrics.elidedText(text, mode, area.width());
-        for (const SearchWords::Part& part : words.partsOf(shown)) {
-            const double begin = metrics.horizontalAdvance(shown.left(part.begin));
-            const double end = metrics.horizontalAdvance(shown.left(part.begin + part.length));
-            const double height = metrics.height();
-            Painting::drawCard(
-                painter,
-                QRectF(area.left() + begin - 1, area.center().y() - height / 2, end - begin + 2, height), 3,
-                Theme::color(Role::yellow, markOpacity), Qt::transparent);
-        }
+        const QString shown = QFontMetricsF(painter.font()).elidedText(text, mode, area.width());
+        paintMarks(painter, area, shown, words.partsOf(shown));
     }
     Painting::drawElided(painter, area, mode, text);
 }

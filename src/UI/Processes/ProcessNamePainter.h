@@ -12,7 +12,7 @@ namespace ProcessNamePainter {
 
 inline constexpr int cellPadding = 8;
 
-/// The painter has the style of the text.
+/// The painter has the style of the text, and is mirrored as the layout is.
 void paint(QPainter& painter, QRectF area, const ProcessTableModel& model, const ProcessTableRow& row);
 /// Draws a line of text with a ground behind what the search matched.
 void paintMarked(QPainter& painter, const QRectF& area, Qt::TextElideMode mode, const QString& text,

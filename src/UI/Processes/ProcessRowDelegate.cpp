@@ -28,6 +28,7 @@ const ProcessTableModel& modelOf(const QModelIndex& index) {
     return *static_cast<const ProcessTableModel*>(index.model());
 }
 
+/// Returns where a button is in a layout from left to right.
 QRect buttonRect(const QRect& cell, int position) {
     return {cell.left() + cellPadding / 2 + position * buttonSide, cell.center().y() - buttonSide / 2 + 1,
             buttonSide, buttonSide};
@@ -59,11 +60,13 @@ void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const Q
                       buttonRect(option.rect, 0), lockSymbol);
         return;
     }
-    const QPoint pointer = option.widget ? option.widget->mapFromGlobal(QCursor::pos()) : QPoint(-1, -1);
+    const QPointF pointer =
+        Painting::mirrored(option.widget ? option.widget->mapFromGlobal(QCursor::pos()) : QPoint(-1, -1),
+                           option.rect, option.direction);
     int position = 0;
     for (const RowAction action : model.buttonsOf(row)) {
         const QRect button = buttonRect(option.rect, position++);
-        if ((option.state & QStyle::State_MouseOver) && button.contains(pointer))
+        if ((option.state & QStyle::State_MouseOver) && QRectF(button).contains(pointer))
             Painting::drawCard(painter, button, Theme::controlRadius, Theme::color(Role::hoverFill),
                                Qt::transparent);
         Symbols::draw(painter, symbolOf(action), Theme::color(tintOf(action, row)), button, buttonSymbol);
@@ -74,6 +77,7 @@ void paintButtons(QPainter& painter, const QStyleOptionViewItem& option, const Q
 
 void ProcessRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
+    const Painting::Mirrored mirrored(*painter, option.rect, option.direction);
     TableView::paintGround(*painter, option);
     const ProcessTableModel& model = modelOf(index);
     const ProcessColumn& column = model.columnOf(index);
@@ -102,20 +106,23 @@ QSize ProcessRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelInde
     return {40, rowHeight};
 }
 
-std::optional<ProcessRowDelegate::Pressed> ProcessRowDelegate::hit(const QPoint& position, const QRect& cell,
+std::optional<ProcessRowDelegate::Pressed> ProcessRowDelegate::hit(const QPoint& position,
+                                                                   const QStyleOptionViewItem& option,
                                                                    const QModelIndex& index) {
+    const QRect& cell = option.rect;
     const ProcessTableModel& model = modelOf(index);
     const ProcessTableRow& row = model.row(index.row());
     const Kind kind = model.columnOf(index).kind;
     if (kind == Kind::name && row.branch != ProcessTableRow::Branch::none) {
-        const QRect sign = ProcessNamePainter::signRect(cell, row);
+        const QRect sign =
+            QStyle::visualRect(option.direction, cell, ProcessNamePainter::signRect(cell, row));
         return sign.contains(position) ? std::optional(Pressed{{}, row, sign}) : std::nullopt;
     }
     if (kind != Kind::actions)
         return std::nullopt;
     int place = 0;
     for (const RowAction action : model.buttonsOf(row)) {
-        const QRect button = buttonRect(cell, place++);
+        const QRect button = QStyle::visualRect(option.direction, cell, buttonRect(cell, place++));
         if (button.contains(position))
             return Pressed{action, row, button};
     }
@@ -131,7 +138,7 @@ bool ProcessRowDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const Q
     const auto* mouse = static_cast<QMouseEvent*>(event);
     if (mouse->button() != Qt::LeftButton)
         return false;
-    m_pressed = hit(mouse->pos(), option.rect, index);
+    m_pressed = hit(mouse->pos(), option, index);
     return m_pressed.has_value();
 }
 
@@ -153,7 +160,7 @@ bool ProcessRowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const ProcessTableRow& row = model.row(index.row());
     const ProcessColumn& column = model.columnOf(index);
     QString text = column.toolTip ? column.toolTip(row, model.facts()) : QString();
-    if (const auto pressable = hit(event->pos(), option.rect, index); pressable && pressable->action)
+    if (const auto pressable = hit(event->pos(), option, index); pressable && pressable->action)
         text = model.helpOf(*pressable->action, row);
     else if (const auto reason = model.protectionOf(row); reason && column.kind == Kind::actions)
         text = tr("%1 Its menu can end it.").arg(ProtectedProcesses::consequence(*reason));

@@ -42,7 +42,8 @@ private:
         QRect place; ///< where the button was
     };
 
-    static std::optional<Pressed> hit(const QPoint& position, const QRect& cell, const QModelIndex& index);
+    static std::optional<Pressed> hit(const QPoint& position, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index);
 
     std::optional<Pressed> m_pressed;
 };

@@ -132,7 +132,9 @@ void ProcessTableView::fillColumnsMenu(QMenu& menu) {
 }
 
 void ProcessTableView::fillMoves(QMenu& menu, int section) {
-    for (const auto& [text, by] : {std::pair(tr("Move left"), -1), std::pair(tr("Move right"), 1)}) {
+    const int toTheLeft = layoutDirection() == Qt::RightToLeft ? 1 : -1;
+    for (const auto& [text, by] :
+         {std::pair(tr("Move left"), toTheLeft), std::pair(tr("Move right"), -toTheLeft)}) {
         QAction* move = menu.addAction(text, this, [this, section, by = by] { m_order.move(section, by); });
         move->setEnabled(m_order.canMove(section, by));
     }

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -89,9 +90,12 @@ void StatusPill::paintEvent(QPaintEvent*) {
     const double radius = height() / 2.0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.setPen(palette().color(QPalette::WindowText));
-    const QRect room = rect().adjusted(padding + markRoom(), 0, -padding, 0);
+    const auto visual = [this](const QRect& area) {
+        return QStyle::visualRect(layoutDirection(), rect(), area);
+    };
+    const QRect room = visual(rect().adjusted(padding + markRoom(), 0, -padding, 0));
     if (!m_content.mark.isNull())
-        m_content.mark.paint(&painter, QRect(padding, (height() - markSize) / 2, markSize, markSize));
+        m_content.mark.paint(&painter, visual(QRect(padding, (height() - markSize) / 2, markSize, markSize)));
     if (m_content.title.isEmpty())
         m_content.symbol.paint(&painter, room);
     else
