@@ -1,12 +1,12 @@
 #include "UI/Settings/TextListEditor.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/FilePanel.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLineEdit>
 
@@ -104,12 +104,8 @@ void TextListEditor::addTyped() {
 }
 
 void TextListEditor::chooseFolder() {
-    auto* dialog = new QFileDialog(this, tr("Choose Folder"), QDir::homePath());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    connect(dialog, &QFileDialog::fileSelected, this, &TextListEditor::add);
-    dialog->open();
+    FilePanel::open(this, {.title = tr("Choose Folder"), .startFolder = QDir::homePath()},
+                    [this](const QString& folder) { add(folder); });
 }
 
 void TextListEditor::remove(const QString& text) {

@@ -1,5 +1,6 @@
 #include "Platform/Desktop/Desktop.h"
 #include "Platform/Desktop/DesktopApplication.h"
+#include "Platform/Desktop/FileChooser.h"
 #include "Platform/Desktop/FloatingPanel.h"
 #include "Platform/Desktop/Notifications.h"
 #include "Platform/Desktop/Popover.h"
@@ -57,5 +58,6 @@ Desktop Desktop::native() {
             .popover = std::make_shared<NullPopover>(),
             .application = std::make_shared<NullDesktopApplication>(),
             .notifications = std::make_shared<NullNotifications>(),
+            .fileChooser = nullptr,
             .makePanel = [] { return std::make_unique<NullFloatingPanel>(); }};
 }
