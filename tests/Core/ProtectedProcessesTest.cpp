@@ -35,6 +35,12 @@ TEST(ProtectedProcessesTest, WhatALoginHangsOnIsKnownWhereverItStands) {
         std::nullopt,        std::nullopt,         std::nullopt,        std::nullopt};
     for (qsizetype i = 0; i < processes.size(); ++i)
         EXPECT_EQ(guarded.of(processes[i].pid), expected[i]) << processes[i].pid;
+    const ProtectedProcesses shown({sample(5, 1, u"Xvfb"_s), sample(6, 1, u"Xvfb"_s), processes[1]}, 9,
+                                   {5, 2, 77});
+    EXPECT_EQ(shown.of(5), Protection::display) << "Tavrin's windows are on it";
+    EXPECT_EQ(shown.of(6), std::nullopt);
+    EXPECT_EQ(shown.of(2), Protection::services) << "which holds the socket for a server";
+    EXPECT_FALSE(shown.contains(77));
     QList<qint32> below;
     for (const ProcSample& process : descendantsOf(processes[6], processes))
         below.append(process.pid);

@@ -77,7 +77,8 @@ std::optional<Protection> reasonOf(const ProcSample& process) {
 
 } // namespace
 
-ProtectedProcesses::ProtectedProcesses(const QList<ProcSample>& processes, qint32 ownPid) {
+ProtectedProcesses::ProtectedProcesses(const QList<ProcSample>& processes, qint32 ownPid,
+                                       const QList<qint32>& displayServers) {
     QHash<qint32, qint32> parents;
     parents.reserve(processes.size());
     for (const ProcSample& process : processes) {
@@ -88,6 +89,10 @@ ProtectedProcesses::ProtectedProcesses(const QList<ProcSample>& processes, qint3
     const QList<qint32> known = m_reasons.keys();
     for (const qint32 pid : known)
         addAncestors(parents, pid, Protection::login);
+    for (const qint32 pid : displayServers) {
+        if (parents.contains(pid) && !m_reasons.contains(pid))
+            m_reasons.insert(pid, Protection::display);
+    }
     addAncestors(parents, ownPid, Protection::starter);
 }
 

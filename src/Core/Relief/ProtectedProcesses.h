@@ -20,8 +20,9 @@ enum class Protection {
 class ProtectedProcesses {
 public:
     ProtectedProcesses() = default;
-    /// `ownPid` is that of this program.
-    ProtectedProcesses(const QList<ProcSample>& processes, qint32 ownPid);
+    /// `ownPid` is that of this program, and `displayServers` draw its windows, whatever they are called.
+    ProtectedProcesses(const QList<ProcSample>& processes, qint32 ownPid,
+                       const QList<qint32>& displayServers = {});
 
     std::optional<Protection> of(qint32 pid) const {
         const auto found = m_reasons.constFind(pid);

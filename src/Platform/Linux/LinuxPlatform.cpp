@@ -1,5 +1,6 @@
 #include "Platform/Clock.h"
 #include "Platform/Freedesktop/FreedesktopAppearance.h"
+#include "Platform/Freedesktop/FreedesktopIdentity.h"
 #include "Platform/Freedesktop/FreedesktopLoginItem.h"
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
 #include "Platform/Freedesktop/FreedesktopProgramService.h"
@@ -18,7 +19,6 @@
 #include "Platform/Linux/LinuxSignals.h"
 #include "Platform/Platform.h"
 #include "Platform/Unix/DescriptorLimit.h"
-#include "Platform/Unix/UnixIdentity.h"
 #include "Platform/Unix/UnixTerminal.h"
 #include "Platform/Unix/UnixToolRunner.h"
 #include "Platform/Words.h"
@@ -39,7 +39,7 @@ Platform Platform::native() {
             .pressure = std::make_shared<LinuxPressure>(),
             .memoryKills = std::make_shared<LinuxMemoryKills>(tools),
             .power = std::make_shared<LinuxPowerMode>(),
-            .identity = std::make_shared<UnixIdentity>(),
+            .identity = std::make_shared<FreedesktopIdentity>(),
             .clock = std::make_shared<SystemClock>(),
             .tools = tools,
             .places = std::make_shared<FreedesktopPlaces>(),
