@@ -8,6 +8,7 @@
 #include "Platform/LoginItem.h"
 #include "Preferences.h"
 #include "UI/AlertNotifier.h"
+#include "UI/Kit/FilePanel.h"
 #include "UI/MainWindow.h"
 #include "UI/MainWindowFinder.h"
 #include "UI/MenuBar.h"
@@ -22,10 +23,13 @@ AppDelegate::AppDelegate(AppModel& model, Preferences& preferences, MessageCente
     , m_messages(messages)
     , m_desktop(std::move(desktop))
     , m_loginItem(std::move(loginItem))
-    , m_widget(m_desktop, &m_preferences.file()) {}
+    , m_widget(m_desktop, &m_preferences.file()) {
+    FilePanel::use(m_desktop.fileChooser);
+}
 
 AppDelegate::~AppDelegate() {
     delete m_settings;
+    FilePanel::use(nullptr);
 }
 
 void AppDelegate::applicationDidFinishLaunching(const LaunchOptions& options) {
@@ -111,9 +115,11 @@ void AppDelegate::openSettings() {
     if (!m_settings || !m_settings->isVisible()) { // a closed one is deleted later
         m_settings = new SettingsScene(m_preferences, *m_loginItem, *m_desktop.notifications);
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
-        const QRect around =
-            m_mainWindow->isVisible() ? m_mainWindow->geometry() : m_settings->screen()->availableGeometry();
-        m_settings->move(around.center() - m_settings->rect().center());
+        if (!m_settings->isPlaced()) {
+            const QRect around = m_mainWindow->isVisible() ? m_mainWindow->geometry()
+                                                           : m_settings->screen()->availableGeometry();
+            m_settings->move(around.center() - m_settings->rect().center());
+        }
         m_settings->show();
     }
     m_desktop.application->bringForward(m_settings);

@@ -2,30 +2,21 @@
 
 #include "Preferences.h"
 #include "UI/AppMenu.h"
+#include "UI/Kit/KeptPlace.h"
 #include "UI/RootView.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QMenu>
 
-namespace {
-
-QString placeKey() {
-    return QStringLiteral("ui.window.place");
-}
-
-} // namespace
-
 MainWindow::MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QMainWindow(parent)
-    , m_storeLater(preferences.file())
     , m_root(new RootView(model, preferences, messages)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
     setMinimumSize(RootView::minimumContent);
     resize(RootView::minimumContent);
-    // A place on a screen that is gone is moved to one that is there.
-    restoreGeometry(preferences.file().bytes(placeKey()).value_or(QByteArray()));
+    (new KeptPlace(*this, preferences.file(), QStringLiteral("ui.window.place")))->restore();
     connect(m_root, &RootView::widgetToggled, this, &MainWindow::widgetToggled);
     addMenuActions();
 }
@@ -55,19 +46,4 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     m_root->select(RootView::Tab::overview);
     m_root->showSidebar(true);
     QMainWindow::closeEvent(event);
-}
-
-void MainWindow::moveEvent(QMoveEvent* event) {
-    rememberPlace();
-    QMainWindow::moveEvent(event);
-}
-
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    rememberPlace();
-    QMainWindow::resizeEvent(event);
-}
-
-void MainWindow::rememberPlace() {
-    if (isVisible())
-        m_storeLater.store(placeKey(), saveGeometry());
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Core/StoreLater.h"
-
 #include <QMainWindow>
 
 class AppModel;
@@ -25,13 +23,9 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void addMenuActions();
-    void rememberPlace();
 
-    StoreLater m_storeLater;
     RootView* m_root;
 };

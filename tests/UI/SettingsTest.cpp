@@ -36,6 +36,20 @@ struct SettingsTest : testing::Test {
 
 } // namespace
 
+TEST_F(SettingsTest, OpensWhereAndAsLargeAsItWas) {
+    EXPECT_FALSE(window.isPlaced()) << "whoever opens it has to place it";
+    {
+        SettingsScene other(prefs, loginItem, notifications);
+        other.show();
+        other.setGeometry(31, 47, 700, 520);
+        QCoreApplication::processEvents();
+    }
+    const SettingsScene again(prefs, loginItem, notifications);
+    EXPECT_TRUE(again.isPlaced());
+    EXPECT_EQ(again.size(), QSize(700, 520));
+    EXPECT_NEAR(again.y(), 47, 4); // give or take a frame
+}
+
 TEST_F(SettingsTest, TabsByMouseAndByKeyboard) {
     EXPECT_EQ(window.size(), QSize(640, 460));
     EXPECT_TRUE(window.windowTitle().contains(u"settings"_s, Qt::CaseInsensitive));

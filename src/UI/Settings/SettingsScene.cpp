@@ -1,6 +1,8 @@
 #include "UI/Settings/SettingsScene.h"
 
 #include "Core/Translations.h"
+#include "Preferences.h"
+#include "UI/Kit/KeptPlace.h"
 #include "UI/Settings/AlertsTab.h"
 #include "UI/Settings/CleanupTab.h"
 #include "UI/Settings/GeneralTab.h"
@@ -38,7 +40,8 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem,
     , m_row(new QHBoxLayout)
     , m_contents(new QStackedWidget) {
     setWindowTitle(tr("Tavrin Settings"));
-    Theme::fixSize(this, windowWidth, windowHeight);
+    Theme::setLeastSize(this, windowWidth, windowHeight);
+    resize(windowWidth, windowHeight);
     auto* bar = new QWidget;
     Theme::fixHeight(bar, tabBarHeight);
     bar->setLayout(m_row);
@@ -61,6 +64,7 @@ SettingsScene::SettingsScene(Preferences& preferences, LoginItem& loginItem,
     addTab(Tab::history, new HistoryTab);
     addActions();
     select(Tab::general);
+    m_isPlaced = (new KeptPlace(*this, preferences.file(), QStringLiteral("ui.settings.place")))->restore();
 }
 
 void SettingsScene::addTab(Tab tab, QWidget* content) {

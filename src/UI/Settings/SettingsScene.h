@@ -13,7 +13,7 @@ class QHBoxLayout;
 class QStackedWidget;
 class TabButton;
 
-/// The settings window. Every change takes effect at once.
+/// The settings window. Every change takes effect at once. Its size and place are stored.
 class SettingsScene : public QWidget {
     Q_OBJECT
 
@@ -24,6 +24,8 @@ public:
                   QWidget* parent = nullptr);
 
     Tab tab() const { return m_tab; }
+    /// Returns whether it is where it was the last time, so that nobody has to place it.
+    bool isPlaced() const { return m_isPlaced; }
     void select(Tab tab);
 
 protected:
@@ -38,6 +40,7 @@ private:
     QHBoxLayout* m_row;
     QStackedWidget* m_contents;
     QList<TabButton*> m_buttons;
+    bool m_isPlaced = false;
 };
 
 template <>

@@ -65,6 +65,7 @@ constexpr auto styleProperty = "textStyle";
 constexpr auto weightProperty = "textWeight";
 constexpr auto heightProperty = "heightAtDefaultText";
 constexpr auto widthProperty = "widthAtDefaultText";
+constexpr auto leastProperty = "leastSizeAtDefaultText";
 constexpr auto limitProperty = "mostWidthAtDefaultText";
 
 constexpr double smallestText = 11; // pixels at the default size
@@ -124,6 +125,7 @@ void adoptSizes(QWidget& widget) {
     const QVariant weight = widget.property(weightProperty);
     const QVariant height = widget.property(heightProperty);
     const QVariant width = widget.property(widthProperty);
+    const QVariant least = widget.property(leastProperty);
     const QVariant limit = widget.property(limitProperty);
     if (style.isValid())
         widget.setFont(font(static_cast<TextStyle>(style.toInt()),
@@ -133,6 +135,8 @@ void adoptSizes(QWidget& widget) {
         widget.setFixedHeight(Length{height.toInt()});
     if (width.isValid())
         widget.setFixedWidth(Length{width.toInt()});
+    if (least.isValid())
+        widget.setMinimumSize(scaled(least.toSize()));
     if (limit.isValid())
         widget.setMaximumWidth(Length{limit.toInt()});
 }
@@ -220,6 +224,11 @@ void fixWidth(QWidget* widget, Length width) {
 void fixSize(QWidget* widget, Length width, Length height) {
     fixWidth(widget, width);
     fixHeight(widget, height);
+}
+
+void setLeastSize(QWidget* widget, Length width, Length height) {
+    widget->setProperty(leastProperty, QSize(width.pixels, height.pixels));
+    widget->setMinimumSize(width, height);
 }
 
 void limitWidth(QWidget* widget, Length most) {

@@ -97,6 +97,7 @@ void applyFont(const QFont& font);
 void fixHeight(QWidget* widget, Length height);
 void fixWidth(QWidget* widget, Length width);
 void fixSize(QWidget* widget, Length width, Length height);
+void setLeastSize(QWidget* widget, Length width, Length height);
 void limitWidth(QWidget* widget, Length most);
 
 bool isDark();
