@@ -7,6 +7,7 @@
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Slider.h"
+#include "UI/Kit/TableView.h"
 #include "UI/ModelFixture.h"
 
 #include <QAccessible>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -189,6 +191,40 @@ TEST(AccessibilityTest, SteppersSlidersAndPickersSayWhatTheyAreAndHold) {
     QAccessibleInterface* choices = QAccessible::queryAccessibleInterface(&picker);
     EXPECT_EQ(choices->text(QAccessible::Name), u"Sort"_s);
     EXPECT_EQ(choices->text(QAccessible::Value), u"RAM"_s);
+}
+
+TEST(AccessibilityTest, ATableSaysItsRowsColumnsAndHeads) {
+    Accessibility::install();
+    QStandardItemModel model(3, 2);
+    model.setHorizontalHeaderLabels({u"Name"_s, u"RAM"_s});
+    model.setItem(1, 1, new QStandardItem(u"5 MB"_s));
+    model.item(1, 1)->setData(u"five megabytes"_s, Qt::AccessibleTextRole);
+    TableView view(u"Things"_s);
+    view.setModel(&model);
+    view.show();
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&view);
+    EXPECT_EQ(spoken->role(), QAccessible::Table);
+    EXPECT_EQ(spoken->text(QAccessible::Name), u"Things"_s);
+    QAccessibleTableInterface* table = spoken->tableInterface();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(std::pair(table->rowCount(), table->columnCount()), std::pair(3, 2));
+    QAccessibleInterface* cell = table->cellAt(1, 1);
+    ASSERT_TRUE(cell && cell->tableCellInterface());
+    EXPECT_EQ(cell->text(QAccessible::Name), u"five megabytes"_s);
+    EXPECT_EQ(cell->role(), QAccessible::Cell);
+    EXPECT_EQ(cell->tableCellInterface()->columnHeaderCells().value(0)->text(QAccessible::Name), u"RAM"_s);
+    EXPECT_EQ(spoken->child(spoken->indexOfChild(cell)), cell);
+    EXPECT_EQ(spoken->indexOfChild(cell), 2 * 2 + 1) << "as Qt numbers it when the focus moves";
+    cell->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(view.currentIndex(), model.index(1, 1));
+    EXPECT_TRUE(table->isRowSelected(1) && cell->state().selected);
+    EXPECT_EQ(spoken->childAt(cell->rect().center().x(), cell->rect().center().y()), cell);
+    model.removeRows(1, 2);
+    EXPECT_FALSE(cell->isValid());
+    EXPECT_EQ(cell->text(QAccessible::Name), QString());
+    EXPECT_EQ(table->cellAt(1, 1), nullptr);
+    model.clear();
+    EXPECT_EQ(spoken->childCount(), 0);
 }
 
 TEST(AccessibilityTest, PopUpsAreInTheTreeAndDescriptionsArePlain) {

@@ -61,10 +61,11 @@ struct ModelFixture : testing::Test {
     qint32 nextPid = 100;
 };
 
-/// Returns the visible button with that text or accessible name, null when there is none.
+/// Returns the visible button with that text, help or accessible name, null when there is none.
 inline QAbstractButton* buttonNamed(const QWidget& parent, const QString& name) {
     for (auto* button : parent.findChildren<QAbstractButton*>()) {
-        if (button->isVisibleTo(&parent) && (button->text() == name || button->accessibleName() == name))
+        const QStringList names{button->text(), button->toolTip(), button->accessibleName()};
+        if (button->isVisibleTo(&parent) && names.contains(name))
             return button;
     }
     return nullptr;

@@ -188,6 +188,12 @@ TEST_F(OverviewViewTest, ARowsButtonsSignalTheProcessThatWasPressed) {
     QTest::mouseClick(buttons[0], Qt::LeftButton);
     EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::terminate, 1}}));
     EXPECT_EQ(buttons[1]->toolTip(), u"Force kill (SIGKILL)"_s);
+    EXPECT_TRUE(buttons[1]->accessibleName().startsWith(u"Force kill (SIGKILL): "_s));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    const QImage resting = buttons[1]->grab().toImage();
+    buttons[0]->setFocus();
+    EXPECT_NE(buttons[1]->grab().toImage(), resting) << "the buttons of a row show while it is in use";
+    buttons[0]->clearFocus();
 
     QTest::mousePress(buttons[1], Qt::LeftButton);
     fakes.processes->processes[101].task->residentBytes = 30; // takes the first row's place

@@ -254,11 +254,12 @@ TEST_F(SessionsViewTest, TabGoesThroughTheRowsFromTopToBottom) {
     QStringList stops;
     header(0)->setFocus();
     while (stops.size() < 12 && !qobject_cast<RemainsHeader*>(window.focusWidget())) {
-        stops.append(window.focusWidget()->accessibleName().section(u',', 0, 0));
+        stops.append(window.focusWidget()->accessibleName().section(u',', 0, 0).section(u": "_s, 0, 0));
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
     const QStringList buttons{u"Pause"_s, u"Open folder"_s, u"Copy details"_s, u"End session"_s};
     EXPECT_EQ(stops, QStringList{u"/srv/shop"_s} + buttons + QStringList{u"/srv/infra"_s} + buttons);
+    EXPECT_TRUE(buttonNamed(*row(1), u"Pause: codex in /srv/infra"_s)) << "each says which session it means";
 }
 
 TEST_F(SessionsViewTest, AnEndIsAskedAboutAndMeansTheSessionThatWasPressed) {

@@ -52,13 +52,13 @@ shows "both sessions are there" "2 sessions, .*"
 shows "with what they started" "~/src/app, .*, 3 processes, .*"
 
 press "~/src/lib, .*"
-press "Pause"
+press "Pause: .*"
 press "Pause"
 check "a paused agent is stopped" stopped "$stubborn"
 for worker in $stubborn_workers; do stopped "$worker" || fail "and so is its worker"; done
 stopped "$polite" && fail "the other is not"
 shows "it is marked" "~/src/lib, Paused, .*"
-press "Resume"
+press "Resume: .*"
 check "it goes on" not stopped "$stubborn"
 
 press "~/src/app, .*" Delete
@@ -93,7 +93,7 @@ start_agent "$home/src/app" ":"
 last=$spawned
 shows "another session appears" "1 session, .*"
 press "~/src/app, .*"
-press "Pause"
+press "Pause: .*"
 press "Pause"
 check "it is paused" stopped "$last"
 kill "$pid"

@@ -2,6 +2,8 @@
 
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/Stepper.h"
+#include "UI/Kit/TableAccess.h"
+#include "UI/Kit/TableView.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -159,6 +161,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
         return new StepperInterface(stepper);
     if (auto* picker = qobject_cast<PopUpButton*>(widget))
         return new PickerInterface(picker);
+    if (auto* table = qobject_cast<TableView*>(widget); table && !table->rootIsDecorated())
+        return new TableAccess(table); // Qt answers for what has branches of its own
     auto* button = qobject_cast<QAbstractButton*>(widget);
     const bool isQtButton = qobject_cast<QPushButton*>(widget) || qobject_cast<QToolButton*>(widget);
     if (button && (!isQtButton || button->isCheckable()))

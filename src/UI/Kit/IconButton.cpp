@@ -2,6 +2,7 @@
 
 #include "UI/Style/Symbols.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QStyleOption>
 
@@ -26,6 +27,29 @@ IconButton::IconButton(const QString& symbol, const QString& help, Role tint, QW
 void IconButton::setHelp(const QString& help) {
     setToolTip(help);
     setAccessibleName(help);
+}
+
+void IconButton::setQuiet() {
+    m_isQuiet = true;
+}
+
+void IconButton::paintEvent(QPaintEvent* event) {
+    const QWidget* row = parentWidget();
+    const QWidget* focused = QApplication::focusWidget();
+    if (!m_isQuiet || row->underMouse() || (focused && row->isAncestorOf(focused)))
+        QToolButton::paintEvent(event);
+}
+
+void IconButton::focusInEvent(QFocusEvent* event) {
+    if (m_isQuiet)
+        parentWidget()->update(); // with the other buttons of the row
+    QToolButton::focusInEvent(event);
+}
+
+void IconButton::focusOutEvent(QFocusEvent* event) {
+    if (m_isQuiet)
+        parentWidget()->update();
+    QToolButton::focusOutEvent(event);
 }
 
 void IconButton::changeEvent(QEvent* event) {

@@ -13,13 +13,19 @@ public:
                QWidget* parent = nullptr);
 
     void setHelp(const QString& help);
+    /// Shows itself only while the pointer or the keyboard is in its row, which is its parent.
+    void setQuiet();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void initStyleOption(QStyleOptionToolButton* option) const override;
     void changeEvent(QEvent* event) override;
 
 private:
     Theme::Role m_tint;
+    bool m_isQuiet = false;
 };
 
 /// A borderless button with a short text in the accent colour.

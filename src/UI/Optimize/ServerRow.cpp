@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
@@ -29,15 +30,17 @@ QFont monospaced() {
 } // namespace
 
 ServerRow::ServerRow(QWidget* parent)
-    : QWidget(parent) {
+    : QWidget(parent)
+    , m_quit(new IconButton(QStringLiteral("stop.circle"), tr("Quit")))
+    , m_buttonWidth(m_quit->width()) {
     Theme::fixHeight(this, serverRowHeight);
-    auto* quit = new IconButton(QStringLiteral("stop.circle"), tr("Quit"));
-    m_buttonWidth = quit->width();
-    actOnPressed(quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
+    setAttribute(Qt::WA_Hover);
+    m_quit->setQuiet();
+    actOnPressed(m_quit, m_server, [this](const auto& server) { Q_EMIT quitRequested(server); });
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();
-    row->addWidget(quit);
+    row->addWidget(m_quit);
 }
 
 void ServerRow::set(const MCPInspector::LiveServer& server) {
@@ -47,6 +50,7 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
     const QString label = Formatters::visible(server.displayLabel);
     setToolTip(Formatters::toolTip(label + u'\n' + server.reason));
     setAccessibleDescription(server.reason);
+    nameRowButton(m_quit, m_quit->toolTip(), QStringLiteral("%1 (%2)").arg(label).arg(server.pid));
     setAccessibleName(
         (server.isOrphan ? tr("Orphan %1, PID %2, parent: %3, %4") : tr("Running %1, PID %2, parent: %3, %4"))
             .arg(label, QString::number(server.pid), Formatters::visible(server.parentName),

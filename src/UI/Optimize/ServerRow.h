@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class IconButton;
+
 /// One running server, and the button that asks it to end.
 class ServerRow : public QWidget {
     Q_OBJECT
@@ -22,5 +24,6 @@ protected:
 
 private:
     MCPInspector::LiveServer m_server;
+    IconButton* m_quit;
     int m_buttonWidth;
 };

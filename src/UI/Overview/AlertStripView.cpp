@@ -2,6 +2,7 @@
 
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Style/Levels.h"
@@ -15,7 +16,7 @@ namespace {
 QHBoxLayout* cardLayout(QWidget* card) {
     auto* row = new QHBoxLayout(card);
     row->setContentsMargins(Theme::cardPadding, 12, Theme::cardPadding, 12);
-    row->setSpacing(10);
+    row->setSpacing(Theme::rowSpacing);
     return row;
 }
 
@@ -65,6 +66,8 @@ void AlertCard::set(const Alert& alert, bool hasDetails) {
     m_alert = alert;
     m_details->setVisible(hasDetails);
     m_action->setText(alert.actionTarget == QStringLiteral("session") ? tr("End session…") : tr("Quit"));
+    nameRowButton(m_action, m_action->text(), m_title->text());
+    nameRowButton(m_details, m_details->text(), m_title->text());
     m_action->setVisible(alert.actionPid.has_value());
     setAccessibleName(QStringLiteral("%1. %2").arg(m_title->text(), m_detail->text()));
 }

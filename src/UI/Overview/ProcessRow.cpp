@@ -3,6 +3,7 @@
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Style/Margins.h"
 #include "UI/Style/Painting.h"
 
@@ -16,7 +17,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr Theme::Length processRowHeight{26};
+constexpr Theme::Length processRowHeight{28};
 constexpr Theme::Length processPidWidth{60};
 constexpr Theme::Length processCpuWidth{50};
 constexpr Theme::Length memoryWidth{80};
@@ -26,6 +27,7 @@ constexpr Theme::Length memoryWidth{80};
 ProcessRow::ProcessRow(QWidget* parent)
     : QWidget(parent) {
     Theme::fixHeight(this, processRowHeight);
+    setAttribute(Qt::WA_Hover);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(mirrored({0, 0, Theme::cardPadding, 0}));
     row->setSpacing(Theme::textGap);
@@ -42,6 +44,7 @@ ProcessRow::ProcessRow(QWidget* parent)
 IconButton* ProcessRow::addButton(const QString& symbol, const QString& help, Role tint,
                                   void (ProcessRow::*request)(const ProcSample&)) {
     auto* button = new IconButton(symbol, help, tint);
+    button->setQuiet();
     actOnPressed(button, m_process, std::bind_front(request, this));
     return button;
 }
@@ -59,12 +62,16 @@ void ProcessRow::set(const ProcSample& process) {
     m_memory = memory;
     setToolTip(Formatters::toolTip(Formatters::visible(process.executablePath)));
     setAccessibleName(tr("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
+    for (IconButton* button : findChildren<IconButton*>())
+        nameRowButton(button, button->toolTip(), QStringLiteral("%1 (%2)").arg(m_name).arg(process.pid));
     update();
 }
 
 void ProcessRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Painting::mirror(painter, *this);
+    if (underMouse())
+        painter.fillRect(rect(), Theme::color(Role::hoverFill));
     QRectF line = QRectF(rect()).adjusted(Theme::cardPadding, 0, -Theme::cardPadding, 0);
     Painting::takeRight(line, m_buttonsWidth);
     Painting::setTextStyle(painter, TextStyle::caption, Role::primaryText);

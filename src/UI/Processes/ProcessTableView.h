@@ -21,6 +21,7 @@ public:
     bool shows(ProcessColumn::Need need) const;
     /// Returns the rows that are selected, from top to bottom.
     QList<ProcessTableRow> selectedRows() const;
+    bool isTree() const override { return m_rows->listing() == ProcessListing::tree; }
     ProcessTableModel& rows() { return *m_rows; }
     const ProcessTableModel& rows() const { return *m_rows; }
 

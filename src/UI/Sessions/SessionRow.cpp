@@ -1,8 +1,10 @@
 #include "UI/Sessions/SessionRow.h"
 
+#include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Sessions/SessionHeader.h"
 #include "UI/Sessions/SessionTree.h"
 #include "UI/Style/Margins.h"
@@ -26,7 +28,6 @@ SessionRow::SessionRow(QWidget* parent)
     m_resume->hide();
     m_end = new PushButton(tr("End"), PushButton::Look::destructive);
     m_end->setSmall();
-    m_end->setAccessibleName(tr("End session"));
     m_end->setToolTip(tr("End session"));
     actOnPressed(m_end, m_session,
                  [this](const Session& session) { Q_EMIT triggered(SessionAction::end, session); });
@@ -70,6 +71,9 @@ void SessionRow::set(const Session& session, const Setting& setting) {
     m_resume->setVisible(isPaused);
     if (hadFocus)
         (isPaused ? m_resume : m_pause)->setFocus();
+    for (IconButton* button : {m_pause, m_resume, m_folder, m_copy})
+        nameRowButton(button, button->toolTip(), Formatters::visible(session.title()));
+    nameRowButton(m_end, m_end->toolTip(), Formatters::visible(session.title()));
     m_folder->setEnabled(!session.folder.isEmpty());
     showEnding(setting.isEnding);
     if (setting.isExpanded)
