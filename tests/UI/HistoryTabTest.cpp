@@ -111,7 +111,7 @@ TEST_F(HistoryTabTest, FiltersByKind) {
     EXPECT_EQ(details(), QStringList(u"one"_s));
     choose(tab, u"Kind"_s, u"Clean"_s);
     EXPECT_TRUE(isEmpty());
-    choose(tab, u"Kind"_s, u"All"_s);
+    press(tab, u"Show all kinds"_s);
     EXPECT_EQ(details().size(), 2);
 }
 
@@ -213,10 +213,12 @@ TEST_F(HistoryTabTest, AFailedExportLeavesTheOlderFile) {
         exportAs(home.path(u"old"_s));
     }
     EXPECT_EQ(contentOf(target), "older");
+    EXPECT_TRUE(showsText(tab, u"The log was not exported. Choose another place."_s));
     EXPECT_EQ(QDir(home.path()).entryList({u"*old*"_s}), QStringList(u"old.csv"_s));
     answerSoon(QMessageBox::Yes);
     exportAs(home.path(u"old"_s));
     EXPECT_TRUE(contentOf(target).startsWith("timestamp,"));
+    EXPECT_FALSE(showsText(tab, u"The log was not exported. Choose another place."_s));
     answerSoon(QMessageBox::Yes);
     exportAs(file);
     EXPECT_EQ(contentOf(file), fourLines); // the log is no place for its own export

@@ -1,10 +1,10 @@
 #include "UI/Processes/ProcessesView.h"
 
-#include "UI/Inspector/InspectorGraph.h"
 #include "UI/Inspector/InspectorPanel.h"
 #include "UI/Inspector/MemoryKindsBar.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/ConfirmDialog.h"
+#include "UI/Kit/Graph.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/PopUpButton.h"
 #include "UI/Kit/SearchField.h"
@@ -215,6 +215,30 @@ TEST_F(ProcessesViewTest, AClickMeansTheRowThatWasPressed) {
     QTest::mousePress(table->viewport(), Qt::LeftButton, {}, button(last, 0));
     QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, button(last, 1)); // on another button
     EXPECT_EQ(logged().size(), 3);
+}
+
+TEST_F(ProcessesViewTest, FromRightToLeftTheButtonsAreWhereTheyAreDrawn) {
+    addProcesses(1, "one", 300 * MiB);
+    view.setLayoutDirection(Qt::RightToLeft);
+    show();
+    const QRect cell = table->visualRect(table->model()->index(0, table->model()->columnCount() - 1));
+    EXPECT_LT(cell.left(), table->visualRect(table->model()->index(0, 0)).left());
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.topRight() + QPoint(-18 - 28, 15));
+    EXPECT_EQ(fakes.signalSender->sent(), (QList<FakeSignals::Sent>{{100, Signal::kill, 1}}));
+    table->grab();
+}
+
+TEST_F(ProcessesViewTest, WithoutProcessesItSaysWhy) {
+    prefs.pauseOnLowPower.set(true);
+    fakes.power->lowPower = true;
+    show();
+    EXPECT_TRUE(showsText(view, u"No processes"_s));
+    EXPECT_FALSE(buttonNamed(view, u"Show all sizes"_s));
+    fakes.power->lowPower = false;
+    addProcesses(1, "small", MiB);
+    tick();
+    EXPECT_TRUE(showsText(view, u"No processes match"_s));
+    EXPECT_TRUE(buttonNamed(view, u"Show all sizes"_s));
 }
 
 TEST_F(ProcessesViewTest, DuplicatesFoldIntoOneRow) {
@@ -636,8 +660,10 @@ TEST_F(ProcessesViewTest, TheInspectorReadsWhatItShowsAndHidesSecrets) {
     tick();
     EXPECT_EQ(panel->findChild<MemoryKindsBar*>()->accessibleName(),
               u"Own 200 MB, Shared 100 MB, In swap 5 MB"_s);
-    EXPECT_EQ(panel->findChildren<InspectorGraph*>()[1]->accessibleName(),
-              u"Memory: 300 MB now, at most 300 MB since 60 s ago"_s);
+    auto* memory = panel->findChildren<Graph*>()[1];
+    EXPECT_EQ(memory->accessibleName(), u"Memory, 300 MB"_s);
+    QTest::keyClick(memory, Qt::Key_Left);
+    EXPECT_EQ(memory->accessibleName().count(u", "_s), 2) << "with the time of the moment";
     press(*panel, u"Quit node"_s);
     EXPECT_EQ(logged(), QStringList{u"quit pid=101 ok"_s});
     press(*panel, u"zsh (100)"_s); // its parent
@@ -650,13 +676,6 @@ TEST_F(ProcessesViewTest, TheInspectorReadsWhatItShowsAndHidesSecrets) {
     EXPECT_EQ(prefs.file().boolean(u"ui.processes.details"_s), true) << "the next start shows it too";
     press(*panel, u"Close the details"_s);
     EXPECT_FALSE(panel->isVisible());
-}
-
-TEST(InspectorGraphTest, TheScaleEndsAtARoundFigure) {
-    const QList<std::pair<double, double>> tops{{0, 10},  {10, 10},  {11, 20},
-                                                {21, 50}, {51, 100}, {730, 1000}};
-    for (const auto& [largest, top] : tops)
-        EXPECT_EQ(InspectorGraph::roundTop(largest, 10), top) << largest;
 }
 
 TEST_F(ProcessesViewTest, WidthsAreRememberedAndNonsenseIsNot) {

@@ -71,6 +71,11 @@ TEST_F(LeftoversSheetTest, ListsTheLargestFirstWithWhatIsKnownOfThem) {
     sheet->findChild<SearchField*>()->setText(u"UNCOMM"_s);
     settle();
     EXPECT_EQ(rows(), QStringList(smallRow));
+    sheet->findChild<SearchField*>()->setText(u"no such thing"_s);
+    settle();
+    EXPECT_TRUE(showsText(*sheet, u"No projects match"_s));
+    press(*sheet, u"Clear search"_s);
+    EXPECT_EQ(rows().size(), 3);
 
     delete sheet;
     prefs.projectFolders.set({u"/src"_s, u"relative"_s});
@@ -154,6 +159,7 @@ TEST_F(LeftoversSheetTest, ASearchSaysWhereItIsAndCanBeStopped) {
     fakes.tools->release(u"find"_s);
     settle();
     EXPECT_TRUE(showsText(*sheet, u"Not finished: the search (cancelled)"_s));
+    EXPECT_TRUE(showsText(*sheet, u"The search did not finish"_s));
     EXPECT_FALSE(model.projectLeftovers().lastSearch());
     EXPECT_TRUE(buttonNamed(*sheet, u"Search again"_s)->isEnabled());
 

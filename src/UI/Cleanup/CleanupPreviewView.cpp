@@ -102,6 +102,7 @@ CleanupPreviewView::CleanupPreviewView(CleanupPreviewModel& model, QWidget* pare
     setRootIsDecorated(true);
     setIndentation(previewIndentation);
     setSelectionMode(ExtendedSelection);
+    setEmptyText(tr("Nothing here has the text of the search. What is ticked stays so."));
     header()->setSortIndicator(CleanupPreviewModel::size, Qt::DescendingOrder); // as the model is already
     setSortingEnabled(true);
     connect(&model, &CleanupPreviewModel::ticksChanged, viewport(), QOverload<>::of(&QWidget::update));

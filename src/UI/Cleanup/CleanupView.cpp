@@ -24,6 +24,8 @@
 #include <QPointer>
 #include <QScrollArea>
 
+#include <algorithm>
+
 using Theme::TextStyle;
 
 namespace {
@@ -87,7 +89,7 @@ QLayout* CleanupView::makeHeader() {
     title->setPlainText(tr("Cleanup targets"));
     m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* line = new QHBoxLayout;
-    line->setSpacing(6);
+    line->setSpacing(Theme::rowSpacing);
     line->addWidget(m_total);
     line->addWidget(m_result, 1);
     auto* texts = new QVBoxLayout;
@@ -123,7 +125,7 @@ QWidget* CleanupView::makeCleanAll() {
 QLayout* CleanupView::makeProgress() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(Theme::pagePadding, 0, Theme::pagePadding, 0);
-    row->setSpacing(6);
+    row->setSpacing(Theme::rowSpacing);
     m_cancel->setSmall();
     QSizePolicy policy = m_cancel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -159,14 +161,26 @@ void CleanupView::refresh() {
     refreshProgress();
     m_total->setPlainText(
         tr("Reclaimable: %1").arg(Formatters::bytes(CleanupOverlap::totalBytes(cleanup.reclaimable()))));
-    m_result->setPlainText(m_lastCleanResult.isEmpty() ? QString()
-                                                       : QStringLiteral("• ") + m_lastCleanResult);
-    m_result->tinted(m_wasCancelled ? Theme::Role::orange : Theme::Role::green);
+    refreshResult();
     KeptFocus::setEnabled(m_rescan, !cleanup.isScanning());
     KeptFocus::setEnabled(m_cleanAll,
                           !m_cleaningAll && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
     KeptFocus::setVisible(m_cleanAll, !m_cleaningAll);
     m_cleaning->setVisible(m_cleaningAll);
+}
+
+/// Says how the last clean ended, or that nothing is measured yet.
+void CleanupView::refreshResult() {
+    const CacheCleanup& cleanup = m_model.cleanup();
+    const auto isMeasured = [](const CacheTarget& target) { return target.lastScanned.has_value(); };
+    QString text = m_lastCleanResult;
+    Theme::Role tint = m_wasCancelled ? Theme::Role::orange : Theme::Role::green;
+    if (text.isEmpty() && !cleanup.isScanning() && std::ranges::none_of(cleanup.targets(), isMeasured)) {
+        text = tr("nothing is measured yet: “Rescan” does that");
+        tint = Theme::Role::secondaryText;
+    }
+    m_result->setPlainText(text.isEmpty() ? QString() : QStringLiteral("• ") + text);
+    m_result->tinted(tint);
 }
 
 void CleanupView::refreshCards() {

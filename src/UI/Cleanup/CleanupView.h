@@ -33,6 +33,7 @@ private:
     QWidget* makeGrid();
     void refresh();
     void refreshCards();
+    void refreshResult();
     void refreshProgress();
     void open(const CacheTarget& target);
     void openLeftovers();

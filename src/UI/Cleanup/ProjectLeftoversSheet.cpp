@@ -9,14 +9,15 @@
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"
+#include "UI/Kit/FilePanel.h"
 #include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SearchField.h"
+#include "UI/Kit/SheetSize.h"
 #include "UI/Kit/SizeList.h"
 #include "UI/Kit/Spinner.h"
 #include "UI/Style/Margins.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScrollArea>
@@ -38,7 +39,7 @@ constexpr int maxListedPaths = 500;
 constexpr Theme::Length leftoverSearchWidth{220};
 
 /// What takes the place of the list.
-enum class Page { rows, nothing, searching };
+enum class Page { rows, nothing, searching, noMatch, failed };
 
 } // namespace
 
@@ -70,7 +71,7 @@ ProjectLeftoversSheet::ProjectLeftoversSheet(AppModel& model, Preferences& prefe
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Project leftovers"));
-    resize(Theme::scaled(leftoversSize));
+    resize(fittingSheet(leftoversSize));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pageMargins);
     column->setSpacing(12);
@@ -152,8 +153,19 @@ QWidget* ProjectLeftoversSheet::makeList() {
     m_area->setAccessibleName(tr("Projects"));
     m_stack->addWidget(m_area);
     m_stack->addWidget(new EmptyState(u"checkmark.circle"_s, tr("Nothing found"),
-                                      tr("No project here has anything left by a build.")));
-    m_stack->addWidget(new EmptyState(u"magnifyingglass"_s, tr("Looking for projects…"), QString()));
+                                      tr("No project here has anything left by a build. “Add folder…” "
+                                         "looks in other places too.")));
+    m_stack->addWidget(new EmptyState(u"magnifyingglass"_s, tr("Looking for projects…"),
+                                      tr("“Stop” ends the search and keeps what it has found.")));
+    auto* noMatch =
+        new EmptyState(u"magnifyingglass"_s, tr("No projects match"),
+                       tr("The search looks in the path, the folders and the note of each project."));
+    connect(noMatch->addButton(tr("Clear search")), &QPushButton::clicked, m_search, &QLineEdit::clear);
+    m_stack->addWidget(noMatch);
+    m_failed = new EmptyState(u"exclamationmark.triangle"_s, tr("The search did not finish"), QString());
+    connect(m_failed->addButton(tr("Search again")), &QPushButton::clicked, this,
+            &ProjectLeftoversSheet::search);
+    m_stack->addWidget(m_failed);
     return m_stack;
 }
 
@@ -185,17 +197,13 @@ void ProjectLeftoversSheet::search() {
 }
 
 void ProjectLeftoversSheet::chooseFolder() {
-    auto* panel = new QFileDialog(this, tr("Look for projects in"), QDir::homePath());
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setFileMode(QFileDialog::Directory);
-    panel->setOption(QFileDialog::ShowDirsOnly);
-    connect(panel, &QFileDialog::fileSelected, this, [this](const QString& folder) {
-        QStringList folders = m_preferences.projectFolders();
-        if (!folders.contains(folder))
-            folders.append(folder);
-        setFolders(folders);
-    });
-    panel->open();
+    FilePanel::open(this, {.title = tr("Look for projects in"), .startFolder = QDir::homePath()},
+                    [this](const QString& folder) {
+                        QStringList folders = m_preferences.projectFolders();
+                        if (!folders.contains(folder))
+                            folders.append(folder);
+                        setFolders(folders);
+                    });
 }
 
 void ProjectLeftoversSheet::setFolders(const QStringList& folders) {
@@ -244,8 +252,15 @@ void ProjectLeftoversSheet::refreshRows() {
     });
     m_more->setVisible(projects.size() > count);
     m_more->setPlainText(tr("and %1 more: search to see them").arg(projects.size() - count));
-    const Page empty = m_leftovers.isSearching() ? Page::searching : Page::nothing;
-    m_stack->setCurrentIndex(static_cast<int>(projects.isEmpty() ? empty : Page::rows));
+    m_failed->setText(Formatters::sentence(m_leftovers.searchFailure()));
+    Page page = Page::rows;
+    if (projects.isEmpty() && !m_leftovers.projects().isEmpty())
+        page = Page::noMatch;
+    else if (projects.isEmpty() && m_leftovers.isSearching())
+        page = Page::searching;
+    else if (projects.isEmpty())
+        page = m_leftovers.searchFailure().isEmpty() ? Page::nothing : Page::failed;
+    m_stack->setCurrentIndex(static_cast<int>(page));
 }
 
 void ProjectLeftoversSheet::refreshFoot() {

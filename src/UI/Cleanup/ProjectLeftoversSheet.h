@@ -8,6 +8,7 @@
 
 class AppModel;
 class ClampedLabel;
+class EmptyState;
 class LeftoverRow;
 class Preferences;
 class PushButton;
@@ -59,6 +60,7 @@ private:
     QScrollArea* m_area;
     QStackedWidget* m_stack;
     QVBoxLayout* m_rowsLayout = nullptr;
+    EmptyState* m_failed = nullptr; ///< in place of the list
     RowPool<LeftoverRow> m_rows;
     TextLabel* m_more;
     Spinner* m_spinner;

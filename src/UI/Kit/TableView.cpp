@@ -1,6 +1,7 @@
 #include "UI/Kit/TableView.h"
 
 #include "UI/Kit/ScrollingPage.h"
+#include "UI/Style/Painting.h"
 #include "UI/Style/Theme.h"
 
 #include <QClipboard>
@@ -49,6 +50,19 @@ void TableView::paintGround(QPainter& painter, const QStyleOptionViewItem& optio
         painter.fillRect(option.rect, Theme::color(Role::accent, 0.16));
     else if (option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus))
         painter.fillRect(option.rect, Theme::color(Role::hoverFill));
+}
+
+void TableView::setEmptyText(const QString& text) {
+    m_emptyText = text;
+}
+
+void TableView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    Painting::setTextStyle(painter, Theme::TextStyle::callout, Role::secondaryText);
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {

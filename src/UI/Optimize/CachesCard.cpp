@@ -72,6 +72,7 @@ CachesCard::CachesCard(QWidget* parent)
     buttons->addWidget(m_clean);
     row->addLayout(buttons);
     content()->addLayout(row);
+    m_state = addLine(QString());
 }
 
 void CachesCard::refresh(const CacheCleanup& cleanup) {
@@ -85,8 +86,21 @@ void CachesCard::refresh(const CacheCleanup& cleanup) {
                         .arg(Formatters::bytes(CleanupOverlap::totalBytes(targets)))
                         .arg(targets.size()));
     refreshChips(targets);
+    refreshState(cleanup);
     m_cancel->setVisible(cleanup.isCleaning());
     m_clean->setEnabled(!m_cleaning && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
+}
+
+/// Says that sizes are being measured, or that nobody has measured them.
+void CachesCard::refreshState(const CacheCleanup& cleanup) {
+    const auto isMeasured = [](const CacheTarget& target) { return target.lastScanned.has_value(); };
+    QString text;
+    if (cleanup.isScanning())
+        text = CleanupTexts::progress(tr("Measuring %1 (%2 of %3)"), *cleanup.scanProgress());
+    else if (std::ranges::none_of(cleanup.targets(), isMeasured))
+        text = tr("Nothing is measured yet. “Rescan” in the section Cleanup does that.");
+    m_state->setPlainText(text);
+    m_state->setVisible(!text.isEmpty());
 }
 
 void CachesCard::refreshChips(QList<CacheTarget> targets) {

@@ -26,10 +26,12 @@ Q_SIGNALS:
 
 private:
     void refreshChips(QList<CacheTarget> targets);
+    void refreshState(const CacheCleanup& cleanup);
 
     QHBoxLayout* m_chipRow;
     RowPool<CacheChip> m_chips;
     PushButton* m_cancel;
     PushButton* m_clean;
+    TextLabel* m_state;
     bool m_cleaning = false;
 };

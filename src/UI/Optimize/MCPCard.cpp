@@ -41,6 +41,7 @@ MCPCard::MCPCard(QWidget* parent)
     servers->addLayout(m_rowsLayout);
     content()->addWidget(m_servers);
     m_nothing = addLine(tr("No ~/.claude/mcp.json found — nothing configured globally."));
+    m_reading = addLine(tr("A configuration file is being read. Its servers are counted after that."));
 }
 
 QLayout* MCPCard::makeFigures() {
@@ -66,5 +67,6 @@ void MCPCard::refresh(const MCPInspector::Report& report) {
     m_kill->setEnabled(orphans > 0);
     m_rows.show(report.live.size(), [&report](ServerRow& row, qsizetype i) { row.set(report.live[i]); });
     m_servers->setVisible(!report.live.isEmpty());
+    m_reading->setVisible(isUnknown);
     m_nothing->setVisible(report.configured.isEmpty() && !isUnknown);
 }

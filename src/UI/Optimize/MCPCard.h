@@ -33,4 +33,5 @@ private:
     QVBoxLayout* m_rowsLayout;
     RowPool<ServerRow> m_rows;
     TextLabel* m_nothing;
+    TextLabel* m_reading;
 };

@@ -1,6 +1,7 @@
 #include "UI/Optimize/QuickKillsCard.h"
 
 #include "Model/ProcessActions.h"
+#include "UI/Kit/TextLabel.h"
 #include "UI/Optimize/PresetTile.h"
 
 #include <QGridLayout>
@@ -30,9 +31,12 @@ QuickKillsCard::QuickKillsCard(QWidget* parent)
         m_grid->setColumnStretch(column, 1);
     content()->addLayout(m_grid);
     m_tiles.reserve(1);
+    m_nothing =
+        addLine(tr("No presets. The settings add some under Quick Kills, or bring the built-in ones back."));
 }
 
 void QuickKillsCard::refresh(const ProcessActions& actions, const QList<QuickKillPreset>& presets) {
+    m_nothing->setVisible(presets.isEmpty());
     m_tiles.show(presets.size(), [&](PresetTile& tile, qsizetype i) {
         const QuickKillPreset& preset = presets[i];
         tile.set(preset, actions.previewMatches(preset.pattern, preset.minIdleMinutes, preset.minRSSMB));

@@ -22,5 +22,6 @@ Q_SIGNALS:
 
 private:
     QGridLayout* m_grid;
+    TextLabel* m_nothing;
     RowPool<PresetTile> m_tiles;
 };

@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "UI/Kit/OnScreen.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/SamplingTexts.h"
 #include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/AlertStripView.h"
@@ -35,7 +36,8 @@ OverviewView::OverviewView(AppModel& model, std::shared_ptr<MachineDetails> mach
     , m_model(model)
     , m_machine(std::move(machine))
     , m_dashboard(new QWidget)
-    , m_alerts(new AlertStripView) {
+    , m_alerts(new AlertStripView)
+    , m_noGroups((new TextLabel(TextStyle::callout))->secondary()->wrapped()) {
     auto* page = makeScrollingPage(this, Theme::pageMargins, 0);
     page->addWidget(m_dashboard);
     auto* column = new QVBoxLayout(m_dashboard);
@@ -88,6 +90,7 @@ QLayout* OverviewView::makeGroups() {
     auto* column = new QVBoxLayout;
     column->setSpacing(Theme::rowSpacing);
     column->addWidget(heading(tr("Groups")));
+    column->addWidget(m_noGroups);
     for (const ProcGroup group : allCases<ProcGroup>()) {
         auto* row = new GroupRow(group);
         row->hide();
@@ -151,6 +154,8 @@ void OverviewView::refreshGroups() {
         sessions > 0 ? SessionTexts::count(sessions) : QString());
     for (GroupRow* row : std::as_const(m_groupRows))
         row->setVisible(!groups.isEmpty());
+    m_noGroups->setVisible(groups.isEmpty());
+    m_noGroups->setPlainText(SamplingTexts::nothing(m_model.isPaused()));
     for (const GroupRollup& rollup : groups) {
         const bool expanded = m_expanded == rollup.group;
         m_groupRows[static_cast<qsizetype>(rollup.group)]->set(

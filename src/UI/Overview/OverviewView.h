@@ -16,6 +16,7 @@ struct Alert;
 class AppModel;
 class GroupRow;
 class MetricTile;
+class TextLabel;
 
 /// The first section of the main window: the machine's figures, alerts and process groups, live.
 class OverviewView : public QScrollArea {
@@ -57,6 +58,7 @@ private:
     AlertStripView* m_alerts;
     QList<MetricTile*> m_tiles;   ///< in the order of Metrics::all
     QList<GroupRow*> m_groupRows; ///< in group order
+    TextLabel* m_noGroups;        ///< why there are none
     std::optional<ProcGroup> m_expanded;
     QList<qint32> m_order; ///< of the open group's members, as they are shown
 };

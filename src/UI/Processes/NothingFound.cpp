@@ -15,6 +15,7 @@ constexpr Theme::Length nothingSymbolSize{30};
 
 NothingFound::NothingFound(QWidget* parent)
     : QWidget(parent)
+    , m_title(new TextLabel(Theme::TextStyle::headline))
     , m_detail((new TextLabel(Theme::TextStyle::callout))->secondary()->wrapped())
     , m_search(new PushButton(tr("Clear the search")))
     , m_group(new PushButton(tr("Show all groups")))
@@ -22,8 +23,6 @@ NothingFound::NothingFound(QWidget* parent)
     , m_all(new PushButton(tr("Clear all filters"))) {
     auto* icon = new SymbolView(nothingSymbolSize, nothingSymbolSize);
     icon->set(QStringLiteral("list.bullet.rectangle"), Theme::Role::secondaryText);
-    auto* title = new TextLabel(Theme::TextStyle::headline);
-    title->setPlainText(tr("No processes match"));
     m_detail->setAlignment(Qt::AlignCenter);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::rowSpacing);
@@ -35,7 +34,7 @@ NothingFound::NothingFound(QWidget* parent)
     column->setSpacing(Theme::rowSpacing);
     column->addStretch();
     column->addWidget(icon, 0, Qt::AlignCenter);
-    column->addWidget(title, 0, Qt::AlignCenter);
+    column->addWidget(m_title, 0, Qt::AlignCenter);
     column->addWidget(m_detail);
     column->addLayout(buttons);
     column->addStretch();
@@ -50,6 +49,7 @@ NothingFound::NothingFound(QWidget* parent)
 }
 
 void NothingFound::set(const ProcessQuery& query, const ProcessQuery::Hidden& hidden) {
+    m_title->setPlainText(tr("No processes match"));
     QStringList sentences;
     if (hidden.bySize > 0)
         sentences.append(tr("Min RAM of %1 MB hides %n more.", nullptr, hidden.bySize).arg(query.minRSSMB));
@@ -67,4 +67,11 @@ void NothingFound::set(const ProcessQuery& query, const ProcessQuery::Hidden& hi
     m_group->setVisible(hidden.byGroup > 0);
     m_search->setVisible(hidden.bySearch > 0);
     m_all->setVisible(isTogether);
+}
+
+void NothingFound::setNoProcesses(const QString& reason) {
+    m_title->setPlainText(tr("No processes"));
+    m_detail->setPlainText(reason);
+    for (PushButton* button : {m_search, m_group, m_size, m_all})
+        button->hide();
 }

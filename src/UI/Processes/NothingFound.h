@@ -15,6 +15,8 @@ public:
     explicit NothingFound(QWidget* parent = nullptr);
 
     void set(const ProcessQuery& query, const ProcessQuery::Hidden& hidden);
+    /// Says why there are no processes at all.
+    void setNoProcesses(const QString& reason);
 
 Q_SIGNALS:
     void searchLifted();
@@ -22,6 +24,7 @@ Q_SIGNALS:
     void sizeLifted();
 
 private:
+    TextLabel* m_title;
     TextLabel* m_detail;
     PushButton* m_search;
     PushButton* m_group;

@@ -8,6 +8,7 @@
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/OnScreen.h"
+#include "UI/Kit/SamplingTexts.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Processes/EndDialog.h"
 #include "UI/Processes/NothingFound.h"
@@ -206,12 +207,16 @@ void ProcessesView::refresh() {
 void ProcessesView::showCounts(const ProcessQuery& query, qsizetype shown) {
     m_stack->setCurrentIndex(shown == 0 ? 1 : 0);
     const auto all = static_cast<int>(m_model.processes().size());
-    if (shown == 0)
+    if (all == 0)
+        m_nothing->setNoProcesses(SamplingTexts::nothing(m_model.isPaused()));
+    else if (shown == 0)
         m_nothing->set(query, query.hidden({.processes = m_model.processes(), .facts = m_facts}));
     QString text = tr("%1 of %n process(es)", nullptr, all).arg(shown);
     if (query.listing == ProcessListing::byName)
         text = tr("%1 names of %n process(es)", nullptr, all).arg(shown);
-    if (m_table->isHeld())
+    if (m_model.isPaused() && all > 0)
+        text = tr("%1, as they were when power became low.").arg(text);
+    else if (m_table->isHeld())
         text = tr("%1. The order is held while a row is in use; F5 sorts anew.").arg(text);
     m_counts->setPlainText(text);
 }

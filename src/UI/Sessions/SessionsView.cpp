@@ -89,17 +89,17 @@ SessionsView::SessionsView(AppModel& model, Preferences& preferences, QWidget* p
     , m_leftOverRows(makeRemainsPool(m_leftOvers))
     , m_duplicateRows(makeRemainsPool(m_duplicates)) {
     m_stack->addWidget(makePage());
-    m_stack->addWidget(makeEmptyPage(
+    m_stack->addWidget(makeEmptyPage(new EmptyState(
         QStringLiteral("bubble.prompt"), tr("No sessions"),
         tr("Coding agents that run in a terminal or an editor appear here, each with its MCP servers, dev "
-           "servers, browsers and commands, and with what an ended one left running.")));
-    auto* clear = new PushButton(tr("Clear search"));
-    connect(clear, &QPushButton::clicked, m_controls, &SessionControls::clearSearch);
-    m_stack->addWidget(makeEmptyPage(
+           "servers, browsers and commands, and with what an ended one left running."))));
+    auto* noMatchState = new EmptyState(
         QStringLiteral("magnifyingglass"), tr("No sessions match"),
         tr("Every word of the search has to be in the agent, the project, the name, the state, a process or "
-           "a port of the session."),
-        clear));
+           "a port of the session."));
+    connect(noMatchState->addButton(tr("Clear search")), &QPushButton::clicked, m_controls,
+            &SessionControls::clearSearch);
+    m_stack->addWidget(makeEmptyPage(noMatchState));
 
     auto* top = new QVBoxLayout;
     top->setContentsMargins(Theme::pagePadding, Theme::pagePadding, Theme::pagePadding, 0);
@@ -171,17 +171,13 @@ SessionsView::Group SessionsView::addGroup(QVBoxLayout* page, const QString& tit
     return group;
 }
 
-/// Returns what takes the place of the list, with a button that helps, if any.
-QWidget* SessionsView::makeEmptyPage(const QString& symbol, const QString& headline, const QString& text,
-                                     QWidget* button) {
+/// Returns the page that takes the place of the list.
+QWidget* SessionsView::makeEmptyPage(EmptyState* state) {
     auto* page = new QWidget;
-    auto* state = new EmptyState(symbol, headline, text);
     state->setFixedWidth(emptyTextWidth);
     auto* column = new QVBoxLayout(page);
     column->addStretch(2);
     column->addWidget(state, 0, Qt::AlignHCenter);
-    if (button)
-        column->addWidget(button, 0, Qt::AlignHCenter);
     column->addStretch(3);
     return page;
 }

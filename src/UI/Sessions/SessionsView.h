@@ -9,6 +9,7 @@
 #include <QWidget>
 
 class AppModel;
+class EmptyState;
 class Notice;
 class Preferences;
 class QScrollArea;
@@ -44,8 +45,7 @@ private:
     Group addGroup(QVBoxLayout* page, const QString& title);
     RowPool<RemainsRow> makeRemainsPool(const Group& group);
     QWidget* makePage();
-    QWidget* makeEmptyPage(const QString& symbol, const QString& headline, const QString& text,
-                           QWidget* button = nullptr);
+    QWidget* makeEmptyPage(EmptyState* state);
     void refresh();
     void showReport();
     void showSessions(const QList<Session>& sessions);

@@ -5,11 +5,14 @@
 #include "UI/Kit/Card.h"
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"
+#include "UI/Kit/FilePanel.h"
+#include "UI/Kit/Notice.h"
 #include "UI/Kit/PopUpButton.h"
+#include "UI/Kit/PushButton.h"
 #include "UI/Kit/TableView.h"
 #include "UI/Settings/HistoryRowDelegate.h"
 
-#include <QFileDialog>
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -20,23 +23,24 @@
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr Theme::Length pickerWidth{220};
 
 /// Writes the whole file, or leaves an older one as it was. A full disk can cut a file short without an
-/// error, so the size is checked. The log itself is never replaced.
-void writeCSV(const QString& path) {
+/// error, so the size is checked. The log itself is never replaced. Returns why it failed.
+QString writeCSV(const QString& path) {
     if (QFileInfo(path) == QFileInfo(ActionLogReader::path()))
-        return;
+        return HistoryTab::tr("That file is the log itself.");
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return;
+        return file.errorString();
     const QByteArray text = ActionLogReader::exportCSV().toUtf8();
     file.write(text);
-    if (file.flush() && file.size() == text.size())
-        file.commit();
+    const bool isWhole = file.flush() && file.size() == text.size();
+    return isWhole && file.commit() ? QString() : file.errorString();
 }
 
 QString exportFolder() {
@@ -72,18 +76,21 @@ HistoryTab::HistoryTab(QWidget* parent)
     : QWidget(parent)
     , m_rows(new HistoryTableModel(this))
     , m_table(makeTable(m_rows))
+    , m_kinds(new PopUpButton(tr("Kind")))
+    , m_notice(new Notice(u"exclamationmark.triangle.fill"_s, 0ms))
     , m_stack(new QStackedWidget) {
     auto* card = new Card;
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(Theme::tableCardMargins);
     inside->addWidget(m_stack);
     m_stack->addWidget(m_table);
-    m_stack->addWidget(new EmptyState(u"clock.arrow.circlepath"_s, {}, tr("No actions logged yet.")));
+    m_stack->addWidget(makeEmptyPage());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pagePadding, Theme::gridSpacing, Theme::pagePadding,
                                Theme::pagePadding);
     column->setSpacing(Theme::rowSpacing + Theme::textGap);
     column->addWidget(makeToolbar());
+    column->addWidget(m_notice);
     column->addWidget(card, 1);
     setAccessibleName(tr("History"));
     auto* refreshKey = new QShortcut(QKeySequence::Refresh, this);
@@ -91,8 +98,16 @@ HistoryTab::HistoryTab(QWidget* parent)
     showRows();
 }
 
+/// Returns what takes the place of the table, with a button for when only the filter leaves it empty.
+QWidget* HistoryTab::makeEmptyPage() {
+    auto* page = new EmptyState(u"clock.arrow.circlepath"_s, {}, tr("No actions logged yet."));
+    m_allKinds = page->addButton(tr("Show all kinds"));
+    connect(m_allKinds, &QPushButton::clicked, this, [this] { m_kinds->setCurrentIndex(0); });
+    return page;
+}
+
 QWidget* HistoryTab::makeToolbar() {
-    auto* kinds = new PopUpButton(tr("Kind"));
+    auto* kinds = m_kinds;
     kinds->addItem(tr("All"), HistoryTableModel::allKinds());
     for (const auto& [text, kind] : {std::pair(tr("Quit"), ActionLogEntry::Kind::quit),
                                      std::pair(tr("Force kill"), ActionLogEntry::Kind::forceKill),
@@ -139,20 +154,27 @@ void HistoryTab::setFilterKind(const QString& kind) {
 }
 
 void HistoryTab::showRows() {
+    m_allKinds->setVisible(!m_rows->entries().isEmpty());
     m_stack->setCurrentIndex(m_rows->rowCount() == 0 ? 1 : 0);
 }
 
 void HistoryTab::exportCSV() {
-    auto* panel = new QFileDialog(window(), tr("Export CSV"), exportFolder());
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    // A desktop's own panel may ask whether to replace a file before the suffix is added to its name.
-    panel->setOption(QFileDialog::DontUseNativeDialog);
-    panel->setAcceptMode(QFileDialog::AcceptSave);
-    panel->setNameFilter(tr("Comma-separated text (*.csv)"));
-    panel->setDefaultSuffix(u"csv"_s);
-    panel->selectFile(u"tavrin-actions.csv"_s);
-    connect(panel, &QFileDialog::fileSelected, this, &writeCSV);
-    panel->open();
+    FilePanel::open(this,
+                    {.kind = FileChoice::Kind::newFile,
+                     .title = tr("Export CSV"),
+                     .startFolder = exportFolder(),
+                     .name = u"tavrin-actions.csv"_s,
+                     .typeName = tr("Comma-separated text (*.csv)"),
+                     .pattern = u"*.csv"_s},
+                    [this](const QString& path) { exportTo(path); });
+}
+
+void HistoryTab::exportTo(const QString& path) {
+    const QString failure = writeCSV(path);
+    if (failure.isEmpty())
+        m_notice->hide();
+    else
+        m_notice->show(tr("The log was not exported. Choose another place."), failure);
 }
 
 void HistoryTab::confirmClear() {

@@ -3,6 +3,9 @@
 #include <QWidget>
 
 class HistoryTableModel;
+class Notice;
+class PopUpButton;
+class PushButton;
 class QStackedWidget;
 class TableView;
 
@@ -19,15 +22,20 @@ protected:
 
 private:
     QWidget* makeToolbar();
+    QWidget* makeEmptyPage();
     void refresh();
     void setFilterKind(const QString& kind);
     void exportCSV();
     void confirmClear();
     void clear();
+    void exportTo(const QString& path);
     /// Shows the table, or that it is empty.
     void showRows();
 
     HistoryTableModel* m_rows;
     TableView* m_table;
+    PopUpButton* m_kinds;
+    PushButton* m_allKinds = nullptr;
+    Notice* m_notice;
     QStackedWidget* m_stack;
 };

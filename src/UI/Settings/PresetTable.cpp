@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Settings/PresetTableModel.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
@@ -63,6 +64,8 @@ PresetTable::PresetTable(QWidget* parent)
     , m_rows(new PresetTableModel(this)) {
     setModel(m_rows);
     setItemDelegate(new RowDelegate(this));
+    setEmptyText(tr("No presets. Add one, or reset to the defaults."));
+    setAccessibleDescription(emptyText());
     for (int column = 0; column < PresetTableModel::columns; ++column) {
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
         header()->resizeSection(column, Theme::scaled(PresetTableModel::column(column).width));
@@ -77,8 +80,7 @@ void PresetTable::show(const QList<QuickKillPreset>& presets) {
     const QUuid id = selected ? selected->id : QUuid();
     const int row = currentIndex().row();
     m_rows->setPresets(presets);
-    setAccessibleDescription(presets.isEmpty() ? tr("No presets. Add one, or reset to the defaults.")
-                                               : QString());
+    setAccessibleDescription(presets.isEmpty() ? emptyText() : QString());
     for (int each = 0; each < presets.size(); ++each)
         addButtons(each);
     if (row < 0)
@@ -102,6 +104,7 @@ void PresetTable::addButtons(int row) {
     buttons->addStretch();
     for (IconButton* button : {edit, remove}) {
         button->setFocusPolicy(Qt::NoFocus);
+        nameRowButton(button, button->toolTip(), Formatters::visible(preset.name));
         buttons->addWidget(button);
     }
     buttons->addStretch();
@@ -110,15 +113,6 @@ void PresetTable::addButtons(int row) {
 
 const QuickKillPreset* PresetTable::preset(const QModelIndex& index) const {
     return index.isValid() ? &m_rows->presets()[index.row()] : nullptr;
-}
-
-void PresetTable::paintEvent(QPaintEvent* event) {
-    TableView::paintEvent(event);
-    if (m_rows->rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
-    painter.drawText(viewport()->rect(), Qt::AlignCenter, accessibleDescription());
 }
 
 void PresetTable::keyPressEvent(QKeyEvent* event) {

@@ -21,7 +21,6 @@ Q_SIGNALS:
     void deleteRequested(const QuickKillPreset& preset);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void fillMenu(QMenu& menu, const QModelIndex& index) override;
