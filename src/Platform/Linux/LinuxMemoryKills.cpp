@@ -1,5 +1,6 @@
 #include "Platform/Linux/LinuxMemoryKills.h"
 
+#include "Platform/Freedesktop/BusSignal.h"
 #include "Platform/Linux/ControlGroup.h"
 #include "Platform/Linux/KernelText.h"
 #include "Platform/ToolRunner.h"
@@ -49,11 +50,9 @@ LinuxMemoryKills::LinuxMemoryKills(std::shared_ptr<ToolRunner> tools, const QDBu
     : m_tools(std::move(tools))
     , m_vmstat(QFile::encodeName(root + u"/proc/vmstat"_s).toStdString())
     , m_groupEvents(groupEvents(root)) {
-    QDBusConnection connection = bus;
-    // Any sender, because Qt would block on the bus for the owner of a name.
-    if (connection.isConnected())
-        connection.connect(QString(), u"/org/freedesktop/oom1"_s, u"org.freedesktop.oom1.Manager"_s,
-                           u"Killed"_s, this, SLOT(onKilled(QString, QString)));
+    if (bus.isConnected())
+        followSignal(bus, u"/org/freedesktop/oom1"_s, u"org.freedesktop.oom1.Manager"_s, u"Killed"_s, this,
+                     SLOT(onKilled(QString, QString)));
 }
 
 std::optional<quint64> LinuxMemoryKills::count() {
