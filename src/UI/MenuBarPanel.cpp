@@ -24,10 +24,10 @@ using Theme::TextStyle;
 namespace {
 
 constexpr Theme::Length panelSymbolWidth{16};
-constexpr int panelPadding = 14;
-constexpr int panelEdge = 6; ///< above and below; the panel is full with three alerts
-constexpr int panelSpacing = 7;
-constexpr int flatButtonPadding = 10; ///< before the symbol of a button without a border
+constexpr int panelPadding = 12;
+constexpr int panelEdge = 8; ///< above and below; the panel is full with three alerts
+constexpr int panelSpacing = 8;
+constexpr int flatButtonPadding = 8; ///< before the symbol of a button without a border
 
 TextLabel* caption(const QString& text) {
     auto* label = (new TextLabel(TextStyle::caption))->secondary();
@@ -82,7 +82,7 @@ MenuBarPanel::MenuBarPanel(AppModel& model, WidgetWindow& widget, QWidget* paren
     column->addLayout(makeHeader());
     column->addWidget(new Divider);
     auto* figures = new QVBoxLayout;
-    figures->setSpacing(2);
+    figures->setSpacing(Theme::textGap);
     figures->addLayout(makeStatistics());
     figures->addLayout(makeSessions());
     column->addLayout(figures);

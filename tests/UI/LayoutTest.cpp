@@ -1,3 +1,5 @@
+#include "UI/Cleanup/CacheDetailDrawer.h"
+#include "UI/Cleanup/ProjectLeftoversSheet.h"
 #include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Notice.h"
 #include "UI/Kit/PopUpButton.h"
@@ -6,8 +8,10 @@
 #include "UI/ModelFixture.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/OverviewView.h"
+#include "UI/Processes/ProcessTableView.h"
 #include "UI/RootView.h"
 #include "UI/Settings/SettingsScene.h"
+#include "UI/ShortcutsSheet.h"
 #include "UI/WidgetView.h"
 
 #include "Core/Announcements/MessageCenter.h"
@@ -17,6 +21,7 @@
 #include "support/ScriptedFeed.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -57,6 +62,14 @@ bool isOverlay(const QWidget& widget) {
            widget.testAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+/// Returns whether a person can hit it: 28 pixels at least both ways, or as much as it shows.
+bool isLargeEnough(const QWidget& widget) {
+    constexpr int least = 28;
+    const bool isTarget = qobject_cast<const QAbstractButton*>(&widget) ||
+                          qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget);
+    return !isTarget || (widget.width() >= least && widget.height() >= least);
+}
+
 void expectWellLaidOut(const QWidget& window, const std::string& where) {
     const auto all = window.findChildren<QWidget*>();
     for (const QWidget* widget : all) {
@@ -65,13 +78,16 @@ void expectWellLaidOut(const QWidget& window, const std::string& where) {
         EXPECT_TRUE(showsItsWholeText(*widget))
             << where << ": " << nameOf(*widget) << " has " << widget->width() << 'x' << widget->height()
             << " of " << widget->sizeHint().width() << 'x' << widget->sizeHint().height();
+        EXPECT_TRUE(isLargeEnough(*widget))
+            << where << ": " << nameOf(*widget) << " is " << widget->width() << 'x' << widget->height();
         if (!widget->parentWidget()->layout() || isOverlay(*widget))
             continue;
         for (const QObject* object : widget->parentWidget()->children()) {
             const auto* other = qobject_cast<const QWidget*>(object);
-            if (other && other > widget && other->isVisibleTo(&window) && !isOverlay(*other))
+            if (other && other > widget && other->isVisibleTo(&window) && !isOverlay(*other)) {
                 EXPECT_FALSE(widget->geometry().intersects(other->geometry()))
                     << where << ": " << nameOf(*widget) << " lies over " << nameOf(*other);
+            }
         }
     }
 }
@@ -110,6 +126,14 @@ TEST_P(LayoutTest, NothingIsCutOrCoveredInTheMainWindow) {
         settle();
         expectWellLaidOut(root, at(rawValue(tab).toStdString()));
     }
+    root.select(RootView::Tab::processes);
+    auto* table = root.findChild<ProcessTableView*>();
+    QTest::keyClick(table, Qt::Key_Return);
+    settle();
+    expectWellLaidOut(root, at("inspector of nothing"));
+    table->setCurrentIndex(table->model()->index(0, 0));
+    settle();
+    expectWellLaidOut(root, at("inspector"));
     root.select(RootView::Tab::overview);
     auto* overview = root.findChild<OverviewView*>();
     for (const auto kind : {DetailPage::Kind::cpu, DetailPage::Kind::memory, DetailPage::Kind::disk,
@@ -164,6 +188,24 @@ TEST_P(LayoutTest, NothingIsCutOrCoveredInTheSmallWindows) {
     MenuBarPanel panel(model, window);
     show(panel, Theme::scaled(QSize(320, 360)).expandedTo(panel.layout()->minimumSize()));
     expectWellLaidOut(panel, at("panel"));
+}
+
+TEST_P(LayoutTest, NothingIsCutOrCoveredInTheSheets) {
+    const auto expectFits = [this](QDialog& sheet, const std::string& name) {
+        sheet.setAttribute(Qt::WA_DeleteOnClose, false);
+        show(sheet, sheet.size());
+        expectWellLaidOut(sheet, at(name));
+        const QSize most = RootView::minimumContent;
+        EXPECT_LE(sheet.height(), most.height()) << at(name);
+        EXPECT_LE(sheet.width(), most.width()) << at(name);
+    };
+    ShortcutsSheet keys(nullptr);
+    expectFits(keys, "keys");
+    fakes.tools->suspended = true;
+    ProjectLeftoversSheet leftovers(model, prefs, nullptr);
+    expectFits(leftovers, "leftovers");
+    CacheDetailDrawer drawer(model.cleanup(), model.cleanup().targets().first(), {}, nullptr);
+    expectFits(drawer, "drawer");
 }
 
 INSTANTIATE_TEST_SUITE_P(Fonts, LayoutTest, testing::Values(1.0, 1.25, 1.5));

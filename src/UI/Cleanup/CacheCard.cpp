@@ -14,7 +14,7 @@ using Theme::TextStyle;
 namespace {
 
 constexpr Theme::Length minCacheCardHeight{110};
-constexpr int lineGap = 6;
+constexpr int lineGap = 4;
 
 QString scannedText(const std::optional<Instant>& scanned, Instant now) {
     if (!scanned)

@@ -6,6 +6,7 @@
 #include "UI/Cleanup/CleanupPreview.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/SheetSize.h"
 #include "UI/Kit/SymbolView.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -29,7 +30,7 @@ CacheDetailDrawer::CacheDetailDrawer(CacheCleanup& cleanup, CacheTarget target, 
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(Translations::of(m_target.name));
-    setMinimumSize(Theme::scaled(minSize));
+    setMinimumSize(fittingSheet(minSize));
 
     auto* size = new TextLabel(TextStyle::title, QFont::Bold);
     size->setPlainText(tr("%1 reclaimable").arg(Formatters::bytes(m_target.sizeBytes)));
@@ -90,7 +91,7 @@ QLayout* CacheDetailDrawer::makeHeader() {
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+    row->setSpacing(Theme::rowSpacing);
     row->addWidget(symbol);
     row->addWidget(title, 1);
     row->addWidget(close);
@@ -103,7 +104,7 @@ QLayout* CacheDetailDrawer::makeLine(const QString& symbol, const QString& text)
     auto* label = (new TextLabel(TextStyle::caption))->secondary()->wrapped();
     label->setPlainText(text);
     auto* row = new QHBoxLayout;
-    row->setSpacing(6);
+    row->setSpacing(Theme::rowSpacing);
     row->addWidget(icon);
     row->addWidget(label, 1);
     return row;

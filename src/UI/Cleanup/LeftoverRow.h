@@ -22,7 +22,7 @@ public:
     static constexpr Theme::Length sizeWidth{76};
     static constexpr Theme::Length lastUseWidth{110};
     static constexpr Theme::Length noteWidth{170};
-    static constexpr int padding = 10;
+    static constexpr int padding = 12;
 
 Q_SIGNALS:
     void ticked(const QByteArray& project);

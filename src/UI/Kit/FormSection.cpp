@@ -10,7 +10,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int formRowPadding = 7;
+constexpr int formRowPadding = 8;
 constexpr Theme::Length minRowHeight{24};
 
 } // namespace
@@ -27,7 +27,7 @@ FormSection::FormSection(const QString& title, QWidget* parent)
     m_rows->setSpacing(0);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(Theme::rowSpacing);
     column->addWidget(heading);
     column->addWidget(card);
     setAccessibleName(title);

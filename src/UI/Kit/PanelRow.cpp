@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int panelRowGap = 8;
-constexpr int verticalPadding = 3;
+constexpr int verticalPadding = 2;
 
 } // namespace
 

@@ -19,9 +19,9 @@ namespace {
 
 constexpr Theme::Length lineHeight{26};
 constexpr int edge = 3; ///< room for the ring round the viewport
-constexpr int sizeRowPadding = 9;
+constexpr int sizeRowPadding = 8;
 constexpr int maxDetailLines = 2;
-constexpr int detailGap = 5;
+constexpr int detailGap = 4;
 
 class RowView : public QWidget {
 public:

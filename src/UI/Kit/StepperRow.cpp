@@ -12,7 +12,7 @@ using Theme::Role;
 
 namespace {
 
-constexpr int stepperGap = 10;
+constexpr int stepperGap = 12;
 
 } // namespace
 

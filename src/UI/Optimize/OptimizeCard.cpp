@@ -28,7 +28,7 @@ OptimizeCard::OptimizeCard(const QString& title, const QString& subtitle, const 
     texts->addWidget(heading);
     texts->addWidget(m_subtitle);
     auto* header = new QHBoxLayout;
-    header->setSpacing(10);
+    header->setSpacing(Theme::rowSpacing);
     header->addWidget(icon);
     header->addLayout(texts, 1);
 

@@ -21,14 +21,14 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
     m_nudged->setPlainText(tr("• memory_pressure nudged"));
     auto* head = new QHBoxLayout;
-    head->setSpacing(6);
+    head->setSpacing(Theme::rowSpacing);
     head->addWidget(symbol);
     head->addWidget(m_freed);
     head->addWidget(m_nudged);
     head->addStretch();
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Theme::cardPadding, 10, Theme::cardPadding, 10);
+    column->setContentsMargins(Theme::cardPadding, 12, Theme::cardPadding, 12);
     column->setSpacing(4);
     column->addLayout(head);
     column->addWidget(m_promised);

@@ -8,6 +8,7 @@
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"
+#include "UI/Kit/SheetSize.h"
 #include "UI/Kit/Slider.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Overview/CandidateRow.h"
@@ -56,7 +57,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Free RAM"));
-    resize(Theme::scaled(sheetSize));
+    resize(fittingSheet(sheetSize));
 
     auto* explanation = (new TextLabel(TextStyle::callout))->secondary()->wrapped();
     explanation->setPlainText(

@@ -22,7 +22,7 @@ using Theme::TextStyle;
 
 namespace {
 
-constexpr int figureGap = 14;
+constexpr int figureGap = 12;
 constexpr Theme::Length remainsSymbolSize{14};
 
 /// Returns the width of the buttons of both kinds, so that the figures stand below each other.

@@ -21,7 +21,7 @@ namespace {
 constexpr Theme::Length stateSymbolSize{12};
 constexpr Theme::Length cpuWidth{46};
 constexpr QSize sparklineSize(56, 24);
-constexpr int headerFigureGap = 14;
+constexpr int headerFigureGap = 12;
 constexpr int barHeight = 4;
 
 /// Returns the parts in one line, without those at the end that do not fit.

@@ -29,11 +29,11 @@ SessionResultView::SessionResultView(const SessionEndResult& result, QWidget* pa
     outcomes->set(lines);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(mirrored({Theme::cardPadding, 6, 6, 10}));
+    column->setContentsMargins(mirrored({Theme::cardPadding, 8, 8, 12}));
     column->setSpacing(4);
     column->addLayout(makeHead(result));
     auto* inside = new QVBoxLayout;
-    inside->setContentsMargins(mirrored({0, 0, Theme::cardPadding - 6, 0}));
+    inside->setContentsMargins(mirrored({0, 0, Theme::cardPadding - 8, 0}));
     inside->setSpacing(4);
     inside->addWidget(promised);
     inside->addWidget(outcomes);
@@ -56,7 +56,7 @@ QLayout* SessionResultView::makeHead(const SessionEndResult& result) {
     auto* dismiss = new IconButton(QStringLiteral("xmark"), tr("Dismiss"));
     connect(dismiss, &IconButton::clicked, this, &SessionResultView::dismissed);
     auto* head = new QHBoxLayout;
-    head->setSpacing(6);
+    head->setSpacing(Theme::rowSpacing);
     head->addWidget(symbol);
     head->addWidget(text, 1);
     head->addWidget(dismiss);

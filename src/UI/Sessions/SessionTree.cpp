@@ -22,7 +22,7 @@ constexpr Theme::Length indent{18};
 constexpr int maxIndented = 8; ///< deeper ones stand as far to the right as this depth
 constexpr Theme::Length partSymbolSize{14};
 constexpr int portsGap = 12;
-constexpr int treeColumnGap = 14;
+constexpr int treeColumnGap = 12;
 
 } // namespace
 

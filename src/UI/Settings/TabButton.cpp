@@ -12,7 +12,7 @@ using Theme::Role;
 namespace {
 
 constexpr Theme::Length minTabWidth{72};
-constexpr int tabPadding = 10;
+constexpr int tabPadding = 12;
 constexpr Theme::Length tabHeight{50};
 constexpr Theme::Length tabSymbolSize{20};
 constexpr Theme::Length symbolTop{5};

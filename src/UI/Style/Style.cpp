@@ -19,16 +19,16 @@ constexpr Theme::Length switchWidth{34};
 constexpr Theme::Length switchHeight{20};
 constexpr int knobInset = 2;
 constexpr int switchGap = 8;
-constexpr int fieldPadding = 6;
+constexpr int fieldPadding = 8;
 constexpr int buttonPadding = 12;
-constexpr int buttonGap = 6;
-constexpr int comboPadding = 10;
+constexpr int buttonGap = 8;
+constexpr int comboPadding = 12;
 constexpr Theme::Length comboChevronSize{11};
 constexpr int sliderTrackHeight = 4;
 constexpr int thumbInset = 3;
 constexpr Theme::Length minThumbLength{36};
 constexpr int sectionPadding = 8;
-constexpr int toolTipPadding = 5;
+constexpr int toolTipPadding = 4;
 constexpr Theme::Length sortChevronSize{10};
 
 /// Returns whether the widget is in a window of the program, also in the panel of the tray.
