@@ -350,6 +350,14 @@
         <source>%1 reclaimable across %2 targets</source>
         <translation>%1 bereinigbar, Ziele: %2</translation>
     </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>%1 wird gemessen (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
+        <translation>Noch ist nichts gemessen. Das macht „Neu messen“ im Abschnitt Bereinigung.</translation>
+    </message>
 </context>
 <context>
     <name>CandidateRow</name>
@@ -505,6 +513,10 @@
     <message>
         <source>Could not open %1.</source>
         <translation>%1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Nothing here has the text of the search. What is ticked stays so.</source>
+        <translation>Nichts hier enthält den Suchtext. Was angekreuzt ist, bleibt es.</translation>
     </message>
 </context>
 <context>
@@ -708,8 +720,12 @@
         <translation>%1 wird gemessen (%2 von %3)</translation>
     </message>
     <message>
+        <source>nothing is measured yet: “Rescan” does that</source>
+        <translation>noch nichts gemessen: das macht „Neu messen“</translation>
+    </message>
+    <message>
         <source>Stop measuring</source>
-        <translation>Messung stoppen</translation>
+        <translation>Messung anhalten</translation>
     </message>
 </context>
 <context>
@@ -875,6 +891,10 @@
         <source>Back</source>
         <translation>Zurück</translation>
     </message>
+    <message>
+        <source>since %1, while this page is open</source>
+        <translation>seit %1, solange diese Seite offen ist</translation>
+    </message>
 </context>
 <context>
     <name>DiskPage</name>
@@ -887,16 +907,36 @@
         <translation>Platte</translation>
     </message>
     <message>
-        <source>Read and written, while this page is open</source>
-        <translation>Gelesen und geschrieben, solange diese Seite offen ist</translation>
-    </message>
-    <message>
         <source>%1 read</source>
         <translation>%1 gelesen</translation>
     </message>
     <message>
         <source>%1 written</source>
         <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>No figures of reading and writing</source>
+        <translation>Keine Werte zum Lesen und Schreiben</translation>
+    </message>
+    <message>
+        <source>This computer shows programs no disk of its own, as many containers. What single processes read and write is in columns of the Processes section.</source>
+        <translation>Dieser Computer zeigt Programmen keinen eigenen Datenträger, wie viele Container. Was einzelne Prozesse lesen und schreiben, steht in Spalten des Abschnitts Prozesse.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Read and written</source>
+        <translation>Gelesen und geschrieben</translation>
+    </message>
+    <message>
+        <source>No volume of a disk is mounted here. The tile shows the space of the root folder.</source>
+        <translation>Hier ist kein Volume eines Datenträgers eingehängt. Die Kachel zeigt den Platz des Wurzelordners.</translation>
+    </message>
+    <message>
+        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
+        <translation>Ein Datenträger antwortet nicht. Solange diese Seite offen ist, wird er alle 10 Sekunden wieder gefragt.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +1419,10 @@
         <comment>bytes in a second</comment>
         <translation>%1/s</translation>
     </message>
+    <message>
+        <source>The line begins with the next figure.</source>
+        <translation>Die Linie beginnt mit dem nächsten Wert.</translation>
+    </message>
 </context>
 <context>
     <name>GroupHeader</name>
@@ -1471,6 +1515,18 @@
     <message>
         <source>Clear all</source>
         <translation>Alles löschen</translation>
+    </message>
+    <message>
+        <source>That file is the log itself.</source>
+        <translation>Diese Datei ist das Protokoll selbst.</translation>
+    </message>
+    <message>
+        <source>The log was not exported. Choose another place.</source>
+        <translation>Das Protokoll wurde nicht exportiert. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Show all kinds</source>
+        <translation>Alle Arten zeigen</translation>
     </message>
 </context>
 <context>
@@ -1593,29 +1649,6 @@
     <message>
         <source>Content process of %1: pages or extensions</source>
         <translation>Inhaltsprozess von %1: Seiten oder Erweiterungen</translation>
-    </message>
-</context>
-<context>
-    <name>InspectorGraph</name>
-    <message>
-        <source>%1 s ago</source>
-        <translation>vor %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>vor %1 min</translation>
-    </message>
-    <message>
-        <source>unknown yet</source>
-        <translation>noch unbekannt</translation>
-    </message>
-    <message>
-        <source>%1: %2 now, at most %3 since %4</source>
-        <translation>%1: jetzt %2, höchstens %3 (%4)</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>jetzt</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +1800,10 @@
         <source>It is empty.</source>
         <translation>Sie ist leer.</translation>
     </message>
+    <message>
+        <source>Unknown: it has ended.</source>
+        <translation>Unbekannt: er ist beendet.</translation>
+    </message>
 </context>
 <context>
     <name>LeaveOutOffer</name>
@@ -1868,6 +1905,10 @@
     <message>
         <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
         <translation>Keine ~/.claude/mcp.json gefunden – global ist nichts konfiguriert.</translation>
+    </message>
+    <message>
+        <source>A configuration file is being read. Its servers are counted after that.</source>
+        <translation>Eine Konfigurationsdatei wird gelesen. Ihre Server werden danach gezählt.</translation>
     </message>
 </context>
 <context>
@@ -1984,18 +2025,6 @@
         <translation>Zeit, die Programme auf Speicher warteten</translation>
     </message>
     <message>
-        <source>Groups, while this page is open</source>
-        <translation>Gruppen, solange diese Seite offen ist</translation>
-    </message>
-    <message>
-        <source>File cache, while this page is open</source>
-        <translation>Dateicache, solange diese Seite offen ist</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>Cache</translation>
-    </message>
-    <message>
         <source>Kernel</source>
         <translation>Kernel</translation>
     </message>
@@ -2008,16 +2037,20 @@
         <translation>Programme</translation>
     </message>
     <message>
-        <source>Swap</source>
-        <translation>Swap</translation>
-    </message>
-    <message>
         <source>Some programs</source>
         <translation>Einige Programme</translation>
     </message>
     <message>
         <source>All programs</source>
         <translation>Alle Programme</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>File cache</source>
+        <translation>Datei-Cache</translation>
     </message>
 </context>
 <context>
@@ -2173,6 +2206,10 @@
     <message>
         <source>Change the search, the group or Min RAM to see more.</source>
         <translation>Ändern Sie Suche, Gruppe oder Mindest-RAM, um mehr zu sehen.</translation>
+    </message>
+    <message>
+        <source>No processes</source>
+        <translation>Keine Prozesse</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2654,10 @@
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
         <translation>%1. Die Reihenfolge bleibt, solange eine Zeile benutzt wird; F5 sortiert neu.</translation>
     </message>
+    <message>
+        <source>%1, as they were when power became low.</source>
+        <translation>%1, Stand vor dem Energiesparen.</translation>
+    </message>
 </context>
 <context>
     <name>ProjectLeftovers</name>
@@ -2700,10 +2741,6 @@
         <translation>Nichts gefunden</translation>
     </message>
     <message>
-        <source>No project here has anything left by a build.</source>
-        <translation>In keinem Projekt hier hat ein Build etwas hinterlassen.</translation>
-    </message>
-    <message>
         <source>Looking for projects…</source>
         <translation>Projekte werden gesucht…</translation>
     </message>
@@ -2768,6 +2805,30 @@
     <message>
         <source>Remove %1</source>
         <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
+        <translation>In keinem Projekt hier hat ein Build etwas hinterlassen. „Ordner hinzufügen…“ sucht auch an anderen Orten.</translation>
+    </message>
+    <message>
+        <source>“Stop” ends the search and keeps what it has found.</source>
+        <translation>„Anhalten“ beendet die Suche und behält, was gefunden ist.</translation>
+    </message>
+    <message>
+        <source>No projects match</source>
+        <translation>Keine passenden Projekte</translation>
+    </message>
+    <message>
+        <source>The search looks in the path, the folders and the note of each project.</source>
+        <translation>Gesucht wird in Pfad, Ordnern und Notiz jedes Projekts.</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche löschen</translation>
+    </message>
+    <message>
+        <source>The search did not finish</source>
+        <translation>Die Suche wurde nicht fertig</translation>
     </message>
 </context>
 <context>
@@ -2860,6 +2921,10 @@
     <message>
         <source>Preset purges for common RAM hogs</source>
         <translation>Vorgaben, die übliche Speicherfresser beenden</translation>
+    </message>
+    <message>
+        <source>No presets. The settings add some under Quick Kills, or bring the built-in ones back.</source>
+        <translation>Keine Voreinstellungen. Unter Schnellbeenden in den Einstellungen kommen welche hinzu oder die mitgelieferten zurück.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3045,14 @@
     <message>
         <source>Show sidebar</source>
         <translation>Seitenleiste einblenden</translation>
+    </message>
+</context>
+<context>
+    <name>RowButton</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>an action, and what it is about</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3130,6 +3203,17 @@
     <message>
         <source>Pause sampling on Low Power Mode</source>
         <translation>Messung im Energiesparmodus anhalten</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTexts</name>
+    <message>
+        <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
+        <translation>Im Energiesparmodus werden keine Prozesse gelesen. Das ändert „Messung im Energiesparmodus anhalten“ in den Einstellungen unter Messung.</translation>
+    </message>
+    <message>
+        <source>The system lists no processes now. F5 reads them again.</source>
+        <translation>Das System nennt gerade keine Prozesse. F5 liest sie neu.</translation>
     </message>
 </context>
 <context>
@@ -3723,16 +3807,16 @@
         <translation>Temperatur</translation>
     </message>
     <message>
-        <source>Sensors, while this page is open</source>
-        <translation>Sensoren, solange diese Seite offen ist</translation>
-    </message>
-    <message>
         <source>No temperatures</source>
         <translation>Keine Temperaturen</translation>
     </message>
     <message>
         <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
         <translation>Dieser Computer zeigt Programmen keine Sensoren, wie die meisten virtuellen Maschinen. Die Kachel zeigt den Zustand, den der Kernel meldet.</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Sensoren</translation>
     </message>
 </context>
 <context>

@@ -350,6 +350,14 @@
         <source>%1 reclaimable across %2 targets</source>
         <translation>%1 recuperables, objetivos: %2</translation>
     </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>Midiendo %1 (%2 de %3)</translation>
+    </message>
+    <message>
+        <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
+        <translation>Aún no se ha medido nada. Lo hace «Volver a analizar» en la sección Limpieza.</translation>
+    </message>
 </context>
 <context>
     <name>CandidateRow</name>
@@ -505,6 +513,10 @@
     <message>
         <source>Could not open %1.</source>
         <translation>No se pudo abrir %1.</translation>
+    </message>
+    <message>
+        <source>Nothing here has the text of the search. What is ticked stays so.</source>
+        <translation>Nada aquí contiene el texto buscado. Lo marcado sigue marcado.</translation>
     </message>
 </context>
 <context>
@@ -708,6 +720,10 @@
         <translation>Midiendo %1 (%2 de %3)</translation>
     </message>
     <message>
+        <source>nothing is measured yet: “Rescan” does that</source>
+        <translation>aún no se ha medido nada: lo hace «Volver a analizar»</translation>
+    </message>
+    <message>
         <source>Stop measuring</source>
         <translation>Detener la medición</translation>
     </message>
@@ -875,6 +891,10 @@
         <source>Back</source>
         <translation>Atrás</translation>
     </message>
+    <message>
+        <source>since %1, while this page is open</source>
+        <translation>desde %1, mientras esta página está abierta</translation>
+    </message>
 </context>
 <context>
     <name>DiskPage</name>
@@ -887,16 +907,36 @@
         <translation>Disco</translation>
     </message>
     <message>
-        <source>Read and written, while this page is open</source>
-        <translation>Leído y escrito, mientras esta página está abierta</translation>
-    </message>
-    <message>
         <source>%1 read</source>
         <translation>%1 leídos</translation>
     </message>
     <message>
         <source>%1 written</source>
         <translation>%1 escritos</translation>
+    </message>
+    <message>
+        <source>No figures of reading and writing</source>
+        <translation>Sin cifras de lectura ni de escritura</translation>
+    </message>
+    <message>
+        <source>This computer shows programs no disk of its own, as many containers. What single processes read and write is in columns of the Processes section.</source>
+        <translation>Este equipo no muestra a los programas ningún disco propio, como muchos contenedores. Lo que lee y escribe cada proceso está en columnas de la sección Procesos.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>Read and written</source>
+        <translation>Leído y escrito</translation>
+    </message>
+    <message>
+        <source>No volume of a disk is mounted here. The tile shows the space of the root folder.</source>
+        <translation>Aquí no hay montado ningún volumen de disco. El mosaico muestra el espacio de la carpeta raíz.</translation>
+    </message>
+    <message>
+        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
+        <translation>Un disco no responde. Se le vuelve a preguntar cada 10 segundos mientras esta página está abierta.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +1419,10 @@
         <comment>bytes in a second</comment>
         <translation>%1/s</translation>
     </message>
+    <message>
+        <source>The line begins with the next figure.</source>
+        <translation>La línea empieza con la próxima cifra.</translation>
+    </message>
 </context>
 <context>
     <name>GroupHeader</name>
@@ -1471,6 +1515,18 @@
     <message>
         <source>Clear all</source>
         <translation>Borrar todo</translation>
+    </message>
+    <message>
+        <source>That file is the log itself.</source>
+        <translation>Ese archivo es el propio registro.</translation>
+    </message>
+    <message>
+        <source>The log was not exported. Choose another place.</source>
+        <translation>El registro no se ha exportado. Elija otro lugar.</translation>
+    </message>
+    <message>
+        <source>Show all kinds</source>
+        <translation>Mostrar todos los tipos</translation>
     </message>
 </context>
 <context>
@@ -1593,29 +1649,6 @@
     <message>
         <source>Content process of %1: pages or extensions</source>
         <translation>Proceso de contenido de %1: páginas o extensiones</translation>
-    </message>
-</context>
-<context>
-    <name>InspectorGraph</name>
-    <message>
-        <source>%1 s ago</source>
-        <translation>hace %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>hace %1 min</translation>
-    </message>
-    <message>
-        <source>unknown yet</source>
-        <translation>aún desconocido</translation>
-    </message>
-    <message>
-        <source>%1: %2 now, at most %3 since %4</source>
-        <translation>%1: %2 ahora, como máximo %3 (%4)</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>ahora</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +1800,10 @@
         <source>It is empty.</source>
         <translation>Está vacío.</translation>
     </message>
+    <message>
+        <source>Unknown: it has ended.</source>
+        <translation>Desconocido: ha terminado.</translation>
+    </message>
 </context>
 <context>
     <name>LeaveOutOffer</name>
@@ -1868,6 +1905,10 @@
     <message>
         <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
         <translation>No se encontró ~/.claude/mcp.json: no hay nada configurado globalmente.</translation>
+    </message>
+    <message>
+        <source>A configuration file is being read. Its servers are counted after that.</source>
+        <translation>Se está leyendo un archivo de configuración. Sus servidores se cuentan después.</translation>
     </message>
 </context>
 <context>
@@ -1984,18 +2025,6 @@
         <translation>Tiempo que los programas esperaron memoria</translation>
     </message>
     <message>
-        <source>Groups, while this page is open</source>
-        <translation>Grupos, mientras esta página está abierta</translation>
-    </message>
-    <message>
-        <source>File cache, while this page is open</source>
-        <translation>Caché de archivos, mientras esta página está abierta</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>Caché</translation>
-    </message>
-    <message>
         <source>Kernel</source>
         <translation>Núcleo</translation>
     </message>
@@ -2008,16 +2037,20 @@
         <translation>Programas</translation>
     </message>
     <message>
-        <source>Swap</source>
-        <translation>Swap</translation>
-    </message>
-    <message>
         <source>Some programs</source>
         <translation>Algunos programas</translation>
     </message>
     <message>
         <source>All programs</source>
         <translation>Todos los programas</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>File cache</source>
+        <translation>Caché de archivos</translation>
     </message>
 </context>
 <context>
@@ -2173,6 +2206,10 @@
     <message>
         <source>Change the search, the group or Min RAM to see more.</source>
         <translation>Cambie la búsqueda, el grupo o la RAM mínima para ver más.</translation>
+    </message>
+    <message>
+        <source>No processes</source>
+        <translation>Ningún proceso</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2654,10 @@
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
         <translation>%1. El orden se mantiene mientras se usa una fila; F5 vuelve a ordenar.</translation>
     </message>
+    <message>
+        <source>%1, as they were when power became low.</source>
+        <translation>%1, como estaban antes del ahorro de energía.</translation>
+    </message>
 </context>
 <context>
     <name>ProjectLeftovers</name>
@@ -2700,10 +2741,6 @@
         <translation>No se encontró nada</translation>
     </message>
     <message>
-        <source>No project here has anything left by a build.</source>
-        <translation>Ningún proyecto de aquí tiene restos de una compilación.</translation>
-    </message>
-    <message>
         <source>Looking for projects…</source>
         <translation>Buscando proyectos…</translation>
     </message>
@@ -2768,6 +2805,30 @@
     <message>
         <source>Remove %1</source>
         <translation>Eliminar %1</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
+        <translation>Ningún proyecto de aquí tiene restos de compilación. «Añadir carpeta…» busca también en otros lugares.</translation>
+    </message>
+    <message>
+        <source>“Stop” ends the search and keeps what it has found.</source>
+        <translation>«Detener» termina la búsqueda y conserva lo encontrado.</translation>
+    </message>
+    <message>
+        <source>No projects match</source>
+        <translation>Ningún proyecto coincide</translation>
+    </message>
+    <message>
+        <source>The search looks in the path, the folders and the note of each project.</source>
+        <translation>Se busca en la ruta, las carpetas y la nota de cada proyecto.</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Borrar búsqueda</translation>
+    </message>
+    <message>
+        <source>The search did not finish</source>
+        <translation>La búsqueda no terminó</translation>
     </message>
 </context>
 <context>
@@ -2860,6 +2921,10 @@
     <message>
         <source>Preset purges for common RAM hogs</source>
         <translation>Preajustes contra los procesos que más RAM suelen ocupar</translation>
+    </message>
+    <message>
+        <source>No presets. The settings add some under Quick Kills, or bring the built-in ones back.</source>
+        <translation>Sin ajustes predefinidos. En la configuración, en Cierres rápidos, se añaden o se recuperan los incluidos.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3045,14 @@
     <message>
         <source>Show sidebar</source>
         <translation>Mostrar la barra lateral</translation>
+    </message>
+</context>
+<context>
+    <name>RowButton</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>an action, and what it is about</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3130,6 +3203,17 @@
     <message>
         <source>Pause sampling on Low Power Mode</source>
         <translation>Pausar el muestreo en modo de ahorro de energía</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTexts</name>
+    <message>
+        <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
+        <translation>Los procesos no se leen con ahorro de energía. Lo cambia «Pausar el muestreo en modo de ahorro de energía» en la configuración, en Muestreo.</translation>
+    </message>
+    <message>
+        <source>The system lists no processes now. F5 reads them again.</source>
+        <translation>El sistema no muestra procesos ahora. F5 los vuelve a leer.</translation>
     </message>
 </context>
 <context>
@@ -3723,16 +3807,16 @@
         <translation>Temperatura</translation>
     </message>
     <message>
-        <source>Sensors, while this page is open</source>
-        <translation>Sensores, mientras esta página está abierta</translation>
-    </message>
-    <message>
         <source>No temperatures</source>
         <translation>Sin temperaturas</translation>
     </message>
     <message>
         <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
         <translation>Este equipo no muestra sensores a los programas, como la mayoría de las máquinas virtuales. El mosaico muestra el estado que informa el núcleo.</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Sensores</translation>
     </message>
 </context>
 <context>

@@ -350,6 +350,14 @@
         <source>%1 reclaimable across %2 targets</source>
         <translation>%1 récupérables, cibles : %2</translation>
     </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>Mesure de %1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
+        <translation>Rien n’est encore mesuré. « Réanalyser » dans la section Nettoyage le fait.</translation>
+    </message>
 </context>
 <context>
     <name>CandidateRow</name>
@@ -505,6 +513,10 @@
     <message>
         <source>Could not open %1.</source>
         <translation>Impossible d’ouvrir %1.</translation>
+    </message>
+    <message>
+        <source>Nothing here has the text of the search. What is ticked stays so.</source>
+        <translation>Rien ici ne contient le texte recherché. Ce qui est coché le reste.</translation>
     </message>
 </context>
 <context>
@@ -708,6 +720,10 @@
         <translation>Mesure de %1 (%2 sur %3)</translation>
     </message>
     <message>
+        <source>nothing is measured yet: “Rescan” does that</source>
+        <translation>rien n’est encore mesuré : « Réanalyser » le fait</translation>
+    </message>
+    <message>
         <source>Stop measuring</source>
         <translation>Arrêter la mesure</translation>
     </message>
@@ -875,6 +891,10 @@
         <source>Back</source>
         <translation>Retour</translation>
     </message>
+    <message>
+        <source>since %1, while this page is open</source>
+        <translation>depuis %1, tant que cette page est ouverte</translation>
+    </message>
 </context>
 <context>
     <name>DiskPage</name>
@@ -887,16 +907,36 @@
         <translation>Disque</translation>
     </message>
     <message>
-        <source>Read and written, while this page is open</source>
-        <translation>Lu et écrit, tant que cette page est ouverte</translation>
-    </message>
-    <message>
         <source>%1 read</source>
         <translation>%1 lus</translation>
     </message>
     <message>
         <source>%1 written</source>
         <translation>%1 écrits</translation>
+    </message>
+    <message>
+        <source>No figures of reading and writing</source>
+        <translation>Aucune valeur de lecture ni d’écriture</translation>
+    </message>
+    <message>
+        <source>This computer shows programs no disk of its own, as many containers. What single processes read and write is in columns of the Processes section.</source>
+        <translation>Cet ordinateur ne montre aux programmes aucun disque à lui, comme beaucoup de conteneurs. Ce que chaque processus lit et écrit figure dans des colonnes de la section Processus.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Lecture en cours…</translation>
+    </message>
+    <message>
+        <source>Read and written</source>
+        <translation>Lu et écrit</translation>
+    </message>
+    <message>
+        <source>No volume of a disk is mounted here. The tile shows the space of the root folder.</source>
+        <translation>Aucun volume de disque n’est monté ici. La tuile montre l’espace du dossier racine.</translation>
+    </message>
+    <message>
+        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
+        <translation>Un disque ne répond pas. Il est interrogé toutes les 10 secondes tant que cette page est ouverte.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +1419,10 @@
         <comment>bytes in a second</comment>
         <translation>%1/s</translation>
     </message>
+    <message>
+        <source>The line begins with the next figure.</source>
+        <translation>La courbe commence avec la prochaine valeur.</translation>
+    </message>
 </context>
 <context>
     <name>GroupHeader</name>
@@ -1471,6 +1515,18 @@
     <message>
         <source>Clear all</source>
         <translation>Tout effacer</translation>
+    </message>
+    <message>
+        <source>That file is the log itself.</source>
+        <translation>Ce fichier est le journal lui-même.</translation>
+    </message>
+    <message>
+        <source>The log was not exported. Choose another place.</source>
+        <translation>Le journal n’a pas été exporté. Choisissez un autre emplacement.</translation>
+    </message>
+    <message>
+        <source>Show all kinds</source>
+        <translation>Afficher tous les types</translation>
     </message>
 </context>
 <context>
@@ -1593,29 +1649,6 @@
     <message>
         <source>Content process of %1: pages or extensions</source>
         <translation>Processus de contenu de %1 : pages ou extensions</translation>
-    </message>
-</context>
-<context>
-    <name>InspectorGraph</name>
-    <message>
-        <source>%1 s ago</source>
-        <translation>il y a %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>il y a %1 min</translation>
-    </message>
-    <message>
-        <source>unknown yet</source>
-        <translation>encore inconnu</translation>
-    </message>
-    <message>
-        <source>%1: %2 now, at most %3 since %4</source>
-        <translation>%1 : %2 maintenant, au plus %3 (%4)</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>maintenant</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +1800,10 @@
         <source>It is empty.</source>
         <translation>Il est vide.</translation>
     </message>
+    <message>
+        <source>Unknown: it has ended.</source>
+        <translation>Inconnu : il s’est terminé.</translation>
+    </message>
 </context>
 <context>
     <name>LeaveOutOffer</name>
@@ -1868,6 +1905,10 @@
     <message>
         <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
         <translation>Aucun ~/.claude/mcp.json trouvé — rien de configuré globalement.</translation>
+    </message>
+    <message>
+        <source>A configuration file is being read. Its servers are counted after that.</source>
+        <translation>Un fichier de configuration est en cours de lecture. Ses serveurs seront comptés ensuite.</translation>
     </message>
 </context>
 <context>
@@ -1984,18 +2025,6 @@
         <translation>Temps d’attente de mémoire des programmes</translation>
     </message>
     <message>
-        <source>Groups, while this page is open</source>
-        <translation>Groupes, tant que cette page est ouverte</translation>
-    </message>
-    <message>
-        <source>File cache, while this page is open</source>
-        <translation>Cache de fichiers, tant que cette page est ouverte</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>Cache</translation>
-    </message>
-    <message>
         <source>Kernel</source>
         <translation>Noyau</translation>
     </message>
@@ -2008,16 +2037,20 @@
         <translation>Programmes</translation>
     </message>
     <message>
-        <source>Swap</source>
-        <translation>Swap</translation>
-    </message>
-    <message>
         <source>Some programs</source>
         <translation>Certains programmes</translation>
     </message>
     <message>
         <source>All programs</source>
         <translation>Tous les programmes</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>File cache</source>
+        <translation>Cache de fichiers</translation>
     </message>
 </context>
 <context>
@@ -2173,6 +2206,10 @@
     <message>
         <source>Change the search, the group or Min RAM to see more.</source>
         <translation>Modifiez la recherche, le groupe ou la RAM minimale pour en voir plus.</translation>
+    </message>
+    <message>
+        <source>No processes</source>
+        <translation>Aucun processus</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2654,10 @@
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
         <translation>%1. L’ordre est figé tant qu’une ligne est utilisée ; F5 trie à nouveau.</translation>
     </message>
+    <message>
+        <source>%1, as they were when power became low.</source>
+        <translation>%1, tels qu’avant l’économie d’énergie.</translation>
+    </message>
 </context>
 <context>
     <name>ProjectLeftovers</name>
@@ -2700,10 +2741,6 @@
         <translation>Rien trouvé</translation>
     </message>
     <message>
-        <source>No project here has anything left by a build.</source>
-        <translation>Aucun projet ici n’a de restes de compilation.</translation>
-    </message>
-    <message>
         <source>Looking for projects…</source>
         <translation>Recherche de projets…</translation>
     </message>
@@ -2768,6 +2805,30 @@
     <message>
         <source>Remove %1</source>
         <translation>Supprimer %1</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
+        <translation>Aucun projet ici n’a de restes de compilation. « Ajouter un dossier… » cherche aussi ailleurs.</translation>
+    </message>
+    <message>
+        <source>“Stop” ends the search and keeps what it has found.</source>
+        <translation>« Arrêter » met fin à la recherche et garde ce qui est trouvé.</translation>
+    </message>
+    <message>
+        <source>No projects match</source>
+        <translation>Aucun projet ne correspond</translation>
+    </message>
+    <message>
+        <source>The search looks in the path, the folders and the note of each project.</source>
+        <translation>La recherche porte sur le chemin, les dossiers et la note de chaque projet.</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>The search did not finish</source>
+        <translation>La recherche n’a pas abouti</translation>
     </message>
 </context>
 <context>
@@ -2860,6 +2921,10 @@
     <message>
         <source>Preset purges for common RAM hogs</source>
         <translation>Préréglages contre les gros consommateurs de RAM</translation>
+    </message>
+    <message>
+        <source>No presets. The settings add some under Quick Kills, or bring the built-in ones back.</source>
+        <translation>Aucun préréglage. Les réglages en ajoutent sous Arrêts rapides, ou rétablissent ceux d’origine.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3045,14 @@
     <message>
         <source>Show sidebar</source>
         <translation>Afficher la barre latérale</translation>
+    </message>
+</context>
+<context>
+    <name>RowButton</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>an action, and what it is about</comment>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -3130,6 +3203,17 @@
     <message>
         <source>Pause sampling on Low Power Mode</source>
         <translation>Suspendre la mesure en mode économie d’énergie</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTexts</name>
+    <message>
+        <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
+        <translation>Les processus ne sont pas lus en économie d’énergie. « Suspendre la mesure en mode économie d’énergie » dans les réglages, sous Mesure, le change.</translation>
+    </message>
+    <message>
+        <source>The system lists no processes now. F5 reads them again.</source>
+        <translation>Le système ne liste aucun processus en ce moment. F5 les relit.</translation>
     </message>
 </context>
 <context>
@@ -3723,16 +3807,16 @@
         <translation>Température</translation>
     </message>
     <message>
-        <source>Sensors, while this page is open</source>
-        <translation>Capteurs, tant que cette page est ouverte</translation>
-    </message>
-    <message>
         <source>No temperatures</source>
         <translation>Aucune température</translation>
     </message>
     <message>
         <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
         <translation>Cet ordinateur ne montre aucun capteur aux programmes, comme la plupart des machines virtuelles. La tuile montre l’état que le noyau signale.</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Capteurs</translation>
     </message>
 </context>
 <context>

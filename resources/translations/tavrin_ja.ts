@@ -350,6 +350,14 @@
         <source>%1 reclaimable across %2 targets</source>
         <translation>%1 回収可能（対象 %2 件）</translation>
     </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>%1 を計測中（%2/%3）</translation>
+    </message>
+    <message>
+        <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
+        <translation>まだ何も計測されていません。「クリーンアップ」の「再スキャン」で計測します。</translation>
+    </message>
 </context>
 <context>
     <name>CandidateRow</name>
@@ -504,6 +512,10 @@
     <message>
         <source>Could not open %1.</source>
         <translation>%1 を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing here has the text of the search. What is ticked stays so.</source>
+        <translation>検索の文字列を含むものはありません。チェックはそのままです。</translation>
     </message>
 </context>
 <context>
@@ -706,8 +718,12 @@
         <translation>%1 を計測中 (%2/%3)</translation>
     </message>
     <message>
+        <source>nothing is measured yet: “Rescan” does that</source>
+        <translation>まだ計測されていません：「再スキャン」で計測します</translation>
+    </message>
+    <message>
         <source>Stop measuring</source>
-        <translation>測定を停止</translation>
+        <translation>計測を停止</translation>
     </message>
 </context>
 <context>
@@ -873,6 +889,10 @@
         <source>Back</source>
         <translation>戻る</translation>
     </message>
+    <message>
+        <source>since %1, while this page is open</source>
+        <translation>%1 から、このページを開いている間</translation>
+    </message>
 </context>
 <context>
     <name>DiskPage</name>
@@ -885,16 +905,36 @@
         <translation>ディスク</translation>
     </message>
     <message>
-        <source>Read and written, while this page is open</source>
-        <translation>読み取りと書き込み（このページを開いている間）</translation>
-    </message>
-    <message>
         <source>%1 read</source>
         <translation>読み取り %1</translation>
     </message>
     <message>
         <source>%1 written</source>
         <translation>書き込み %1</translation>
+    </message>
+    <message>
+        <source>No figures of reading and writing</source>
+        <translation>読み書きの値がありません</translation>
+    </message>
+    <message>
+        <source>This computer shows programs no disk of its own, as many containers. What single processes read and write is in columns of the Processes section.</source>
+        <translation>多くのコンテナーと同様に、このコンピューターは自身のディスクをプログラムに見せません。各プロセスの読み書きは「プロセス」の列にあります。</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>読み取り中…</translation>
+    </message>
+    <message>
+        <source>Read and written</source>
+        <translation>読み取りと書き込み</translation>
+    </message>
+    <message>
+        <source>No volume of a disk is mounted here. The tile shows the space of the root folder.</source>
+        <translation>ここにはディスクのボリュームがマウントされていません。タイルはルートフォルダーの容量を示します。</translation>
+    </message>
+    <message>
+        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
+        <translation>応答しないディスクがあります。このページを開いている間、10 秒ごとに再確認します。</translation>
     </message>
 </context>
 <context>
@@ -1366,6 +1406,10 @@
         <comment>bytes in a second</comment>
         <translation>%1/s</translation>
     </message>
+    <message>
+        <source>The line begins with the next figure.</source>
+        <translation>線は次の値から始まります。</translation>
+    </message>
 </context>
 <context>
     <name>GroupHeader</name>
@@ -1458,6 +1502,18 @@
     <message>
         <source>Clear all</source>
         <translation>すべて消去</translation>
+    </message>
+    <message>
+        <source>That file is the log itself.</source>
+        <translation>そのファイルはログ自体です。</translation>
+    </message>
+    <message>
+        <source>The log was not exported. Choose another place.</source>
+        <translation>ログを書き出せませんでした。別の場所を選んでください。</translation>
+    </message>
+    <message>
+        <source>Show all kinds</source>
+        <translation>すべての種類を表示</translation>
     </message>
 </context>
 <context>
@@ -1580,29 +1636,6 @@
     <message>
         <source>Content process of %1: pages or extensions</source>
         <translation>%1 のコンテンツプロセス: ページまたは拡張機能</translation>
-    </message>
-</context>
-<context>
-    <name>InspectorGraph</name>
-    <message>
-        <source>%1 s ago</source>
-        <translation>%1 秒前</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>%1 分前</translation>
-    </message>
-    <message>
-        <source>unknown yet</source>
-        <translation>まだ不明</translation>
-    </message>
-    <message>
-        <source>%1: %2 now, at most %3 since %4</source>
-        <translation>%1: 現在 %2、最大 %3（%4から）</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>現在</translation>
     </message>
 </context>
 <context>
@@ -1753,6 +1786,10 @@
         <source>It is empty.</source>
         <translation>空です。</translation>
     </message>
+    <message>
+        <source>Unknown: it has ended.</source>
+        <translation>不明：終了しました。</translation>
+    </message>
 </context>
 <context>
     <name>LeaveOutOffer</name>
@@ -1851,6 +1888,10 @@
     <message>
         <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
         <translation>~/.claude/mcp.json が見つかりません — グローバルな設定はありません。</translation>
+    </message>
+    <message>
+        <source>A configuration file is being read. Its servers are counted after that.</source>
+        <translation>設定ファイルを読み取り中です。その後でサーバーを数えます。</translation>
     </message>
 </context>
 <context>
@@ -1967,18 +2008,6 @@
         <translation>プログラムがメモリを待った時間</translation>
     </message>
     <message>
-        <source>Groups, while this page is open</source>
-        <translation>グループ（このページを開いている間）</translation>
-    </message>
-    <message>
-        <source>File cache, while this page is open</source>
-        <translation>ファイルキャッシュ（このページを開いている間）</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>キャッシュ</translation>
-    </message>
-    <message>
         <source>Kernel</source>
         <translation>カーネル</translation>
     </message>
@@ -1991,16 +2020,20 @@
         <translation>プログラム</translation>
     </message>
     <message>
-        <source>Swap</source>
-        <translation>スワップ</translation>
-    </message>
-    <message>
         <source>Some programs</source>
         <translation>一部のプログラム</translation>
     </message>
     <message>
         <source>All programs</source>
         <translation>すべてのプログラム</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>File cache</source>
+        <translation>ファイルキャッシュ</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2185,10 @@
     <message>
         <source>Change the search, the group or Min RAM to see more.</source>
         <translation>検索、グループ、最小 RAM を変えると表示が増えます。</translation>
+    </message>
+    <message>
+        <source>No processes</source>
+        <translation>プロセスがありません</translation>
     </message>
 </context>
 <context>
@@ -2590,6 +2627,10 @@
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
         <translation>%1。行の使用中は並び順を保ちます。F5 で並べ替えます。</translation>
     </message>
+    <message>
+        <source>%1, as they were when power became low.</source>
+        <translation>%1（省電力になる前の状態）。</translation>
+    </message>
 </context>
 <context>
     <name>ProjectLeftovers</name>
@@ -2673,10 +2714,6 @@
         <translation>何も見つかりません</translation>
     </message>
     <message>
-        <source>No project here has anything left by a build.</source>
-        <translation>ビルドの残りがあるプロジェクトはありません。</translation>
-    </message>
-    <message>
         <source>Looking for projects…</source>
         <translation>プロジェクトを検索中…</translation>
     </message>
@@ -2739,6 +2776,30 @@
     <message>
         <source>Remove %1</source>
         <translation>%1 を削除</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
+        <translation>ここのプロジェクトにビルドの残りはありません。「フォルダーを追加…」で他の場所も探せます。</translation>
+    </message>
+    <message>
+        <source>“Stop” ends the search and keeps what it has found.</source>
+        <translation>「停止」で検索を終え、見つかったものは残ります。</translation>
+    </message>
+    <message>
+        <source>No projects match</source>
+        <translation>一致するプロジェクトがありません</translation>
+    </message>
+    <message>
+        <source>The search looks in the path, the folders and the note of each project.</source>
+        <translation>各プロジェクトのパス、フォルダー、メモを検索します。</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>検索を消去</translation>
+    </message>
+    <message>
+        <source>The search did not finish</source>
+        <translation>検索は完了しませんでした</translation>
     </message>
 </context>
 <context>
@@ -2831,6 +2892,10 @@
     <message>
         <source>Preset purges for common RAM hogs</source>
         <translation>RAM の大食いに対するプリセット</translation>
+    </message>
+    <message>
+        <source>No presets. The settings add some under Quick Kills, or bring the built-in ones back.</source>
+        <translation>プリセットがありません。設定の「クイック終了」で追加するか、標準のものを戻せます。</translation>
     </message>
 </context>
 <context>
@@ -2949,6 +3014,14 @@
     <message>
         <source>Show sidebar</source>
         <translation>サイドバーを表示</translation>
+    </message>
+</context>
+<context>
+    <name>RowButton</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>an action, and what it is about</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +3172,17 @@
     <message>
         <source>Pause sampling on Low Power Mode</source>
         <translation>省電力モードではサンプリングを一時停止</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTexts</name>
+    <message>
+        <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
+        <translation>省電力中はプロセスを読み取りません。設定の「サンプリング」にある「省電力モードではサンプリングを一時停止」で変更できます。</translation>
+    </message>
+    <message>
+        <source>The system lists no processes now. F5 reads them again.</source>
+        <translation>システムは今プロセスを示していません。F5 で読み直します。</translation>
     </message>
 </context>
 <context>
@@ -3684,16 +3768,16 @@
         <translation>温度</translation>
     </message>
     <message>
-        <source>Sensors, while this page is open</source>
-        <translation>センサー（このページを開いている間）</translation>
-    </message>
-    <message>
         <source>No temperatures</source>
         <translation>温度がありません</translation>
     </message>
     <message>
         <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
         <translation>多くの仮想マシンと同じく、このコンピューターはセンサーをプログラムに公開していません。タイルにはカーネルが報告する状態を表示します。</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>センサー</translation>
     </message>
 </context>
 <context>

@@ -350,6 +350,14 @@
         <source>%1 reclaimable across %2 targets</source>
         <translation>可清理 %1，共 %2 个目标</translation>
     </message>
+    <message>
+        <source>Measuring %1 (%2 of %3)</source>
+        <translation>正在测量 %1（%2/%3）</translation>
+    </message>
+    <message>
+        <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
+        <translation>尚未测量任何内容。请在“清理”部分使用“重新扫描”。</translation>
+    </message>
 </context>
 <context>
     <name>CandidateRow</name>
@@ -504,6 +512,10 @@
     <message>
         <source>Could not open %1.</source>
         <translation>无法打开 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing here has the text of the search. What is ticked stays so.</source>
+        <translation>此处没有包含搜索文字的内容。已勾选的保持不变。</translation>
     </message>
 </context>
 <context>
@@ -706,6 +718,10 @@
         <translation>正在测量 %1（%2/%3）</translation>
     </message>
     <message>
+        <source>nothing is measured yet: “Rescan” does that</source>
+        <translation>尚未测量：请使用“重新扫描”</translation>
+    </message>
+    <message>
         <source>Stop measuring</source>
         <translation>停止测量</translation>
     </message>
@@ -873,6 +889,10 @@
         <source>Back</source>
         <translation>返回</translation>
     </message>
+    <message>
+        <source>since %1, while this page is open</source>
+        <translation>自 %1 起，在此页面打开期间</translation>
+    </message>
 </context>
 <context>
     <name>DiskPage</name>
@@ -885,16 +905,36 @@
         <translation>磁盘</translation>
     </message>
     <message>
-        <source>Read and written, while this page is open</source>
-        <translation>读取和写入（此页打开期间）</translation>
-    </message>
-    <message>
         <source>%1 read</source>
         <translation>读取 %1</translation>
     </message>
     <message>
         <source>%1 written</source>
         <translation>写入 %1</translation>
+    </message>
+    <message>
+        <source>No figures of reading and writing</source>
+        <translation>没有读写数据</translation>
+    </message>
+    <message>
+        <source>This computer shows programs no disk of its own, as many containers. What single processes read and write is in columns of the Processes section.</source>
+        <translation>与许多容器一样，这台计算机不向程序显示自己的磁盘。各进程的读写量见“进程”部分的列。</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Read and written</source>
+        <translation>读取和写入</translation>
+    </message>
+    <message>
+        <source>No volume of a disk is mounted here. The tile shows the space of the root folder.</source>
+        <translation>此处没有挂载磁盘卷。磁贴显示根文件夹的空间。</translation>
+    </message>
+    <message>
+        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
+        <translation>有磁盘没有响应。此页面打开期间每 10 秒重新询问一次。</translation>
     </message>
 </context>
 <context>
@@ -1366,6 +1406,10 @@
         <comment>bytes in a second</comment>
         <translation>%1/s</translation>
     </message>
+    <message>
+        <source>The line begins with the next figure.</source>
+        <translation>曲线从下一个数值开始。</translation>
+    </message>
 </context>
 <context>
     <name>GroupHeader</name>
@@ -1458,6 +1502,18 @@
     <message>
         <source>Clear all</source>
         <translation>全部清除</translation>
+    </message>
+    <message>
+        <source>That file is the log itself.</source>
+        <translation>该文件就是日志本身。</translation>
+    </message>
+    <message>
+        <source>The log was not exported. Choose another place.</source>
+        <translation>日志未能导出。请选择其他位置。</translation>
+    </message>
+    <message>
+        <source>Show all kinds</source>
+        <translation>显示所有类型</translation>
     </message>
 </context>
 <context>
@@ -1580,29 +1636,6 @@
     <message>
         <source>Content process of %1: pages or extensions</source>
         <translation>%1 的内容进程：页面或扩展</translation>
-    </message>
-</context>
-<context>
-    <name>InspectorGraph</name>
-    <message>
-        <source>%1 s ago</source>
-        <translation>%1 秒前</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>%1 分钟前</translation>
-    </message>
-    <message>
-        <source>unknown yet</source>
-        <translation>尚未知</translation>
-    </message>
-    <message>
-        <source>%1: %2 now, at most %3 since %4</source>
-        <translation>%1：现在 %2，最高 %3（%4 起）</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>现在</translation>
     </message>
 </context>
 <context>
@@ -1753,6 +1786,10 @@
         <source>It is empty.</source>
         <translation>为空。</translation>
     </message>
+    <message>
+        <source>Unknown: it has ended.</source>
+        <translation>未知：它已结束。</translation>
+    </message>
 </context>
 <context>
     <name>LeaveOutOffer</name>
@@ -1851,6 +1888,10 @@
     <message>
         <source>No ~/.claude/mcp.json found — nothing configured globally.</source>
         <translation>未找到 ~/.claude/mcp.json — 没有全局配置。</translation>
+    </message>
+    <message>
+        <source>A configuration file is being read. Its servers are counted after that.</source>
+        <translation>正在读取配置文件。之后会统计其中的服务器。</translation>
     </message>
 </context>
 <context>
@@ -1967,18 +2008,6 @@
         <translation>程序等待内存的时间</translation>
     </message>
     <message>
-        <source>Groups, while this page is open</source>
-        <translation>分组（此页打开期间）</translation>
-    </message>
-    <message>
-        <source>File cache, while this page is open</source>
-        <translation>文件缓存（此页打开期间）</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>缓存</translation>
-    </message>
-    <message>
         <source>Kernel</source>
         <translation>内核</translation>
     </message>
@@ -1991,16 +2020,20 @@
         <translation>程序</translation>
     </message>
     <message>
-        <source>Swap</source>
-        <translation>交换</translation>
-    </message>
-    <message>
         <source>Some programs</source>
         <translation>部分程序</translation>
     </message>
     <message>
         <source>All programs</source>
         <translation>所有程序</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>File cache</source>
+        <translation>文件缓存</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2185,10 @@
     <message>
         <source>Change the search, the group or Min RAM to see more.</source>
         <translation>更改搜索、组或最小内存以查看更多。</translation>
+    </message>
+    <message>
+        <source>No processes</source>
+        <translation>没有进程</translation>
     </message>
 </context>
 <context>
@@ -2590,6 +2627,10 @@
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
         <translation>%1。使用某行期间顺序保持不变；按 F5 重新排序。</translation>
     </message>
+    <message>
+        <source>%1, as they were when power became low.</source>
+        <translation>%1，为进入低电量前的状态。</translation>
+    </message>
 </context>
 <context>
     <name>ProjectLeftovers</name>
@@ -2673,10 +2714,6 @@
         <translation>未找到任何内容</translation>
     </message>
     <message>
-        <source>No project here has anything left by a build.</source>
-        <translation>这里没有项目留有构建产物。</translation>
-    </message>
-    <message>
         <source>Looking for projects…</source>
         <translation>正在查找项目…</translation>
     </message>
@@ -2739,6 +2776,30 @@
     <message>
         <source>Remove %1</source>
         <translation>删除 %1</translation>
+    </message>
+    <message>
+        <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
+        <translation>此处没有项目留有构建残留。“添加文件夹…”可在其他位置查找。</translation>
+    </message>
+    <message>
+        <source>“Stop” ends the search and keeps what it has found.</source>
+        <translation>“停止”会结束搜索并保留已找到的内容。</translation>
+    </message>
+    <message>
+        <source>No projects match</source>
+        <translation>没有匹配的项目</translation>
+    </message>
+    <message>
+        <source>The search looks in the path, the folders and the note of each project.</source>
+        <translation>搜索范围包括每个项目的路径、文件夹和备注。</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>The search did not finish</source>
+        <translation>搜索未完成</translation>
     </message>
 </context>
 <context>
@@ -2831,6 +2892,10 @@
     <message>
         <source>Preset purges for common RAM hogs</source>
         <translation>针对常见内存大户的预设</translation>
+    </message>
+    <message>
+        <source>No presets. The settings add some under Quick Kills, or bring the built-in ones back.</source>
+        <translation>没有预设。可在设置的“快速结束”中添加，或恢复内置预设。</translation>
     </message>
 </context>
 <context>
@@ -2949,6 +3014,14 @@
     <message>
         <source>Show sidebar</source>
         <translation>显示侧边栏</translation>
+    </message>
+</context>
+<context>
+    <name>RowButton</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>an action, and what it is about</comment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +3172,17 @@
     <message>
         <source>Pause sampling on Low Power Mode</source>
         <translation>低电量模式下暂停采样</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingTexts</name>
+    <message>
+        <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
+        <translation>低电量时不读取进程。可在设置的“采样”中更改“低电量模式下暂停采样”。</translation>
+    </message>
+    <message>
+        <source>The system lists no processes now. F5 reads them again.</source>
+        <translation>系统目前没有列出进程。按 F5 重新读取。</translation>
     </message>
 </context>
 <context>
@@ -3684,16 +3768,16 @@
         <translation>温度</translation>
     </message>
     <message>
-        <source>Sensors, while this page is open</source>
-        <translation>传感器（此页打开期间）</translation>
-    </message>
-    <message>
         <source>No temperatures</source>
         <translation>没有温度</translation>
     </message>
     <message>
         <source>This computer shows no sensors to programs, as most virtual machines. The tile shows the state that the kernel reports.</source>
         <translation>与大多数虚拟机一样，这台电脑不向程序提供传感器。磁贴显示内核报告的状态。</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>传感器</translation>
     </message>
 </context>
 <context>
