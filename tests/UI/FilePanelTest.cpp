@@ -144,9 +144,11 @@ TEST_F(FilesOnABus, ThePortalsDialogGivesAPathOrNone) {
     ask(newFile);
     ASSERT_TRUE(portalGot(u"SaveFile"_s));
     EXPECT_EQ(portal->options[u"current_name"_s], u"a.csv"_s);
-    QTest::qWait(20); // the place has to arrive first
-    portal->respond(1, {u"file:///etc/passwd"_s});
-    EXPECT_TRUE(becomes(u"none"_s));
+    const auto isRefused = [this] { // the place that the portal made up has to arrive first
+        portal->respond(1, {u"file:///etc/passwd"_s});
+        return outcome == QStringList(u"none"_s);
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isRefused, 3000));
 }
 
 TEST_F(FilesOnABus, APortalThatCannotOrDoesNotAnswerIsMissing) {

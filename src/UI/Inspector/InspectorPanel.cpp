@@ -298,7 +298,8 @@ void InspectorPanel::showFiles() {
         m_files->addLine(tr("The first %1 are listed.").arg(m_inspection->files.size()));
     m_files->fit(listWidth, maxOpenHeight);
     m_openColumn->addWidget(m_files);
-    m_files->setFocus(Qt::OtherFocusReason);
+    const bool isScrolled = m_files->focusPolicy() & Qt::TabFocus;
+    (isScrolled ? static_cast<QWidget*>(m_files) : m_showEnvironment)->setFocus(Qt::OtherFocusReason);
     m_showFiles->hide();
 }
 

@@ -19,6 +19,7 @@ ClampedLabel::ClampedLabel(int maxLines, Theme::TextStyle style, std::optional<Q
                            QWidget* parent)
     : TextLabel(style, weight, parent)
     , m_maxLines(maxLines) {
+    setWordWrap(true); // or a label forgets with each text that its height depends on its width
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
