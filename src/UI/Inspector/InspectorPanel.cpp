@@ -32,7 +32,7 @@ constexpr Theme::Length headSymbolSize{24};
 constexpr int listWidth = 250;
 constexpr int maxOpenHeight = 220;
 constexpr int maxCommandLines = 8;
-constexpr int maxNameLines = 2;
+constexpr int maxNameLines = 1;
 
 /// Returns the icon that a menu entry names, null where there is none.
 QIcon iconOf(const std::optional<Application>& application) {
