@@ -174,7 +174,7 @@ std::optional<Alert> cpuAlert(const SystemSample& system, const QList<ProcSample
     const ProcSample* named = target ? target : busiest(processes, [&](const ProcSample& process) {
         return process.pid != identity.processId();
     });
-    const ProtectedProcesses kept(processes, identity.processId());
+    const ProtectedProcesses kept(processes, identity.processId(), identity.displayServers());
     return Alert{.id = u"cpu_hot"_s,
                  .severity = Severity::warn,
                  .title = QCoreApplication::translate("RulesEngine", "CPU saturated"),

@@ -252,7 +252,7 @@ void ProjectLeftoversSheet::refreshRows() {
     });
     m_more->setVisible(projects.size() > count);
     m_more->setPlainText(tr("and %1 more: search to see them").arg(projects.size() - count));
-    m_failed->setText(Formatters::sentence(m_leftovers.searchFailure()));
+    m_failed->setText(tr("Not finished: %1").arg(m_leftovers.searchFailure()));
     Page page = Page::rows;
     if (projects.isEmpty() && !m_leftovers.projects().isEmpty())
         page = Page::noMatch;
