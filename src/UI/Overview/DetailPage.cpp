@@ -20,8 +20,8 @@ using Theme::Role;
 
 namespace {
 
-constexpr Role seriesRoles[] = {Role::blue, Role::green,  Role::orange, Role::purple,
-                                Role::red,  Role::yellow, Role::indigo, Role::gray};
+constexpr Role seriesRoles[] = {Role::blue, Role::green, Role::orange, Role::purple,
+                                Role::red,  Role::gray,  Role::indigo, Role::yellow};
 
 } // namespace
 
