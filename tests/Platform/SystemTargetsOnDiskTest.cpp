@@ -1,7 +1,10 @@
 #include "Core/ActionLog/ActionLog.h"
+#include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Cleanup/ProjectLeftovers.h"
 #include "Platform/CleanupFixture.h"
+#include "Platform/CleanupTargets.h"
 
+#include <algorithm>
 #include <fstream>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +27,23 @@ TEST_F(SystemTargetsOnDisk, CleaningAFolderKeepsWhatStays) {
     EXPECT_TRUE(result.done) << qPrintable(result.reason);
     EXPECT_TRUE(QFileInfo::exists(model));
     EXPECT_FALSE(QFileInfo::exists(other) || QFileInfo::exists(index));
+}
+
+TEST_F(SystemTargetsOnDisk, OfTheJournalCountsWhatIsOver500MB) {
+    const QString journal = home.makeFile(u"bin/journalctl"_s);
+    for (const QString& program : {journal, home.makeFile(u"bin/pkexec"_s)})
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    home.makeFile(u".profile"_s, "PATH=" + QFile::encodeName(home.path(u"bin"_s)) + ":$PATH\n");
+    const auto targets = Platform::native().cleanupTargets->all();
+    const auto target = std::ranges::find(targets, u"System journal over 500 MB"_s, &PlatformTarget::name);
+    const std::pair<QByteArray, quint64> cases[] = {{"1.5G", 1'086'324'736}, {"501M", 1 << 20}, {"24.0M", 0}};
+    for (const auto& [size, over] : cases) {
+        std::ofstream(journal.toStdString()) << "#!/bin/sh\necho Archived and active journals take up "
+                                             << size.toStdString() << " in the file system.\n";
+        const ToolResult result = QCoro::waitFor(
+            tools->run(CleanupPlan::shellRequest(target->sizeCommand.value(), std::chrono::seconds(20))));
+        EXPECT_EQ(result.output.trimmed(), QByteArray::number(over)) << size.toStdString();
+    }
 }
 
 TEST_F(SystemTargetsOnDisk, RemovesLeftoversOfProjectsWhateverTheirNames) {

@@ -174,10 +174,11 @@ PlatformTarget targetOf(const KnownTarget& known) {
 /// Their own tools clean these.
 QList<PlatformTarget> cleanedByTools() {
     // What `journalctl` would leave is not counted: its line ends "... take up 1.2G in the file system."
+    // Without the parentheses awk would write to a file "0".
     const auto journalSize =
         u"command -v pkexec >/dev/null && LC_ALL=C journalctl --disk-usage 2>/dev/null | "
         "sed -n 's/.* take up \\([0-9.]*[KMGT]\\).*/\\1/p' | numfmt --from=iec | "
-        "awk '{ over = $1 - 500 * 1048576; printf \"%.0f\\n\", over > 0 ? over : 0 }'"_s;
+        "awk '{ over = $1 - 500 * 1048576; printf \"%.0f\\n\", (over > 0 ? over : 0) }'"_s;
     const auto archivesSize = u"command -v pkexec apt-get >/dev/null && "
                               "du -cB1 /var/cache/apt/archives/*.deb 2>/dev/null | tail -n 1"_s;
     return {
