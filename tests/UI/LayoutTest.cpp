@@ -206,6 +206,8 @@ TEST_P(LayoutTest, NothingIsCutOrCoveredInTheSheets) {
     expectFits(leftovers, "leftovers");
     CacheDetailDrawer drawer(model.cleanup(), model.cleanup().targets().first(), {}, nullptr);
     expectFits(drawer, "drawer");
+    fakes.tools->suspended = false;
+    EXPECT_TRUE(fakes.tools->release(QStringLiteral("find")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Fonts, LayoutTest, testing::Values(1.0, 1.25, 1.5));
