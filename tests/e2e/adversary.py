@@ -159,9 +159,10 @@ def judge(machine):
             continue
         caller, when, call, arguments = found[1] or "", float(found[2]), found[3], found[4]
         if call in ("kill", "tkill", "tgkill", "pidfd_send_signal"):
-            if re.search(r", (0|SIG_0)(,|\))", arguments):
-                continue  # asks whether the process is there
-            who = target_of(arguments.split(", SIG")[0])
+            target, _, signal = arguments.partition(", SIG")
+            if not signal:
+                continue  # 0 asks whether the process is there
+            who = target_of(target)
             counts[f"{call} {numberless(who)}"] += 1
             if who != caller and who not in OWN_TOOLS and not machine.named(when, who):
                 unlawful.append(line.strip())
