@@ -18,7 +18,7 @@ TREE = ROOT / "build/mutate"
 BUILD = TREE / "build/debug"
 # For quick compiling of one file and linking of one program.
 QUICK = ["-DCMAKE_CXX_FLAGS_DEBUG=", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold", "-DTAVRIN_BENCHMARKS=OFF",
-         "-DTAVRIN_UNITY_TESTS=OFF", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
+         "-DCMAKE_UNITY_BUILD=OFF", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
 TEST_TIMEOUT = 120
 CANNOT_RUN = 77  # of tests/e2e/lib.sh
 

@@ -12,6 +12,8 @@
 #include "Model/PublishedState.h"
 #include "Platform/Platform.h"
 
+#include <stop_token>
+
 class ServerWatch;
 
 /// The user's actions on processes and memory. All but `quitServer` leave a line in the log.
@@ -32,7 +34,7 @@ public:
     /// Asks the kernel to reclaim memory, and returns whether the request could be made.
     QCoro::Task<Outcome> nudgeMemory() override;
     /// Drops clean caches after the administrator's prompt.
-    QCoro::Task<Outcome> purgeMemory();
+    QCoro::Task<Outcome> purgeMemory(std::stop_token stop = {});
 
     /// Returns the idle processes worth ending: at most 15, largest first. The minima are in minutes and MiB.
     /// A program of no known group is worth it from a gigabyte on, or with `others`.
@@ -40,8 +42,9 @@ public:
     /// Returns what the end of these processes together gives back.
     MemoryReturn givesBack(const QList<qint32>& pids) const;
     /// Asks each process to end, kills those that stay, asks the kernel to reclaim memory, and measures.
-    /// Takes about 4 seconds and leaves one entry in the log.
-    QCoro::Task<FreeRAMResult> freeRAM(QList<qint32> pids);
+    /// Takes about 4 seconds and leaves one entry in the log. After `stop` none is killed any more, and what
+    /// has not ended by then is left alone.
+    QCoro::Task<FreeRAMResult> freeRAM(QList<qint32> pids, std::stop_token stop = {});
 
     struct FreeRAMDelays {
         std::chrono::milliseconds beforeSecondPass{2000};

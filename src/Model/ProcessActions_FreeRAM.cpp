@@ -22,10 +22,25 @@ constexpr qsizetype maxCandidates = 15;
 /// A process of no known group is offered from a decimal gigabyte on.
 constexpr quint64 largeUnknownBytes = 1'000'000'000;
 
-void runSecondPass(QList<Record>& records, const Handles& handles) {
+constexpr std::chrono::milliseconds betweenLooks{100}; // whether to stop
+
+/// Returns early where a stop is requested.
+QCoro::Task<> wait(std::chrono::milliseconds time, std::stop_token stop) {
+    do {
+        const auto step = std::min(time, betweenLooks);
+        co_await QCoro::sleepFor(step);
+        time -= step;
+    } while (time.count() > 0 && !stop.stop_requested());
+}
+
+KillOutcome lookAt(ProcessHandle& process) {
+    return hasEnded(process) ? KillOutcome::quit : KillOutcome::ignored;
+}
+
+void runSecondPass(QList<Record>& records, const Handles& handles, KillOutcome (*outcomeOf)(ProcessHandle&)) {
     for (qsizetype i = 0; i < records.size(); ++i) {
         if (records[i].outcome != KillOutcome::denied)
-            records[i].outcome = killIfPresent(*handles[i]);
+            records[i].outcome = outcomeOf(*handles[i]);
     }
 }
 
@@ -64,7 +79,7 @@ MemoryReturn ProcessActions::givesBack(const QList<qint32>& pids) const {
     return MemoryReturn::ofEnding(pids, m_state.processes);
 }
 
-QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
+QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids, std::stop_token stop) {
     const QPointer<ProcessActions> self(this);
     const SystemSample before = m_state.systemSample;
     FreeRAMResult result;
@@ -80,19 +95,22 @@ QCoro::Task<FreeRAMResult> ProcessActions::freeRAM(QList<qint32> pids) {
                               .outcome = askToEnd(*handles[i])});
     }
 
-    const auto beforeSecondPass = m_freeRAMDelays.beforeSecondPass;
-    co_await QCoro::sleepFor(beforeSecondPass);
+    auto ending = wait(m_freeRAMDelays.beforeSecondPass, stop);
+    co_await ending;
     if (!self)
         co_return result;
-    runSecondPass(result.perPid, handles);
+    result.wasStopped = stop.stop_requested();
+    runSecondPass(result.perPid, handles, result.wasStopped ? lookAt : killIfPresent);
 
-    auto nudge = m_platform.relief->reclaimMemory();
-    const Outcome nudged = co_await nudge;
-    result.memoryPressureSignaled = nudged.done;
-    if (!self)
-        co_return result;
-    const auto beforeMeasuring = m_freeRAMDelays.beforeMeasuring;
-    co_await QCoro::sleepFor(beforeMeasuring);
+    if (!result.wasStopped) {
+        auto nudge = m_platform.relief->reclaimMemory();
+        const Outcome nudged = co_await nudge;
+        result.memoryPressureSignaled = nudged.done;
+        if (!self)
+            co_return result;
+    }
+    auto settling = wait(m_freeRAMDelays.beforeMeasuring, stop);
+    co_await settling;
     if (!self)
         co_return result;
 

@@ -15,9 +15,9 @@ QCoro::Task<Outcome> ProcessActions::nudgeMemory() {
     co_return nudged;
 }
 
-QCoro::Task<Outcome> ProcessActions::purgeMemory() {
+QCoro::Task<Outcome> ProcessActions::purgeMemory(std::stop_token stop) {
     const QPointer<ProcessActions> self(this);
-    auto purge = m_platform.relief->dropCaches();
+    auto purge = m_platform.relief->dropCaches(stop);
     const Outcome purged = co_await purge;
     if (self)
         m_log.record(ActionLogEntry::Kind::clean, u"sudo purge (admin)"_s, 0, purged.done);

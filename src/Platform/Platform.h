@@ -47,6 +47,8 @@ struct Platform {
     static void prepareProgram();
     /// Makes the services of the system this program was built for. Needs a running QCoreApplication.
     static Platform native();
+    /// Makes one of them for whatever is made before the others.
+    static std::shared_ptr<ToolRunner> makeToolRunner();
     /// Make what only a program for a terminal needs.
     static std::unique_ptr<Terminal> makeTerminal();
     static std::unique_ptr<RunningProgram> makeRunningProgram();

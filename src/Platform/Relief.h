@@ -4,6 +4,8 @@
 
 #include <QCoroTask>
 
+#include <stop_token>
+
 /// Requests to the system to free memory.
 class Relief {
 public:
@@ -15,5 +17,6 @@ public:
     /// Reclaims unused memory for 1.5 s at most. Succeeds when the request could be made, whatever it freed.
     virtual QCoro::Task<Outcome> reclaimMemory() = 0;
     /// Drops the machine's clean file caches after the administrator's prompt. Fails when that is cancelled.
-    virtual QCoro::Task<Outcome> dropCaches() = 0;
+    /// `stop` takes the prompt away; what the administrator allowed goes on to its end.
+    virtual QCoro::Task<Outcome> dropCaches(std::stop_token stop) = 0;
 };

@@ -3,8 +3,7 @@
 #include <QByteArray>
 #include <QObject>
 
-class QLocalServer;
-class QLocalSocket;
+class MessageSocket;
 
 /// Allows one running program per user and display. The first listens on a socket in the user's runtime
 /// folder; a later one asks it to come forward and ends.
@@ -23,9 +22,7 @@ Q_SIGNALS:
     void startedAgain(const QByteArray& request);
 
 private:
-    bool notifyRunning(const QByteArray& request) const;
-    void readCall(QLocalSocket* caller);
+    void readCall(const QByteArray& call);
 
-    QString m_socket;
-    QLocalServer* m_server;
+    MessageSocket* m_socket;
 };

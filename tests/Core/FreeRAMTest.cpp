@@ -126,6 +126,18 @@ TEST_F(FreeRAMTest, AReusedPidGetsNoSignal) {
     EXPECT_EQ(signalSender->sent(), (QList<FakeSignals::Sent>{{41, Signal::terminate, 1}}));
 }
 
+TEST_F(FreeRAMTest, AStoppedRunKillsNothingMore) {
+    model->actions().setFreeRAMDelays({std::chrono::hours(1), std::chrono::hours(1)});
+    signalSender->start(41);
+    signalSender->start(42, {.endsOnTerminate = true});
+    std::stop_source stopping;
+    auto run = model->actions().freeRAM({41, 42}, stopping.get_token());
+    stopping.request_stop();
+    EXPECT_EQ(outcomesOf(QCoro::waitFor(run)), (QStringList{u"ignored"_s, u"quit"_s}));
+    EXPECT_TRUE(fakes.relief->requests.isEmpty());
+    EXPECT_EQ(logged(), QStringList(u"quit [free RAM] 41:ignored,42:quit freed=0 ok"_s));
+}
+
 TEST_F(FreeRAMTest, TheRunEndsWithItsModel) {
     signalSender->start(41);
     auto run = model->actions().freeRAM({41});

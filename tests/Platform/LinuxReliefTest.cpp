@@ -24,7 +24,7 @@ TEST_F(LinuxReliefTest, TheEndOfTheToolIsTheOutcome) {
     const std::tuple<const char*, Ask, const char*> requests[] = {
         {"reclaim", [](Relief& asked) { return asked.reclaimMemory(); },
          "0 1 crashed"}, // which ends the tool when it has had its time
-        {"drop", [](Relief& asked) { return asked.dropCaches(); }, "0"},
+        {"drop", [](Relief& asked) { return asked.dropCaches({}); }, "0"},
         {"quit", [](Relief& asked) { return asked.quitApplication(u"Notes"_s, false); }, "0"}};
     for (const auto& [name, ask, good] : requests) {
         for (const auto& [end, result] : ends) {
@@ -45,7 +45,7 @@ TEST_F(LinuxReliefTest, TheEndOfTheToolIsTheOutcome) {
 
 TEST_F(LinuxReliefTest, SendsExactlyTheseRequests) {
     QCoro::waitFor(relief.reclaimMemory());
-    QCoro::waitFor(relief.dropCaches());
+    QCoro::waitFor(relief.dropCaches({}));
     QCoro::waitFor(relief.quitApplication(u"Notes"_s, false));
     QCoro::waitFor(relief.quitApplication(u"The \"Best\" %1"_s, true));
     EXPECT_EQ(

@@ -119,6 +119,19 @@ TEST_F(FreeRAMSheetTest, ReturnRunsAndTheOutcomesAreShown) {
     EXPECT_TRUE(sheet.isNull());
 }
 
+TEST_F(FreeRAMSheetTest, AStoppedRunLeavesAloneWhatStillRuns) {
+    model.actions().setFreeRAMDelays({std::chrono::hours(1), std::chrono::hours(1)});
+    addIdle(1);
+    fakes.signalSender->start(100);
+    open();
+    QTest::keyClick(sheet, Qt::Key_Return);
+    press(*sheet, u"Stop"_s);
+    EXPECT_FALSE(buttonNamed(*sheet, u"Stop"_s)->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return showsText(*sheet, u"• stopped"_s); }));
+    EXPECT_EQ(shownNames<QWidget>(*sheet).filter(u"claude ("_s), QStringList(u"claude (100) Still running"_s));
+    EXPECT_TRUE(buttonNamed(*sheet, u"Kill 1 and free RAM"_s)->isEnabled());
+}
+
 TEST_F(FreeRAMSheetTest, SaysWhatComesBackBeforeAndAfter) {
     addIdle(1);
     fakes.processMemory->all[100] = {.proportionalBytes = 390 * MiB,

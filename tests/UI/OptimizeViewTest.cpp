@@ -125,6 +125,9 @@ TEST_F(OptimizeViewTest, NudgeAndPurgeReportAndAreOnRecord) {
     fakes.relief->suspended = true;
     press(view, u"Deep purge (admin)"_s);
     EXPECT_FALSE(buttonNamed(view, u"Purging…"_s)->isEnabled());
+    EXPECT_FALSE(fakes.relief->isStopped());
+    press(view, u"Stop"_s);
+    EXPECT_TRUE(fakes.relief->isStopped());
     fakes.relief->answer = [] { return Outcome::failure(u"no <agent>"_s); };
     EXPECT_TRUE(fakes.relief->release());
     EXPECT_EQ(notice(), u"Purge cancelled or failed. no <agent>"_s);

@@ -61,6 +61,7 @@ expected='-rw-r--r-- root/root ./usr/share/applications/org.example.tavrin.deskt
 -rwxr-xr-x root/root ./usr/bin/tavrinctl
 -rwxr-xr-x root/root ./usr/libexec/tavrin/cleanup
 -rwxr-xr-x root/root ./usr/libexec/tavrin/du
+-rwxr-xr-x root/root ./usr/libexec/tavrin/fetch_feed
 -rwxr-xr-x root/root ./usr/libexec/tavrin/memory_pressure
 -rwxr-xr-x root/root ./usr/libexec/tavrin/osascript
 -rwxr-xr-x root/root ./usr/libexec/tavrin/project_leftovers

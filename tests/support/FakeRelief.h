@@ -19,7 +19,11 @@ public:
         return ask((force ? QStringLiteral("force-quit ") : QStringLiteral("quit ")) + name);
     }
     QCoro::Task<Outcome> reclaimMemory() override { return ask(QStringLiteral("reclaim memory")); }
-    QCoro::Task<Outcome> dropCaches() override { return ask(QStringLiteral("drop caches")); }
+    QCoro::Task<Outcome> dropCaches(std::stop_token stop) override {
+        m_stop = stop;
+        return ask(QStringLiteral("drop caches"));
+    }
+    bool isStopped() const { return m_stop.stop_requested(); }
 
     /// Resumes the oldest request, and returns false when none is suspended.
     bool release() {
@@ -39,5 +43,6 @@ private:
         co_return answer();
     }
 
+    std::stop_token m_stop;
     QList<std::coroutine_handle<>> m_waiting;
 };

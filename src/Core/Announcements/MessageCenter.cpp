@@ -1,8 +1,9 @@
 #include "Core/Announcements/MessageCenter.h"
 
-#include "Core/Announcements/FeedFetcher.h"
+#include "Core/Announcements/FeedTool.h"
 #include "Core/Log.h"
 #include "Core/SettingsFile.h"
+#include "Platform/Platform.h"
 #include "Preferences.h"
 
 #include <QCoreApplication>
@@ -32,7 +33,8 @@ qint64 versionNumber(QStringView piece) {
 } // namespace
 
 MessageCenter& MessageCenter::shared() {
-    static MessageCenter instance(std::make_unique<FeedFetcher>(), Preferences::shared().file());
+    static MessageCenter instance(std::make_unique<FeedTool>(Platform::makeToolRunner()),
+                                  Preferences::shared().file());
     return instance;
 }
 

@@ -28,6 +28,7 @@ struct FreeRAMResult {
     };
 
     QList<Record> perPid; ///< in the order of the request
+    bool wasStopped = false; ///< before anything was killed; what had not ended has the outcome `ignored`
     bool memoryPressureSignaled = false;
     quint64 freedBytes = 0;     ///< the decrease of the system's used memory
     quint64 freedSwapBytes = 0; ///< the decrease of its used swap

@@ -30,7 +30,7 @@ void Platform::prepareProgram() {
 }
 
 Platform Platform::native() {
-    const auto tools = std::make_shared<UnixToolRunner>();
+    const auto tools = makeToolRunner();
     return {.host = std::make_shared<LinuxHostStatistics>(),
             .processes = std::make_shared<LinuxProcessTable>(),
             .processMemory = std::make_shared<LinuxProcessMemory>(),
@@ -47,6 +47,10 @@ Platform Platform::native() {
             .signalSender = std::make_shared<LinuxSignals>(),
             .applications = std::make_shared<LinuxApplications>(),
             .relief = std::make_shared<LinuxRelief>(tools)};
+}
+
+std::shared_ptr<ToolRunner> Platform::makeToolRunner() {
+    return std::make_shared<UnixToolRunner>();
 }
 
 std::unique_ptr<Terminal> Platform::makeTerminal() {

@@ -46,7 +46,8 @@ QCoro::Task<Outcome> LinuxRelief::reclaimMemory() {
     return runTool(m_tools, request, DoneWhen::launched);
 }
 
-QCoro::Task<Outcome> LinuxRelief::dropCaches() {
-    const auto script = u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s;
-    return runTool(m_tools, scriptRequest(script), DoneWhen::succeeded);
+QCoro::Task<Outcome> LinuxRelief::dropCaches(std::stop_token stop) {
+    ToolRequest request = scriptRequest(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s);
+    request.stop = stop;
+    return runTool(m_tools, request, DoneWhen::succeeded);
 }

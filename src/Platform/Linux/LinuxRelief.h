@@ -14,7 +14,7 @@ public:
 
     QCoro::Task<Outcome> quitApplication(QString name, bool force) override;
     QCoro::Task<Outcome> reclaimMemory() override;
-    QCoro::Task<Outcome> dropCaches() override;
+    QCoro::Task<Outcome> dropCaches(std::stop_token stop) override;
 
     /// Returns the script that asks an application to quit.
     static QString quitScript(const QString& name, bool force);

@@ -91,7 +91,7 @@ class NullApplications : public Applications {
 class NullRelief : public Relief {
     QCoro::Task<Outcome> quitApplication(QString, bool) override { co_return {}; }
     QCoro::Task<Outcome> reclaimMemory() override { co_return {}; }
-    QCoro::Task<Outcome> dropCaches() override { co_return {}; }
+    QCoro::Task<Outcome> dropCaches(std::stop_token) override { co_return {}; }
 };
 
 class NullTerminal : public Terminal {
@@ -141,12 +141,16 @@ Platform Platform::native() {
             .power = std::make_shared<NullPowerMode>(),
             .identity = std::make_shared<NullIdentity>(),
             .clock = std::make_shared<SystemClock>(),
-            .tools = std::make_shared<NullToolRunner>(),
+            .tools = makeToolRunner(),
             .places = std::make_shared<NullPlaces>(),
             .cleanupTargets = std::make_shared<NullCleanupTargets>(),
             .signalSender = std::make_shared<NullSignals>(),
             .applications = std::make_shared<NullApplications>(),
             .relief = std::make_shared<NullRelief>()};
+}
+
+std::shared_ptr<ToolRunner> Platform::makeToolRunner() {
+    return std::make_shared<NullToolRunner>();
 }
 
 std::unique_ptr<Terminal> Platform::makeTerminal() {
@@ -184,7 +188,7 @@ Words Words::native() {
 
 SingleInstance::SingleInstance(const QString&, QObject* parent)
     : QObject(parent)
-    , m_server(nullptr) {}
+    , m_socket(nullptr) {}
 
 bool SingleInstance::claim(const QByteArray&) {
     return true;

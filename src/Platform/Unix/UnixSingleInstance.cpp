@@ -1,11 +1,10 @@
 #include "Platform/SingleInstance.h"
 
 #include "Platform/Log.h"
+#include "Platform/Unix/MessageSocket.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QLockFile>
 #include <QStandardPaths>
 
@@ -14,7 +13,6 @@
 namespace {
 
 constexpr int replyTimeoutMs = 1000;
-constexpr qint64 maxCallBytes = 4096; // a request, a zero byte and a token
 
 /// A Wayland launcher's token for taking the keyboard once, read by Qt when a window comes forward. The
 /// second start passes it to the first, whose window is to come.
@@ -44,19 +42,11 @@ QString socketPath(const QString& display) {
 
 SingleInstance::SingleInstance(const QString& display, QObject* parent)
     : QObject(parent)
-    , m_socket(socketPath(display))
-    , m_server(new QLocalServer(this)) {
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* caller = m_server->nextPendingConnection()) {
-            connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            connect(caller, &QLocalSocket::disconnected, this, [this, caller] { readCall(caller); });
-        }
-    });
+    , m_socket(new MessageSocket(socketPath(display), this)) {
+    connect(m_socket, &MessageSocket::received, this, &SingleInstance::readCall);
 }
 
-void SingleInstance::readCall(QLocalSocket* caller) {
-    const QByteArray call = caller->read(maxCallBytes);
+void SingleInstance::readCall(const QByteArray& call) {
     const qsizetype end = call.indexOf('\0');
     const QByteArray token = end < 0 ? QByteArray() : call.mid(end + 1);
     if (!token.isEmpty())
@@ -66,25 +56,12 @@ void SingleInstance::readCall(QLocalSocket* caller) {
 
 bool SingleInstance::claim(const QByteArray& request) {
     // Programs that start together, as at login, take turns.
-    QLockFile turn(m_socket + QStringLiteral(".lock"));
+    QLockFile turn(m_socket->path() + QStringLiteral(".lock"));
     static_cast<void>(turn.tryLock(replyTimeoutMs));
     // Before listening, which would take the socket over from the running program.
-    if (notifyRunning(request))
+    if (MessageSocket::send(m_socket->path(), request + '\0' + qgetenv(activationToken)))
         return false;
-    QLocalServer::removeServer(m_socket);
-    if (!m_server->listen(m_socket))
-        qCWarning(Log::platform) << "a second start will not be noticed:" << m_server->serverError();
-    return true;
-}
-
-bool SingleInstance::notifyRunning(const QByteArray& request) const {
-    QLocalSocket socket;
-    socket.connectToServer(m_socket);
-    if (!socket.waitForConnected(replyTimeoutMs))
-        return false;
-    socket.write(request + '\0' + qgetenv(activationToken));
-    socket.disconnectFromServer();
-    if (socket.state() != QLocalSocket::UnconnectedState)
-        socket.waitForDisconnected(replyTimeoutMs);
+    if (!m_socket->listen())
+        qCWarning(Log::platform) << "a second start will not be noticed:" << qt_error_string();
     return true;
 }

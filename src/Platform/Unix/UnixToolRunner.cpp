@@ -188,7 +188,7 @@ QString UnixToolRunner::ownToolsFolder() {
 
 QString UnixToolRunner::programFor(const QString& launchPath) const {
     for (const auto& lacking : {u"/usr/bin/memory_pressure"_s, u"/usr/bin/osascript"_s, u"/usr/sbin/purge"_s,
-                                u"cleanup"_s, u"project_leftovers"_s}) {
+                                u"cleanup"_s, u"fetch_feed"_s, u"project_leftovers"_s}) {
         if (launchPath == lacking)
             return QDir(m_toolsFolder).filePath(QFileInfo(lacking).fileName());
     }

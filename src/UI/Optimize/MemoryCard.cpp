@@ -27,11 +27,13 @@ MemoryCard::MemoryCard(QWidget* parent)
     : OptimizeCard(tr("Memory"), tr("Free RAM without quitting your work"), QStringLiteral("memorychip"),
                    Role::green, parent)
     , m_nudge(actionButton(tr("Pressure nudge"), QStringLiteral("wind"), Role::blue))
-    , m_purge(actionButton(QString(), QStringLiteral("bolt.heart"), Role::orange)) {
+    , m_purge(actionButton(QString(), QStringLiteral("bolt.heart"), Role::orange))
+    , m_stop(new PushButton(tr("Stop"))) {
+    m_stop->setAccessibleName(tr("Stop purging"));
     auto* freeRAM = actionButton(tr("Free RAM"), QStringLiteral("memorychip"), Role::green);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
-    for (PushButton* button : {freeRAM, m_nudge, m_purge})
+    for (PushButton* button : {freeRAM, m_nudge, m_purge, m_stop})
         row->addWidget(button);
     row->addStretch();
     content()->addLayout(row);
@@ -41,12 +43,14 @@ MemoryCard::MemoryCard(QWidget* parent)
     connect(freeRAM, &QPushButton::clicked, this, &MemoryCard::freeRAMRequested);
     connect(m_nudge, &QPushButton::clicked, this, &MemoryCard::nudgeRequested);
     connect(m_purge, &QPushButton::clicked, this, &MemoryCard::purgeRequested);
+    connect(m_stop, &QPushButton::clicked, this, &MemoryCard::stopRequested);
 }
 
 void MemoryCard::setPurging(bool purging) {
     m_purge->setText(purging ? tr("Purging…") : tr("Deep purge (admin)"));
     m_purge->setBusy(purging);
     m_purge->setEnabled(!purging);
+    m_stop->setVisible(purging);
 }
 
 void MemoryCard::setNudgeFailure(const QString& reason) {

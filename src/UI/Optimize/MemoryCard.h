@@ -11,7 +11,7 @@ class MemoryCard : public OptimizeCard {
 public:
     explicit MemoryCard(QWidget* parent = nullptr);
 
-    /// Disables the button of the purge and says on it that one is running.
+    /// Disables the button of the purge, says on it that one is running, and offers to stop it.
     void setPurging(bool purging);
     /// Sets why the last one failed, as the button's tool tip. An empty reason removes it.
     void setNudgeFailure(const QString& reason);
@@ -21,8 +21,10 @@ Q_SIGNALS:
     void freeRAMRequested();
     void nudgeRequested();
     void purgeRequested();
+    void stopRequested(); ///< of the purge
 
 private:
     PushButton* m_nudge;
     PushButton* m_purge;
+    PushButton* m_stop;
 };

@@ -54,6 +54,7 @@ void OptimizeView::connectCards() {
             [this] { (new FreeRAMSheet(m_model, window()))->open(); });
     connect(m_memory, &MemoryCard::nudgeRequested, this, &OptimizeView::nudge);
     connect(m_memory, &MemoryCard::purgeRequested, this, &OptimizeView::purge);
+    connect(m_memory, &MemoryCard::stopRequested, this, [this] { m_stopPurge.request_stop(); });
     connect(m_quickKills, &QuickKillsCard::killRequested, this, &OptimizeView::killPreset);
     connect(m_mcp, &MCPCard::killOrphansRequested, this, &OptimizeView::killOrphans);
     connect(m_mcp, &MCPCard::quitRequested, &m_model.actions(), &ProcessActions::quitServer);
@@ -85,14 +86,17 @@ void OptimizeView::nudge() {
 
 void OptimizeView::purge() {
     m_memory->setPurging(true);
-    m_model.actions().purgeMemory().then([self = QPointer<OptimizeView>(this)](const Outcome& purged) {
-        if (!self)
-            return;
-        self->m_memory->setPurging(false);
-        self->m_memory->setPurgeFailure(purged.reason);
-        self->toast(purged.done ? tr("Inactive memory purged") : tr("Purge cancelled or failed"),
-                    purged.reason);
-    });
+    m_stopPurge = {};
+    m_model.actions()
+        .purgeMemory(m_stopPurge.get_token())
+        .then([self = QPointer<OptimizeView>(this)](const Outcome& purged) {
+            if (!self)
+                return;
+            self->m_memory->setPurging(false);
+            self->m_memory->setPurgeFailure(purged.reason);
+            self->toast(purged.done ? tr("Inactive memory purged") : tr("Purge cancelled or failed"),
+                        purged.reason);
+        });
 }
 
 void OptimizeView::killPreset(const QuickKillPreset& preset) {

@@ -5,6 +5,8 @@
 
 #include <QScrollArea>
 
+#include <stop_token>
+
 class AppModel;
 class AutoOptimizeCard;
 class CachesCard;
@@ -39,6 +41,7 @@ private:
     AppModel& m_model;
     Preferences& m_preferences;
     Notice* m_notice;
+    std::stop_source m_stopPurge; ///< of the last purge
     MemoryCard* m_memory;
     QuickKillsCard* m_quickKills;
     MCPCard* m_mcp;

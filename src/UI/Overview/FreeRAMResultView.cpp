@@ -19,7 +19,6 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
     , m_outcomes(new OutcomeList) {
     auto* symbol = new SymbolView(Theme::iconSize, Theme::iconColumn);
     symbol->set(QStringLiteral("checkmark.seal.fill"), Role::green);
-    m_nudged->setPlainText(tr("• memory_pressure nudged"));
     auto* head = new QHBoxLayout;
     head->setSpacing(Theme::rowSpacing);
     head->addWidget(symbol);
@@ -38,11 +37,15 @@ FreeRAMResultView::FreeRAMResultView(QWidget* parent)
 
 void FreeRAMResultView::set(const FreeRAMResult& result) {
     m_freed->setPlainText(tr("Freed ~%1").arg(Formatters::bytes(result.freedBytes)));
-    m_nudged->setVisible(result.memoryPressureSignaled);
+    m_nudged->setPlainText(result.wasStopped ? tr("• stopped") : tr("• memory_pressure nudged"));
+    m_nudged->setVisible(result.wasStopped || result.memoryPressureSignaled);
     m_promised->setPlainText(ReturnTexts::outcome(result.promised, result.freedBytes, result.freedSwapBytes));
     m_promised->setVisible(!result.perPid.isEmpty());
     QList<OutcomeList::Line> lines;
     for (const FreeRAMResult::Record& record : result.perPid)
-        lines.append({record.pid, record.name, record.outcome});
+        lines.append({.pid = record.pid,
+                      .name = record.name,
+                      .outcome = record.outcome,
+                      .wasSpared = result.wasStopped && record.outcome == KillOutcome::ignored});
     m_outcomes->set(lines);
 }

@@ -53,7 +53,8 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     , m_count(new TextLabel(TextStyle::callout))
     , m_back((new TextLabel(TextStyle::caption))->secondary())
     , m_result(new FreeRAMResultView)
-    , m_action(new PushButton(QString(), PushButton::Look::prominent)) {
+    , m_action(new PushButton(QString(), PushButton::Look::prominent))
+    , m_stop(new PushButton(tr("Stop"))) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Free RAM"));
@@ -64,9 +65,6 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
         tr("Tick the processes you want to terminate. SIGTERM is sent first; anything still running after "
            "2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.")
             .arg(Words::native().system));
-
-    connect(m_action, &QPushButton::clicked, this, &FreeRAMSheet::start);
-    m_action->setDefault(true);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Theme::pageMargins);
@@ -79,7 +77,7 @@ FreeRAMSheet::FreeRAMSheet(AppModel& model, QWidget* parent)
     column->addLayout(beforeScrollBar(new Divider));
     column->addLayout(beforeScrollBar(makeSelectionBar()));
     column->addLayout(beforeScrollBar(m_result));
-    column->addLayout(beforeScrollBar(m_action, Qt::AlignRight));
+    column->addLayout(beforeScrollBar(makeActions()));
 
     refresh();
     tickFirst(preselected);
@@ -144,6 +142,22 @@ QLayout* FreeRAMSheet::makeSelectionBar() {
     return bar;
 }
 
+QLayout* FreeRAMSheet::makeActions() {
+    m_action->setDefault(true);
+    m_stop->setToolTip(tr("Kills nothing more; what still runs is left alone"));
+    connect(m_action, &QPushButton::clicked, this, &FreeRAMSheet::start);
+    connect(m_stop, &QPushButton::clicked, this, [this] {
+        m_stopping.request_stop();
+        refreshButtons();
+    });
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::rowSpacing);
+    row->addStretch();
+    row->addWidget(m_stop);
+    row->addWidget(m_action);
+    return row;
+}
+
 void FreeRAMSheet::refresh() {
     m_candidates =
         m_model.actions().freeRamCandidates(m_minIdle->value(), m_minRSS->value(), m_others->isChecked());
@@ -186,6 +200,8 @@ void FreeRAMSheet::refreshButtons() {
     m_back->setPlainText(ReturnTexts::promise(back));
     m_back->setVisible(count > 0);
 
+    m_stop->setVisible(m_running);
+    m_stop->setEnabled(!m_stopping.stop_requested());
     m_action->setBusy(m_running);
     m_action->setEnabled(!m_running);
     m_action->setTint(count > 0 ? Role::red : Role::blue);
@@ -243,10 +259,11 @@ void FreeRAMSheet::start() {
     if (m_running)
         return;
     m_running = true;
+    m_stopping = {};
     m_result->hide();
     refresh();
     m_model.actions()
-        .freeRAM(tickedPids())
+        .freeRAM(tickedPids(), m_stopping.get_token())
         .then([self = QPointer<FreeRAMSheet>(this)](const FreeRAMResult& result) {
             if (self)
                 self->finish(result);

@@ -7,6 +7,8 @@
 #include <QDialog>
 #include <QHash>
 
+#include <stop_token>
+
 class AppModel;
 class CandidateRow;
 class FreeRAMResultView;
@@ -30,6 +32,7 @@ private:
     QLayout* makeThresholds();
     QWidget* makeList();
     QLayout* makeSelectionBar();
+    QLayout* makeActions();
     void refresh();
     void refreshRows();
     void refreshButtons();
@@ -48,6 +51,7 @@ private:
     /// Ticked processes by PID, each with its start, which tells it from a later one with the same PID.
     QHash<qint32, Instant> m_selected;
     bool m_running = false;
+    std::stop_source m_stopping; ///< of the run
 
     LabeledSlider* m_minIdle;
     LabeledSlider* m_minRSS;
@@ -61,4 +65,5 @@ private:
     TextLabel* m_back;
     FreeRAMResultView* m_result;
     PushButton* m_action;
+    PushButton* m_stop;
 };

@@ -24,8 +24,10 @@ struct ResultLook {
     QString text;
 };
 
-ResultLook lookOf(std::optional<KillOutcome> outcome) {
-    if (!outcome)
+ResultLook lookOf(const OutcomeList::Line& line) {
+    if (line.wasSpared)
+        return {QStringLiteral("info.circle.fill"), Role::blue, OutcomeList::tr("Still running")};
+    if (!line.outcome)
         return {QStringLiteral("info.circle.fill"), Role::blue,
                 OutcomeList::tr("Left alone: it belongs to something else")};
     const ResultLook looks[] = {
@@ -33,14 +35,14 @@ ResultLook lookOf(std::optional<KillOutcome> outcome) {
         {QStringLiteral("bolt.fill"), Role::orange, OutcomeList::tr("Force-killed")},
         {QStringLiteral("questionmark.circle.fill"), Role::yellow, OutcomeList::tr("Ignored SIGTERM/KILL")},
         {QStringLiteral("lock.fill"), Role::red, OutcomeList::tr("Permission denied")}};
-    return looks[static_cast<int>(*outcome)];
+    return looks[static_cast<int>(*line.outcome)];
 }
 
 /// One process: symbol, name, PID and outcome.
 class OutcomeRow : public QWidget {
 public:
     explicit OutcomeRow(const OutcomeList::Line& record)
-        : m_look(lookOf(record.outcome))
+        : m_look(lookOf(record))
         , m_name(Formatters::visible(record.name))
         , m_pid(QStringLiteral("(%1)").arg(record.pid)) {
         Theme::fixHeight(this, resultRowHeight);

@@ -17,6 +17,7 @@ public:
         qint32 pid = 0;
         QString name;
         std::optional<KillOutcome> outcome; ///< empty for a process that belonged to something else
+        bool wasSpared = false;             ///< not killed, since the person stopped the run
     };
 
     explicit OutcomeList(QWidget* parent = nullptr);
