@@ -45,7 +45,7 @@ AppModel::AppModel(Platform platform, Preferences& preferences, QObject* parent)
     , m_sessions(m_platform)
     , m_actionLog(m_platform.clock)
     , m_cleanup(m_platform, m_actionLog, m_preferences)
-    , m_projectLeftovers(m_platform, m_actionLog)
+    , m_projectLeftovers(m_platform, m_preferences, m_actionLog)
     , m_actions(m_platform, m_state, m_sampler, m_servers, m_actionLog)
     , m_memoryWatch(m_platform, m_actionLog)
     , m_optimizer(m_actions, m_actionLog) {

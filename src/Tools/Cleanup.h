@@ -17,7 +17,7 @@ struct CleanupListing {
     struct Entry {
         ino_t inode = 0;
         std::uint64_t bytes = 0;   ///< an old file's length, otherwise disk usage with all below it
-        std::int64_t modified = 0; ///< seconds since 1970, of the newest below it
+        std::int64_t modified = 0; ///< seconds since 1970, of the newest below it; of a leftover its own
         bool isFolder = false;
         bool isInUse = false; ///< a running program has it open, or something below it
         std::string path;

@@ -169,6 +169,8 @@ private:
             return failed(errno);
         if (entry.st_nlink > 1)
             m_unlinked.add(entry.st_ino); // its other links have changed by that
+        else
+            m_unlinked.remove(entry.st_ino); // a new file may get its number
         return count(entry.st_nlink > 1 ? 0 : usage(entry));
     }
 
@@ -180,6 +182,8 @@ private:
 
     Outcome enter(const Folder& parent, const std::string& name, const struct stat& entry, bool stays) {
         auto folder = parent.openBelow(name);
+        if (folder && folder->inode() != entry.st_ino)
+            return Outcome::kept; // another one was moved here meanwhile
         auto names = folder ? folder->names() : std::nullopt;
         if (!names)
             return failed(errno);

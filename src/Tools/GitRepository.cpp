@@ -14,9 +14,10 @@ namespace {
 constexpr std::size_t maxIndexBytes = 256 << 20;
 constexpr std::size_t maxSmallFile = 64 << 10;
 
+enum class Part { whole, end };
+
 /// Returns up to `most` bytes from the end or the beginning of a regular file, and nothing of a larger one
 /// that is wanted whole.
-enum class Part { whole, end };
 std::optional<std::string> contentOf(const std::string& path, std::size_t most, Part part) {
     const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat status {};

@@ -18,9 +18,11 @@ public:
 
     /// Remembers a file. `unknown`: it is full, and this file is not among those it holds.
     Seen add(ino_t inode);
+    void remove(ino_t inode);
     bool contains(ino_t inode) const { return m_slots[slotOf(inode + 1)] != 0; }
 
 private:
+    std::size_t homeOf(ino_t key) const;
     std::size_t slotOf(ino_t key) const;
     void grow();
 

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <memory>
-#include <span>
 #include <sstream>
 #include <string_view>
 
@@ -98,19 +97,22 @@ bool isUtf8(std::string_view text) {
     return true;
 }
 
-bool isHome(const Folder& folder) {
+bool isHome(const std::string& path) {
     const char* home = std::getenv("HOME");
+    struct stat its {};
     struct stat status {};
-    return home && stat(home, &status) == 0 && status.st_dev == folder.device() &&
-           status.st_ino == folder.inode();
+    return home && stat(home, &its) == 0 && stat(path.c_str(), &status) == 0 && its.st_dev == status.st_dev &&
+           its.st_ino == status.st_ino;
 }
 
 /// One walk below a named folder.
 class LeftoverSearch {
 public:
-    LeftoverSearch(const ProcessPaths& processes, const std::function<void(const LeftoverProject&)>& found,
+    LeftoverSearch(const ProcessPaths& processes, const Excludes& excludes,
+                   const std::function<void(const LeftoverProject&)>& found,
                    const std::function<void(const std::string&)>& looks)
         : m_processes(processes)
+        , m_excludes(excludes)
         , m_found(found)
         , m_looks(looks) {}
 
@@ -130,6 +132,7 @@ private:
 
     const std::time_t m_now = std::time(nullptr); ///< what is written later says nothing
     const ProcessPaths& m_processes;
+    const Excludes& m_excludes;
     const std::function<void(const LeftoverProject&)>& m_found;
     const std::function<void(const std::string&)>& m_looks;
 };
@@ -138,11 +141,14 @@ bool LeftoverSearch::isLeftover(const Folder& folder, const std::string& path, c
                                 const Names& names, GitRepository* repository) const {
     const std::string name(rule.name);
     const auto entry = folder.status(name);
+    if (m_excludes.match(path + '/' + name, name.c_str()))
+        return false;
     if (!entry || !S_ISDIR(entry->st_mode) || entry->st_dev != folder.device())
         return false;
     const auto isBeside = [&names](std::string_view maker) { return contains(names, maker); };
     const bool isMade = std::ranges::any_of(rule.beside, isBeside);
-    const bool isKnown = isMade && (repository || !rule.needsRepository);
+    // Whoever keeps a home folder in git has told it little of what is below.
+    const bool isKnown = isMade && (!rule.needsRepository || (repository && !isHome(repository->folder())));
     if (!isKnown && !hasInside(folder, name, rule.inside))
         return false;
     return !repository || !repository->tracks((path + '/' + name).substr(repository->folder().size() + 1));
@@ -164,7 +170,7 @@ void LeftoverSearch::visit(const Folder& folder, const std::string& path, int de
     m_looks(path);
     Names names = folder.names().value_or(Names());
     std::ranges::sort(names);
-    const bool isWorkTree = contains(names, ".git"sv) && !isHome(folder);
+    const bool isWorkTree = contains(names, ".git"sv) && !isHome(path);
     if (isWorkTree)
         repository = std::make_shared<GitRepository>(path);
     const auto leftovers = leftoversIn(folder, path, names, repository.get());
@@ -192,7 +198,8 @@ void LeftoverSearch::visitEntries(const Folder& folder, const std::string& path,
                                   const Names& names, LeftoverProject* project,
                                   const std::shared_ptr<GitRepository>& repository) {
     for (const std::string& name : names) {
-        if (name.starts_with('.') || name == "node_modules" || name == "__pycache__")
+        if (name.starts_with('.') || name == "node_modules" || name == "__pycache__" ||
+            m_excludes.match(path + '/' + name, name.c_str()))
             continue;
         const auto entry = folder.status(name);
         if (entry && S_ISREG(entry->st_mode) && project && entry->st_mtime <= m_now)
@@ -256,7 +263,7 @@ std::string LeftoverProject::text() const {
 }
 
 void Tools::findLeftovers(const std::vector<std::string>& folders, const ProcessPaths& processes,
-                          const std::function<void(const LeftoverProject&)>& found,
+                          const Excludes& excludes, const std::function<void(const LeftoverProject&)>& found,
                           const std::function<void(const std::string&)>& looks) {
     std::vector<std::string> done;
     std::vector<std::string> sorted = folders;
@@ -265,11 +272,11 @@ void Tools::findLeftovers(const std::vector<std::string>& folders, const Process
         const auto isBelow = [&path](const std::string& outer) {
             return path == outer || path.starts_with(outer.ends_with('/') ? outer : outer + '/');
         };
-        if (std::ranges::any_of(done, isBelow))
+        if (std::ranges::any_of(done, isBelow) || excludes.reach(path, {}))
             continue;
         done.push_back(path);
         if (const auto folder = Folder::open(path))
-            LeftoverSearch(processes, found, looks)
+            LeftoverSearch(processes, excludes, found, looks)
                 .visit(*folder, path == "/" ? std::string() : path, 0, nullptr, GitRepository::around(path));
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tools/Cleanup.h"
+#include "Tools/Excludes.h"
 #include "Tools/ProcessPaths.h"
 
 #include <cstdint>
@@ -26,12 +27,13 @@ struct LeftoverProject {
 };
 
 /// Looks for projects below `folders`, without hidden folders, links and other file systems, 12 folders deep,
-/// and calls `found` with each that has leftovers. A folder in which git tracks something is none. A project
+/// and calls `found` with each that has leftovers. A folder in which git tracks something is none, and
+/// what is excluded is not looked at. A project
 /// is a work tree of git, or else the outermost folder with the file of a maker, such as "Cargo.toml". A
 /// folder below another of the list is looked at once. Memory grows with the depth and with what one project
 /// has. `looks` is told the path of each folder before it is read or measured.
 void findLeftovers(
-    const std::vector<std::string>& folders, const ProcessPaths& processes,
+    const std::vector<std::string>& folders, const ProcessPaths& processes, const Excludes& excludes,
     const std::function<void(const LeftoverProject&)>& found,
     const std::function<void(const std::string& folder)>& looks = [](const std::string&) {});
 

@@ -1,9 +1,7 @@
 #include "Tools/SessionBus.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QFileInfo>
 #include <QVariantMap>
 
 using namespace Qt::StringLiterals;
@@ -26,12 +24,6 @@ QString pathOf(QString name) {
 } // namespace
 
 namespace Tools {
-
-QDBusConnection SessionBus::running() {
-    const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s;
-    const bool runs = qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") || QFileInfo::exists(socket);
-    return runs ? QDBusConnection::sessionBus() : QDBusConnection(QString());
-}
 
 SessionBus::SessionBus(const QDBusConnection& bus)
     : m_bus(bus) {}

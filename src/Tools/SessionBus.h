@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Freedesktop/FreedesktopRunningProgram.h"
+
 #include <QDBusConnection>
 #include <QList>
 #include <QString>
@@ -10,7 +12,7 @@ namespace Tools {
 /// Finds an application's names on the session bus and tells it to quit there. Calls start no services.
 class SessionBus {
 public:
-    explicit SessionBus(const QDBusConnection& bus = running());
+    explicit SessionBus(const QDBusConnection& bus = FreedesktopRunningProgram::sessionBus());
 
     /// Returns the well-known names of the processes.
     QStringList namesOf(const QList<qint32>& pids);
@@ -19,9 +21,6 @@ public:
     /// Calls the slot "quit" of a Qt application, which may end without a prompt. Returns false if it has
     /// none.
     bool callQuit(const QString& name);
-
-    /// Returns the running session bus, or a disconnected one. Starts none.
-    static QDBusConnection running();
 
 private:
     QDBusConnection m_bus;

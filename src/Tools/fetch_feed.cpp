@@ -5,7 +5,8 @@
 #include <iostream>
 
 /// Prints the document at an HTTPS address: `fetch_feed URL`. Status 1 where it cannot be had whole, 2 for
-/// other arguments. Apart from the program, which would hold the network's libraries for a fetch in twelve hours.
+/// other arguments. Apart from the program, which would hold the network's libraries for a fetch in twelve
+/// hours.
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(TAVRIN_VERSION));

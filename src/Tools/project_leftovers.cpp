@@ -1,17 +1,22 @@
 #include "Tools/Background.h"
 #include "Tools/ProjectLeftovers.h"
 
+#include <algorithm>
 #include <chrono>
+#include <condition_variable>
 #include <cstdlib>
 #include <cstring>
-#include <functional>
 #include <iostream>
 #include <iterator>
+#include <mutex>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <string_view>
+#include <thread>
 
 using namespace Tools;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -27,22 +32,47 @@ std::optional<std::string> resolved(const char* path) {
     return whole;
 }
 
-/// Prints "at FOLDER", ended by NUL, ten times a second at most.
-class PlaceRecords {
+/// Prints what is found, and ten times a second at most "at FOLDER", ended by NUL, of where the search is. A
+/// thread of its own prints that, so that the last one is the folder that does not answer.
+class Records {
 public:
-    void operator()(const std::string& folder) {
-        const auto now = std::chrono::steady_clock::now();
-        if (now < m_next)
-            return;
-        std::cout << "at " << folder << '\0' << std::flush;
-        m_next = now + std::chrono::milliseconds(100);
+    void look(const std::string& folder) {
+        const std::lock_guard lock(m_mutex);
+        m_folder = folder;
+    }
+    void print(const std::string& text) {
+        const std::lock_guard lock(m_mutex);
+        std::cout << text << std::flush;
     }
 
 private:
-    std::chrono::steady_clock::time_point m_next;
+    void printPlaces(const std::stop_token& stop) {
+        std::string printed;
+        std::unique_lock lock(m_mutex);
+        while (!m_wait.wait_for(lock, stop, std::chrono::milliseconds(100), [] { return false; }) &&
+               !stop.stop_requested()) {
+            if (m_folder == printed)
+                continue;
+            printed = m_folder;
+            std::cout << "at " << printed << '\0' << std::flush;
+        }
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable_any m_wait;
+    std::string m_folder;
+    std::jthread m_printer{[this](const std::stop_token& stop) { printPlaces(stop); }};
 };
 
-int find(std::span<char*> arguments) {
+/// Takes each "--exclude PATTERN" off the front.
+Excludes takeExcludes(std::span<char*>& arguments) {
+    Excludes excludes;
+    for (; arguments.size() > 2 && arguments[0] == "--exclude"sv; arguments = arguments.subspan(2))
+        excludes.add(arguments[1]);
+    return excludes;
+}
+
+int find(std::span<char*> arguments, const Excludes& excludes) {
     workBehindAll();
     std::vector<std::string> folders;
     int status = 0;
@@ -57,10 +87,11 @@ int find(std::span<char*> arguments) {
         status = 1;
     }
     const ProcessPaths processes("/proc", folders);
-    PlaceRecords places;
+    Records records;
     findLeftovers(
-        folders, processes, [](const LeftoverProject& project) { std::cout << project.text() << std::flush; },
-        std::ref(places));
+        folders, processes, excludes,
+        [&records](const LeftoverProject& project) { records.print(project.text()); },
+        [&records](const std::string& folder) { records.look(folder); });
     return std::cout ? status : 1;
 }
 
@@ -80,8 +111,8 @@ int printUsers() {
 
 } // namespace
 
-/// Finds what builds have left in projects. `project_leftovers find /FOLDER...` prints each project as
-/// LeftoverProject::text does, and between them "at FOLDER", ended by NUL, of where it looks.
+/// Finds what builds have left in projects. `project_leftovers find [--exclude PATTERN]... /FOLDER...` prints
+/// each project as LeftoverProject::text does, and between them "at FOLDER", ended by NUL, of where it looks.
 /// `project_leftovers users` reads a folder without symlinks in its path, ended by NUL, from standard input
 /// and prints "user NAME", ended by NUL, of each running program that works in it. Status 1 when a folder
 /// does not exist, 2 for other arguments.
@@ -90,12 +121,14 @@ int main(int argc, char** argv) {
     const std::string_view verb = arguments.empty() ? "" : arguments.front();
     if (verb == "users" && arguments.size() == 1)
         return printUsers();
-    bool isValid = verb == "find" && arguments.size() > 1;
-    for (const char* folder : arguments.subspan(isValid ? 1 : arguments.size()))
-        isValid = isValid && *folder == '/';
+    std::span<char*> folders = arguments.subspan(arguments.empty() ? 0 : 1);
+    const Excludes excludes = takeExcludes(folders);
+    const bool isValid = verb == "find" && !folders.empty() &&
+                         std::ranges::all_of(folders, [](const char* folder) { return *folder == '/'; });
     if (!isValid) {
-        std::cerr << "usage: project_leftovers find /FOLDER...\n       project_leftovers users\n";
+        std::cerr << "usage: project_leftovers find [--exclude PATTERN]... /FOLDER...\n       "
+                     "project_leftovers users\n";
         return usageError;
     }
-    return find(arguments.subspan(1));
+    return find(folders, excludes);
 }

@@ -46,6 +46,24 @@ TEST_F(SystemTargetsOnDisk, OfTheJournalCountsWhatIsOver500MB) {
     }
 }
 
+TEST_F(SystemTargetsOnDisk, OfLeftoversStaysWhatIsNeverCleaned) {
+    home.makeFile(u"shop/package.json"_s);
+    const QString cache = home.makeFile(u"shop/node_modules/deep/cache"_s);
+    const QString kept = home.makeFile(u"shop/node_modules/deep/notes.db"_s);
+    Preferences preferences(home.path(u"settings.ini"_s));
+    preferences.cleanupExcludes.set({u"*.db"_s});
+    Platform platform;
+    platform.tools = tools;
+    platform.clock = clock;
+    ActionLog log(clock);
+    ProjectLeftovers leftovers(platform, preferences, log);
+    QCoro::waitFor(leftovers.search({}));
+    QCoro::waitFor(leftovers.remove(leftovers.projects()));
+    EXPECT_FALSE(QFile::exists(cache));
+    EXPECT_TRUE(QFile::exists(kept));
+    EXPECT_EQ(leftovers.lastRemoval()->failures.size(), 1);
+}
+
 TEST_F(SystemTargetsOnDisk, RemovesLeftoversOfProjectsWhateverTheirNames) {
     const std::string top = std::filesystem::canonical(home.path().toStdString()).string();
     const std::string names[] = {"shop", "two\nlines", "caf\xe9"};
@@ -58,7 +76,8 @@ TEST_F(SystemTargetsOnDisk, RemovesLeftoversOfProjectsWhateverTheirNames) {
     platform.tools = tools;
     platform.clock = clock;
     ActionLog log(clock);
-    ProjectLeftovers leftovers(platform, log);
+    const Preferences preferences(home.path(u"settings.ini"_s));
+    ProjectLeftovers leftovers(platform, preferences, log);
     QCoro::waitFor(leftovers.search({}));
     ASSERT_EQ(leftovers.projects().size(), 3);
     EXPECT_TRUE(leftovers.searchFailure().isEmpty());
@@ -68,9 +87,10 @@ TEST_F(SystemTargetsOnDisk, RemovesLeftoversOfProjectsWhateverTheirNames) {
     std::filesystem::create_directories(top + "/shop/node_modules/new");
     QCoro::waitFor(leftovers.remove(found));
     EXPECT_EQ(leftovers.lastRemoval()->folders, 2);
-    EXPECT_EQ(
-        leftovers.lastRemoval()->failures,
-        QStringList(QString::fromStdString(top) + u"/shop/node_modules (it is another folder by now)"_s));
+    EXPECT_EQ(leftovers.lastRemoval()->failures,
+              QStringList(QString::fromStdString(top) +
+                          u"/shop/node_modules (something in it is new, or is on the "
+                          "list of what is never cleaned)"_s));
     EXPECT_TRUE(std::filesystem::exists(top + "/shop/node_modules/new")) << "it came after the search";
     for (const std::string& name : {names[1], names[2]})
         EXPECT_FALSE(std::filesystem::exists(top + '/' + name + "/node_modules"));

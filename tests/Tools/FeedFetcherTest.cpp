@@ -53,7 +53,7 @@ struct FeedFetcherTest : testing::Test {
     void reply(const QByteArray& response) {
         server.answer = [response](QSslSocket& client, const QByteArray&) { client.write(response); };
     }
-    void serve(const QByteArray& feed) { reply(LoopbackServer::response("200 OK", feed)); }
+    void serve(const QByteArray& body) { reply(LoopbackServer::response("200 OK", body)); }
     void replyAndClose(const QByteArray& response) {
         server.answer = [response](QSslSocket& client, const QByteArray&) {
             client.write(response);

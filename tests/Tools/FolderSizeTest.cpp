@@ -248,4 +248,8 @@ TEST(LinkedFiles, RemembersAsManyAsItMay) {
     for (ino_t inode = 0; inode < bound; ++inode)
         EXPECT_EQ(files.add(inode << 20), LinkedFiles::Seen::again) << inode;
     EXPECT_EQ(files.add(1), LinkedFiles::Seen::unknown);
+    for (ino_t inode = 0; inode < bound; inode += 3)
+        files.remove(inode << 20);
+    for (ino_t inode = 0; inode < bound; ++inode)
+        EXPECT_EQ(files.contains(inode << 20), inode % 3 != 0) << inode;
 }

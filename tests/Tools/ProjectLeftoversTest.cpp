@@ -34,6 +34,7 @@ void git(const QString& folder, const QStringList& arguments) {
 
 struct LeftoversTest : testing::Test {
     TemporaryHome home;
+    Excludes excludes;
     std::string top = std::filesystem::canonical(home.path().toStdString()).string();
 
     ~LeftoversTest() {
@@ -47,7 +48,7 @@ struct LeftoversTest : testing::Test {
     }
     std::vector<LeftoverProject> search(const std::string& procFolder = "/no/processes") {
         std::vector<LeftoverProject> found;
-        findLeftovers({top}, ProcessPaths(procFolder, {top}),
+        findLeftovers({top}, ProcessPaths(procFolder, {top}), excludes,
                       [&found](const LeftoverProject& project) { found.push_back(project); });
         return found;
     }
@@ -122,6 +123,8 @@ TEST_F(LeftoversTest, LeavesAloneWhatMayBeSomebodysWork) {
     std::filesystem::create_symlink(top + "/elsewhere/big", top + "/linked/node_modules");
     std::filesystem::create_symlink(top + "/.hidden", top + "/shown");
     EXPECT_EQ(found(), Lines());
+    git(home.path(), {u"init"_s, u"-q"_s});
+    EXPECT_EQ(found(), Lines()) << "a home folder in git does not know the projects below it";
 
     std::ofstream(top + "/tracked/.git/index") << "DIRC, but no index";
     make("tracked/dist/x");
@@ -141,9 +144,13 @@ TEST_F(LeftoversTest, AWorkspaceIsOneProjectAndARepositoryInsideAnother) {
     EXPECT_EQ(found(), expected) << "the home folder is no project, though its settings are in git";
 
     std::vector<std::string> paths;
-    findLeftovers({top + "/mono/packages", top, top + "/mono"}, ProcessPaths("/no/processes", {}),
+    findLeftovers({top + "/mono/packages", top, top + "/mono"}, ProcessPaths("/no/processes", {}), {},
                   [&](const LeftoverProject& project) { paths.push_back(project.path); });
     EXPECT_EQ(paths.size(), 2U) << "each folder is looked at once";
+    excludes.add(top + "/mono/packages");
+    excludes.add("target");
+    EXPECT_EQ(found(), Lines{"mono: node_modules"});
+    excludes = {};
     std::string deep = "deep";
     for (int i = 0; i < 14; ++i)
         deep += "/d";

@@ -34,9 +34,7 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
         arguments << u"--screenshots"_s;
     if (rule.isShared)
         arguments << u"--shared"_s;
-    for (const QString& pattern : rule.excludes)
-        arguments << u"--exclude"_s << withHome(pattern);
-    arguments << folder;
+    arguments << CleanupPlan::excludeOptions(rule.excludes) << folder;
     ToolRequest request;
     request.launchPath = u"cleanup"_s;
     request.arguments = arguments;
@@ -57,6 +55,13 @@ QByteArrayView takeField(QByteArrayView& text) {
 }
 
 } // namespace
+
+QStringList CleanupPlan::excludeOptions(const QStringList& excludes) {
+    QStringList options;
+    for (const QString& pattern : excludes)
+        options << u"--exclude"_s << withHome(pattern);
+    return options;
+}
 
 ToolRequest CleanupPlan::measureRequest(const QString& folder) {
     ToolRequest asked;

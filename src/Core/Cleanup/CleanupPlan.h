@@ -15,6 +15,9 @@ constexpr std::chrono::minutes toolTimeout{30};
 
 // The requests take the path of a folder without symlinks above it, see PlaceFinder::rootOf.
 
+/// Returns the options of a request for the patterns of what is left alone.
+QStringList excludeOptions(const QStringList& excludes);
+
 /// Asks for the size of `folder` with all below it on its file system.
 ToolRequest measureRequest(const QString& folder);
 /// Asks which files running programs use.

@@ -2,10 +2,12 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/OnThread.h"
 #include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Formatters.h"
 #include "Platform/Clock.h"
 #include "Platform/ToolRunner.h"
+#include "Preferences.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,16 +20,26 @@
 #include <numeric>
 #include <utility>
 
+#include <sys/stat.h>
+
+#include <cerrno>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
+bool isMissing(const QByteArray& path) {
+    struct stat status {};
+    return lstat(path.constData(), &status) != 0 && errno == ENOENT;
+}
 
 constexpr QByteArrayView userStart = "user ";
 constexpr QByteArrayView folderStart = "folder ";
 constexpr auto searchTimeout = 2min; // since it last said where it is
 constexpr auto usersTimeout = 30s;
 constexpr auto changesTimeout = 20s;
+constexpr int noSuchKey = 1; // of git-config(1)
 
 /// Takes the text up to the next NUL off the front.
 std::optional<QByteArray> takeText(QByteArrayView& rest) {
@@ -111,8 +123,9 @@ QList<LeftoverProject> LeftoverProject::parse(const QByteArray& report) {
     return projects;
 }
 
-ProjectLeftovers::ProjectLeftovers(const Platform& platform, ActionLog& log)
+ProjectLeftovers::ProjectLeftovers(const Platform& platform, const Preferences& preferences, ActionLog& log)
     : m_platform(platform)
+    , m_preferences(preferences)
     , m_log(log) {}
 
 quint64 ProjectLeftovers::totalBytes() const {
@@ -153,7 +166,8 @@ QCoro::Task<> ProjectLeftovers::search(QStringList folders) {
         folders.append(QDir::homePath());
     ToolRequest request;
     request.launchPath = u"project_leftovers"_s;
-    request.arguments = QStringList(u"find"_s) + folders;
+    request.arguments =
+        QStringList(u"find"_s) + CleanupPlan::excludeOptions(m_preferences.cleanupExcludes()) + folders;
     request.captureOutput = true;
     request.timeout = searchTimeout;
     request.stop = m_stop.get_token();
@@ -181,9 +195,19 @@ QCoro::Task<> ProjectLeftovers::findChanges(QByteArray project) {
     if (m_asked.contains(project) || QFile::encodeName(folder) != project)
         co_return;
     m_asked.insert(project);
+    // A repository may name programs that filter or watch its files, which are not to run.
+    ToolRequest filters;
+    filters.launchPath = u"git"_s;
+    filters.arguments = {u"-C"_s, folder, u"config"_s, u"--show-scope"_s, u"--get-regexp"_s, u"^filter\\."_s};
+    filters.captureOutput = true;
+    filters.timeout = changesTimeout;
+    auto asking = m_platform.tools->run(filters);
+    const ToolResult named = co_await asking;
+    const bool isAnswer = named.launched && (named.exitStatus == 0 || named.exitStatus == noSuchKey);
+    if (!self || !isAnswer || named.output.contains("local\t") || named.output.contains("worktree\t"))
+        co_return;
     ToolRequest request;
     request.launchPath = u"git"_s;
-    // A repository may name a program that watches its files, which is not to run.
     request.arguments = {
         u"-C"_s,     folder,          u"--no-optional-locks"_s, u"-c"_s, u"core.fsmonitor=false"_s,
         u"status"_s, u"--porcelain"_s};
@@ -225,7 +249,9 @@ QCoro::Task<Outcome> ProjectLeftovers::removeFolder(LeftoverProject project, Lef
     Progress progress = m_progress;
     progress.folder = folder.path;
     publish(m_progress, progress);
-    ToolRequest request = CleanupPlan::removeRequest({}, listed, m_platform.clock->now());
+    CleanupRule rule;
+    rule.excludes = m_preferences.cleanupExcludes();
+    ToolRequest request = CleanupPlan::removeRequest(rule, listed, m_platform.clock->now());
     request.stop = stop;
     request.onOutput = [self, report, progress, most = folder.sizeBytes](const QByteArray& line) {
         report->take(line);
@@ -236,12 +262,13 @@ QCoro::Task<Outcome> ProjectLeftovers::removeFolder(LeftoverProject project, Lef
     };
     auto running = m_platform.tools->run(request);
     const ToolResult result = co_await running;
-    const bool isGone = !QFileInfo::exists(QFile::decodeName(folder.path));
-    if (result.succeeded() && isGone)
+    auto looking = onThread<bool>([path = folder.path] { return isMissing(path); }, PlaceFinder::patience);
+    const std::optional<bool> isGone = co_await looking;
+    if (result.succeeded() && isGone.value_or(false))
         co_return Outcome::success();
     if (result.succeeded())
-        co_return Outcome::failure(
-            QCoreApplication::translate("ProjectLeftovers", "it is another folder by now"));
+        co_return Outcome::failure(QCoreApplication::translate(
+            "ProjectLeftovers", "something in it is new, or is on the list of what is never cleaned"));
     co_return Outcome::failure(failureOf(result, stop.stop_requested()));
 }
 
@@ -268,7 +295,8 @@ QCoro::Task<ProjectLeftovers::Removal> ProjectLeftovers::removeOne(LeftoverProje
             break;
         if (report->volumeBytes)
             removal.volumeBytes = removal.volumeBytes.value_or(0) + *report->volumeBytes;
-        m_log.record(ActionLogEntry::Kind::clean, path, outcome.done ? folder.sizeBytes : 0, outcome.done);
+        m_log.record(ActionLogEntry::Kind::clean, path, outcome.done ? folder.sizeBytes : report->bytes,
+                     outcome.done);
         if (outcome.done) {
             ++removal.folders;
             removal.freedBytes += folder.sizeBytes;

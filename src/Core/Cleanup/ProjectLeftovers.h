@@ -17,6 +17,7 @@
 #include <stop_token>
 
 class ActionLog;
+class Preferences;
 struct ToolResult;
 
 namespace CleanupPlan {
@@ -78,8 +79,8 @@ public:
         bool operator==(const Progress&) const = default;
     };
 
-    /// `log` outlives this.
-    ProjectLeftovers(const Platform& platform, ActionLog& log);
+    /// `preferences` and `log` outlive this.
+    ProjectLeftovers(const Platform& platform, const Preferences& preferences, ActionLog& log);
 
     const QList<LeftoverProject>& projects() const { return m_projects; }
     bool isSearching() const { return m_isSearching; }
@@ -114,6 +115,7 @@ private:
     void forget(const Leftover& folder);
 
     Platform m_platform;
+    const Preferences& m_preferences;
     ActionLog& m_log;
     QList<LeftoverProject> m_projects;
     QSet<QByteArray> m_asked; ///< the projects whose changes were asked for
