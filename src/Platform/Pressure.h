@@ -27,5 +27,4 @@ Q_SIGNALS:
     /// Emitted at most every two seconds while programs wait for memory: for `some` once they have waited
     /// 150 ms in two seconds, for `full` 50 ms. Never where the system does not call.
     void memoryStalled(Pressure::Stall stall);
-    void diskStalled(Pressure::Stall stall);
 };

@@ -104,6 +104,8 @@ TEST(ProcessMemoryTest, AControlGroupIsCountedWithAllBelowIt) {
     EXPECT_FALSE(memory.controlGroup(7)) << "the kernel counts no memory for it";
     write(QStringLiteral("group/app.scope/memory.current"), "1000\n");
     write(QStringLiteral("group/app.scope/memory.stat"), "anon 500\nfile 400\nkernel 100\nshmem 150\n");
+    EXPECT_FALSE(memory.controlGroup(7)) << "its swap is unknown";
+    write(QStringLiteral("group/app.scope/memory.swap.current"), "70\n");
     const auto group = memory.controlGroup(7);
     ASSERT_TRUE(group);
     QList<qint32> pids = group->pids;
@@ -111,7 +113,7 @@ TEST(ProcessMemoryTest, AControlGroupIsCountedWithAllBelowIt) {
     EXPECT_EQ(pids, (QList<qint32>{7, 8, 9}));
     EXPECT_EQ(group->memoryBytes, 1000U);
     EXPECT_EQ(group->cacheBytes, 250U);
-    EXPECT_EQ(group->swapBytes, 0U);
+    EXPECT_EQ(group->swapBytes, 70U);
     EXPECT_FALSE(memory.controlGroup(8));
 }
 

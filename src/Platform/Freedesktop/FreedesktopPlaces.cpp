@@ -1,6 +1,7 @@
 #include "Platform/Freedesktop/FreedesktopPlaces.h"
 
 #include "Platform/Log.h"
+#include "Platform/Unix/MountField.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -208,20 +209,6 @@ QStringList userFolders() {
     return folders;
 }
 
-/// Undoes the octal escapes of mountinfo.
-QString unescaped(const std::string& field) {
-    QByteArray bytes;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        if (field[i] == '\\' && i + 3 < field.size()) {
-            bytes += static_cast<char>(QByteArray(field.data() + i + 1, 3).toInt(nullptr, 8));
-            i += 3;
-        } else {
-            bytes += field[i];
-        }
-    }
-    return QFile::decodeName(bytes);
-}
-
 QString aFileSystem(const QString& folder) {
     return QCoreApplication::translate("FreedesktopPlaces",
                                        "%1 is left alone: a whole file system is mounted there.")
@@ -339,7 +326,7 @@ bool FreedesktopPlaces::isMountPoint(const QString& folder) const {
         std::istringstream fields(line);
         std::string id, parent, device, root, mountPoint;
         fields >> id >> parent >> device >> root >> mountPoint;
-        if (unescaped(mountPoint) == folder)
+        if (unescapedMountField(QByteArray::fromStdString(mountPoint)) == folder)
             return true;
     }
     return false;

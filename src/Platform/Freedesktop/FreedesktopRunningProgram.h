@@ -11,9 +11,9 @@ public:
 
     std::optional<QByteArray> report(const QString& kind) override;
 
-private:
     /// Returns no connection where no bus runs, because Qt would start one.
     static QDBusConnection sessionBus();
 
+private:
     QDBusConnection m_bus;
 };

@@ -8,6 +8,7 @@ public:
     QList<PlatformTarget> all() const override;
     QHash<QString, QString> namesIn(const QString& folder) const override;
 
-    /// Returns the toolchains in `folder` that the settings of rustup name, as the default or for a folder.
+    /// Returns the toolchains below the folder of rustup that its settings name, as the default or for a
+    /// folder; all of them where the settings are unreadable.
     static QStringList usedToolchains(const QString& rustupHome);
 };

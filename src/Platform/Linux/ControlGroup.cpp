@@ -29,12 +29,13 @@ bool beginsWithOne(const QByteArray& name, const auto& prefixes) {
 QByteArray ControlGroup::path(const QByteArray& cgroupFile) {
     QByteArray path;
     for (const QByteArray& line : cgroupFile.split('\n')) {
-        const bool isUnified = line.startsWith("0::");
-        const qsizetype begin =
-            isUnified ? 2 : line.indexOf(":name=systemd:") + qsizetype(sizeof(":name=systemd"));
-        const bool isNamed = isUnified || line.contains(":name=systemd:");
-        if (isNamed && line.size() > begin + 1)
-            path = line.mid(begin + 1);
+        constexpr QByteArrayView named = ":name=systemd:";
+        const qsizetype at = line.indexOf(named);
+        if (!line.startsWith("0::") && at < 0)
+            continue;
+        const QByteArray found = line.mid(at < 0 ? 3 : at + named.size());
+        if (path.isEmpty() || found != "/")
+            path = found;
     }
     return path;
 }

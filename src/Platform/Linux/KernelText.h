@@ -13,7 +13,7 @@ namespace KernelText {
 std::optional<quint64> takeNumber(std::string_view& text);
 std::optional<qint64> takeSignedNumber(std::string_view& text);
 
-/// Returns the rest of the line that begins with `key`, which includes the colon.
+/// Returns the rest of the line that begins with `key`: the name and what follows it, a colon or a blank.
 std::optional<std::string_view> valueOf(std::string_view text, std::string_view key);
 
 /// Returns the number on the line that begins with `key`, in the unit of the file (meminfo: KiB).

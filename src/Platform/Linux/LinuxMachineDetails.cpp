@@ -1,6 +1,7 @@
 #include "Platform/Linux/LinuxMachineDetails.h"
 
 #include "Platform/Linux/KernelText.h"
+#include "Platform/Unix/MountField.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,18 +28,6 @@ QByteArray textOf(const std::string& path) {
 QString firstLine(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readLine(256)).trimmed() : QString();
-}
-
-/// Undoes the escapes of mounts(5): "\040" is a blank.
-QString unescaped(const QByteArray& field) {
-    QByteArray result;
-    for (qsizetype i = 0; i < field.size(); ++i) {
-        bool isOctal = false;
-        const int code = field[i] == '\\' ? field.mid(i + 1, 3).toInt(&isOctal, 8) : 0;
-        result.append(isOctal ? static_cast<char>(code) : field[i]);
-        i += isOctal ? 3 : 0;
-    }
-    return QFile::decodeName(result);
 }
 
 } // namespace
@@ -117,7 +106,7 @@ QList<MountedVolume> LinuxMachineDetails::volumes() const {
         const QList<QByteArray> fields = line.split(' ');
         if (fields.size() < 3 || !fields[0].startsWith("/dev/") || fields[0].startsWith("/dev/loop"))
             continue;
-        const QString place = unescaped(fields[1]);
+        const QString place = unescapedMountField(fields[1]);
         if (!places.contains(fields[0]))
             devices.append(fields[0]);
         else if (places[fields[0]].size() <= place.size())

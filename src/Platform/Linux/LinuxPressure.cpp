@@ -48,10 +48,8 @@ LinuxPressure::LinuxPressure(const QString& root) {
     const QString disk = pressureFile(root, u"io"_s, u"io.pressure"_s);
     m_memory = KernelFile(QFile::encodeName(memory).toStdString());
     m_disk = KernelFile(QFile::encodeName(disk).toStdString());
-    for (const Stall stall : {Stall::some, Stall::full}) {
-        callOn(memory, stall, &Pressure::memoryStalled);
-        callOn(disk, stall, &Pressure::diskStalled);
-    }
+    for (const Stall stall : {Stall::some, Stall::full})
+        callOn(memory, stall);
     if (m_triggers.isEmpty())
         qCInfo(Log::platform) << "the kernel does not call on pressure; it is read at every tick";
 }
@@ -62,7 +60,7 @@ LinuxPressure::~LinuxPressure() {
         ::close(descriptor);
 }
 
-void LinuxPressure::callOn(const QString& path, Stall stall, Signal signal) {
+void LinuxPressure::callOn(const QString& path, Stall stall) {
     const QByteArrayView condition = stall == Stall::some ? someStall : fullStall;
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
@@ -75,14 +73,14 @@ void LinuxPressure::callOn(const QString& path, Stall stall, Signal signal) {
     m_triggers.append(descriptor);
     auto* notifier = new QSocketNotifier(descriptor, QSocketNotifier::Exception, this);
     connect(notifier, &QSocketNotifier::activated, this,
-            [this, notifier, stall, signal, last = QElapsedTimer()]() mutable {
+            [this, notifier, stall, last = QElapsedTimer()]() mutable {
                 // Sooner than its window a trigger calls only when its control group has gone, and without
                 // end.
                 const bool isGone = last.isValid() && last.elapsed() < leastMilliseconds;
                 notifier->setEnabled(!isGone);
                 last.start();
                 if (!isGone)
-                    Q_EMIT(this->*signal)(stall);
+                    Q_EMIT memoryStalled(stall);
             });
 }
 

@@ -21,10 +21,8 @@ public:
     static std::optional<PressureLevel> level(std::string_view text);
 
 private:
-    using Signal = void (Pressure::*)(Stall);
-
     static std::optional<PressureLevel> levelIn(const KernelFile& file);
-    void callOn(const QString& path, Stall stall, Signal signal);
+    void callOn(const QString& path, Stall stall);
 
     KernelFile m_memory;
     KernelFile m_disk;

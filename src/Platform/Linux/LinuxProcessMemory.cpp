@@ -96,13 +96,14 @@ std::optional<ControlGroupMemory> LinuxProcessMemory::controlGroup(qint32 pid) {
     const KernelFile statistics(group + "/memory.stat");
     const std::string_view text = statistics.read(room);
     const auto files = numberOf(text, "file ");
-    if (!memory || !files)
+    const auto swap = countIn(group + "/memory.swap.current");
+    if (!memory || !files || !swap)
         return std::nullopt;
     const quint64 cache = *files - std::min(*files, numberOf(text, "shmem ").value_or(0));
     return ControlGroupMemory{.pids = pidsBelow(QString::fromStdString(group)),
                               .memoryBytes = *memory,
                               .cacheBytes = std::min(cache, *memory),
-                              .swapBytes = countIn(group + "/memory.swap.current").value_or(0)};
+                              .swapBytes = *swap};
 }
 
 ProcessMemoryReading LinuxProcessMemory::read(qint32 pid, const char* name,

@@ -16,10 +16,9 @@
 /// For passes over all processes every few seconds. A pass makes at most three system calls per process, the
 /// last two on descriptors that stay open from pass to pass:
 ///   - the process's CPU clock (clock_gettime): nanoseconds, readable for any process;
-///   - `/proc/N/statm` (pread): resident and virtual pages. A process that has not run has taken no memory,
-///   so
-///     this is read where the clock has moved or the kernel takes memory back, and else at every fifth pass:
-///     a shared file can shrink, and another process can give pages back for it;
+///   - `/proc/N/statm` (pread): resident and virtual pages. A process that has not run has taken no memory.
+///     So this is read where the clock has moved or the kernel takes memory back, and else at every fifth
+///     pass: a shared file can shrink, and another process can give pages back for it;
 ///   - `/proc/N/task` (fstat), where the clock has moved: two links and one per thread. It is opened once the
 ///     process has run since it was first seen.
 /// The last listing is repeated while no PID was assigned and no listed process has gone. A descriptor of a

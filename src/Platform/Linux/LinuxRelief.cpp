@@ -47,7 +47,8 @@ QCoro::Task<Outcome> LinuxRelief::reclaimMemory() {
 }
 
 QCoro::Task<Outcome> LinuxRelief::dropCaches(std::stop_token stop) {
-    ToolRequest request = scriptRequest(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s);
+    ToolRequest request =
+        scriptRequest(u"do shell script \"/usr/sbin/purge\" with administrator privileges"_s);
     request.stop = stop;
     return runTool(m_tools, request, DoneWhen::succeeded);
 }

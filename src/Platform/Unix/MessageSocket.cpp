@@ -30,8 +30,7 @@ std::optional<sockaddr_un> addressOf(const QString& path) {
     return address;
 }
 
-template <typename Call>
-bool callWith(const sockaddr_un& address, int descriptor, Call call) {
+template <typename Call> bool callWith(const sockaddr_un& address, int descriptor, Call call) {
     return call(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
@@ -86,7 +85,8 @@ bool MessageSocket::send(const QString& path, const QByteArray& message) {
         return false;
     const bool isHeard = callWith(*address, descriptor, ::connect);
     if (isHeard)
-        static_cast<void>(::send(descriptor, message.constData(), static_cast<std::size_t>(message.size()), 0));
+        static_cast<void>(
+            ::send(descriptor, message.constData(), static_cast<std::size_t>(message.size()), 0));
     close(descriptor);
     return isHeard;
 }

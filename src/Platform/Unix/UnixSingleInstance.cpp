@@ -33,9 +33,7 @@ QString runtimeFolder() {
 QString socketPath(const QString& display) {
     const QByteArray digest = QCryptographicHash::hash(display.toUtf8(), QCryptographicHash::Sha256).toHex();
     return QStringLiteral("%1/tavrin-%2-%3.socket")
-        .arg(runtimeFolder())
-        .arg(getuid())
-        .arg(QString::fromLatin1(digest.left(16)));
+        .arg(runtimeFolder(), QString::number(getuid()), QString::fromLatin1(digest.left(16)));
 }
 
 } // namespace

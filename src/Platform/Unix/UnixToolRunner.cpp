@@ -73,8 +73,8 @@ void configure(QProcess& process, const ToolRequest& request, bool captureErrors
         [parent = getpid(), descriptors = DescriptorLimit::atStart()] { prepareChild(parent, descriptors); });
 }
 
-/// Lets a started process group run behind everything else. The child does not do it itself: this thread
-/// waits until its program begins, for which a child of low priority may wait long.
+/// Lets a started process group run behind everything else. The child does not do it itself, so that its
+/// program begins soon.
 void putBehindAll(pid_t group) {
     constexpr int niceIncrement = 10;
     setpriority(PRIO_PGRP, static_cast<id_t>(group), getpriority(PRIO_PROCESS, 0) + niceIncrement);
@@ -210,6 +210,7 @@ QCoro::Task<ToolResult> UnixToolRunner::run(ToolRequest request) {
     process->start(program, request.arguments);
     const auto group = static_cast<pid_t>(process->processId());
     if (group > 0) {
+        setpgid(group, group); // as the child does, whoever comes first
         toolGroups().add(group);
         putBehindAll(group);
     }

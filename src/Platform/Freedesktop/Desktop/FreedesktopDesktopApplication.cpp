@@ -33,8 +33,10 @@ FreedesktopDesktopApplication::FreedesktopDesktopApplication() {
 QList<QWidget*> FreedesktopDesktopApplication::windows() const {
     QList<QWidget*> result;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        const bool everShown = window->testAttribute(Qt::WA_WState_ExplicitShowHide);
-        if (everShown && window->windowType() == Qt::Window)
+        // A widget that nobody has shown and that has no title waits for its parent.
+        const bool isWindow =
+            window->testAttribute(Qt::WA_WState_ExplicitShowHide) || !window->windowTitle().isEmpty();
+        if (isWindow && window->windowType() == Qt::Window)
             result.append(window);
     }
     return result;

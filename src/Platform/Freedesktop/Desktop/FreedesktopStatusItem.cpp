@@ -35,7 +35,7 @@ FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent)
             &FreedesktopStatusItem::askNotifier);
     for (const auto* event : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         followSignal(bus, notifierPath, notifier, QString::fromLatin1(event), this, SLOT(askNotifier()));
-    // XEmbed trays announce themselves to their clients only; a check is one round trip to the display.
+    // XEmbed trays announce themselves to their clients only; a check is two round trips to the display.
     connect(&m_windowWatch, &QTimer::timeout, this, &FreedesktopStatusItem::watchTrayWindow);
     m_windowWatch.start(3s);
     m_trayWindow = X11Window::tray();
