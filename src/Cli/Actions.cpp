@@ -1,5 +1,6 @@
 #include "Cli/Actions.h"
 
+#include "AppModel.h"
 #include "Core/Formatters.h"
 #include "Core/Report/ReportParts.h"
 
@@ -32,6 +33,15 @@ QString Actions::text(const MemoryReturn& givesBack) {
     return u"This gives back %1%2 of memory and %3 of swap.\n"_s.arg(
         givesBack.isRough ? u"at most "_s : QString(), Formatters::bytes(givesBack.memoryBytes),
         Formatters::bytes(givesBack.swapBytes));
+}
+
+QList<ProcSample> Actions::samples(const AppModel& model, const QList<qint32>& pids) {
+    QList<ProcSample> processes;
+    for (const qint32 pid : pids) {
+        if (const ProcSample* process = model.process(pid))
+            processes.append(*process);
+    }
+    return processes;
 }
 
 std::optional<double> Actions::number(const QCommandLineParser& options, const QString& name,

@@ -3,6 +3,7 @@
 #include "Cli/Table.h"
 #include "Core/Report/Report.h"
 
+class AppModel;
 class QCommandLineParser;
 
 /// What the commands that act have in common.
@@ -15,8 +16,12 @@ QJsonObject head(const QString& command, const Report::Origin& origin);
 QString text(const QList<ProcSample>& processes, const TableStyle& style);
 QJsonArray list(const QList<ProcSample>& processes, const Report::Origin& origin);
 
-/// Returns "12 MB in memory and 3 MB in swap come back", with "at most" where the figure is rough.
+/// Returns the line "This gives back 12 MB of memory and 3 MB of swap.", with "at most" where the figure is
+/// rough.
 QString text(const MemoryReturn& givesBack);
+
+/// Returns the listed processes of these PIDs.
+QList<ProcSample> samples(const AppModel& model, const QList<qint32>& pids);
 
 /// Reads a number of an option. Returns the fallback where it is absent, and an empty optional for a text
 /// that is no number from 0 on.

@@ -36,8 +36,7 @@ std::optional<ExitStatus> Confirmation::settle(Run& run, const Plan& plan) {
     if (run.options.isSet(u"yes"_s))
         return std::nullopt;
     if (run.output.terminal().canAsk()) {
-        if (!run.output.isJson())
-            run.output.printText(plan.text);
+        run.output.terminal().writeError(plan.text.toUtf8()); // where the question is, whatever the output is
         if (agrees(run, plan.question))
             return std::nullopt;
         run.output.complain(u"nothing was done"_s);

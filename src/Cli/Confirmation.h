@@ -4,7 +4,6 @@
 
 #include <QJsonObject>
 
-#include <functional>
 #include <optional>
 
 /// What stands between a command that ends or deletes something and its action.

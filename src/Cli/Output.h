@@ -2,7 +2,6 @@
 
 #include "Cli/Command.h"
 #include "Cli/Table.h"
-#include "Platform/Result.h"
 
 class Terminal;
 
@@ -11,7 +10,6 @@ class Output {
 public:
     Output(Terminal& terminal, bool isJson, bool wantsColour);
 
-    bool isJson() const { return m_isJson; }
     const TableStyle& style() const { return m_style; }
 
     /// Writes the document, or what `text` makes of it.

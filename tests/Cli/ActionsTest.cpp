@@ -51,6 +51,9 @@ TEST_F(ActionsTest, NothingEndsUnlessSomebodyAgrees) {
         for (const QByteArray& answer : {QByteArray("n"), QByteArray(), QByteArray("yesterday")}) {
             terminal.answers = {answer};
             EXPECT_EQ(run(command), refused) << answer.constData();
+            terminal.answers = {answer};
+            EXPECT_EQ(run(command + u" --json"_s), refused);
+            EXPECT_TRUE(terminal.errors.contains("claude")) << "what would go is where the question is";
         }
         EXPECT_EQ(run(command + u" --json"_s), refused);
         EXPECT_FALSE(document().value(u"done"_s).toBool(true));
@@ -110,7 +113,7 @@ TEST_F(ActionsTest, ASessionEndsWholeByItsId) {
 }
 
 TEST_F(ActionsTest, QuitReachesTheUsersOwnProcessesOnly) {
-    for (const QString& name : {u"72"_s, u"71"_s, u"99999"_s, u"nothing"_s}) {
+    for (const QString& name : {u"72"_s, u"71"_s, u"99999"_s, u"nothing"_s, u"firefox"_s}) {
         EXPECT_EQ(run(u"quit --yes "_s + name), 1) << qPrintable(name);
         EXPECT_TRUE(terminal.errors.contains(name.toUtf8()));
     }
@@ -118,8 +121,12 @@ TEST_F(ActionsTest, QuitReachesTheUsersOwnProcessesOnly) {
     EXPECT_EQ(run(u"quit 70 --yes"_s), 0);
     EXPECT_EQ(signalled(), QList<qint32>{70});
     EXPECT_EQ(logLines(), QStringList(u"pid=70"_s));
-    fakes.applications->byProcess[70] = {.name = u"Claude Desktop"_s};
+    addSized(73, "helper", MiB);
+    for (const qint32 pid : {70, 73})
+        fakes.applications->byProcess[pid] = {.name = u"Claude Desktop"_s};
     signalSender->start(70);
+    EXPECT_EQ(run(u"quit helper --json"_s), refused);
+    EXPECT_EQ(list(u"processes"_s).size(), 2) << "all of the application would quit";
     EXPECT_EQ(run({u"quit"_s, u"Claude Desktop"_s, u"--yes"_s}), 0);
     EXPECT_EQ(fakes.relief->requests, QStringList(u"quit Claude Desktop"_s));
     fakes.relief->answer = [] { return Outcome::failure(u"no"_s); };

@@ -1,4 +1,5 @@
 #include "Cli/CliFixture.h"
+#include "Core/ActionLog/ActionLogReader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -162,6 +163,15 @@ TEST_F(ReadingTest, TheLogIsReadBackByTimeAndKind) {
     EXPECT_EQ(details(u" --since 1h"_s), QStringList(u"pid=7"_s));
     EXPECT_EQ(details(u" --since 3d --kind clean"_s), QStringList(u"npm cache"_s));
     EXPECT_EQ(details(u" --since 2100-01-01"_s), QStringList());
+    for (const QString& any : {u" --since 1000000d"_s, u" --since 0001-01-01"_s})
+        EXPECT_EQ(details(any).size(), 2) << qPrintable(any);
+    EXPECT_EQ(details(u" --since 9999-01-01"_s), QStringList());
+    QFile log(ActionLogReader::path());
+    ASSERT_TRUE(log.open(QFile::WriteOnly));
+    log.write("\xff\xfe");
+    log.close();
+    EXPECT_EQ(run(u"log"_s), 1);
+    EXPECT_TRUE(terminal.errors.contains("cannot be read"));
 }
 
 TEST_F(ReadingTest, SessionsHaveIdsAndWhatTheyStarted) {
@@ -180,6 +190,8 @@ TEST_F(ReadingTest, SessionsHaveIdsAndWhatTheyStarted) {
 }
 
 TEST_F(ReadingTest, WatchWritesALineForEachInterval) {
+    for (const QString& wrong : {u"soon"_s, u"0"_s, u"-1"_s})
+        EXPECT_EQ(run(u"watch --count "_s + wrong), 2) << qPrintable(wrong);
     EXPECT_EQ(run(u"watch --interval 0.25 --count 2"_s), 0);
     ASSERT_EQ(lines().size(), 2);
     for (const QString& line : lines())

@@ -39,7 +39,9 @@ QString targetsText(const QList<CacheTarget>& targets) {
             text += u"  "_s + Formatters::bytes(place.sizeBytes) + u"  "_s + Table::safe(place.path) + u'\n';
         for (const QString& note : target.notes)
             text += u"  "_s + Table::safe(note) + u'\n';
-        for (const QString& volume : target.volumes)
+        if (!target.volumes)
+            text += u"  volumes, unknown which, with their contents\n"_s;
+        for (const QString& volume : target.volumes.value_or(QStringList()))
             text += u"  volume "_s + Table::safe(volume) + u", with its contents\n"_s;
         if (target.pruneCommand)
             text += u"  by: "_s + Table::safe(*target.pruneCommand) + u'\n';
@@ -87,6 +89,12 @@ ExitStatus runClean(Run& run) {
     }
     QCoro::waitFor(cleanup.rescan());
     QList<CacheTarget> targets = targetsOf(cleanup.targets(), run.arguments).value;
+    const auto unknown =
+        std::ranges::find_if(targets, [](const CacheTarget& target) { return !target.lastScanned; });
+    if (unknown != targets.end()) {
+        run.output.complain(u"%1 could not be measured. %2"_s.arg(unknown->name, unknown->notes.join(u' ')));
+        return ExitStatus::notDone;
+    }
     targets.removeIf([](const CacheTarget& target) { return target.sizeBytes == 0; });
     QJsonObject document = Actions::head(u"clean"_s, run.machine.origin());
     document.insert(u"targets"_s, ReportParts::arrayOf(targets, Report::target));

@@ -17,15 +17,6 @@ namespace {
 constexpr double usualIdleMin = 10;
 constexpr double usualSizeMB = 300;
 
-QList<ProcSample> samplesOf(const AppModel& model, const QList<FreeRamPreview>& candidates) {
-    QList<ProcSample> processes;
-    for (const FreeRamPreview& candidate : candidates) {
-        if (const ProcSample* process = model.process(candidate.pid))
-            processes.append(*process);
-    }
-    return processes;
-}
-
 QList<qint32> pidsOf(const QList<FreeRamPreview>& candidates) {
     QList<qint32> pids;
     for (const FreeRamPreview& candidate : candidates)
@@ -72,7 +63,7 @@ ExitStatus runFree(Run& run) {
         return ExitStatus::notDone;
     }
     const auto candidates = model.actions().freeRamCandidates(*minIdle, *minSize);
-    const QList<ProcSample> processes = samplesOf(model, candidates);
+    const QList<ProcSample> processes = Actions::samples(model, pidsOf(candidates));
     const MemoryReturn givesBack = model.actions().givesBack(pidsOf(candidates));
     QJsonObject document = Actions::head(u"free"_s, run.machine.origin());
     document.insert(u"processes"_s, Actions::list(processes, run.machine.origin()));

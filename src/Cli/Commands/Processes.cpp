@@ -1,3 +1,4 @@
+#include "Cli/Actions.h"
 #include "Cli/Commands.h"
 #include "Cli/Machine.h"
 #include "Cli/Output.h"
@@ -31,11 +32,9 @@ QString objection(const QCommandLineParser& options) {
     const QString group = options.value(u"group"_s);
     if (!group.isEmpty() && !ProcessRows::groups().contains(group))
         return u"no group '%1'; there are %2"_s.arg(group, ProcessRows::groups().join(u", "_s));
-    bool isNumber = true;
-    const QString least = options.value(u"min-mb"_s);
-    const double mebibytes = least.isEmpty() ? 0 : least.toDouble(&isNumber);
-    if (!isNumber || mebibytes < 0 || !ProcessFilter::bytesFromMiB(mebibytes))
-        return u"'%1' is no size in MiB"_s.arg(least);
+    const auto mebibytes = Actions::number(options, u"min-mb"_s, 0);
+    if (!mebibytes || !ProcessFilter::bytesFromMiB(*mebibytes))
+        return u"'%1' is no size in MiB"_s.arg(options.value(u"min-mb"_s));
     return {};
 }
 

@@ -5,6 +5,7 @@
 #include "Cli/Machine.h"
 #include "Cli/Output.h"
 #include "Core/Sampling/ProcessFilter.h"
+#include "Platform/Identity.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,39 +18,56 @@ struct Aim {
     bool isOneProcess = false;
 };
 
-QList<ProcSample> samplesOf(const AppModel& model, const NukePreview& preview) {
-    QList<ProcSample> processes;
-    for (const qint32 pid : preview.pids) {
-        if (const ProcSample* process = model.process(pid))
-            processes.append(*process);
+Aim aimAtApplication(const AppModel& model, const QString& application) {
+    const NukePreview preview = model.actions().previewForApplication(application);
+    return {.preview = preview, .processes = Actions::samples(model, preview.pids) + preview.inTerminals};
+}
+
+/// Aims at the user's processes of the name, or at the application that all of them belong to.
+Aim aimAtName(const AppModel& model, const ProcessFilter& filter, const QString& name) {
+    QList<ProcSample> mine;
+    for (const ProcSample& process : model.processes()) {
+        if (process.name == name && filter.accepts(process))
+            mine.append(process);
     }
-    return processes;
+    const auto application = model.actions().applicationOf(mine);
+    return application ? aimAtApplication(model, *application)
+                       : Aim{.preview = NukePreview::make(name, mine), .processes = mine};
 }
 
 Aim aimAt(const AppModel& model, const Environment& environment, const QString& name) {
+    const ProcessFilter filter(*environment.platform.identity);
     bool isPid = false;
     const qint32 pid = name.toInt(&isPid);
-    const ProcSample* process = isPid ? model.process(pid) : nullptr;
-    if (process && ProcessFilter(*environment.platform.identity).accepts(*process))
-        return {.processes = {*process}, .isOneProcess = true};
-    if (isPid)
-        return {};
-    NukePreview preview = model.actions().previewForApplication(name);
-    if (preview.pids.isEmpty())
-        preview = model.actions().previewForName(name);
-    return {.preview = preview, .processes = samplesOf(model, preview)};
+    if (isPid) {
+        const ProcSample* process = model.process(pid);
+        return process && filter.accepts(*process) ? Aim{.processes = {*process}, .isOneProcess = true}
+                                                   : Aim();
+    }
+    const Aim application = aimAtApplication(model, name);
+    return application.processes.isEmpty() ? aimAtName(model, filter, name) : application;
 }
 
-/// Returns the outcome in words. Whether it succeeded is in the log.
-QString act(AppModel& model, const Aim& aim) {
+struct Told {
+    QString text;
+    bool isDelivered = false;
+};
+
+Told act(AppModel& model, const Aim& aim) {
+    const auto wasLogged = [&model] { return model.actionLog().entries().constFirst().success; };
     if (aim.isOneProcess) {
-        model.actions().quitProcess(aim.processes.constFirst());
-        return aim.processes.constFirst().name;
+        const ProcSample& process = aim.processes.constFirst();
+        model.actions().quitProcess(process);
+        const bool done = wasLogged();
+        return {u"%1 was%2 asked to quit."_s.arg(process.name, done ? QString() : u" not"_s), done};
     }
-    const auto application = aim.preview.parentAppName;
-    if (!application)
-        return model.actions().nuke(aim.preview);
-    return QCoro::waitFor(model.actions().nukeGracefulApp(aim.preview, *application, false));
+    if (const auto application = aim.preview.parentAppName) {
+        const QString text =
+            QCoro::waitFor(model.actions().nukeGracefulApp(aim.preview, *application, false));
+        return {text, wasLogged()};
+    }
+    const int killed = model.actions().nuke(aim.preview);
+    return {aim.preview.killOutcome(killed), killed == aim.preview.pids.size()};
 }
 
 ExitStatus runQuit(Run& run) {
@@ -67,17 +85,11 @@ ExitStatus runQuit(Run& run) {
                                      .question = u"Ask these processes to quit?"_s};
     if (const auto end = Confirmation::settle(run, plan))
         return *end;
-    const QString outcome = act(model, aim);
-    const bool isDelivered = model.actionLog().entries().constFirst().success;
+    const Told told = act(model, aim);
     document.insert(u"done"_s, true);
-    document.insert(u"is_delivered"_s, isDelivered);
-    run.output.print(document, [&](const QJsonObject&) {
-        const QString said =
-            aim.isOneProcess ? u"%1 was%2 asked to quit."_s.arg(outcome, isDelivered ? QString() : u" not"_s)
-                             : outcome;
-        return Table::safe(said) + u'\n';
-    });
-    return isDelivered ? ExitStatus::done : ExitStatus::notDone;
+    document.insert(u"is_delivered"_s, told.isDelivered);
+    run.output.print(document, [&told](const QJsonObject&) { return Table::safe(told.text) + u'\n'; });
+    return told.isDelivered ? ExitStatus::done : ExitStatus::notDone;
 }
 
 } // namespace

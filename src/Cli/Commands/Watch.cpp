@@ -30,9 +30,15 @@ ExitStatus runWatch(Run& run) {
     bool isNumber = true;
     const double seconds =
         interval.isEmpty() ? run.environment.preferences.pollIntervalSeconds() : interval.toDouble(&isNumber);
-    const int count = run.options.value(u"count"_s).toInt();
     if (!isNumber || !(seconds >= minSeconds && seconds <= maxSeconds)) {
         run.output.complain(u"watch: '%1' is no interval; it is at least 0.25 s"_s.arg(interval));
+        return ExitStatus::misuse;
+    }
+    const QString limit = run.options.value(u"count"_s);
+    bool isCount = true;
+    const int count = limit.isEmpty() ? 0 : limit.toInt(&isCount);
+    if (!isCount || (!limit.isEmpty() && count < 1)) {
+        run.output.complain(u"watch: '%1' is no number of lines"_s.arg(limit));
         return ExitStatus::misuse;
     }
     const TerminationRequest termination;

@@ -42,6 +42,8 @@ QJsonObject target(const CacheTarget& target) {
             {u"has_user_files"_s, target.rule.hasUserFiles},
             {u"reason"_s, textOrNull(target.reason)},
             {u"notes"_s, QJsonArray::fromStringList(target.notes)},
+            {u"volumes"_s,
+             target.volumes ? QJsonValue(QJsonArray::fromStringList(*target.volumes)) : QJsonValue()},
             {u"places"_s, arrayOf(target.details, [](const CacheEntry& place) {
                  return QJsonObject{{u"path"_s, place.path}, {u"size_bytes"_s, number(place.sizeBytes)}};
              })}};
