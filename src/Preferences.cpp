@@ -90,14 +90,11 @@ QHash<QString, ProcGroup> Preferences::programGroups() const {
 }
 
 void Preferences::storeProgramGroups(const QSet<QString>& programs, std::optional<ProcGroup> group) {
-    QHash<QString, ProcGroup> groups = programGroups();
+    QJsonObject stored = QJsonDocument::fromJson(programGroupsJSON()).object(); // what is unreadable stays
     for (const QString& program : programs) {
-        groups.remove(program);
+        stored.remove(program);
         if (group)
-            groups.insert(program, *group);
+            stored.insert(program, rawValue(*group));
     }
-    QJsonObject stored;
-    for (auto each = groups.cbegin(); each != groups.cend(); ++each)
-        stored.insert(each.key(), rawValue(each.value()));
     programGroupsJSON.set(QJsonDocument(stored).toJson(QJsonDocument::Compact));
 }

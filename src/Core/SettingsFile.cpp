@@ -24,26 +24,32 @@ State stateOf(const QString& path) {
     }
 }
 
-/// Copies a damaged file, because the first value that is stored overwrites it.
-void keepDamagedBeside(const QString& path) {
+/// Copies a damaged file, because the first value that is stored overwrites it; moves one that cannot be
+/// read. Returns false where that fails.
+bool keepDamagedBeside(const QString& path) {
     const State state = stateOf(path);
     if (state == State::good)
-        return;
+        return true;
     qCWarning(Log::platform) << "the settings are damaged";
-    QFile::remove(path + QStringLiteral(".damaged"));
-    QFile::copy(path, path + QStringLiteral(".damaged"));
-    if (state == State::unreadable)
-        QFile::remove(path);
+    const QString kept = path + QStringLiteral(".damaged");
+    const QString made = kept + QStringLiteral(".new");
+    QFile::remove(made);
+    if (state == State::unreadable ? !QFile::rename(path, made) : !QFile::copy(path, made)) {
+        qCWarning(Log::platform) << "the damaged settings could not be kept";
+        return false;
+    }
+    QFile::remove(kept);
+    return QFile::rename(made, kept);
 }
 
-/// Returns the path for QSettings: the folder of the file where a pipe or a device is in its place. QSettings
-/// can neither read nor write a folder, but could block on a pipe and would replace it.
+/// Returns the path for QSettings: the folder of the file where a pipe or a device is in its place, or where
+/// damaged settings would be lost. QSettings can neither read nor write a folder, but could block on a pipe
+/// and would replace it; values last as long as the program then.
 QString prepared(const QString& path) {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
         return info.absolutePath();
-    keepDamagedBeside(path);
-    return path;
+    return keepDamagedBeside(path) ? path : info.absolutePath();
 }
 
 } // namespace

@@ -49,8 +49,8 @@ MemoryWatch::MemoryWatch(const Platform& platform, ActionLog& log)
     connect(platform.pressure.get(), &Pressure::memoryStalled, this, &MemoryWatch::hear);
     connect(platform.memoryKills.get(), &MemoryKills::groupEnded, this,
             [this](const QString& group, const QString& by) {
-                m_largest = largestBefore(m_recorder.moments());
-                enter({.at = m_platform.clock->now(), .name = group, .bytes = {}, .by = by});
+                enter({.at = m_platform.clock->now(), .name = group, .bytes = {}, .by = by},
+                      largestBefore(m_recorder.moments()));
             });
 }
 
@@ -110,15 +110,16 @@ QCoro::Task<> MemoryWatch::nameKills() {
     m_recordSince.reset();
     const QList<MemoryKill> kills = m_kills.take(record);
     for (const MemoryKill& kill : kills)
-        enter(kill);
+        enter(kill, m_largest);
 }
 
-void MemoryWatch::enter(const MemoryKill& kill) {
+void MemoryWatch::enter(const MemoryKill& kill, const QString& largest) {
     m_entered.prepend(kill);
     if (m_entered.size() > maxKills)
         m_entered.resize(maxKills);
     const QString who = kill.by.isEmpty() ? u"kernel"_s : kill.by;
-    m_log.record(ActionLogEntry::Kind::kernel,
-                 u"[%1] %2 pid=%3 — largest before: %4"_s.arg(who, kill.name).arg(kill.pid).arg(m_largest),
-                 kill.bytes.value_or(0), true);
+    m_log.record(
+        ActionLogEntry::Kind::kernel,
+        u"[%1] %2 pid=%3 — largest before: %4"_s.arg(who, kill.name, QString::number(kill.pid), largest),
+        kill.bytes.value_or(0), true);
 }

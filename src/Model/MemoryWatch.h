@@ -39,7 +39,7 @@ private:
     void hear(Pressure::Stall stall);
     void followKills(const SystemSample& system, const QList<ProcSample>& processes);
     QCoro::Task<> nameKills();
-    void enter(const MemoryKill& kill);
+    void enter(const MemoryKill& kill, const QString& largest);
 
     Platform m_platform;
     ActionLog& m_log;

@@ -98,8 +98,8 @@ public:
     std::optional<QString> applicationOf(const QList<ProcSample>& processes) const;
     /// Returns the processes of that application.
     NukePreview previewForApplication(const QString& application) const;
-    /// Asks every process of the preview to end, and returns the outcome in words.
-    QString nuke(const NukePreview& preview);
+    /// Asks every process of the preview to end, and returns how many signals were delivered.
+    int nuke(const NukePreview& preview);
     /// Asks the application to quit, which closes its helpers, and returns the outcome in words.
     QCoro::Task<QString> nukeGracefulApp(NukePreview preview, QString appName, bool force);
 

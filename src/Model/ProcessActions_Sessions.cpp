@@ -53,11 +53,11 @@ SessionEndResult resultOf(const SessionEnding& ending, const Targets& targets) {
 QString logDetail(const SessionEndResult& result) {
     const auto forced =
         std::ranges::count(result.records, KillOutcome::forced, &SessionEndResult::Record::outcome);
-    return u"[session] %1 — ended=%2/%3 forced=%4 freed=%5"_s.arg(result.title)
-        .arg(result.endedCount())
-        .arg(result.records.size())
-        .arg(forced)
-        .arg(result.freedBytes);
+    return u"[session] "_s + result.title +
+           u" — ended=%1/%2 forced=%3 freed=%4"_s.arg(result.endedCount())
+               .arg(result.records.size())
+               .arg(forced)
+               .arg(result.freedBytes);
 }
 
 /// Waits until the first `count` targets have ended, at most for `limit`.
@@ -180,9 +180,8 @@ Outcome ProcessActions::pauseSession(const Session& session) {
     const qsizetype stopped = m_paused.pause(session.host, processes);
     const bool done = stopped > 0;
     m_log.record(ActionLogEntry::Kind::quit,
-                 u"[session] %1 — paused=%2/%3"_s.arg(session.titleForLog())
-                     .arg(stopped)
-                     .arg(session.processes.size()),
+                 u"[session] "_s + session.titleForLog() +
+                     u" — paused=%1/%2"_s.arg(stopped).arg(session.processes.size()),
                  0, done);
     return done ? Outcome::success()
                 : Outcome::failure(QCoreApplication::translate("ProcessActions",
@@ -193,7 +192,7 @@ Outcome ProcessActions::resumeSession(const Session& session) {
     const qsizetype resumed = m_paused.resume(session.host);
     const bool done = resumed > 0;
     m_log.record(ActionLogEntry::Kind::quit,
-                 u"[session] %1 — resumed=%2"_s.arg(session.titleForLog()).arg(resumed), 0, done);
+                 u"[session] "_s + session.titleForLog() + u" — resumed=%1"_s.arg(resumed), 0, done);
     return done ? Outcome::success()
                 : Outcome::failure(
                       QCoreApplication::translate("ProcessActions", "The session has ended meanwhile."));

@@ -103,7 +103,7 @@ NukePreview ProcessActions::previewForApplication(const QString& application) co
     return preview;
 }
 
-QString ProcessActions::nuke(const NukePreview& preview) {
+int ProcessActions::nuke(const NukePreview& preview) {
     // The preview may be old: a reused PID gets no signal.
     QList<qint32> same;
     for (qsizetype i = 0; i < preview.pids.size(); ++i) {
@@ -116,7 +116,7 @@ QString ProcessActions::nuke(const NukePreview& preview) {
                  u"[nuke duplicates] "_s + preview.name +
                      u" — %1/%2 PIDs"_s.arg(killed).arg(preview.pids.size()),
                  0, true);
-    return preview.killOutcome(killed);
+    return killed;
 }
 
 QCoro::Task<QString> ProcessActions::nukeGracefulApp(NukePreview preview, QString appName, bool force) {

@@ -63,7 +63,7 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
         const bool asksForVolumes = request.arguments.last().contains(u"docker volume ls");
         return ScriptedTools::exited(
             0, asksForVolumes
-                   ? "Welcome back!\nvolume\tdata\nvolume\tb4f2\n"
+                   ? "Welcome back!\nvolume\tdata\nvolume\tb4f2\nvolumes end\n"
                    : "Welcome back!\n\nImages\t1.2GB\t800MB (66%)\nContainers\t0B\t0B\nVolumes\t3GB\n");
     };
     const CacheTarget target = scanned(docker);
@@ -73,6 +73,7 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
     EXPECT_EQ(target.details, expected);
     EXPECT_EQ(target.notes, QStringList(u"The tool calls 762.9 MB of it reclaimable."_s));
     EXPECT_EQ(target.volumes, QStringList({u"data"_s, u"b4f2"_s}));
+    EXPECT_EQ(CacheScanner::parseVolumes("volume\tdata\n"), std::nullopt) << "cut short";
     EXPECT_EQ(target.lastScanned, fakes.clock->wall);
     EXPECT_EQ(tools->commandLines().value(1),
               u"/bin/sh -lc command -v docker >/dev/null 2>&1 && docker system df --format "
@@ -83,7 +84,7 @@ TEST_F(CacheScannerTest, ListsTheContainerReportInItsOrder) {
     answerEverythingWith({});
     const CacheTarget gone = scanned(target);
     EXPECT_EQ(gone.sizeBytes, 0U) << "a missing tool leaves no old figures";
-    EXPECT_TRUE(gone.details.isEmpty() && gone.notes.isEmpty() && gone.volumes.isEmpty());
+    EXPECT_TRUE(gone.details.isEmpty() && gone.notes.isEmpty() && gone.volumes == QStringList());
 }
 
 TEST_F(CacheScannerTest, AddsUpAllOldFilesAndKeepsTheFirstHundred) {

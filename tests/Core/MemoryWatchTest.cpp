@@ -135,21 +135,21 @@ TEST_F(MemoryWatchTest, AStallIsHeardBetweenTwoTicks) {
 }
 
 TEST_F(MemoryWatchTest, AKillIsNamedByTheRecord) {
-    add(400, 1, "chrome").task->residentBytes = 500 * MiB;
+    add(400, 1, "chr%1me").task->residentBytes = 500 * MiB;
     add(401, 1, "cc1plus").task->residentBytes = 900 * MiB;
     fakes.memoryKills->counted = 7;
     pass();
     EXPECT_TRUE(fakes.memoryKills->askedSince.isEmpty()) << "these were before the program started";
     fakes.memoryKills->counted = 8;
-    fakes.memoryKills->record = {{.pid = 400, .name = u"chrome"_s, .bytes = 2 * GiB}};
+    fakes.memoryKills->record = {{.pid = 400, .name = u"chr%1me"_s, .bytes = 2 * GiB}};
     end(400);
     end(401); // at the same time, by itself
     pass(2);
-    EXPECT_EQ(kills(), QStringList(u"The kernel ended chrome (PID 400, 2 GB)"_s));
+    EXPECT_EQ(kills(), QStringList(u"The kernel ended chr%1me (PID 400, 2 GB)"_s));
     EXPECT_EQ(ActionLogReader::read().value(0).kind, u"kernel"_s);
     EXPECT_EQ(ActionLogReader::read().value(0).freedBytes, 2 * GiB);
     EXPECT_TRUE(ActionLogReader::read().value(0).detail.startsWith(
-        u"[kernel] chrome pid=400 — largest before: cc1plus 900 MB, chrome 500 MB"_s));
+        u"[kernel] chr%1me pid=400 — largest before: cc1plus 900 MB, chr%1me 500 MB"_s));
     pass(5); // the record still has it
     EXPECT_EQ(ActionLogReader::read().size(), 1);
     fakes.memoryKills->counted = 9;

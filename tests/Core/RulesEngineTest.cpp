@@ -113,11 +113,11 @@ TEST_F(RulesEngineTest, IdleAgentsAboveBothThresholdsInListOrder) {
     const auto agent = [](qint32 pid, quint64 rss, double idle) {
         return process(pid, u"claude"_s, ProcGroup::agents, 0, rss, idle);
     };
-    processes = {agent(1, 800 * MiB, 901), agent(2, 700 * MiB, 900), agent(3, 500 * MiB, 5000),
+    processes = {agent(6, 800 * MiB, 901), agent(2, 700 * MiB, 900), agent(3, 500 * MiB, 5000),
                  agent(4, 500 * MiB + 1, 1800), process(5, u"x"_s, ProcGroup::other, 0, 900 * MiB, 5000)};
     const auto alerts = evaluate();
     ASSERT_EQ(alerts.size(), 2);
-    EXPECT_EQ(alerts[0].actionPid, 1);
+    EXPECT_EQ(alerts[0].actionPid, 6);
     EXPECT_EQ(alerts[1].actionPid, 4);
 }
 
@@ -210,6 +210,12 @@ TEST_F(RulesEngineTest, NoAlertOffersToQuitThisProgramOrAnotherUsers) {
     processes = {process(3, u"Xorg"_s, ProcGroup::other, 91, GiB, 0), mine};
     EXPECT_EQ(evaluate().first().detail, u"95% total — top: Xorg"_s);
     EXPECT_EQ(evaluate().first().actionPid, std::nullopt);
+
+    // So does the agent that this program was started from.
+    ourselves.parentPid = 4;
+    processes = {ourselves, process(4, u"claude"_s, ProcGroup::agents, 0, GiB, 5000)};
+    EXPECT_EQ(evaluate().last().id, u"idle_agent_4"_s);
+    EXPECT_EQ(evaluate().last().actionPid, std::nullopt);
 }
 
 TEST_F(RulesEngineTest, ThresholdsThatNoByteCountExpressesSkipTheirRule) {

@@ -9,7 +9,7 @@ struct SessionsTest : ReliefTest {
                                            .forOthers = std::chrono::milliseconds(2),
                                            .betweenLooks = std::chrono::milliseconds(1),
                                            .beforeMeasuring = {}});
-        add(1, 0, "systemd");
+        add(1, 0, "systemd").inheritance = {.controlGroup = "/init.scope"};
     }
 
     /// Adds a process of the user that started `pid` seconds after boot.

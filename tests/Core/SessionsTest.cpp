@@ -68,6 +68,27 @@ TEST_F(SessionsTest, WhatLostItsParentBeforeIsFoundByWhatItInherited) {
     EXPECT_EQ(sessions(), (QStringList{u"11: 11 20 21 23 30 31"_s, u"12: 12 13 22"_s, u"40: 40 41"_s}));
 }
 
+TEST_F(SessionsTest, ANumberThatNobodyHadMeanwhileProvesNothing) {
+    add(11, 1, "claude");
+    add(30, 11, "bash").inheritance = {.sessionLeader = 30};
+    add(31, 1, "tail").inheritance = {.sessionLeader = 30};
+    EXPECT_EQ(sessions(), QStringList(u"11: 11 30 31"_s));
+    end(30);
+    end(31);
+    pass();
+    FakeProcess& stranger = add(32, 1, "daemon");
+    stranger.inheritance = {.sessionLeader = 30};
+    stranger.info->start = fakes.clock->wall;
+    EXPECT_EQ(sessions(), QStringList(u"11: 11"_s));
+}
+
+TEST_F(SessionsTest, AGroupThatCannotBeReadIsNobodysOwn) {
+    fakes.processes->processes[1].inheritance = {};
+    add(40, 1, "codex").inheritance = {.controlGroup = "/user.slice/login.scope"};
+    add(41, 1, "tail").inheritance = {.controlGroup = "/user.slice/login.scope"};
+    EXPECT_EQ(sessions(), QStringList(u"40: 40"_s));
+}
+
 TEST_F(SessionsTest, WhatAPersonUsesIsNobodysByInheritance) {
     add(11, 1, "claude");
     writeWord(11, R"(, "sessionId": "A")");

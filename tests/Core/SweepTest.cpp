@@ -65,7 +65,8 @@ TEST_F(SweepTest, SignalsEveryProcessOfTheNameButNeverTavrin) {
     const NukePreview preview = model->actions().previewForName(u"bash"_s);
     EXPECT_EQ(preview.pids, (QList<qint32>{1, 2, 3}));
     EXPECT_EQ(preview.totalRSS, 60U);
-    EXPECT_EQ(model->actions().nuke(preview), u"Killed 2/3 “bash” processes (≈60 bytes targeted)"_s);
+    EXPECT_EQ(preview.killOutcome(model->actions().nuke(preview)),
+              u"Killed 2/3 “bash” processes (≈60 bytes targeted)"_s);
     EXPECT_EQ(logged(), QStringList(u"quit [nuke duplicates] bash — 2/3 PIDs ok"_s));
 }
 
@@ -78,7 +79,8 @@ TEST_F(SweepTest, AReusedPidGetsNoSignal) {
     tick();
     add(1, "editor", 30);
     tick();
-    EXPECT_EQ(model->actions().nuke(preview), u"Killed 1/2 “bash” processes (≈50 bytes targeted)"_s);
+    EXPECT_EQ(preview.killOutcome(model->actions().nuke(preview)),
+              u"Killed 1/2 “bash” processes (≈50 bytes targeted)"_s);
     EXPECT_EQ(signalled(), QList<qint32>{2});
 }
 

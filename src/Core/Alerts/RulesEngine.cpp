@@ -103,9 +103,15 @@ QString forecastTitle(const MemoryForecast& forecast) {
         .arg(QString::number(minutes), forecast.grower->title, pace);
 }
 
+bool isProtected(const ProcSample& process, const QList<ProcSample>& processes, const Identity& identity) {
+    return ProtectedProcesses(processes, identity.processId(), identity.displayServers())
+        .contains(process.pid);
+}
+
 /// Returns the alert on memory that will be full. It acts on whoever grows, if that is the user's to end.
 std::optional<Alert> forecastAlert(const QList<ProcSample>& processes, const MemoryOutlook& outlook,
-                                   const Preferences& prefs, const ProcessFilter& maySignal) {
+                                   const Preferences& prefs, const ProcessFilter& maySignal,
+                                   const Identity& identity) {
     if (!prefs.alertForecastEnabled() || !outlook.forecast)
         return std::nullopt;
     Alert alert{.id = u"memory_full"_s,
@@ -119,6 +125,8 @@ std::optional<Alert> forecastAlert(const QList<ProcSample>& processes, const Mem
     const auto process = std::ranges::find(processes, grower->process, &ProcSample::identity);
     if (process == processes.end() || !maySignal.accepts(*process))
         return alert;
+    if (grower->kind == Grower::Kind::process && isProtected(*process, processes, identity))
+        return alert; // one press ends it
     alert.actionPid = process->pid;
     alert.actionTarget = grower->kind == Grower::Kind::session ? u"session"_s : u"process"_s;
     return alert;
@@ -225,7 +233,8 @@ Alert idleAgentAlert(const ProcSample& process, const QString& project, bool may
 }
 
 QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferences& prefs,
-                             const ProcessFilter& maySignal, const RulesEngine::ProjectOf& projectOf) {
+                             const ProcessFilter& maySignal, const Identity& identity,
+                             const RulesEngine::ProjectOf& projectOf) {
     const auto minBytes = ProcessFilter::bytesFromMiB(prefs.alertIdleAgentMinRSSMB());
     if (!prefs.alertIdleAgentEnabled() || !minBytes)
         return {};
@@ -235,8 +244,9 @@ QList<Alert> idleAgentAlerts(const QList<ProcSample>& processes, const Preferenc
         const bool qualifies = process.group == ProcGroup::agents && process.idleSeconds > minIdleSeconds &&
                                process.rssBytes > *minBytes;
         if (qualifies)
-            alerts.append(idleAgentAlert(process, projectOf ? projectOf(process) : QString(),
-                                         maySignal.accepts(process)));
+            alerts.append(
+                idleAgentAlert(process, projectOf ? projectOf(process) : QString(),
+                               maySignal.accepts(process) && !isProtected(process, processes, identity)));
     }
     return alerts;
 }
@@ -328,7 +338,7 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     };
     const ProcessFilter maySignal(m_identity);
     add(memoryAlert(system, prefs));
-    add(forecastAlert(processes, outlook, prefs, maySignal));
+    add(forecastAlert(processes, outlook, prefs, maySignal, m_identity));
     add(pressureAlert(system, outlook, prefs));
     add(cpuAlert(system, processes, prefs, m_identity));
     const bool hot =
@@ -337,7 +347,7 @@ QList<Alert> RulesEngine::evaluate(const SystemSample& system, const QList<ProcS
     if (prefs.alertThermalEnabled() && m_thermalHotStreak >= thermalHotStreakThreshold)
         add(thermalAlert(system.thermalState));
     add(swapAlert(system));
-    alerts.append(idleAgentAlerts(processes, prefs, maySignal, m_projectOf));
+    alerts.append(idleAgentAlerts(processes, prefs, maySignal, m_identity, m_projectOf));
     add(browserAlert(system, groups, prefs));
     add(cachesAlert(caches, prefs));
     alerts.append(sessionAlerts(sessions, prefs));

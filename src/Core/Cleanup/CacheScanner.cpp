@@ -39,9 +39,9 @@ const auto volumesThatGo =
     u"command -v ENGINE >/dev/null 2>&1 && { unnamed=; "
     "case \"$(ENGINE version --format '{{.Server.APIVersion}}')\" in "
     "1.4[2-9]|1.[5-9][0-9]) unnamed='--filter label=com.docker.volume.anonymous' ;; esac; "
-    "for volume in $(ENGINE volume ls -q $unnamed); do "
+    "volumes=$(ENGINE volume ls -q $unnamed) && { for volume in $volumes; do "
     "[ -n \"$(ENGINE ps -q --filter volume=$volume)\" ] || printf 'volume\\t%s\\n' \"$volume\"; "
-    "done; } 2>/dev/null || true"_s;
+    "done; echo 'volumes end'; }; } 2>/dev/null || true"_s;
 
 /// Ends its tools when it is told to.
 class StoppableTools : public ToolRunner {
@@ -164,11 +164,11 @@ QCoro::Task<CacheTarget> CacheScanner::scanPlaces(CacheTarget target, QList<Foun
 
 /// Leaves out the action log, which no clean removes.
 QCoro::Task<quint64> CacheScanner::measureFolder(FoundPlace folder) {
-    const quint64 all = co_await Cleaner::directoryBytes(folder.root, m_tools);
-    quint64 kept = 0;
+    const std::optional<quint64> all = co_await Cleaner::directoryBytes(folder.root, m_tools);
+    std::optional<quint64> kept;
     if (folder.hasLog)
         kept = co_await Cleaner::directoryBytes(CleanupPlan::keptFolder(), m_tools);
-    co_return all - std::min(all, kept);
+    co_return all.value_or(0) - std::min(all.value_or(0), kept.value_or(0));
 }
 
 QCoro::Task<QHash<QString, QString>> CacheScanner::namesIn(QString folder) {
@@ -240,11 +240,13 @@ QCoro::Task<CacheTarget> CacheScanner::scanContainers(CacheTarget target) {
     for (const CacheEntry& entry : std::as_const(target.details))
         target.sizeBytes += entry.sizeBytes;
     target.notes.clear();
-    target.volumes.clear();
+    target.volumes = QStringList();
     if (const auto reclaimable = parseReclaimable(report)) {
         target.notes.append(
             QCoreApplication::translate("CacheScanner", "The tool calls %1 of it reclaimable.")
                 .arg(Formatters::bytes(*reclaimable)));
+    }
+    if (!target.details.isEmpty()) {
         const QByteArray volumes = co_await ask(forEngine(volumesThatGo, target));
         target.volumes = parseVolumes(volumes);
     }
@@ -289,13 +291,15 @@ std::optional<quint64> CacheScanner::parseReclaimable(const QByteArray& report) 
     return total;
 }
 
-QStringList CacheScanner::parseVolumes(const QByteArray& report) {
+std::optional<QStringList> CacheScanner::parseVolumes(const QByteArray& report) {
     QStringList volumes;
     for (const QString& line : QString::fromUtf8(report).split(u'\n')) {
+        if (line == "volumes end"_L1)
+            return volumes;
         if (line.startsWith("volume\t"_L1))
             volumes.append(line.section(u'\t', 1));
     }
-    return volumes;
+    return std::nullopt;
 }
 
 quint64 CacheScanner::parseSize(const QString& text) {

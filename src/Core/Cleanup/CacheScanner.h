@@ -50,7 +50,8 @@ public:
     /// empty optional without any.
     static std::optional<quint64> parseReclaimable(const QByteArray& report);
     /// Returns the names in lines of "volume", TAB, NAME. Other output of the user's start files is left out.
-    static QStringList parseVolumes(const QByteArray& report);
+    /// Returns an empty optional where the report does not reach its end.
+    static std::optional<QStringList> parseVolumes(const QByteArray& report);
 
 private:
     QCoro::Task<> measure(CacheTarget target);

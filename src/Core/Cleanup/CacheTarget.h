@@ -67,10 +67,11 @@ struct CacheTarget {
     CleanupRule rule = {};
     QList<ListedFolder> listed = {}; ///< exactly what a clean removes
     quint64 sharedBytes = 0;         ///< the part of `sizeBytes` that is in another target of the list too
-    QStringList volumes = {};        ///< of containers, removed with their contents
-    QStringList notes = {};          ///< sentences for the user, such as why a folder is left alone
-    QString reason = {};             ///< why it may go, a sentence; empty for the fixed catalogue
-    bool isInCleanAll = true;        ///< cleaned with all others; else only when it is chosen
+    /// Of containers, removed with their contents; an empty optional while it is unknown which.
+    std::optional<QStringList> volumes = QStringList();
+    QStringList notes = {};   ///< sentences for the user, such as why a folder is left alone
+    QString reason = {};      ///< why it may go, a sentence; empty for the fixed catalogue
+    bool isInCleanAll = true; ///< cleaned with all others; else only when it is chosen
     /// Prints the size in bytes as the first word of its last line.
     QString sizeCommand = {};
 

@@ -67,7 +67,7 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
                                                Cleaner::Progress progress) {
     Cleaner::CleanResult result{Outcome::success()};
     const bool isMeasured = rule.measure == CleanupRule::Measure::folders;
-    quint64 before = 0;
+    std::optional<quint64> before;
     if (isMeasured)
         before = co_await Cleaner::directoryBytes(folder.path, tools, stop);
     if (stop.stop_requested())
@@ -87,8 +87,9 @@ QCoro::Task<Cleaner::CleanResult> removeListed(CleanupRule rule, ListedFolder fo
     }
     result.volumeBytes = report->volumeBytes;
     if (isMeasured) {
-        const quint64 after = co_await Cleaner::directoryBytes(folder.path, tools, {});
-        result.freedBytes = before > after ? before - after : 0;
+        const std::optional<quint64> after = co_await Cleaner::directoryBytes(folder.path, tools, {});
+        if (before && after)
+            result.freedBytes = *before - std::min(*before, *after);
     }
     co_return result;
 }
@@ -176,12 +177,17 @@ QCoro::Task<OpenFolders> findFolders(CacheTarget target, std::shared_ptr<ToolRun
         }
         const auto isPlace = [&](const ListedFolder& folder) { return folder.path == one.place.path; };
         const auto listed = std::ranges::find_if(target.listed, isPlace);
-        if (listed != target.listed.end()) {
+        if (listed != target.listed.end() && listed->listing.isEmpty()) {
+            fail(open.result, QCoreApplication::translate("Cleaner", "it could not be listed"));
+        } else if (listed != target.listed.end()) {
             open.folders.append({listed->path, listed->sizeBytes, listed->listing, one.root});
         } else if (!target.lastScanned) { // else it came after the scan
             auto listing = Cleaner::list(target.rule, one.root, now, tools);
             const Result<QByteArray> made = co_await listing;
-            open.folders.append({one.place.path, 0, made.value, one.root});
+            if (made.done)
+                open.folders.append({one.place.path, 0, made.value, one.root});
+            else
+                fail(open.result, made.reason);
         }
     }
     co_return open;
@@ -272,16 +278,17 @@ QCoro::Task<Cleaner::CleanResult> Cleaner::moveToTrash(CacheTarget target, std::
     co_return co_await moving;
 }
 
-QCoro::Task<quint64> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
-                                             std::stop_token stop) {
+QCoro::Task<std::optional<quint64>> Cleaner::directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
+                                                            std::stop_token stop) {
     ToolRequest request = CleanupPlan::measureRequest(path);
     request.stop = stop;
     const ToolResult result = co_await tools->run(request);
     co_return reportedBytes(result.output);
 }
 
-quint64 Cleaner::reportedBytes(const QByteArray& report) {
+std::optional<quint64> Cleaner::reportedBytes(const QByteArray& report) {
     constexpr quint64 maxKib = std::numeric_limits<quint64>::max() / 1024;
-    const quint64 kib = report.simplified().split(' ').constFirst().toULongLong();
-    return kib <= maxKib ? kib * 1024 : 0;
+    bool isNumber = false;
+    const quint64 kib = report.simplified().split(' ').constFirst().toULongLong(&isNumber);
+    return isNumber && kib <= maxKib ? std::optional(kib * 1024) : std::nullopt;
 }

@@ -58,10 +58,10 @@ QCoro::Task<CleanResult> moveToTrash(CacheTarget target, std::shared_ptr<ToolRun
 
 /// Returns the allocated bytes of `path` and all below it on its file system, as `du -sk -x` counts them, or
 /// 0 when that fails.
-QCoro::Task<quint64> directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
-                                    std::stop_token stop = {});
+QCoro::Task<std::optional<quint64>> directoryBytes(QString path, std::shared_ptr<ToolRunner> tools,
+                                                   std::stop_token stop = {});
 
 /// Returns the bytes in a report of `du -sk`: its first word, in KiB. Returns 0 when that is no size.
-quint64 reportedBytes(const QByteArray& report);
+std::optional<quint64> reportedBytes(const QByteArray& report);
 
 } // namespace Cleaner

@@ -121,9 +121,12 @@ void CleanupChoice::addTarget(qint16 index, Index parent) {
 }
 
 void CleanupChoice::addVolumes(qint16 index, Index parent) {
-    const QStringList& volumes = m_targets[index].volumes;
+    const bool isKnown = m_targets[index].volumes.has_value();
+    const QStringList volumes = m_targets[index].volumes.value_or(QStringList());
     const QString heading =
-        volumes.isEmpty()
+        !isKnown ? QCoreApplication::translate("CleanupTexts",
+                                               "It is unknown which volumes go, with all that is in them.")
+        : volumes.isEmpty()
             ? QCoreApplication::translate("CleanupChoice", "No volumes go")
             : QCoreApplication::translate("CleanupChoice", "Volumes that go, with all that is in them: %1")
                   .arg(volumes.size());

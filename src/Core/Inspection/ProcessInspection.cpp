@@ -25,7 +25,7 @@ bool hasPassword(const QString& value) {
 }
 
 QString quoted(const QString& argument) {
-    static const QRegularExpression plain(QStringLiteral("^[\\w@%+=:,./-]+$"));
+    static const QRegularExpression plain(QStringLiteral("\\A[\\w@%+=:,./-]+\\z"));
     if (argument.contains(plain))
         return argument;
     return u'\'' + QString(argument).replace(u'\'', QStringLiteral("'\\''")) + u'\'';

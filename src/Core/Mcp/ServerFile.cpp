@@ -86,7 +86,7 @@ bool ServerFile::takeOver(Reading reading) {
     m_rest.setRemainingTime(reading.duration);
     if (reading.isTorn)
         return false;
-    m_isUnknown = false;
+    m_isUnknown = reading.isUnreadable;
     m_version = reading.version;
     if (reading.servers == m_servers)
         return false;
@@ -126,7 +126,9 @@ ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& rea
     if (descriptor < 0) {
         qCWarning(Log::mcp) << "a configuration cannot be read:" << qt_error_string(errno);
         qCDebug(Log::mcp) << path;
-        return {};
+        Reading refused;
+        refused.isUnreadable = true;
+        return refused;
     }
     const auto closing = qScopeGuard([descriptor] { close(descriptor); });
     // The status of the open file: the path may lead to another one by now.

@@ -26,11 +26,11 @@ public:
     ServerFile& operator=(const ServerFile&) = delete;
 
     /// Takes the result of a finished read, starts one of a changed file, and returns whether the servers
-    /// changed. They stay during a read, and after one during which the file changed. A file that is missing,
-    /// unreadable or not regular has no servers.
+    /// changed. They stay during a read, and after one during which the file changed. A file that is missing
+    /// or not regular has no servers; those of one that cannot be opened are unknown.
     bool refresh(QThreadPool& pool);
     const Servers& servers() const { return m_servers; }
-    /// Returns whether the file has not been read yet.
+    /// Returns whether the file has not been read yet, or cannot be opened.
     bool isUnknown() const { return m_isUnknown; }
 
 private:
@@ -47,7 +47,8 @@ private:
     struct Reading {
         Version version;
         Servers servers;
-        bool isTorn = false; ///< the file changed during the read
+        bool isTorn = false;       ///< the file changed during the read
+        bool isUnreadable = false; ///< the file is there and cannot be opened
         std::chrono::milliseconds duration{};
     };
 

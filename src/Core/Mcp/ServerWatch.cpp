@@ -39,7 +39,7 @@ QString hostName(const ProcSample& host) {
 }
 
 QString nameAndPid(const QString& name, qint32 pid) {
-    return u"%1 (%2)"_s.arg(Formatters::visible(name)).arg(pid);
+    return u"%1 (%2)"_s.arg(Formatters::visible(name), QString::number(pid));
 }
 
 } // namespace

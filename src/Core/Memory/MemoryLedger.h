@@ -31,7 +31,7 @@ public:
     void wantAll() { m_wantsAll = true; }
     /// Wants those of these processes, before others.
     void wantOnShow(const QList<qint32>& pids) { m_onShow.unite({pids.begin(), pids.end()}); }
-    /// Wants those that a person asked for: first, and whatever they cost.
+    /// Wants those that a person asked for: before all others, also those of more than 4 GiB.
     void wantAsked(const QList<qint32>& pids) { m_asked.unite({pids.begin(), pids.end()}); }
 
     /// Gives each process its figures, where these are at most two minutes old, and starts the next slice.

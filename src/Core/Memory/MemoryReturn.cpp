@@ -83,8 +83,9 @@ MemoryReturn MemoryReturn::ofEnding(const ProcSample& process) {
     const ProcessMemoryUse use = useOf(process);
     const quint64 swap = use.proportionalSwapBytes.value_or(use.swapBytes.value_or(0));
     if (!use.proportionalBytes)
-        return {
-            .memoryBytes = use.anonymousBytes.value_or(process.rssBytes), .swapBytes = swap, .isRough = true};
+        return {.memoryBytes = use.anonymousBytes.value_or(process.anonymousBytes.value_or(process.rssBytes)),
+                .swapBytes = swap,
+                .isRough = true};
     return {.memoryBytes = use.uniqueDirtyBytes.value_or(0) + pageTablesOf(process), .swapBytes = swap};
 }
 

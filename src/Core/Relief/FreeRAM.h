@@ -27,7 +27,7 @@ struct FreeRAMResult {
         bool operator==(const Record&) const = default;
     };
 
-    QList<Record> perPid; ///< in the order of the request
+    QList<Record> perPid;    ///< in the order of the request
     bool wasStopped = false; ///< before anything was killed; what had not ended has the outcome `ignored`
     bool memoryPressureSignaled = false;
     quint64 freedBytes = 0;     ///< the decrease of the system's used memory

@@ -127,7 +127,7 @@ Reading readScript(const Runner& runner, Arguments words, int depth) {
     if (isRunVerb && words.front() == "x"_L1)
         return readCommand(u"bunx"_s, words, depth + 1);
     if (isRunVerb && words.front() == "run"_L1)
-        return readScript(runner, words.subspan(1), depth);
+        return depth < maxNesting ? readScript(runner, words.subspan(1), depth + 1) : Reading();
     // A package runner is itself a script.
     const Runner* inner = runnerNamed(ProgramPath::lastComponent(words.front()));
     if (inner && inner->reader == Reader::package && depth < maxNesting)

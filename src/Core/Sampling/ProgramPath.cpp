@@ -43,7 +43,8 @@ QStringView ProgramPath::scriptName(QStringView path) {
 
 QStringView ProgramPath::packageName(QStringView program) {
     QStringView package = program;
-    if (program.startsWith(u'/')) {
+    const bool isPath = program.contains(u'/') && !program.startsWith(u'@'); // of a script or an image
+    if (isPath) {
         package = folderAfter(program, u"/node_modules/");
         if (package.isEmpty())
             package = folderAfter(program, u"/site-packages/");

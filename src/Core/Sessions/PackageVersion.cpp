@@ -36,12 +36,16 @@ QString versionOfPackage(const QString& folder) {
 } // namespace
 
 QString packageVersion(const QString& path) {
+    if (!path.startsWith(u'/'))
+        return {};
     const QString file = QFileInfo(path).canonicalFilePath();
     const QString folder = packageFolder(file);
     if (!folder.isEmpty())
         return versionOfPackage(folder);
     const QStringList parts = file.split(u'/', Qt::SkipEmptyParts);
     const qsizetype versions = parts.lastIndexOf(u"versions"_s);
-    const QString version = versions < 0 ? QString() : parts.value(versions + 1);
+    const QString below = parts.value(versions + 2);
+    const bool isInterpreters = below == "bin"_L1 || below == "lib"_L1; // of a version manager
+    const QString version = versions < 0 || isInterpreters ? QString() : parts.value(versions + 1);
     return version.contains(u'.') ? version.left(maxVersionLength) : QString();
 }

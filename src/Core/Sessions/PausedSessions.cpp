@@ -17,7 +17,8 @@ qsizetype send(const QList<PausedSessions::Process>& processes, Signal signal) {
 } // namespace
 
 qsizetype PausedSessions::pause(const ProcessIdentity& host, const QList<Process>& processes) {
-    resume(host); // of an earlier pause
+    // Of an earlier pause, or of an earlier host with that PID.
+    send(m_sessions.take(host.pid).processes, Signal::resume);
     const qsizetype stopped = send(processes, Signal::pause);
     if (stopped > 0)
         m_sessions.insert(host.pid, {.startTime = host.startTime, .processes = processes});

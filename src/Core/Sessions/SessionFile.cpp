@@ -80,19 +80,24 @@ SessionFile::Version SessionFile::versionOf(const struct stat& status) {
 const std::optional<SessionFile::Content>& SessionFile::refresh(const QByteArray& path, qint32 pid,
                                                                 quint64 startTicks, Instant now) {
     struct stat status {};
-    if (lstat(path.constData(), &status) != 0 || versionOf(status) == m_version) {
-        if (m_content && status.st_ino == 0)
-            m_content.reset(); // it has gone
+    if (lstat(path.constData(), &status) != 0) {
+        m_version = {};
+        m_content.reset();
         return m_content;
     }
-    m_version = versionOf(status);
+    if (versionOf(status) == m_version)
+        return m_content;
+    m_version = {}; // until it is read
     m_content.reset();
     // A named pipe or a device put there would block; the status of the open file counts.
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
     if (descriptor < 0)
         return m_content;
     const auto closing = qScopeGuard([descriptor] { close(descriptor); });
-    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxBytes)
+    if (fstat(descriptor, &status) != 0)
+        return m_content;
+    m_version = versionOf(status);
+    if (!S_ISREG(status.st_mode) || status.st_size > maxBytes)
         return m_content;
     QByteArray text(static_cast<qsizetype>(maxBytes), Qt::Uninitialized);
     const ssize_t length = read(descriptor, text.data(), static_cast<std::size_t>(text.size()));

@@ -120,12 +120,14 @@ void SessionFinder::readWord(int number, const SessionMembers::Known& known) {
     const qint32 pid = known.host->pid;
     if (!past.startTicks) {
         const auto kernelInfo = m_table->kernelInfo(pid);
-        past.startTicks = kernelInfo ? kernelInfo->startTicks : 0;
+        if (!kernelInfo)
+            return;
+        past.startTicks = kernelInfo->startTicks;
     }
     const auto inherited = m_members.inheritance(*known.host);
     const QString folder =
         AgentTable::claudeFolder(inherited ? inherited->variables : QHash<QByteArray, QByteArray>());
-    const QByteArray path = QFile::encodeName(u"%1/sessions/%2.json"_s.arg(folder).arg(pid));
+    const QByteArray path = QFile::encodeName(u"%1/sessions/%2.json"_s.arg(folder, QString::number(pid)));
     past.word = past.file.refresh(path, pid, *past.startTicks, m_clock->now());
     if (past.word)
         m_members.addWord(number, past.word->id, past.word->folder);

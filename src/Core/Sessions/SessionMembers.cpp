@@ -85,6 +85,18 @@ void SessionMembers::record(const ProcessTree& tree) {
         return;
     std::erase_if(m_processes, [this](const auto& entry) { return entry.second.pass != m_pass; });
     m_inherited.removeIf([this](const auto& entry) { return !m_processes.contains(entry.key()); });
+    followLeaders();
+}
+
+/// Notes since when no process has the number of a process session.
+void SessionMembers::followLeaders() {
+    QSet<qint32> used;
+    for (const Inherited& inherited : std::as_const(m_inherited))
+        used.insert(inherited.facts.sessionLeader);
+    for (auto known = m_sessionOfLeader.begin(); known != m_sessionOfLeader.end(); ++known) {
+        if (!known->unusedSince && !used.contains(known.key()))
+            known->unusedSince = m_clock->now();
+    }
 }
 
 std::optional<ProcessInheritance> SessionMembers::inheritance(const ProcessIdentity& process) const {
@@ -184,7 +196,8 @@ void SessionMembers::forget(const QSet<int>& inUse) {
     m_known.removeIf([&inUse](const auto& entry) { return !inUse.contains(entry.key()); });
     const auto isForgotten = [this](const auto& entry) { return !m_known.contains(entry.value()); };
     m_sessionOfHost.removeIf(isForgotten);
-    m_sessionOfLeader.removeIf(isForgotten);
+    m_sessionOfLeader.removeIf(
+        [this](const auto& entry) { return !m_known.contains(entry.value().session); });
 }
 
 void SessionMembers::addWord(int session, const QString& id, const QString& folder) {
@@ -252,7 +265,7 @@ void SessionMembers::readMember(const ProcessTree& tree, int place) {
         return;
     const int leader = tree.find(inherited.facts.sessionLeader);
     if (leader != none && m_sessionAt[index(leader)] == session.key())
-        m_sessionOfLeader.insert(inherited.facts.sessionLeader, session.key());
+        m_sessionOfLeader.insert(inherited.facts.sessionLeader, {.session = session.key()});
     if (session->host == process.identity())
         readHost(tree, place, *session);
     else if (session->isRunning && inherited.mark && inherited.mark->agent == session->agent &&
@@ -265,7 +278,10 @@ void SessionMembers::readHost(const ProcessTree& tree, int place, Known& session
     session.folder = QDir::cleanPath(QString::fromUtf8(m_table->workingDirectory(host.pid)));
     const int parent = tree.parent(place);
     const QByteArray group = m_inherited.value(host.pid).facts.controlGroup;
-    if (parent != none && group != m_table->inheritance(tree.at(parent).pid, {}).controlGroup)
+    if (parent == none)
+        return;
+    const QByteArray above = m_table->inheritance(tree.at(parent).pid, {}).controlGroup;
+    if (!above.isEmpty() && above != group) // an unreadable one says nothing
         session.controlGroup = group;
 }
 
@@ -321,9 +337,11 @@ int SessionMembers::sessionInherited(const ProcessTree& tree, const ProcSample& 
     const Inherited inherited = m_inherited.value(process.pid);
     if (inherited.mark)
         return sessionOfMark(*inherited.mark, process);
-    // The number of a process session is not used again while a process has it.
     const qint32 leader = inherited.facts.sessionLeader;
-    const int ofLeader = m_sessionOfLeader.value(leader, none);
+    const Leader learnt = m_sessionOfLeader.value(leader);
+    // The number of a process session can be used again when no process has it any more.
+    const bool isOfTime = !learnt.unusedSince || process.startTime <= *learnt.unusedSince;
+    const int ofLeader = isOfTime ? learnt.session : none;
     const int place = tree.find(leader);
     if (ofLeader != none && leader != process.pid && (place == none || m_sessionAt[index(place)] == ofLeader))
         return ofLeader;

@@ -76,7 +76,14 @@ private:
         std::optional<AgentTable::Mark> mark;
     };
 
+    /// The number of a process session, which its leader gave it.
+    struct Leader {
+        int session = none;
+        std::optional<Instant> unusedSince; ///< when the last process with that number had gone
+    };
+
     void record(const ProcessTree& tree);
+    void followLeaders();
     Process& recordAt(int place) const { return *m_records[static_cast<std::size_t>(place)]; }
     bool isOfUser(const ProcSample& process) const;
     bool isBelowAgent(const ProcessTree& tree, int place) const;
@@ -107,9 +114,9 @@ private:
     QHash<qint32, Inherited> m_inherited;            ///< by PID
     std::vector<int> m_agents;                       ///< the places of agents
     QHash<int, Known> m_known;
-    QHash<qint32, int> m_sessionOfHost;   ///< by PID
-    QHash<qint32, int> m_sessionOfLeader; ///< by the leader of a process session
-    std::vector<int> m_hostAt;            ///< the place of the topmost agent at or above each place
+    QHash<qint32, int> m_sessionOfHost;      ///< by PID
+    QHash<qint32, Leader> m_sessionOfLeader; ///< by the leader of a process session
+    std::vector<int> m_hostAt;               ///< the place of the topmost agent at or above each place
     std::vector<int> m_sessionAt;
     std::vector<bool> m_isUsed; ///< at or below a program that a person uses directly
     int m_lastNumber = 0;
