@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>Notify when RAM is getting tight</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM</source>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>Browsers</source>
@@ -399,6 +399,10 @@
     <message>
         <source>only old files can be moved</source>
         <translation>nur alte Dateien können verschoben werden</translation>
+    </message>
+    <message>
+        <source>it could not be listed</source>
+        <translation>es konnte nicht aufgelistet werden</translation>
     </message>
 </context>
 <context>
@@ -663,6 +667,14 @@
     <message>
         <source>Not finished: %1</source>
         <translation>Nicht abgeschlossen: %1</translation>
+    </message>
+    <message>
+        <source>It is unknown which volumes go, with all that is in them.</source>
+        <translation>Es ist unbekannt, welche Volumes mit allem darin verschwinden.</translation>
+    </message>
+    <message>
+        <source>unknown volumes</source>
+        <translation>unbekannte Volumes</translation>
     </message>
 </context>
 <context>
@@ -935,8 +947,8 @@
         <translation>Hier ist kein Volume eines Datenträgers eingehängt. Die Kachel zeigt den Platz des Wurzelordners.</translation>
     </message>
     <message>
-        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
-        <translation>Ein Datenträger antwortet nicht. Solange diese Seite offen ist, wird er alle 10 Sekunden wieder gefragt.</translation>
+        <source>A disk does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Ein Datenträger antwortet nicht. Er wird wieder gefragt, sobald er es tut, solange diese Seite offen ist.</translation>
     </message>
 </context>
 <context>
@@ -1018,42 +1030,42 @@
     <name>Formatters</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>%1s</source>
         <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1m</source>
         <comment>minutes</comment>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1h</source>
         <comment>hours</comment>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
@@ -1117,7 +1129,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>, </source>
@@ -1140,16 +1152,20 @@
         <source>Freed ~%1</source>
         <translation>~%1 freigegeben</translation>
     </message>
+    <message>
+        <source>• stopped</source>
+        <translation>• angehalten</translation>
+    </message>
 </context>
 <context>
     <name>FreeRAMSheet</name>
     <message>
         <source>Min idle: %1 min</source>
-        <translation>Mindestens untätig: %1 min</translation>
+        <translation>Mindestens untätig: %1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM: %1 MB</source>
-        <translation>Mindest-RAM: %1 MB</translation>
+        <translation>Mindest-RAM: %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Other programs too</source>
@@ -1206,6 +1222,14 @@
     <message>
         <source>Send memory pressure only</source>
         <translation>Nur Speicherdruck senden</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Kills nothing more; what still runs is left alone</source>
+        <translation>Beendet nichts weiter zwangsweise; was noch läuft, bleibt unberührt</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +1983,14 @@
         <source>Deep purge (admin)</source>
         <translation>Tief leeren (Admin)</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stop purging</source>
+        <translation>Leeren anhalten</translation>
+    </message>
 </context>
 <context>
     <name>MemoryKindsBar</name>
@@ -2057,15 +2089,15 @@
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
-        <translation>CPU %1 % • RAM %2 %</translation>
+        <translation>CPU %1&#xa0;% • RAM %2&#xa0;%</translation>
     </message>
     <message>
         <source>CPU %1%</source>
-        <translation>CPU %1 %</translation>
+        <translation>CPU %1&#xa0;%</translation>
     </message>
     <message>
         <source>RAM %1%</source>
-        <translation>RAM %1 %</translation>
+        <translation>RAM %1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2118,15 +2150,15 @@
     </message>
     <message>
         <source> • pressure %1 %</source>
-        <translation> • Druck %1 %</translation>
+        <translation> • Druck %1&#xa0;%</translation>
     </message>
     <message>
         <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Programme warteten %1 % der letzten zehn Sekunden auf Speicher, alle zugleich %2 %</translation>
+        <translation>Programme warteten %1&#xa0;% der letzten zehn Sekunden auf Speicher, alle zugleich %2&#xa0;%</translation>
     </message>
     <message>
         <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… und %1 % auf Datenträger, alle zugleich %2 %</translation>
+        <translation>… und %1&#xa0;% auf Datenträger, alle zugleich %2&#xa0;%</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -2355,6 +2387,10 @@
         <source>Permission denied</source>
         <translation>Zugriff verweigert</translation>
     </message>
+    <message>
+        <source>Still running</source>
+        <translation>Läuft noch</translation>
+    </message>
 </context>
 <context>
     <name>OverviewView</name>
@@ -2409,11 +2445,11 @@
     <name>PresetTableModel</name>
     <message>
         <source>%1m</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>Force</source>
@@ -2458,7 +2494,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>Mindest-RAM %1 MB</translation>
+        <translation>Mindest-RAM %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Group duplicates</source>
@@ -2674,8 +2710,8 @@
         <translation>ein unbekanntes Programm</translation>
     </message>
     <message>
-        <source>it is another folder by now</source>
-        <translation>es ist inzwischen ein anderer Ordner</translation>
+        <source>something in it is new, or is on the list of what is never cleaned</source>
+        <translation>etwas darin ist neu oder steht auf der Liste dessen, was nie bereinigt wird</translation>
     </message>
     <message>
         <source>in use by %1</source>
@@ -2874,7 +2910,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>Mindest-RAM %1 MB</translation>
+        <translation>Mindest-RAM %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Use SIGKILL (force)</source>
@@ -2893,11 +2929,11 @@
     </message>
     <message>
         <source>idle≥%1m</source>
-        <translation>untätig≥%1 min</translation>
+        <translation>untätig≥%1&#xa0;min</translation>
     </message>
     <message>
         <source>RAM≥%1MB</source>
-        <translation>RAM≥%1 MB</translation>
+        <translation>RAM≥%1&#xa0;MB</translation>
     </message>
     <message>
         <source>force</source>
@@ -3063,7 +3099,7 @@
     </message>
     <message>
         <source>Only %1 GB free — consider quitting top hogs or cleaning caches.</source>
-        <translation>Nur %1 GB frei – beenden Sie große Prozesse, oder bereinigen Sie Caches.</translation>
+        <translation>Nur %1&#xa0;GB frei – beenden Sie große Prozesse, oder bereinigen Sie Caches.</translation>
     </message>
     <message>
         <source>RAM getting tight</source>
@@ -3071,7 +3107,7 @@
     </message>
     <message>
         <source>%1 GB free.</source>
-        <translation>%1 GB frei.</translation>
+        <translation>%1&#xa0;GB frei.</translation>
     </message>
     <message>
         <source>Programs wait for memory</source>
@@ -3083,15 +3119,15 @@
     </message>
     <message>
         <source>Memory full in about %1 min</source>
-        <translation>Speicher in etwa %1 min voll</translation>
+        <translation>Speicher in etwa %1&#xa0;min voll</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grow %3/min</source>
-        <translation>Speicher in etwa %1 min voll – %2 wachsen um %3/min</translation>
+        <translation>Speicher in etwa %1&#xa0;min voll – %2 wachsen um %3/min</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grows %3/min</source>
-        <translation>Speicher in etwa %1 min voll – %2 wächst um %3/min</translation>
+        <translation>Speicher in etwa %1&#xa0;min voll – %2 wächst um %3/min</translation>
     </message>
     <message>
         <source>%1 are left, with swap.</source>
@@ -3135,7 +3171,7 @@
     </message>
     <message>
         <source>%1 GB swapped — system will feel sluggish.</source>
-        <translation>%1 GB ausgelagert – das System reagiert träge.</translation>
+        <translation>%1&#xa0;GB ausgelagert – das System reagiert träge.</translation>
     </message>
     <message>
         <source>Idle agent — %1</source>
@@ -3147,11 +3183,11 @@
     </message>
     <message>
         <source>Idle %1 min, %2 RAM. Quit?</source>
-        <translation>Seit %1 min untätig, %2 RAM. Beenden?</translation>
+        <translation>Seit %1&#xa0;min untätig, %2 RAM. Beenden?</translation>
     </message>
     <message>
         <source>Idle %1 min, %2 RAM.</source>
-        <translation>Seit %1 min untätig, %2 RAM.</translation>
+        <translation>Seit %1&#xa0;min untätig, %2 RAM.</translation>
     </message>
     <message>
         <source>Browsers using %1</source>
@@ -3186,7 +3222,7 @@
     </message>
     <message>
         <source>%1s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>History retention</source>
@@ -3250,11 +3286,11 @@
     <name>ServerWatch</name>
     <message>
         <source>%1, no CPU for %2 h</source>
-        <translation>%1, seit %2 h ohne CPU</translation>
+        <translation>%1, seit %2&#xa0;h ohne CPU</translation>
     </message>
     <message>
         <source>%1, no CPU for %2 min</source>
-        <translation>%1, seit %2 min ohne CPU</translation>
+        <translation>%1, seit %2&#xa0;min ohne CPU</translation>
     </message>
     <message>
         <source>in use by %1</source>

@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>Notify when RAM is getting tight</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM</source>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>Browsers</source>
@@ -399,6 +399,10 @@
     <message>
         <source>only old files can be moved</source>
         <translation>solo se pueden mover archivos antiguos</translation>
+    </message>
+    <message>
+        <source>it could not be listed</source>
+        <translation>no se pudo listar</translation>
     </message>
 </context>
 <context>
@@ -663,6 +667,14 @@
     <message>
         <source>Not finished: %1</source>
         <translation>Sin terminar: %1</translation>
+    </message>
+    <message>
+        <source>It is unknown which volumes go, with all that is in them.</source>
+        <translation>Se desconoce qué volúmenes se irán, con todo lo que contienen.</translation>
+    </message>
+    <message>
+        <source>unknown volumes</source>
+        <translation>volúmenes desconocidos</translation>
     </message>
 </context>
 <context>
@@ -935,8 +947,8 @@
         <translation>Aquí no hay montado ningún volumen de disco. El mosaico muestra el espacio de la carpeta raíz.</translation>
     </message>
     <message>
-        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
-        <translation>Un disco no responde. Se le vuelve a preguntar cada 10 segundos mientras esta página está abierta.</translation>
+        <source>A disk does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Un disco no responde. Se le volverá a preguntar en cuanto lo haga, mientras esta página esté abierta.</translation>
     </message>
 </context>
 <context>
@@ -1018,42 +1030,42 @@
     <name>Formatters</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>%1s</source>
         <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1m</source>
         <comment>minutes</comment>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1h</source>
         <comment>hours</comment>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
@@ -1117,7 +1129,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>, </source>
@@ -1140,16 +1152,20 @@
         <source>Freed ~%1</source>
         <translation>~%1 liberados</translation>
     </message>
+    <message>
+        <source>• stopped</source>
+        <translation>• detenido</translation>
+    </message>
 </context>
 <context>
     <name>FreeRAMSheet</name>
     <message>
         <source>Min idle: %1 min</source>
-        <translation>Inactividad mín.: %1 min</translation>
+        <translation>Inactividad mín.: %1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM: %1 MB</source>
-        <translation>RAM mín.: %1 MB</translation>
+        <translation>RAM mín.: %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Other programs too</source>
@@ -1206,6 +1222,14 @@
     <message>
         <source>Send memory pressure only</source>
         <translation>Enviar solo presión de memoria</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Kills nothing more; what still runs is left alone</source>
+        <translation>No fuerza ningún cierre más; lo que aún se ejecuta se deja como está</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +1983,14 @@
         <source>Deep purge (admin)</source>
         <translation>Purga profunda (admin)</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stop purging</source>
+        <translation>Detener la purga</translation>
+    </message>
 </context>
 <context>
     <name>MemoryKindsBar</name>
@@ -2057,15 +2089,15 @@
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
-        <translation>CPU %1 % • RAM %2 %</translation>
+        <translation>CPU %1&#xa0;% • RAM %2&#xa0;%</translation>
     </message>
     <message>
         <source>CPU %1%</source>
-        <translation>CPU %1 %</translation>
+        <translation>CPU %1&#xa0;%</translation>
     </message>
     <message>
         <source>RAM %1%</source>
-        <translation>RAM %1 %</translation>
+        <translation>RAM %1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2118,15 +2150,15 @@
     </message>
     <message>
         <source> • pressure %1 %</source>
-        <translation> • presión %1 %</translation>
+        <translation> • presión %1&#xa0;%</translation>
     </message>
     <message>
         <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Hubo programas esperando memoria el %1 % de los últimos diez segundos, todos a la vez el %2 %</translation>
+        <translation>Hubo programas esperando memoria el %1&#xa0;% de los últimos diez segundos, todos a la vez el %2&#xa0;%</translation>
     </message>
     <message>
         <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… y el %1 % esperando discos, todos a la vez el %2 %</translation>
+        <translation>… y el %1&#xa0;% esperando discos, todos a la vez el %2&#xa0;%</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -2355,6 +2387,10 @@
         <source>Permission denied</source>
         <translation>Permiso denegado</translation>
     </message>
+    <message>
+        <source>Still running</source>
+        <translation>Sigue en ejecución</translation>
+    </message>
 </context>
 <context>
     <name>OverviewView</name>
@@ -2409,11 +2445,11 @@
     <name>PresetTableModel</name>
     <message>
         <source>%1m</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>Force</source>
@@ -2458,7 +2494,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>RAM mín. %1 MB</translation>
+        <translation>RAM mín. %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Group duplicates</source>
@@ -2674,8 +2710,8 @@
         <translation>un programa desconocido</translation>
     </message>
     <message>
-        <source>it is another folder by now</source>
-        <translation>ahora es otra carpeta</translation>
+        <source>something in it is new, or is on the list of what is never cleaned</source>
+        <translation>algo en ella es nuevo o está en la lista de lo que nunca se limpia</translation>
     </message>
     <message>
         <source>in use by %1</source>
@@ -2874,7 +2910,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>RAM mín. %1 MB</translation>
+        <translation>RAM mín. %1&#xa0;MB</translation>
     </message>
     <message>
         <source>Use SIGKILL (force)</source>
@@ -2893,11 +2929,11 @@
     </message>
     <message>
         <source>idle≥%1m</source>
-        <translation>inactivo ≥%1 min</translation>
+        <translation>inactivo ≥%1&#xa0;min</translation>
     </message>
     <message>
         <source>RAM≥%1MB</source>
-        <translation>RAM ≥%1 MB</translation>
+        <translation>RAM ≥%1&#xa0;MB</translation>
     </message>
     <message>
         <source>force</source>
@@ -3063,7 +3099,7 @@
     </message>
     <message>
         <source>Only %1 GB free — consider quitting top hogs or cleaning caches.</source>
-        <translation>Solo %1 GB libres: cierre los procesos más grandes o limpie cachés.</translation>
+        <translation>Solo %1&#xa0;GB libres: cierre los procesos más grandes o limpie cachés.</translation>
     </message>
     <message>
         <source>RAM getting tight</source>
@@ -3071,7 +3107,7 @@
     </message>
     <message>
         <source>%1 GB free.</source>
-        <translation>%1 GB libres.</translation>
+        <translation>%1&#xa0;GB libres.</translation>
     </message>
     <message>
         <source>Programs wait for memory</source>
@@ -3083,15 +3119,15 @@
     </message>
     <message>
         <source>Memory full in about %1 min</source>
-        <translation>Memoria llena en unos %1 min</translation>
+        <translation>Memoria llena en unos %1&#xa0;min</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grow %3/min</source>
-        <translation>Memoria llena en unos %1 min: %2 crecen %3/min</translation>
+        <translation>Memoria llena en unos %1&#xa0;min: %2 crecen %3/min</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grows %3/min</source>
-        <translation>Memoria llena en unos %1 min: %2 crece %3/min</translation>
+        <translation>Memoria llena en unos %1&#xa0;min: %2 crece %3/min</translation>
     </message>
     <message>
         <source>%1 are left, with swap.</source>
@@ -3135,7 +3171,7 @@
     </message>
     <message>
         <source>%1 GB swapped — system will feel sluggish.</source>
-        <translation>%1 GB en swap: el sistema irá lento.</translation>
+        <translation>%1&#xa0;GB en swap: el sistema irá lento.</translation>
     </message>
     <message>
         <source>Idle agent — %1</source>
@@ -3147,11 +3183,11 @@
     </message>
     <message>
         <source>Idle %1 min, %2 RAM. Quit?</source>
-        <translation>Inactivo desde hace %1 min, %2 de RAM. ¿Cerrar?</translation>
+        <translation>Inactivo desde hace %1&#xa0;min, %2 de RAM. ¿Cerrar?</translation>
     </message>
     <message>
         <source>Idle %1 min, %2 RAM.</source>
-        <translation>Inactivo desde hace %1 min, %2 de RAM.</translation>
+        <translation>Inactivo desde hace %1&#xa0;min, %2 de RAM.</translation>
     </message>
     <message>
         <source>Browsers using %1</source>
@@ -3186,7 +3222,7 @@
     </message>
     <message>
         <source>%1s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>History retention</source>
@@ -3250,11 +3286,11 @@
     <name>ServerWatch</name>
     <message>
         <source>%1, no CPU for %2 h</source>
-        <translation>%1, sin CPU desde hace %2 h</translation>
+        <translation>%1, sin CPU desde hace %2&#xa0;h</translation>
     </message>
     <message>
         <source>%1, no CPU for %2 min</source>
-        <translation>%1, sin CPU desde hace %2 min</translation>
+        <translation>%1, sin CPU desde hace %2&#xa0;min</translation>
     </message>
     <message>
         <source>in use by %1</source>

@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 Go</translation>
+        <translation>%1&#xa0;Go</translation>
     </message>
     <message>
         <source>Notify when RAM is getting tight</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM</source>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>Browsers</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Notify: %1</source>
-        <translation>Notifier : %1</translation>
+        <translation>Notifier&#x202f;: %1</translation>
     </message>
     <message>
         <source>Notifications</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Every 30 min: kill orphan MCPs + send memory pressure</source>
-        <translation>Toutes les 30 min : tuer les MCP orphelins et envoyer une pression mémoire</translation>
+        <translation>Toutes les 30 min&#x202f;: tuer les MCP orphelins et envoyer une pression mémoire</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -267,11 +267,11 @@
     </message>
     <message>
         <source>Not in Clean All.</source>
-        <translation>Exclu de « Tout nettoyer ».</translation>
+        <translation>Exclu de «&#x202f;Tout nettoyer&#x202f;».</translation>
     </message>
     <message>
         <source>not in Clean All</source>
-        <translation>exclu de « Tout nettoyer »</translation>
+        <translation>exclu de «&#x202f;Tout nettoyer&#x202f;»</translation>
     </message>
 </context>
 <context>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Will run: %1</source>
-        <translation>Exécutera : %1</translation>
+        <translation>Exécutera&#x202f;: %1</translation>
     </message>
     <message>
         <source>Breakdown</source>
@@ -313,7 +313,7 @@
     <name>CacheScanner</name>
     <message>
         <source>%1 cannot be cleaned: %2.</source>
-        <translation>Impossible de nettoyer %1 : %2.</translation>
+        <translation>Impossible de nettoyer %1&#x202f;: %2.</translation>
     </message>
     <message>
         <source>The tool calls %1 of it reclaimable.</source>
@@ -348,7 +348,7 @@
     </message>
     <message>
         <source>%1 reclaimable across %2 targets</source>
-        <translation>%1 récupérables, cibles : %2</translation>
+        <translation>%1 récupérables, cibles&#x202f;: %2</translation>
     </message>
     <message>
         <source>Measuring %1 (%2 of %3)</source>
@@ -356,7 +356,7 @@
     </message>
     <message>
         <source>Nothing is measured yet. “Rescan” in the section Cleanup does that.</source>
-        <translation>Rien n’est encore mesuré. « Réanalyser » dans la section Nettoyage le fait.</translation>
+        <translation>Rien n’est encore mesuré. «&#x202f;Réanalyser&#x202f;» dans la section Nettoyage le fait.</translation>
     </message>
 </context>
 <context>
@@ -394,11 +394,15 @@
     </message>
     <message>
         <source>%1 was not moved to the trash: %2</source>
-        <translation>%1 n’a pas été mis à la corbeille : %2</translation>
+        <translation>%1 n’a pas été mis à la corbeille&#x202f;: %2</translation>
     </message>
     <message>
         <source>only old files can be moved</source>
         <translation>seuls d’anciens fichiers peuvent être déplacés</translation>
+    </message>
+    <message>
+        <source>it could not be listed</source>
+        <translation>impossible d’en dresser la liste</translation>
     </message>
 </context>
 <context>
@@ -409,14 +413,14 @@
     </message>
     <message>
         <source>Volumes that go, with all that is in them: %1</source>
-        <translation>Volumes supprimés avec tout leur contenu : %1</translation>
+        <translation>Volumes supprimés avec tout leur contenu&#x202f;: %1</translation>
     </message>
 </context>
 <context>
     <name>CleanupConfirmation</name>
     <message>
         <source>Delete %1?</source>
-        <translation>Supprimer %1 ?</translation>
+        <translation>Supprimer %1&#x202f;?</translation>
     </message>
     <message>
         <source>Delete %1</source>
@@ -424,7 +428,7 @@
     </message>
     <message>
         <source>Clean all reclaimable caches?</source>
-        <translation>Nettoyer tous les caches récupérables ?</translation>
+        <translation>Nettoyer tous les caches récupérables&#x202f;?</translation>
     </message>
     <message>
         <source>Clean %1</source>
@@ -455,7 +459,7 @@
     </message>
     <message>
         <source>Could not look into %1: %2</source>
-        <translation>Impossible d’examiner %1 : %2</translation>
+        <translation>Impossible d’examiner %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1 will come back</source>
@@ -535,7 +539,7 @@
     </message>
     <message>
         <source>When off, “Clean All” in Optimize starts at once.</source>
-        <translation>Si désactivé, « Tout nettoyer » dans Optimiser démarre aussitôt.</translation>
+        <translation>Si désactivé, «&#x202f;Tout nettoyer&#x202f;» dans Optimiser démarre aussitôt.</translation>
     </message>
     <message>
         <source>Never clean</source>
@@ -563,7 +567,7 @@
     </message>
     <message>
         <source>Where “Project leftovers” looks for projects. Hidden folders and other disks are left out.</source>
-        <translation>Où « Restes de projets » cherche les projets. Les dossiers cachés et les autres disques sont ignorés.</translation>
+        <translation>Où «&#x202f;Restes de projets&#x202f;» cherche les projets. Les dossiers cachés et les autres disques sont ignorés.</translation>
     </message>
 </context>
 <context>
@@ -571,7 +575,7 @@
     <message>
         <source>“%1”</source>
         <comment>a name</comment>
-        <translation>« %1 »</translation>
+        <translation>«&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>%1 more</source>
@@ -594,7 +598,7 @@
     </message>
     <message>
         <source>Gone for good: %1</source>
-        <translation>Supprimé définitivement : %1</translation>
+        <translation>Supprimé définitivement&#x202f;: %1</translation>
     </message>
     <message>
         <source>Gone for good</source>
@@ -610,11 +614,11 @@
     </message>
     <message>
         <source>These files of yours will be gone for good: %1.</source>
-        <translation>Ces fichiers à vous seront supprimés définitivement : %1.</translation>
+        <translation>Ces fichiers à vous seront supprimés définitivement&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Gone for good, with all that is in them: %1.</source>
-        <translation>Supprimés définitivement, avec tout leur contenu : %1.</translation>
+        <translation>Supprimés définitivement, avec tout leur contenu&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Stopped containers go too. Images and build caches are fetched or built again as needed.</source>
@@ -626,7 +630,7 @@
     </message>
     <message>
         <source>What goes: %1.</source>
-        <translation>Ce qui sera supprimé : %1.</translation>
+        <translation>Ce qui sera supprimé&#x202f;: %1.</translation>
     </message>
     <message>
         <source>No volumes go.</source>
@@ -642,19 +646,19 @@
     </message>
     <message>
         <source>Not so with what is yours. It will be gone for good: %1.</source>
-        <translation>Ce n’est pas le cas de vos propres données. Elles seront supprimées définitivement : %1.</translation>
+        <translation>Ce n’est pas le cas de vos propres données. Elles seront supprimées définitivement&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Some of them overlap; the total counts what they share once.</source>
-        <translation>Certains se recouvrent ; le total ne compte qu’une fois ce qu’ils partagent.</translation>
+        <translation>Certains se recouvrent&#x202f;; le total ne compte qu’une fois ce qu’ils partagent.</translation>
     </message>
     <message>
         <source>Stopped: cleaned %1 of %2 targets, freed ~%3</source>
-        <translation>Arrêté : %1 cibles sur %2, ~%3 libérés</translation>
+        <translation>Arrêté&#x202f;: %1 cibles sur %2, ~%3 libérés</translation>
     </message>
     <message>
         <source>Cleaned %1 targets, freed ~%2</source>
-        <translation>Cibles nettoyées : %1, ~%2 libérés</translation>
+        <translation>Cibles nettoyées&#x202f;: %1, ~%2 libérés</translation>
     </message>
     <message>
         <source>%1 came back on the disk</source>
@@ -662,7 +666,15 @@
     </message>
     <message>
         <source>Not finished: %1</source>
-        <translation>Inachevé : %1</translation>
+        <translation>Inachevé&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>It is unknown which volumes go, with all that is in them.</source>
+        <translation>On ignore quels volumes disparaîtront, avec tout leur contenu.</translation>
+    </message>
+    <message>
+        <source>unknown volumes</source>
+        <translation>volumes inconnus</translation>
     </message>
 </context>
 <context>
@@ -701,7 +713,7 @@
     </message>
     <message>
         <source>Reclaimable: %1</source>
-        <translation>Récupérable : %1</translation>
+        <translation>Récupérable&#x202f;: %1</translation>
     </message>
     <message>
         <source>Build folders of your projects, which their tools make again.</source>
@@ -721,7 +733,7 @@
     </message>
     <message>
         <source>nothing is measured yet: “Rescan” does that</source>
-        <translation>rien n’est encore mesuré : « Réanalyser » le fait</translation>
+        <translation>rien n’est encore mesuré&#x202f;: «&#x202f;Réanalyser&#x202f;» le fait</translation>
     </message>
     <message>
         <source>Stop measuring</source>
@@ -935,8 +947,8 @@
         <translation>Aucun volume de disque n’est monté ici. La tuile montre l’espace du dossier racine.</translation>
     </message>
     <message>
-        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
-        <translation>Un disque ne répond pas. Il est interrogé toutes les 10 secondes tant que cette page est ouverte.</translation>
+        <source>A disk does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Un disque ne répond pas. Il sera de nouveau interrogé dès qu’il répondra, tant que cette page est ouverte.</translation>
     </message>
 </context>
 <context>
@@ -961,24 +973,24 @@
     </message>
     <message>
         <source>Force kill %1?</source>
-        <translation>Forcer l’arrêt de %1 ?</translation>
+        <translation>Forcer l’arrêt de %1&#xa0;?</translation>
     </message>
     <message>
         <source>Quit %1?</source>
-        <translation>Quitter %1 ?</translation>
+        <translation>Quitter %1&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>Force kill %n process(es)?</source>
         <translation>
-            <numerusform>Forcer l’arrêt de %n processus ?</numerusform>
-            <numerusform>Forcer l’arrêt de %n processus ?</numerusform>
+            <numerusform>Forcer l’arrêt de %n processus&#xa0;?</numerusform>
+            <numerusform>Forcer l’arrêt de %n processus&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Quit %n process(es)?</source>
         <translation>
-            <numerusform>Quitter %n processus ?</numerusform>
-            <numerusform>Quitter %n processus ?</numerusform>
+            <numerusform>Quitter %n processus&#xa0;?</numerusform>
+            <numerusform>Quitter %n processus&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -995,7 +1007,7 @@
     </message>
     <message>
         <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter ; il peut perdre ce qui n’est pas enregistré.</translation>
+        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter&#x202f;; il peut perdre ce qui n’est pas enregistré.</translation>
     </message>
     <message>
         <source>Force kill</source>
@@ -1018,42 +1030,42 @@
     <name>Formatters</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 Ko</translation>
+        <translation>%1&#xa0;Ko</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 Go</translation>
+        <translation>%1&#xa0;Go</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 To</translation>
+        <translation>%1&#xa0;To</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 Po</translation>
+        <translation>%1&#xa0;Po</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 Eo</translation>
+        <translation>%1&#xa0;Eo</translation>
     </message>
     <message>
         <source>%1s</source>
         <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1m</source>
         <comment>minutes</comment>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1h</source>
         <comment>hours</comment>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
@@ -1117,7 +1129,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>, </source>
@@ -1140,16 +1152,20 @@
         <source>Freed ~%1</source>
         <translation>~%1 libérés</translation>
     </message>
+    <message>
+        <source>• stopped</source>
+        <translation>• arrêté</translation>
+    </message>
 </context>
 <context>
     <name>FreeRAMSheet</name>
     <message>
         <source>Min idle: %1 min</source>
-        <translation>Inactivité min. : %1 min</translation>
+        <translation>Inactivité min.&#x202f;: %1&#xa0;min</translation>
     </message>
     <message>
         <source>Min RAM: %1 MB</source>
-        <translation>RAM min. : %1 Mo</translation>
+        <translation>RAM min.&#x202f;: %1&#xa0;Mo</translation>
     </message>
     <message>
         <source>Other programs too</source>
@@ -1169,7 +1185,7 @@
     </message>
     <message>
         <source>Tick the processes you want to terminate. SIGTERM is sent first; anything still running after 2 s gets SIGKILL. %1 is then nudged with a memory-pressure hint to compress inactive pages.</source>
-        <translation>Cochez les processus à terminer. SIGTERM est envoyé d’abord ; ce qui tourne encore après 2 s reçoit SIGKILL. Une pression mémoire incite ensuite %1 à compresser les pages inactives.</translation>
+        <translation>Cochez les processus à terminer. SIGTERM est envoyé d’abord&#x202f;; ce qui tourne encore après 2 s reçoit SIGKILL. Une pression mémoire incite ensuite %1 à compresser les pages inactives.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1207,6 +1223,14 @@
         <source>Send memory pressure only</source>
         <translation>Envoyer seulement une pression mémoire</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Kills nothing more; what still runs is left alone</source>
+        <translation>N’arrête plus rien de force ; ce qui tourne encore est laissé tel quel</translation>
+    </message>
 </context>
 <context>
     <name>FreedesktopLoginItem</name>
@@ -1219,23 +1243,23 @@
     <name>FreedesktopPlaces</name>
     <message>
         <source>%1 is left alone: a whole file system is mounted there.</source>
-        <translation>%1 est laissé tel quel : un système de fichiers entier y est monté.</translation>
+        <translation>%1 est laissé tel quel&#x202f;: un système de fichiers entier y est monté.</translation>
     </message>
     <message>
         <source>%1 is left alone: it is a link.</source>
-        <translation>%1 est laissé tel quel : c’est un lien.</translation>
+        <translation>%1 est laissé tel quel&#x202f;: c’est un lien.</translation>
     </message>
     <message>
         <source>%1 is left alone: it holds more than that, in %2.</source>
-        <translation>%1 est laissé tel quel : il contient davantage, dans %2.</translation>
+        <translation>%1 est laissé tel quel&#x202f;: il contient davantage, dans %2.</translation>
     </message>
     <message>
         <source>%1 is left alone: all programs share it.</source>
-        <translation>%1 est laissé tel quel : tous les programmes le partagent.</translation>
+        <translation>%1 est laissé tel quel&#x202f;: tous les programmes le partagent.</translation>
     </message>
     <message>
         <source>%1 is left alone: the folder of caches must have nothing to do with %2.</source>
-        <translation>%1 est laissé tel quel : le dossier des caches ne doit rien avoir à faire avec %2.</translation>
+        <translation>%1 est laissé tel quel&#x202f;: le dossier des caches ne doit rien avoir à faire avec %2.</translation>
     </message>
 </context>
 <context>
@@ -1266,7 +1290,7 @@
     </message>
     <message>
         <source>Toolchains that are not the default. A project may still name one: rustup fetches it again, but not one of your own.</source>
-        <translation>Chaînes d’outils autres que celle par défaut. Un projet peut encore en nommer une : rustup la retélécharge, sauf si elle est de vous.</translation>
+        <translation>Chaînes d’outils autres que celle par défaut. Un projet peut encore en nommer une&#x202f;: rustup la retélécharge, sauf si elle est de vous.</translation>
     </message>
     <message>
         <source>Yarn and Corepack fetch it again.</source>
@@ -1401,11 +1425,11 @@
     </message>
     <message>
         <source>Couldn&apos;t register: %1</source>
-        <translation>Échec de l’enregistrement : %1</translation>
+        <translation>Échec de l’enregistrement&#x202f;: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t unregister: %1</source>
-        <translation>Échec de la suppression de l’enregistrement : %1</translation>
+        <translation>Échec de la suppression de l’enregistrement&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -1506,7 +1530,7 @@
     </message>
     <message>
         <source>Clear action history?</source>
-        <translation>Effacer l’historique des actions ?</translation>
+        <translation>Effacer l’historique des actions&#x202f;?</translation>
     </message>
     <message>
         <source>This deletes ~/Library/Logs/Tavrin/actions.log.</source>
@@ -1632,7 +1656,7 @@
     </message>
     <message>
         <source>Renderer of %1: a page or an extension</source>
-        <translation>Moteur de rendu de %1 : une page ou une extension</translation>
+        <translation>Moteur de rendu de %1&#xa0;: une page ou une extension</translation>
     </message>
     <message>
         <source>Graphics process of %1</source>
@@ -1648,7 +1672,7 @@
     </message>
     <message>
         <source>Content process of %1: pages or extensions</source>
-        <translation>Processus de contenu de %1 : pages ou extensions</translation>
+        <translation>Processus de contenu de %1&#xa0;: pages ou extensions</translation>
     </message>
 </context>
 <context>
@@ -1774,7 +1798,7 @@
     </message>
     <message>
         <source>Unknown: the system tells it only of your own processes.</source>
-        <translation>Inconnu : le système ne l’indique que pour vos propres processus.</translation>
+        <translation>Inconnu&#xa0;: le système ne l’indique que pour vos propres processus.</translation>
     </message>
     <message>
         <source>Being read…</source>
@@ -1802,7 +1826,7 @@
     </message>
     <message>
         <source>Unknown: it has ended.</source>
-        <translation>Inconnu : il s’est terminé.</translation>
+        <translation>Inconnu&#x202f;: il s’est terminé.</translation>
     </message>
 </context>
 <context>
@@ -1817,7 +1841,7 @@
     </message>
     <message>
         <source>Never clean this?</source>
-        <translation>Ne jamais nettoyer ceci ?</translation>
+        <translation>Ne jamais nettoyer ceci&#x202f;?</translation>
     </message>
     <message>
         <source>Never Clean</source>
@@ -1841,8 +1865,8 @@
     <message numerus="yes">
         <source>Stopped: removed %n folder(s), freed ~%1</source>
         <translation>
-            <numerusform>Arrêté : %n dossier supprimé, ~%1 libérés</numerusform>
-            <numerusform>Arrêté : %n dossiers supprimés, ~%1 libérés</numerusform>
+            <numerusform>Arrêté&#x202f;: %n dossier supprimé, ~%1 libérés</numerusform>
+            <numerusform>Arrêté&#x202f;: %n dossiers supprimés, ~%1 libérés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1949,7 +1973,7 @@
     </message>
     <message>
         <source>Pressure: free + compress. Deep purge prompts admin and flushes the unified buffer cache (heavier).</source>
-        <translation>Pression : libère et compresse. La purge profonde demande les droits d’administrateur et vide tout le cache tampon (plus lourd).</translation>
+        <translation>Pression&#x202f;: libère et compresse. La purge profonde demande les droits d’administrateur et vide tout le cache tampon (plus lourd).</translation>
     </message>
     <message>
         <source>Purging…</source>
@@ -1958,6 +1982,14 @@
     <message>
         <source>Deep purge (admin)</source>
         <translation>Purge profonde (admin)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stop purging</source>
+        <translation>Arrêter la purge</translation>
     </message>
 </context>
 <context>
@@ -2057,15 +2089,15 @@
     <name>MenuBarController</name>
     <message>
         <source>CPU %1% • RAM %2%</source>
-        <translation>CPU %1 % • RAM %2 %</translation>
+        <translation>CPU %1&#x202f;% • RAM %2&#x202f;%</translation>
     </message>
     <message>
         <source>CPU %1%</source>
-        <translation>CPU %1 %</translation>
+        <translation>CPU %1&#x202f;%</translation>
     </message>
     <message>
         <source>RAM %1%</source>
-        <translation>RAM %1 %</translation>
+        <translation>RAM %1&#x202f;%</translation>
     </message>
 </context>
 <context>
@@ -2118,15 +2150,15 @@
     </message>
     <message>
         <source> • pressure %1 %</source>
-        <translation> • pression %1 %</translation>
+        <translation> • pression %1&#x202f;%</translation>
     </message>
     <message>
         <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Des programmes ont attendu de la mémoire pendant %1 % des dix dernières secondes, tous à la fois %2 %</translation>
+        <translation>Des programmes ont attendu de la mémoire pendant %1&#x202f;% des dix dernières secondes, tous à la fois %2&#x202f;%</translation>
     </message>
     <message>
         <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… et %1 % pour les disques, tous à la fois %2 %</translation>
+        <translation>… et %1&#x202f;% pour les disques, tous à la fois %2&#x202f;%</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -2244,11 +2276,11 @@
     <name>NukePreview</name>
     <message>
         <source>Quit “%1” and all %2 helpers?</source>
-        <translation>Quitter « %1 » et ses %2 processus auxiliaires ?</translation>
+        <translation>Quitter «&#x202f;%1&#x202f;» et ses %2 processus auxiliaires&#x202f;?</translation>
     </message>
     <message>
         <source>Kill all %1 “%2” processes?</source>
-        <translation>Tuer les %1 processus « %2 » ?</translation>
+        <translation>Tuer les %1 processus «&#x202f;%2&#x202f;»&#x202f;?</translation>
     </message>
     <message>
         <source>Tells %1 to quit cleanly — closes all %2 child processes in one sweep, no per-tab pop-ups. Frees ≈%3.</source>
@@ -2260,7 +2292,7 @@
     </message>
     <message>
         <source>PIDs: %1</source>
-        <translation>PID : %1</translation>
+        <translation>PID&#x202f;: %1</translation>
     </message>
     <message>
         <source>%1 of its files stay in the cache.</source>
@@ -2268,7 +2300,7 @@
     </message>
     <message>
         <source>What runs in its terminals ends too (≈%1): %2.</source>
-        <translation>Ce qui tourne dans ses terminaux s’arrête aussi (≈%1) : %2.</translation>
+        <translation>Ce qui tourne dans ses terminaux s’arrête aussi (≈%1)&#x202f;: %2.</translation>
     </message>
     <message>
         <source>Quit %1 (≈%2)</source>
@@ -2292,7 +2324,7 @@
     </message>
     <message>
         <source>Killed %1/%2 “%3” processes (≈%4 targeted)</source>
-        <translation>%1/%2 processus « %3 » tués (≈%4 visés)</translation>
+        <translation>%1/%2 processus «&#x202f;%3&#x202f;» tués (≈%4 visés)</translation>
     </message>
 </context>
 <context>
@@ -2326,7 +2358,7 @@
     </message>
     <message>
         <source>Killed %1 orphan MCP server(s)</source>
-        <translation>Serveurs MCP orphelins tués : %1</translation>
+        <translation>Serveurs MCP orphelins tués&#x202f;: %1</translation>
     </message>
     <message>
         <source>No orphan MCPs to kill</source>
@@ -2337,7 +2369,7 @@
     <name>OutcomeList</name>
     <message>
         <source>Left alone: it belongs to something else</source>
-        <translation>Laissé tel quel : appartient à autre chose</translation>
+        <translation>Laissé tel quel&#x202f;: appartient à autre chose</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -2354,6 +2386,10 @@
     <message>
         <source>Permission denied</source>
         <translation>Permission refusée</translation>
+    </message>
+    <message>
+        <source>Still running</source>
+        <translation>Toujours en cours</translation>
     </message>
 </context>
 <context>
@@ -2409,11 +2445,11 @@
     <name>PresetTableModel</name>
     <message>
         <source>%1m</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>Force</source>
@@ -2428,7 +2464,7 @@
     <name>PresetTile</name>
     <message>
         <source>%1, %2, %3 matching</source>
-        <translation>%1, %2, correspondances : %3</translation>
+        <translation>%1, %2, correspondances&#x202f;: %3</translation>
     </message>
 </context>
 <context>
@@ -2458,7 +2494,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>RAM min. %1 Mo</translation>
+        <translation>RAM min. %1&#xa0;Mo</translation>
     </message>
     <message>
         <source>Group duplicates</source>
@@ -2478,7 +2514,7 @@
     </message>
     <message>
         <source>Words of a name, a path or arguments, a PID, or :8080 for who listens on that port</source>
-        <translation>Mots d’un nom, d’un chemin ou d’arguments, un PID, ou :8080 pour qui écoute sur ce port</translation>
+        <translation>Mots d’un nom, d’un chemin ou d’arguments, un PID, ou&#xa0;:8080 pour qui écoute sur ce port</translation>
     </message>
     <message>
         <source>Children below their parents</source>
@@ -2576,7 +2612,7 @@
     </message>
     <message>
         <source>Nuke all %1 “%2” processes</source>
-        <translation>Tuer les %1 processus « %2 »</translation>
+        <translation>Tuer les %1 processus «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>%1, row %2 of %3</source>
@@ -2584,7 +2620,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>level %1</source>
@@ -2652,7 +2688,7 @@
     </message>
     <message>
         <source>%1. The order is held while a row is in use; F5 sorts anew.</source>
-        <translation>%1. L’ordre est figé tant qu’une ligne est utilisée ; F5 trie à nouveau.</translation>
+        <translation>%1. L’ordre est figé tant qu’une ligne est utilisée&#xa0;; F5 trie à nouveau.</translation>
     </message>
     <message>
         <source>%1, as they were when power became low.</source>
@@ -2674,8 +2710,8 @@
         <translation>un programme inconnu</translation>
     </message>
     <message>
-        <source>it is another folder by now</source>
-        <translation>c’est désormais un autre dossier</translation>
+        <source>something in it is new, or is on the list of what is never cleaned</source>
+        <translation>quelque chose y est nouveau ou figure dans la liste de ce qui n’est jamais nettoyé</translation>
     </message>
     <message>
         <source>in use by %1</source>
@@ -2762,7 +2798,7 @@
     </message>
     <message>
         <source>and %1 more: search to see them</source>
-        <translation>et %1 de plus : recherchez pour les voir</translation>
+        <translation>et %1 de plus&#x202f;: recherchez pour les voir</translation>
     </message>
     <message>
         <source>the search (%1)</source>
@@ -2770,7 +2806,7 @@
     </message>
     <message>
         <source>Not finished: %1</source>
-        <translation>Inachevé : %1</translation>
+        <translation>Inachevé&#x202f;: %1</translation>
     </message>
     <message>
         <source>Remove…</source>
@@ -2794,8 +2830,8 @@
     <message numerus="yes">
         <source>Remove %n folder(s)?</source>
         <translation>
-            <numerusform>Supprimer %n dossier ?</numerusform>
-            <numerusform>Supprimer %n dossiers ?</numerusform>
+            <numerusform>Supprimer %n dossier&#x202f;?</numerusform>
+            <numerusform>Supprimer %n dossiers&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2808,11 +2844,11 @@
     </message>
     <message>
         <source>No project here has anything left by a build. “Add folder…” looks in other places too.</source>
-        <translation>Aucun projet ici n’a de restes de compilation. « Ajouter un dossier… » cherche aussi ailleurs.</translation>
+        <translation>Aucun projet ici n’a de restes de compilation. «&#x202f;Ajouter un dossier…&#x202f;» cherche aussi ailleurs.</translation>
     </message>
     <message>
         <source>“Stop” ends the search and keeps what it has found.</source>
-        <translation>« Arrêter » met fin à la recherche et garde ce qui est trouvé.</translation>
+        <translation>«&#x202f;Arrêter&#x202f;» met fin à la recherche et garde ce qui est trouvé.</translation>
     </message>
     <message>
         <source>No projects match</source>
@@ -2839,11 +2875,11 @@
     </message>
     <message>
         <source>It draws the screen: every window closes, and what is not saved in them is lost.</source>
-        <translation>Il dessine l’écran : toutes les fenêtres se ferment, et ce qui n’y est pas enregistré est perdu.</translation>
+        <translation>Il dessine l’écran&#xa0;: toutes les fenêtres se ferment, et ce qui n’y est pas enregistré est perdu.</translation>
     </message>
     <message>
         <source>It holds your login: you are logged out, and what is not saved is lost.</source>
-        <translation>Il tient votre session : vous êtes déconnecté, et ce qui n’est pas enregistré est perdu.</translation>
+        <translation>Il tient votre session&#xa0;: vous êtes déconnecté, et ce qui n’est pas enregistré est perdu.</translation>
     </message>
     <message>
         <source>It runs the services of your login, such as sound and the message bus, and much of the desktop. They end with it.</source>
@@ -2874,7 +2910,7 @@
     </message>
     <message>
         <source>Min RAM %1 MB</source>
-        <translation>RAM min. %1 Mo</translation>
+        <translation>RAM min. %1&#xa0;Mo</translation>
     </message>
     <message>
         <source>Use SIGKILL (force)</source>
@@ -2889,15 +2925,15 @@
     <name>QuickKillPreset</name>
     <message>
         <source>pattern: %1</source>
-        <translation>motif : %1</translation>
+        <translation>motif&#x202f;: %1</translation>
     </message>
     <message>
         <source>idle≥%1m</source>
-        <translation>inactif ≥%1 min</translation>
+        <translation>inactif ≥%1&#xa0;min</translation>
     </message>
     <message>
         <source>RAM≥%1MB</source>
-        <translation>RAM ≥%1 Mo</translation>
+        <translation>RAM ≥%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>force</source>
@@ -2905,11 +2941,11 @@
     </message>
     <message>
         <source>%1: nothing matched</source>
-        <translation>%1 : aucune correspondance</translation>
+        <translation>%1&#x202f;: aucune correspondance</translation>
     </message>
     <message>
         <source>%1: killed %2/%3</source>
-        <translation>%1 : %2/%3 tués</translation>
+        <translation>%1&#x202f;: %2/%3 tués</translation>
     </message>
 </context>
 <context>
@@ -2958,11 +2994,11 @@
     <name>QuitDialog</name>
     <message>
         <source>Quit %1?</source>
-        <translation>Quitter %1 ?</translation>
+        <translation>Quitter %1&#x202f;?</translation>
     </message>
     <message>
         <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter ; il peut perdre ce qui n’est pas enregistré.</translation>
+        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter&#x202f;; il peut perdre ce qui n’est pas enregistré.</translation>
     </message>
     <message>
         <source>Quit %1</source>
@@ -2984,7 +3020,7 @@
     </message>
     <message>
         <source>ended %1: %2</source>
-        <translation>terminée %1 : %2</translation>
+        <translation>terminée %1&#x202f;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n older one(s)</source>
@@ -3025,7 +3061,7 @@
     </message>
     <message>
         <source>Promised: %1 in memory, %2 in swap. Came back: %3 in memory, %4 in swap.</source>
-        <translation>Prévu : %1 en mémoire, %2 en swap. Récupéré : %3 en mémoire, %4 en swap.</translation>
+        <translation>Prévu&#x202f;: %1 en mémoire, %2 en swap. Récupéré&#x202f;: %3 en mémoire, %4 en swap.</translation>
     </message>
 </context>
 <context>
@@ -3052,7 +3088,7 @@
     <message>
         <source>%1: %2</source>
         <comment>an action, and what it is about</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#x202f;: %2</translation>
     </message>
 </context>
 <context>
@@ -3063,7 +3099,7 @@
     </message>
     <message>
         <source>Only %1 GB free — consider quitting top hogs or cleaning caches.</source>
-        <translation>Seulement %1 Go libres — quittez les plus gros processus ou nettoyez des caches.</translation>
+        <translation>Seulement %1&#xa0;Go libres — quittez les plus gros processus ou nettoyez des caches.</translation>
     </message>
     <message>
         <source>RAM getting tight</source>
@@ -3071,7 +3107,7 @@
     </message>
     <message>
         <source>%1 GB free.</source>
-        <translation>%1 Go libres.</translation>
+        <translation>%1&#xa0;Go libres.</translation>
     </message>
     <message>
         <source>Programs wait for memory</source>
@@ -3083,15 +3119,15 @@
     </message>
     <message>
         <source>Memory full in about %1 min</source>
-        <translation>Mémoire pleine dans environ %1 min</translation>
+        <translation>Mémoire pleine dans environ %1&#xa0;min</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grow %3/min</source>
-        <translation>Mémoire pleine dans environ %1 min — %2 grossissent de %3/min</translation>
+        <translation>Mémoire pleine dans environ %1&#xa0;min — %2 grossissent de %3/min</translation>
     </message>
     <message>
         <source>Memory full in about %1 min — %2 grows %3/min</source>
-        <translation>Mémoire pleine dans environ %1 min — %2 grossit de %3/min</translation>
+        <translation>Mémoire pleine dans environ %1&#xa0;min — %2 grossit de %3/min</translation>
     </message>
     <message>
         <source>%1 are left, with swap.</source>
@@ -3111,7 +3147,7 @@
     </message>
     <message>
         <source>Judged by what vanished then: the system&apos;s record is not readable.</source>
-        <translation>Déduit de ce qui a disparu à ce moment : le journal du système n’est pas lisible.</translation>
+        <translation>Déduit de ce qui a disparu à ce moment&#x202f;: le journal du système n’est pas lisible.</translation>
     </message>
     <message>
         <source>CPU saturated</source>
@@ -3119,7 +3155,7 @@
     </message>
     <message>
         <source>%1 total — top: %2</source>
-        <translation>%1 au total — en tête : %2</translation>
+        <translation>%1 au total — en tête&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1 is running hot (%2)</source>
@@ -3135,7 +3171,7 @@
     </message>
     <message>
         <source>%1 GB swapped — system will feel sluggish.</source>
-        <translation>%1 Go en swap — le système sera lent.</translation>
+        <translation>%1&#xa0;Go en swap — le système sera lent.</translation>
     </message>
     <message>
         <source>Idle agent — %1</source>
@@ -3147,11 +3183,11 @@
     </message>
     <message>
         <source>Idle %1 min, %2 RAM. Quit?</source>
-        <translation>Inactif depuis %1 min, %2 de RAM. Quitter ?</translation>
+        <translation>Inactif depuis %1&#xa0;min, %2 de RAM. Quitter&#x202f;?</translation>
     </message>
     <message>
         <source>Idle %1 min, %2 RAM.</source>
-        <translation>Inactif depuis %1 min, %2 de RAM.</translation>
+        <translation>Inactif depuis %1&#xa0;min, %2 de RAM.</translation>
     </message>
     <message>
         <source>Browsers using %1</source>
@@ -3163,7 +3199,7 @@
     </message>
     <message>
         <source>Caches reclaimable: %1</source>
-        <translation>Caches récupérables : %1</translation>
+        <translation>Caches récupérables&#x202f;: %1</translation>
     </message>
     <message>
         <source>%1 holds %2</source>
@@ -3186,7 +3222,7 @@
     </message>
     <message>
         <source>%1s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>History retention</source>
@@ -3209,7 +3245,7 @@
     <name>SamplingTexts</name>
     <message>
         <source>Processes are not read while power is low. “Pause sampling on Low Power Mode” in the settings, under Sampling, changes that.</source>
-        <translation>Les processus ne sont pas lus en économie d’énergie. « Suspendre la mesure en mode économie d’énergie » dans les réglages, sous Mesure, le change.</translation>
+        <translation>Les processus ne sont pas lus en économie d’énergie. «&#x202f;Suspendre la mesure en mode économie d’énergie&#x202f;» dans les réglages, sous Mesure, le change.</translation>
     </message>
     <message>
         <source>The system lists no processes now. F5 reads them again.</source>
@@ -3231,15 +3267,15 @@
     </message>
     <message>
         <source>Orphan %1, PID %2, parent: %3, %4</source>
-        <translation>Orphelin %1, PID %2, parent : %3, %4</translation>
+        <translation>Orphelin %1, PID %2, parent&#x202f;: %3, %4</translation>
     </message>
     <message>
         <source>Running %1, PID %2, parent: %3, %4</source>
-        <translation>En cours %1, PID %2, parent : %3, %4</translation>
+        <translation>En cours %1, PID %2, parent&#x202f;: %3, %4</translation>
     </message>
     <message>
         <source>parent: %1</source>
-        <translation>parent : %1</translation>
+        <translation>parent&#x202f;: %1</translation>
     </message>
     <message>
         <source>PID %1</source>
@@ -3250,11 +3286,11 @@
     <name>ServerWatch</name>
     <message>
         <source>%1, no CPU for %2 h</source>
-        <translation>%1, sans CPU depuis %2 h</translation>
+        <translation>%1, sans CPU depuis %2&#xa0;h</translation>
     </message>
     <message>
         <source>%1, no CPU for %2 min</source>
-        <translation>%1, sans CPU depuis %2 min</translation>
+        <translation>%1, sans CPU depuis %2&#xa0;min</translation>
     </message>
     <message>
         <source>in use by %1</source>
@@ -3274,15 +3310,15 @@
     </message>
     <message>
         <source>orphan: no agent or editor above it</source>
-        <translation>orphelin : ni agent ni éditeur au-dessus</translation>
+        <translation>orphelin&#x202f;: ni agent ni éditeur au-dessus</translation>
     </message>
     <message>
         <source>orphan: its host %1 ended at %2</source>
-        <translation>orphelin : son hôte %1 s’est arrêté à %2</translation>
+        <translation>orphelin&#x202f;: son hôte %1&#xa0;s’est arrêté à %2</translation>
     </message>
     <message>
         <source>orphan: no longer below its host %1</source>
-        <translation>orphelin : n’est plus sous son hôte %1</translation>
+        <translation>orphelin&#x202f;: n’est plus sous son hôte %1</translation>
     </message>
 </context>
 <context>
@@ -3296,7 +3332,7 @@
     <name>SessionActions</name>
     <message>
         <source>End %1?</source>
-        <translation>Terminer %1 ?</translation>
+        <translation>Terminer %1&#x202f;?</translation>
     </message>
     <message>
         <source>End session</source>
@@ -3338,19 +3374,19 @@
     </message>
     <message>
         <source>The agent is asked first and has 5 s to save. What it started ends with it, and what stays is force-killed.</source>
-        <translation>L’agent est sollicité d’abord et a 5 s pour enregistrer. Ce qu’il a lancé se termine avec lui ; ce qui reste est arrêté de force.</translation>
+        <translation>L’agent est sollicité d’abord et a 5 s pour enregistrer. Ce qu’il a lancé se termine avec lui&#x202f;; ce qui reste est arrêté de force.</translation>
     </message>
     <message>
         <source>The processes are asked to end, and what stays is force-killed.</source>
-        <translation>Il est demandé aux processus de s’arrêter ; ce qui reste est arrêté de force.</translation>
+        <translation>Il est demandé aux processus de s’arrêter&#x202f;; ce qui reste est arrêté de force.</translation>
     </message>
     <message>
         <source>This takes the conversation up again: %1</source>
-        <translation>Pour reprendre la conversation : %1</translation>
+        <translation>Pour reprendre la conversation&#x202f;: %1</translation>
     </message>
     <message>
         <source>Stops the session and all that it started: they keep their memory and use no processor time until you resume them, or close this program.</source>
-        <translation>Arrête la session et tout ce qu’elle a lancé : la mémoire reste occupée et le processeur n’est plus utilisé jusqu’à la reprise ou la fermeture de ce programme.</translation>
+        <translation>Arrête la session et tout ce qu’elle a lancé&#x202f;: la mémoire reste occupée et le processeur n’est plus utilisé jusqu’à la reprise ou la fermeture de ce programme.</translation>
     </message>
     <message>
         <source>The terminal&apos;s shell may report the agent as stopped. After Resume, type fg there.</source>
@@ -3358,7 +3394,7 @@
     </message>
     <message>
         <source>Pause %1?</source>
-        <translation>Mettre %1 en pause ?</translation>
+        <translation>Mettre %1 en pause&#x202f;?</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -3411,7 +3447,7 @@
     <name>SessionResultView</name>
     <message>
         <source>%1: ended %2 of %3, freed ~%4</source>
-        <translation>%1 : %2 sur %3 terminés, ~%4 libérés</translation>
+        <translation>%1&#x202f;: %2 sur %3 terminés, ~%4 libérés</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -3419,7 +3455,7 @@
     </message>
     <message>
         <source>Take the conversation up again: %1</source>
-        <translation>Reprendre la conversation : %1</translation>
+        <translation>Reprendre la conversation&#x202f;: %1</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -3748,11 +3784,11 @@
     <name>Stepper</name>
     <message>
         <source>Less: %1</source>
-        <translation>Moins : %1</translation>
+        <translation>Moins&#x202f;: %1</translation>
     </message>
     <message>
         <source>More: %1</source>
-        <translation>Plus : %1</translation>
+        <translation>Plus&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3906,11 @@
     </message>
     <message>
         <source>Old Downloads (&gt;30d)</source>
-        <translation>Téléchargements (&gt;30 j)</translation>
+        <translation>Téléchargements (&gt;30&#xa0;j)</translation>
     </message>
     <message>
         <source>Old Desktop screenshots (&gt;30d)</source>
-        <translation>Captures du bureau (&gt;30 j)</translation>
+        <translation>Captures du bureau (&gt;30&#xa0;j)</translation>
     </message>
     <message>
         <source>Claude Code &amp; Agents</source>

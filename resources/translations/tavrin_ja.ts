@@ -400,6 +400,10 @@
         <source>only old files can be moved</source>
         <translation>移動できるのは古いファイルだけです</translation>
     </message>
+    <message>
+        <source>it could not be listed</source>
+        <translation>一覧にできませんでした</translation>
+    </message>
 </context>
 <context>
     <name>CleanupChoice</name>
@@ -661,6 +665,14 @@
     <message>
         <source>Not finished: %1</source>
         <translation>未完了: %1</translation>
+    </message>
+    <message>
+        <source>It is unknown which volumes go, with all that is in them.</source>
+        <translation>どのボリュームが中身ごと消えるかは不明です。</translation>
+    </message>
+    <message>
+        <source>unknown volumes</source>
+        <translation>不明なボリューム</translation>
     </message>
 </context>
 <context>
@@ -933,8 +945,8 @@
         <translation>ここにはディスクのボリュームがマウントされていません。タイルはルートフォルダーの容量を示します。</translation>
     </message>
     <message>
-        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
-        <translation>応答しないディスクがあります。このページを開いている間、10 秒ごとに再確認します。</translation>
+        <source>A disk does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>応答しないディスクがあります。応答し次第、このページが開いている間に再び問い合わせます。</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1139,10 @@
         <source>Freed ~%1</source>
         <translation>約 %1 を解放</translation>
     </message>
+    <message>
+        <source>• stopped</source>
+        <translation>• 停止しました</translation>
+    </message>
 </context>
 <context>
     <name>FreeRAMSheet</name>
@@ -1193,6 +1209,14 @@
     <message>
         <source>Send memory pressure only</source>
         <translation>メモリ圧迫のみ送信</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Kills nothing more; what still runs is left alone</source>
+        <translation>これ以上は強制終了しません。まだ動いているものはそのままです</translation>
     </message>
 </context>
 <context>
@@ -1942,6 +1966,14 @@
         <source>Deep purge (admin)</source>
         <translation>ディープパージ (管理者)</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stop purging</source>
+        <translation>パージを停止</translation>
+    </message>
 </context>
 <context>
     <name>MemoryKindsBar</name>
@@ -2332,6 +2364,10 @@
         <source>Permission denied</source>
         <translation>権限がありません</translation>
     </message>
+    <message>
+        <source>Still running</source>
+        <translation>実行中のまま</translation>
+    </message>
 </context>
 <context>
     <name>OverviewView</name>
@@ -2647,8 +2683,8 @@
         <translation>不明なプログラム</translation>
     </message>
     <message>
-        <source>it is another folder by now</source>
-        <translation>いまは別のフォルダーです</translation>
+        <source>something in it is new, or is on the list of what is never cleaned</source>
+        <translation>中に新しいもの、またはクリーンアップしないリストにあるものがあります</translation>
     </message>
     <message>
         <source>in use by %1</source>

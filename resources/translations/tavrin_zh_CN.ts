@@ -400,6 +400,10 @@
         <source>only old files can be moved</source>
         <translation>只能移动旧文件</translation>
     </message>
+    <message>
+        <source>it could not be listed</source>
+        <translation>无法列出</translation>
+    </message>
 </context>
 <context>
     <name>CleanupChoice</name>
@@ -661,6 +665,14 @@
     <message>
         <source>Not finished: %1</source>
         <translation>未完成：%1</translation>
+    </message>
+    <message>
+        <source>It is unknown which volumes go, with all that is in them.</source>
+        <translation>不清楚哪些卷会连同其全部内容一起消失。</translation>
+    </message>
+    <message>
+        <source>unknown volumes</source>
+        <translation>未知的卷</translation>
     </message>
 </context>
 <context>
@@ -933,8 +945,8 @@
         <translation>此处没有挂载磁盘卷。磁贴显示根文件夹的空间。</translation>
     </message>
     <message>
-        <source>A disk does not answer. It is asked again every 10 seconds while this page is open.</source>
-        <translation>有磁盘没有响应。此页面打开期间每 10 秒重新询问一次。</translation>
+        <source>A disk does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>有磁盘没有响应。在此页面打开期间，一旦它响应就会再次查询。</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1139,10 @@
         <source>Freed ~%1</source>
         <translation>已释放约 %1</translation>
     </message>
+    <message>
+        <source>• stopped</source>
+        <translation>• 已停止</translation>
+    </message>
 </context>
 <context>
     <name>FreeRAMSheet</name>
@@ -1193,6 +1209,14 @@
     <message>
         <source>Send memory pressure only</source>
         <translation>仅发送内存压力</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Kills nothing more; what still runs is left alone</source>
+        <translation>不再强制结束任何进程；仍在运行的保持不变</translation>
     </message>
 </context>
 <context>
@@ -1942,6 +1966,14 @@
         <source>Deep purge (admin)</source>
         <translation>深度清除（管理员）</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stop purging</source>
+        <translation>停止清除</translation>
+    </message>
 </context>
 <context>
     <name>MemoryKindsBar</name>
@@ -2332,6 +2364,10 @@
         <source>Permission denied</source>
         <translation>权限不足</translation>
     </message>
+    <message>
+        <source>Still running</source>
+        <translation>仍在运行</translation>
+    </message>
 </context>
 <context>
     <name>OverviewView</name>
@@ -2647,8 +2683,8 @@
         <translation>一个未知的程序</translation>
     </message>
     <message>
-        <source>it is another folder by now</source>
-        <translation>它现在已是另一个文件夹</translation>
+        <source>something in it is new, or is on the list of what is never cleaned</source>
+        <translation>其中有新内容，或有“永不清理”列表中的内容</translation>
     </message>
     <message>
         <source>in use by %1</source>
