@@ -42,13 +42,16 @@ void KernelFloor::askAll() const {
     }
 }
 
-void KernelFloor::openReadCloseAll() const {
+bool KernelFloor::openReadCloseAll() const {
+    bool isWhole = true;
     std::array<char, 1024> room;
     std::array<char, 32> path;
     for (const auto& process : m_processes) {
         snprintf(path.data(), path.size(), "/proc/%d/stat", process.pid);
         const int file = open(path.data(), O_RDONLY | O_CLOEXEC);
+        isWhole &= file >= 0;
         static_cast<void>(!read(file, room.data(), room.size()));
         close(file);
     }
+    return isWhole;
 }

@@ -18,8 +18,9 @@ public:
     int count() const { return static_cast<int>(m_processes.size()); }
     /// Reads memory, threads and CPU time of every process.
     void askAll() const;
-    /// Opens, reads and closes `/proc/N/stat` of every process.
-    void openReadCloseAll() const;
+    /// Opens, reads and closes `/proc/N/stat` of every process. Returns false where one cannot be opened, as
+    /// when the descriptors have run out.
+    bool openReadCloseAll() const;
 
 private:
     struct Process {

@@ -10,7 +10,6 @@ packages_of() {
         libgtest-dev libgmock-dev ;;
     test) echo lintian man-db procps git ccache fonts-dejavu-core desktop-file-utils libglib2.0-bin appstream openssl weston dunst ;;
     package) echo dpkg-dev file git patchelf lintian xz-utils ;;
-    bench) ;;
     display) echo xvfb xauth openbox tint2 xdotool x11-utils imagemagick dbus \
         at-spi2-core python3-gi gir1.2-atspi-2.0 util-linux mount fonts-dejavu-core ;;
     screenshots) echo fonts-dejavu-core ;;
