@@ -8,14 +8,30 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int titleBarHeight = 40; // of the window manager, which tells it only for a window that is shown
+
+/// The pages scroll where the screen is lower than they need.
+QSize smallestOn(const QScreen& screen) {
+    QSize smallest = RootView::minimumContent;
+    smallest.setHeight(std::min(smallest.height(), screen.availableSize().height() - titleBarHeight));
+    return smallest;
+}
+
+} // namespace
 
 MainWindow::MainWindow(AppModel& model, Preferences& preferences, MessageCenter& messages, QWidget* parent)
     : QMainWindow(parent)
     , m_root(new RootView(model, preferences, messages)) {
     setWindowTitle(QStringLiteral("Tavrin"));
     setCentralWidget(m_root);
-    setMinimumSize(RootView::minimumContent);
-    resize(RootView::minimumContent);
+    setMinimumSize(smallestOn(*screen()));
+    resize(minimumSize());
     (new KeptPlace(*this, preferences.file(), QStringLiteral("ui.window.place")))->restore();
     connect(m_root, &RootView::widgetToggled, this, &MainWindow::widgetToggled);
     addMenuActions();

@@ -2,6 +2,7 @@
 
 #include "Platform/Desktop/DesktopApplication.h"
 #include "UI/RootView.h"
+#include "UI/Settings/SettingsScene.h"
 
 #include <QWidget>
 
@@ -15,7 +16,9 @@ bool hasMainTitle(const QWidget* window) {
 }
 
 bool isNotSettings(const QWidget* window) {
-    return !window->windowTitle().contains(QStringLiteral("settings"), Qt::CaseInsensitive);
+    const QString title = window->windowTitle();
+    return title != SettingsScene::tr("Tavrin Settings") &&
+           !title.contains(QStringLiteral("settings"), Qt::CaseInsensitive);
 }
 
 } // namespace

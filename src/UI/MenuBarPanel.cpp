@@ -155,7 +155,8 @@ void MenuBarPanel::refreshStatistics() {
     const SystemSample& sample = m_model.systemSample();
     m_statistics[0]->setFigure(Formatters::percent(sample.cpuPercent));
     m_statistics[1]->setFigure(Formatters::percent(sample.memUsedPercent()));
-    m_statistics[2]->setFigure(Formatters::percent(sample.diskUsedPercent()));
+    m_statistics[2]->setFigure(sample.diskTotalBytes == 0 ? QStringLiteral("—")
+                                                          : Formatters::percent(sample.diskUsedPercent()));
     m_statistics[3]->setFigure(thermalLabel(sample.thermalState));
 }
 

@@ -145,7 +145,8 @@ void WidgetView::refreshGrid() {
     const double used = sample.memUsedPercent();
     m_tiles[0]->set(Formatters::percent(sample.cpuPercent), Levels::cpu(sample.cpuPercent));
     m_tiles[1]->set(Formatters::percent(used), Levels::memory(used));
-    m_tiles[2]->set(shortBytes(sample.diskFreeBytes), Role::blue);
+    m_tiles[2]->set(sample.diskTotalBytes == 0 ? QStringLiteral("—") : shortBytes(sample.diskFreeBytes),
+                    Role::blue);
     m_tiles[3]->set(thermalLabel(sample.thermalState), Levels::thermal(sample.thermalState));
 }
 

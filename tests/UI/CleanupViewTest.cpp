@@ -352,7 +352,7 @@ TEST_F(CleanupViewTest, ADrawerNamesTheVolumesOfContainers) {
     CacheTarget target{
         .name = u"x"_s, .symbol = {}, .pruneCommand = u"prune"_s, .details = {{u"Images"_s, 8}}};
     target.rule.measure = CleanupRule::Measure::containers;
-    target.volumes = {u"db"_s, u"web"_s};
+    target.volumes = QStringList{u"db"_s, u"web"_s};
     CacheDetailDrawer drawer(model.cleanup(), target, {}, &window);
     drawer.setAttribute(Qt::WA_DeleteOnClose, false);
     EXPECT_EQ(rowsOf(drawer),
@@ -370,14 +370,17 @@ TEST(CleanupTexts, WhatIsSaidBeforeACleanIsTrueForItsTarget) {
                                  .symbol = {},
                                  .pruneCommand = u"prune"_s,
                                  .sizeBytes = 1,
-                                 .volumes = {QString(64, u'f'), u"db"_s},
+                                 .volumes = QStringList{QString(64, u'f'), u"db"_s},
                                  .notes = {u"Some\n\nnote."_s}};
+    CacheTarget unasked = containers;
+    unasked.volumes = std::nullopt;
     const auto rebuilt = u"Apps will rebuild caches as needed."_s;
     const std::tuple<CacheTarget, QString, bool> cases[] = {
         {caches, names, true},
         {mine, u"These files of yours will be gone for good: "_s + names, false},
         {containers, u"2 volumes, “ffffffffffffffffffff…fffffffffffffffffff” and “db”"_s, false},
         {containers, u"\n\nSome␊␊note."_s, false},
+        {unasked, u"It is unknown which volumes go, with all that is in them."_s, false},
     };
     for (const auto& [target, said, isRebuilt] : cases) {
         const QString question = CleanupTexts::question(target);

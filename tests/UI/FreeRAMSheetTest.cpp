@@ -128,7 +128,8 @@ TEST_F(FreeRAMSheetTest, AStoppedRunLeavesAloneWhatStillRuns) {
     press(*sheet, u"Stop"_s);
     EXPECT_FALSE(buttonNamed(*sheet, u"Stop"_s)->isEnabled());
     EXPECT_TRUE(QTest::qWaitFor([this] { return showsText(*sheet, u"• stopped"_s); }));
-    EXPECT_EQ(shownNames<QWidget>(*sheet).filter(u"claude ("_s), QStringList(u"claude (100) Still running"_s));
+    EXPECT_EQ(shownNames<QWidget>(*sheet).filter(u"claude ("_s),
+              QStringList(u"claude (100) Still running"_s));
     EXPECT_TRUE(buttonNamed(*sheet, u"Kill 1 and free RAM"_s)->isEnabled());
 }
 

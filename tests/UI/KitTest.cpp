@@ -79,6 +79,8 @@ TEST(NoticeTest, ALaterTextStaysItsWholeTime) {
     notice.show(u"one"_s);
     QTest::qWait(130);
     notice.show(u"two"_s);
+    notice.setFocusPolicy(Qt::StrongFocus);
+    notice.setFocus(); // away from its button
     QTest::qWait(130);
     EXPECT_TRUE(notice.isVisible());
     EXPECT_EQ(notice.accessibleName(), u"two"_s);
@@ -260,6 +262,8 @@ TEST(KeptFocusTest, AControlThatIsDisabledForAWhileGetsTheFocusBack) {
 TEST(NoticeTest, StaysWhileThePointerIsOverIt) {
     Notice notice(u"checkmark.seal.fill"_s, 20ms);
     notice.move(500, 400);
+    notice.setFocusPolicy(Qt::StrongFocus);
+    notice.setFocus(); // away from its button
     notice.show(u"Done"_s, u"not all"_s);
     EXPECT_EQ(notice.accessibleName(), u"Done. not all"_s);
     notice.setAttribute(Qt::WA_UnderMouse);
@@ -268,4 +272,17 @@ TEST(NoticeTest, StaysWhileThePointerIsOverIt) {
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&notice, &leave);
     EXPECT_TRUE(notice.isHidden());
+}
+
+TEST(NoticeTest, StaysWhileItsButtonHasTheFocus) {
+    QWidget window;
+    window.setFocusPolicy(Qt::StrongFocus);
+    Notice notice(u"checkmark.seal.fill"_s, 20ms, &window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    notice.show(u"Done"_s);
+    notice.findChild<QPushButton*>()->setFocus();
+    EXPECT_FALSE(QTest::qWaitFor([&] { return notice.isHidden(); }, 100));
+    window.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return notice.isHidden(); }, 1000));
 }

@@ -54,7 +54,7 @@ TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {
         {Metrics::disk(withDisk(79.9)), u"80%", Role::green},
         {Metrics::disk(withDisk(80)), u"80%", Role::orange},
         {Metrics::disk(withDisk(92)), u"92%", Role::red},
-        {Metrics::disk(SystemSample()), u"0%", Role::green},
+        {Metrics::disk(SystemSample()), u"—", Role::secondaryText},
     };
     for (const auto& [metric, value, accent] : cases) {
         EXPECT_EQ(metric.value, QString::fromUtf16(value)) << qPrintable(metric.title);
@@ -67,6 +67,7 @@ TEST(Metrics, SecondLinesTellSizesAndSwap) {
     sample.memUsedBytes = GiB * 3 / 2;
     sample.memTotalBytes = 8 * GiB;
     sample.diskFreeBytes = 512 * GiB / 1024;
+    sample.diskTotalBytes = GiB;
     EXPECT_EQ(Metrics::memory(sample, {}, {}).sub, QStringLiteral("1.5 GB / 8 GB"));
     EXPECT_EQ(Metrics::disk(sample).sub, QStringLiteral("512 MB free"));
     EXPECT_EQ(Metrics::thermal(sample).sub, QStringLiteral("No swap"));

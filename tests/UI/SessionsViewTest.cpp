@@ -326,8 +326,8 @@ TEST_F(SessionsViewTest, TheQuestionListsWhatEndsByItsKind) {
         [&] { isAnswered = true; });
     EXPECT_EQ(dialog()->accessibleDescription(),
               u"The agent is asked first and has 5 s to save. What it started ends with it, and what stays "
-              "is force-killed.\n\n≈ 1.7 GB will come back.\n\nThis takes the conversation up again: "
-              "cd /srv/shop && claude --continue"_s.replace(u'\n', u'\u240a'));
+              "is force-killed. ≈ 1.7 GB will come back. This takes the conversation up again: "
+              "cd /srv/shop && claude --continue"_s);
     QStringList described = shownNames<QWidget>(*dialog()).filter(u", "_s);
     EXPECT_EQ(described, (QStringList{u"claude, 640 MB"_s, u"context7, 96 MB"_s, u"npm, 70 MB"_s,
                                       u"vite, 310 MB"_s, u"chromium, 410 MB"_s, u"chromium, 380 MB"_s,
@@ -343,10 +343,9 @@ TEST_F(SessionsViewTest, TheQuestionListsWhatEndsByItsKind) {
     ending.givesBack.isRough = true;
     ending.resumeCommand.clear();
     SessionDialogs::askEnd(&window, &window, {.ending = ending}, [] {});
-    EXPECT_EQ(
-        dialog()->accessibleDescription(),
-        u"The processes are asked to end, and what stays is force-killed.\u240a\u240a≤ 1.7 GB will come "
-        "back."_s);
+    EXPECT_EQ(dialog()->accessibleDescription(),
+              u"The processes are asked to end, and what stays is force-killed. ≤ 1.7 GB will come "
+              "back."_s);
 }
 
 TEST_F(SessionsViewTest, PauseAsksFirstAndAFolderThatIsGoneIsSaid) {

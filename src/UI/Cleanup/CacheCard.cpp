@@ -82,10 +82,15 @@ void CacheCard::paintEvent(QPaintEvent*) {
 
     painter.setFont(Theme::font(TextStyle::title2, QFont::DemiBold));
     line = takeLine(painter.font());
-    Painting::drawTabular(painter, line, Qt::AlignLeft, Formatters::bytes(m_target.sizeBytes));
+    const QString size = Formatters::bytes(m_target.sizeBytes);
+    Painting::drawTabular(painter, line, Qt::AlignLeft, size);
+    line.setLeft(line.left() + Painting::tabularWidth(painter.font(), size) + Theme::rowSpacing);
     Painting::setTextStyle(painter, TextStyle::caption2, Role::secondaryText);
-    if (!m_target.isInCleanAll)
-        Painting::drawTabular(painter, line, Qt::AlignRight, tr("not in Clean All"));
+    if (!m_target.isInCleanAll) {
+        const QString remark = painter.fontMetrics().elidedText(tr("not in Clean All"), Qt::ElideRight,
+                                                                static_cast<int>(line.width()));
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, remark);
+    }
     const QString remark = m_target.notes.isEmpty() ? m_target.reason : m_target.notes.first();
     if (!remark.isEmpty())
         Painting::drawElided(painter, takeLine(painter.font()), Qt::ElideRight, Formatters::visible(remark));

@@ -48,10 +48,16 @@ QString namesOf(const CacheTarget& target) {
     return listed(shown, names.count);
 }
 
+bool takesVolumes(const CacheTarget& target) {
+    return !target.volumes || !target.volumes->isEmpty();
+}
+
 QString volumesOf(const CacheTarget& target) {
-    const auto count = static_cast<int>(target.volumes.size());
+    if (!target.volumes)
+        return QCoreApplication::translate("CleanupTexts", "unknown volumes");
+    const auto count = static_cast<int>(target.volumes->size());
     return QCoreApplication::translate("CleanupTexts", "%n volume(s), %1", nullptr, count)
-        .arg(listed(target.volumes, count));
+        .arg(listed(*target.volumes, count));
 }
 
 } // namespace
@@ -69,11 +75,11 @@ QString CleanupTexts::progress(const QString& sentence, const CleanupProgress& p
 }
 
 bool CleanupTexts::takesUserFiles(const CacheTarget& target) {
-    return target.rule.hasUserFiles || !target.volumes.isEmpty();
+    return target.rule.hasUserFiles || takesVolumes(target);
 }
 
 QString CleanupTexts::whatGoes(const CacheTarget& target) {
-    if (!target.volumes.isEmpty())
+    if (takesVolumes(target))
         return QCoreApplication::translate("CleanupTexts", "Gone for good: %1").arg(volumesOf(target));
     const QString names = namesOf(target);
     if (target.rule.hasUserFiles)
@@ -95,10 +101,13 @@ QString CleanupTexts::question(const CacheTarget& target) {
                 : QCoreApplication::translate("CleanupTexts",
                                               "These files of yours will be gone for good: %1.")
                       .arg(names));
-    } else if (!target.volumes.isEmpty()) {
+    } else if (takesVolumes(target)) {
         paragraphs.append(
-            QCoreApplication::translate("CleanupTexts", "Gone for good, with all that is in them: %1.")
-                .arg(volumesOf(target)));
+            target.volumes
+                ? QCoreApplication::translate("CleanupTexts", "Gone for good, with all that is in them: %1.")
+                      .arg(volumesOf(target))
+                : QCoreApplication::translate("CleanupTexts",
+                                              "It is unknown which volumes go, with all that is in them."));
         paragraphs.append(QCoreApplication::translate(
             "CleanupTexts",
             "Stopped containers go too. Images and build caches are fetched or built again as "

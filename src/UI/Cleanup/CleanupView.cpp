@@ -222,7 +222,7 @@ void CleanupView::refreshProgress() {
     m_spinner->setVisible(isBusy);
     m_progress->setVisible(isBusy || cleanup.report().volumeBytes);
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
-    m_cancel->setVisible(isBusy);
+    KeptFocus::setVisible(m_cancel, isBusy);
     m_cancel->setAccessibleName(cleanup.isCleaning() ? tr("Stop cleaning") : tr("Stop measuring"));
 }
 

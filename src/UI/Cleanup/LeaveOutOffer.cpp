@@ -22,11 +22,11 @@ QString patternOf(const QString& path) {
 }
 
 QString question(const QStringList& paths) {
-    QString text = paths.first(std::min(maxNamed, paths.size())).join(u'\n');
+    QStringList paragraphs = paths.first(std::min(maxNamed, paths.size()));
     if (paths.size() > maxNamed)
-        text +=
-            u'\n' + QCoreApplication::translate("LeaveOutOffer", "and %1 more").arg(paths.size() - maxNamed);
-    return text + QStringLiteral("\n\n") +
+        paragraphs.append(
+            QCoreApplication::translate("LeaveOutOffer", "and %1 more").arg(paths.size() - maxNamed));
+    return paragraphs.join(QStringLiteral("\n\n")) + QStringLiteral("\n\n") +
            QCoreApplication::translate("LeaveOutOffer",
                                        "You left this out twice. The Cleanup settings have the list.");
 }

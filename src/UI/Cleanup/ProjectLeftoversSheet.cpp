@@ -10,6 +10,7 @@
 #include "UI/Kit/ConfirmDialog.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/FilePanel.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SearchField.h"
 #include "UI/Kit/SheetSize.h"
@@ -237,7 +238,7 @@ void ProjectLeftoversSheet::refresh() {
     m_home->setVisible(!folders.isEmpty());
     const bool isIdle = !m_leftovers.isSearching() && !m_leftovers.isRemoving();
     for (PushButton* button : {m_addFolder, m_home, m_rescan})
-        button->setEnabled(isIdle);
+        KeptFocus::setEnabled(button, isIdle);
     refreshRows();
     refreshFoot();
     askForChanges();
@@ -283,11 +284,11 @@ void ProjectLeftoversSheet::refreshFoot() {
         unfinished.isEmpty() ? QString() : tr("Not finished: %1").arg(Formatters::list(unfinished)));
     m_unfinished->setVisible(!isBusy && !unfinished.isEmpty());
     m_spinner->setVisible(isBusy);
-    m_stop->setVisible(isBusy);
+    KeptFocus::setVisible(m_stop, isBusy);
     m_remove->setText(folders == 0 ? tr("Remove…")
                                    : tr("Remove %n folder(s) (%1)…", nullptr, static_cast<int>(folders))
                                          .arg(Formatters::bytes(bytes)));
-    m_remove->setEnabled(folders > 0 && !isBusy);
+    KeptFocus::setEnabled(m_remove, folders > 0 && !isBusy);
 }
 
 void ProjectLeftoversSheet::toggle(const QByteArray& project) {

@@ -29,8 +29,8 @@ namespace {
 
 constexpr int panelMargin = 12;
 constexpr Theme::Length headSymbolSize{24};
-constexpr int listWidth = 250;
-constexpr int maxOpenHeight = 220;
+constexpr Theme::Length listWidth{250};
+constexpr Theme::Length maxOpenHeight{220};
 constexpr int maxCommandLines = 8;
 constexpr int maxNameLines = 1;
 
@@ -45,7 +45,7 @@ QIcon iconOf(const std::optional<Application>& application) {
 
 void ParentLink::set(const ProcSample& process) {
     m_process = process;
-    setText(QStringLiteral("%1 (%2)").arg(Formatters::visible(process.name)).arg(process.pid));
+    setText(QStringLiteral("%1 (%2)").arg(Formatters::visible(process.name), QString::number(process.pid)));
 }
 
 InspectorPanel::InspectorPanel(AppModel& model, QWidget* parent)
@@ -228,6 +228,7 @@ void InspectorPanel::showFigures() {
                    : InspectorTexts::whatItIs(m_model, m_process, m_inspection ? &*m_inspection : nullptr));
     m_quit->setEnabled(!m_hasEnded);
     m_kill->setEnabled(!m_hasEnded);
+    m_showEnvironment->setEnabled(!m_hasEnded);
     m_quit->setAccessibleName(tr("Quit %1").arg(m_process.name));
     m_kill->setAccessibleName(tr("Force kill %1").arg(m_process.name));
     MemoryKindsBar::Kinds kinds{.residentBytes = m_process.rssBytes};
@@ -326,7 +327,7 @@ QCoro::Task<> InspectorPanel::inspect(ProcessIdentity process) {
 QCoro::Task<> InspectorPanel::readEnvironment(ProcessIdentity process) {
     const QPointer<InspectorPanel> self(this);
     const auto variables = co_await m_model.facts().environment(process.pid);
-    if (!self || !isOn(process) || m_environment)
+    if (!self || !isOn(process) || m_environment || m_hasEnded)
         co_return;
     if (!variables) {
         m_showEnvironment->setText(tr("The system refuses it"));

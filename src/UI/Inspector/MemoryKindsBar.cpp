@@ -83,10 +83,14 @@ void MemoryKindsBar::paintEvent(QPaintEvent*) {
     for (const Part& part : shown) {
         Painting::drawCard(painter, QRectF(0, row.center().y() - dotSide / 2.0, dotSide, dotSide),
                            dotSide / 2.0, Theme::color(part.role));
-        Painting::setTextStyle(painter, TextStyle::callout, Role::secondaryText);
-        Painting::drawElided(painter, row.adjusted(dotSide + legendGap, 0, 0, 0), Qt::ElideRight, part.name);
-        painter.setPen(Theme::color(Role::primaryText));
-        Painting::drawTabular(painter, row, Qt::AlignRight, Formatters::bytes(part.bytes));
+        Painting::setTextStyle(painter, TextStyle::callout, Role::primaryText);
+        const QString figure = Formatters::bytes(part.bytes);
+        QRectF rest = row;
+        const QRectF place = Painting::takeRight(rest, Painting::tabularWidth(painter.font(), figure));
+        Painting::drawTabular(painter, place, Qt::AlignRight, figure);
+        painter.setPen(Theme::color(Role::secondaryText));
+        Painting::drawElided(painter, rest.adjusted(dotSide + legendGap, 0, -legendGap, 0), Qt::ElideRight,
+                             part.name);
         row.translate(0, line);
     }
 }

@@ -21,7 +21,8 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(Formatters::visible(title));
-    setAccessibleDescription(Formatters::visible(text));
+    const QStringList paragraphs = text.split(QStringLiteral("\n\n"));
+    setAccessibleDescription(Formatters::visible(paragraphs.join(u' ')));
 
     auto* heading = new ClampedLabel(maxHeadingLines, TextStyle::title3, QFont::Bold);
     heading->setPlainText(title);
@@ -29,7 +30,7 @@ ConfirmDialog::ConfirmDialog(QWidget* parent, const QString& title, const QStrin
     m_column->setContentsMargins(Theme::sheetMargins);
     m_column->setSpacing(Theme::rowSpacing);
     m_column->addWidget(heading);
-    for (const QString& paragraph : text.split(QStringLiteral("\n\n"))) {
+    for (const QString& paragraph : paragraphs) {
         auto* label = new ClampedLabel(maxTextLines, TextStyle::body);
         label->secondary();
         label->setPlainText(paragraph);

@@ -1,5 +1,6 @@
 #include "UI/Kit/FlowGrid.h"
 
+#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -53,7 +54,8 @@ int FlowGrid::arrange(const QRect& area, bool move) const {
             height = std::max(height, item->sizeHint().height());
         for (int column = 0; move && column < items.size(); ++column) {
             const int width = left(column + 1) - spacing() - left(column);
-            items[column]->setGeometry(QRect(left(column), top, width, height));
+            items[column]->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), area,
+                                                          QRect(left(column), top, width, height)));
         }
         top += height + spacing();
     }

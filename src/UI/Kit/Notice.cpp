@@ -8,6 +8,7 @@
 #include "UI/Style/Painting.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -68,6 +69,10 @@ void Notice::show(const QString& text, const QString& failure) {
 }
 
 void Notice::expire() {
+    if (isAncestorOf(QApplication::focusWidget())) {
+        m_timer.start();
+        return;
+    }
     m_isExpired = underMouse();
     if (!m_isExpired)
         hide();

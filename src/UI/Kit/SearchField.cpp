@@ -42,6 +42,8 @@ SearchField::SearchField(const QString& prompt, QWidget* parent)
 void SearchField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !text().isEmpty())
         clear();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept(); // the default button of a dialog is not meant
     else
         QLineEdit::keyPressEvent(event);
 }

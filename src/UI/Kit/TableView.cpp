@@ -63,6 +63,8 @@ void TableView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     Painting::setTextStyle(painter, Theme::TextStyle::callout, Role::secondaryText);
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+    if (hasFocus())
+        Painting::drawFocusRing(painter, viewport()->rect(), Theme::controlRadius);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {

@@ -10,6 +10,7 @@ AutoOptimizeCard::AutoOptimizeCard(QWidget* parent)
                    QStringLiteral("clock.arrow.circlepath"), Theme::Role::indigo, parent)
     , m_switch(new QCheckBox(tr("Enabled")))
     , m_state((new TextLabel(Theme::TextStyle::caption))->secondary()) {
+    m_switch->setAccessibleName(tr("Auto-Optimize"));
     connect(m_switch, &QCheckBox::clicked, this, &AutoOptimizeCard::switched);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);

@@ -5,6 +5,7 @@
 #include "Core/Formatters.h"
 #include "Core/Translations.h"
 #include "UI/Cleanup/CleanupTexts.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
 
@@ -87,8 +88,9 @@ void CachesCard::refresh(const CacheCleanup& cleanup) {
                         .arg(targets.size()));
     refreshChips(targets);
     refreshState(cleanup);
-    m_cancel->setVisible(cleanup.isCleaning());
-    m_clean->setEnabled(!m_cleaning && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
+    KeptFocus::setVisible(m_cancel, cleanup.isCleaning());
+    KeptFocus::setEnabled(m_clean,
+                          !m_cleaning && !cleanup.isCleaning() && !cleanup.targetsToClean().isEmpty());
 }
 
 /// Says that sizes are being measured, or that nobody has measured them.

@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/Card.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/TextLabel.h"
 #include "UI/Optimize/ServerRow.h"
@@ -64,7 +65,7 @@ void MCPCard::refresh(const MCPInspector::Report& report) {
     m_running->set(QString::number(report.live.size()), Role::blue);
     m_orphans->set(QString::number(orphans), orphans > 0 ? Role::red : Role::secondaryText);
     m_orphanRAM->set(Formatters::bytes(report.orphanBytes()), Role::red);
-    m_kill->setEnabled(orphans > 0);
+    KeptFocus::setEnabled(m_kill, orphans > 0);
     m_rows.show(report.live.size(), [&report](ServerRow& row, qsizetype i) { row.set(report.live[i]); });
     m_servers->setVisible(!report.live.isEmpty());
     m_reading->setVisible(isUnknown);

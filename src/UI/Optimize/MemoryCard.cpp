@@ -1,6 +1,7 @@
 #include "UI/Optimize/MemoryCard.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/PushButton.h"
 
 #include <QHBoxLayout>
@@ -49,8 +50,8 @@ MemoryCard::MemoryCard(QWidget* parent)
 void MemoryCard::setPurging(bool purging) {
     m_purge->setText(purging ? tr("Purging…") : tr("Deep purge (admin)"));
     m_purge->setBusy(purging);
-    m_purge->setEnabled(!purging);
-    m_stop->setVisible(purging);
+    KeptFocus::setEnabled(m_purge, !purging);
+    KeptFocus::setVisible(m_stop, purging);
 }
 
 void MemoryCard::setNudgeFailure(const QString& reason) {

@@ -39,7 +39,7 @@ void PresetTile::set(const QuickKillPreset& preset, int matches) {
     m_matches = matches;
     const QString name = Formatters::visible(preset.name);
     const QString summary = Formatters::visible(preset.summaryLine());
-    setAccessibleName(tr("%1, %2, %3 matching").arg(name, summary).arg(matches));
+    setAccessibleName(tr("%1, %2, %3 matching").arg(name, summary, QString::number(matches)));
     setToolTip(Formatters::toolTip(QStringLiteral("%1\n%2").arg(name, summary)));
     update();
 }

@@ -50,7 +50,8 @@ void ServerRow::set(const MCPInspector::LiveServer& server) {
     const QString label = Formatters::visible(server.displayLabel);
     setToolTip(Formatters::toolTip(label + u'\n' + server.reason));
     setAccessibleDescription(server.reason);
-    nameRowButton(m_quit, m_quit->toolTip(), QStringLiteral("%1 (%2)").arg(label).arg(server.pid));
+    nameRowButton(m_quit, m_quit->toolTip(),
+                  QStringLiteral("%1 (%2)").arg(label, QString::number(server.pid)));
     setAccessibleName(
         (server.isOrphan ? tr("Orphan %1, PID %2, parent: %3, %4") : tr("Running %1, PID %2, parent: %3, %4"))
             .arg(label, QString::number(server.pid), Formatters::visible(server.parentName),

@@ -1,5 +1,6 @@
 #include "UI/Overview/AlertStripView.h"
 
+#include "UI/Kit/ClampedLabel.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/RowButton.h"
@@ -12,6 +13,8 @@
 using Theme::TextStyle;
 
 namespace {
+
+constexpr int maxTitleLines = 2;
 
 QHBoxLayout* cardLayout(QWidget* card) {
     auto* row = new QHBoxLayout(card);
@@ -38,7 +41,7 @@ QWidget* makeHealthyCard() {
 AlertCard::AlertCard(QWidget* parent)
     : Card(parent)
     , m_symbol(new SymbolView(Theme::iconSize, Theme::iconColumn))
-    , m_title(new TextLabel(TextStyle::body, QFont::DemiBold))
+    , m_title(new ClampedLabel(maxTitleLines, TextStyle::body, QFont::DemiBold))
     , m_detail((new TextLabel(TextStyle::caption))->secondary()->wrapped())
     , m_details(new PushButton(tr("Details")))
     , m_action(new PushButton(QString(), PushButton::Look::prominent)) {

@@ -9,6 +9,7 @@
 class PushButton;
 class QVBoxLayout;
 class SymbolView;
+class ClampedLabel;
 class TextLabel;
 
 /// One alert on a card in its severity's colour.
@@ -28,7 +29,7 @@ Q_SIGNALS:
 
 private:
     SymbolView* m_symbol;
-    TextLabel* m_title;
+    ClampedLabel* m_title;
     TextLabel* m_detail;
     PushButton* m_details;
     PushButton* m_action;

@@ -106,10 +106,11 @@ void DiskPage::refresh() {
 void DiskPage::refreshVolumes() {
     const Instant now = model().systemSample().timestamp;
     const bool isRecent = now >= m_volumesAt && now - m_volumesAt < volumeInterval;
-    if (m_isReadingVolumes || isRecent)
+    if (m_isReadingVolumes || isRecent || m_reading.use_count() > 1)
         return;
     m_isReadingVolumes = true;
-    const std::function<QList<MountedVolume>()> read = [machine = sharedMachine()] {
+    // The thread holds it until its disk answers.
+    const std::function<QList<MountedVolume>()> read = [machine = sharedMachine(), holder = m_reading] {
         return machine->volumes();
     };
     onThread(read, volumeLimit).then([self = QPointer<DiskPage>(this), now](auto volumes) {
@@ -126,7 +127,7 @@ void DiskPage::showVolumes(const std::optional<QList<MountedVolume>>& volumes) {
     m_volumes.show(count, [&volumes](VolumeRow& row, qsizetype i) { row.set(volumes->at(i)); });
     m_volumeState->setPlainText(
         volumes ? tr("No volume of a disk is mounted here. The tile shows the space of the root folder.")
-                : tr("A disk does not answer. It is asked again every 10 seconds while this page is open."));
+                : tr("A disk does not answer. It is asked again once it does, while this page is open."));
     m_volumeState->setVisible(count == 0);
 }
 

@@ -4,6 +4,7 @@
 #include "UI/Kit/RowPool.h"
 #include "UI/Overview/DetailPage.h"
 
+#include <memory>
 #include <optional>
 
 class EmptyState;
@@ -36,4 +37,6 @@ private:
     Instant m_readAt;
     Instant m_volumesAt;
     bool m_isReadingVolumes = false;
+    std::shared_ptr<char> m_reading =
+        std::make_shared<char>(); ///< also held by a thread that has no answer yet
 };

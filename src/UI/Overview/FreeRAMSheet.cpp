@@ -6,6 +6,7 @@
 #include "Platform/Words.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/EmptyState.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/ScrollingPage.h"
 #include "UI/Kit/SheetSize.h"
@@ -148,7 +149,7 @@ QLayout* FreeRAMSheet::makeActions() {
     connect(m_action, &QPushButton::clicked, this, &FreeRAMSheet::start);
     connect(m_stop, &QPushButton::clicked, this, [this] {
         m_stopping.request_stop();
-        refreshButtons();
+        refresh();
     });
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
@@ -200,10 +201,10 @@ void FreeRAMSheet::refreshButtons() {
     m_back->setPlainText(ReturnTexts::promise(back));
     m_back->setVisible(count > 0);
 
-    m_stop->setVisible(m_running);
+    KeptFocus::setVisible(m_stop, m_running);
     m_stop->setEnabled(!m_stopping.stop_requested());
     m_action->setBusy(m_running);
-    m_action->setEnabled(!m_running);
+    KeptFocus::setEnabled(m_action, !m_running);
     m_action->setTint(count > 0 ? Role::red : Role::blue);
     m_action->setSymbol(count > 0 ? QStringLiteral("memorychip") : QStringLiteral("wind"));
     if (m_running)
@@ -217,8 +218,9 @@ void FreeRAMSheet::refreshButtons() {
 quint64 FreeRAMSheet::selectedRAM() const {
     SummedMemory sum;
     for (const FreeRamPreview& candidate : m_candidates) {
-        if (m_selected.contains(candidate.pid))
-            sum.add(*m_model.process(candidate.pid));
+        const ProcSample* process = m_model.process(candidate.pid);
+        if (process && m_selected.contains(candidate.pid))
+            sum.add(*process);
     }
     return sum.bytes;
 }
@@ -231,8 +233,10 @@ void FreeRAMSheet::toggle(qint32 pid) {
 }
 
 void FreeRAMSheet::tickFirst(qsizetype count) {
-    for (const FreeRamPreview& candidate : m_candidates.mid(0, count))
-        m_selected.insert(candidate.pid, m_model.process(candidate.pid)->startTime);
+    for (const FreeRamPreview& candidate : m_candidates.mid(0, count)) {
+        if (const ProcSample* process = m_model.process(candidate.pid)) // it may have ended since
+            m_selected.insert(candidate.pid, process->startTime);
+    }
     refresh();
 }
 
@@ -275,5 +279,4 @@ void FreeRAMSheet::finish(const FreeRAMResult& result) {
     m_result->set(result);
     m_result->show();
     refresh();
-    m_action->setFocus(); // lost while the button was disabled
 }

@@ -119,7 +119,7 @@ QWidget* IncidentDialog::makeList(const Incident& incident) {
     list->addHeading(tr("Largest processes then"));
     if (!incident.moments.isEmpty()) {
         for (const Moment::Process& process : incident.moments.last().largest)
-            list->addRow({.name = QStringLiteral("%1 (%2)").arg(process.name).arg(process.pid),
+            list->addRow({.name = QStringLiteral("%1 (%2)").arg(process.name, QString::number(process.pid)),
                           .figure = Formatters::bytes(process.rssBytes),
                           .detail = changeOf(incident, process)});
     }

@@ -78,6 +78,12 @@ Metric memory(const SystemSample& sample, const QList<SystemSample>& history, co
 }
 
 Metric disk(const SystemSample& sample) {
+    if (sample.diskTotalBytes == 0)
+        return {.title = QCoreApplication::translate("Metrics", "Disk"),
+                .value = QStringLiteral("—"),
+                .sub = std::nullopt,
+                .accent = Theme::Role::secondaryText,
+                .history = {}};
     const double used = sample.diskUsedPercent();
     return {
         .title = QCoreApplication::translate("Metrics", "Disk"),

@@ -11,6 +11,7 @@
 #include "UI/Overview/GroupRow.h"
 #include "UI/Overview/IncidentDialog.h"
 #include "UI/Overview/MetricTile.h"
+#include "UI/Processes/EndDialog.h"
 #include "UI/Sessions/SessionTexts.h"
 
 #include <QHBoxLayout>
@@ -95,8 +96,10 @@ QLayout* OverviewView::makeGroups() {
         auto* row = new GroupRow(group);
         row->hide();
         connect(row, &GroupRow::toggled, this, [this, group] { toggle(group); });
-        connect(row, &GroupRow::quitRequested, &m_model.actions(), &ProcessActions::quitProcess);
-        connect(row, &GroupRow::forceKillRequested, &m_model.actions(), &ProcessActions::forceKillProcess);
+        connect(row, &GroupRow::quitRequested, this,
+                [this](const ProcSample& process) { askToEnd(process, false); });
+        connect(row, &GroupRow::forceKillRequested, this,
+                [this](const ProcSample& process) { askToEnd(process, true); });
         column->addWidget(row);
         m_groupRows.append(row);
     }
@@ -164,20 +167,32 @@ void OverviewView::refreshGroups() {
     }
 }
 
-/// Returns the members, in the order of before while one of them is in use: its button must not move away.
+/// Returns the members. While one of them is in use, those of before keep their places, what has ended too:
+/// no button moves to another process.
 QList<ProcSample> OverviewView::heldMembers(ProcGroup group) {
-    QList<ProcSample> result = members(group);
-    if (m_groupRows[static_cast<qsizetype>(group)]->isInUse()) {
-        const auto place = [this](const ProcSample& process) {
-            const qsizetype index = m_order.indexOf(process.pid);
-            return index < 0 ? m_order.size() : index;
-        };
-        std::ranges::stable_sort(result, std::ranges::less(), place);
+    QList<ProcSample> now = members(group);
+    if (!m_groupRows[static_cast<qsizetype>(group)]->isInUse())
+        return m_held = now;
+    for (ProcSample& shown : m_held) {
+        const auto found = std::ranges::find(now, shown.identity(), &ProcSample::identity);
+        if (found == now.end())
+            continue;
+        shown = *found;
+        now.erase(found);
     }
-    m_order.clear();
-    for (const ProcSample& process : result)
-        m_order.append(process.pid);
-    return result;
+    return m_held += now;
+}
+
+/// Ends the process, after a question where more depends on it.
+void OverviewView::askToEnd(const ProcSample& process, bool force) {
+    const auto end = [this, force](const QList<ProcSample>& chosen) {
+        for (const ProcSample& each : chosen)
+            force ? m_model.actions().forceKillProcess(each) : m_model.actions().quitProcess(each);
+    };
+    if (EndDialog::isNeeded(m_model, {process}))
+        EndDialog::ask(this, m_model, {process}, force, end);
+    else
+        end({process});
 }
 
 QList<ProcSample> OverviewView::members(ProcGroup group) const {

@@ -47,6 +47,7 @@ private:
     void closePage();
     void actOn(const Alert& alert);
     void showDetails(const QString& alertId);
+    void askToEnd(const ProcSample& process, bool force);
     QList<ProcSample> members(ProcGroup group) const;
     QList<ProcSample> heldMembers(ProcGroup group);
 
@@ -60,5 +61,5 @@ private:
     QList<GroupRow*> m_groupRows; ///< in group order
     TextLabel* m_noGroups;        ///< why there are none
     std::optional<ProcGroup> m_expanded;
-    QList<qint32> m_order; ///< of the open group's members, as they are shown
+    QList<ProcSample> m_held; ///< the open group's members, as they are shown
 };

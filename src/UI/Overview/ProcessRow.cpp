@@ -63,7 +63,8 @@ void ProcessRow::set(const ProcSample& process) {
     setToolTip(Formatters::toolTip(Formatters::visible(process.executablePath)));
     setAccessibleName(tr("%1 %2, CPU %3, memory %4").arg(process.pid).arg(m_name, m_cpu, m_memory));
     for (IconButton* button : findChildren<IconButton*>())
-        nameRowButton(button, button->toolTip(), QStringLiteral("%1 (%2)").arg(m_name).arg(process.pid));
+        nameRowButton(button, button->toolTip(),
+                      QStringLiteral("%1 (%2)").arg(m_name, QString::number(process.pid)));
     update();
 }
 

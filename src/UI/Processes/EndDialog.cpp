@@ -77,7 +77,7 @@ void EndDialog::ask(QWidget* parent, const AppModel& model, const QList<ProcSamp
     const ProtectedProcesses guarded = model.protectedProcesses();
     auto* list = new SizeList(EndTexts::list());
     for (const ProcSample& process : processes)
-        list->addRow({.name = QStringLiteral("%1 (%2)").arg(process.name).arg(process.pid),
+        list->addRow({.name = QStringLiteral("%1 (%2)").arg(process.name, QString::number(process.pid)),
                       .figure = SummedMemory::of({process}).text(),
                       .detail = EndTexts::consequence(model, guarded, process),
                       .isGrave = guarded.contains(process.pid)});

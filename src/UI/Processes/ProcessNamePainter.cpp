@@ -15,7 +15,7 @@ namespace {
 using Branch = ProcessTableRow::Branch;
 
 using ProcessNamePainter::cellPadding;
-constexpr int rowBadgeHeight = 14;
+constexpr Theme::Length rowBadgeHeight{14};
 constexpr int rowBadgePadding = 5;
 constexpr int indentStep = 16;
 constexpr int deepestIndent = 12; // steps; what is deeper stands below that

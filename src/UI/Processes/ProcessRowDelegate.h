@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/Processes/ProcessTableModel.h"
+#include "UI/Style/Theme.h"
 
 #include <QStyledItemDelegate>
 
@@ -13,7 +14,7 @@ class ProcessRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    static constexpr int rowHeight = 30;
+    static constexpr Theme::Length rowHeight{30};
 
     using QStyledItemDelegate::QStyledItemDelegate;
 

@@ -79,7 +79,7 @@ QString ProcessTableModel::spokenText(const ProcessColumn& column, const Process
     if (column.kind != Kind::name)
         return text;
     QStringList parts{isGrouped() && row.processes.size() > 1
-                          ? QStringLiteral("%1 ×%2").arg(text).arg(row.processes.size())
+                          ? QStringLiteral("%1 ×%2").arg(text, QString::number(row.processes.size()))
                           : text};
     if (m_listing == ProcessListing::tree)
         parts.append(tr("level %1").arg(row.depth + 1));

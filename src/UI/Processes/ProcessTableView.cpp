@@ -158,7 +158,7 @@ void ProcessTableView::restoreWidths() {
     QStringList ids;
     for (const ProcessColumn* column : m_rows->columns()) {
         ids.append(column->id.toString());
-        columns.append({ids.last(), column->width});
+        columns.append({ids.last(), Theme::scaled(column->width)});
     }
     m_order.restore(orderKey(m_rows->isGrouped()), ids);
     header()->setSectionResizeMode(0, QHeaderView::Stretch); // the name takes the remaining width

@@ -27,7 +27,7 @@ using namespace std::chrono_literals;
 namespace {
 
 const QString inspectorKey = QStringLiteral("ui.processes.details");
-constexpr int inspectorWidth = 300;
+constexpr Theme::Length inspectorWidth{300};
 constexpr auto longestLeave = 10s; // after that a process has evidently stayed
 
 } // namespace
@@ -70,7 +70,7 @@ void ProcessesView::layOut() {
     auto* beside = new QVBoxLayout(m_inspectorCard);
     beside->setContentsMargins(Theme::tableCardMargins);
     beside->addWidget(m_inspector);
-    m_inspectorCard->setFixedWidth(inspectorWidth);
+    Theme::fixWidth(m_inspectorCard, inspectorWidth);
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::rowSpacing);
     row->addWidget(card, 1);
@@ -118,7 +118,10 @@ void ProcessesView::connectInspector() {
     connect(m_table, &ProcessTableView::detailsRequested, this, [this] { showInspector(true); });
     connect(m_menu, &ProcessMenu::detailsRequested, this, [this] { showInspector(true); });
     connect(m_table, &ProcessTableView::currentMoved, this, &ProcessesView::inspectCurrent);
-    connect(m_inspector, &InspectorPanel::closed, this, [this] { showInspector(false); });
+    connect(m_inspector, &InspectorPanel::closed, this, [this] {
+        showInspector(false);
+        m_table->setFocus(Qt::OtherFocusReason);
+    });
     connect(m_inspector, &InspectorPanel::endRequested, this,
             [this](const ProcSample& process, bool force) { askToEnd({process}, force); });
     connect(m_inspector, &InspectorPanel::processRequested, this, [this](const ProcSample& process) {
@@ -287,7 +290,8 @@ void ProcessesView::confirmSweep(const NukePreview& preview) {
         add(preview.quitButton(), [this, preview] { quitApplication(preview, false); });
         add(preview.forceQuitButton(), [this, preview] { quitApplication(preview, true); });
     } else {
-        add(preview.killButton(), [this, preview] { m_notice->show(m_model.actions().nuke(preview)); });
+        add(preview.killButton(),
+            [this, preview] { m_notice->show(preview.killOutcome(m_model.actions().nuke(preview))); });
     }
     dialog->open();
 }

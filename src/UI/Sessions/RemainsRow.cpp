@@ -1,8 +1,10 @@
 #include "UI/Sessions/RemainsRow.h"
 
 #include "Core/Formatters.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
+#include "UI/Kit/RowButton.h"
 #include "UI/Sessions/SessionTexts.h"
 #include "UI/Sessions/SessionTree.h"
 #include "UI/Style/Margins.h"
@@ -103,8 +105,9 @@ void RemainsRow::set(const Remains& remains, const Setting& setting) {
     m_header->set(remains, setting.now);
     m_header->setExpanded(setting.isExpanded);
     m_end->setText(remains.endText());
+    nameRowButton(m_end, remains.endText(), remains.title());
     if (m_end->isEnabled() == setting.isEnding) {
-        m_end->setEnabled(!setting.isEnding);
+        KeptFocus::setEnabled(m_end, !setting.isEnding);
         m_end->setBusy(setting.isEnding);
     }
     if (setting.isExpanded)

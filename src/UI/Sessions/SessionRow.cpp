@@ -2,6 +2,7 @@
 
 #include "Core/Formatters.h"
 #include "UI/Kit/IconButton.h"
+#include "UI/Kit/KeptFocus.h"
 #include "UI/Kit/Pressed.h"
 #include "UI/Kit/PushButton.h"
 #include "UI/Kit/RowButton.h"
@@ -89,9 +90,9 @@ void SessionRow::showEnding(bool isEnding) {
     if (isEnding == m_isEnding)
         return;
     m_isEnding = isEnding;
-    m_pause->setEnabled(!isEnding);
-    m_resume->setEnabled(!isEnding);
-    m_end->setEnabled(!isEnding);
+    const QList<QWidget*> buttons = {m_pause, m_resume, m_end};
+    for (QWidget* button : buttons)
+        KeptFocus::setEnabled(button, !isEnding);
     m_end->setBusy(isEnding);
 }
 
