@@ -39,6 +39,8 @@ public:
     void look(const std::string& folder) {
         const std::lock_guard lock(m_mutex);
         m_folder = folder;
+        if (m_printed.empty())
+            printPlace();
     }
     void print(const std::string& text) {
         const std::lock_guard lock(m_mutex);
@@ -47,20 +49,22 @@ public:
 
 private:
     void printPlaces(const std::stop_token& stop) {
-        std::string printed;
         std::unique_lock lock(m_mutex);
         while (!m_wait.wait_for(lock, stop, std::chrono::milliseconds(100), [] { return false; }) &&
                !stop.stop_requested()) {
-            if (m_folder == printed)
-                continue;
-            printed = m_folder;
-            std::cout << "at " << printed << '\0' << std::flush;
+            if (m_folder != m_printed)
+                printPlace();
         }
+    }
+    void printPlace() {
+        m_printed = m_folder;
+        std::cout << "at " << m_printed << '\0' << std::flush;
     }
 
     std::mutex m_mutex;
     std::condition_variable_any m_wait;
     std::string m_folder;
+    std::string m_printed;
     std::jthread m_printer{[this](const std::stop_token& stop) { printPlaces(stop); }};
 };
 

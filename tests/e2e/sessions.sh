@@ -84,7 +84,7 @@ shows "a new session appears with what it started" "~/src/app, .*, 3 processes, 
 workers=$(of 10000)
 kill -KILL "$killed"
 shows "what it left is named" "Left by claude in ~/src/app, .*"
-press "End left-overs"
+press "End left-overs: Left by claude in ~/src/app"
 press "End left-overs"
 check "it is ended" all_gone $workers
 alive "$bystander" || fail "nothing else has ended"
