@@ -45,13 +45,13 @@ relocatable_archive() (
     rm -f "$plugins/platforms"/libq{eglfs,linuxfb,vnc,minimalegl,vkkhrdisplay}.so
     find "$plugins/imageformats" -name '*.so' ! -name 'libqsvg.so' -delete
     printf '[Paths]\nPrefix = ..\nPlugins = lib/plugins\n' >"$root/bin/qt.conf"
-    printf '[Paths]\nPrefix = ../..\nPlugins = lib/plugins\n' >"$root/libexec/tavrin/qt.conf"
     mapfile -t programs < <(find "$root/bin" "$root/libexec" -type f -perm -u+x; find "$plugins" -name '*.so')
     libraries_of "${programs[@]}" | xargs -r cp -L -t "$root/lib"
     patchelf --set-rpath '$ORIGIN/../lib' "$root/bin/tavrin" "$root/bin/tavrinctl"
     patchelf --set-rpath '$ORIGIN/../../lib' "$root"/libexec/tavrin/*
     patchelf --set-rpath '$ORIGIN' "$root"/lib/*.so*
     find "$plugins" -name '*.so' -exec patchelf --set-rpath '$ORIGIN/../..' {} +
+    printf '[Paths]\nPrefix = ../..\nPlugins = lib/plugins\n' >"$root/libexec/tavrin/qt.conf"
     packed "$work" "$name" "$folder/$name.tar.xz"
 )
 
