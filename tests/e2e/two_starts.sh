@@ -63,6 +63,8 @@ spawn "$program" --hidden
 pid=$spawned
 within_ten_seconds compgen -G "$XDG_RUNTIME_DIR/tavrin-*.socket" >/dev/null || fail "a hidden start runs"
 check "a hidden start shows no main window" not timeout 2 bash -c ". scripts/lib/display.sh; main_window $pid"
+"$program"
+check "a second start opens it then" main_window "$pid"
 kill "$pid"
 wait "$pid" || fail "it ends well"
 [ ! -e "$autostart" ] || fail "a program where it was built registers nothing"
