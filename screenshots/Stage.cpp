@@ -50,7 +50,7 @@ QByteArray containerAnswer(const QString& command) {
         return "Images\t12.4GB\t8.1GB (65%)\nContainers\t310MB\t290MB (93%)\n"
                "Local Volumes\t4.2GB\t1.9GB (45%)\nBuild Cache\t6.8GB\t6.8GB\n";
     return "volume\tshop_postgres-data\nvolume\tblog_uploads\n"
-           "volume\t8c1f0d3c5b7e4a60b1d2c3e4f5a6978890abcdef1234567890abcdef12345678\n";
+           "volume\t8c1f0d3c5b7e4a60b1d2c3e4f5a6978890abcdef1234567890abcdef12345678\nvolumes end\n";
 }
 
 QByteArray listingAnswer(const QStringList& arguments) {

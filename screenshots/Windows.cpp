@@ -107,7 +107,7 @@ void shootSettings(Camera& camera) {
         Outcome::failure(u"/home/ana/.config/autostart/tavrin.desktop: No space left on device"_s);
     window.findChild<GeneralTab*>()->findChild<QCheckBox*>()->click();
     shoot(SettingsScene::Tab::general, u"general-error"_s);
-    settings.preferences.pollIntervalSeconds.set(3);
+    settings.preferences.pollIntervalSeconds.set(5);
     shoot(SettingsScene::Tab::sampling, u"sampling"_s);
     settings.preferences.alertCPUHotEnabled.set(false);
     settings.preferences.alertRAMLowFreeGB.set(16);
