@@ -148,7 +148,7 @@ TEST_F(LeftoversSheetTest, ASearchSaysWhereItIsAndCanBeStopped) {
     open();
     EXPECT_TRUE(rows().isEmpty());
     EXPECT_TRUE(showsText(*sheet, u"0 projects found"_s));
-    for (const QByteArray& record : {"at /src/big\nshop", "project 5 /src/big\nshop", "at /src/caf\xc3\xa9"})
+    for (const char* record : {"at /src/big\nshop", "project 5 /src/big\nshop", "at /src/caf\xc3\xa9"})
         fakes.tools->requests.first().onOutput(record);
     settle();
     EXPECT_TRUE(showsText(*sheet, u"1 project found • Looking in /src/café"_s));

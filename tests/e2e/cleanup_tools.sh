@@ -157,8 +157,7 @@ use_journalctl() {
 journal_is() { [ "$1" = "$([ "$(du -sm /var/log/journal | cut -f1)" -gt 700 ] && echo over || echo under)" ]; }
 if [ "$(id -u)" = 0 ] && [ ${#wanted[@]} -gt 0 ]; then
     for folder in /var/cache /var/log/journal /var/lib/containers /run /dev/shm /var/tmp; do
-        mkdir -p "$folder" 2>/dev/null || true
-        mount -n -t tmpfs tmpfs "$folder"
+        ! mkdir -p "$folder" 2>/dev/null || mount -n -t tmpfs tmpfs "$folder" # what cannot be made has no tool
     done
     mkdir -p /var/cache/apt/archives/partial
     verify podman Podman "$HOME/containers/vfs/dir $HOME/containers/volumes"
