@@ -15,9 +15,30 @@ constexpr std::array steadyNames = {"claude",   "code",   "firefox-esr", "chrome
                                     "postgres", "clangd", "gnome-shell", "zsh",    "systemd"};
 constexpr std::array passingNames = {"sh", "git", "cc1plus", "rg", "node", "python3"};
 
+/// Answers by the PID, on any thread, and keeps no record of who asked.
+class EvenMemory : public FakeProcessMemory {
+public:
+    ProcessMemoryReading readAll(qint32 pid) override { return reading(pid); }
+    ProcessMemoryReading readTotals(qint32 pid) override { return reading(pid); }
+
+private:
+    static ProcessMemoryReading reading(qint32 pid) {
+        const quint64 bytes = static_cast<quint64>(pid % 200) * MiB;
+        return {.use = ProcessMemoryUse{.proportionalBytes = bytes,
+                                        .proportionalDirtyBytes = bytes / 2,
+                                        .uniqueBytes = bytes / 2,
+                                        .uniqueDirtyBytes = bytes / 2,
+                                        .dirtyBytes = bytes / 2,
+                                        .anonymousBytes = bytes / 2,
+                                        .swapBytes = 0,
+                                        .proportionalSwapBytes = 0}};
+    }
+};
+
 } // namespace
 
 BusyMachine::BusyMachine() {
+    fakes.processMemory = std::make_shared<EvenMemory>();
     for (qsizetype row = 0; row < processCount; ++row) {
         fakes.processes->listing.append(0);
         start(row);

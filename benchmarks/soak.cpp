@@ -13,6 +13,8 @@
 #include "UI/MenuBar.h"
 #include "UI/Overview/FreeRAMSheet.h"
 #include "UI/Overview/GroupRow.h"
+#include "UI/Overview/OverviewView.h"
+#include "UI/Processes/ProcessControls.h"
 #include "UI/Processes/ProcessesView.h"
 #include "UI/RootView.h"
 #include "UI/Settings/SettingsScene.h"
@@ -58,6 +60,7 @@ public:
     bool step() {
         const int tick = m_run.ticks() % visitTicks;
         useSections(tick);
+        usePages(tick);
         useFreeRAM(tick);
         useCleanup(tick);
         useSettings(tick);
@@ -93,10 +96,31 @@ private:
             root.select(RootView::Tab::processes);
         else if (tick == 600)
             root.select(RootView::Tab::cleanup);
+        else if (tick == 850)
+            root.select(RootView::Tab::sessions);
         if (tick == 20 || tick == 80)
             m_window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::other))->click();
         if (tick == 400 || tick == 500)
             only<QCheckBox>(only<ProcessesView>(m_window)).click(); // one row per name, and back
+        if (tick == 510 || tick == 590)
+            only<ProcessControls>(m_window).findChildren<QCheckBox*>().last()->click(); // the tree
+        if (tick == 520 || tick == 580)
+            Q_EMIT only<ProcessControls>(m_window).detailsToggled();
+    }
+
+    /// Opens the page of each tile for ten ticks.
+    void usePages(int tick) {
+        constexpr int opened = 30;
+        constexpr int each = 10;
+        const int page = (tick - opened) / each;
+        if (tick < opened || tick % each != 0 || page > 4)
+            return;
+        for (auto* shown : m_window.findChildren<DetailPage*>()) {
+            if (shown->isVisible())
+                Q_EMIT shown->left();
+        }
+        if (page < 4)
+            only<OverviewView>(m_window).openPage(static_cast<DetailPage::Kind>(page));
     }
 
     void useFreeRAM(int tick) {
@@ -157,6 +181,7 @@ private:
         m_feed->requests.clear();
         m_machine.fakes.tools->requests.clear();
         m_machine.fakes.relief->requests.clear();
+        m_machine.fakes.processes->inheritances.clear();
     }
 
     static QPushButton& defaultButton(const QWidget& sheet) {
