@@ -17,7 +17,6 @@ struct PlatformTarget {
     bool isShared = false;  ///< of these, only files of the user that are not open: a folder is everybody's
     bool isData = false;    ///< somebody's work: no program makes it again
     bool isInCleanAll = true;
-    QStringList kept = {}; ///< absolute paths that stay, with all below them
 
     /// Cleans it in the place of an emptying of the paths, in a login shell.
     std::optional<QString> command = std::nullopt;
@@ -35,6 +34,9 @@ public:
 
     /// Returns the targets in their order, whether or not there is something of them here.
     virtual QList<PlatformTarget> all() const = 0;
+    /// Returns what is in use of a target of somebody's work: absolute paths that stay, with all below them.
+    /// The thread that calls it may wait for a file system.
+    virtual QStringList kept(const PlatformTarget& /*target*/) const { return {}; }
     /// Returns what a person calls the entries of a folder of such a target, by their names, where these say
     /// nothing. The thread that calls it may wait for a file system.
     virtual QHash<QString, QString> namesIn(const QString& /*folder*/) const { return {}; }

@@ -154,9 +154,32 @@ TEST_F(SystemTargetsTest, NothingGoesWhileItIsUnknownWhereSomebodysWorkIs) {
     places->answer();
 }
 
+TEST_F(SystemTargetsTest, NothingGoesWhileItIsUnknownWhatIsInUse) {
+    struct Silent : FakeCleanupTargets {
+        mutable QSemaphore hangs;
+        QStringList kept(const PlatformTarget& target) const override {
+            if (target.name == u"Models"_s) {
+                hangs.acquire();
+                hangs.release();
+            }
+            return {};
+        }
+    };
+    const auto silent = std::make_shared<Silent>();
+    silent->targets = fakes.cleanupTargets->targets;
+    Platform platform = fakes.platform();
+    platform.cleanupTargets = silent;
+    CacheCleanup cleanup(platform, model->actionLog(), settings.preferences, std::chrono::milliseconds(50));
+    QCoro::waitFor(cleanup.cleanAll({cleanup.targets().constFirst()}));
+    EXPECT_TRUE(tools->requests.isEmpty());
+    ASSERT_EQ(cleanup.report().failures.size(), 1);
+    EXPECT_TRUE(cleanup.report().failures.first().reason.endsWith(u" does not answer."));
+    silent->hangs.release();
+}
+
 TEST_F(SystemTargetsTest, TheirOwnCommandsAndRulesAreUsed) {
     home.makeFolder(u"logs"_s);
-    fakes.cleanupTargets->targets[2].kept = {home.path(u"used"_s)};
+    fakes.cleanupTargets->inUse[u"Models"_s] = {home.path(u"used"_s)};
     home.makeFolder(u"caches/models"_s);
     QCoro::waitFor(model->cleanup().rescan());
     const QStringList lines = tools->commandLines();

@@ -249,8 +249,10 @@ private:
 class FakeCleanupTargets : public CleanupTargets {
 public:
     QList<PlatformTarget> targets;
+    QHash<QString, QStringList> inUse; ///< by the name of the target
 
     QList<PlatformTarget> all() const override { return targets; }
+    QStringList kept(const PlatformTarget& target) const override { return inUse.value(target.name); }
 };
 
 class FakePressure : public Pressure {

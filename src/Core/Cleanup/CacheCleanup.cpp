@@ -4,6 +4,7 @@
 #include "Core/Cleanup/CacheScanner.h"
 #include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
+#include "Core/Cleanup/OnThread.h"
 #include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/Places.h"
@@ -23,6 +24,27 @@ QList<CacheTarget> without(QList<CacheTarget> targets, const QStringList& exclud
     for (CacheTarget& target : targets)
         target.rule.excludes = excludes;
     return targets;
+}
+
+/// What a target of somebody's work is asked, each on a thread of its own.
+struct WorkQuestions {
+    PlatformTarget target;
+    PlaceFinder::Finding places;
+    QCoro::Task<std::optional<QStringList>> kept;
+};
+
+std::vector<WorkQuestions> askAboutWork(const Platform& platform, std::chrono::milliseconds patience) {
+    std::vector<WorkQuestions> questions;
+    for (const PlatformTarget& target : platform.cleanupTargets->all()) {
+        if (!target.isData)
+            continue;
+        const std::function<QStringList()> kept = [targets = platform.cleanupTargets, target] {
+            return targets->kept(target);
+        };
+        questions.push_back(
+            {target, PlaceFinder::find(target.paths, platform.places, patience), onThread(kept, patience)});
+    }
+    return questions;
 }
 
 } // namespace
@@ -86,19 +108,17 @@ void CacheCleanup::findReclaimable() {
 /// Returns the targets with what stays of each by now. A folder that holds somebody's work keeps it when it
 /// is emptied: models are among the user's caches. So nothing may go while a place of such work is unknown.
 QCoro::Task<Result<QList<CacheTarget>>> CacheCleanup::withWhatStays(QList<CacheTarget> targets) const {
+    std::vector<WorkQuestions> works = askAboutWork(m_platform, m_patience);
     QHash<QString, QStringList> keptOf;
-    std::vector<PlaceFinder::Finding> findings;
-    const QList<PlatformTarget> ofSystem = m_platform.cleanupTargets->all();
-    for (const PlatformTarget& target : ofSystem) {
-        keptOf[target.name] = target.kept;
-        if (target.isData)
-            findings.push_back(PlaceFinder::find(target.paths, m_platform.places, m_patience));
-    }
     QStringList data;
-    for (PlaceFinder::Finding& finding : findings) {
-        const Result<QList<FoundPlace>> places = co_await finding;
-        if (!places.done)
-            co_return {Outcome::failure(places.reason), targets};
+    for (WorkQuestions& work : works) {
+        const Result<QList<FoundPlace>> places = co_await work.places;
+        const std::optional<QStringList> kept = co_await work.kept;
+        if (!places.done || !kept) {
+            const QString silence = PlaceFinder::silence(work.target.paths.value(0));
+            co_return {Outcome::failure(places.done ? silence : places.reason), targets};
+        }
+        keptOf[work.target.name] = *kept;
         for (const FoundPlace& found : places.value)
             data.append(found.place.path);
     }

@@ -83,7 +83,7 @@ const QList<CacheTarget>& CacheTarget::defaults() {
 }
 
 CacheTarget CacheTarget::of(const PlatformTarget& target) {
-    CleanupRule rule{.hasUserFiles = target.isData, .kept = {target.kept.begin(), target.kept.end()}};
+    CleanupRule rule{.hasUserFiles = target.isData};
     if (target.isContainerEngine)
         rule.measure = Measure::containers;
     else if (target.sizeCommand)

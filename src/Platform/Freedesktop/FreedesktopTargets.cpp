@@ -218,14 +218,15 @@ QString rustupHome() {
 
 QList<PlatformTarget> FreedesktopTargets::all() const {
     QList<PlatformTarget> targets;
-    for (const KnownTarget& known : builders) {
+    for (const KnownTarget& known : builders)
         targets.append(targetOf(known));
-        if (targets.last().paths.contains(u"$RUSTUP_HOME/toolchains"_s))
-            targets.last().kept = usedToolchains(rustupHome());
-    }
     for (const KnownTarget& known : desktop)
         targets.append(targetOf(known));
     return targets + cleanedByTools();
+}
+
+QStringList FreedesktopTargets::kept(const PlatformTarget& target) const {
+    return target.paths.contains(u"$RUSTUP_HOME/toolchains"_s) ? usedToolchains(rustupHome()) : QStringList();
 }
 
 QHash<QString, QString> FreedesktopTargets::namesIn(const QString& folder) const {

@@ -6,6 +6,7 @@
 class FreedesktopTargets : public CleanupTargets {
 public:
     QList<PlatformTarget> all() const override;
+    QStringList kept(const PlatformTarget& target) const override;
     QHash<QString, QString> namesIn(const QString& folder) const override;
 
     /// Returns the toolchains below the folder of rustup that its settings name, as the default or for a
