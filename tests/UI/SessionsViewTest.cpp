@@ -359,7 +359,7 @@ TEST_F(SessionsViewTest, PauseAsksFirstAndAFolderThatIsGoneIsSaid) {
     EXPECT_FALSE(buttonNamed(*row(1), u"Pause"_s));
     EXPECT_TRUE(buttonNamed(*row(1), u"Resume"_s));
     press(*row(1), u"Open folder"_s);
-    EXPECT_TRUE(showsText(*view, u"Could not open /no/such/folder."_s));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return showsText(*view, u"Could not open /no/such/folder."_s); }));
 }
 
 TEST_F(SessionsViewTest, TheMenuHasTheSameActions) {

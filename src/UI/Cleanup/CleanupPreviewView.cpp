@@ -2,10 +2,10 @@
 
 #include "Core/Formatters.h"
 #include "UI/Cleanup/CleanupPreviewModel.h"
+#include "UI/Kit/OpenFolder.h"
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -13,7 +13,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
-#include <QUrl>
 
 using Theme::Role;
 using Theme::TextStyle;
@@ -174,6 +173,6 @@ void CleanupPreviewView::reveal(const QModelIndex& index) {
     const QString path = m_model.choice().pathOf(m_model.nodeOf(index));
     const bool isEntry = m_model.node(index).kind == CleanupChoice::Kind::entry;
     const QString folder = isEntry ? QFileInfo(path).path() : path;
-    if (!QFileInfo(folder).isDir() || !QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
-        Q_EMIT failed(tr("Could not open %1.").arg(Formatters::visible(folder)));
+    openFolder(this, folder,
+               [this, folder] { Q_EMIT failed(tr("Could not open %1.").arg(Formatters::visible(folder))); });
 }

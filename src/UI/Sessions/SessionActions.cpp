@@ -1,15 +1,13 @@
 #include "UI/Sessions/SessionActions.h"
 
 #include "AppModel.h"
+#include "UI/Kit/OpenFolder.h"
 #include "UI/Sessions/SessionTexts.h"
 
 #include <QClipboard>
 #include <QCoroTask>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QUrl>
 #include <QWidget>
 
 SessionActions::SessionActions(AppModel& model, QWidget* page)
@@ -94,10 +92,10 @@ void SessionActions::report(const Outcome& outcome, const QString& text) {
         Q_EMIT failed(outcome.reason.isEmpty() ? text : text + u' ' + outcome.reason);
 }
 
-/// Opens the folder in the desktop's file manager. A file in its place, which that would run, stays closed.
 void SessionActions::openFolder(const Session& session) {
-    if (!QFileInfo(session.folder).isDir() || !QDesktopServices::openUrl(QUrl::fromLocalFile(session.folder)))
-        Q_EMIT failed(tr("Could not open %1.").arg(session.project()));
+    ::openFolder(this, session.folder, [this, project = session.project()] {
+        Q_EMIT failed(tr("Could not open %1.").arg(project));
+    });
 }
 
 void SessionActions::copyDetails(const Session& session) {
