@@ -1,7 +1,6 @@
 #include "UI/Overview/DiskPage.h"
 
 #include "AppModel.h"
-#include "Core/Cleanup/OnThread.h"
 #include "Core/Formatters.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/EmptyState.h"
@@ -9,7 +8,6 @@
 #include "UI/Style/Levels.h"
 
 #include <QPainter>
-#include <QPointer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,7 +19,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto volumeInterval = 10s;
-constexpr auto volumeLimit = 5s; ///< a disk that does not answer is waited for no longer
 constexpr Theme::Length volumeRowHeight{44};
 constexpr Theme::Length volumeBarHeight{6};
 
@@ -105,21 +102,14 @@ void DiskPage::refresh() {
 
 void DiskPage::refreshVolumes() {
     const Instant now = model().systemSample().timestamp;
-    const bool isRecent = now >= m_volumesAt && now - m_volumesAt < volumeInterval;
-    if (m_isReadingVolumes || isRecent || m_reading.use_count() > 1)
+    if (now >= m_volumesAt && now - m_volumesAt < volumeInterval)
         return;
-    m_isReadingVolumes = true;
-    // The thread holds it until its disk answers.
-    const std::function<QList<MountedVolume>()> read = [machine = sharedMachine(), holder = m_reading] {
-        return machine->volumes();
-    };
-    onThread(read, volumeLimit).then([self = QPointer<DiskPage>(this), now](auto volumes) {
-        if (!self)
-            return;
-        self->m_isReadingVolumes = false;
-        self->m_volumesAt = now;
-        self->showVolumes(volumes);
-    });
+    m_mounted.ask(
+        this, [machine = sharedMachine()] { return machine->volumes(); },
+        [this, now](const auto& volumes) {
+            m_volumesAt = now;
+            showVolumes(volumes);
+        });
 }
 
 void DiskPage::showVolumes(const std::optional<QList<MountedVolume>>& volumes) {

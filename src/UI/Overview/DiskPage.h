@@ -3,6 +3,7 @@
 #include "Platform/MachineDetails.h"
 #include "UI/Kit/RowPool.h"
 #include "UI/Overview/DetailPage.h"
+#include "UI/Overview/SlowReading.h"
 
 #include <memory>
 #include <optional>
@@ -36,7 +37,5 @@ private:
     QList<DiskTraffic> m_before;
     Instant m_readAt;
     Instant m_volumesAt;
-    bool m_isReadingVolumes = false;
-    std::shared_ptr<char> m_reading =
-        std::make_shared<char>(); ///< also held by a thread that has no answer yet
+    SlowReading<QList<MountedVolume>> m_mounted;
 };

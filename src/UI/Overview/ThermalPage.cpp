@@ -10,18 +10,26 @@
 ThermalPage::ThermalPage(AppModel& model, std::shared_ptr<MachineDetails> machine)
     : DetailPage(tr("Thermal"), model, std::move(machine))
     , m_sensors(addGraph(tr("Sensors"), Graph::Unit::degrees))
-    , m_none(new EmptyState(
-          QStringLiteral("waveform"), tr("No temperatures"),
-          tr("This computer shows no sensors to programs, as most virtual machines. The tile shows "
-             "the state that the kernel reports."))) {
+    , m_none(new EmptyState(QStringLiteral("waveform"), tr("No temperatures"), {})) {
     column()->addWidget(m_none);
+    m_none->hide();
     column()->addStretch();
 }
 
 void ThermalPage::refresh() {
+    m_reading.ask(
+        this, [machine = sharedMachine()] { return machine->sensors(); },
+        [this](const auto& sensors) { showSensors(sensors); });
+}
+
+void ThermalPage::showSensors(const std::optional<QList<HeatSensor>>& sensors) {
+    m_none->setText(
+        sensors ? tr("This computer shows no sensors to programs, as most virtual machines. The tile shows "
+                     "the state that the kernel reports.")
+                : tr("A sensor does not answer. It is asked again once it does, while this page is open."));
     QStringList names;
     QList<double> degrees;
-    for (const HeatSensor& sensor : machine().sensors()) {
+    for (const HeatSensor& sensor : sensors.value_or(QList<HeatSensor>())) {
         names.append(Formatters::visible(sensor.name));
         degrees.append(sensor.celsius);
     }

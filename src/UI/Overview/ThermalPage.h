@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Platform/MachineDetails.h"
 #include "UI/Overview/DetailPage.h"
+#include "UI/Overview/SlowReading.h"
 
 class EmptyState;
 
@@ -15,6 +17,9 @@ protected:
     void refresh() override;
 
 private:
+    void showSensors(const std::optional<QList<HeatSensor>>& sensors);
+
     Graph* m_sensors;
-    EmptyState* m_none;
+    EmptyState* m_none; ///< why there is no graph
+    SlowReading<QList<HeatSensor>> m_reading;
 };
