@@ -10,8 +10,8 @@
 #include "UI/MessageBanner.h"
 #include "UI/Optimize/OptimizeView.h"
 #include "UI/Overview/OverviewView.h"
+#include "UI/Processes/EndDialog.h"
 #include "UI/Processes/ProcessesView.h"
-#include "UI/Processes/QuitDialog.h"
 #include "UI/Sessions/SessionsView.h"
 #include "UI/ShortcutsSheet.h"
 #include "UI/Style/Theme.h"
@@ -237,8 +237,10 @@ void RootView::confirmEnd(const ProcessIdentity& host) {
 }
 
 void RootView::confirmQuit(const ProcSample& process) {
-    if (!hasDialog())
-        QuitDialog::ask(window(), m_model, process);
+    if (hasDialog())
+        return;
+    EndDialog::ask(window(), m_model, {process}, false,
+                   [this](const QList<ProcSample>& ended) { m_model.actions().quitProcess(ended.first()); });
 }
 
 void RootView::changeEvent(QEvent* event) {

@@ -9,7 +9,8 @@
 class AppModel;
 class QWidget;
 
-/// The question before several processes are ended together, or one that more depends on.
+/// The question before processes are ended that no press on a row of their own named alone: several together,
+/// one that more depends on, or one that was chosen outside the window.
 namespace EndDialog {
 
 /// Returns whether the end of these has to be asked about.
