@@ -17,7 +17,6 @@
 #include "support/FakeLoginItem.h"
 
 #include <QCheckBox>
-#include <QEnterEvent>
 #include <QFileDialog>
 #include <QScrollBar>
 #include <QTreeView>
@@ -53,8 +52,7 @@ void shootPanels(Camera& camera) {
 
     WidgetView widget(stage.model);
     camera.take(widget, u"widget"_s);
-    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
-    QCoreApplication::sendEvent(&widget, &enter);
+    widget.setAttribute(Qt::WA_UnderMouse);
     camera.take(widget, u"widget-hover"_s);
 }
 

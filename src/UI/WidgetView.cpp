@@ -43,6 +43,7 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
     })
     , m_alertSection(makeAlert()) {
     Theme::fixWidth(this, cardWidth);
+    setAttribute(Qt::WA_Hover); // the buttons show themselves under the pointer
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(widgetPadding, widgetPadding, widgetPadding, widgetPadding);
     column->setSpacing(widgetSpacing);
@@ -52,7 +53,6 @@ WidgetView::WidgetView(AppModel& model, QWidget* parent)
     column->addLayout(makeGroups());
     column->addWidget(m_alertSection);
     column->addStretch();
-    setHover(false);
     refreshOnScreen(this, {&m_model}, [this] { refresh(); });
 }
 
@@ -75,10 +75,7 @@ QLayout* WidgetView::makeHeader() {
     row->addWidget(m_worst);
     row->addStretch();
     for (IconButton* button : {m_open, m_hide}) {
-        // Keeps its room while hidden, so that the card does not change under the pointer.
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
+        button->setQuiet();
         row->addWidget(button);
     }
     return row;
@@ -118,19 +115,6 @@ QWidget* WidgetView::makeAlert() {
     column->addWidget(m_alert);
     column->addWidget(m_more);
     return section;
-}
-
-void WidgetView::enterEvent(QEnterEvent*) {
-    setHover(true);
-}
-
-void WidgetView::leaveEvent(QEvent*) {
-    setHover(false);
-}
-
-void WidgetView::setHover(bool hover) {
-    m_open->setVisible(hover);
-    m_hide->setVisible(hover);
 }
 
 void WidgetView::refresh() {

@@ -36,8 +36,6 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
 private:
     QLayout* makeHeader();
@@ -48,7 +46,6 @@ private:
     void refreshGrid();
     void refreshGroups();
     void refreshAlert();
-    void setHover(bool hover);
 
     AppModel& m_model;
     IconButton* m_open;
