@@ -1,8 +1,10 @@
 #include "UI/Kit/Slider.h"
+#include "UI/Style/MenuDrawing.h"
 #include "UI/Style/Painting.h"
 
 #include <QImage>
 #include <QPainter>
+#include <QStyleOption>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -48,6 +50,34 @@ TEST(MirroredTest, PlacesChangeSidesAndTextsAndTicksStayReadable) {
     EXPECT_EQ(quarter.pixelColor(110, 10), QColor(Qt::red));
     EXPECT_NE(quarter.pixelColor(80, 10), QColor(Qt::red));
     EXPECT_EQ(Painting::mirrored({10, 5}, paper, Qt::RightToLeft), QPointF(110, 5));
+}
+
+TEST(MirroredTest, AMenuHasItsTextAtTheRightAndItsKeysAtTheLeft) {
+    constexpr QRect row(0, 0, 240, 32);
+    const auto hasInk = [&](Qt::LayoutDirection direction, const QString& text, const QRect& area) {
+        QImage image(row.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionMenuItem item;
+        item.rect = row;
+        item.direction = direction;
+        item.text = text;
+        item.state = QStyle::State_Enabled;
+        MenuDrawing::drawItem(painter, item);
+        painter.end();
+        for (int x = area.left(); x <= area.right(); ++x) {
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                if (image.pixelColor(x, y) != QColor(Qt::white))
+                    return true;
+            }
+        }
+        return false;
+    };
+    const QRect left = row.adjusted(0, 0, -180, 0);
+    const QRect right = row.adjusted(180, 0, 0, 0);
+    EXPECT_TRUE(hasInk(Qt::LeftToRight, u"&Quit"_s, left) && !hasInk(Qt::LeftToRight, u"&Quit"_s, right));
+    EXPECT_TRUE(hasInk(Qt::RightToLeft, u"&Quit"_s, right) && !hasInk(Qt::RightToLeft, u"&Quit"_s, left));
+    EXPECT_TRUE(hasInk(Qt::RightToLeft, u"\tDel"_s, left) && !hasInk(Qt::RightToLeft, u"\tDel"_s, right));
 }
 
 TEST(MirroredTest, ASliderBeginsAtTheRight) {

@@ -33,9 +33,23 @@ void drawMark(QPainter& painter, const QStyleOptionMenuItem& item, const QRectF&
         Symbols::draw(painter, QStringLiteral("checkmark"), ink, column, markSize);
 }
 
+void drawIcon(QPainter& painter, const QIcon& icon, const QRectF& area) {
+    const Painting::Upright upright(painter, area);
+    icon.paint(&painter, area.toRect());
+}
+
+/// `side` is that of a layout from left to right.
+void drawText(QPainter& painter, const QRectF& line, Qt::AlignmentFlag side, const QString& text) {
+    constexpr int flags = Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextHideMnemonic;
+    const Painting::Upright upright(painter, line);
+    const Qt::AlignmentFlag other = side == Qt::AlignLeft ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(line, flags | (upright.isMirrored() ? other : side), text);
+}
+
 } // namespace
 
 void drawItem(QPainter& painter, const QStyleOptionMenuItem& item) {
+    const Painting::Mirrored mirrored(painter, item.rect, item.direction);
     const QRectF row = QRectF(item.rect).adjusted(edge, 1, -edge, -1);
     if (isSeparator(item)) {
         painter.fillRect(QRectF(row.left(), qRound(row.center().y()), row.width(), 1),
@@ -54,20 +68,18 @@ void drawItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     painter.setPen(ink);
     painter.setFont(item.font);
     if (!item.icon.isNull()) {
-        const QRectF icon(line.left(), line.top(), markSize, line.height());
-        item.icon.paint(&painter, icon.toRect());
+        drawIcon(painter, item.icon, QRectF(line.left(), line.top(), markSize, line.height()));
         line.setLeft(line.left() + markColumn);
     }
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu)
         Symbols::draw(painter, QStringLiteral("chevron.right"), ink, Painting::takeRight(line, markSize),
                       markSize);
-    constexpr int flags = Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextHideMnemonic;
     const qsizetype tab = item.text.indexOf(u'\t');
-    painter.drawText(line, flags | Qt::AlignLeft, item.text.left(tab));
+    drawText(painter, line, Qt::AlignLeft, item.text.left(tab));
     if (tab < 0)
         return;
     painter.setPen(Theme::color(Role::secondaryText, isEnabled ? 1 : Theme::disabledOpacity));
-    painter.drawText(line, flags | Qt::AlignRight, item.text.mid(tab + 1));
+    drawText(painter, line, Qt::AlignRight, item.text.mid(tab + 1));
 }
 
 QSize itemSize(const QStyleOptionMenuItem& item, const QSize& contents) {
