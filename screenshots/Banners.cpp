@@ -4,6 +4,7 @@
 
 #include "UI/MainWindow.h"
 #include "UI/MessageBanner.h"
+#include "UI/RootView.h"
 
 #include <QCoroTask>
 
@@ -57,5 +58,6 @@ void shootBanners(Camera& camera) {
     Stage& stage = *stages[2];
     stage.play(150, 24, 8.1);
     MainWindow window(stage.model, stage.prefs, stage.messages);
+    window.resize(RootView::minimumContent);
     camera.take(window, u"overview-banner"_s);
 }

@@ -119,6 +119,7 @@ void shootCleanup(Camera& camera) {
     AppModel model(stage.fakes.platform(), stage.prefs);
     QMetaObject::invokeMethod(&model, "tick");
     MainWindow window(model, stage.prefs, stage.messages);
+    window.resize(RootView::minimumContent);
     window.show();
     window.findChild<RootView*>()->select(RootView::Tab::cleanup);
     settle();

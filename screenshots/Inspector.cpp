@@ -60,6 +60,7 @@ void shootInspector(Camera& camera) {
     const qint32 pid = addInspected(stage);
     stage.play(2, 24, 8.1);
     MainWindow window(stage.model, stage.prefs, stage.messages);
+    window.resize(RootView::minimumContent);
     window.findChild<RootView*>()->select(RootView::Tab::processes);
     window.show();
     auto* table = window.findChild<ProcessTableView*>();

@@ -142,6 +142,7 @@ void shootSections(Camera& camera) {
     Stage calm;
     calm.play(150, 24, 8.1);
     MainWindow window(calm.model, calm.prefs, calm.messages);
+    window.resize(RootView::minimumContent);
     camera.take(window, u"overview"_s);
     window.findChildren<GroupHeader*>().at(static_cast<qsizetype>(ProcGroup::agents))->click();
     camera.take(window, u"overview-open-group"_s);
@@ -156,6 +157,7 @@ void shootSections(Camera& camera) {
     pressed.fakes.pressure->memoryLevel = PressureLevel{.some = 12, .full = 3};
     pressed.play(10, 92, 14.6);
     MainWindow busy(pressed.model, pressed.prefs, pressed.messages);
+    busy.resize(RootView::minimumContent);
     camera.take(busy, u"overview-alerts"_s);
     busy.resize(1600, 1000);
     camera.take(busy, u"overview-alerts-large"_s);

@@ -107,6 +107,7 @@ void shootSessions(Camera& camera) {
     stage.fakes.clock->wall = SampleSessions::start;
     QMetaObject::invokeMethod(&stage.model, "tick");
     MainWindow window(stage.model, stage.prefs, stage.messages);
+    window.resize(RootView::minimumContent);
     window.findChild<RootView*>()->select(RootView::Tab::sessions);
     window.show();
     settle();
