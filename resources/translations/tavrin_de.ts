@@ -212,6 +212,11 @@
         <source>This desktop has no service that shows notifications.</source>
         <translation>Diese Arbeitsumgebung hat keinen Dienst, der Benachrichtigungen anzeigt.</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <comment>a share</comment>
+        <translation>%1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>AppMenu</name>
@@ -2149,18 +2154,6 @@
         <translation>CPU</translation>
     </message>
     <message>
-        <source> • pressure %1 %</source>
-        <translation> • Druck %1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Programme warteten %1&#xa0;% der letzten zehn Sekunden auf Speicher, alle zugleich %2&#xa0;%</translation>
-    </message>
-    <message>
-        <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… und %1&#xa0;% auf Datenträger, alle zugleich %2&#xa0;%</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>Arbeitsspeicher</translation>
     </message>
@@ -2183,6 +2176,19 @@
     <message>
         <source>No swap</source>
         <translation>Kein Swap</translation>
+    </message>
+    <message>
+        <source>%1 • pressure %2</source>
+        <comment>used memory; a share of time</comment>
+        <translation>%1 • Druck %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for memory, all of them %2</source>
+        <translation>Programme warteten %1 der letzten zehn Sekunden auf Speicher, alle zugleich %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for disks, all of them %2</source>
+        <translation>Programme warteten %1 der letzten zehn Sekunden auf Datenträger, alle zugleich %2</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2396,10 @@
     <message>
         <source>Still running</source>
         <translation>Läuft noch</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
     </message>
 </context>
 <context>
@@ -2988,21 +2998,6 @@
     <message>
         <source>Edit preset</source>
         <translation>Vorgabe bearbeiten</translation>
-    </message>
-</context>
-<context>
-    <name>QuitDialog</name>
-    <message>
-        <source>Quit %1?</source>
-        <translation>%1 beenden?</translation>
-    </message>
-    <message>
-        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>PID %1 belegt %2. Der Prozess wird zum Beenden aufgefordert und kann nicht Gespeichertes verlieren.</translation>
-    </message>
-    <message>
-        <source>Quit %1</source>
-        <translation>%1 beenden</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3767,10 @@
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>Seitenleiste ein- oder ausblenden</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -3853,6 +3852,10 @@
     <message>
         <source>Sensors</source>
         <translation>Sensoren</translation>
+    </message>
+    <message>
+        <source>A sensor does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Ein Sensor antwortet nicht. Er wird wieder gefragt, sobald er es tut, solange diese Seite offen ist.</translation>
     </message>
 </context>
 <context>

@@ -212,6 +212,11 @@
         <source>This desktop has no service that shows notifications.</source>
         <translation>Este escritorio no tiene ningún servicio que muestre notificaciones.</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <comment>a share</comment>
+        <translation>%1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>AppMenu</name>
@@ -2149,18 +2154,6 @@
         <translation>CPU</translation>
     </message>
     <message>
-        <source> • pressure %1 %</source>
-        <translation> • presión %1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Hubo programas esperando memoria el %1&#xa0;% de los últimos diez segundos, todos a la vez el %2&#xa0;%</translation>
-    </message>
-    <message>
-        <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… y el %1&#xa0;% esperando discos, todos a la vez el %2&#xa0;%</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>Memoria</translation>
     </message>
@@ -2183,6 +2176,19 @@
     <message>
         <source>No swap</source>
         <translation>Sin swap</translation>
+    </message>
+    <message>
+        <source>%1 • pressure %2</source>
+        <comment>used memory; a share of time</comment>
+        <translation>%1 • presión %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for memory, all of them %2</source>
+        <translation>Hubo programas esperando memoria el %1 de los últimos diez segundos, todos a la vez el %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for disks, all of them %2</source>
+        <translation>Hubo programas esperando discos el %1 de los últimos diez segundos, todos a la vez el %2</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2396,10 @@
     <message>
         <source>Still running</source>
         <translation>Sigue en ejecución</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
     </message>
 </context>
 <context>
@@ -2988,21 +2998,6 @@
     <message>
         <source>Edit preset</source>
         <translation>Editar preajuste</translation>
-    </message>
-</context>
-<context>
-    <name>QuitDialog</name>
-    <message>
-        <source>Quit %1?</source>
-        <translation>¿Cerrar %1?</translation>
-    </message>
-    <message>
-        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>El PID %1 ocupa %2. Se le pide que termine y puede perder lo que no esté guardado.</translation>
-    </message>
-    <message>
-        <source>Quit %1</source>
-        <translation>Cerrar %1</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3767,10 @@
         <source>Done</source>
         <translation>Hecho</translation>
     </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>Mostrar u ocultar la barra lateral</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -3853,6 +3852,10 @@
     <message>
         <source>Sensors</source>
         <translation>Sensores</translation>
+    </message>
+    <message>
+        <source>A sensor does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Un sensor no responde. Se le volverá a preguntar en cuanto lo haga, mientras esta página esté abierta.</translation>
     </message>
 </context>
 <context>

@@ -212,6 +212,11 @@
         <source>This desktop has no service that shows notifications.</source>
         <translation>Ce bureau n’a aucun service qui affiche des notifications.</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <comment>a share</comment>
+        <translation>%1&#x202f;%</translation>
+    </message>
 </context>
 <context>
     <name>AppMenu</name>
@@ -2149,18 +2154,6 @@
         <translation>CPU</translation>
     </message>
     <message>
-        <source> • pressure %1 %</source>
-        <translation> • pression %1&#x202f;%</translation>
-    </message>
-    <message>
-        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>Des programmes ont attendu de la mémoire pendant %1&#x202f;% des dix dernières secondes, tous à la fois %2&#x202f;%</translation>
-    </message>
-    <message>
-        <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… et %1&#x202f;% pour les disques, tous à la fois %2&#x202f;%</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>Mémoire</translation>
     </message>
@@ -2183,6 +2176,19 @@
     <message>
         <source>No swap</source>
         <translation>Pas de swap</translation>
+    </message>
+    <message>
+        <source>%1 • pressure %2</source>
+        <comment>used memory; a share of time</comment>
+        <translation>%1 • pression %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for memory, all of them %2</source>
+        <translation>Des programmes ont attendu de la mémoire pendant %1 des dix dernières secondes, tous à la fois %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for disks, all of them %2</source>
+        <translation>Des programmes ont attendu des disques pendant %1 des dix dernières secondes, tous à la fois %2</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2396,10 @@
     <message>
         <source>Still running</source>
         <translation>Toujours en cours</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
     </message>
 </context>
 <context>
@@ -2988,21 +2998,6 @@
     <message>
         <source>Edit preset</source>
         <translation>Modifier le préréglage</translation>
-    </message>
-</context>
-<context>
-    <name>QuitDialog</name>
-    <message>
-        <source>Quit %1?</source>
-        <translation>Quitter %1&#x202f;?</translation>
-    </message>
-    <message>
-        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>Le PID %1 occupe %2. Il lui sera demandé de s’arrêter&#x202f;; il peut perdre ce qui n’est pas enregistré.</translation>
-    </message>
-    <message>
-        <source>Quit %1</source>
-        <translation>Quitter %1</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3767,10 @@
         <source>Done</source>
         <translation>Terminé</translation>
     </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>Afficher ou masquer la barre latérale</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -3853,6 +3852,10 @@
     <message>
         <source>Sensors</source>
         <translation>Capteurs</translation>
+    </message>
+    <message>
+        <source>A sensor does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>Un capteur ne répond pas. Il sera de nouveau interrogé dès qu’il répondra, tant que cette page est ouverte.</translation>
     </message>
 </context>
 <context>

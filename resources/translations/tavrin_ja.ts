@@ -212,6 +212,11 @@
         <source>This desktop has no service that shows notifications.</source>
         <translation>このデスクトップには通知を表示するサービスがありません。</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <comment>a share</comment>
+        <translation>%1%</translation>
+    </message>
 </context>
 <context>
     <name>AppMenu</name>
@@ -2132,18 +2137,6 @@
         <translation>CPU</translation>
     </message>
     <message>
-        <source> • pressure %1 %</source>
-        <translation> • 圧迫 %1%</translation>
-    </message>
-    <message>
-        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>直近 10 秒のうち、プログラムがメモリを待った時間は %1 %、全プログラム同時は %2 %</translation>
-    </message>
-    <message>
-        <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… ディスク待ちは %1 %、全プログラム同時は %2 %</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>メモリ</translation>
     </message>
@@ -2166,6 +2159,19 @@
     <message>
         <source>No swap</source>
         <translation>スワップなし</translation>
+    </message>
+    <message>
+        <source>%1 • pressure %2</source>
+        <comment>used memory; a share of time</comment>
+        <translation>%1 • 圧迫 %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for memory, all of them %2</source>
+        <translation>直近 10 秒のうち、プログラムがメモリを待った時間は %1、全プログラム同時は %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for disks, all of them %2</source>
+        <translation>直近 10 秒のうち、プログラムがディスクを待った時間は %1、全プログラム同時は %2</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2373,10 @@
     <message>
         <source>Still running</source>
         <translation>実行中のまま</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
     </message>
 </context>
 <context>
@@ -2959,21 +2969,6 @@
     <message>
         <source>Edit preset</source>
         <translation>プリセットを編集</translation>
-    </message>
-</context>
-<context>
-    <name>QuitDialog</name>
-    <message>
-        <source>Quit %1?</source>
-        <translation>%1 を終了しますか？</translation>
-    </message>
-    <message>
-        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>PID %1 は %2 を使用しています。終了を求めます。保存していない内容は失われることがあります。</translation>
-    </message>
-    <message>
-        <source>Quit %1</source>
-        <translation>%1 を終了</translation>
     </message>
 </context>
 <context>
@@ -3733,6 +3728,10 @@
         <source>Done</source>
         <translation>完了</translation>
     </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>サイドバーの表示・非表示</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -3814,6 +3813,10 @@
     <message>
         <source>Sensors</source>
         <translation>センサー</translation>
+    </message>
+    <message>
+        <source>A sensor does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>応答しないセンサーがあります。応答し次第、このページが開いている間に再び問い合わせます。</translation>
     </message>
 </context>
 <context>

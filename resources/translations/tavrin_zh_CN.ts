@@ -212,6 +212,11 @@
         <source>This desktop has no service that shows notifications.</source>
         <translation>此桌面没有显示通知的服务。</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <comment>a share</comment>
+        <translation>%1%</translation>
+    </message>
 </context>
 <context>
     <name>AppMenu</name>
@@ -2132,18 +2137,6 @@
         <translation>CPU</translation>
     </message>
     <message>
-        <source> • pressure %1 %</source>
-        <translation> • 压力 %1%</translation>
-    </message>
-    <message>
-        <source>Programs waited %1 % of the last ten seconds for memory, all of them %2 %</source>
-        <translation>过去十秒中，程序有 %1 % 的时间在等待内存，全部同时等待占 %2 %</translation>
-    </message>
-    <message>
-        <source>… and %1 % for disks, all of them %2 %</source>
-        <translation>… 等待磁盘占 %1 %，全部同时等待占 %2 %</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>内存</translation>
     </message>
@@ -2166,6 +2159,19 @@
     <message>
         <source>No swap</source>
         <translation>无交换空间</translation>
+    </message>
+    <message>
+        <source>%1 • pressure %2</source>
+        <comment>used memory; a share of time</comment>
+        <translation>%1 • 压力 %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for memory, all of them %2</source>
+        <translation>过去十秒中，程序有 %1 的时间在等待内存，全部同时等待占 %2</translation>
+    </message>
+    <message>
+        <source>Programs waited %1 of the last ten seconds for disks, all of them %2</source>
+        <translation>过去十秒中，程序有 %1 的时间在等待磁盘，全部同时等待占 %2</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2373,10 @@
     <message>
         <source>Still running</source>
         <translation>仍在运行</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>进程</translation>
     </message>
 </context>
 <context>
@@ -2959,21 +2969,6 @@
     <message>
         <source>Edit preset</source>
         <translation>编辑预设</translation>
-    </message>
-</context>
-<context>
-    <name>QuitDialog</name>
-    <message>
-        <source>Quit %1?</source>
-        <translation>退出 %1？</translation>
-    </message>
-    <message>
-        <source>PID %1 holds %2. It is asked to end, and may lose what is not saved.</source>
-        <translation>PID %1 占用 %2。将请求它结束，未保存的内容可能丢失。</translation>
-    </message>
-    <message>
-        <source>Quit %1</source>
-        <translation>退出 %1</translation>
     </message>
 </context>
 <context>
@@ -3733,6 +3728,10 @@
         <source>Done</source>
         <translation>完成</translation>
     </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>显示或隐藏侧边栏</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -3814,6 +3813,10 @@
     <message>
         <source>Sensors</source>
         <translation>传感器</translation>
+    </message>
+    <message>
+        <source>A sensor does not answer. It is asked again once it does, while this page is open.</source>
+        <translation>有传感器没有响应。在此页面打开期间，一旦它响应就会再次查询。</translation>
     </message>
 </context>
 <context>

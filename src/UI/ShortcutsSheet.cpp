@@ -33,6 +33,7 @@ ShortcutsSheet::ShortcutsSheet(QWidget* parent)
     keys->addHeading(tr("Everywhere"));
     keys->addRow({.name = tr("Go to a section"),
                   .figure = shown({Qt::CTRL | Qt::Key_1, Qt::CTRL | Qt::Key_5}, QStringLiteral(" … "))});
+    keys->addRow({.name = tr("Show or hide the sidebar"), .figure = shown({Qt::Key_F9})});
     keys->addRow({.name = tr("Settings"), .figure = shown({Qt::CTRL | Qt::Key_Comma})});
     keys->addRow({.name = tr("Close the window"), .figure = shown({Qt::CTRL | Qt::Key_W})});
     keys->addRow({.name = tr("Quit Tavrin"), .figure = shown({Qt::CTRL | Qt::Key_Q})});

@@ -35,10 +35,10 @@ TEST(Metrics, MemoryTellsThePressureWhileThereIsAny) {
     EXPECT_TRUE(Metrics::memory(sample, {sample}, {}).pressure.isEmpty());
     sample.memoryPressure = PressureLevel{.some = 12.4, .full = 3};
     const Metric metric = Metrics::memory(sample, {withMemory(50), sample}, {});
-    EXPECT_TRUE(metric.sub->endsWith(u"• pressure 12 %"));
+    EXPECT_TRUE(metric.sub->endsWith(u"• pressure 12%"));
     EXPECT_EQ(metric.pressure, (QList<double>{0, 12.4}));
     EXPECT_TRUE(
-        metric.toolTip.contains(u"Programs waited 12 % of the last ten seconds for memory, all of them 3 %"));
+        metric.toolTip.contains(u"Programs waited 12% of the last ten seconds for memory, all of them 3%"));
 }
 
 TEST(Metrics, ColoursAreDecidedOnUnroundedFigures) {

@@ -37,21 +37,22 @@ QString memoryText(const SystemSample& sample) {
     const QString size = QStringLiteral("%1 / %2").arg(Formatters::bytes(sample.memUsedBytes),
                                                        Formatters::bytes(sample.memTotalBytes));
     const double pressure = sample.memoryPressure.value_or(PressureLevel()).some;
-    return pressure < leastShownPressure ? size
-                                         : size + QCoreApplication::translate("Metrics", " • pressure %1 %")
-                                                      .arg(Formatters::fixed(pressure, 0));
+    if (pressure < leastShownPressure)
+        return size;
+    return QCoreApplication::translate("Metrics", "%1 • pressure %2", "used memory; a share of time")
+        .arg(size, Formatters::percent(pressure));
 }
 
 QStringList pressureLines(const SystemSample& sample) {
     QStringList lines;
     if (const auto& level = sample.memoryPressure)
-        lines.append(
-            QCoreApplication::translate(
-                "Metrics", "Programs waited %1 % of the last ten seconds for memory, all of them %2 %")
-                .arg(Formatters::fixed(level->some, 0), Formatters::fixed(level->full, 0)));
+        lines.append(QCoreApplication::translate(
+                         "Metrics", "Programs waited %1 of the last ten seconds for memory, all of them %2")
+                         .arg(Formatters::percent(level->some), Formatters::percent(level->full)));
     if (const auto& level = sample.diskPressure)
-        lines.append(QCoreApplication::translate("Metrics", "… and %1 % for disks, all of them %2 %")
-                         .arg(Formatters::fixed(level->some, 0), Formatters::fixed(level->full, 0)));
+        lines.append(QCoreApplication::translate(
+                         "Metrics", "Programs waited %1 of the last ten seconds for disks, all of them %2")
+                         .arg(Formatters::percent(level->some), Formatters::percent(level->full)));
     return lines;
 }
 

@@ -84,9 +84,18 @@ private:
 OutcomeList::OutcomeList(QWidget* parent)
     : QScrollArea(parent)
     , m_column(makeScrollingPage(this, {}, 0)) {
-    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(tr("Processes"));
     viewport()->setAutoFillBackground(false);
     widget()->setAutoFillBackground(false);
+}
+
+bool OutcomeList::event(QEvent* event) {
+    const bool done = QScrollArea::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        Painting::drawFocusRing(painter, rect(), Theme::controlRadius);
+    }
+    return done;
 }
 
 void OutcomeList::set(const QList<Line>& lines) {
@@ -98,5 +107,6 @@ void OutcomeList::set(const QList<Line>& lines) {
     }
     const auto shown = std::min<qsizetype>(m_rows.size(), maxRowsShown);
     setFixedHeight(static_cast<int>(shown) * resultRowHeight);
+    setFocusPolicy(m_rows.size() > maxRowsShown ? Qt::TabFocus : Qt::NoFocus);
     setVisible(!m_rows.isEmpty());
 }

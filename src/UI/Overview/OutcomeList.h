@@ -8,7 +8,7 @@
 
 class QVBoxLayout;
 
-/// How each of several processes ended. Scrolls when they are many.
+/// How each of several processes ended. When they are many it scrolls, and takes the keyboard for that.
 class OutcomeList : public QScrollArea {
     Q_OBJECT
 
@@ -24,6 +24,9 @@ public:
 
     /// Shows the lines, and hides the list when there are none.
     void set(const QList<Line>& lines);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     QVBoxLayout* m_column;

@@ -42,7 +42,8 @@ AlertsTab::AlertsTab(Preferences& prefs, const Notifications& notifications, QWi
     addToggle(addSection(tr("Out of memory")), tr("What was ended because memory ran out"),
               prefs.alertMemoryKillEnabled);
     addRule(tr("CPU"), tr("CPU saturation"), prefs.alertCPUHotEnabled,
-            {{{tr("CPU threshold"), u"%1%"_s}, {50, 100, 5}, prefs.alertCPUHotPercent}}, prefs.notifyCPUHot);
+            {{{tr("CPU threshold"), tr("%1%", "a share")}, {50, 100, 5}, prefs.alertCPUHotPercent}},
+            prefs.notifyCPUHot);
     addRule(tr("Thermal"), tr("Thermal pressure warning"), prefs.alertThermalEnabled, {},
             prefs.notifyThermal);
     addRule(tr("Idle agents"), tr("Flag idle Claude / agentic processes"), prefs.alertIdleAgentEnabled,
@@ -50,7 +51,7 @@ AlertsTab::AlertsTab(Preferences& prefs, const Notifications& notifications, QWi
              {{tr("Min RAM"), tr("%1 MB")}, {100, 4000, 100}, prefs.alertIdleAgentMinRSSMB}},
             prefs.notifyIdleAgent);
     addRule(tr("Browsers"), tr("Browser RAM dominance"), prefs.alertBrowserHogEnabled,
-            {{{tr("Of total RAM"), u"%1%"_s}, {10, 80, 5}, prefs.alertBrowserHogPercentTotal}},
+            {{{tr("Of total RAM"), tr("%1%", "a share")}, {10, 80, 5}, prefs.alertBrowserHogPercentTotal}},
             prefs.notifyBrowserHog);
     addRule(tr("Caches"), tr("Caches reclaimable"), prefs.alertCachesBigEnabled,
             {{{tr("Threshold"), tr("%1 GB")}, {1, 50, 1}, prefs.alertCachesBigGB}}, prefs.notifyCachesBig);
