@@ -118,7 +118,7 @@ int main(int argc, char** argv) {
     measureReading(100'000);
     const QApplication app(argc, argv);
     QApplication::setStyle(new Style);
-    Theme::apply(false);
+    Theme::apply({});
     measureTab(100'000);
     return 0;
 }

@@ -190,7 +190,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication app(argc, argv);
     QApplication::setStyle(new Style);
-    Theme::apply(false);
+    Theme::apply({});
     const FakePlatform fakes;
     TemporarySettings settings;
     AppModel model(fakes.platform(), settings.preferences);

@@ -157,7 +157,7 @@ private:
 
     void useWindows(int tick) {
         if (tick == 0 || tick == 500)
-            Theme::apply(tick == 500);
+            Theme::apply({.dark = tick == 500});
         if (tick == 920 || tick == 940) {
             m_widget.toggle(m_model);
             Q_EMIT m_desktop.statusItem->clicked();
@@ -233,7 +233,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setStyle(new Style);
     QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(false);
+    Theme::apply({});
     const int ticks = argc > 1 ? std::atoi(argv[1]) : 20'000;
     if (ticks < 4 * visitTicks || ticks % (4 * visitTicks) != 0) {
         std::fprintf(stderr, "usage: tavrin_soak [TICKS]     a multiple of %d\n", 4 * visitTicks);

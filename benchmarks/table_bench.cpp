@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setStyle(new Style);
-    Theme::apply(false);
+    Theme::apply({});
     FakePlatform fakes;
     for (int i = 0; i < rows; ++i) {
         fakes.processes->add(100 + i, {.task = TaskInfo{.residentBytes = quint64(60 + i % 900) << 20},

@@ -15,7 +15,7 @@ public:
     void take(QWidget& widget, const QString& name) {
         widget.show();
         for (const bool dark : {false, true}) {
-            Theme::apply(dark);
+            Theme::apply({.dark = dark});
             QCoreApplication::sendPostedEvents();
             QCoreApplication::processEvents();
             save(widget.grab(), name, dark);

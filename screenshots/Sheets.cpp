@@ -85,7 +85,7 @@ QPixmap traySheet(double ratio) {
 
 void shootSheets(Camera& camera) {
     for (const bool dark : {false, true}) {
-        Theme::apply(dark);
+        Theme::apply({.dark = dark});
         camera.save(contactSheet(qApp->devicePixelRatio()), u"symbols"_s, dark);
         camera.save(traySheet(qApp->devicePixelRatio()), u"tray"_s, dark);
     }

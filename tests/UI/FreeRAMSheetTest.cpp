@@ -33,7 +33,7 @@ struct FreeRAMSheetTest : ModelFixture {
         QList<qint32> pids;
         for (const auto* row : sheet->findChildren<CandidateRow*>()) {
             if (row->isVisibleTo(sheet) && (row->isChecked() || !tickedOnly))
-                pids.append(row->candidate().pid);
+                pids.append(row->accessibleName().section(u"PID "_s, -1).section(u' ', 0, 0).toInt());
         }
         return pids;
     }

@@ -62,7 +62,7 @@ void expectEverythingReadable() {
 
 TEST(Theme, EveryTextAndSymbolCanBeReadOnItsGround) {
     for (const bool dark : {false, true}) {
-        Theme::apply(dark);
+        Theme::apply({.dark = dark});
         expectEverythingReadable();
         // white texts: a button, a tile of the widget from one end of its gradient to the other, a badge
         for (const Role tint : tints) {
@@ -76,7 +76,7 @@ TEST(Theme, EveryTextAndSymbolCanBeReadOnItsGround) {
         }
         expectReadable(Qt::black, Theme::color(Role::lime), forText, "upgrade");
     }
-    Theme::apply(false);
+    Theme::apply({});
 }
 
 TEST(Theme, AnAccentOfTheDesktopIsMadeReadable) {
@@ -87,7 +87,7 @@ TEST(Theme, AnAccentOfTheDesktopIsMadeReadable) {
             expectReadable(Qt::white, Theme::tileColor(Role::accent), forText, "accent");
         }
     }
-    Theme::apply(false);
+    Theme::apply({});
 }
 
 TEST(Theme, HighContrastHasNoFaintText) {
@@ -96,7 +96,7 @@ TEST(Theme, HighContrastHasNoFaintText) {
         EXPECT_GE(Theme::contrast(Theme::color(Role::secondaryText), Theme::color(Role::cardFill)), 7);
         EXPECT_GE(Theme::contrast(Theme::color(Role::cardBorder), Theme::color(Role::windowFill)), 3);
     }
-    Theme::apply(false);
+    Theme::apply({});
 }
 
 TEST(Theme, SizesGrowWithTheDesktopsFontAlsoWhileRunning) {
@@ -118,10 +118,10 @@ TEST(Theme, SizesGrowWithTheDesktopsFontAlsoWhileRunning) {
 }
 
 TEST(Theme, SchemeReachesTheApplicationsPalette) {
-    Theme::apply(true);
+    Theme::apply({.dark = true});
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), Theme::color(Role::windowFill));
     EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 60);
-    Theme::apply(false);
+    Theme::apply({});
     EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 200);
 }
 
@@ -131,7 +131,7 @@ TEST(Theme, ATintedLabelFollowsTheScheme) {
     label->tinted(Role::red);
     window.show();
     for (const bool dark : {true, false}) {
-        Theme::apply(dark);
+        Theme::apply({.dark = dark});
         QCoreApplication::processEvents();
         EXPECT_EQ(label->palette().color(QPalette::WindowText), Theme::color(Role::red)) << dark;
     }

@@ -13,7 +13,6 @@ public:
     explicit CandidateRow(QWidget* parent = nullptr);
 
     void set(const FreeRamPreview& candidate, bool isTicked);
-    const FreeRamPreview& candidate() const { return m_candidate; }
 
     QSize sizeHint() const override;
 

@@ -54,11 +54,10 @@ struct Style {
 
 constexpr double bodySize = 13;
 constexpr std::array styles = {
-    Style{TextStyle::largeTitle, 26, QFont::Normal}, Style{TextStyle::title, 22, QFont::Normal},
-    Style{TextStyle::title2, 17, QFont::Normal},     Style{TextStyle::title3, 15, QFont::Normal},
-    Style{TextStyle::headline, 13, QFont::DemiBold}, Style{TextStyle::body, 13, QFont::Normal},
-    Style{TextStyle::callout, 12, QFont::Normal},    Style{TextStyle::caption, 10, QFont::Normal},
-    Style{TextStyle::caption2, 10, QFont::Normal},
+    Style{TextStyle::title, 22, QFont::Normal},   Style{TextStyle::title2, 17, QFont::Normal},
+    Style{TextStyle::title3, 15, QFont::Normal},  Style{TextStyle::headline, 13, QFont::DemiBold},
+    Style{TextStyle::body, 13, QFont::Normal},    Style{TextStyle::callout, 12, QFont::Normal},
+    Style{TextStyle::caption, 10, QFont::Normal}, Style{TextStyle::caption2, 10, QFont::Normal},
 };
 
 constexpr auto styleProperty = "textStyle";

@@ -35,7 +35,7 @@ enum class Role {
     lime,      ///< a background of black text, the same in both schemes
 };
 
-enum class TextStyle { largeTitle, title, title2, title3, headline, body, callout, caption, caption2 };
+enum class TextStyle { title, title2, title3, headline, body, callout, caption, caption2 };
 
 /// Returns how much larger the desktop's text is than the size that lengths are given for; 1 at least.
 double scale();
@@ -115,8 +115,5 @@ struct Look {
 
 /// Sets the scheme's palette on the application. Every widget receives a palette change.
 void apply(const Look& look);
-inline void apply(bool dark) {
-    apply(Look{.dark = dark});
-}
 
 } // namespace Theme
