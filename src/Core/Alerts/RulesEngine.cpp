@@ -10,8 +10,6 @@
 #include "Preferences.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -26,11 +24,6 @@ constexpr double GiB = 1073741824.0;
 constexpr double heavySwapGB = 4.0;
 constexpr qsizetype maxNamedCaches = 3;
 constexpr qsizetype maxShownKills = 3;
-
-QTime timeOfDay(Instant at) {
-    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(at.time_since_epoch());
-    return QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time();
-}
 
 QString oneDecimal(double value) {
     return Formatters::fixed(value, 1);
@@ -134,7 +127,7 @@ std::optional<Alert> forecastAlert(const QList<ProcSample>& processes, const Mem
 
 QString killTitle(const MemoryKill& kill) {
     const QString by = kill.by.isEmpty() ? QCoreApplication::translate("RulesEngine", "The kernel") : kill.by;
-    const QString at = QLocale().toString(timeOfDay(kill.at), QLocale::ShortFormat);
+    const QString at = Formatters::timeOfDay(secondsOf(kill.at), QLocale::ShortFormat);
     if (kill.pid == 0)
         return QCoreApplication::translate("RulesEngine", "%1 ended %2 at %3 because memory ran out")
             .arg(by, kill.name, at);

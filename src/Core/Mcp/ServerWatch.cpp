@@ -7,7 +7,6 @@
 #include "Platform/Clock.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 
 using namespace Qt::StringLiterals;
 
@@ -25,11 +24,6 @@ QString withIdleTime(const QString& reason, double seconds) {
     return (isHours ? QCoreApplication::translate("ServerWatch", "%1, no CPU for %2 h")
                     : QCoreApplication::translate("ServerWatch", "%1, no CPU for %2 min"))
         .arg(reason, QString::number(std::lround(seconds / (isHours ? 3600 : 60))));
-}
-
-QString timeText(Instant instant) {
-    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(instant.time_since_epoch());
-    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(u"HH:mm"_s);
 }
 
 /// Returns the name of the agent or editor itself where an interpreter runs it.
@@ -121,7 +115,7 @@ QString ServerWatch::reasonFor(const LiveServer& server, const Past& past) const
     QString reason = QCoreApplication::translate("ServerWatch", "orphan: no agent or editor above it");
     if (past.hostEnded)
         reason = QCoreApplication::translate("ServerWatch", "orphan: its host %1 ended at %2")
-                     .arg(host, timeText(*past.hostEnded));
+                     .arg(host, Formatters::timeOfDay(secondsOf(*past.hostEnded), QLocale::ShortFormat));
     else if (past.host.pid != 0)
         reason = QCoreApplication::translate("ServerWatch", "orphan: no longer below its host %1").arg(host);
     return withIdleTime(reason, server.idleSeconds);
