@@ -16,18 +16,6 @@ namespace {
 constexpr double secondsPerMinute = 60;
 constexpr double secondsPerHour = 3600;
 
-bool isInvisible(QChar character) {
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// Returns whether the character at `i` joins those beside it into one, as in many emoji.
 bool joins(QTextBoundaryFinder& clusters, const QString& text, qsizetype i) {
     constexpr char16_t zeroWidthJoiner = u'\u200d';
@@ -163,6 +151,18 @@ QString list(const QStringList& items) {
 
 QString sentence(const QString& words) {
     return QCoreApplication::translate("Formatters", "%1.", "a sentence").arg(words);
+}
+
+bool isInvisible(QChar character) {
+    switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
+    }
 }
 
 QString visible(const QString& text) {

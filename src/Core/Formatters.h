@@ -37,7 +37,11 @@ QString list(const QStringList& items);
 /// Returns the words with a full stop.
 QString sentence(const QString& words);
 
-/// Returns a text that is safe to show: control and format characters become visible pictures.
+/// Returns whether a character controls what shows it, or ends its line or paragraph.
+bool isInvisible(QChar character);
+
+/// Returns a text that is safe to show: characters that are invisible become visible pictures, but for those
+/// that join the parts of an emoji.
 QString visible(const QString& text);
 
 /// Returns a tool tip that shows any text literally and wraps it. Qt renders a plain text that looks like

@@ -1,5 +1,6 @@
 #include "Core/SessionsFixture.h"
 
+#include "Core/Inspection/ProcessInspection.h"
 #include "Core/Sessions/PackageVersion.h"
 #include "Core/Sessions/ResumeCommand.h"
 #include "Core/Sessions/SessionActivity.h"
@@ -335,6 +336,11 @@ TEST(ResumeCommandTest, IsSafeToPaste) {
     EXPECT_EQ(resumeCommand(u"claude"_s, u"/src/my app; rm -rf ~"_s),
               u"cd '/src/my app; rm -rf ~' && claude --continue"_s);
     EXPECT_EQ(resumeCommand(u"claude"_s, u"/src/it's"_s), u"cd '/src/it'\\''s' && claude --continue"_s);
+    EXPECT_EQ(resumeCommand(u"claude"_s, u"/src/Über=1"_s), u"cd /src/Über=1 && claude --continue"_s);
+    EXPECT_EQ(resumeCommand(u"claude"_s, home.path(u"a b"_s)),
+              u"cd '%1' && claude --continue"_s.arg(home.path(u"a b"_s)));
+    EXPECT_EQ(ProcessInspection::shellLine({"env", "", "A=1", "$x", "it's"}),
+              u"env '' A=1 '$x' 'it'\\''s'"_s);
     for (const auto& [agent, folder] : {std::pair(u"unknown"_s, u"/src"_s), std::pair(u"claude"_s, QString()),
                                         std::pair(u"claude"_s, u"/src/\n rm"_s)})
         EXPECT_EQ(resumeCommand(agent, folder), QString());

@@ -1,5 +1,6 @@
 #include "Core/Inspection/ProcessInspection.h"
 
+#include "Core/ShellWord.h"
 #include "Platform/ProcessDetails.h"
 
 #include <QRegularExpression>
@@ -24,19 +25,12 @@ bool hasPassword(const QString& value) {
     return value.contains(address);
 }
 
-QString quoted(const QString& argument) {
-    static const QRegularExpression plain(QStringLiteral("\\A[\\w@%+=:,./-]+\\z"));
-    if (argument.contains(plain))
-        return argument;
-    return u'\'' + QString(argument).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
-}
-
 } // namespace
 
 QString ProcessInspection::shellLine(const QList<QByteArray>& arguments) {
     QStringList words;
     for (const QByteArray& argument : arguments)
-        words.append(quoted(QString::fromUtf8(argument)));
+        words.append(shellWord(QString::fromUtf8(argument)));
     return words.join(u' ');
 }
 

@@ -1,5 +1,6 @@
 #include "Core/Report/Report.h"
 
+#include "Core/Formatters.h"
 #include "Core/Iso8601.h"
 
 #include <QJsonDocument>
@@ -10,10 +11,7 @@ namespace {
 
 /// Returns whether a terminal may take the character for an order. QJsonDocument escapes those below U+0020.
 bool actsOnTerminal(QChar character) {
-    const bool isControl = character.unicode() >= 0x7f && character.unicode() < 0xa0;
-    const auto category = character.category();
-    return isControl || category == QChar::Other_Format || category == QChar::Separator_Line ||
-           category == QChar::Separator_Paragraph;
+    return character.unicode() >= 0x20 && Formatters::isInvisible(character);
 }
 
 } // namespace
