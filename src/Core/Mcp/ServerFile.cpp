@@ -57,14 +57,6 @@ ServerFile::~ServerFile() {
     stopReading();
 }
 
-ServerFile::Version ServerFile::versionOf(const struct stat& status) {
-    return {.device = status.st_dev,
-            .inode = status.st_ino,
-            .sizeBytes = status.st_size,
-            .modifiedSeconds = status.st_mtim.tv_sec,
-            .modifiedNanoseconds = status.st_mtim.tv_nsec};
-}
-
 bool ServerFile::refresh(QThreadPool& pool) {
     struct stat status {};
     if (stat(m_path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
@@ -72,7 +64,7 @@ bool ServerFile::refresh(QThreadPool& pool) {
     if (m_reading.isValid() && !m_reading.isFinished())
         return false;
     const bool isChanged = m_reading.isValid() && takeOver(m_reading.takeResult());
-    if (versionOf(status) == m_version)
+    if (FileVersion::of(status) == m_version)
         return isChanged;
     if (status.st_size <= maxBytesAtOnce)
         return takeOver(readFile(m_path, m_read)) || isChanged;
@@ -137,8 +129,8 @@ ServerFile::Reading ServerFile::readFile(const QByteArray& path, const Read& rea
     if (fstat(descriptor, &before) != 0 || !S_ISREG(before.st_mode))
         return {};
     FileStream text(descriptor, isUnwanted);
-    Reading reading{.version = versionOf(before), .servers = read(text)};
-    reading.isTorn = fstat(descriptor, &after) != 0 || versionOf(after) != reading.version;
+    Reading reading{.version = FileVersion::of(before), .servers = read(text)};
+    reading.isTorn = fstat(descriptor, &after) != 0 || FileVersion::of(after) != reading.version;
     reading.duration = std::chrono::milliseconds(timer.elapsed());
     return reading;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/FileVersion.h"
 #include "Core/Mcp/ServerDocument.h"
 
 #include <QByteArray>
@@ -34,25 +35,14 @@ public:
     bool isUnknown() const { return m_isUnknown; }
 
 private:
-    /// Tells one content of a file from another without reading it.
-    struct Version {
-        quint64 device = 0;
-        quint64 inode = 0;
-        qint64 sizeBytes = -1;
-        qint64 modifiedSeconds = 0;
-        qint64 modifiedNanoseconds = 0;
-
-        bool operator==(const Version&) const = default;
-    };
     struct Reading {
-        Version version;
+        FileVersion version;
         Servers servers;
         bool isTorn = false;       ///< the file changed during the read
         bool isUnreadable = false; ///< the file is there and cannot be opened
         std::chrono::milliseconds duration{};
     };
 
-    static Version versionOf(const struct stat& status);
     static Reading readFile(const QByteArray& path, const Read& read,
                             const std::function<bool()>& isUnwanted = {});
     bool takeOver(Reading reading);
@@ -62,7 +52,7 @@ private:
 
     QByteArray m_path;
     Read m_read;
-    Version m_version;
+    FileVersion m_version;
     Servers m_servers;
     bool m_isUnknown = true;
     QFuture<Reading> m_reading; ///< valid while one runs or waits to be taken over

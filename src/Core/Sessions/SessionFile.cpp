@@ -70,13 +70,6 @@ std::optional<SessionFile::Content> SessionFile::parse(const QByteArray& text, q
                    .changed = timeIn(object, now)};
 }
 
-SessionFile::Version SessionFile::versionOf(const struct stat& status) {
-    return {.inode = status.st_ino,
-            .sizeBytes = status.st_size,
-            .modifiedSeconds = status.st_mtim.tv_sec,
-            .modifiedNanoseconds = status.st_mtim.tv_nsec};
-}
-
 const std::optional<SessionFile::Content>& SessionFile::refresh(const QByteArray& path, qint32 pid,
                                                                 quint64 startTicks, Instant now) {
     struct stat status {};
@@ -85,7 +78,7 @@ const std::optional<SessionFile::Content>& SessionFile::refresh(const QByteArray
         m_content.reset();
         return m_content;
     }
-    if (versionOf(status) == m_version)
+    if (FileVersion::of(status) == m_version)
         return m_content;
     m_version = {}; // until it is read
     m_content.reset();
@@ -96,7 +89,7 @@ const std::optional<SessionFile::Content>& SessionFile::refresh(const QByteArray
     const auto closing = qScopeGuard([descriptor] { close(descriptor); });
     if (fstat(descriptor, &status) != 0)
         return m_content;
-    m_version = versionOf(status);
+    m_version = FileVersion::of(status);
     if (!S_ISREG(status.st_mode) || status.st_size > maxBytes)
         return m_content;
     QByteArray text(static_cast<qsizetype>(maxBytes), Qt::Uninitialized);

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "Core/FileVersion.h"
 #include "Core/Sessions/Session.h"
 
 #include <QByteArray>
 
 #include <optional>
-
-struct stat;
 
 /// What an agent writes about itself while it runs: `claude` keeps "sessions/PID.json" in its folder.
 class SessionFile {
@@ -32,16 +31,6 @@ public:
                                           Instant now);
 
 private:
-    struct Version {
-        quint64 inode = 0;
-        qint64 sizeBytes = -1;
-        qint64 modifiedSeconds = 0;
-        qint64 modifiedNanoseconds = 0;
-
-        bool operator==(const Version&) const = default;
-    };
-    static Version versionOf(const struct stat& status);
-
-    Version m_version;
+    FileVersion m_version;
     std::optional<Content> m_content;
 };
