@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QTest>
+
 #include <algorithm>
+#include <atomic>
+#include <semaphore>
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -55,6 +59,23 @@ struct MemoryLedgerTest : testing::Test {
         ledger.wantAll();
         return tick();
     }
+};
+
+/// Each reading takes until the test lets it end, or five seconds.
+class HangingProcessMemory : public ProcessMemory {
+public:
+    std::binary_semaphore hasBegun{0};
+    std::binary_semaphore mayEnd{0};
+    std::atomic<int> ended = 0;
+
+    ProcessMemoryReading readAll(qint32) override {
+        hasBegun.release();
+        static_cast<void>(mayEnd.try_acquire_for(5s));
+        ++ended;
+        return {.use = ProcessMemoryUse()};
+    }
+    ProcessMemoryReading readTotals(qint32) override { return {}; }
+    std::optional<ControlGroupMemory> controlGroup(qint32) override { return std::nullopt; }
 };
 
 } // namespace
@@ -247,4 +268,20 @@ TEST_F(MemoryLedgerTest, ADearReadingIsPaidBack) {
     while (tickForAll().isEmpty() && ticks < 50)
         ++ticks;
     EXPECT_EQ(ticks, 14) << "a debt of 10.3 ms, and 0.75 less each tick";
+}
+
+TEST_F(MemoryLedgerTest, ItsEndDoesNotWaitForAReadingThatHangs) {
+    const auto hanging = std::make_shared<HangingProcessMemory>();
+    add(1);
+    add(2);
+    {
+        MemoryLedger itsOwn(hanging, fakes.clock);
+        itsOwn.wantAll();
+        itsOwn.tick(processes, isSwapInUse);
+        ASSERT_TRUE(hanging->hasBegun.try_acquire_for(5s));
+    }
+    EXPECT_EQ(hanging->ended, 0);
+    hanging->mayEnd.release();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hanging.use_count() == 1; })) << "the thread let go of it";
+    EXPECT_EQ(hanging->ended, 1) << "the rest of the slice is not read";
 }

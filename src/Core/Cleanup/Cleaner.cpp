@@ -1,9 +1,9 @@
 #include "Core/Cleanup/Cleaner.h"
 
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Core/Cleanup/OnThread.h"
 #include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Log.h"
+#include "Core/OnThread.h"
 #include "Platform/Places.h"
 #include "Platform/ToolRunner.h"
 

@@ -1,7 +1,7 @@
 #include "Core/Cleanup/PlaceFinder.h"
 
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Core/Cleanup/OnThread.h"
+#include "Core/OnThread.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 
 #include "Core/ActionLog/ActionLog.h"
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Core/Cleanup/OnThread.h"
 #include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Formatters.h"
+#include "Core/OnThread.h"
 #include "Platform/Clock.h"
 #include "Platform/ToolRunner.h"
 #include "Preferences.h"

@@ -1,7 +1,7 @@
 #include "Core/Inspection/ProcessFacts.h"
 
-#include "Core/Cleanup/OnThread.h"
 #include "Core/Inspection/ProcessInspection.h"
+#include "Core/OnThread.h"
 #include "Platform/Applications.h"
 #include "Platform/Clock.h"
 #include "Platform/Identity.h"

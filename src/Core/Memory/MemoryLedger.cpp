@@ -1,5 +1,6 @@
 #include "Core/Memory/MemoryLedger.h"
 
+#include "Core/OnThread.h"
 #include "Platform/Clock.h"
 
 #include <QPromise>
@@ -25,13 +26,10 @@ MemoryPlan::Nanoseconds average(MemoryPlan::Nanoseconds past, MemoryPlan::Nanose
 MemoryLedger::MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock)
     : m_memory(std::move(memory))
     , m_clock(std::move(clock))
-    , m_credit(maxSavings) {
-    m_pool.setMaxThreadCount(1);
-}
+    , m_credit(maxSavings) {}
 
 MemoryLedger::~MemoryLedger() {
     m_slice.cancel();
-    m_pool.waitForDone();
 }
 
 void MemoryLedger::tick(QList<ProcSample>& processes, bool isSwapInUse) {
@@ -180,21 +178,23 @@ void MemoryLedger::read(const QList<MemoryPlan::Reading>& readings, const QList<
         entry.residentWhenRead = process.rssBytes;
         entry.hasRun = false;
     }
-    QPromise<QList<Result>> promise;
-    m_slice = promise.future();
-    promise.start();
-    const auto run = [memory = m_memory, readings](QPromise<QList<Result>>& into) {
+    const auto promise = std::make_shared<QPromise<QList<Result>>>();
+    m_slice = promise->future();
+    promise->start();
+    const bool isStarted = startThread([promise, memory = m_memory, readings] {
         QList<Result> results;
         for (const MemoryPlan::Reading& reading : readings) {
-            if (into.isCanceled())
+            if (promise->isCanceled())
                 break;
             results.append(resultOf(*memory, reading));
         }
-        into.addResult(results);
-        into.finish();
-    };
-    m_pool.start(
-        [run, promise = std::make_shared<QPromise<QList<Result>>>(std::move(promise))] { run(*promise); });
+        promise->addResult(results);
+        promise->finish();
+    });
+    if (!isStarted) {
+        promise->addResult(QList<Result>());
+        promise->finish();
+    }
 }
 
 MemoryLedger::Result MemoryLedger::resultOf(ProcessMemory& memory, const MemoryPlan::Reading& wanted) {

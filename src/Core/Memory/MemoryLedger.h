@@ -7,7 +7,6 @@
 #include <QFuture>
 #include <QHash>
 #include <QSet>
-#include <QThreadPool>
 
 #include <memory>
 #include <optional>
@@ -25,6 +24,7 @@ class ProcessMemory;
 class MemoryLedger {
 public:
     MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock);
+    /// Waits for no slice under way: a process that waits for its disk holds back whoever reads it.
     ~MemoryLedger();
 
     /// Wants the figures of all processes at the next tick. Views call it whenever they refresh.
@@ -87,6 +87,5 @@ private:
     std::chrono::steady_clock::time_point m_now;
     std::chrono::steady_clock::time_point m_plannedAt;
     quint32 m_tick = 0;
-    QThreadPool m_pool;
     Slice m_slice;
 };
