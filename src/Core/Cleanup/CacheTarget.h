@@ -51,6 +51,9 @@ struct ListedFolder {
     QString root = {};  ///< its path without symlinks above it; empty when nobody has looked
     QHash<QString, QString> names = {}; ///< what a person calls its entries, see CleanupTargets::namesIn
 
+    /// Returns the path to work on.
+    QString realPath() const { return root.isEmpty() ? path : root; }
+
     bool operator==(const ListedFolder&) const = default;
 };
 

@@ -147,7 +147,7 @@ QCoro::Task<Cleaner::CleanResult> trashListed(CleanupRule rule, ListedFolder fol
             paths.append(entry->path.toByteArray());
             moved += entry->sizeBytes;
         }
-        auto moving = onThread<QString>([root = folder.root, paths] { return trash(root, paths); });
+        auto moving = onThread<QString>([root = folder.realPath(), paths] { return trash(root, paths); });
         const std::optional<QString> reason = co_await moving;
         if (!reason || !reason->isEmpty())
             fail(result, reason.value_or(QString()));

@@ -21,10 +21,6 @@ struct Part {
     QSet<QByteArray> paths; ///< of its entries; read only where it may cover another
 };
 
-QByteArray pathWithoutLinks(const ListedFolder& folder) {
-    return QFile::encodeName(folder.root.isEmpty() ? folder.path : folder.root);
-}
-
 bool isWhole(const ListedFolder& folder) {
     return folder.sizeBytes == CleanupPlan::ListingReader(folder.listing).totalBytes();
 }
@@ -38,7 +34,7 @@ QList<Part> partsOf(const QList<CacheTarget>& targets) {
         for (const ListedFolder& folder : targets[i].listed)
             parts.append({.target = i,
                           .order = parts.size(),
-                          .root = pathWithoutLinks(folder),
+                          .root = QFile::encodeName(folder.realPath()),
                           .device = folder.listing.left(folder.listing.indexOf(':')),
                           .folder = &folder,
                           .isOldFiles = isOldFiles,

@@ -42,10 +42,6 @@ ToolRequest request(const QString& verb, const CleanupRule& rule, const QString&
     return request;
 }
 
-QString rootOf(const ListedFolder& folder) {
-    return folder.root.isEmpty() ? folder.path : folder.root;
-}
-
 /// Takes the text up to the next space off the front; all of it where there is none.
 QByteArrayView takeField(QByteArrayView& text) {
     const qsizetype space = text.indexOf(' ');
@@ -101,14 +97,14 @@ ToolRequest CleanupPlan::listInsideRequest(const CleanupRule& rule, const QStrin
 }
 
 ToolRequest CleanupPlan::checkRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now) {
-    ToolRequest asked = request(u"check"_s, rule, rootOf(folder), now);
+    ToolRequest asked = request(u"check"_s, rule, folder.realPath(), now);
     asked.input = folder.listing;
     asked.captureOutput = true;
     return asked;
 }
 
 ToolRequest CleanupPlan::removeRequest(const CleanupRule& rule, const ListedFolder& folder, Instant now) {
-    ToolRequest asked = request(u"remove"_s, rule, rootOf(folder), now);
+    ToolRequest asked = request(u"remove"_s, rule, folder.realPath(), now);
     asked.input = folder.listing;
     return asked;
 }
