@@ -38,6 +38,9 @@ struct CleanupListing {
     static std::optional<CleanupListing> parse(std::string_view text);
 };
 
+/// Returns the present as CleanupListing::listed has it.
+std::int64_t nanosecondsNow();
+
 /// Lists the entries in scope of `folder`, or of the folder at the relative path `inside` in it, which is
 /// listed as if it were all of `folder`. Unreadable entries are left out. Returns an empty optional and sets
 /// errno when the folder inside cannot be opened.

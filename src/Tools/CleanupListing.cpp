@@ -16,8 +16,6 @@ using namespace Tools;
 
 namespace {
 
-constexpr std::uint64_t blockBytes = 512; // see stat(2)
-
 struct stat statOf(const struct statx& entry) {
     struct stat status {};
     status.st_dev = makedev(entry.stx_dev_major, entry.stx_dev_minor);
@@ -171,12 +169,12 @@ bool takeMarks(std::string_view& text, CleanupListing::Entry& entry) {
     return true;
 }
 
-std::int64_t nanosecondsNow() {
+} // namespace
+
+std::int64_t Tools::nanosecondsNow() {
     using namespace std::chrono;
     return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
 }
-
-} // namespace
 
 std::optional<CleanupListing> Tools::listEntries(const Folder& folder, const std::string& inside,
                                                  const CleanupScope& scope) {

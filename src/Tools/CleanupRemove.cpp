@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <limits>
 
 using namespace Tools;
@@ -127,13 +126,9 @@ private:
         Outcome worst = Outcome::gone;
     };
 
-    static bool isPast(std::int64_t time) {
-        using namespace std::chrono;
-        return time > 0 && time <= duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
-    }
+    static bool isPast(std::int64_t time) { return time > 0 && time <= nanosecondsNow(); }
     static std::uint64_t usage(const struct stat& entry) {
-        constexpr std::uint64_t unit = 512; // of st_blocks, see stat(2)
-        return static_cast<std::uint64_t>(entry.st_blocks) * unit;
+        return static_cast<std::uint64_t>(entry.st_blocks) * blockBytes;
     }
     bool isLater(const timespec& time) const {
         return time.tv_sec * nanosecondsASecond + time.tv_nsec > m_newest;

@@ -2,11 +2,14 @@
 
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace Tools {
+
+inline constexpr std::uint64_t blockBytes = 512; ///< the unit of st_blocks, see stat(2)
 
 /// An open folder. Its functions act on that folder even if its path changes. They follow no symlinks and
 /// stay on the file system.

@@ -4,7 +4,6 @@
 #include "Tools/GitRepository.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
@@ -19,7 +18,6 @@ using namespace std::string_view_literals;
 using Names = std::vector<std::string>; // sorted
 
 constexpr int maxProjectDepth = 12;
-constexpr std::uint64_t blockBytes = 512; // of st_blocks, see stat(2)
 
 /// A folder that a tool makes.
 struct LeftoverRule {
@@ -175,8 +173,7 @@ void LeftoverSearch::visit(const Folder& folder, const std::string& path, int de
         repository = std::make_shared<GitRepository>(path);
     const auto leftovers = leftoversIn(folder, path, names, repository.get());
     LeftoverProject own{.path = path, .users = {}, .listing = {}, .listed = path};
-    using namespace std::chrono;
-    own.listing.listed = duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+    own.listing.listed = nanosecondsNow();
     const bool isProject = isWorkTree || (!project && (hasMaker(names) || !leftovers.empty()));
     if (isProject)
         project = &own;
