@@ -1,15 +1,9 @@
 #include "Platform/Freedesktop/BusAdaptors.h"
 
 #include "Platform/Freedesktop/FreedesktopProgramService.h"
+#include "Platform/Unix/ActivationToken.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A launcher's token for taking the keyboard once, read by Qt when a window comes forward.
-constexpr const char* busActivationToken = "XDG_ACTIVATION_TOKEN";
-
-} // namespace
 
 MonitorAdaptor::MonitorAdaptor(FreedesktopProgramService* service)
     : QDBusAbstractAdaptor(service)
@@ -95,6 +89,6 @@ void ApplicationAdaptor::ActivateAction(const QString& action_name, const QVaria
 void ApplicationAdaptor::show(const QString& name, const QVariantMap& platformData) {
     const QByteArray token = platformData.value(u"activation-token"_s).toString().toUtf8();
     if (!token.isEmpty() && !token.contains('\0'))
-        qputenv(busActivationToken, token);
+        qputenv(activationTokenVariable, token);
     m_service.answers().show(name);
 }

@@ -1,6 +1,7 @@
 #include "Platform/SingleInstance.h"
 
 #include "Platform/Log.h"
+#include "Platform/Unix/ActivationToken.h"
 #include "Platform/Unix/MessageSocket.h"
 
 #include <QCryptographicHash>
@@ -13,10 +14,6 @@
 namespace {
 
 constexpr int replyTimeoutMs = 1000;
-
-/// A Wayland launcher's token for taking the keyboard once, read by Qt when a window comes forward. The
-/// second start passes it to the first, whose window is to come.
-constexpr const char* activationToken = "XDG_ACTIVATION_TOKEN";
 
 /// Falls back to the user's cache where $XDG_RUNTIME_DIR is another user's, as after su(1), and Qt's own
 /// substitute in the temporary folder is taken.
@@ -48,7 +45,7 @@ void SingleInstance::readCall(const QByteArray& call) {
     const qsizetype end = call.indexOf('\0');
     const QByteArray token = end < 0 ? QByteArray() : call.mid(end + 1);
     if (!token.isEmpty())
-        qputenv(activationToken, token);
+        qputenv(activationTokenVariable, token);
     Q_EMIT startedAgain(call.left(end));
 }
 
@@ -56,8 +53,9 @@ bool SingleInstance::claim(const QByteArray& request) {
     // Programs that start together, as at login, take turns.
     QLockFile turn(m_socket->path() + QStringLiteral(".lock"));
     static_cast<void>(turn.tryLock(replyTimeoutMs));
-    // Before listening, which would take the socket over from the running program.
-    if (MessageSocket::send(m_socket->path(), request + '\0' + qgetenv(activationToken)))
+    // Before listening, which would take the socket over from the running program. That one's window is to
+    // come, so it gets the token.
+    if (MessageSocket::send(m_socket->path(), request + '\0' + qgetenv(activationTokenVariable)))
         return false;
     if (!m_socket->listen())
         qCWarning(Log::platform) << "a second start will not be noticed:" << qt_error_string();

@@ -3,6 +3,7 @@
 #include "Platform/Freedesktop/BusSignal.h"
 #include "Platform/Freedesktop/Desktop/NotificationText.h"
 #include "Platform/Log.h"
+#include "Platform/Unix/ActivationToken.h"
 
 #include <QDBusError>
 #include <QDBusPendingCallWatcher>
@@ -319,5 +320,5 @@ void FreedesktopNotifications::notificationClosed(quint32 id, quint32, const QDB
 /// Keeps the right to come forward on Wayland that the server passes on just before the action.
 void FreedesktopNotifications::activationToken(quint32 id, const QString& token, const QDBusMessage& signal) {
     if (!keyOf(id, signal).isEmpty() && token.size() <= maxActivationToken)
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+        qputenv(activationTokenVariable, token.toUtf8());
 }
