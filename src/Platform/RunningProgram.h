@@ -10,7 +10,7 @@ class RunningProgram {
 public:
     virtual ~RunningProgram() = default;
 
-    /// Returns a document as JSON, empty when no program runs or it does not answer within half a second.
-    /// Starts none.
+    /// Returns a document as JSON, empty when no program runs or it does not answer within half a second. The
+    /// first question may take two seconds, where nothing that leads to the program answers. Starts none.
     virtual std::optional<QByteArray> report(const QString& kind) = 0;
 };
