@@ -77,14 +77,19 @@ void AppModel::followPollInterval() {
         bindTimer(interval);
 }
 
-void AppModel::tick() {
-    m_lastTick = m_platform.clock->uptime();
+void AppModel::sampleMachine() {
     const SystemSample sample = m_sampler.sample();
     publish(m_state.systemSample, sample);
     appendHistory(sample);
+}
+
+void AppModel::tick() {
+    m_lastTick = m_platform.clock->uptime();
+    sampleMachine();
     if (isPaused())
         return appendGroups({});
 
+    const SystemSample sample = m_state.systemSample;
     QList<ProcSample> processes = m_sampler.sampleProcesses();
     m_actions.pausedSessions().wake(processes);
     const bool isSwapInUse = sample.swapUsedBytes > 0 || sample.memTotalBytes == 0;

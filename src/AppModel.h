@@ -42,6 +42,9 @@ public:
     /// Samples the machine and publishes the figures. The timer calls it, and a program that needs no more
     /// than a look.
     Q_SLOT void tick();
+    /// Samples the machine alone. The processes stay those of the last tick, and so does whom a signal may
+    /// reach.
+    void sampleMachine();
     /// Takes over how long a process has been idle from a program that has watched it for longer. The next
     /// tick shows it.
     void setIdle(const ProcessIdentity& process, double seconds) { m_sampler.setIdle(process, seconds); }

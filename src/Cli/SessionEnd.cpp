@@ -55,6 +55,7 @@ ExitStatus SessionEnd::run(Run& run, const QString& command, AppModel& model, co
                                      .isEmpty = isEmpty};
     if (const auto end = Confirmation::settle(run, plan))
         return *end;
+    model.sampleMachine(); // what changed before the answer was not freed
     const SessionEndResult result = QCoro::waitFor(model.actions().endSession(ending));
     run.output.print(withResult(document, result),
                      [&result](const QJsonObject&) { return resultText(result); });

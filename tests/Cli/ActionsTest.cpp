@@ -78,6 +78,16 @@ TEST_F(ActionsTest, FreeEndsWhatTheButtonWouldEnd) {
     EXPECT_EQ(run(u"free --min-mb -3"_s), 2);
 }
 
+TEST_F(ActionsTest, WhatComesBackBeforeTheAnswerIsNotCounted) {
+    for (const QString& command : {u"free --json"_s, u"end-session 70-1y --json"_s}) {
+        signalSender->start(70);
+        terminal.answers = {"y"};
+        terminal.whenAsked = [this] { fakes.host->memory.activeBytes /= 2; };
+        EXPECT_EQ(run(command), 0) << qPrintable(command) << terminal.errors.constData();
+        EXPECT_EQ(document().value(u"freed_bytes"_s).toInteger(-1), 0) << qPrintable(command);
+    }
+}
+
 TEST_F(ActionsTest, WhatIsIdleIsNotGuessed) {
     running.documents.clear();
     for (const QString& command : {u"free --yes"_s, u"preset claude"_s}) {

@@ -77,6 +77,7 @@ ExitStatus runFree(Run& run) {
                                      .isEmpty = candidates.isEmpty()};
     if (const auto end = Confirmation::settle(run, plan))
         return *end;
+    model.sampleMachine(); // what changed before the answer was not freed
     const FreeRAMResult result = QCoro::waitFor(model.actions().freeRAM(pidsOf(candidates)));
     run.output.print(withResult(document, result),
                      [&result](const QJsonObject&) { return resultText(result); });
