@@ -30,16 +30,17 @@ struct DiskRate {
     bool operator==(const DiskRate&) const = default;
 };
 
-/// What views show of processes besides the figures of the tick. It is read on a thread of its own, only when
-/// a view asks, and for the user's own processes. A result is announced as a change.
+/// What views show of processes besides the figures of the tick, read only when a view asks. Threads read it,
+/// and what was wanted is announced as a change once it is known. Only `application`, and which sockets
+/// listen, is read at once.
 class ProcessFacts : public Observable {
     Q_OBJECT
 
 public:
     explicit ProcessFacts(const Platform& platform);
 
-    /// Wants the disk rates of these processes. Views ask whenever they refresh; a reading is made once a
-    /// second at most. What is no longer asked for is forgotten.
+    /// Wants the disk rates of those of these processes that are the user's own. Views ask whenever they
+    /// refresh; a reading is made once a second at most. What is no longer asked for is forgotten.
     void wantDisk(const QList<ProcSample>& processes);
     /// Returns an empty optional until a process was read twice.
     std::optional<DiskRate> diskRate(const ProcSample& process) const;

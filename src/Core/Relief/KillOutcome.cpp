@@ -24,9 +24,8 @@ KillOutcome askToEnd(ProcessHandle& process) {
     return outcomeOf(process.send(Signal::terminate), KillOutcome::quit, KillOutcome::ignored);
 }
 
-/// Kills a process also after a failed probe, which says nothing about its end.
 KillOutcome killIfPresent(ProcessHandle& process) {
-    const SignalResult probed = process.send(Signal::probe);
+    const SignalResult probed = process.send(Signal::probe); // where it fails as `other`, the process may run
     if (probed == SignalResult::noSuchProcess || probed == SignalResult::notPermitted)
         return KillOutcome::quit;
     return outcomeOf(process.send(Signal::kill), KillOutcome::forced, KillOutcome::quit);

@@ -20,7 +20,8 @@ inline constexpr std::array rawValueTable<KillOutcome> = {
 
 /// Asks a process to end.
 KillOutcome askToEnd(ProcessHandle& process);
-/// Kills a process that did not end when it was asked.
+/// Kills a process that did not end when it was asked. One that is gone by now, or that may no longer be
+/// signalled, counts as `quit`.
 KillOutcome killIfPresent(ProcessHandle& process);
 /// Returns whether the process has ended. A failed question says nothing about its end.
 bool hasEnded(ProcessHandle& process);

@@ -8,8 +8,8 @@ class ProcessHandle;
 class Sampler;
 class Signals;
 
-/// Sends every signal of the program: to a process that the last tick listed, never to one that reuses its
-/// PID.
+/// Sends the model's signals, none to a process that reuses the PID of one that the last tick listed. A PID
+/// that was not listed stands for whatever has it now.
 class SignalGate {
 public:
     /// `sampler`, which lists the processes, outlives the gate.

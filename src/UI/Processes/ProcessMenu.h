@@ -6,16 +6,17 @@ class AppModel;
 struct NukePreview;
 class QMenu;
 
-/// The menu of a row of the Processes section: the actions of its buttons, the end of all selected rows,
-/// details, quitting its application, and the group of its programs.
+/// The menu of a row of the Processes section: the actions of its buttons, in their place the ends that are
+/// asked about where several rows are selected or the row is protected; details, quitting its application,
+/// and the group of its programs.
 class ProcessMenu : public QObject {
     Q_OBJECT
 
 public:
     explicit ProcessMenu(AppModel& model, QObject* parent = nullptr);
 
-    /// Adds the entries. They mean these rows, wherever they move while the menu is open. `selected` has the
-    /// row.
+    /// Adds the entries of `row`, of the table `rows`. `selected` are all selected rows, `row` among them.
+    /// The entries mean these rows, wherever they move while the menu is open.
     void fill(QMenu& menu, const ProcessTableModel& rows, const ProcessTableRow& row,
               const QList<ProcessTableRow>& selected);
 

@@ -2,11 +2,11 @@
 
 #include "UI/Processes/ProcessColumns.h"
 
-/// Identifies a row from one tick to the next, by one of its members. No key outlives its row, so that old
-/// names take no memory.
+/// Identifies a row from one tick to the next: a process, or all processes of one name. The other member is
+/// empty. A key that is kept for longer is that of a process, which holds no text.
 struct ProcessRowKey {
-    quint64 process = 0; ///< of one process: its PID, and its start, which tells it from a later one
-    QString name;        ///< of all processes of one name
+    quint64 process = 0; ///< its PID, then 32 bits of its start in microseconds
+    QString name;
 
     static ProcessRowKey of(const ProcSample& process) {
         const auto start = static_cast<quint32>(process.startTime.time_since_epoch().count() / 1000);

@@ -4,10 +4,11 @@
 #include "Core/Sampling/SystemSample.h"
 #include "UI/Style/Theme.h"
 
-/// The colours of the machine's figures and alerts, the same on every screen. They follow unrounded values.
+/// The colours of the machine's figures and alerts, the same on every screen. A figure is given unrounded, so
+/// it may have another colour than the rounded text suggests.
 namespace Levels {
 
-/// Returns red and orange from their thresholds on, green below.
+/// Returns red for a value of at least `redFrom`, orange for one of at least `orangeFrom`, else green.
 constexpr Theme::Role role(double value, double orangeFrom, double redFrom) {
     if (value >= redFrom)
         return Theme::Role::red;
