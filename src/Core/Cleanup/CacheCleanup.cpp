@@ -4,7 +4,7 @@
 #include "Core/Cleanup/CacheScanner.h"
 #include "Core/Cleanup/CleanupOverlap.h"
 #include "Core/Cleanup/CleanupPlan.h"
-#include "Core/Cleanup/OnThread.h"
+#include "Core/OnThread.h"
 #include "Platform/CleanupTargets.h"
 #include "Platform/Clock.h"
 #include "Platform/Places.h"

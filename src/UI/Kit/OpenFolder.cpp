@@ -1,6 +1,6 @@
 #include "UI/Kit/OpenFolder.h"
 
-#include "Core/Cleanup/OnThread.h"
+#include "Core/OnThread.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/Cleanup/OnThread.h"
+#include "Core/OnThread.h"
 
 #include <QObject>
 #include <QPointer>
