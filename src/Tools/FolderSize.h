@@ -14,8 +14,10 @@ struct FolderSize {
 };
 
 /// Measures a folder, or a file, as `du -sx` does (see walkFolder). `tell` is called by one thread at a time.
-/// Returns an empty optional and sets errno when the path itself cannot be accessed.
-std::optional<FolderSize> measureFolder(const std::string& path, std::function<void(UnreadEntry)> tell,
-                                        const FolderWalkLimits& limits = {});
+/// `begins` is called for each part of a folder before it is read, by several threads at once. Returns an
+/// empty optional and sets errno when the path itself cannot be accessed.
+std::optional<FolderSize> measureFolder(
+    const std::string& path, std::function<void(UnreadEntry)> tell, const FolderWalkLimits& limits = {},
+    std::function<void()> begins = [] {});
 
 } // namespace Tools

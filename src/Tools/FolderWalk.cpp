@@ -143,6 +143,7 @@ void Walker::run(std::vector<FolderPiece> pieces) {
 }
 
 void Walker::readPiece(const FolderPiece& piece) {
+    m_walk.task().begin();
     const int descriptor = m_trail.enter(piece.folder, piece.offset);
     if (descriptor < 0)
         return m_walk.addUnread(*piece.folder, nullptr, errno);

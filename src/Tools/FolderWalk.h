@@ -51,6 +51,8 @@ public:
     /// Returns to what the entry adds, or nullptr to leave it out with all below it. The share has to stay
     /// where it is until the walk ends. What is below a folder is offered with `parent.share` set to it.
     virtual FolderShare* find(const FoundEntry& entry) = 0;
+    /// Is told of each part of a folder before it is read, by several threads at once.
+    virtual void begin() {}
     /// Is told of what cannot be read, by one thread at a time.
     virtual void miss(const UnreadEntry& /*entry*/) {}
 };

@@ -213,7 +213,8 @@ void LeftoverSearch::add(const Folder& folder, const std::string& path, const st
     const auto entry = folder.status(name);
     const std::string whole = path + '/' + name;
     m_looks(whole);
-    const auto size = measureFolder(whole, [](const UnreadEntry&) {});
+    const auto size = measureFolder(
+        whole, [](const UnreadEntry&) {}, {}, [this, &whole] { m_looks(whole); });
     if (!entry || !size)
         return;
     CleanupListing::Entry listed{.inode = entry->st_ino,

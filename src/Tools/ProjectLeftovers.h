@@ -31,7 +31,8 @@ struct LeftoverProject {
 /// what is excluded is not looked at. A project
 /// is a work tree of git, or else the outermost folder with the file of a maker, such as "Cargo.toml". A
 /// folder below another of the list is looked at once. Memory grows with the depth and with what one project
-/// has. `looks` is told the path of each folder before it is read or measured.
+/// has. `looks` is told the path of each folder before it is read, and while one is
+/// measured its path again and again, by several threads.
 void findLeftovers(
     const std::vector<std::string>& folders, const ProcessPaths& processes, const Excludes& excludes,
     const std::function<void(const LeftoverProject&)>& found,

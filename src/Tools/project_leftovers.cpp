@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
@@ -21,6 +22,7 @@ using namespace std::string_view_literals;
 namespace {
 
 constexpr int usageError = 2;
+constexpr auto repeatAfter = std::chrono::seconds(5);
 
 /// Returns the path without symlinks, or an empty optional with errno set.
 std::optional<std::string> resolved(const char* path) {
@@ -33,12 +35,14 @@ std::optional<std::string> resolved(const char* path) {
 }
 
 /// Prints what is found, and ten times a second at most "at FOLDER", ended by NUL, of where the search is. A
-/// thread of its own prints that, so that the last one is the folder that does not answer.
+/// large folder that takes long to measure is printed again, as what goes on is no place that does not
+/// answer. A thread of its own prints that, so that the last one is the folder that does not answer.
 class Records {
 public:
     void look(const std::string& folder) {
         const std::lock_guard lock(m_mutex);
         m_folder = folder;
+        ++m_looks;
         if (m_printed.empty())
             printPlace();
     }
@@ -52,12 +56,16 @@ private:
         std::unique_lock lock(m_mutex);
         while (!m_wait.wait_for(lock, stop, std::chrono::milliseconds(100), [] { return false; }) &&
                !stop.stop_requested()) {
-            if (m_folder != m_printed)
+            const bool goesOn =
+                m_looks != m_looksPrinted && std::chrono::steady_clock::now() > m_printedAt + repeatAfter;
+            if (m_folder != m_printed || goesOn)
                 printPlace();
         }
     }
     void printPlace() {
         m_printed = m_folder;
+        m_looksPrinted = m_looks;
+        m_printedAt = std::chrono::steady_clock::now();
         std::cout << "at " << m_printed << '\0' << std::flush;
     }
 
@@ -65,6 +73,9 @@ private:
     std::condition_variable_any m_wait;
     std::string m_folder;
     std::string m_printed;
+    std::uint64_t m_looks = 0;
+    std::uint64_t m_looksPrinted = 0;
+    std::chrono::steady_clock::time_point m_printedAt;
     std::jthread m_printer{[this](const std::stop_token& stop) { printPlaces(stop); }};
 };
 

@@ -3,6 +3,7 @@
 #include "Core/Cleanup/ProjectLeftovers.h"
 #include "Platform/CleanupFixture.h"
 #include "Platform/CleanupTargets.h"
+#include "Preferences.h"
 
 #include <algorithm>
 #include <fstream>

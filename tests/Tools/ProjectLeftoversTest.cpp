@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -78,6 +79,17 @@ struct LeftoversTest : testing::Test {
 using Lines = std::vector<std::string>;
 
 } // namespace
+
+TEST_F(LeftoversTest, TellsAgainOfAFolderWhileItIsMeasured) {
+    make("app/package.json");
+    for (const char* package : {"one", "two", "three"})
+        make(std::string("app/node_modules/") + package + "/index.js");
+    std::atomic<int> times = 0;
+    findLeftovers(
+        {top}, ProcessPaths("/no/processes", {top}), excludes, [](const LeftoverProject&) {},
+        [&](const std::string& folder) { times += folder == top + "/app/node_modules"; });
+    EXPECT_EQ(times, 5) << "once before, and once for each folder in it";
+}
 
 TEST_F(LeftoversTest, FindsWhatEachMakerLeaves) {
     for (const char* file :
