@@ -12,18 +12,6 @@
 #include <optional>
 #include <system_error>
 #include <thread>
-#include <utility>
-
-/// Starts `work` on a thread of its own, which owns what it uses. Returns false when no thread can be
-/// started. Nothing waits for a thread that hangs, not even the end of the program.
-inline bool startThread(std::function<void()> work) {
-    try {
-        std::thread(std::move(work)).detach();
-    } catch (const std::system_error&) {
-        return false;
-    }
-    return true;
-}
 
 /// Runs `work` on a thread of its own, which shares nothing with others. Returns what it returns, or an empty
 /// optional when that takes longer than `limit` or no thread can be started. Nothing waits for a thread that
@@ -44,12 +32,14 @@ QCoro::Task<std::optional<Value>> onThread(std::function<Value()> work,
     QObject::connect(&timer, &QTimer::timeout, [end] { end->finish(); });
     if (limit)
         timer.start(*limit);
-    const bool isStarted = startThread([promise, work] {
-        promise->addResult(work());
+    try {
+        std::thread([promise, work] {
+            promise->addResult(work());
+            promise->finish();
+        }).detach();
+    } catch (const std::system_error&) {
         promise->finish();
-    });
-    if (!isStarted)
-        promise->finish();
+    }
     co_await ended;
     std::optional<Value> value;
     if (future.resultCount() > 0)

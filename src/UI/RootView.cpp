@@ -1,5 +1,6 @@
 #include "UI/RootView.h"
 
+#include "AppModel.h"
 #include "Core/Translations.h"
 #include "Preferences.h"
 #include "UI/Cleanup/CleanupView.h"

@@ -1,12 +1,12 @@
 #include "Core/Memory/MemoryLedger.h"
 
-#include "Core/OnThread.h"
 #include "Platform/Clock.h"
 
 #include <QPromise>
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -21,15 +21,25 @@ MemoryPlan::Nanoseconds average(MemoryPlan::Nanoseconds past, MemoryPlan::Nanose
     return (past * 7 + present) / 8;
 }
 
+/// Keeps a pool for good: it would wait for its thread, which may wait for a process and its disk.
+void leave(std::unique_ptr<QThreadPool> pool) {
+    static auto* const left = new std::vector<std::unique_ptr<QThreadPool>>;
+    left->push_back(std::move(pool));
+}
+
 } // namespace
 
 MemoryLedger::MemoryLedger(std::shared_ptr<ProcessMemory> memory, std::shared_ptr<Clock> clock)
     : m_memory(std::move(memory))
     , m_clock(std::move(clock))
-    , m_credit(maxSavings) {}
+    , m_credit(maxSavings) {
+    m_pool->setMaxThreadCount(1);
+}
 
 MemoryLedger::~MemoryLedger() {
     m_slice.cancel();
+    if (!m_pool->waitForDone(0))
+        leave(std::move(m_pool));
 }
 
 void MemoryLedger::tick(QList<ProcSample>& processes, bool isSwapInUse) {
@@ -181,7 +191,7 @@ void MemoryLedger::read(const QList<MemoryPlan::Reading>& readings, const QList<
     const auto promise = std::make_shared<QPromise<QList<Result>>>();
     m_slice = promise->future();
     promise->start();
-    const bool isStarted = startThread([promise, memory = m_memory, readings] {
+    m_pool->start([promise, memory = m_memory, readings] {
         QList<Result> results;
         for (const MemoryPlan::Reading& reading : readings) {
             if (promise->isCanceled())
@@ -191,10 +201,6 @@ void MemoryLedger::read(const QList<MemoryPlan::Reading>& readings, const QList<
         promise->addResult(results);
         promise->finish();
     });
-    if (!isStarted) {
-        promise->addResult(QList<Result>());
-        promise->finish();
-    }
 }
 
 MemoryLedger::Result MemoryLedger::resultOf(ProcessMemory& memory, const MemoryPlan::Reading& wanted) {

@@ -7,6 +7,7 @@
 #include <QFuture>
 #include <QHash>
 #include <QSet>
+#include <QThreadPool>
 
 #include <memory>
 #include <optional>
@@ -87,5 +88,6 @@ private:
     std::chrono::steady_clock::time_point m_now;
     std::chrono::steady_clock::time_point m_plannedAt;
     quint32 m_tick = 0;
+    std::unique_ptr<QThreadPool> m_pool = std::make_unique<QThreadPool>(); ///< of one thread
     Slice m_slice;
 };

@@ -5,6 +5,7 @@
 #include "UI/Style/Painting.h"
 #include "UI/Style/Symbols.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
