@@ -13,7 +13,8 @@
 namespace {
 
 constexpr int ticksOfHeap = 50;
-constexpr double heapMarginKiB = 256;
+constexpr double leastHeapMarginKiB = 256;
+constexpr double heapMargin = 0.03;      // of the heap
 constexpr double memoryMarginKiB = 2048; // the allocator's reserve varies
 
 double openDescriptors() {
@@ -65,9 +66,10 @@ void LongRun::ticked() {
 }
 
 std::vector<LongRun::Figure> LongRun::look() const {
+    const double heapKiB = double(*m_minHeapBytes) / 1024;
     std::vector<Figure> result = {
         {.name = "descriptors", .value = openDescriptors(), .margin = m_descriptorMargin},
-        {.name = "heap_kib", .value = double(*m_minHeapBytes) / 1024, .margin = heapMarginKiB},
+        {.name = "heap_kib", .value = heapKiB, .margin = std::max(leastHeapMarginKiB, heapMargin * heapKiB)},
         {.name = "own_memory_kib", .value = ownMemory(), .margin = memoryMarginKiB},
     };
     std::ranges::move(m_figures(), std::back_inserter(result));
