@@ -19,7 +19,7 @@ server=$PWD/tests/e2e/package_server.py
 export RUSTUP_HOME=${RUSTUP_HOME:-$HOME/.rustup} PYENV_ROOT=${PYENV_ROOT:-$HOME/.pyenv}
 PATH=$PATH:${CARGO_HOME:-$HOME/.cargo}/bin
 export HOME=/tmp/home GIT_CONFIG_GLOBAL=/dev/null
-unset PIP_NO_CACHE_DIR PIP_CACHE_DIR CARGO_HOME XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME GOPATH GOCACHE GOMODCACHE
+unset PIP_NO_CACHE_DIR PIP_CACHE_DIR CARGO_HOME XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME GOPATH GOCACHE GOMODCACHE GRADLE_USER_HOME
 mkdir "$HOME" /tmp/bin
 cd "$HOME"
 failures=0
@@ -84,9 +84,15 @@ printf 'repos:\n- repo: file://%s/hook\n  rev: %s\n  hooks: [{id: good}]\n' \
     "$HOME" "$(git -C hook rev-parse HEAD)" >checked/.pre-commit-config.yaml
 use_pre_commit() { (cd checked && pre-commit run --all-files); }
 
+mkdir -p java/src/main/java
+echo "apply plugin: 'java'" >java/build.gradle
+echo 'class A {}' >java/src/main/java/A.java
+use_gradle() { (cd java && rm -rf build && gradle -g "$HOME/.gradle" --offline --no-daemon -q compileJava); }
+
 verify cargo "Cargo sources and checkouts" "$HOME/.cargo/git/checkouts"
 verify ccache "ccache / sccache" "$HOME/.cache/ccache/?"
 verify sccache "ccache / sccache" "$HOME/.cache/sccache"
+verify gradle Gradle "$HOME/.gradle/caches"
 verify pre-commit pre-commit "$HOME/.cache/pre-commit"
 
 # --- With packages of the script's server
