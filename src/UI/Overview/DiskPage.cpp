@@ -2,7 +2,6 @@
 
 #include "AppModel.h"
 #include "Core/Formatters.h"
-#include "Core/OnThread.h"
 #include "UI/Kit/Card.h"
 #include "UI/Kit/EmptyState.h"
 #include "UI/Kit/TextLabel.h"
