@@ -256,6 +256,10 @@ TEST(SessionFileTest, ForeignStaleAndHostileFilesSayNothing) {
     EXPECT_EQ(odd->name, QString());
     EXPECT_EQ(odd->changed, std::nullopt) << "it is in the future";
     EXPECT_EQ(odd->version.size(), 200);
+    for (const char* beyondTheClock : {"9699999999000", "\"18446744073709551615\""})
+        EXPECT_EQ(parsed(QByteArray(R"({"pid": 7, "procStart": 70, "updatedAt": )") + beyondTheClock + '}')
+                      ->changed,
+                  std::nullopt);
 }
 
 TEST(SessionFileTest, OnlyARegularFileIsRead) {

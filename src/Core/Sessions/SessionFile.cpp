@@ -46,10 +46,10 @@ std::optional<SessionState> stateIn(const QJsonObject& object) {
 std::optional<Instant> timeIn(const QJsonObject& object, Instant now) {
     const auto milliseconds = numberIn(object, "statusUpdatedAt"_L1);
     const auto either = milliseconds ? milliseconds : numberIn(object, "updatedAt"_L1);
-    if (!either)
+    const auto latest = std::chrono::floor<std::chrono::milliseconds>(now.time_since_epoch()).count();
+    if (!either || latest < 0 || *either > static_cast<quint64>(latest)) // in nanoseconds it may be too large
         return std::nullopt;
-    const Instant time{std::chrono::milliseconds(static_cast<qint64>(*either))};
-    return time <= now ? std::optional(time) : std::nullopt;
+    return Instant{std::chrono::milliseconds(static_cast<qint64>(*either))};
 }
 
 } // namespace
