@@ -117,6 +117,7 @@ TEST(ProcessText, ControlGroupsTellWhoKeepsAProcess) {
     using namespace std::string_literals;
     EXPECT_EQ(ControlGroup::mainPid(QByteArray::fromStdString("A=1\0SYSTEMD_EXEC_PID=4711\0B=2\0"s)), 4711);
     EXPECT_EQ(ControlGroup::mainPid("NOT_SYSTEMD_EXEC_PID=4711"), 0);
+    EXPECT_EQ(ControlGroup::mainPid("SYSTEMD_EXEC_PID=-4711"), 0);
 }
 
 TEST(ProcessText, StatLinesAreParsedFromTheLastParenthesis) {

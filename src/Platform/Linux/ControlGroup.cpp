@@ -56,5 +56,6 @@ ProcessKeeper ControlGroup::keeper(const QByteArray& cgroupFile) {
 }
 
 qint32 ControlGroup::mainPid(const QByteArray& environment) {
-    return Environment::variables(environment, {"SYSTEMD_EXEC_PID"}).value("SYSTEMD_EXEC_PID").toInt();
+    return std::max(
+        0, Environment::variables(environment, {"SYSTEMD_EXEC_PID"}).value("SYSTEMD_EXEC_PID").toInt());
 }
