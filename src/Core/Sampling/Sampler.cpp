@@ -132,9 +132,10 @@ QList<ProcSample> Sampler::sampleProcesses() {
                 m_left.insert(pid); // a zombie, whose children have another parent
             continue;
         }
-        if (entry == m_known.end())
+        if (entry == m_known.end()) // its texts are newer than its clock
             entry = m_known.insert(pid, {.prev = {}, .staticCache = lookUp(pid, now), .firstPass = m_pass});
-        entry->mayHaveChanged |= task->cpuTimeNs != entry->prev.totalNs;
+        else
+            entry->mayHaveChanged |= task->cpuTimeNs != entry->prev.totalNs;
         if (isDue(pid, *entry))
             refreshTexts(pid, *entry, now);
         const double percent = cpuPercent(entry->prev, task->cpuTimeNs, uptime);

@@ -54,6 +54,7 @@ SessionMembers::SessionMembers(const Platform& platform)
 
 void SessionMembers::follow(const ProcessTree& tree) {
     ++m_pass;
+    m_userId = m_identity->userId(); // once, as it is compared with each process's
     record(tree);
     findHosts(tree);
     assign(tree);
@@ -107,7 +108,7 @@ std::optional<ProcessInheritance> SessionMembers::inheritance(const ProcessIdent
 }
 
 bool SessionMembers::isOfUser(const ProcSample& process) const {
-    return process.uid == m_identity->userId();
+    return process.uid == m_userId;
 }
 
 bool SessionMembers::isBelowAgent(const ProcessTree& tree, int place) const {

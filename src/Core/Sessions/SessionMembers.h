@@ -123,4 +123,5 @@ private:
     bool m_mayHaveUnread = false;
     bool m_hasNews = false; ///< something was learnt that may tell whose a process is
     quint32 m_pass = 0;
+    quint32 m_userId = 0; ///< of this program, in this pass
 };

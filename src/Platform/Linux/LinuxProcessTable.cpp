@@ -187,7 +187,7 @@ std::optional<TaskInfo> LinuxProcessTable::taskInfo(qint32 pid) {
 
 /// Sets errno to ESRCH when the process of the descriptors is gone.
 std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
-    const auto cpu = cpuTimeNs(process.pid);
+    auto cpu = clockNs(process.pid);
     const bool hasRun = process.threads == 0 || process.cpuTimeNs != cpu;
     if (hasRun || m_isReclaiming || ++process.passesSincePages >= passesPerReading) {
         const auto pages = pagesOf(process);
@@ -196,6 +196,8 @@ std::optional<TaskInfo> LinuxProcessTable::fromKept(Process& process) {
         process.pages = *pages;
         process.passesSincePages = 0;
     }
+    if (!cpu)
+        cpu = ticksNs(process.pid);
     if (!cpu)
         return std::nullopt;
     if (hasRun) { // else it has started and ended no thread
@@ -243,14 +245,20 @@ std::optional<TaskInfo> LinuxProcessTable::fromStat(qint32 pid) const {
         return std::nullopt;
     return TaskInfo{.virtualBytes = stat->virtualBytes,
                     .residentBytes = stat->residentPages * m_pageSize,
-                    .cpuTimeNs = cpuTimeNs(pid).value_or(stat->cpuTicks * m_tickNs),
+                    .cpuTimeNs = clockNs(pid).value_or(stat->cpuTicks * m_tickNs),
                     .threads = stat->threads};
 }
 
-std::optional<quint64> LinuxProcessTable::cpuTimeNs(qint32 pid) const {
+/// Returns the time of the process's clock; nothing where it has none.
+std::optional<quint64> LinuxProcessTable::clockNs(qint32 pid) {
     timespec time;
-    if (clock_gettime(cpuClockOf(pid), &time) == 0)
-        return static_cast<quint64>(time.tv_sec) * 1'000'000'000 + static_cast<quint64>(time.tv_nsec);
+    if (clock_gettime(cpuClockOf(pid), &time) != 0)
+        return std::nullopt;
+    return static_cast<quint64>(time.tv_sec) * 1'000'000'000 + static_cast<quint64>(time.tv_nsec);
+}
+
+/// Returns the same in steps of a tick.
+std::optional<quint64> LinuxProcessTable::ticksNs(qint32 pid) const {
     const auto stat = readStat(pid);
     return stat ? std::optional(stat->cpuTicks * m_tickNs) : std::nullopt;
 }

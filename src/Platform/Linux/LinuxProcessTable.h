@@ -80,7 +80,8 @@ private:
     static std::optional<Pages> pagesOf(const Process& process);
     std::optional<int> threadCount(Process& process);
     std::optional<TaskInfo> fromStat(qint32 pid) const;
-    std::optional<quint64> cpuTimeNs(qint32 pid) const;
+    static std::optional<quint64> clockNs(qint32 pid);
+    std::optional<quint64> ticksNs(qint32 pid) const;
     std::optional<ProcStat> readStat(qint32 pid) const;
     QByteArray executablePath(qint32 pid) const;
     QByteArray wholeFile(qint32 pid, const char* name) const;
