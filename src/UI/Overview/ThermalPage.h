@@ -5,6 +5,7 @@
 #include "UI/Overview/SlowReading.h"
 
 class EmptyState;
+class TextLabel;
 
 /// The temperature of each sensor since the page was opened.
 class ThermalPage : public DetailPage {
@@ -20,6 +21,7 @@ private:
     void showSensors(const std::optional<QList<HeatSensor>>& sensors);
 
     Graph* m_sensors;
-    EmptyState* m_none; ///< why there is no graph
+    EmptyState* m_none;   ///< why there is no graph
+    TextLabel* m_silence; ///< why the graph does not go on
     SlowReading<QList<HeatSensor>> m_reading;
 };
