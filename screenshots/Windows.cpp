@@ -51,6 +51,7 @@ void shootPanels(Camera& camera) {
     camera.take(panel, u"panel"_s);
 
     WidgetView widget(stage.model);
+    widget.setWindowFlags(Qt::ToolTip); // takes no focus, as the widget's own window
     camera.take(widget, u"widget"_s);
     widget.setAttribute(Qt::WA_UnderMouse);
     camera.take(widget, u"widget-hover"_s);
