@@ -1,74 +1,43 @@
 #!/usr/bin/python3
-"""Uses the program at random and judges what it did: adversary.py USES PROGRAM CONTROL_PROGRAM CALLS HOME
+"""Uses the program at random and judges what it did: adversary.py USES MACHINE PROGRAM CONTROL_PROGRAM INSIDE CALLS HOME
 
-CALLS is what strace writes about the program. Standard error gets a line for each use. Before each use the names of all that
-is on show are noted; a signal is lawful when a use in the seconds before could end something and its target was named
-there. The names of the processes tell them apart.
+MACHINE is the first process of the namespaces that the program runs in, INSIDE the library through which it is used, CALLS
+where strace writes about it. Standard error gets a line for each use. Before each use the names of all that is on show are
+noted; a signal is lawful when a use in the seconds before could end something and its target was named there. The names of
+the processes tell them apart.
 """
 
 import collections
+import json
 import random
 import re
+import socket
 import subprocess
 import sys
 import time
 
-import gi
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-USES, PROGRAM, CONTROL, CALLS, HOME = int(sys.argv[1]), *sys.argv[2:]
+USES, MACHINE, PROGRAM, CONTROL, INSIDE, CALLS, HOME = int(sys.argv[1]), *sys.argv[2:]
 # What may take effect so long after a use: SIGTERM, the wait, SIGKILL, what is measured, and the tick before.
 EFFECT_SECONDS = 30
+ANSWER_SECONDS = 30
 ENDS = re.compile(r"(Kill|Quit|Force|End|Free|Clean|Delete|Remove|Purge|Left over|Idle|Chrome|Cursor|VSCode)|^Key |^tavrinctl ")
-TRACED = ["strace", "-f", "--seccomp-bpf", "-qq", "-ttt", "--decode-fds=path,pidfd", "--decode-pids=comm", "-s", "4096",
-          "-e", "trace=kill,tgkill,tkill,pidfd_send_signal,unlink,unlinkat,rmdir,rename,renameat,renameat2"]
+ACTS = re.compile(r"^(Kill|Quit|Force|End|Free|Clean|Delete|Remove|Purge|Rescan|Start|Find|Pause|Resume)")
+TRACED = ["nsenter", "-t", MACHINE, "-p", "-m", "strace", "-f", "--seccomp-bpf", "-qq", "-ttt", "--decode-fds=path,pidfd",
+          "--decode-pids=comm", "-s", "4096", "-e", "trace=kill,tgkill,tkill,pidfd_send_signal,unlink,unlinkat,rmdir,rename,renameat,renameat2"]
+ENDS_OF_ITS_OWN = (0, -15, -9)  # its menu has "Quit", and its list has itself
+OF_THE_PRESET = "night-"  # its button says its pattern, and how many match
 # The rest leaves the program running, and this script able to go on.
 AVOIDED = re.compile(r"Quit Tavrin|Export CSV.*|Add folder.*|Choose.*|Deep Purge.*|Start at login|Copy.*|Reveal.*|Open.*folder.*")
 KEYS = ["Tab", "shift+Tab", "Return", "space", "Escape", "Down", "Up", "Home", "End", "Delete", "shift+Delete", "Menu",
         "ctrl+a", "ctrl+1", "ctrl+2", "ctrl+3", "ctrl+4", "ctrl+5", "F5", "ctrl+i", "F1", "Right", "Left", "ctrl+f"]
 COMMANDS = [["free", "--min-idle", "0", "--min-mb", "50", "--yes"], ["free", "--dry-run", "--min-idle", "0"],
-            ["end-leftovers", "--yes"], ["preset", "Left over", "--yes"], ["clean", "npm", "--yes"],
-            ["clean", "npm", "--dry-run"], ["status"], ["processes"], ["sessions"], ["caches", "--scan"]]
+            ["end-leftovers", "--yes"], ["preset", "Left over", "--yes"], ["clean", "User caches", "--yes"],
+            ["clean", "Go build cache", "--dry-run"], ["status"], ["processes"], ["sessions"], ["caches", "--scan"]]
 # The program's settings, log, socket and temporary files, and what the toolkit keeps.
 OWN = re.compile(re.escape(HOME) + r"/(\.config/|Library/(Logs|Application Support)/Tavrin|\.local/state/|\.cache/(mesa|qt|font))"
                  r"|/(tmp|run|dev/shm)/(?!.*/home/)")
 OWN_TOOLS = ("cleanup", "du", "project_leftov", "project_leftove", "memory_pressur", "memory_pressure", "osascript", "sh", "")
 CACHES = re.compile(re.escape(HOME) + r"/(\.npm|\.cache|\.cargo|\.local/share/Trash)(/|$)")
-
-
-def asked(question, otherwise):
-    try:
-        return question()
-    except GLib.Error:
-        return otherwise
-
-
-def below(thing, depth=0):
-    """Yields an object and what is inside it, also what is scrolled away."""
-    if not thing or depth > 30:
-        return
-    yield thing
-    count = asked(thing.get_child_count, 0)
-    for i in range(min(count, 400)):
-        yield from below(asked(lambda i=i: thing.get_child_at_index(i), None), depth + 1)
-
-
-def windows():
-    desktop = Atspi.get_desktop(0)
-    for i in range(desktop.get_child_count()):
-        program = desktop.get_child_at_index(i)
-        if program and "tavrin" in (asked(program.get_name, "") or "").lower():
-            program.set_cache_mask(Atspi.Cache.NONE)
-            for j in range(asked(program.get_child_count, 0)):
-                yield asked(lambda j=j: program.get_child_at_index(j), None)
-
-
-def usable(thing):
-    states = asked(thing.get_state_set, None)
-    return states and all(states.contains(state) for state in (
-        Atspi.StateType.SHOWING, Atspi.StateType.ENABLED)) and asked(thing.get_n_actions, 0) > 0
 
 
 def numberless(name):
@@ -79,11 +48,30 @@ class Machine:
     def __init__(self):
         self.uses = []  # (time, what, names on show)
         self.counts = collections.Counter()
-        self.traces = [CALLS]
+        self.traces = []
+        self.start()
+
+    def start(self):
+        ours, its = socket.socketpair()
+        self.program = subprocess.Popen([*TRACED, "-E", f"LD_PRELOAD={INSIDE}", "-E", f"USE_FROM_INSIDE={its.fileno()}",
+                                         "-o", self.new_trace(), PROGRAM], pass_fds=[its.fileno()])
+        its.close()
+        ours.settimeout(ANSWER_SECONDS)
+        self.inside = ours.makefile("rw")
+        time.sleep(5)
+
+    def new_trace(self):
+        self.traces.append(f"{CALLS}.{len(self.traces)}")
+        return self.traces[-1]
+
+    def ask(self, request):
+        self.inside.write(request + "\n")
+        self.inside.flush()
 
     def look(self):
-        things = [thing for window in windows() for thing in below(window)]
-        return [(thing, asked(thing.get_name, "") or "") for thing in things]
+        """Returns [name, number of actions, whether it can be used now] of all in the windows, also what is scrolled away."""
+        self.ask("look")
+        return json.loads(self.inside.readline())
 
     def note(self, what, names):
         self.uses.append((time.time(), what, names))
@@ -95,7 +83,7 @@ class Machine:
             self.command(random.choice(COMMANDS))
         elif kind < 0.35:
             key = random.choice(KEYS)
-            self.note(f"Key {key}", {name for _, name in self.look()} if key in (
+            self.note(f"Key {key}", {name for name, *_ in self.look()} if key in (
                 "Return", "space", "Delete", "shift+Delete") else set())
             subprocess.run(["xdotool", "key", key], check=False)
         else:
@@ -103,21 +91,24 @@ class Machine:
 
     def press(self):
         shown = self.look()
-        choices = [(thing, name) for thing, name in shown if name and usable(thing) and not AVOIDED.fullmatch(name)]
+        choices = [(i, name, actions) for i, (name, actions, is_usable) in enumerate(shown)
+                   if name and actions and is_usable and not AVOIDED.fullmatch(name)]
         if not choices:
             subprocess.run(["xdotool", "key", "Escape"], check=False)
             return
-        # As often what is rare as what there are many of.
-        name = random.choice(sorted({numberless(name) for _, name in choices}))
-        thing, name = random.choice([each for each in choices if numberless(each[1]) == name])
-        self.note(f"Press {name}", {name for _, name in shown})
-        self.counts[numberless(name)[:40]] += 1
-        asked(lambda: thing.do_action(random.randrange(max(thing.get_n_actions(), 1))), False)
+        # As often what is rare as what there are many of, and what acts twice as often.
+        kinds = sorted({numberless(name) for _, name, _ in choices})
+        kind = random.choices(kinds, [2 if ACTS.search(kind) else 1 for kind in kinds])[0]
+        index, name, actions = random.choice([each for each in choices if numberless(each[1]) == kind])
+        self.note(f"Press {name}", {name for name, *_ in shown})
+        self.counts[kind[:40]] += 1
+        self.ask(f"press {index} {random.randrange(actions)}")
+        if ENDS.search(name):
+            time.sleep(1)  # so that few uses could be what a signal comes of
 
     def command(self, arguments):
         """What it says afterwards has to name whom it ended."""
-        calls = f"{CALLS}.{len(self.traces)}"
-        self.traces.append(calls)
+        calls = self.new_trace()
         at = time.time()
         said = subprocess.run([*TRACED, "-o", calls, CONTROL, *arguments], capture_output=True, text=True, timeout=300,
                               check=False, stdin=subprocess.DEVNULL)
@@ -129,7 +120,9 @@ class Machine:
         for at, what, names in reversed(self.uses):
             if at < when - EFFECT_SECONDS:
                 return None
-            if at <= when + 0.2 and ENDS.search(what) and any(comm in name for name in names):
+            if at > when + 0.2 or not ENDS.search(what):
+                continue
+            if any(comm in name for name in names) or ("Left over" in what and comm.startswith(OF_THE_PRESET)):
                 return what
         return None
 
@@ -176,22 +169,25 @@ def judge(machine):
 
 
 def main():
-    Atspi.init()
-    random.seed(int(time.time()))
+    seed = int(time.time())
+    print("seed", seed)
+    random.seed(seed)
     machine = Machine()
-    program = subprocess.Popen([*TRACED, "-o", CALLS, PROGRAM])
-    time.sleep(5)
     done = 0
     while done < USES:
-        if program.poll() is not None:
-            print("the program has ended:", program.returncode, file=sys.stderr)
-            return 1
-        machine.use()
+        try:
+            machine.use()
+        except (OSError, ValueError):  # it is gone, or says half of an answer
+            status = machine.program.wait(ANSWER_SECONDS)
+            print("the program has ended:", status, flush=True)
+            if status not in ENDS_OF_ITS_OWN:
+                return 1
+            machine.start()
         done += 1
         if done % 500 == 0:
             print(done, "uses", flush=True)
     time.sleep(EFFECT_SECONDS)
-    program.kill()  # the tracer, and the program with it
+    machine.program.kill()  # the tracer, and the program with it
     unlawful, counts = judge(machine)
     for what, count in sorted(counts.items()):
         print(f"{what}: {count}")
