@@ -3,38 +3,31 @@
 #include "Cli/Output.h"
 #include "Core/ActionLog/ActionLogEntry.h"
 #include "Core/Iso8601.h"
+#include "Core/NearestInstant.h"
 #include "Platform/Clock.h"
 
 #include <QCommandLineParser>
 #include <QDate>
 #include <QFileInfo>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Returns the nearest time that an Instant can be: it counts nanoseconds.
-Instant nearest(std::chrono::sys_seconds time) {
-    using std::chrono::seconds;
-    return std::clamp(time, std::chrono::ceil<seconds>(Instant::min()),
-                      std::chrono::floor<seconds>(Instant::max()));
-}
 
 /// Reads "90m", "2h", "3d" before now, a day "2026-11-26" of the local time, or a whole time.
 std::optional<Instant> sinceOf(const QString& text, Instant now) {
     if (const auto instant = Iso8601::parse(text.toLatin1()))
         return instant;
     if (const QDate day = QDate::fromString(text, Qt::ISODate); day.isValid())
-        return nearest(std::chrono::sys_seconds(std::chrono::seconds(day.startOfDay().toSecsSinceEpoch())));
+        return nearestInstant(
+            std::chrono::sys_seconds(std::chrono::seconds(day.startOfDay().toSecsSinceEpoch())));
     constexpr std::pair<char16_t, int> units[] = {{u'm', 60}, {u'h', 3600}, {u'd', 86400}};
     for (const auto& [unit, seconds] : units) {
         bool isNumber = false;
         const uint count = text.chopped(text.isEmpty() ? 0 : 1).toUInt(&isNumber);
         if (isNumber && text.endsWith(QChar(unit)) && count <= 1'000'000)
-            return nearest(std::chrono::floor<std::chrono::seconds>(now) -
-                           std::chrono::seconds(qint64(count) * seconds));
+            return nearestInstant(std::chrono::floor<std::chrono::seconds>(now) -
+                                  std::chrono::seconds(qint64(count) * seconds));
     }
     return std::nullopt;
 }

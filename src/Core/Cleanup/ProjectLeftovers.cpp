@@ -4,6 +4,7 @@
 #include "Core/Cleanup/CleanupPlan.h"
 #include "Core/Cleanup/PlaceFinder.h"
 #include "Core/Formatters.h"
+#include "Core/NearestInstant.h"
 #include "Core/OnThread.h"
 #include "Platform/Clock.h"
 #include "Platform/ToolRunner.h"
@@ -64,7 +65,7 @@ std::optional<LeftoverProject> projectOf(QByteArrayView record) {
         return std::nullopt;
     LeftoverProject project{.path = record.sliced(space + 1).toByteArray()};
     if (seconds > 0)
-        project.lastUse = Instant(std::chrono::seconds(seconds));
+        project.lastUse = nearestInstant(std::chrono::sys_seconds(std::chrono::seconds(seconds)));
     return project;
 }
 

@@ -139,8 +139,8 @@ QString CleanupPreviewModel::text(const QModelIndex& index) const {
     }
     if (found.kind != Kind::entry)
         return {};
-    const Instant modified = Instant(std::chrono::seconds(m_choice.entryOf(nodeOf(index)).modified));
-    return Formatters::ago(std::chrono::duration<double>(m_now - modified).count());
+    const auto modified = static_cast<double>(m_choice.entryOf(nodeOf(index)).modified);
+    return Formatters::ago(secondsOf(m_now) - modified);
 }
 
 /// Returns the row in words.
