@@ -113,7 +113,8 @@ QList<LeftoverProject> LeftoverProject::parse(const QByteArray& report) {
         auto record = takeText(part);
         for (; record && record->startsWith(userStart); record = takeText(part))
             project->users.append(QString::fromUtf8(record->mid(userStart.size())));
-        if (!record || !record->startsWith(folderStart))
+        if (!record || !record->startsWith(folderStart) ||
+            !record->sliced(folderStart.size()).startsWith('/'))
             continue;
         project->listedFolder = QFile::decodeName(record->mid(folderStart.size()));
         takeListing(*project, part);
