@@ -9,7 +9,7 @@ control=$(realpath "$2")
 cd "$(dirname "$0")/../.."
 . scripts/lib/display.sh
 
-all='nothing pressure control_groups_none control_groups_v2 hidden_processes seccomp sys proc_twice home_read_only home_full
+all='nothing pressure control_groups_none control_groups_v2 rollup_none hidden_processes seccomp sys proc_twice home_read_only home_full
     home_frozen many_processes locale_c locale_unknown fonts_none font_large screen_small screen_large screens_two bus_refuses'
 size=1280x800 user=0
 started_by=()
@@ -20,6 +20,19 @@ nothing() { :; }
 pressure() { mount -t tmpfs tmpfs /proc/pressure; }
 control_groups_none() { mount -t tmpfs tmpfs /sys/fs/cgroup; }
 control_groups_v2() { mount -t cgroup2 cgroup2 /sys/fs/cgroup; }
+rollup_none() {
+    echo '#define _GNU_SOURCE
+        #include <dlfcn.h>
+        #include <errno.h>
+        #include <string.h>
+        #define REFUSING(name) int name(int folder, const char* path, int flags, int mode) { \
+            if (strstr(path, "/smaps_rollup")) { errno = ENOENT; return -1; } \
+            return ((int (*)(int, const char*, int, int))dlsym(RTLD_NEXT, #name))(folder, path, flags, mode); }
+        REFUSING(openat)
+        REFUSING(openat64)' >/tmp/refusing.c
+    gcc -shared -fPIC -o /tmp/refusing.so /tmp/refusing.c
+    started_by=(env LD_PRELOAD=/tmp/refusing.so)
+}
 hidden_processes() { mount -o remount,hidepid=2 /proc; user=1000; }
 seccomp() {
     started_by=(strace -f -o /dev/null -e trace=pidfd_open,pidfd_send_signal,process_vm_readv
