@@ -23,7 +23,8 @@ ANSWER_SECONDS = 30
 ENDS = re.compile(r"(Kill|Quit|Force|End|Free|Clean|Delete|Remove|Purge|Left over|Idle|Chrome|Cursor|VSCode)|^Key |^tavrinctl ")
 ACTS = re.compile(r"^(Kill|Quit|Force|End|Free|Clean|Delete|Remove|Purge|Rescan|Start|Find|Pause|Resume)")
 TRACED = ["nsenter", "-t", MACHINE, "-p", "-m", "strace", "-f", "--seccomp-bpf", "-qq", "-ttt", "--decode-fds=path,pidfd",
-          "--decode-pids=comm", "-s", "4096", "-e", "trace=kill,tgkill,tkill,pidfd_send_signal,unlink,unlinkat,rmdir,rename,renameat,renameat2"]
+          "--decode-pids=comm", "-s", "4096",
+          "-e", "trace=kill,tgkill,tkill,pidfd_send_signal,unlink,unlinkat,rmdir,rename,renameat,renameat2"]
 ENDS_OF_ITS_OWN = (0, -15, -9)  # its menu has "Quit", and its list has itself
 OF_THE_PRESET = "night-"  # its button says its pattern, and how many match
 # The rest leaves the program running, and this script able to go on.
