@@ -9,9 +9,11 @@
 #include "UI/Kit/Slider.h"
 #include "UI/Kit/TableView.h"
 #include "UI/ModelFixture.h"
+#include "UI/Style/Painting.h"
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -55,6 +57,45 @@ TEST(ConfirmDialogTest, ALongListIsScrolledByKeyboard) {
     EXPECT_GT(list->verticalScrollBar()->value(), 0);
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_FALSE(dialog->isVisible());
+}
+
+namespace {
+
+QImage drawnCard(double scale, const QRectF& area, const QTransform& transform) {
+    QImage result((QSizeF(120, 300) * scale).toSize(), QImage::Format_RGB32);
+    result.setDevicePixelRatio(scale);
+    result.fill(Qt::darkCyan);
+    QPainter painter(&result);
+    painter.setTransform(transform);
+    Painting::drawCard(painter, area, 12, Qt::white, QColor(0, 0, 0, 80));
+    return result;
+}
+
+int greatestDifference(const QImage& one, const QImage& other) {
+    int result = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            result = std::max({result, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                               std::abs(qBlue(a) - qBlue(b))});
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(PaintingTest, ACardLooksTheSameHoweverItIsDrawn) {
+    const QTransform mirrored = QTransform::fromScale(-1, 1).translate(-120, 0);
+    for (const double scale : {1.0, 1.25, 4.0 / 3, 1.5, 2.0}) {
+        for (const QRectF area : {QRectF(12, 8, 96, 280), QRectF(12, 8, 36, 36), QRectF(12, 8, 35, 60),
+                                  QRectF(12.25, 8.5, 90.5, 270)}) {
+            const QImage card = drawnCard(scale, area, {});
+            const QRectF reflected(120 - area.right(), area.top(), area.width(), area.height());
+            EXPECT_LE(greatestDifference(card, drawnCard(scale, reflected, mirrored)), 2) << scale;
+        }
+    }
 }
 
 TEST(PushButtonTest, AnEscapedAmpersandIsReadOnce) {

@@ -4,10 +4,12 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QStyleOption>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Painting {
@@ -62,6 +64,81 @@ void reflect(QPainter& painter, const QRectF& area) {
     painter.scale(-1, 1);
 }
 
+/// The fill and the border of a card.
+struct CardColors {
+    QColor fill;
+    QColor border;
+};
+
+void drawRounded(QPainter& painter, const QRectF& area, double radius, const CardColors& colors) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colors.border, 1));
+    painter.setBrush(colors.fill);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+    painter.restore();
+}
+
+constexpr double cornerSide = 16; ///< of a card's picture; whole pixels at a scale in quarters
+constexpr double middleSide = 4;  ///< of what is stretched between two corners
+
+/// Returns a card with the shortest sides, for screens of this scale.
+QPixmap cardPicture(double radius, const CardColors& colors, double scale) {
+    const QString key = QStringLiteral("card %1 %2 %3 %4")
+                            .arg(radius)
+                            .arg(colors.fill.rgba())
+                            .arg(colors.border.rgba())
+                            .arg(scale);
+    QPixmap result;
+    if (QPixmapCache::find(key, &result))
+        return result;
+    const QSizeF size(2 * cornerSide + middleSide, 2 * cornerSide + middleSide);
+    result = QPixmap((size * scale).toSize());
+    result.setDevicePixelRatio(scale);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    drawRounded(painter, QRectF({}, size), radius, colors);
+    QPixmapCache::insert(key, result);
+    return result;
+}
+
+/// Returns whether a card can be drawn from a picture, with each pixel as its path would have it.
+bool isPictured(const QPainter& painter, const QRectF& area, double radius, const CardColors& colors) {
+    constexpr double shortest = 2 * cornerSide + middleSide;
+    if (colors.fill.alpha() < 255 || radius > cornerSide || area.width() < shortest ||
+        area.height() < shortest || painter.worldTransform().type() > QTransform::TxTranslate)
+        return false;
+    const double scale = painter.device()->devicePixelRatioF();
+    const QRectF placed = painter.worldTransform().mapRect(area);
+    const double sides[] = {placed.left(), placed.top(), placed.right(), placed.bottom(), middleSide};
+    return std::ranges::all_of(sides,
+                               [scale](double side) { return side * scale == std::round(side * scale); });
+}
+
+/// Draws the corners as they are, and stretches what is between them. The toolkit fills a long path on
+/// several threads, whose waking costs more than all the rest.
+void drawPicture(QPainter& painter, const QRectF& area, double radius, const CardColors& colors) {
+    const double scale = painter.device()->devicePixelRatioF();
+    const QPixmap picture = cardPicture(radius, colors, scale);
+    const auto parts = [](double begin, double length) {
+        return std::array{begin, begin + cornerSide, begin + length - cornerSide, begin + length};
+    };
+    const auto x = parts(area.left(), area.width());
+    const auto y = parts(area.top(), area.height());
+    const auto from = parts(0, 2 * cornerSide + middleSide);
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            const QRectF part({x[column], y[row]}, QPointF(x[column + 1], y[row + 1]));
+            const QRectF source(QPointF(from[column], from[row]) * scale,
+                                QPointF(from[column + 1], from[row + 1]) * scale);
+            if (row == 1 && column == 1)
+                painter.fillRect(part, colors.fill);
+            else
+                painter.drawPixmap(part, picture, source);
+        }
+    }
+}
+
 } // namespace
 
 void mirror(QPainter& painter, const QRectF& area, Qt::LayoutDirection direction) {
@@ -103,12 +180,11 @@ Upright::~Upright() {
 
 void drawCard(QPainter& painter, const QRectF& area, double radius, const QColor& fill,
               const QColor& border) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(border, 1));
-    painter.setBrush(fill);
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
-    painter.restore();
+    const CardColors colors{.fill = fill, .border = border};
+    if (isPictured(painter, area, radius, colors))
+        drawPicture(painter, area, radius, colors);
+    else
+        drawRounded(painter, area, radius, colors);
 }
 
 void drawCard(QPainter& painter, const QRectF& area, double radius) {
