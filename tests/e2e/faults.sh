@@ -49,13 +49,14 @@ home_frozen() {
     (sleep 6; fsfreeze -f "$HOME"; sleep 8; fsfreeze -u "$HOME") &
 }
 many_processes() {
-    python3 -c '
-import os, signal, time
-for _ in range(32000):
-    if os.fork() == 0:
-        signal.pause()
-open("/tmp/forked", "w").close()
-time.sleep(60)' &
+    echo '#include <unistd.h>
+        int main(void) {
+            for (int i = 0; i < 32100; ++i)
+                if (fork() == 0)
+                    return pause();
+            return symlink("/", "/tmp/forked") || pause(); }' >/tmp/many.c
+    gcc -static -o /tmp/many /tmp/many.c # a small one is forked sooner
+    /tmp/many &
     while [ ! -e /tmp/forked ]; do sleep 0.5; done
 }
 locale_c() { export LC_ALL=C; }
@@ -103,7 +104,7 @@ run() {
     pid=$!
     sleep "${SETTLING:-16}"
     shown=$(as_user timeout 20 "$control" status --no-cpu 2>&1 | tr -s ' ' | grep -E '^Processes|^tavrinctl' || echo "no answer")
-    [ -z "${PICTURES:-}" ] || import -window root "png:/proc/$$/fd/9" 2>/dev/null || true
+    [ -z "${PICTURES:-}" ] || import -window root png:- >&9 || true
     count=$(find /proc -maxdepth 1 -name '[0-9]*' | wc -l)
     pgrep -x tavrin >/dev/null && echo "$fault: goes on; $shown ($count in /proc)" || echo "$fault: HAS ENDED"
     pkill -TERM -x tavrin || true # in this namespace of processes
