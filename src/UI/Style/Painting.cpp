@@ -81,8 +81,9 @@ void drawRounded(QPainter& painter, const QRectF& area, double radius, const Car
 
 constexpr double cornerSide = 16; ///< of a card's picture; whole pixels at a scale in quarters
 constexpr double middleSide = 4;  ///< of what is stretched between two corners
+constexpr double pictureSide = 2 * cornerSide + middleSide;
 
-/// Returns a card with the shortest sides, for screens of this scale.
+/// Returns a card of `pictureSide`, for screens of this scale.
 QPixmap cardPicture(double radius, const CardColors& colors, double scale) {
     const QString key = QStringLiteral("card %1 %2 %3 %4")
                             .arg(radius)
@@ -92,7 +93,7 @@ QPixmap cardPicture(double radius, const CardColors& colors, double scale) {
     QPixmap result;
     if (QPixmapCache::find(key, &result))
         return result;
-    const QSizeF size(2 * cornerSide + middleSide, 2 * cornerSide + middleSide);
+    const QSizeF size(pictureSide, pictureSide);
     result = QPixmap((size * scale).toSize());
     result.setDevicePixelRatio(scale);
     result.fill(Qt::transparent);
@@ -102,11 +103,11 @@ QPixmap cardPicture(double radius, const CardColors& colors, double scale) {
     return result;
 }
 
-/// Returns whether a card can be drawn from a picture, with each pixel as its path would have it.
+/// Returns whether a card can be drawn from its picture: it is large enough, and its edges are on whole
+/// pixels.
 bool isPictured(const QPainter& painter, const QRectF& area, double radius, const CardColors& colors) {
-    constexpr double shortest = 2 * cornerSide + middleSide;
-    if (colors.fill.alpha() < 255 || radius > cornerSide || area.width() < shortest ||
-        area.height() < shortest || painter.worldTransform().type() > QTransform::TxTranslate)
+    if (colors.fill.alpha() < 255 || radius > cornerSide || area.width() < pictureSide ||
+        area.height() < pictureSide || painter.worldTransform().type() > QTransform::TxTranslate)
         return false;
     const double scale = painter.device()->devicePixelRatioF();
     const QRectF placed = painter.worldTransform().mapRect(area);
@@ -125,7 +126,7 @@ void drawPicture(QPainter& painter, const QRectF& area, double radius, const Car
     };
     const auto x = parts(area.left(), area.width());
     const auto y = parts(area.top(), area.height());
-    const auto from = parts(0, 2 * cornerSide + middleSide);
+    const auto from = parts(0, pictureSide);
     for (std::size_t row = 0; row < 3; ++row) {
         for (std::size_t column = 0; column < 3; ++column) {
             const QRectF part({x[column], y[row]}, QPointF(x[column + 1], y[row + 1]));
